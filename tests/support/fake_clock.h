@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "runtime/clock.h"
+
+namespace orvalis::test {
+
+/// A clock that stands still until it is told to move.
+class FakeClock final : public Clock {
+public:
+    explicit FakeClock(const QDateTime& start = QDateTime(QDate(2026, 3, 14), QTime(10, 24, 36)))
+        : m_now(start) {}
+
+    QDateTime now() const override { return m_now; }
+    void set(const QDateTime& moment) { m_now = moment; }
+    void advanceMilliseconds(qint64 milliseconds) { m_now = m_now.addMSecs(milliseconds); }
+    void advanceSeconds(qint64 seconds) { m_now = m_now.addSecs(seconds); }
+
+private:
+    QDateTime m_now;
+};
+
+} // namespace orvalis::test

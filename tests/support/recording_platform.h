@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/logon_entry.h"
+#include "platform/screen.h"
+#include "platform/shell.h"
+#include "platform/sound_player.h"
+#include "runtime/failure.h"
+
+#include <QMap>
+#include <QStringList>
+
+#include <functional>
+
+namespace orvalis::test {
+
+/// Opens and starts nothing, and keeps what it was asked for.
+class RecordingShell final : public Shell {
+public:
+    QStringList opened;
+    QStringList started;
+    bool opens = true;
+    QStringList programs; // those that start() finds
+
+    bool open(const QString& documentOrAddress) override {
+        opened << documentOrAddress;
+        return opens;
+    }
+    void start(const QString& program) override {
+        started << program;
+        if (program.isEmpty())
+            throw RuntimeError(ErrorNumber::InvalidProcedureCall);
+        if (!programs.contains(program))
+            throw RuntimeError(ErrorNumber::FileNotFound);
+    }
+};
+
+/// Plays nothing, and keeps what it was asked for. \c whilePlaying runs in the place of the sound.
+class RecordingSoundPlayer final : public SoundPlayer {
+public:
+    QStringList played;
+    std::function<void()> whilePlaying;
+
+    void playAndWait(const QString& path) override {
+        played << path;
+        if (whilePlaying)
+            whilePlaying();
+    }
+};
+
+/// The logon entries by name; a desktop that refuses them leaves them as they are.
+class RecordingLogonEntry final : public LogonEntry {
+public:
+    QMap<QString, QString> entries;
+    bool permitted = true;
+
+    void set(const QString& name, const QString& programPath) override {
+        if (permitted)
+            entries[name] = programPath;
+    }
+    void remove(const QString& name) override {
+        if (permitted)
+            entries.remove(name);
+    }
+};
+
+/// A screen of any size.
+class FakeScreen final : public Screen {
+public:
+    explicit FakeScreen(QSize size = QSize(1024, 768))
+        : screenSize(size) {}
+
+    QSize screenSize;
+    QMargins panels;
+
+    QSize size() const override { return screenSize; }
+    QRect workArea() const override {
+        return QRect(QPoint(0, 0), screenSize).marginsRemoved(panels);
+    }
+};
+
+} // namespace orvalis::test

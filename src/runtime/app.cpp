@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "runtime/app.h"
+
+#include "runtime/files.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace orvalis {
+
+namespace {
+
+constexpr std::array dataFiles{u"Vazno.rtf",    u"weekly.rtf",      u"tmp1.brf", u"tmp2.brf",
+                               u"address1.dat", u"address1tmp.dat", u"Msg.txt"};
+
+bool holdsData(const QDir& folder) {
+    return std::any_of(dataFiles.begin(), dataFiles.end(), [&folder](const char16_t* name) {
+        return folder.exists(QString::fromUtf16(name));
+    });
+}
+
+QString dataFolder(const QString& executableFolder, const QString& userDataFolder) {
+    if (QFileInfo(executableFolder).isWritable() || holdsData(QDir(executableFolder)))
+        return executableFolder;
+    QDir().mkpath(userDataFolder); // where that fails, the first save tells so
+    return userDataFolder;
+}
+
+} // namespace
+
+App::App(const QString& executablePath, const QString& userDataFolder,
+         const QStringList& shareFolders)
+    : m_executablePath(QDir::toNativeSeparators(executablePath)) {
+    const QString executableFolder = QFileInfo(executablePath).absolutePath();
+    m_path = QDir::toNativeSeparators(dataFolder(executableFolder, userDataFolder));
+    m_companionFolders = QStringList(executableFolder) + shareFolders;
+}
+
+App App::ofThisProcess() {
+    const QString executablePath = QCoreApplication::applicationFilePath();
+    const QString ownShare =
+        QDir::cleanPath(QFileInfo(executablePath).absolutePath() + u"/../share/orvalis"_s);
+    const QString userDataFolder =
+        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/orvalis"_s;
+    QStringList shareFolders{ownShare};
+    for (const QString& folder :
+         QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation))
+        shareFolders << folder + u"/orvalis"_s;
+    return App(executablePath, userDataFolder, shareFolders);
+}
+
+int App::Major() const {
+    return ORVALIS_VERSION_MAJOR;
+}
+
+int App::Minor() const {
+    return ORVALIS_VERSION_MINOR;
+}
+
+int App::Revision() const {
+    return ORVALIS_VERSION_REVISION;
+}
+
+QString App::file(const QString& name) const {
+    return joinPath(m_path, name);
+}
+
+QString App::companion(const QString& name) const {
+    for (const QString& folder : m_companionFolders) {
+        const QString path = QDir::toNativeSeparators(joinPath(folder, name));
+        if (QFileInfo(path).isFile())
+            return path;
+    }
+    return file(name);
+}
+
+} // namespace orvalis

@@ -1,0 +1,177 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "runtime/files.h"
+
+#include "runtime/failure.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace orvalis {
+
+namespace {
+
+#ifdef Q_OS_WIN
+constexpr Qt::CaseSensitivity fileNameCase = Qt::CaseInsensitive;
+#else
+constexpr Qt::CaseSensitivity fileNameCase = Qt::CaseSensitive;
+#endif
+
+constexpr int mostKeptAside = 99;
+
+bool isWildcard(QChar c) {
+    return c == u'*' || c == u'?';
+}
+
+bool hasWildcard(QStringView name) {
+    return std::any_of(name.begin(), name.end(), isWildcard);
+}
+
+/// Walks both texts once and falls back to the last "*" on a mismatch, so that no pattern takes
+/// more than the product of the lengths.
+bool matches(QStringView name, QStringView pattern) {
+    qsizetype n = 0;
+    qsizetype p = 0;
+    qsizetype star = -1;
+    qsizetype resumed = 0;
+    while (n < name.size()) {
+        if (p < pattern.size() && pattern[p] == u'*') {
+            star = p++;
+            resumed = n;
+        } else if (p < pattern.size() &&
+                   (pattern[p] == u'?' ||
+                    name.sliced(n, 1).compare(pattern.sliced(p, 1), fileNameCase) == 0)) {
+            ++n;
+            ++p;
+        } else if (star >= 0) {
+            p = star + 1;
+            n = ++resumed;
+        } else {
+            return false;
+        }
+    }
+    while (p < pattern.size() && pattern[p] == u'*')
+        ++p;
+    return p == pattern.size();
+}
+
+bool sameBytes(const QString& a, const QString& b) {
+    QFile first(a);
+    QFile second(b);
+    if (!first.open(QIODevice::ReadOnly) || !second.open(QIODevice::ReadOnly) ||
+        first.size() != second.size())
+        return false;
+    constexpr qint64 chunk = 65536;
+    while (!first.atEnd()) {
+        const QByteArray bytes = first.read(chunk);
+        if (bytes.isEmpty() || bytes != second.read(chunk))
+            return false;
+    }
+    return true;
+}
+
+[[noreturn]] void fail(ErrorNumber number) {
+    throw RuntimeError(number);
+}
+
+/// The failure of a file that could not be opened: refused, or anything else.
+ErrorNumber refusal(bool permitted) {
+    return permitted ? ErrorNumber::PathFileAccessError : ErrorNumber::PermissionDenied;
+}
+
+} // namespace
+
+QString joinPath(const QString& folder, const QString& name) {
+    qsizetype start = 0;
+    while (start < name.size() && (name[start] == u'/' || name[start] == u'\\'))
+        ++start;
+    QString joined = folder;
+    if (!joined.endsWith(u'/') && !joined.endsWith(QDir::separator()))
+        joined += QDir::separator();
+    return joined + name.mid(start);
+}
+
+QString Dir(const QString& path) {
+    const QFileInfo info(path);
+    const QString pattern = info.fileName();
+    if (!hasWildcard(pattern))
+        return info.isFile() ? pattern : QString();
+    const QString wanted = pattern == u"*.*"_s ? u"*"_s : pattern;
+    QString first;
+    QDirIterator entries(info.path(), QDir::Files);
+    while (entries.hasNext()) {
+        entries.next();
+        const QString name = entries.fileName();
+        if (matches(name, wanted) && (first.isEmpty() || name < first))
+            first = name;
+    }
+    return first;
+}
+
+bool FileExists(const QString& path) {
+    return !Dir(path).isEmpty();
+}
+
+void saveWhole(const QString& path, QByteArrayView bytes) {
+    const QFileInfo target(path);
+    if (target.fileName().isEmpty() || (target.exists() && !target.isFile()))
+        fail(ErrorNumber::PathFileAccessError);
+    const QFileInfo folder(target.path());
+    if (!folder.isDir())
+        fail(ErrorNumber::PathNotFound);
+    const bool permitted = target.exists() ? target.isWritable() : folder.isWritable();
+
+    QSaveFile file(path);
+    file.setDirectWriteFallback(true);
+    if (!file.open(QIODevice::WriteOnly))
+        fail(refusal(permitted));
+    // The buffer goes to the disk by a step of its own, since commit() takes no notice when a full
+    // disk refuses a small file's only write.
+    if (file.write(bytes.data(), bytes.size()) != bytes.size() || !file.flush() || !file.commit())
+        fail(ErrorNumber::PathFileAccessError);
+}
+
+QByteArray readWhole(const QString& path, qint64 maximum) {
+    const QFileInfo source(path);
+    if (path.isEmpty())
+        fail(ErrorNumber::FileNotFound);
+    if (!source.exists()) {
+        const QFileInfo folder(source.path());
+        if (!folder.isDir())
+            fail(ErrorNumber::PathNotFound);
+        fail(folder.isExecutable() ? ErrorNumber::FileNotFound : ErrorNumber::PermissionDenied);
+    }
+    if (!source.isFile() || source.size() > maximum)
+        fail(ErrorNumber::PathFileAccessError);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        fail(refusal(source.isReadable()));
+    const QByteArray bytes = file.read(maximum + 1); // one more than may be, should it have grown
+    if (file.error() != QFileDevice::NoError || bytes.size() > maximum)
+        fail(ErrorNumber::PathFileAccessError);
+    return bytes;
+}
+
+bool keepUnreadable(const QString& path) {
+    if (!QFileInfo(path).isFile())
+        return !QFileInfo::exists(path);
+    for (int count = 1; count <= mostKeptAside; ++count) {
+        const QString aside =
+            path + u".unreadable"_s + (count == 1 ? QString() : QString::number(count));
+        if (sameBytes(path, aside))
+            return true;
+        // Bytes that may not even be read can still be moved aside as they are.
+        if (!QFileInfo::exists(aside))
+            return QFile::copy(path, aside) || QFile::rename(path, aside);
+    }
+    return false;
+}
+
+} // namespace orvalis

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "runtime/text_file.h"
+
+#include <algorithm>
+
+namespace orvalis {
+
+namespace {
+
+constexpr QByteArrayView utf8Mark("\xEF\xBB\xBF");
+
+bool takenForUtf8(QByteArrayView bytes) {
+    return bytes.startsWith(utf8Mark) || QUtf8StringView(bytes).isValidUtf8();
+}
+
+bool isAscii(QByteArrayView bytes) {
+    return std::all_of(bytes.begin(), bytes.end(),
+                       [](char byte) { return static_cast<quint8>(byte) < 128; });
+}
+
+} // namespace
+
+QByteArray encodeText(QStringView text, const AnsiPage& page) {
+    if (page.holds(text)) {
+        const QByteArray bytes = page.encode(text);
+        if (isAscii(bytes) || !takenForUtf8(bytes))
+            return bytes;
+    }
+    return utf8Mark.toByteArray() + text.toUtf8();
+}
+
+QString decodeText(QByteArrayView bytes, const AnsiPage& page) {
+    if (bytes.startsWith(utf8Mark))
+        return QString::fromUtf8(bytes.sliced(utf8Mark.size()));
+    return takenForUtf8(bytes) ? QString::fromUtf8(bytes) : page.decode(bytes);
+}
+
+} // namespace orvalis

@@ -1,0 +1,307 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/control_words.h"
+
+#include "rtf/formats.h"
+#include "rtf/picture.h"
+
+#include <array>
+#include <string_view>
+
+namespace orvalis::rtf {
+
+namespace {
+
+template <class Value>
+constexpr int as(Value value) {
+    return static_cast<int>(value);
+}
+
+constexpr ControlWord words[] = {
+    {"rtf", Action::Version, 0},
+    {"urtf", Action::Utf8Version, 0},
+    {"ansi", Action::FixedCodePage, 1252},
+    {"mac", Action::FixedCodePage, 10000},
+    {"pc", Action::FixedCodePage, 437},
+    {"pca", Action::FixedCodePage, 850},
+    {"ansicpg", Action::AnsiCodePage, 0},
+    {"deff", Action::DefaultFont, 0},
+    {"deftab", Action::DefaultTab, 0},
+
+    {"tab", Action::Character, u'\t'},
+    {"line", Action::Character, 0x2028},
+    {"lbr", Action::Character, 0x2028},
+    {"column", Action::Character, 0x2028},
+    {"emdash", Action::Character, 0x2014},
+    {"endash", Action::Character, 0x2013},
+    {"emspace", Action::Character, u' '},
+    {"enspace", Action::Character, u' '},
+    {"qmspace", Action::Character, u' '},
+    {"bullet", Action::Character, 0x2022},
+    {"lquote", Action::Character, 0x2018},
+    {"rquote", Action::Character, 0x2019},
+    {"ldblquote", Action::Character, 0x201c},
+    {"rdblquote", Action::Character, 0x201d},
+    {"ltrmark", Action::Character, 0x200e},
+    {"rtlmark", Action::Character, 0x200f},
+    {"zwj", Action::Character, 0x200d},
+    {"zwnj", Action::Character, 0x200c},
+    {"zwbo", Action::Character, 0x200b},
+    {"zwnbo", Action::Character, 0x2060},
+    {"u", Action::Unicode, 0},
+    {"uc", Action::UnicodeSkip, 0},
+    {"par", Action::ParagraphEnd, 0},
+    {"sect", Action::SectionEnd, 0},
+    {"page", Action::PageEnd, 0},
+    {"cell", Action::CellEnd, 0},
+    {"nestcell", Action::CellEnd, 0},
+    {"row", Action::RowEnd, 0},
+    {"nestrow", Action::RowEnd, 0},
+    {"bin", Action::Binary, 0},
+
+    {"plain", Action::PlainCharacters, 0},
+    {"f", Action::Font, 0},
+    {"fs", Action::FontSize, 0},
+    {"cf", Action::Color, 0},
+    {"highlight", Action::Highlight, 0},
+    {"cb", Action::Highlight, 0},
+    {"chcbpat", Action::Highlight, 0},
+    {"b", Action::Bold, 0},
+    {"i", Action::Italic, 0},
+    {"strike", Action::Strike, 0},
+    {"striked", Action::Strike, 0},
+    {"orvmarks", Action::ControlMarks, 0},
+    {"v", Action::Hidden, 0},
+    {"deleted", Action::Deleted, 0},
+    {"ul", Action::UnderlineKind, as(Underline::Single)},
+    {"ulw", Action::UnderlineKind, as(Underline::Words)},
+    {"uldb", Action::UnderlineKind, as(Underline::Double)},
+    {"uld", Action::UnderlineKind, as(Underline::Dotted)},
+    {"ulthd", Action::UnderlineKind, as(Underline::Dotted)},
+    {"uldash", Action::UnderlineKind, as(Underline::Dash)},
+    {"ulldash", Action::UnderlineKind, as(Underline::Dash)},
+    {"ulthdash", Action::UnderlineKind, as(Underline::Dash)},
+    {"ulthldash", Action::UnderlineKind, as(Underline::Dash)},
+    {"uldashd", Action::UnderlineKind, as(Underline::DashDot)},
+    {"uldashdd", Action::UnderlineKind, as(Underline::DashDot)},
+    {"ulthdashd", Action::UnderlineKind, as(Underline::DashDot)},
+    {"ulthdashdd", Action::UnderlineKind, as(Underline::DashDot)},
+    {"ulwave", Action::UnderlineKind, as(Underline::Wave)},
+    {"ulhwave", Action::UnderlineKind, as(Underline::Wave)},
+    {"ululdbwave", Action::UnderlineKind, as(Underline::Wave)},
+    {"ulth", Action::UnderlineKind, as(Underline::Thick)},
+    {"ulnone", Action::NoUnderline, 0},
+    {"super", Action::ScriptKind, as(Script::Super)},
+    {"sub", Action::ScriptKind, as(Script::Sub)},
+    {"nosupersub", Action::ScriptKind, as(Script::Normal)},
+    {"up", Action::Raise, 1},
+    {"dn", Action::Raise, -1},
+    {"caps", Action::CapitalsKind, as(Capitals::All)},
+    {"scaps", Action::CapitalsKind, as(Capitals::Small)},
+
+    {"pard", Action::PlainParagraph, 0},
+    {"ql", Action::Align, as(Alignment::Left)},
+    {"qr", Action::Align, as(Alignment::Right)},
+    {"qc", Action::Align, as(Alignment::Center)},
+    {"qj", Action::Align, as(Alignment::Justify)},
+    {"qd", Action::Align, as(Alignment::Justify)},
+    {"li", Action::LeftIndent, 0},
+    {"fi", Action::FirstIndent, 0},
+    {"ri", Action::RightIndent, 0},
+    {"sb", Action::SpaceBefore, 0},
+    {"sa", Action::SpaceAfter, 0},
+    {"sl", Action::LineSpacing, 0},
+    {"slmult", Action::LineMultiple, 0},
+    {"tqr", Action::TabKind, QTextOption::RightTab},
+    {"tqc", Action::TabKind, QTextOption::CenterTab},
+    {"tqdec", Action::TabKind, QTextOption::DelimiterTab},
+    {"tx", Action::TabPosition, 0},
+    {"ltrpar", Action::Direction, 0},
+    {"rtlpar", Action::Direction, 1},
+    {"pagebb", Action::PageBreakBefore, 0},
+    {"ls", Action::ListOverride, 0},
+    {"ilvl", Action::ListLevel, 0},
+
+    {"stylesheet", Action::SkipGroup, 0},
+    {"info", Action::SkipGroup, 0},
+    {"header", Action::SkipGroup, 0},
+    {"headerl", Action::SkipGroup, 0},
+    {"headerr", Action::SkipGroup, 0},
+    {"headerf", Action::SkipGroup, 0},
+    {"footer", Action::SkipGroup, 0},
+    {"footerl", Action::SkipGroup, 0},
+    {"footerr", Action::SkipGroup, 0},
+    {"footerf", Action::SkipGroup, 0},
+    {"footnote", Action::SkipGroup, 0},
+    {"ftnsep", Action::SkipGroup, 0},
+    {"ftnsepc", Action::SkipGroup, 0},
+    {"ftncn", Action::SkipGroup, 0},
+    {"aftnsep", Action::SkipGroup, 0},
+    {"aftnsepc", Action::SkipGroup, 0},
+    {"aftncn", Action::SkipGroup, 0},
+    {"annotation", Action::SkipGroup, 0},
+    {"atnid", Action::SkipGroup, 0},
+    {"atnauthor", Action::SkipGroup, 0},
+    {"atnref", Action::SkipGroup, 0},
+    {"atndate", Action::SkipGroup, 0},
+    {"atnicn", Action::SkipGroup, 0},
+    {"atrfstart", Action::SkipGroup, 0},
+    {"atrfend", Action::SkipGroup, 0},
+    {"bkmkstart", Action::SkipGroup, 0},
+    {"bkmkend", Action::SkipGroup, 0},
+    {"xe", Action::SkipGroup, 0},
+    {"tc", Action::SkipGroup, 0},
+    {"tcn", Action::SkipGroup, 0},
+    {"rxe", Action::SkipGroup, 0},
+    {"txe", Action::SkipGroup, 0},
+    {"filetbl", Action::SkipGroup, 0},
+    {"revtbl", Action::SkipGroup, 0},
+    {"rsidtbl", Action::SkipGroup, 0},
+    {"nextfile", Action::SkipGroup, 0},
+    {"template", Action::SkipGroup, 0},
+    {"private", Action::SkipGroup, 0},
+    {"private1", Action::SkipGroup, 0},
+    {"object", Action::PassThrough, 0},
+    {"objdata", Action::SkipGroup, 0},
+    {"objclass", Action::SkipGroup, 0},
+    {"objname", Action::SkipGroup, 0},
+    {"objalias", Action::SkipGroup, 0},
+    {"objsect", Action::SkipGroup, 0},
+    {"objtime", Action::SkipGroup, 0},
+    {"result", Action::PassThrough, 0},
+    {"datafield", Action::SkipGroup, 0},
+    {"fldtype", Action::SkipGroup, 0},
+    {"nonesttables", Action::SkipGroup, 0},
+    {"shprslt", Action::SkipGroup, 0},
+    {"background", Action::SkipGroup, 0},
+    {"picprop", Action::SkipGroup, 0},
+    {"blipuid", Action::SkipGroup, 0},
+    {"bliptag", Action::SkipGroup, 0},
+    {"listpicture", Action::SkipGroup, 0},
+    {"themedata", Action::SkipGroup, 0},
+    {"colorschememapping", Action::SkipGroup, 0},
+    {"datastore", Action::SkipGroup, 0},
+    {"latentstyles", Action::SkipGroup, 0},
+    {"pnseclvl", Action::SkipGroup, 0},
+    {"panose", Action::SkipGroup, 0},
+    {"falt", Action::SkipGroup, 0},
+    {"fontemb", Action::SkipGroup, 0},
+    {"fontfile", Action::SkipGroup, 0},
+    {"levelnumbers", Action::SkipGroup, 0},
+    {"levelmarker", Action::SkipGroup, 0},
+    {"listname", Action::SkipGroup, 0},
+    {"liststylename", Action::SkipGroup, 0},
+    {"generator", Action::SkipGroup, 0},
+
+    {"fonttbl", Action::FontTable, 0},
+    {"colortbl", Action::ColorTable, 0},
+    {"listtable", Action::ListTable, 0},
+    {"listoverridetable", Action::ListOverrideTable, 0},
+    {"pict", Action::PictureGroup, 0},
+    {"shppict", Action::ShapePicture, 0},
+    {"nonshppict", Action::NoShapePicture, 0},
+    {"field", Action::PassThrough, 0},
+    {"fldinst", Action::FieldInstruction, 0},
+    {"fldrslt", Action::PassThrough, 0},
+    {"nesttableprops", Action::PassThrough, 0},
+    {"upr", Action::UnicodePair, 0},
+    {"ud", Action::UnicodeHalf, 0},
+    {"shp", Action::PassThrough, 0},
+    {"shpgrp", Action::PassThrough, 0},
+    {"shpinst", Action::ShapeInstruction, 0},
+    {"shptxt", Action::ShapeText, 0},
+    {"sp", Action::ShapeProperty, 0},
+    {"sn", Action::ShapePropertyName, 0},
+    {"sv", Action::ShapePropertyValue, 0},
+    {"pn", Action::Numbering, 0},
+    {"pntxtb", Action::NumberingTextBefore, 0},
+    {"pntxta", Action::NumberingTextAfter, 0},
+    {"pntext", Action::LabelText, 0},
+    {"listtext", Action::LabelText, 0},
+
+    {"fcharset", Action::FontCharset, 0},
+    {"cpg", Action::FontCodePage, 0},
+    {"fname", Action::FontPlainName, 0},
+    {"red", Action::Red, 0},
+    {"green", Action::Green, 0},
+    {"blue", Action::Blue, 0},
+
+    {"list", Action::List, 0},
+    {"listid", Action::ListIdentity, 0},
+    {"listlevel", Action::ListLevelEntry, 0},
+    {"levelnfc", Action::ListLevelKind, 0},
+    {"levelnfcn", Action::ListLevelKind, 0},
+    {"levelstartat", Action::ListLevelStart, 0},
+    {"leveltext", Action::ListLevelText, 0},
+
+    {"pnlvlblt", Action::NumberingBullet, 0},
+    {"pnlvlbody", Action::NumberingBody, 0},
+    {"pnlvl", Action::NumberingLevel, 0},
+    {"pnlvlcont", Action::NumberingContinued, 0},
+    {"pndec", Action::NumberingKind, as(ListKind::Decimal)},
+    {"pncard", Action::NumberingKind, as(ListKind::Decimal)},
+    {"pnord", Action::NumberingKind, as(ListKind::Decimal)},
+    {"pnordt", Action::NumberingKind, as(ListKind::Decimal)},
+    {"pnlcltr", Action::NumberingKind, as(ListKind::LowerLetter)},
+    {"pnucltr", Action::NumberingKind, as(ListKind::UpperLetter)},
+    {"pnlcrm", Action::NumberingKind, as(ListKind::LowerRoman)},
+    {"pnucrm", Action::NumberingKind, as(ListKind::UpperRoman)},
+    {"pnstart", Action::NumberingStart, 0},
+    {"orvlist", Action::NumberingIdentity, 0},
+
+    {"pngblip", Action::PictureSource, as(PictureKind::Png)},
+    {"jpegblip", Action::PictureSource, as(PictureKind::Jpeg)},
+    {"wmetafile", Action::PictureSource, as(PictureKind::Wmf)},
+    {"emfblip", Action::PictureSource, as(PictureKind::Emf)},
+    {"dibitmap", Action::PictureSource, as(PictureKind::DeviceIndependent)},
+    {"wbitmap", Action::PictureSource, as(PictureKind::DeviceDependent)},
+    {"macpict", Action::PictureSource, as(PictureKind::Other)},
+    {"pmmetafile", Action::PictureSource, as(PictureKind::Other)},
+    {"picw", Action::PictureWidth, 0},
+    {"pich", Action::PictureHeight, 0},
+    {"picwgoal", Action::PictureGoalWidth, 0},
+    {"pichgoal", Action::PictureGoalHeight, 0},
+    {"picscalex", Action::PictureScaleX, 0},
+    {"picscaley", Action::PictureScaleY, 0},
+    {"wbmbitspixel", Action::BitmapBits, 0},
+    {"wbmplanes", Action::BitmapPlanes, 0},
+    {"wbmwidthbytes", Action::BitmapRow, 0},
+};
+
+constexpr quint32 slotCount = 1024;
+constexpr qint16 emptySlot = -1;
+static_assert(std::size(words) < slotCount / 2, "the search ends at an empty slot");
+
+constexpr quint32 slotOf(quint32 hash) {
+    return (hash ^ hash >> 15) & (slotCount - 1);
+}
+
+constexpr auto slotTable = [] {
+    std::array<qint16, slotCount> table{};
+    table.fill(emptySlot);
+    for (size_t i = 0; i < std::size(words); ++i) {
+        quint32 hash = controlWordHashStart;
+        for (const char* letter = words[i].name; *letter; ++letter)
+            hash = controlWordHash(hash, uchar(*letter));
+        quint32 slot = slotOf(hash);
+        while (table[slot] != emptySlot)
+            slot = (slot + 1) & (slotCount - 1);
+        table[slot] = qint16(i);
+    }
+    return table;
+}();
+
+} // namespace
+
+const ControlWord* findControlWord(QByteArrayView name, quint32 hash) {
+    const std::string_view wanted(name.data(), size_t(name.size()));
+    for (quint32 slot = slotOf(hash); slotTable[slot] != emptySlot;
+         slot = (slot + 1) & (slotCount - 1)) {
+        const ControlWord& word = words[slotTable[slot]];
+        if (wanted == word.name)
+            return &word;
+    }
+    return nullptr;
+}
+
+} // namespace orvalis::rtf

@@ -1,0 +1,135 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArrayView>
+
+namespace orvalis::rtf {
+
+/// What a control word asks for. The table gives many words the same action with another value.
+enum class Action : quint8 {
+    // Document
+    Version,
+    Utf8Version,
+    AnsiCodePage,
+    FixedCodePage, ///< value: the page
+    DefaultFont,
+    DefaultTab,
+    // Text
+    Character, ///< value: the character
+    Unicode,
+    UnicodeSkip,
+    ParagraphEnd,
+    SectionEnd,
+    PageEnd,
+    CellEnd,
+    RowEnd,
+    Binary,
+    // Characters
+    PlainCharacters,
+    Font,
+    FontSize,
+    Color,
+    Highlight,
+    Bold,
+    Italic,
+    Strike,
+    ControlMarks, ///< our own word: what other programs show as marks we know as codes
+    Hidden,
+    Deleted,       ///< text that a tracked change has taken out
+    UnderlineKind, ///< value: the Underline
+    NoUnderline,
+    ScriptKind,   ///< value: the Script
+    Raise,        ///< value: 1 up, -1 down
+    CapitalsKind, ///< value: the Capitals
+    // Paragraphs
+    PlainParagraph,
+    Align, ///< value: the Alignment
+    LeftIndent,
+    FirstIndent,
+    RightIndent,
+    SpaceBefore,
+    SpaceAfter,
+    LineSpacing,
+    LineMultiple,
+    TabKind, ///< value: the QTextOption::TabType
+    TabPosition,
+    Direction, ///< value: 1 right to left
+    PageBreakBefore,
+    ListOverride, ///< of a paragraph, or the number of an entry of the override table
+    ListLevel,
+    // Destinations
+    SkipGroup,
+    FontTable,
+    ColorTable,
+    ListTable,
+    ListOverrideTable,
+    PictureGroup,
+    ShapePicture,
+    NoShapePicture,
+    FieldInstruction,
+    PassThrough, ///< an ignorable group whose content is shown
+    UnicodePair,
+    UnicodeHalf,
+    ShapeInstruction,
+    ShapeText,
+    ShapeProperty,
+    ShapePropertyName,
+    ShapePropertyValue,
+    Numbering,
+    NumberingTextBefore,
+    NumberingTextAfter,
+    LabelText,
+    // Inside the font and colour tables
+    FontCharset,
+    FontCodePage,
+    FontPlainName,
+    Red,
+    Green,
+    Blue,
+    // Inside the list tables
+    List,
+    ListIdentity,
+    ListLevelEntry,
+    ListLevelKind,
+    ListLevelStart,
+    ListLevelText,
+    // Inside \pn
+    NumberingBullet,
+    NumberingBody,
+    NumberingLevel,
+    NumberingContinued,
+    NumberingKind, ///< value: the ListKind
+    NumberingStart,
+    NumberingIdentity, ///< this program's own word: which list of the document it is
+    // Inside \pict
+    PictureSource, ///< value: the PictureKind
+    PictureWidth,
+    PictureHeight,
+    PictureGoalWidth,
+    PictureGoalHeight,
+    PictureScaleX,
+    PictureScaleY,
+    BitmapBits,
+    BitmapPlanes,
+    BitmapRow,
+};
+
+struct ControlWord {
+    const char* name;
+    Action action;
+    int value;
+};
+
+inline constexpr quint32 controlWordHashStart = 2166136261u;
+
+/// Adds a letter to the hash of a word.
+constexpr quint32 controlWordHash(quint32 hash, uchar letter) {
+    return (hash ^ letter) * 16777619u;
+}
+
+/// The entry of a word, null when nobody knows it.
+/// \param hash made of all the name's letters by controlWordHash().
+const ControlWord* findControlWord(QByteArrayView name, quint32 hash);
+
+} // namespace orvalis::rtf

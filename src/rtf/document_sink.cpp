@@ -1,0 +1,176 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/document_sink.h"
+
+#include "rtf/picture_format.h"
+#include "rtf/text_formats.h"
+
+#include <QTextBlock>
+#include <QTextDocument>
+
+namespace orvalis::rtf {
+
+namespace {
+
+// What a document keeps for each of them, undo included, rounded up.
+constexpr qint64 bytesOfRun = 160;
+constexpr qint64 bytesOfParagraph = 400;
+constexpr qint64 bytesOfList = 1200;
+constexpr qint64 bytesOfFormat = 1500;
+constexpr qint64 bytesOfPicture = 3000;
+constexpr int bytesOfPixel = 4;
+
+// The share of the memory allowed, 40 times the file and 64 MB, that structure and pixels get.
+constexpr qint64 structureShare = 20;
+constexpr qint64 pixelShare = 8;
+constexpr qint64 ground = qint64(24) << 20;
+
+constexpr qint64 mostPixelsOfOne = qint64(1) << 23;
+constexpr size_t mostFormats = 16384;
+
+} // namespace
+
+DocumentSink::DocumentSink(QTextCursor& cursor, const ReadOptions& options, qsizetype fileSize)
+    : m_cursor(cursor)
+    , m_options(options)
+    , m_structureLeft(structureShare * fileSize + ground)
+    , m_pixelBytesLeft(pixelShare * fileSize + ground)
+    , m_textBefore(!cursor.atBlockStart())
+    , m_textBehind(!cursor.atBlockEnd())
+    , m_targetFormat(cursor.blockFormat()) {}
+
+void DocumentSink::begin(const Names& names) {
+    m_names = &names;
+}
+
+bool DocumentSink::spend(qint64 bytes) {
+    m_structureLeft -= bytes;
+    return m_structureLeft > 0;
+}
+
+int DocumentSink::formatIndex(const CharFormat& format) {
+    if (m_lastIndex != noName && (format == m_lastFormat || m_structureLeft <= 0))
+        return m_lastIndex;
+    m_lastFormat = format;
+    const auto found = m_formatIndex.constFind(format);
+    if (found != m_formatIndex.constEnd()) {
+        m_lastIndex = *found;
+    } else if (m_formats.size() < mostFormats) {
+        spend(bytesOfFormat);
+        m_formats.push_back(textFormat(format, *m_names));
+        // A file that names no font means that of whoever shows it.
+        if (format.family == noName)
+            m_formats.back().setFontFamilies({m_cursor.document()->defaultFont().family()});
+        m_lastIndex = int(m_formats.size()) - 1;
+        m_formatIndex.insert(format, m_lastIndex);
+    }
+    return m_lastIndex;
+}
+
+void DocumentSink::text(QStringView text, const CharFormat& format) {
+    const int index = formatIndex(format);
+    m_text.append(text);
+    if (!m_runs.empty() && m_runs.back().format == index && m_runs.back().image == noName) {
+        m_runs.back().length += text.size();
+        return;
+    }
+    spend(bytesOfRun);
+    m_runs.push_back(Run{text.size(), index});
+}
+
+bool DocumentSink::picture(const Picture& picture, const CharFormat& format) {
+    if (!spend(bytesOfPicture))
+        return false;
+    PictureBounds bounds{std::min(mostPixelsOfOne, m_pixelBytesLeft / bytesOfPixel)};
+    const QTextImageFormat image =
+        pictureFormat(*m_cursor.document(), picture, m_options.metafiles, bounds);
+    if (!image.isValid() || image.name().isEmpty())
+        return false;
+    m_pixelBytesLeft -= bounds.spentPixels * bytesOfPixel;
+    const int index = formatIndex(format);
+    QTextCharFormat merged = m_formats[size_t(index)];
+    merged.merge(image);
+    m_images.push_back(merged.toImageFormat());
+    m_runs.push_back(Run{1, index, int(m_images.size()) - 1});
+    m_text.append(QChar::ObjectReplacementCharacter);
+    return true;
+}
+
+void DocumentSink::paragraphEnd(const ParagraphFormat& paragraph, const CharFormat& mark) {
+    if (!spend(bytesOfParagraph)) {
+        text(QStringView(u"\u2028"), mark);
+        return;
+    }
+    insertParagraph(paragraph, mark);
+}
+
+void DocumentSink::end(const ParagraphFormat& paragraph, const CharFormat& mark) {
+    if (!m_runs.empty())
+        insertParagraph(paragraph, mark);
+    // The paragraph that follows the insertion keeps the shape it had.
+    if (m_paragraphs > 1 && m_textBehind)
+        m_cursor.setBlockFormat(m_targetFormat);
+}
+
+void DocumentSink::insertParagraph(const ParagraphFormat& paragraph, const CharFormat& mark) {
+    if (!m_hasBlockFormat || !(m_paragraph == paragraph)) {
+        m_paragraph = paragraph;
+        m_blockFormat = blockFormat(paragraph);
+        m_hasBlockFormat = true;
+    }
+    const int start = m_runs.empty() ? formatIndex(mark) : m_runs.front().format;
+    const QTextCharFormat& startFormat = m_formats[size_t(start)];
+    const bool first = m_paragraphs++ == 0;
+    if (first) {
+        // A block that holds text of its own keeps its shape; an empty one takes what comes, and
+        // one with text behind the cursor does when its start is cut off by a further paragraph.
+        m_firstParagraph = paragraph;
+        if (!m_textBefore && !m_textBehind) {
+            shapeFirst();
+            m_cursor.setBlockCharFormat(startFormat);
+        }
+    } else {
+        if (!m_textBefore && !m_firstShaped)
+            shapeFirst();
+        m_cursor.insertBlock(m_blockFormat, startFormat);
+        joinList(paragraph);
+    }
+    insertRuns();
+}
+
+void DocumentSink::shapeFirst() {
+    m_firstShaped = true;
+    m_cursor.setBlockFormat(blockFormat(m_firstParagraph));
+    joinList(m_firstParagraph);
+}
+
+void DocumentSink::insertRuns() {
+    qsizetype at = 0;
+    for (const Run& run : m_runs) {
+        const QTextCharFormat& format =
+            run.image == noName ? m_formats[size_t(run.format)] : m_images[size_t(run.image)];
+        // A paragraph of one run, which most are, is handed over as it is.
+        m_cursor.insertText(m_runs.size() == 1 ? m_text : m_text.mid(at, run.length), format);
+        at += run.length;
+    }
+    m_runs.clear();
+    m_images.clear();
+    m_text.resize(0);
+}
+
+void DocumentSink::joinList(const ParagraphFormat& paragraph) {
+    const ListLabel& label = paragraph.list;
+    if (label.kind == ListKind::None) {
+        m_lists.interrupt();
+        return;
+    }
+    if (QTextList* list = m_lists.goOn(paragraph)) {
+        QTextBlockFormat member;
+        member.setObjectIndex(list->objectIndex());
+        m_cursor.mergeBlockFormat(member);
+    } else if (spend(bytesOfList)) {
+        m_lists.began(paragraph, m_cursor.createList(listFormat(label, paragraph.left)));
+    }
+}
+
+} // namespace orvalis::rtf

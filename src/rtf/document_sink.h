@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "rtf/list_keeper.h"
+#include "rtf/reader.h"
+#include "rtf/sink.h"
+
+#include <QTextCursor>
+#include <QTextImageFormat>
+
+#include <vector>
+
+namespace orvalis::rtf {
+
+/// Writes what it is told at a cursor of a text document.
+///
+/// A paragraph is kept until its shape is known, so that each takes one insertion a run. Small
+/// pieces cost a document much more than the bytes that name them; when they have cost what the
+/// size of the file allows, the rest comes in as text alone, its paragraphs as lines.
+class DocumentSink final : public Sink {
+public:
+    /// \param fileSize bytes of the file, by which the memory that is spent is bounded.
+    DocumentSink(QTextCursor& cursor, const ReadOptions& options, qsizetype fileSize);
+
+    void begin(const Names& names) override;
+    void text(QStringView text, const CharFormat& format) override;
+    bool picture(const Picture& picture, const CharFormat& format) override;
+    void paragraphEnd(const ParagraphFormat& paragraph, const CharFormat& mark) override;
+    void end(const ParagraphFormat& paragraph, const CharFormat& mark) override;
+    void defaultTab(int twips) override { m_defaultTab = twips; }
+
+    /// Twips, where the file named them.
+    int defaultTabTwips() const { return m_defaultTab; }
+
+private:
+    /// A part of the paragraph's text with one format; a picture when it has an image.
+    struct Run {
+        qsizetype length = 0;
+        int format = 0;
+        int image = noName;
+    };
+
+    int formatIndex(const CharFormat& format);
+    void insertParagraph(const ParagraphFormat& paragraph, const CharFormat& mark);
+    void shapeFirst();
+    void insertRuns();
+    void joinList(const ParagraphFormat& paragraph);
+    bool spend(qint64 bytes);
+
+    QTextCursor& m_cursor;
+    ReadOptions m_options;
+    const Names* m_names = nullptr;
+    qint64 m_structureLeft; ///< bytes that runs and paragraphs may still cost
+    qint64 m_pixelBytesLeft;
+    int m_defaultTab = 720;
+
+    std::vector<QTextCharFormat> m_formats;
+    QHash<CharFormat, int> m_formatIndex;
+    CharFormat m_lastFormat;
+    int m_lastIndex = noName;
+
+    QString m_text;
+    std::vector<Run> m_runs;
+    std::vector<QTextImageFormat> m_images;
+
+    ParagraphFormat m_paragraph;
+    QTextBlockFormat m_blockFormat;
+    bool m_hasBlockFormat = false;
+    ListKeeper m_lists;
+
+    int m_paragraphs = 0;
+    bool m_textBefore = false; ///< the block held text before the cursor
+    bool m_textBehind = false;
+    bool m_firstShaped = false;
+    ParagraphFormat m_firstParagraph;
+    QTextBlockFormat m_targetFormat;
+};
+
+} // namespace orvalis::rtf

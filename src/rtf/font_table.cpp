@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/font_table.h"
+
+#include "rtf/symbol_font.h"
+
+using namespace Qt::StringLiterals;
+
+namespace orvalis::rtf {
+
+namespace {
+
+// Numbers come from outside, so they are keys and never sizes; and no document needs more fonts.
+constexpr qsizetype mostFonts = 32768;
+constexpr qsizetype longestName = 256;
+
+// Old writers list a face once a script and tell the script in the name.
+QString withoutScript(const QString& name) {
+    static constexpr QLatin1StringView scripts[] = {" CE"_L1,  " CYR"_L1, " Cyr"_L1,   " Greek"_L1,
+                                                    " Tur"_L1, " TUR"_L1, " Baltic"_L1};
+    for (const auto& script : scripts)
+        if (name.size() > script.size() && name.endsWith(script))
+            return name.chopped(script.size());
+    return name;
+}
+
+} // namespace
+
+void FontTable::begin(int number) {
+    m_open = true;
+    m_number = number;
+    m_entry = {};
+    m_bytes.clear();
+    m_name.clear();
+    m_plainName.clear();
+}
+
+void FontTable::setCharset(int charset) {
+    if (const CodePage* page = CodePage::forCharset(charset))
+        m_entry.page = page;
+}
+
+void FontTable::setPage(int number) {
+    if (number > 0)
+        m_entry.page = &CodePage::forNumber(number);
+}
+
+void FontTable::addName(QByteArrayView bytes) {
+    m_bytes.append(bytes.first(std::min(bytes.size(), longestName - m_bytes.size())));
+}
+
+void FontTable::addName(char16_t character) {
+    if (m_name.size() < longestName) {
+        m_name += QString::fromLatin1(m_bytes);
+        m_bytes.clear();
+        m_name += QChar(character);
+    }
+}
+
+void FontTable::commit(Names& names, const CodePage& documentPage) {
+    if (!m_open)
+        return;
+    m_open = false;
+    // A symbol font's name is plain text all the same.
+    const bool symbols = m_entry.page && m_entry.page->number() == symbolPage;
+    const CodePage& latin = CodePage::forNumber(latin1Page);
+    const CodePage& own = symbols ? latin : m_entry.page ? *m_entry.page : documentPage;
+    own.decode(m_bytes, m_name);
+    const QString plain = m_plainName.isEmpty() ? withoutScript(m_name.trimmed()) : m_plainName;
+    const QString name = plain.trimmed();
+    // Of the fonts with pictures for letters only this one shows what Unicode has names for.
+    if (symbols && !isSymbolFont(name))
+        m_entry.page = &latin;
+    if (!name.isEmpty())
+        m_entry.family = names.family(name);
+    if (m_fonts.size() >= mostFonts && !m_fonts.contains(m_number))
+        return;
+    m_fonts.insert(m_number, m_entry);
+    ++m_version;
+}
+
+const FontTable::Font* FontTable::find(int number) const {
+    const auto found = m_fonts.constFind(number);
+    return found == m_fonts.constEnd() ? nullptr : &*found;
+}
+
+} // namespace orvalis::rtf

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QTextFormat>
+
+namespace orvalis::rtf {
+
+/// What RTF knows of a format and Qt's own properties have no place for. Whoever copies or merges
+/// formats keeps them by itself; the writer reads them.
+enum FormatProperty : int {
+    /// Of an image format: the picture's own bytes (QByteArray), written again as they are.
+    PictureSource = QTextFormat::UserProperty + 0x5100,
+    /// Of an image format: what these bytes are, a PictureKind (int).
+    PictureSourceKind,
+    /// Of an image format: width, height, map mode, bits per pixel, planes and bytes per row as the
+    /// file gave them (QVariantList of int), for the kinds that cannot be read without.
+    PictureSourceSize,
+    /// Of a character format: an Underline that Qt shows as a single line (int).
+    UnderlineKind,
+    /// Of a character format: the text is hidden, and this its colour (int, an RGB value with the
+    /// alpha byte set, 0 for the automatic one). It is drawn in nothing and takes no width.
+    HiddenText,
+    /// Of a list item's block format: its first line's indent in twips (int). Qt hangs the label
+    /// left of the text by itself, so textIndent stays 0.
+    ParagraphFirstIndent,
+    /// Of a list format: the number of its first item (int, 1 when absent).
+    ListStart,
+    /// Of a list format: true when its indent only makes room for the label on the screen and is
+    /// no part of the paragraph's own indent.
+    ListIndentIsRoom,
+};
+
+} // namespace orvalis::rtf

@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QHash>
+#include <QList>
+#include <QRgb>
+#include <QString>
+#include <QStringList>
+#include <QTextOption>
+
+namespace orvalis::rtf {
+
+/// Twips to a pixel of a document: RTF counts 1440 to the inch, Qt's documents 96.
+inline constexpr double twipsPerPixel = 15.0;
+/// Size of a text that names none, in half points.
+inline constexpr int defaultHalfPoints = 24;
+/// A colour that the file leaves to whoever shows the text.
+inline constexpr QRgb automaticColor = 0;
+/// Index of a family or link that there is none of.
+inline constexpr int noName = -1;
+
+enum class Underline : quint8 { None, Single, Words, Double, Dotted, Dash, DashDot, Wave, Thick };
+enum class Script : quint8 { Normal, Super, Sub };
+enum class Capitals : quint8 { AsTyped, All, Small };
+enum class Alignment : quint8 { Left, Right, Center, Justify };
+enum class ListKind : quint8 {
+    None,
+    Bullet,
+    Decimal,
+    LowerLetter,
+    UpperLetter,
+    LowerRoman,
+    UpperRoman,
+};
+
+/// How a run of characters looks. Family and link are indexes into the Names of the reading.
+struct CharFormat {
+    int family = noName;
+    int link = noName;
+    int halfPoints = defaultHalfPoints;
+    int raise = 0; ///< half points above the base line
+    QRgb color = automaticColor;
+    QRgb highlight = automaticColor;
+    Underline underline = Underline::None;
+    Script script = Script::Normal;
+    Capitals capitals = Capitals::AsTyped;
+    bool bold = false;
+    bool italic = false;
+    bool strike = false;
+    bool controlMarks = false; ///< marks stand for control characters
+    bool hidden = false;
+
+    bool operator==(const CharFormat&) const = default;
+};
+
+size_t qHash(const CharFormat& format, size_t seed = 0) noexcept;
+
+/// A tab stop, in twips from the paragraph's edge.
+struct TabStop {
+    int position = 0;
+    QTextOption::TabType type = QTextOption::LeftTab;
+
+    bool operator==(const TabStop&) const = default;
+};
+
+/// The label of a list item. Items of one list share the identity, which is above 0 for those of
+/// the list tables and below 0 for those that this program wrote; 0 stands for a list that is held
+/// together only by its paragraphs following each other.
+struct ListLabel {
+    ListKind kind = ListKind::None;
+    int identity = 0;
+    int level = 0;
+    int start = 1;
+    int numbering = 0; ///< which \pn the label comes from, 0 for none
+    QString prefix;
+    QString suffix;
+
+    bool operator==(const ListLabel&) const = default;
+};
+
+/// How a paragraph is shaped, lengths in twips.
+struct ParagraphFormat {
+    Alignment alignment = Alignment::Left;
+    bool rightToLeft = false;
+    bool pageBreakBefore = false;
+    bool lineMultiple = false; ///< line spacing counts in 240ths of a line
+    int left = 0;
+    int first = 0; ///< of the first line, relative to left
+    int right = 0;
+    int before = 0;
+    int after = 0;
+    int lineSpacing = 0; ///< 0 automatic, above 0 at least, below 0 exactly
+    QList<TabStop> tabs;
+    ListLabel list;
+
+    bool operator==(const ParagraphFormat&) const = default;
+};
+
+/// The font families and link targets of one reading, each kept once.
+class Names {
+public:
+    int family(const QString& name) { return intern(m_families, m_familyIndex, name); }
+    int link(const QString& target) { return intern(m_links, m_linkIndex, target); }
+    QString familyAt(int index) const { return m_families.value(index); }
+    QString linkAt(int index) const { return m_links.value(index); }
+
+private:
+    static int intern(QStringList& list, QHash<QString, int>& index, const QString& name);
+
+    QStringList m_families;
+    QStringList m_links;
+    QHash<QString, int> m_familyIndex;
+    QHash<QString, int> m_linkIndex;
+};
+
+} // namespace orvalis::rtf

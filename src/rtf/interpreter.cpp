@@ -1,0 +1,202 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/interpreter.h"
+
+namespace orvalis::rtf {
+
+namespace {
+
+// Real documents nest some tens of groups. Deeper ones are counted, so that their braces match,
+// and share the state of the deepest one that is kept.
+constexpr size_t mostGroups = 4096;
+
+} // namespace
+
+Interpreter::Interpreter(QByteArrayView bytes, Sink& sink)
+    : m_tokenizer(bytes)
+    , m_sink(sink)
+    , m_documentPage(&CodePage::forNumber(latin1Page)) {
+    m_state.page = m_documentPage;
+}
+
+ReadResult Interpreter::run() {
+    m_sink.begin(m_names);
+    Token token;
+    do
+        m_tokenizer.next(token);
+    while (step(token));
+    finish();
+    return m_result;
+}
+
+bool Interpreter::step(const Token& token) {
+    switch (token.kind) {
+    case TokenKind::Text:
+        bytes(token.bytes);
+        return true;
+    case TokenKind::Word:
+        word(token);
+        return true;
+    case TokenKind::Byte:
+        bytes(QByteArrayView(&token.byte, 1));
+        return true;
+    case TokenKind::GroupStart:
+        openGroup();
+        return true;
+    case TokenKind::GroupEnd:
+        return closeGroup();
+    case TokenKind::Symbol:
+        symbol(token.byte);
+        return true;
+    case TokenKind::Zero:
+        bytes(" ");
+        return true;
+    case TokenKind::Binary:
+        if (token.binaryCutShort)
+            fault(Fault::BadBinary);
+        if (m_fallbackToSkip > 0)
+            --m_fallbackToSkip;
+        else if (m_state.destination == Destination::Picture)
+            m_picture.bytes.append(token.bytes);
+        return true;
+    case TokenKind::End:
+        break;
+    }
+    if (!m_groups.empty())
+        fault(Fault::UnexpectedEnd);
+    return false;
+}
+
+void Interpreter::openGroup() {
+    flushPending();
+    m_fallbackToSkip = 0;
+    m_ignorable = false;
+    m_state.hasContent = true;
+    if (m_groups.size() >= mostGroups) {
+        fault(Fault::TooDeep);
+        ++m_unstoredGroups;
+        return;
+    }
+    m_groups.push_back(m_state);
+    m_state.ownsDestination = false;
+    m_state.hasContent = false;
+    m_atGroupStart = true;
+}
+
+bool Interpreter::closeGroup() {
+    flushPending();
+    m_atGroupStart = false;
+    m_fallbackToSkip = 0;
+    m_ignorable = false;
+    if (m_unstoredGroups > 0) {
+        --m_unstoredGroups;
+        return true;
+    }
+    if (m_groups.size() <= 1) {
+        // What Windows' control writes ends with a line end and a zero, and other junk may follow.
+        // But where there is more RTF this brace was one too many, and the file goes on.
+        if (m_tokenizer.hasStructureAhead()) {
+            fault(Fault::UnmatchedBrace);
+            return true;
+        }
+        m_groups.clear();
+        return false;
+    }
+    const Destination closed = m_state.destination;
+    const bool owned = m_state.ownsDestination;
+    m_state = std::move(m_groups.back());
+    m_groups.pop_back();
+    if (owned)
+        closeDestination(closed);
+    else if (closed == Destination::FontTable)
+        m_fonts.commit(m_names, *m_documentPage);
+    if (m_state.fontsVersion != m_fonts.version())
+        selectFont();
+    return true;
+}
+
+void Interpreter::skipGroup() {
+    if (!m_tokenizer.skipGroup()) {
+        fault(Fault::UnexpectedEnd);
+        return;
+    }
+    m_ignorable = false;
+    if (m_unstoredGroups > 0)
+        --m_unstoredGroups;
+    else {
+        m_state = std::move(m_groups.back());
+        m_groups.pop_back();
+    }
+}
+
+void Interpreter::symbol(uchar symbol) {
+    const bool atGroupStart = std::exchange(m_atGroupStart, false);
+    switch (symbol) {
+    case '*':
+        m_ignorable = atGroupStart;
+        return;
+    case '~':
+        character(QChar::Nbsp);
+        return;
+    case '-':
+        character(QChar::SoftHyphen);
+        return;
+    case '_':
+        character(0x2011);
+        return;
+    case '\t':
+        character(u'\t');
+        return;
+    case '\r':
+    case '\n':
+        flushPending();
+        if (shows())
+            paragraphEnd();
+        return;
+    default:
+        return;
+    }
+}
+
+void Interpreter::word(const Token& token) {
+    flushPending();
+    m_atGroupStart = false;
+    const bool ignorable = std::exchange(m_ignorable, false);
+    if (!token.word) {
+        // Only the group of an unknown destination may be ignored; the outermost one is the file.
+        if (ignorable && (m_groups.size() > 1 || m_unstoredGroups > 0) && !m_state.hasContent)
+            skipGroup();
+        return;
+    }
+    switch (token.word->action) {
+    case Action::Character:
+        character(char16_t(token.word->value));
+        return;
+    case Action::Unicode:
+        unicode(token.parameter);
+        return;
+    default:
+        break;
+    }
+    // A word that no fallback can be made of ends the wait for one.
+    m_fallbackToSkip = 0;
+    if (characterWord(token) || paragraphWord(token) || pictureWord(token) || tableWord(token))
+        return;
+    destinationWord(token);
+}
+
+void Interpreter::fault(Fault fault) {
+    if (m_result.fault == Fault::None)
+        m_result = {fault, m_tokenizer.position()};
+}
+
+void Interpreter::finish() {
+    flushPending();
+    if (m_state.ownsDestination && m_state.destination == Destination::Picture)
+        deliverPicture();
+    cellTabs(m_cellTabs);
+    flushText();
+    m_sink.end(shapedParagraph(), m_state.chars);
+}
+
+} // namespace orvalis::rtf

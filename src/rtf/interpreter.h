@@ -1,0 +1,149 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "rtf/font_table.h"
+#include "rtf/list_tables.h"
+#include "rtf/reader.h"
+#include "rtf/sink.h"
+#include "rtf/tokenizer.h"
+
+#include <QList>
+
+#include <vector>
+
+namespace orvalis::rtf {
+
+/// The state machine between tokens and a sink.
+///
+/// It follows groups with a stack of its own, bounded in depth, keeps the tables of the file's head
+/// and gathers text until its format changes. One object reads one file.
+class Interpreter {
+public:
+    Interpreter(QByteArrayView bytes, Sink& sink);
+    ReadResult run();
+
+private:
+    /// Where the text of a group goes.
+    enum class Destination : quint8 {
+        Body,
+        FontTable,
+        PlainFontName,
+        ColorTable,
+        ListTable,
+        ListOverrideTable,
+        LevelText,
+        Picture,
+        FieldInstruction,
+        UnicodePair,
+        Shape,
+        ShapePropertyName,
+        ShapePropertyValue,
+        Numbering,
+        NumberingTextBefore,
+        NumberingTextAfter,
+        Label,
+    };
+
+    /// What a closing brace restores.
+    struct Group {
+        CharFormat chars;
+        ParagraphFormat paragraph;
+        const CodePage* page = nullptr;
+        int font = noName; ///< number in the font table; none stands for the default font
+        int fontsVersion = 0;
+        int unicodeSkip = 1;
+        int listOverride = 0;
+        int listLevel = 0;
+        QTextOption::TabType tabType = QTextOption::LeftTab;
+        Destination destination = Destination::Body;
+        bool ownsDestination = false;
+        bool deleted = false;
+        bool hasContent =
+            false; ///< text or groups, so that it cannot become a destination any more
+    };
+
+    // Structure (interpreter.cpp)
+    bool step(const Token& token);
+    void openGroup();
+    bool closeGroup();
+    void skipGroup();
+    void symbol(uchar character);
+    void word(const Token& token);
+    void fault(Fault fault);
+    void finish();
+
+    // Text (interpreter_text.cpp)
+    void bytes(QByteArrayView run);
+    void decode(QByteArrayView run);
+    void flushPending();
+    void character(char16_t character);
+    void unicode(int code);
+    void append(QStringView text);
+    void prepareText();
+    void flushText();
+    void paragraphEnd();
+    void cellTabs(int count);
+    void rowEnd();
+    const ParagraphFormat& shapedParagraph();
+    bool shows() const { return m_state.destination == Destination::Body && !m_state.deleted; }
+    bool captures() const;
+
+    // Properties (interpreter_properties.cpp)
+    bool characterWord(const Token& token);
+    bool paragraphWord(const Token& token);
+    void selectFont();
+    void plainCharacters();
+    QRgb color(int index) const;
+
+    // Destinations (interpreter_destinations.cpp)
+    bool destinationWord(const Token& token);
+    void openDestination(Destination destination);
+    void closeDestination(Destination destination);
+    bool tableWord(const Token& token);
+    bool pictureWord(const Token& token);
+    void colorBytes(QByteArrayView run);
+    void fontBytes(QByteArrayView run);
+    void pictureBytes(QByteArrayView run);
+    void deliverPicture();
+
+    Tokenizer m_tokenizer;
+    Sink& m_sink;
+    ReadResult m_result;
+    Names m_names;
+
+    std::vector<Group> m_groups;
+    Group m_state;
+    qsizetype m_unstoredGroups = 0;
+    bool m_ignorable = false;
+    bool m_atGroupStart = false;
+
+    const CodePage* m_documentPage;
+    FontTable m_fonts;
+    int m_defaultFont = 0;
+    QList<QRgb> m_colors;
+    QRgb m_color = automaticColor;
+    ListTables m_lists;
+
+    QString m_text;
+    CharFormat m_textFormat;
+    QByteArray m_pending;
+    int m_numberings = 0;
+    int m_fallbackToSkip = 0;
+    char16_t m_highSurrogate = 0;
+    int m_cellTabs = 0;
+    bool m_inParagraph = false;
+    bool m_pageBreak = false;
+    QString m_label;
+    ListKind m_lastListKind = ListKind::None;
+    ParagraphFormat m_shaped;
+
+    QString m_capture;
+    QString m_shapeProperty;
+    ListLabel m_numbering;
+    Picture m_picture;
+    int m_halfByte = -1;
+    bool m_shapePictureShown = false;
+};
+
+} // namespace orvalis::rtf

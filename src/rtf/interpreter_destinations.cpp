@@ -1,0 +1,351 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/hex.h"
+#include "rtf/hyperlink.h"
+#include "rtf/interpreter.h"
+
+#include <algorithm>
+
+namespace orvalis::rtf {
+
+namespace {
+
+constexpr qsizetype mostColors = 65536;
+constexpr int largestStart = 32767;
+
+constexpr QRgb opaqueBlack = 0xff000000;
+
+} // namespace
+
+bool Interpreter::destinationWord(const Token& token) {
+    // Only the head of a group says what the group is for, and never that of the outermost one.
+    if (m_groups.size() < 2 || m_state.hasContent)
+        return false;
+    const Action action = token.word->action;
+    if (m_unstoredGroups > 0) {
+        if (action == Action::SkipGroup || action >= Action::FontTable)
+            skipGroup();
+        return true;
+    }
+    const bool inBody = m_state.destination == Destination::Body;
+    const auto openInBody = [&](Destination destination) {
+        if (inBody)
+            openDestination(destination);
+        else
+            skipGroup();
+    };
+    switch (action) {
+    case Action::SkipGroup:
+        skipGroup();
+        return true;
+    case Action::FontTable:
+        openInBody(Destination::FontTable);
+        return true;
+    case Action::FontPlainName:
+        openDestination(Destination::PlainFontName);
+        return true;
+    case Action::ColorTable:
+        m_colors.clear();
+        m_color = automaticColor;
+        openInBody(Destination::ColorTable);
+        return true;
+    case Action::ListTable:
+        openInBody(Destination::ListTable);
+        return true;
+    case Action::ListOverrideTable:
+        openInBody(Destination::ListOverrideTable);
+        return true;
+    case Action::PictureGroup:
+        if (!inBody && m_state.destination != Destination::ShapePropertyValue) {
+            skipGroup();
+            return true;
+        }
+        m_picture = {};
+        m_halfByte = -1;
+        openDestination(Destination::Picture);
+        return true;
+    case Action::ShapePicture:
+        m_shapePictureShown = false;
+        return true;
+    case Action::NoShapePicture:
+        // The same picture once more, for readers that do not know the first form.
+        if (std::exchange(m_shapePictureShown, false))
+            skipGroup();
+        return true;
+    case Action::FieldInstruction:
+        openInBody(Destination::FieldInstruction);
+        return true;
+    case Action::UnicodePair:
+        openInBody(Destination::UnicodePair);
+        return true;
+    case Action::UnicodeHalf:
+        if (m_state.destination == Destination::UnicodePair)
+            openDestination(Destination::Body);
+        return true;
+    case Action::ShapeInstruction:
+        openInBody(Destination::Shape);
+        return true;
+    case Action::ShapeText:
+        if (m_state.destination == Destination::Shape || inBody)
+            openDestination(Destination::Body);
+        else
+            skipGroup();
+        return true;
+    case Action::ShapeProperty:
+        if (m_state.destination != Destination::Shape)
+            skipGroup();
+        return true;
+    case Action::ShapePropertyName:
+        if (m_state.destination == Destination::Shape)
+            openDestination(Destination::ShapePropertyName);
+        else
+            skipGroup();
+        return true;
+    case Action::ShapePropertyValue:
+        if (m_state.destination == Destination::Shape && m_shapeProperty == u"pib")
+            openDestination(Destination::ShapePropertyValue);
+        else
+            skipGroup();
+        return true;
+    case Action::Numbering:
+        m_numbering = {};
+        m_numbering.numbering = ++m_numberings;
+        openInBody(Destination::Numbering);
+        return true;
+    case Action::NumberingTextBefore:
+    case Action::NumberingTextAfter:
+        if (m_state.destination == Destination::Numbering)
+            openDestination(action == Action::NumberingTextBefore
+                                ? Destination::NumberingTextBefore
+                                : Destination::NumberingTextAfter);
+        else
+            skipGroup();
+        return true;
+    case Action::LabelText:
+        openInBody(Destination::Label);
+        return true;
+    case Action::ListLevelText:
+        if (m_state.destination == Destination::ListTable)
+            openDestination(Destination::LevelText);
+        else
+            skipGroup();
+        return true;
+    default:
+        return false;
+    }
+}
+
+void Interpreter::openDestination(Destination destination) {
+    m_state.destination = destination;
+    m_state.ownsDestination = true;
+    m_capture.clear();
+}
+
+void Interpreter::closeDestination(Destination destination) {
+    m_highSurrogate = 0;
+    const QString captured = std::exchange(m_capture, {});
+    switch (destination) {
+    case Destination::FontTable:
+        m_fonts.commit(m_names, *m_documentPage);
+        selectFont();
+        return;
+    case Destination::PlainFontName:
+        m_fonts.setPlainName(captured.section(u';', 0, 0));
+        return;
+    case Destination::LevelText:
+        m_lists.setLevelText(captured);
+        return;
+    case Destination::Picture:
+        deliverPicture();
+        return;
+    case Destination::FieldInstruction: {
+        const QString target = hyperlinkTarget(captured);
+        if (!target.isEmpty())
+            m_state.chars.link = m_names.link(target);
+        return;
+    }
+    case Destination::ShapePropertyName:
+        m_shapeProperty = captured.trimmed();
+        return;
+    case Destination::Numbering:
+        m_state.paragraph.list = m_numbering;
+        return;
+    case Destination::NumberingTextBefore:
+        m_numbering.prefix = captured;
+        return;
+    case Destination::NumberingTextAfter:
+        m_numbering.suffix = captured;
+        return;
+    case Destination::Label:
+        m_label = captured;
+        return;
+    default:
+        return;
+    }
+}
+
+bool Interpreter::tableWord(const Token& token) {
+    const int number = token.parameter;
+    switch (token.word->action) {
+    case Action::FixedCodePage:
+    case Action::AnsiCodePage: {
+        const int page = token.word->action == Action::FixedCodePage ? token.word->value : number;
+        m_documentPage = &CodePage::forNumber(page);
+        selectFont();
+        return true;
+    }
+    case Action::Utf8Version:
+        m_documentPage = &CodePage::forNumber(utf8Page);
+        selectFont();
+        return true;
+    case Action::DefaultFont:
+        m_defaultFont = number;
+        selectFont();
+        return true;
+    case Action::DefaultTab:
+        if (number > 0)
+            m_sink.defaultTab(std::min(number, 31680));
+        return true;
+    case Action::FontCharset:
+        m_fonts.setCharset(number);
+        return true;
+    case Action::FontCodePage:
+        m_fonts.setPage(number);
+        return true;
+    case Action::Red:
+        m_color = opaqueBlack | (m_color & 0x00ffffu) | QRgb(std::clamp(number, 0, 255)) << 16;
+        return true;
+    case Action::Green:
+        m_color = opaqueBlack | (m_color & 0xff00ffu) | QRgb(std::clamp(number, 0, 255)) << 8;
+        return true;
+    case Action::Blue:
+        m_color = opaqueBlack | (m_color & 0xffff00u) | QRgb(std::clamp(number, 0, 255));
+        return true;
+    case Action::List:
+        m_lists.beginList();
+        return true;
+    case Action::ListLevelEntry:
+        m_lists.beginLevel();
+        return true;
+    case Action::ListIdentity:
+        m_lists.setIdentity(number);
+        return true;
+    case Action::ListLevelKind:
+        m_lists.setLevelKind(number);
+        return true;
+    case Action::ListLevelStart:
+        m_lists.setLevelStart(number);
+        return true;
+    case Action::NumberingBullet:
+        m_numbering.kind = ListKind::Bullet;
+        return true;
+    case Action::NumberingLevel:
+        m_numbering.kind = number >= 11 ? ListKind::Bullet : ListKind::Decimal;
+        return true;
+    case Action::NumberingBody:
+        m_numbering.kind = ListKind::Decimal;
+        return true;
+    case Action::NumberingContinued:
+        m_numbering.kind = ListKind::None;
+        return true;
+    case Action::NumberingKind:
+        if (m_numbering.kind != ListKind::Bullet)
+            m_numbering.kind = static_cast<ListKind>(token.word->value);
+        return true;
+    case Action::NumberingIdentity:
+        m_numbering.identity = -std::max(number, 0);
+        return true;
+    case Action::NumberingStart:
+        m_numbering.start = std::clamp(number, 0, largestStart);
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool Interpreter::pictureWord(const Token& token) {
+    const int number = token.parameter;
+    switch (token.word->action) {
+    case Action::PictureSource:
+        m_picture.kind = static_cast<PictureKind>(token.word->value);
+        m_picture.mapMode = token.hasParameter ? number : 8;
+        return true;
+    case Action::PictureWidth:
+        m_picture.width = number;
+        return true;
+    case Action::PictureHeight:
+        m_picture.height = number;
+        return true;
+    case Action::PictureGoalWidth:
+        m_picture.goalWidth = number;
+        return true;
+    case Action::PictureGoalHeight:
+        m_picture.goalHeight = number;
+        return true;
+    case Action::PictureScaleX:
+        m_picture.scaleX = number;
+        return true;
+    case Action::PictureScaleY:
+        m_picture.scaleY = number;
+        return true;
+    case Action::BitmapBits:
+        m_picture.bitmap.bitsPerPixel = number;
+        return true;
+    case Action::BitmapPlanes:
+        m_picture.bitmap.planes = number;
+        return true;
+    case Action::BitmapRow:
+        m_picture.bitmap.bytesPerRow = number;
+        return true;
+    default:
+        return false;
+    }
+}
+
+void Interpreter::colorBytes(QByteArrayView run) {
+    // An entry that names no part of a colour is the automatic one.
+    const qsizetype ends = std::count(run.begin(), run.end(), ';');
+    for (qsizetype i = 0; i < ends && m_colors.size() < mostColors; ++i)
+        m_colors.append(std::exchange(m_color, automaticColor));
+}
+
+void Interpreter::fontBytes(QByteArrayView run) {
+    const qsizetype end = run.indexOf(';');
+    m_fonts.addName(end < 0 ? run : run.first(end));
+    if (end >= 0)
+        m_fonts.commit(m_names, *m_documentPage);
+}
+
+void Interpreter::pictureBytes(QByteArrayView run) {
+    QByteArray& bytes = m_picture.bytes;
+    const qsizetype start = bytes.size();
+    bytes.resize(start + (run.size() + 1) / 2);
+    char* out = bytes.data() + start;
+    for (const char byte : run) {
+        const int digit = hexDigit(uchar(byte));
+        if (digit < 0)
+            continue;
+        if (m_halfByte < 0) {
+            m_halfByte = digit;
+        } else {
+            *out++ = char(m_halfByte << 4 | digit);
+            m_halfByte = -1;
+        }
+    }
+    bytes.resize(out - bytes.constData());
+}
+
+void Interpreter::deliverPicture() {
+    if (m_picture.bytes.isEmpty() || m_state.deleted || m_state.chars.hidden)
+        return;
+    m_shapePictureShown = true;
+    cellTabs(m_cellTabs);
+    flushText();
+    if (m_sink.picture(m_picture, m_state.chars))
+        m_inParagraph = true;
+    else
+        fault(Fault::BadPicture);
+    m_picture = {};
+}
+
+} // namespace orvalis::rtf

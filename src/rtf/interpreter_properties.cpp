@@ -1,0 +1,206 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/interpreter.h"
+
+#include <algorithm>
+
+namespace orvalis::rtf {
+
+namespace {
+
+// Limits that no page reaches, so that sums and products of lengths stay far from overflow.
+constexpr int longestLength = 100000; // twips
+constexpr int largestHalfPoints = 3276;
+constexpr int largestRaise = 2000; // half points
+constexpr int mostUnicodeSkip = 255;
+constexpr qsizetype mostTabs = 32;
+
+int length(int twips) {
+    return std::clamp(twips, -longestLength, longestLength);
+}
+
+// "\b" and "\b1" switch on, "\b0" off.
+bool isOn(const Token& token) {
+    return !token.hasParameter || token.parameter != 0;
+}
+
+} // namespace
+
+bool Interpreter::characterWord(const Token& token) {
+    CharFormat& chars = m_state.chars;
+    switch (token.word->action) {
+    case Action::PlainCharacters:
+        plainCharacters();
+        return true;
+    case Action::Font:
+        if (m_state.destination == Destination::FontTable) {
+            m_fonts.commit(m_names, *m_documentPage);
+            m_fonts.begin(token.parameter);
+        } else if (token.hasParameter) {
+            m_state.font = token.parameter;
+            selectFont();
+        }
+        return true;
+    case Action::FontSize:
+        chars.halfPoints = token.hasParameter && token.parameter > 0
+                               ? std::min(token.parameter, largestHalfPoints)
+                               : defaultHalfPoints;
+        return true;
+    case Action::Color:
+        chars.color = color(token.parameter);
+        return true;
+    case Action::Highlight:
+        chars.highlight = color(token.parameter);
+        return true;
+    case Action::Bold:
+        chars.bold = isOn(token);
+        return true;
+    case Action::Italic:
+        chars.italic = isOn(token);
+        return true;
+    case Action::Strike:
+        chars.strike = isOn(token);
+        return true;
+    case Action::ControlMarks:
+        chars.controlMarks = isOn(token);
+        return true;
+    case Action::Hidden:
+        chars.hidden = isOn(token);
+        return true;
+    case Action::Deleted:
+        m_state.deleted = isOn(token);
+        return true;
+    case Action::UnderlineKind:
+        chars.underline = isOn(token) ? static_cast<Underline>(token.word->value) : Underline::None;
+        return true;
+    case Action::NoUnderline:
+        chars.underline = Underline::None;
+        return true;
+    case Action::ScriptKind:
+        chars.script = isOn(token) ? static_cast<Script>(token.word->value) : Script::Normal;
+        return true;
+    case Action::Raise:
+        // Without a number the words mean six half points.
+        chars.raise = token.word->value *
+                      (token.hasParameter ? std::clamp(token.parameter, 0, largestRaise) : 6);
+        return true;
+    case Action::CapitalsKind:
+        chars.capitals = isOn(token) ? static_cast<Capitals>(token.word->value) : Capitals::AsTyped;
+        return true;
+    case Action::UnicodeSkip:
+        m_state.unicodeSkip =
+            std::clamp(token.hasParameter ? token.parameter : 1, 0, mostUnicodeSkip);
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool Interpreter::paragraphWord(const Token& token) {
+    ParagraphFormat& paragraph = m_state.paragraph;
+    const bool inBody = shows();
+    switch (token.word->action) {
+    case Action::PlainParagraph:
+        paragraph = {};
+        m_state.listOverride = 0;
+        m_state.listLevel = 0;
+        m_state.tabType = QTextOption::LeftTab;
+        return true;
+    case Action::Align:
+        paragraph.alignment = static_cast<Alignment>(token.word->value);
+        return true;
+    case Action::LeftIndent:
+        paragraph.left = length(token.parameter);
+        return true;
+    case Action::FirstIndent:
+        paragraph.first = length(token.parameter);
+        return true;
+    case Action::RightIndent:
+        paragraph.right = length(token.parameter);
+        return true;
+    case Action::SpaceBefore:
+        paragraph.before = std::max(length(token.parameter), 0);
+        return true;
+    case Action::SpaceAfter:
+        paragraph.after = std::max(length(token.parameter), 0);
+        return true;
+    case Action::LineSpacing:
+        paragraph.lineSpacing = length(token.parameter);
+        return true;
+    case Action::LineMultiple:
+        paragraph.lineMultiple = isOn(token);
+        return true;
+    case Action::TabKind:
+        m_state.tabType = static_cast<QTextOption::TabType>(token.word->value);
+        return true;
+    case Action::TabPosition:
+        if (paragraph.tabs.size() < mostTabs)
+            paragraph.tabs.append(TabStop{length(token.parameter), m_state.tabType});
+        m_state.tabType = QTextOption::LeftTab;
+        return true;
+    case Action::Direction:
+        paragraph.rightToLeft = token.word->value != 0;
+        return true;
+    case Action::PageBreakBefore:
+        paragraph.pageBreakBefore = isOn(token);
+        return true;
+    case Action::ListOverride:
+        if (m_state.destination == Destination::ListOverrideTable)
+            m_lists.addOverride(token.parameter);
+        else
+            m_state.listOverride = token.parameter;
+        return true;
+    case Action::ListLevel:
+        m_state.listLevel = token.parameter;
+        return true;
+    case Action::ParagraphEnd:
+        if (inBody)
+            paragraphEnd();
+        return true;
+    case Action::SectionEnd:
+        if (inBody && m_inParagraph)
+            paragraphEnd();
+        return true;
+    case Action::PageEnd:
+        if (inBody) {
+            if (m_inParagraph)
+                paragraphEnd();
+            m_pageBreak = true;
+        }
+        return true;
+    case Action::CellEnd:
+        if (inBody)
+            ++m_cellTabs;
+        return true;
+    case Action::RowEnd:
+        if (inBody)
+            rowEnd();
+        return true;
+    default:
+        return false;
+    }
+}
+
+void Interpreter::selectFont() {
+    m_state.fontsVersion = m_fonts.version();
+    const FontTable::Font* font = m_fonts.find(m_state.font);
+    if (!font)
+        font = m_fonts.find(m_defaultFont);
+    m_state.chars.family = font ? font->family : noName;
+    m_state.page = font && font->page ? font->page : m_documentPage;
+}
+
+void Interpreter::plainCharacters() {
+    const int link = m_state.chars.link;
+    m_state.chars = {};
+    m_state.chars.link = link;
+    m_state.deleted = false;
+    m_state.font = noName;
+    selectFont();
+}
+
+QRgb Interpreter::color(int index) const {
+    return index >= 0 && index < m_colors.size() ? m_colors[index] : automaticColor;
+}
+
+} // namespace orvalis::rtf

@@ -1,0 +1,249 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/interpreter.h"
+
+#include <algorithm>
+
+namespace orvalis::rtf {
+
+namespace {
+
+constexpr qsizetype longestRun = 32768;
+constexpr qsizetype longestCapture = 8192;
+
+// Characters that a text document takes for structure of its own.
+char16_t harmless(char16_t character) {
+    switch (character) {
+    case u'\0':
+        return u' ';
+    case u'\n':
+    case u'\r':
+    case QChar::ParagraphSeparator:
+        return QChar::LineSeparator;
+    case 0xfdd0:
+    case 0xfdd1:
+    case QChar::ObjectReplacementCharacter:
+        return QChar::ReplacementCharacter;
+    default:
+        return character;
+    }
+}
+
+} // namespace
+
+bool Interpreter::captures() const {
+    switch (m_state.destination) {
+    case Destination::PlainFontName:
+    case Destination::LevelText:
+    case Destination::FieldInstruction:
+    case Destination::ShapePropertyName:
+    case Destination::NumberingTextBefore:
+    case Destination::NumberingTextAfter:
+    case Destination::Label:
+        return true;
+    default:
+        return false;
+    }
+}
+
+void Interpreter::bytes(QByteArrayView run) {
+    m_ignorable = false;
+    // Some files indent the heads of their groups, and some have lost the backslash of "\\*": the
+    // destinations behind are destinations all the same.
+    const bool nothing = run.size() == 1 && run.front() == '*';
+    m_state.hasContent |= !nothing && !run.trimmed().isEmpty();
+    m_atGroupStart = false;
+    if (m_fallbackToSkip > 0) {
+        const auto skipped = std::min<qsizetype>(m_fallbackToSkip, run.size());
+        m_fallbackToSkip -= int(skipped);
+        run = run.sliced(skipped);
+        if (run.isEmpty())
+            return;
+    }
+    switch (m_state.destination) {
+    case Destination::Body:
+        if (!m_state.deleted)
+            decode(run);
+        return;
+    case Destination::FontTable:
+        fontBytes(run);
+        return;
+    case Destination::ColorTable:
+        colorBytes(run);
+        return;
+    case Destination::Picture:
+        pictureBytes(run);
+        return;
+    default:
+        if (captures())
+            decode(run);
+        return;
+    }
+}
+
+void Interpreter::decode(QByteArrayView run) {
+    const CodePage::Table* table = m_state.page->table();
+    if (!table) {
+        // The second byte of a character may look like ASCII, so only a run that begins a character
+        // can be taken as it is.
+        const auto isAscii = [](char byte) { return uchar(byte) < 0x80; };
+        if (!m_pending.isEmpty() || !std::all_of(run.begin(), run.end(), isAscii)) {
+            m_pending.append(run);
+            if (m_pending.size() > longestRun) {
+                QString text;
+                const qsizetype taken = m_state.page->decode(m_pending, text);
+                m_pending.remove(0, taken);
+                append(text);
+            }
+            return;
+        }
+        table = CodePage::forNumber(latin1Page).table();
+    }
+    const bool toBody = m_state.destination == Destination::Body;
+    // An instruction or a label is no text of the font that holds around it.
+    if (!toBody && m_state.page->number() == symbolPage)
+        table = CodePage::forNumber(latin1Page).table();
+    if (toBody)
+        prepareText();
+    QString& target = toBody ? m_text : m_capture;
+    if (!toBody)
+        run = run.first(
+            std::min(run.size(), longestCapture - std::min(target.size(), longestCapture)));
+    const qsizetype start = target.size();
+    target.resize(start + run.size());
+    QChar* out = target.data() + start;
+    for (const char byte : run)
+        *out++ = QChar((*table)[uchar(byte)]);
+    // A byte below a blank can only stand alone, written as a code.
+    if (run.size() == 1 && toBody)
+        out[-1] = QChar(harmless(out[-1].unicode()));
+}
+
+void Interpreter::flushPending() {
+    if (m_pending.isEmpty())
+        return;
+    QString text;
+    const qsizetype taken = m_state.page->decode(m_pending, text);
+    if (taken < m_pending.size())
+        text.append(QChar::ReplacementCharacter);
+    m_pending.clear();
+    append(text);
+}
+
+void Interpreter::append(QStringView text) {
+    if (m_state.destination != Destination::Body) {
+        m_capture.append(text.first(
+            std::min(text.size(), longestCapture - std::min(m_capture.size(), longestCapture))));
+        return;
+    }
+    prepareText();
+    for (const QChar character : text)
+        m_text.append(QChar(harmless(character.unicode())));
+}
+
+void Interpreter::character(char16_t character) {
+    m_ignorable = false;
+    m_state.hasContent = true;
+    flushPending();
+    if (m_fallbackToSkip > 0)
+        --m_fallbackToSkip;
+    else if (m_state.destination == Destination::FontTable)
+        m_fonts.addName(character);
+    else if (shows() || captures())
+        append(QStringView(&character, 1));
+}
+
+void Interpreter::unicode(int code) {
+    m_state.hasContent = true;
+    m_fallbackToSkip = m_state.unicodeSkip;
+    if (code < 0)
+        code += 0x10000;
+    if (code < 0 || code > int(QChar::LastValidCodePoint))
+        code = QChar::ReplacementCharacter;
+    if (m_state.destination == Destination::FontTable) {
+        m_fonts.addName(char16_t(code));
+        return;
+    }
+    if (!shows() && !captures())
+        return;
+    if (QChar::isHighSurrogate(char32_t(code))) {
+        if (m_state.destination == Destination::Body)
+            prepareText();
+        m_highSurrogate = char16_t(code);
+        return;
+    }
+    if (QChar::isLowSurrogate(char32_t(code))) {
+        const char16_t high = std::exchange(m_highSurrogate, char16_t(0));
+        const char16_t pair[] = {high, char16_t(code)};
+        append(high ? QStringView(pair, 2) : QStringView(u"\ufffd"));
+        return;
+    }
+    append(QChar::fromUcs4(char32_t(code)));
+}
+
+void Interpreter::prepareText() {
+    if (m_cellTabs > 0)
+        cellTabs(std::exchange(m_cellTabs, 0));
+    if (!m_text.isEmpty() && (m_textFormat != m_state.chars || m_text.size() > longestRun))
+        flushText();
+    if (m_text.isEmpty())
+        m_textFormat = m_state.chars;
+    if (m_highSurrogate) {
+        m_highSurrogate = 0;
+        m_text.append(QChar::ReplacementCharacter);
+    }
+    m_inParagraph = true;
+}
+
+void Interpreter::flushText() {
+    if (m_highSurrogate) {
+        m_highSurrogate = 0;
+        m_text.append(QChar::ReplacementCharacter);
+    }
+    if (m_text.isEmpty())
+        return;
+    m_sink.text(m_text, m_textFormat);
+    m_text.resize(0);
+}
+
+void Interpreter::paragraphEnd() {
+    cellTabs(std::exchange(m_cellTabs, 0));
+    flushText();
+    m_sink.paragraphEnd(shapedParagraph(), m_state.chars);
+    m_inParagraph = false;
+    m_pageBreak = false;
+    m_label.clear();
+}
+
+void Interpreter::cellTabs(int count) {
+    m_cellTabs = 0;
+    static const QString tabs(64, u'\t');
+    for (; count > 0; count -= int(tabs.size()))
+        append(QStringView(tabs).first(std::min<qsizetype>(count, tabs.size())));
+}
+
+void Interpreter::rowEnd() {
+    const bool anyCell = m_cellTabs > 0;
+    if (anyCell)
+        cellTabs(m_cellTabs - 1);
+    if (anyCell || m_inParagraph)
+        paragraphEnd();
+}
+
+const ParagraphFormat& Interpreter::shapedParagraph() {
+    if (m_state.listOverride == 0 && m_label.isEmpty() && !m_pageBreak) {
+        m_lastListKind = m_state.paragraph.list.kind;
+        return m_state.paragraph;
+    }
+    m_shaped = m_state.paragraph;
+    m_shaped.pageBreakBefore |= m_pageBreak;
+    const auto known = m_lists.label(m_state.listOverride, m_state.listLevel);
+    if (m_state.listOverride != 0 && known)
+        m_shaped.list = *known;
+    else if (m_shaped.list.kind == ListKind::None)
+        m_shaped.list = labelFromText(m_label, m_lastListKind);
+    m_lastListKind = m_shaped.list.kind;
+    return m_shaped;
+}
+
+} // namespace orvalis::rtf

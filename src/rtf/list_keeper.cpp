@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/list_keeper.h"
+
+namespace orvalis::rtf {
+
+namespace {
+
+bool sameLabel(const ListLabel& a, const ListLabel& b) {
+    return a.kind == b.kind && a.identity == b.identity && a.level == b.level &&
+           a.prefix == b.prefix && a.suffix == b.suffix;
+}
+
+size_t labelKey(const ListLabel& label) {
+    return qHashMulti(0, int(label.kind), label.identity, label.level, label.prefix, label.suffix);
+}
+
+// Where items name no list, the indent keeps an inner list apart from an outer one.
+size_t shapeKey(const ParagraphFormat& item) {
+    return qHashMulti(0, labelKey(item.list), item.list.identity == 0 ? item.left : 0);
+}
+
+bool numberFollows(const ListLabel& label, const ListLabel& first, int items) {
+    return label.kind != ListKind::Bullet && label.start > 1 && label.start == first.start + items;
+}
+
+} // namespace
+
+ListKeeper::Entry* ListKeeper::entry(size_t key, const ListLabel& label) {
+    for (const auto* index : {&m_byShape, &m_byLabel}) {
+        const auto found = index->constFind(key);
+        if (found != index->constEnd() && sameLabel(m_entries[*found].label, label))
+            return &m_entries[*found];
+    }
+    return nullptr;
+}
+
+bool ListKeeper::goesOn(const Entry& entry, const ParagraphFormat& item, bool adjacent) const {
+    const ListLabel& label = item.list;
+    if (label.identity != 0) {
+        // A deeper level begins anew below each item of the level above it.
+        return m_levels.value(label.identity, label.level) >= label.level;
+    }
+    if (adjacent && label.numbering != 0 && label.numbering == m_last.numbering)
+        return true;
+    const bool sameShape = adjacent && sameLabel(label, m_last) && label.start == m_last.start &&
+                           item.left == m_lastLeft;
+    return sameShape || numberFollows(label, entry.label, entry.items);
+}
+
+QTextList* ListKeeper::goOn(const ParagraphFormat& item) {
+    const ListLabel& label = item.list;
+    Entry* found = entry(shapeKey(item), label);
+    if (!found && label.identity == 0) {
+        // The same list may change its indent on the way; then only its number tells.
+        found = entry(labelKey(label), label);
+        if (found && !numberFollows(label, found->label, found->items) &&
+            label.numbering != m_last.numbering)
+            found = nullptr;
+    }
+    const bool going = found && goesOn(*found, item, m_adjacent);
+    m_adjacent = true;
+    m_last = label;
+    m_lastLeft = item.left;
+    if (label.identity != 0)
+        m_levels[label.identity] = label.level;
+    if (!going)
+        return nullptr;
+    ++found->items;
+    const int index = int(found - m_entries.constData());
+    m_byShape[shapeKey(item)] = index;
+    m_byLabel[labelKey(label)] = index;
+    return found->list;
+}
+
+void ListKeeper::began(const ParagraphFormat& item, QTextList* list) {
+    const int index = int(m_entries.size());
+    m_entries.append(Entry{item.list, list, 1});
+    m_byShape[shapeKey(item)] = index;
+    m_byLabel[labelKey(item.list)] = index;
+}
+
+} // namespace orvalis::rtf

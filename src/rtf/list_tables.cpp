@@ -1,0 +1,160 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/list_tables.h"
+
+#include <algorithm>
+
+namespace orvalis::rtf {
+
+namespace {
+
+constexpr qsizetype mostLevels = 9;
+constexpr qsizetype mostLists = 32768;
+constexpr int levelFormatBullet = 23;
+constexpr int levelFormatNone = 255;
+constexpr int largestStart = 32767;
+
+ListKind kindOfFormat(int format) {
+    switch (format) {
+    case 1:
+        return ListKind::UpperRoman;
+    case 2:
+        return ListKind::LowerRoman;
+    case 3:
+        return ListKind::UpperLetter;
+    case 4:
+        return ListKind::LowerLetter;
+    case levelFormatBullet:
+        return ListKind::Bullet;
+    case levelFormatNone:
+        return ListKind::None;
+    default:
+        return ListKind::Decimal;
+    }
+}
+
+int romanValue(const QString& text) {
+    static constexpr std::pair<char16_t, int> digits[] = {
+        {u'm', 1000}, {u'd', 500}, {u'c', 100}, {u'l', 50}, {u'x', 10}, {u'v', 5}, {u'i', 1}};
+    int value = 0;
+    int largest = 0;
+    for (qsizetype i = text.size() - 1; i >= 0; --i) {
+        const char16_t letter = text[i].toLower().unicode();
+        const auto* digit = std::find_if(std::begin(digits), std::end(digits),
+                                         [&](const auto& known) { return known.first == letter; });
+        if (digit == std::end(digits))
+            return 0;
+        value += digit->second < largest ? -digit->second : digit->second;
+        largest = std::max(largest, digit->second);
+    }
+    return value;
+}
+
+} // namespace
+
+void ListTables::beginList() {
+    m_levels.clear();
+    m_identity = 0;
+}
+
+void ListTables::beginLevel() {
+    if (m_levels.size() < mostLevels)
+        m_levels.append(ListLabel{ListKind::Decimal, 0, int(m_levels.size()), 1, 0, {}, {}});
+}
+
+ListLabel* ListTables::openLevel() {
+    return m_levels.isEmpty() ? nullptr : &m_levels.last();
+}
+
+void ListTables::setIdentity(int identity) {
+    m_identity = identity;
+    if (!m_levels.isEmpty() && m_lists.size() < mostLists)
+        m_lists.insert(identity, std::exchange(m_levels, {}));
+}
+
+void ListTables::setLevelKind(int format) {
+    if (ListLabel* level = openLevel())
+        level->kind = kindOfFormat(format);
+}
+
+void ListTables::setLevelStart(int start) {
+    if (ListLabel* level = openLevel())
+        level->start = std::clamp(start, 0, largestStart);
+}
+
+void ListTables::setLevelText(const QString& text) {
+    ListLabel* level = openLevel();
+    if (!level || text.isEmpty())
+        return;
+    const char16_t own = char16_t(level->level);
+    // The first character counts the others; what follows them is the closing semicolon.
+    const QString label = text.mid(1, text.front().unicode());
+    const qsizetype number = label.indexOf(QChar(own));
+    if (level->kind == ListKind::Bullet || number < 0)
+        return;
+    const auto isPlaceholder = [](QChar c) { return c.unicode() < mostLevels; };
+    const QString before = label.first(number);
+    if (std::none_of(before.begin(), before.end(), isPlaceholder))
+        level->prefix = before;
+    const QString after = label.mid(number + 1);
+    if (std::none_of(after.begin(), after.end(), isPlaceholder))
+        level->suffix = after;
+}
+
+void ListTables::addOverride(int number) {
+    if (m_overrides.size() < mostLists)
+        m_overrides.insert(number, m_identity);
+}
+
+std::optional<ListLabel> ListTables::label(int overrideNumber, int level) const {
+    const auto identity = m_overrides.constFind(overrideNumber);
+    if (identity == m_overrides.constEnd())
+        return std::nullopt;
+    const auto levels = m_lists.constFind(*identity);
+    if (levels == m_lists.constEnd() || levels->isEmpty())
+        return std::nullopt;
+    ListLabel label = levels->at(std::clamp<qsizetype>(level, 0, levels->size() - 1));
+    label.identity = overrideNumber;
+    return label;
+}
+
+ListLabel labelFromText(const QString& text, ListKind previous) {
+    const QString label = text.trimmed();
+    ListLabel result;
+    if (label.isEmpty())
+        return result;
+    qsizetype start = 0;
+    while (start < label.size() && !label[start].isLetterOrNumber())
+        ++start;
+    qsizetype end = start;
+    while (end < label.size() && label[end].isLetterOrNumber())
+        ++end;
+    const QString middle = label.mid(start, end - start);
+    result.prefix = label.first(start);
+    result.suffix = label.mid(end);
+    bool isNumber = false;
+    const int number = middle.toInt(&isNumber);
+    const bool wrapped = start > 0 || end < label.size();
+    const bool upper = !middle.isEmpty() && middle.front().isUpper();
+    if (isNumber && number >= 0 && number <= largestStart) {
+        result.kind = ListKind::Decimal;
+        result.start = number;
+        return result;
+    }
+    const int roman = wrapped ? romanValue(middle) : 0;
+    const bool wasRoman = previous == ListKind::LowerRoman || previous == ListKind::UpperRoman;
+    if (roman > 0 && roman <= largestStart && (middle.size() > 1 || roman == 1 || wasRoman)) {
+        result.kind = upper ? ListKind::UpperRoman : ListKind::LowerRoman;
+        result.start = roman;
+        return result;
+    }
+    const char16_t letter = middle.isEmpty() ? u' ' : middle.front().toLower().unicode();
+    if (wrapped && middle.size() == 1 && letter >= u'a' && letter <= u'z') {
+        result.kind = upper ? ListKind::UpperLetter : ListKind::LowerLetter;
+        result.start = letter - u'a' + 1;
+        return result;
+    }
+    return {ListKind::Bullet, 0, 0, 1, 0, {}, {}};
+}
+
+} // namespace orvalis::rtf

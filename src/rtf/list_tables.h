@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "rtf/formats.h"
+
+#include <QHash>
+#include <QList>
+
+#include <optional>
+
+namespace orvalis::rtf {
+
+/// The list table and the override table, by which a paragraph's \ls and \ilvl name its label.
+class ListTables {
+public:
+    void beginList();
+    void beginLevel();
+    /// \param identity of the list one stands in, or the one that the next override stands for.
+    void setIdentity(int identity);
+    /// \param format as \levelnfc numbers it.
+    void setLevelKind(int format);
+    void setLevelStart(int start);
+    /// \param text as \leveltext has it: its length, then characters, with the codes 0 to 8 where
+    /// the numbers of the levels go.
+    void setLevelText(const QString& text);
+    void addOverride(int number);
+
+    /// The label for a paragraph; none where the tables do not know the override.
+    std::optional<ListLabel> label(int overrideNumber, int level) const;
+
+private:
+    using Levels = QList<ListLabel>;
+    ListLabel* openLevel();
+
+    QHash<int, Levels> m_lists;
+    QHash<int, int> m_overrides;
+    Levels m_levels;
+    int m_identity = 0;
+};
+
+/// What a literal label, as \pntext has it, says about the list; kind None for no label at all.
+/// \param previous kind of the list before it, which tells a roman "i." from the letter.
+ListLabel labelFromText(const QString& text, ListKind previous);
+
+} // namespace orvalis::rtf

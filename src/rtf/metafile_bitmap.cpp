@@ -1,0 +1,151 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/device_bitmap.h"
+
+#include "rtf/little_endian.h"
+
+namespace orvalis::rtf {
+
+namespace {
+
+constexpr quint32 placeableKey = 0x9ac6cdd7;
+constexpr qsizetype placeableHeaderSize = 22;
+constexpr quint16 metafileHeaderWords = 9;
+constexpr qsizetype recordHeaderSize = 6;
+
+enum Record : quint16 {
+    EndOfFile = 0x0000,
+    SetMapMode = 0x0103,
+    SetStretchBltMode = 0x0107,
+    SetWindowOrigin = 0x020b,
+    SetWindowExtent = 0x020c,
+    DibBitBlt = 0x0940,
+    DibStretchBlt = 0x0b41,
+    StretchDiBits = 0x0f43,
+    SetDiBitsToDevice = 0x0d33,
+};
+
+// Where the DIB stands in a record that carries one, in bytes behind the record's header.
+qsizetype dibOffset(quint16 function) {
+    switch (function) {
+    case DibBitBlt:
+        return 16;
+    case DibStretchBlt:
+        return 20;
+    case StretchDiBits:
+        return 22;
+    case SetDiBitsToDevice:
+        return 18;
+    default:
+        return -1;
+    }
+}
+
+constexpr quint32 enhancedEndOfFile = 14;
+constexpr quint32 enhancedBitBlt = 76;
+constexpr quint32 enhancedStretchBlt = 77;
+constexpr quint32 enhancedSetDiBitsToDevice = 80;
+constexpr quint32 enhancedStretchDiBits = 81;
+
+// Where a record of an enhanced metafile tells the place of its DIB's header.
+qsizetype enhancedDibField(quint32 type) {
+    switch (type) {
+    case enhancedBitBlt:
+    case enhancedStretchBlt:
+        return 84;
+    case enhancedSetDiBitsToDevice:
+    case enhancedStretchDiBits:
+        return 48;
+    default:
+        return -1;
+    }
+}
+
+} // namespace
+
+QByteArrayView dibOfMetafile(QByteArrayView metafile) {
+    if (readU32(metafile, 0) == placeableKey)
+        metafile = metafile.sliced(std::min(placeableHeaderSize, metafile.size()));
+    if (readU16(metafile, 2) != metafileHeaderWords)
+        return {};
+    qsizetype at = metafileHeaderWords * 2;
+    while (at + recordHeaderSize <= metafile.size()) {
+        const qint64 size = qint64(readU32(metafile, at)) * 2;
+        const quint16 function = readU16(metafile, at + 4);
+        if (size < recordHeaderSize || function == EndOfFile)
+            break;
+        const qsizetype end = qsizetype(std::min<qint64>(at + size, metafile.size()));
+        const qsizetype offset = dibOffset(function);
+        if (offset >= 0 && at + recordHeaderSize + offset < end)
+            return metafile.sliced(at + recordHeaderSize + offset,
+                                   end - at - recordHeaderSize - offset);
+        at = end;
+    }
+    return {};
+}
+
+QByteArrayView dibOfEnhancedMetafile(QByteArrayView metafile) {
+    qsizetype at = 0;
+    while (at + 8 <= metafile.size()) {
+        const quint32 type = readU32(metafile, at);
+        const qint64 size = readU32(metafile, at + 4);
+        if (size < 8 || type == enhancedEndOfFile)
+            break;
+        const qsizetype end = qsizetype(std::min<qint64>(at + size, metafile.size()));
+        const qsizetype field = enhancedDibField(type);
+        if (field >= 0) {
+            const qint64 header = readU32(metafile, at + field);
+            const qint64 headerSize = readU32(metafile, at + field + 4);
+            const qint64 bits = readU32(metafile, at + field + 8);
+            // Header and pixels nearly always follow each other, as a packed DIB has them.
+            if (header > 0 && header + headerSize == bits && at + header < end)
+                return metafile.sliced(qsizetype(at + header), qsizetype(end - at - header));
+        }
+        at = end;
+    }
+    return {};
+}
+
+QByteArray metafileOfDib(QByteArrayView dib, QSize size) {
+    const qsizetype drawWords = 3 + 10 + (dib.size() + 1) / 2;
+    const qsizetype totalWords = metafileHeaderWords + 4 + 5 + 5 + 4 + drawWords + 3;
+    const auto width = quint16(size.width());
+    const auto height = quint16(size.height());
+    QByteArray file;
+    file.reserve(totalWords * 2);
+    const auto record = [&file](qsizetype words, Record function) {
+        appendU32(file, quint32(words));
+        appendU16(file, function);
+    };
+    appendU16(file, 1);
+    appendU16(file, metafileHeaderWords);
+    appendU16(file, 0x0300);
+    appendU32(file, quint32(totalWords));
+    appendU16(file, 0);
+    appendU32(file, quint32(drawWords));
+    appendU16(file, 0);
+    record(4, SetMapMode);
+    appendU16(file, 8);
+    record(5, SetWindowExtent);
+    appendU16(file, height);
+    appendU16(file, width);
+    record(5, SetWindowOrigin);
+    appendU32(file, 0);
+    record(4, SetStretchBltMode);
+    appendU16(file, 3);
+    record(drawWords, DibStretchBlt);
+    appendU32(file, 0x00cc0020);
+    appendU16(file, height);
+    appendU16(file, width);
+    appendU32(file, 0);
+    appendU16(file, height);
+    appendU16(file, width);
+    appendU32(file, 0);
+    file.append(dib);
+    if (dib.size() % 2 != 0)
+        file.append('\0');
+    record(3, EndOfFile);
+    return file;
+}
+
+} // namespace orvalis::rtf

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QSizeF>
+
+namespace orvalis::rtf {
+
+/// What the bytes of a picture are.
+enum class PictureKind : int {
+    Unknown,
+    Png,
+    Jpeg,
+    Wmf,
+    Emf,
+    DeviceIndependent, ///< a packed DIB without a file header
+    DeviceDependent,   ///< rows of pixels, described by Picture::bitmap
+    Other,             ///< an image file of another kind, which Qt may know
+};
+
+/// The layout of the rows of a device dependent bitmap.
+struct DeviceBitmap {
+    int bitsPerPixel = 1;
+    int planes = 1;
+    int bytesPerRow = 0;
+
+    bool operator==(const DeviceBitmap&) const = default;
+};
+
+/// A picture as it stands in a file: its bytes, and the size that is wanted for it.
+struct Picture {
+    PictureKind kind = PictureKind::Unknown;
+    int width = 0;      ///< of the source: pixels, or hundredths of a millimetre of a metafile
+    int height = 0;     ///< as width
+    int goalWidth = 0;  ///< twips, 0 when the file names none
+    int goalHeight = 0; ///< twips
+    int scaleX = 100;   ///< per cent of the goal
+    int scaleY = 100;   ///< per cent
+    int mapMode = 8;    ///< of a metafile
+    DeviceBitmap bitmap;
+    QByteArray bytes;
+};
+
+/// The size in twips at which a picture wants to be shown; empty when it names none at all.
+QSizeF wantedTwips(const Picture& picture);
+
+/// What the first bytes say that a picture is, whatever the file calls it.
+PictureKind kindOfBytes(QByteArrayView bytes);
+
+} // namespace orvalis::rtf

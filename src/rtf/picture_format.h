@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "rtf/picture.h"
+
+#include <QTextImageFormat>
+
+class QTextCursor;
+class QTextDocument;
+
+namespace orvalis::rtf {
+
+class MetafileConverter;
+
+/// How large a raster a picture may have, and how large the one made of it was.
+struct PictureBounds {
+    qint64 mostPixels = qint64(1) << 23;
+    qint64 spentPixels = 0;
+};
+
+/// Gives the document a picture and makes the format that shows it. The format keeps the picture's
+/// own bytes. A picture that cannot be drawn but has a size shows as an empty box; one without
+/// a size gives an invalid format.
+QTextImageFormat pictureFormat(QTextDocument& document, const Picture& picture,
+                               MetafileConverter* converter, PictureBounds& bounds);
+
+/// The picture behind a format: its own bytes where they are known, otherwise the document's image
+/// as a PNG. Its goal is the size at which the format shows it. Without bytes when there is none.
+Picture pictureOfFormat(const QTextDocument& document, const QTextImageFormat& format);
+
+/// Inserts an image file (PNG, JPEG, BMP or another kind that Qt reads) at the cursor, one image
+/// pixel to a pixel. Its bytes are written to RTF as they are where RTF can hold them.
+/// \returns whether the bytes were a picture.
+bool insertPicture(QTextCursor& cursor, const QByteArray& bytes);
+
+} // namespace orvalis::rtf

@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/picture_image.h"
+
+#include "rtf/device_bitmap.h"
+#include "rtf/formats.h"
+#include "rtf/little_endian.h"
+#include "rtf/metafile_converter.h"
+
+#include <QBuffer>
+#include <QImageReader>
+
+#include <cmath>
+
+namespace orvalis::rtf {
+
+namespace {
+
+// No file of this many pixels comes from a camera or a screen; its decoder would be busy with
+// nothing but the claim.
+constexpr qint64 mostClaimedPixels = qint64(1) << 27;
+
+bool isEncoded(PictureKind kind) {
+    return kind == PictureKind::Png || kind == PictureKind::Jpeg || kind == PictureKind::Other;
+}
+
+PictureKind trueKind(const Picture& picture) {
+    const PictureKind found = kindOfBytes(picture.bytes);
+    const bool raw = picture.kind == PictureKind::DeviceIndependent ||
+                     picture.kind == PictureKind::DeviceDependent;
+    return found == PictureKind::Unknown || raw ? picture.kind : found;
+}
+
+QSize fitted(QSize size, qint64 mostPixels) {
+    const double pixels = double(size.width()) * size.height();
+    if (pixels <= double(mostPixels))
+        return size;
+    const double factor = std::sqrt(double(mostPixels) / pixels);
+    return {std::max(1, int(size.width() * factor)), std::max(1, int(size.height() * factor))};
+}
+
+QImage decoded(const QByteArray& bytes, qint64 mostPixels) {
+    QBuffer buffer;
+    buffer.setData(bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
+    reader.setDecideFormatFromContent(true);
+    const QSize size = reader.size();
+    if (size.isEmpty() || qint64(size.width()) * size.height() > mostClaimedPixels)
+        return {};
+    const QSize wanted = fitted(size, mostPixels);
+    if (wanted != size)
+        reader.setScaledSize(wanted);
+    return reader.read();
+}
+
+QImage shrunk(const QImage& image, qint64 mostPixels) {
+    const QSize wanted = fitted(image.size(), mostPixels);
+    return wanted == image.size()
+               ? image
+               : image.scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+} // namespace
+
+QSize pixelSize(const Picture& picture) {
+    const PictureKind kind = trueKind(picture);
+    if (isEncoded(kind)) {
+        QBuffer buffer;
+        buffer.setData(picture.bytes);
+        buffer.open(QIODevice::ReadOnly);
+        return QImageReader(&buffer).size();
+    }
+    if (kind == PictureKind::DeviceDependent)
+        return {picture.width, picture.height};
+    QByteArrayView dib = picture.bytes;
+    if (kind == PictureKind::Wmf)
+        dib = dibOfMetafile(picture.bytes);
+    else if (kind == PictureKind::Emf)
+        dib = dibOfEnhancedMetafile(picture.bytes);
+    return dib.isEmpty() ? QSize() : QSize(int(readU32(dib, 4)), qAbs(qint32(readU32(dib, 8))));
+}
+
+QImage imageOfPicture(const Picture& picture, qint64 mostPixels, MetafileConverter* converter) {
+    switch (trueKind(picture)) {
+    case PictureKind::DeviceIndependent:
+        return shrunk(imageOfDib(picture.bytes), mostPixels);
+    case PictureKind::DeviceDependent:
+        return shrunk(imageOfRows(picture.bytes, {picture.width, picture.height}, picture.bitmap),
+                      mostPixels);
+    case PictureKind::Wmf:
+    case PictureKind::Emf: {
+        const bool enhanced = trueKind(picture) == PictureKind::Emf;
+        const QByteArrayView dib =
+            enhanced ? dibOfEnhancedMetafile(picture.bytes) : dibOfMetafile(picture.bytes);
+        const QImage image = dib.isEmpty() ? QImage() : imageOfDib(dib);
+        if (!image.isNull())
+            return shrunk(image, mostPixels);
+        if (!converter || enhanced)
+            return {};
+        const QSizeF twips = wantedTwips(picture);
+        const QSize pixels = fitted((twips / twipsPerPixel).toSize(), mostPixels);
+        return pixels.isEmpty() ? QImage() : converter->convert(picture.bytes, pixels);
+    }
+    default:
+        return decoded(picture.bytes, mostPixels);
+    }
+}
+
+} // namespace orvalis::rtf

@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/reader.h"
+
+#include "rtf/document_sink.h"
+#include "rtf/interpreter.h"
+
+#include <QTextCursor>
+#include <QTextDocument>
+
+namespace orvalis::rtf {
+
+namespace {
+
+constexpr ReadResult notRtf{Fault::NotRtf, 0};
+
+// What stands behind the blanks that may be in front of a file and inside its first brace.
+qsizetype startOfGroup(QByteArrayView bytes) {
+    qsizetype at = bytes.startsWith("\xef\xbb\xbf") ? 3 : 0;
+    while (at < bytes.size()) {
+        const char c = bytes[at];
+        if (c != ' ' && c != '\t' && c != '\r' && c != '\n' && c != '\0')
+            break;
+        ++at;
+    }
+    return at;
+}
+
+} // namespace
+
+bool looksLikeRtf(QByteArrayView bytes) {
+    QByteArrayView start = bytes.sliced(startOfGroup(bytes));
+    if (!start.startsWith('{'))
+        return false;
+    start = start.sliced(1);
+    start = start.sliced(startOfGroup(start));
+    return start.startsWith("\\rtf") || start.startsWith("\\urtf");
+}
+
+ReadResult readRtf(QByteArrayView bytes, Sink& sink) {
+    if (!looksLikeRtf(bytes))
+        return notRtf;
+    const qsizetype start = startOfGroup(bytes);
+    ReadResult result = Interpreter(bytes.sliced(start), sink).run();
+    if (!result.ok())
+        result.position += start;
+    return result;
+}
+
+ReadResult readRtf(QByteArrayView bytes, QTextDocument& document, const ReadOptions& options) {
+    if (!looksLikeRtf(bytes))
+        return notRtf;
+    const bool undo = document.isUndoRedoEnabled();
+    document.setUndoRedoEnabled(false);
+    document.clear();
+    QTextCursor cursor(&document);
+    cursor.beginEditBlock();
+    DocumentSink sink(cursor, options, bytes.size());
+    const ReadResult result = readRtf(bytes, sink);
+    QTextOption option = document.defaultTextOption();
+    option.setTabStopDistance(sink.defaultTabTwips() / twipsPerPixel);
+    document.setDefaultTextOption(option);
+    cursor.endEditBlock();
+    document.setUndoRedoEnabled(undo);
+    return result;
+}
+
+ReadResult insertRtf(QByteArrayView bytes, QTextCursor& cursor, const ReadOptions& options) {
+    if (!looksLikeRtf(bytes))
+        return notRtf;
+    cursor.beginEditBlock();
+    cursor.removeSelectedText();
+    DocumentSink sink(cursor, options, bytes.size());
+    const ReadResult result = readRtf(bytes, sink);
+    cursor.endEditBlock();
+    return result;
+}
+
+} // namespace orvalis::rtf

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "rtf/formats.h"
+#include "rtf/picture.h"
+
+#include <QStringView>
+
+namespace orvalis::rtf {
+
+/// Receives what a reader finds, in the order of the document.
+///
+/// A paragraph's shape is known when it ends, so text and pictures come first and the paragraph
+/// end behind them. Text holds no paragraph separators; U+2028 breaks a line inside a paragraph.
+class Sink {
+public:
+    virtual ~Sink() = default;
+
+    /// Comes once, before everything else. The names stay valid, and grow, until end().
+    virtual void begin(const Names& names) = 0;
+    virtual void text(QStringView text, const CharFormat& format) = 0;
+    /// \returns whether the picture could be used; one that could not is a fault of the file.
+    virtual bool picture(const Picture& picture, const CharFormat& format) = 0;
+    virtual void paragraphEnd(const ParagraphFormat& paragraph, const CharFormat& mark) = 0;
+    /// Comes once, last: the shape of what came behind the last paragraph end.
+    virtual void end(const ParagraphFormat& paragraph, const CharFormat& mark) = 0;
+    /// The distance of default tab stops in twips, where the file names one.
+    virtual void defaultTab(int /*twips*/) {}
+};
+
+/// Takes everything and keeps nothing: what a reading costs without its target.
+class NullSink final : public Sink {
+public:
+    void begin(const Names& /*names*/) override {}
+    void text(QStringView /*text*/, const CharFormat& /*format*/) override {}
+    bool picture(const Picture& /*picture*/, const CharFormat& /*format*/) override { return true; }
+    void paragraphEnd(const ParagraphFormat& /*paragraph*/, const CharFormat& /*mark*/) override {}
+    void end(const ParagraphFormat& /*paragraph*/, const CharFormat& /*mark*/) override {}
+};
+
+} // namespace orvalis::rtf

@@ -1,0 +1,129 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/writer.h"
+
+#include "rtf/body_writer.h"
+#include "rtf/picture_format.h"
+#include "rtf/text_formats.h"
+
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextList>
+
+#include <algorithm>
+#include <vector>
+
+namespace orvalis::rtf {
+
+namespace {
+
+/// Walks through a part of a document and tells the body writer what stands there.
+class DocumentWalk {
+public:
+    DocumentWalk(const QTextDocument& document, int from, int to)
+        : m_document(document)
+        , m_from(from)
+        , m_to(to)
+        , m_defaultTab(int(document.defaultTextOption().tabStopDistance() * twipsPerPixel)) {}
+
+    QByteArray rtf() {
+        for (QTextBlock block = m_document.findBlock(m_from);
+             block.isValid() && block.position() <= m_to; block = block.next())
+            paragraph(block);
+        return m_body.file(m_defaultTab);
+    }
+
+private:
+    void paragraph(const QTextBlock& block) {
+        const CharFormat mark = format(block.charFormat());
+        const ParagraphFormat& paragraphShape = shape(block);
+        m_body.beginParagraph(paragraphShape, number(block));
+        bool empty = true;
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextFragment fragment = it.fragment();
+            const int start = std::max(fragment.position(), m_from);
+            const int end = std::min(fragment.position() + fragment.length(), m_to);
+            if (start >= end)
+                continue;
+            empty = false;
+            const int index = fragment.charFormatIndex();
+            const CharFormat& look = cachedFormat(index, fragment);
+            if (m_isImage[size_t(index)]) {
+                const Picture picture =
+                    pictureOfFormat(m_document, fragment.charFormat().toImageFormat());
+                for (int i = start; i < end; ++i)
+                    m_body.picture(picture, look);
+            } else if (start == fragment.position() &&
+                       end == fragment.position() + fragment.length()) {
+                m_body.text(fragment.text(), look);
+            } else {
+                m_body.text(fragment.text().mid(start - fragment.position(), end - start), look);
+            }
+        }
+        m_body.endParagraph(empty ? &mark : nullptr);
+    }
+
+    CharFormat format(const QTextCharFormat& from) {
+        return charFormat(from, m_body.names(), m_document.defaultFont());
+    }
+
+    // Documents share their formats among the runs, and so does the work on them.
+    const CharFormat& cachedFormat(int index, const QTextFragment& fragment) {
+        const auto at = size_t(index);
+        if (at >= m_known.size()) {
+            m_known.resize(at + 1);
+            m_formats.resize(at + 1);
+            m_isImage.resize(at + 1);
+        }
+        if (!m_known[at]) {
+            const QTextCharFormat from = fragment.charFormat();
+            m_known[at] = true;
+            m_isImage[at] = from.isImageFormat();
+            m_formats[at] = format(from);
+        }
+        return m_formats[at];
+    }
+
+    const ParagraphFormat& shape(const QTextBlock& block) {
+        const int index = block.blockFormatIndex();
+        if (index != m_shapeIndex) {
+            m_shapeIndex = index;
+            m_shape =
+                paragraphFormat(block.blockFormat(), block.textList(), m_document.indentWidth());
+        }
+        return m_shape;
+    }
+
+    // Counted along the way: a list finds the number of an item only by going through all of them.
+    int number(const QTextBlock& block) {
+        const QTextList* list = m_shape.list.kind == ListKind::None ? nullptr : block.textList();
+        return list ? m_items[list]++ + m_shape.list.start : 0;
+    }
+
+    const QTextDocument& m_document;
+    int m_from;
+    int m_to;
+    int m_defaultTab;
+    BodyWriter m_body;
+    std::vector<char> m_known;
+    std::vector<CharFormat> m_formats;
+    std::vector<char> m_isImage;
+    int m_shapeIndex = -1;
+    ParagraphFormat m_shape;
+    QHash<const QTextList*, int> m_items;
+};
+
+} // namespace
+
+QByteArray writeRtf(const QTextDocument& document) {
+    return writeRtf(document, 0, document.characterCount() - 1);
+}
+
+QByteArray writeRtf(const QTextDocument& document, int from, int to) {
+    const int last = document.characterCount() - 1;
+    from = std::clamp(from, 0, last);
+    to = std::clamp(to, 0, last);
+    return DocumentWalk(document, std::min(from, to), std::max(from, to)).rtf();
+}
+
+} // namespace orvalis::rtf

@@ -1,0 +1,215 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "recording_sink.h"
+#include "rtf/reader.h"
+#include "rtf/writer.h"
+#include "sample_rtf.h"
+#include "support/test_main.h"
+
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QTextDocument>
+
+using namespace orvalis;
+using namespace orvalis::rtf;
+using orvalis::test::RecordingSink;
+
+class HostileRtfTest : public QObject {
+    Q_OBJECT
+private slots:
+    void cutAnywhereTheTextBeforeTheCutIsKept();
+    void aMillionOpeningBracesAreCountedNotStored();
+    void aMillionClosingBracesEndAtTheFirst();
+    void binaryDataThatClaimMoreThanThereIsEndTheFile();
+    void fourHundredThousandEmptyBinariesAreReadOver();
+    void hugeNumbersHarmNobody_data();
+    void hugeNumbersHarmNobody();
+    void picturesThatLieAreRefused_data();
+    void picturesThatLieAreRefused();
+    void garbageIsReadInLinearTime();
+    void aFloodOfParagraphsComesInAsLinesOnceTheyCostTooMuch();
+    void theFirstFaultAndItsPlaceAreTold_data();
+    void theFirstFaultAndItsPlaceAreTold();
+};
+
+void HostileRtfTest::cutAnywhereTheTextBeforeTheCutIsKept() {
+    const QByteArray whole = test::richSample();
+    RecordingSink complete;
+    QVERIFY(readRtf(whole, complete).ok());
+    QString longest;
+    for (qsizetype length = 6; length < whole.size(); ++length) {
+        RecordingSink sink;
+        const ReadResult result = readRtf(QByteArrayView(whole).first(length), sink);
+        QVERIFY(!result.ok() || length >= whole.lastIndexOf('}'));
+        QVERIFY(result.position <= length);
+        QCOMPARE(sink.finished, 1);
+        // Only what the cut itself splits (a code, a fallback, a row's tabs) may differ.
+        QVERIFY2(complete.whole.startsWith(
+                     sink.whole.chopped(std::min<qsizetype>(3, sink.whole.size()))),
+                 qPrintable(QString::number(length)));
+        QVERIFY(sink.whole.size() + 6 >= longest.size());
+        longest = sink.whole;
+    }
+    QVERIFY(longest.size() + 2 >= complete.whole.size());
+}
+
+void HostileRtfTest::aMillionOpeningBracesAreCountedNotStored() {
+    RecordingSink sink;
+    const QByteArray rtf =
+        "{\\rtf1 a" + QByteArray(1000000, '{') + "\\b deep" + QByteArray(1000000, '}') + "b}";
+    const ReadResult result = readRtf(rtf, sink);
+    QCOMPARE(result.fault, Fault::TooDeep);
+    QCOMPARE(sink.whole, QStringLiteral("adeepb"));
+    QVERIFY(!sink.runs.last().format.bold);
+}
+
+void HostileRtfTest::aMillionClosingBracesEndAtTheFirst() {
+    RecordingSink sink;
+    const ReadResult result = readRtf("{\\rtf1 a" + QByteArray(1000000, '}'), sink);
+    QCOMPARE(result.fault, Fault::UnmatchedBrace);
+    QCOMPARE(result.position, qsizetype(9));
+    QCOMPARE(sink.whole, QStringLiteral("a"));
+}
+
+void HostileRtfTest::binaryDataThatClaimMoreThanThereIsEndTheFile() {
+    RecordingSink sink;
+    const ReadResult result = readRtf("{\\rtf1 text\\par\\bin4000000000 rest}", sink);
+    QCOMPARE(result.fault, Fault::BadBinary);
+    QCOMPARE(sink.whole, QStringLiteral("text\n"));
+    RecordingSink negative;
+    QVERIFY(readRtf("{\\rtf1 a\\bin-5 b}", negative).ok());
+    QCOMPARE(negative.whole, QStringLiteral("ab"));
+}
+
+void HostileRtfTest::fourHundredThousandEmptyBinariesAreReadOver() {
+    QByteArray rtf = "{\\rtf1 a";
+    for (int i = 0; i < 400000; ++i)
+        rtf += "\\bin0";
+    RecordingSink sink;
+    QVERIFY(readRtf(rtf + " b}", sink).ok());
+    QCOMPARE(sink.whole, QStringLiteral("ab"));
+}
+
+void HostileRtfTest::hugeNumbersHarmNobody_data() {
+    QTest::addColumn<QByteArray>("words");
+    for (const char* words : {"\\f2147483647",
+                              "\\f-1",
+                              "\\f2000000000",
+                              "\\f99999999999999999999",
+                              "\\cf2147483647",
+                              "\\cf-2147483648",
+                              "\\highlight999999",
+                              "\\fs2147483647",
+                              "\\li-2147483648",
+                              "\\fi2147483647",
+                              "\\sl-2147483648",
+                              "\\slmult2147483647",
+                              "\\tx2147483647",
+                              "\\uc2147483647",
+                              "\\uc-1",
+                              "\\ls2147483647",
+                              "\\ilvl-2147483648",
+                              "\\ansicpg0",
+                              "\\ansicpg2147483647",
+                              "\\deff-2147483648",
+                              "\\deftab2147483647",
+                              "\\up2147483647",
+                              "\\u2147483647",
+                              "\\u-2147483648"})
+        QTest::newRow(words) << QByteArray(words);
+}
+
+void HostileRtfTest::hugeNumbersHarmNobody() {
+    QFETCH(QByteArray, words);
+    QTextDocument document;
+    QVERIFY(readRtf("{\\rtf1 a" + words + "? b\\par}", document).ok());
+    QVERIFY(document.toPlainText().startsWith(u'a'));
+    QTextDocument again;
+    QVERIFY(readRtf(writeRtf(document), again).ok());
+    QCOMPARE(again.toRawText(), document.toRawText());
+}
+
+void HostileRtfTest::picturesThatLieAreRefused_data() {
+    QTest::addColumn<QByteArray>("picture");
+    QTest::newRow("bitmap of 100000 by 100000")
+        << QByteArray("{\\pict\\dibitmap0 28000000a0860100a0860100010020000000000000}");
+    QTest::newRow("bitmap without its pixels")
+        << QByteArray("{\\pict\\dibitmap0 280000000a0000000a000000010020000000000000000000}");
+    QTest::newRow("rows of 30000 by 30000")
+        << QByteArray("{\\pict\\wbitmap0\\wbmbitspixel24\\picw30000\\pich30000 00}");
+    QTest::newRow("half a header") << QByteArray("{\\pict\\pngblip 89504e470d0a}");
+    QTest::newRow("png of 100000 by 100000")
+        << QByteArray("{\\pict\\pngblip 89504e470d0a1a0a0000000d49484452000186a0000186a008020000"
+                      "00}");
+    QTest::newRow("no hexadecimal at all") << QByteArray("{\\pict\\pngblip xyz!}");
+    QTest::newRow("metafile of nothing") << QByteArray("{\\pict\\wmetafile8 0100}");
+}
+
+void HostileRtfTest::picturesThatLieAreRefused() {
+    QFETCH(QByteArray, picture);
+    QTextDocument document;
+    QElapsedTimer timer;
+    timer.start();
+    readRtf("{\\rtf1 a" + picture + "b}", document);
+    QVERIFY(timer.elapsed() < 2000);
+    QString text = document.toRawText();
+    QCOMPARE(text.remove(QChar(QChar::ObjectReplacementCharacter)), QStringLiteral("ab"));
+}
+
+void HostileRtfTest::garbageIsReadInLinearTime() {
+    const auto milliseconds = [](qsizetype size) {
+        QByteArray rtf = "{\\rtf1 ";
+        quint32 seed = 12345;
+        while (rtf.size() < size) {
+            seed = seed * 1664525 + 1013904223;
+            rtf += char(seed >> 24);
+        }
+        NullSink sink;
+        QElapsedTimer timer;
+        timer.start();
+        readRtf(rtf, sink);
+        return timer.nsecsElapsed() / 1e6;
+    };
+    const double small = milliseconds(1 << 20);
+    const double large = milliseconds(16 << 20);
+    QVERIFY2(large < small * 16 * 4 + 50,
+             qPrintable(QStringLiteral("%1 %2").arg(small).arg(large)));
+}
+
+void HostileRtfTest::aFloodOfParagraphsComesInAsLinesOnceTheyCostTooMuch() {
+    constexpr int paragraphs = 200000;
+    QByteArray rtf = "{\\rtf1 ";
+    for (int i = 0; i < paragraphs; ++i)
+        rtf += "\\\n";
+    QTextDocument document;
+    QVERIFY(readRtf(rtf + "end}", document).ok());
+    QVERIFY(document.blockCount() < paragraphs);
+    QVERIFY(document.toRawText().endsWith(QStringLiteral("end")));
+    QCOMPARE(document.characterCount(), paragraphs + 4);
+}
+
+void HostileRtfTest::theFirstFaultAndItsPlaceAreTold_data() {
+    QTest::addColumn<QByteArray>("rtf");
+    QTest::addColumn<int>("fault");
+    QTest::newRow("none") << QByteArray("{\\rtf1 a}") << int(Fault::None);
+    QTest::newRow("a line end and a zero behind the end")
+        << QByteArray("{\\rtf1 a}\r\n\0", 12) << int(Fault::None);
+    QTest::newRow("open group") << QByteArray("{\\rtf1 a{b}") << int(Fault::UnexpectedEnd);
+    QTest::newRow("open skipped group")
+        << QByteArray("{\\rtf1 a{\\info b") << int(Fault::UnexpectedEnd);
+    QTest::newRow("brace too many") << QByteArray("{\\rtf1 a}}") << int(Fault::UnmatchedBrace);
+    QTest::newRow("bad binary") << QByteArray("{\\rtf1 a\\bin9 }") << int(Fault::BadBinary);
+    QTest::newRow("not RTF") << QByteArray("a") << int(Fault::NotRtf);
+}
+
+void HostileRtfTest::theFirstFaultAndItsPlaceAreTold() {
+    QFETCH(QByteArray, rtf);
+    QFETCH(int, fault);
+    NullSink sink;
+    const ReadResult result = readRtf(rtf, sink);
+    QCOMPARE(int(result.fault), fault);
+    QVERIFY(result.position >= 0 && result.position <= rtf.size());
+}
+
+ORVALIS_TEST_MAIN_WITH(QGuiApplication, HostileRtfTest)
+#include "hostile_rtf_test.moc"

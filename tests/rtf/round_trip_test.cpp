@@ -1,0 +1,197 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "document_comparison.h"
+#include "rtf/reader.h"
+#include "rtf/writer.h"
+#include "sample_rtf.h"
+#include "support/test_main.h"
+
+#include <QGuiApplication>
+#include <QRandomGenerator>
+#include <QTextCursor>
+#include <QTextDocument>
+
+using namespace orvalis;
+using namespace orvalis::rtf;
+
+namespace {
+
+/// Makes documents of everything the writer can write, the same ones for the same seed.
+class RandomDocument {
+public:
+    explicit RandomDocument(quint32 seed)
+        : m_random(seed) {}
+
+    void fill(QTextDocument& document) {
+        QTextCursor cursor(&document);
+        const int paragraphs = 1 + below(8);
+        for (int i = 0; i < paragraphs; ++i) {
+            if (i == 0)
+                cursor.setBlockFormat(shape());
+            else
+                cursor.insertBlock(shape(), look());
+            if (below(4) == 0)
+                list(cursor);
+            const int runs = below(5);
+            for (int run = 0; run < runs; ++run)
+                cursor.insertText(text(), look());
+        }
+    }
+
+private:
+    int below(int limit) { return int(m_random.bounded(limit)); }
+
+    QString text() {
+        static const QString pieces[] = {
+            QStringLiteral("word"),   QStringLiteral(" "),      QStringLiteral("\\{}"),
+            QStringLiteral("\t"),     QStringLiteral("\u2028"), QStringLiteral("caf\u00e9"),
+            QStringLiteral("\u20ac"), QStringLiteral("\u0436"), QString::fromUcs4(U"\U0001f600"),
+            QStringLiteral("-5"),     QStringLiteral("\u00a0"), QStringLiteral("\u00ad"),
+            QStringLiteral("\u2011"), QStringLiteral("\u0081"), QStringLiteral("\u4e2d\u6587"),
+            QStringLiteral("?"),      QStringLiteral("'b7"),    QStringLiteral("  ")};
+        QString result;
+        for (int i = 1 + below(4); i > 0; --i)
+            result += pieces[below(int(std::size(pieces)))];
+        return result;
+    }
+
+    QTextCharFormat look() {
+        static const QString families[] = {QStringLiteral("Arial"), QStringLiteral("Times"),
+                                           QStringLiteral("Symbol"),
+                                           QStringLiteral("\u5b8b\u4f53")};
+        QTextCharFormat format;
+        format.setFontFamilies({families[below(4)]});
+        format.setFontPointSize(6 + below(40) / 2.0);
+        format.setFontWeight(below(3) == 0 ? QFont::Bold : QFont::Normal);
+        format.setFontItalic(below(3) == 0);
+        format.setFontStrikeOut(below(5) == 0);
+        format.setUnderlineStyle(
+            static_cast<QTextCharFormat::UnderlineStyle>(below(3) == 0 ? 1 + below(4) : 0));
+        if (below(3) == 0)
+            format.setForeground(QColor(below(256), below(256), below(256)));
+        if (below(5) == 0)
+            format.setBackground(QColor(below(256), below(256), below(256)));
+        if (below(6) == 0)
+            format.setVerticalAlignment(below(2) == 0 ? QTextCharFormat::AlignSuperScript
+                                                      : QTextCharFormat::AlignSubScript);
+        if (below(6) == 0) {
+            format.setAnchor(true);
+            format.setAnchorHref(QStringLiteral("http://a.b/%1?\"c\\d").arg(below(3)));
+        }
+        return format;
+    }
+
+    QTextBlockFormat shape() {
+        static constexpr Qt::Alignment alignments[] = {Qt::AlignLeft, Qt::AlignRight,
+                                                       Qt::AlignHCenter, Qt::AlignJustify};
+        QTextBlockFormat format;
+        format.setAlignment(alignments[below(4)]);
+        format.setLeftMargin(below(3) * 24);
+        format.setTextIndent(below(3) * 10);
+        format.setRightMargin(below(2) * 16);
+        format.setTopMargin(below(2) * 8);
+        format.setBottomMargin(below(2) * 13);
+        if (below(4) == 0)
+            format.setLineHeight(150, QTextBlockFormat::ProportionalHeight);
+        if (below(4) == 0)
+            format.setTabPositions({QTextOption::Tab(100, QTextOption::RightTab)});
+        if (below(6) == 0)
+            format.setLayoutDirection(Qt::RightToLeft);
+        return format;
+    }
+
+    void list(QTextCursor& cursor) {
+        QTextBlockFormat format = cursor.blockFormat();
+        format.setTextIndent(0);
+        format.setLeftMargin(48);
+        cursor.setBlockFormat(format);
+        QTextListFormat style;
+        style.setIndent(0);
+        style.setStyle(static_cast<QTextListFormat::Style>(
+            below(2) == 0 ? int(QTextListFormat::ListDisc)
+                          : int(QTextListFormat::ListDecimal) - below(5)));
+        if (style.style() != QTextListFormat::ListDisc)
+            style.setNumberSuffix(QStringLiteral(")"));
+        cursor.createList(style);
+    }
+
+    QRandomGenerator m_random;
+};
+
+} // namespace
+
+class RoundTripTest : public QObject {
+    Q_OBJECT
+private slots:
+    void randomDocumentsSurviveWritingAndReading();
+    void theSameDocumentGivesTheSameBytes();
+    void whatWasReadIsWrittenTheSameAgain();
+    void everyPartOfADocumentCanBeWritten();
+    void onlyAsciiIsWritten();
+};
+
+void RoundTripTest::randomDocumentsSurviveWritingAndReading() {
+    for (quint32 seed = 0; seed < 400; ++seed) {
+        QTextDocument document;
+        RandomDocument(seed).fill(document);
+        const QByteArray written = writeRtf(document);
+        QTextDocument again;
+        QVERIFY(readRtf(written, again).ok());
+        const QString difference = test::firstDifference(document, again);
+        QVERIFY2(difference.isEmpty(),
+                 qPrintable(QStringLiteral("seed %1: %2").arg(seed).arg(difference)));
+        const QByteArray second = writeRtf(again);
+        const auto parted =
+            std::mismatch(written.begin(), written.end(), second.begin(), second.end());
+        QVERIFY2(second == written, written.mid(parted.first - written.begin() - 60, 120) + "\n" +
+                                        second.mid(parted.second - second.begin() - 60, 120));
+    }
+}
+
+void RoundTripTest::theSameDocumentGivesTheSameBytes() {
+    QTextDocument one;
+    QTextDocument other;
+    RandomDocument(7).fill(one);
+    RandomDocument(7).fill(other);
+    QCOMPARE(writeRtf(one), writeRtf(one));
+    QCOMPARE(writeRtf(one), writeRtf(other));
+}
+
+void RoundTripTest::whatWasReadIsWrittenTheSameAgain() {
+    QTextDocument document;
+    QVERIFY(readRtf(test::richSample(), document).ok());
+    const QByteArray written = writeRtf(document);
+    QTextDocument again;
+    QVERIFY(readRtf(written, again).ok());
+    QCOMPARE(test::firstDifference(document, again), QString());
+    QCOMPARE(writeRtf(again), written);
+}
+
+void RoundTripTest::everyPartOfADocumentCanBeWritten() {
+    QTextDocument document;
+    QVERIFY(readRtf(test::richSample(), document).ok());
+    const QString text = document.toRawText();
+    for (int from = 0; from <= text.size(); from += 3) {
+        for (int to = from; to <= text.size(); to += 5) {
+            QTextDocument part;
+            QVERIFY(readRtf(writeRtf(document, to, from), part).ok());
+            QCOMPARE(part.toRawText(), text.mid(from, to - from));
+        }
+    }
+}
+
+void RoundTripTest::onlyAsciiIsWritten() {
+    for (quint32 seed = 0; seed < 50; ++seed) {
+        QTextDocument document;
+        RandomDocument(seed).fill(document);
+        const QByteArray written = writeRtf(document);
+        QVERIFY(std::all_of(written.begin(), written.end(), [](char c) {
+            return (c >= 0x20 && c < 0x7f) || c == '\r' || c == '\n';
+        }));
+        QVERIFY(written.startsWith("{\\rtf1\\ansi\\ansicpg1252\\deff0"));
+        QVERIFY(written.endsWith("\\par\r\n}\r\n"));
+    }
+}
+
+ORVALIS_TEST_MAIN_WITH(QGuiApplication, RoundTripTest)
+#include "round_trip_test.moc"

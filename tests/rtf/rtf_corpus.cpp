@@ -1,0 +1,161 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+//
+// Measures reader and writer on a folder of RTF files of many makers:
+//
+//     rtf_corpus FOLDER
+//
+// FOLDER/files holds the documents, in any depth; FOLDER/text/NAME.txt, where there is one, the
+// text expected of files/NAME. Prints a line for each miss and the totals.
+#include "document_comparison.h"
+#include "rtf/reader.h"
+#include "rtf/writer.h"
+#include "support/test_main.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QGuiApplication>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextList>
+
+#include <algorithm>
+#include <cstdio>
+
+using namespace orvalis;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Totals {
+    int files = 0;
+    int opened = 0;
+    int withText = 0;
+    int textAgrees = 0;
+    int roundTrips = 0;
+    qint64 slowest = 0;
+    QString slowestFile;
+};
+
+QByteArray contentOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// Runs of white space count as one blank. Marks without a width are left out: one word processor
+// keeps runs of blanks apart with U+2006, others put direction marks around them. So are pictures,
+// which a text has not, and bullets, which one reader prints and another draws.
+QString folded(QString text) {
+    static const QRegularExpression unseen(
+        u"[\u00ad\u2006\u200b-\u200f\u202a-\u202e\ufeff\ufffc\u2022\u25e6\u25aa]"_s);
+    return text.remove(unseen).simplified();
+}
+
+// The text with the labels of numbered lists in front of their items, as other readers print them.
+QString textWithLabels(const QTextDocument& document) {
+    QString text;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        const QTextList* list = block.textList();
+        if (list && list->format().style() != QTextListFormat::ListDisc)
+            text += list->itemText(block) + u' ';
+        text += block.text() + u'\n';
+    }
+    return text;
+}
+
+// Readers differ in how they show what has no meaning, and in whether they print the numbers in
+// front of list items, so where nothing else helps both are left out.
+QString withoutLabels(QString text) {
+    static const QRegularExpression label(u"(^| )[0-9]+([.][0-9]+)*[.)]?(?= |$)"_s);
+    static const QRegularExpression meaningless(u"[?\\x{fffd}]"_s);
+    return text.remove(meaningless).remove(label).simplified();
+}
+
+bool agrees(const QString& expected, const QTextDocument& document) {
+    const QString found = folded(document.toRawText());
+    return expected == found || expected == folded(textWithLabels(document)) ||
+           withoutLabels(expected) == withoutLabels(found);
+}
+
+void miss(const char* what, const QString& file, const QString& why) {
+    std::printf("%s\t%s\t%s\n", what, qUtf8Printable(file), qUtf8Printable(why));
+}
+
+QString firstDifference(const QString& expected, const QString& found) {
+    qsizetype at = 0;
+    while (at < std::min(expected.size(), found.size()) && expected[at] == found[at])
+        ++at;
+    const qsizetype from = std::max<qsizetype>(at - 20, 0);
+    return u"at %1: expected \"%2\", found \"%3\""_s.arg(at).arg(expected.mid(from, 60),
+                                                                 found.mid(from, 60));
+}
+
+void measure(const QDir& root, const QString& name, Totals& totals) {
+    ++totals.files;
+    const QByteArray bytes = contentOf(root.filePath(u"files/"_s + name));
+    QTextDocument document;
+    QElapsedTimer timer;
+    timer.start();
+    const rtf::ReadResult result = rtf::readRtf(bytes, document);
+    if (timer.elapsed() > totals.slowest) {
+        totals.slowest = timer.elapsed();
+        totals.slowestFile = name;
+    }
+    if (result.fault == rtf::Fault::NotRtf)
+        miss("OPEN", name, u"does not begin as RTF"_s);
+    else
+        ++totals.opened;
+
+    const QString textPath = root.filePath(u"text/"_s + name + u".txt"_s);
+    if (QFile::exists(textPath)) {
+        ++totals.withText;
+        const QString expected = folded(QString::fromUtf8(contentOf(textPath)));
+        const QString found = folded(document.toRawText());
+        if (agrees(expected, document))
+            ++totals.textAgrees;
+        else
+            miss("TEXT", name, firstDifference(expected, found));
+    }
+
+    QTextDocument again;
+    rtf::readRtf(rtf::writeRtf(document), again);
+    const QString difference = test::firstDifference(document, again);
+    if (difference.isEmpty())
+        ++totals.roundTrips;
+    else
+        miss("KEEP", name, difference);
+}
+
+void total(const char* what, int hits, int of) {
+    std::printf("%-60s %4d of %4d  %6.2f %%\n", what, hits, of, of ? 100.0 * hits / of : 0.0);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    test::fixedGround();
+    QGuiApplication app(argc, argv);
+    if (argc != 2) {
+        std::fprintf(stderr, "usage: rtf_corpus FOLDER\n");
+        return 2;
+    }
+    const QDir root(QString::fromLocal8Bit(argv[1]));
+    const QDir files(root.filePath(u"files"_s));
+    QStringList names;
+    QDirIterator it(files.path(), {u"*.rtf"_s}, QDir::Files | QDir::Hidden,
+                    QDirIterator::Subdirectories);
+    while (it.hasNext())
+        names << files.relativeFilePath(it.next());
+    names.sort();
+    Totals totals;
+    for (const QString& name : std::as_const(names))
+        measure(root, name, totals);
+    total("opens", totals.opened, totals.files);
+    total("text agrees, of the files that have one", totals.textAgrees, totals.withText);
+    total("kept through reading, writing and reading", totals.roundTrips, totals.files);
+    std::printf("slowest to read: %lld ms, %s\n", static_cast<long long>(totals.slowest),
+                qUtf8Printable(totals.slowestFile));
+    return totals.files > 0 ? 0 : 1;
+}

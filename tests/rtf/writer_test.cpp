@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/reader.h"
+#include "rtf/writer.h"
+#include "support/test_main.h"
+
+#include <QGuiApplication>
+#include <QTextDocument>
+
+using namespace orvalis;
+using namespace orvalis::rtf;
+
+class WriterTest : public QObject {
+    Q_OBJECT
+private slots:
+    void whatIsWrittenIsReadAgain();
+};
+
+void WriterTest::whatIsWrittenIsReadAgain() {
+    const QByteArray source =
+        "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0\\fnil Arial;}{\\f1\\froman\\fcharset238 Times;}}"
+        "{\\colortbl;\\red255\\green0\\blue0;}\\pard\\qc\\cf1\\b\\fs28 Title\\b0\\cf0\\fs20\\par"
+        "\\pard{\\pntext\\f1\\'B7\\tab}{\\*\\pn\\pnlvlblt\\pnf1{\\pntxtb\\'B7}}\\fi-360\\li720 "
+        "item\\par"
+        "\\pard\\f1 \\'e8\\f0  {\\field{\\*\\fldinst{HYPERLINK \"http://a.b/\"}}{\\fldrslt{link}}}"
+        "\\line x\\par}";
+    QTextDocument document;
+    QVERIFY(readRtf(source, document).ok());
+    QCOMPARE(document.toPlainText(), QStringLiteral("Title\nitem\n\u010d link\nx"));
+    const QByteArray written = writeRtf(document);
+    QTextDocument again;
+    QVERIFY(readRtf(written, again).ok());
+    QCOMPARE(again.toPlainText(), document.toPlainText());
+    QCOMPARE(writeRtf(again), written);
+}
+
+ORVALIS_TEST_MAIN_WITH(QGuiApplication, WriterTest)
+#include "writer_test.moc"

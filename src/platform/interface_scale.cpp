@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "platform/interface_scale.h"
+
+#include "platform/display_probe.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace orvalis {
+
+namespace {
+
+constexpr double drawnWidth = 900;
+constexpr double drawnHeight = 600;
+constexpr double stepsToOne = 8;
+/// A screen that fits exactly must not lose a step to a quotient's last digit.
+constexpr double slack = 1e-6;
+
+/// The user's scale factor while ours stands in its place.
+std::optional<QByteArray>& replacedFactor() {
+    static std::optional<QByteArray> factor;
+    return factor;
+}
+
+} // namespace
+
+double interfaceScale(double width, double height) {
+    const double fitting = std::min(width / drawnWidth, height / drawnHeight);
+    return std::max(1.0, std::floor(fitting * stepsToOne + slack) / stepsToOne);
+}
+
+double applyInterfaceScale() {
+    const std::optional<QSizeF> screen = primaryScreenSize();
+    const double scale = screen ? interfaceScale(screen->width(), screen->height()) : 1.0;
+    if (scale > 1.0 && !replacedFactor()) {
+        replacedFactor() = qgetenv(scaleVariable);
+        qputenv(scaleVariable, QByteArray::number(userFactor() * scale));
+    }
+    return scale;
+}
+
+void withdrawInterfaceScale() {
+    releaseX11Screen();
+    if (!replacedFactor())
+        return;
+    if (replacedFactor()->isEmpty())
+        qunsetenv(scaleVariable);
+    else
+        qputenv(scaleVariable, *replacedFactor());
+    replacedFactor().reset();
+}
+
+QByteArray userScaleFactor() {
+    return replacedFactor().value_or(qgetenv(scaleVariable));
+}
+
+} // namespace orvalis

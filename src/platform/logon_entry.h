@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace orvalis {
+
+/// The programs that start at the user's logon. Failures are silent.
+class LogonEntry {
+public:
+    virtual ~LogonEntry() = default;
+    virtual void set(const QString& name, const QString& programPath) = 0;
+    virtual void remove(const QString& name) = 0;
+};
+
+/// Logon entries as files in the desktop's autostart folder.
+class XdgLogonEntry final : public LogonEntry {
+public:
+    explicit XdgLogonEntry(const QString& autostartFolder = defaultFolder());
+
+    static QString defaultFolder();
+
+    void set(const QString& name, const QString& programPath) override;
+    void remove(const QString& name) override;
+
+    /// The file of an entry.
+    QString filePath(const QString& name) const;
+
+private:
+    QString m_folder;
+};
+
+/// The content of a desktop entry that starts a program, whatever characters its path holds.
+QByteArray autostartContent(const QString& name, const QString& programPath);
+
+} // namespace orvalis

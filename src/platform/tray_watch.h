@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+
+namespace orvalis {
+
+/// The kinds of tray that a desktop may have.
+enum class TrayKind { StatusNotifier, XEmbed };
+
+/// Knows which trays the desktop has, and hears of their coming and going while it is awake.
+class TrayWatch : public QObject {
+    Q_OBJECT
+public:
+    virtual bool has(TrayKind kind) = 0;
+    /// Asleep it wakes nobody up; `changed` may then be late.
+    virtual void setAwake(bool awake) = 0;
+
+signals:
+    /// A tray came or went.
+    void changed();
+};
+
+/// Looks at the session bus for a StatusNotifier watcher with a host, and at the X server for the
+/// owner of the tray selection.
+class DesktopTrayWatch final : public TrayWatch {
+    Q_OBJECT
+public:
+    DesktopTrayWatch();
+
+    bool has(TrayKind kind) override;
+    void setAwake(bool awake) override;
+
+private:
+    QTimer m_lookForXEmbed;
+    bool m_hadXEmbed = false;
+};
+
+} // namespace orvalis

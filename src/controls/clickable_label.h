@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "controls/pressable.h"
+
+#include <QLabel>
+
+namespace orvalis {
+
+/// What pictures and texts on a form have in common: they tell of the mouse over them, and whoever
+/// listens makes a button of them. Mouse events end here: they are not handed on to what lies
+/// under the control. A handler of any signal may delete the control.
+class ClickableLabel : public QLabel, public Pressable {
+    Q_OBJECT
+public:
+    explicit ClickableLabel(QWidget* parent);
+
+    void press() override;
+    /// True as soon as somebody listens to MouseDown or Click.
+    bool isPressable() const override;
+
+signals:
+    /// A button went down, the second press of a double click too. \a Button: 1 left, 2 right, 4
+    /// middle; \a Shift: 1 shift, 2 control, 4 alt, added up; the point in logical pixels.
+    void MouseDown(int Button, int Shift, float X, float Y);
+    /// The pointer moved over the control, with or without buttons held, whose numbers are added.
+    void MouseMove(int Button, int Shift, float X, float Y);
+    void MouseUp(int Button, int Shift, float X, float Y);
+    /// The left button went down and up inside. Comes before MouseUp.
+    void Click();
+    void DblClick();
+    void MouseEnter();
+    void MouseExit();
+
+protected:
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    bool m_leftHeld = false;
+};
+
+} // namespace orvalis

@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "controls/common_dialog.h"
+
+#include "controls/font_dialog.h"
+#include "controls/form.h"
+#include "controls/program_end.h"
+#include "runtime/colour.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QFileDialog>
+
+namespace orvalis {
+
+namespace {
+
+QWidget* owner() {
+    Form* form = Form::lastActive();
+    return form != nullptr && form->isVisible() ? form : nullptr;
+}
+
+/// Shows a dialog over the form that the user is in, also where that form lies on top of all.
+int run(QDialog& dialog) {
+    dialog.setWindowFlag(Qt::WindowStaysOnTopHint);
+    const int result = dialog.exec();
+    throwIfEnded();
+    return result;
+}
+
+std::optional<QString> chooseFile(const FileRequest& request, QFileDialog::AcceptMode mode,
+                                  const QString& title) {
+    QFileDialog dialog(owner(), request.title.isEmpty() ? title : request.title, request.directory);
+    dialog.setObjectName(QStringLiteral("FileDialog"));
+    dialog.setAcceptMode(mode);
+    // A name that does not exist is the caller's to judge, who has words of his own for it.
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    const QStringList filters = nameFilters(request.filter);
+    if (!filters.isEmpty())
+        dialog.setNameFilters(filters);
+    if (!request.fileName.isEmpty())
+        dialog.selectFile(request.fileName);
+    if (run(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return QDir::toNativeSeparators(dialog.selectedFiles().constFirst());
+}
+
+} // namespace
+
+void CommonDialog::ShowOpen() {
+    if (const auto chosen = m_dialogs.openFile(fileRequest()))
+        FileName = *chosen;
+    else
+        cancelled();
+}
+
+void CommonDialog::ShowSave() {
+    if (const auto chosen = m_dialogs.saveFile(fileRequest()))
+        FileName = *chosen;
+    else
+        cancelled();
+}
+
+void CommonDialog::ShowFont() {
+    const FontChoice present{.italic = FontItalic,
+                             .bold = FontBold,
+                             .name = FontName,
+                             .size = FontSize,
+                             .strikethrough = FontStrikethru,
+                             .underline = FontUnderline,
+                             .colour = Color};
+    const auto chosen = m_dialogs.chooseFont(present);
+    if (!chosen) {
+        cancelled();
+        return;
+    }
+    FontItalic = chosen->italic;
+    FontBold = chosen->bold;
+    FontName = chosen->name;
+    FontSize = chosen->size;
+    FontStrikethru = chosen->strikethrough;
+    FontUnderline = chosen->underline;
+    Color = chosen->colour;
+}
+
+void CommonDialog::ShowColor() {
+    if (const auto chosen = m_dialogs.chooseColour(Color))
+        Color = *chosen;
+    else
+        cancelled();
+}
+
+void CommonDialog::cancelled() const {
+    if (CancelError)
+        throw RuntimeError(ErrorNumber::CancelWasSelected);
+}
+
+FileRequest CommonDialog::fileRequest() const {
+    return {.filter = Filter, .directory = InitDir, .fileName = FileName, .title = DialogTitle};
+}
+
+std::optional<QString> QtDialogs::openFile(const FileRequest& request) {
+    return chooseFile(request, QFileDialog::AcceptOpen, QStringLiteral("Open"));
+}
+
+std::optional<QString> QtDialogs::saveFile(const FileRequest& request) {
+    return chooseFile(request, QFileDialog::AcceptSave, QStringLiteral("Save As"));
+}
+
+std::optional<FontChoice> QtDialogs::chooseFont(const FontChoice& present) {
+    FontDialog dialog(
+        present, [this](quint32 colour) { return chooseColour(colour); }, owner());
+    if (run(dialog) != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.choice();
+}
+
+std::optional<quint32> QtDialogs::chooseColour(quint32 present) {
+    QWidget* above = QApplication::activeModalWidget();
+    QColorDialog dialog(toQColor(present), above != nullptr ? above : owner());
+    dialog.setObjectName(QStringLiteral("ColourDialog"));
+    if (run(dialog) != QDialog::Accepted)
+        return std::nullopt;
+    return fromQColor(dialog.selectedColor());
+}
+
+QStringList nameFilters(const QString& filter) {
+    QStringList filters;
+    const QStringList pieces = filter.split(u'|');
+    for (qsizetype i = 0; i + 1 < pieces.size(); i += 2) {
+        QString words = pieces[i].trimmed();
+        QString patterns = pieces[i + 1];
+        patterns.replace(u';', u' ');
+        // The words often repeat the patterns in brackets; a file dialog would take those for its
+        // patterns, without the blanks that it wants between them.
+        const qsizetype bracket = words.lastIndexOf(u'(');
+        if (bracket > 0 && words.endsWith(u')'))
+            words = words.left(bracket).trimmed();
+        if (patterns.trimmed() == QLatin1String("*.*"))
+            patterns = QStringLiteral("*");
+        filters << words + QStringLiteral(" (") + patterns.trimmed() + u')';
+    }
+    return filters;
+}
+
+} // namespace orvalis

@@ -1,0 +1,158 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "controls/format_range.h"
+
+#include "controls/text_positions.h"
+#include "runtime/twips.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QPainter>
+#include <QPalette>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextLayout>
+
+#include <algorithm>
+
+namespace orvalis {
+namespace {
+
+constexpr qreal twipsPerInch = 1440;
+
+/// The size of a picture in logical pixels as the layout will take it.
+QSizeF pictureSize(const QTextDocument& document, const QTextImageFormat& format) {
+    QSizeF size(format.width(), format.height());
+    if (size.width() > 0 && size.height() > 0)
+        return size;
+    const QVariant picture = document.resource(QTextDocument::ImageResource, QUrl(format.name()));
+    const QSizeF own = picture.value<QImage>().size();
+    if (own.isEmpty())
+        return {};
+    if (size.width() > 0)
+        return own * (size.width() / own.width());
+    return size.height() > 0 ? own * (size.height() / own.height()) : own;
+}
+
+} // namespace
+
+void RangeFormatter::release() {
+    m_copy.reset();
+    m_lines.clear();
+    m_document = nullptr;
+}
+
+int RangeFormatter::format(const QTextDocument& document, const TextPositions& positions,
+                           const FormatRange& range) {
+    prepare(document, range);
+    const int length = positions.length();
+    const int stop = range.last < 0 ? length : std::min(range.last, length);
+    if (m_lines.empty())
+        return stop;
+    const int firstPosition = positions.positionOf(range.first);
+    const int stopPosition = positions.positionOf(stop);
+
+    const auto behind = [](int position, const Line& line) { return position < line.position; };
+    auto first = std::upper_bound(m_lines.begin(), m_lines.end(), firstPosition, behind);
+    if (first != m_lines.begin())
+        --first;
+    const qreal height = range.rect.height() * range.device->logicalDpiY() / twipsPerInch;
+    auto line = first + 1;
+    while (line != m_lines.end() && line->bottom - first->top <= height && !line->startsPage &&
+           (line->position < stopPosition || stop == length))
+        ++line;
+    if (range.painter)
+        draw(range, *first, *(line - 1));
+    return line == m_lines.end() ? stop : std::min(stop, positions.indexOf(line->position));
+}
+
+void RangeFormatter::prepare(const QTextDocument& document, const FormatRange& range) {
+    const QSizeF page = range.rect.size();
+    if (m_copy && m_document == &document && m_revision == document.revision() &&
+        m_device == range.device && m_page == page)
+        return;
+    m_document = &document;
+    m_revision = document.revision();
+    m_device = range.device;
+    m_page = page;
+    m_copy.reset(document.clone());
+    m_copy->setUndoRedoEnabled(false);
+    m_copy->setDocumentMargin(0);
+    QTextOption option = m_copy->defaultTextOption();
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    m_copy->setDefaultTextOption(option);
+    shrinkPictures(page / twipsPerPixel);
+    m_copy->documentLayout()->setPaintDevice(range.device);
+    m_copy->setTextWidth(page.width() * range.device->logicalDpiX() / twipsPerInch);
+    collectLines();
+}
+
+void RangeFormatter::shrinkPictures(const QSizeF& page) {
+    for (QTextBlock block = m_copy->begin(); block.isValid(); block = block.next()) {
+        const QTextBlockFormat paragraph = block.blockFormat();
+        const qreal room =
+            page.width() - qMax(0.0, paragraph.leftMargin()) - qMax(0.0, paragraph.rightMargin());
+        struct Picture {
+            int position;
+            QTextImageFormat format;
+        };
+        std::vector<Picture> shrunk;
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextFragment fragment = it.fragment();
+            if (!fragment.charFormat().isImageFormat())
+                continue;
+            QTextImageFormat format = fragment.charFormat().toImageFormat();
+            const QSizeF size = pictureSize(*m_copy, format);
+            // Below the picture the line still has room for letters that reach under it.
+            const qreal descent = QFontMetricsF(format.font()).descent() + 1;
+            const QSizeF most(qMax(1.0, room), qMax(1.0, page.height() - descent));
+            if (size.width() <= most.width() && size.height() <= most.height())
+                continue;
+            const QSizeF scaled = size.scaled(most, Qt::KeepAspectRatio);
+            format.setWidth(scaled.width());
+            format.setHeight(scaled.height());
+            for (int at = 0; at < fragment.length(); ++at)
+                shrunk.push_back({fragment.position() + at, format});
+        }
+        QTextCursor cursor(m_copy.get());
+        for (const Picture& picture : shrunk) {
+            cursor.setPosition(picture.position);
+            cursor.setPosition(picture.position + 1, QTextCursor::KeepAnchor);
+            cursor.setCharFormat(picture.format);
+        }
+    }
+}
+
+void RangeFormatter::collectLines() {
+    m_lines.clear();
+    m_copy->documentLayout()->documentSize(); // lays all of it out
+    for (QTextBlock block = m_copy->begin(); block.isValid(); block = block.next()) {
+        m_copy->documentLayout()->blockBoundingRect(block);
+        const QTextLayout& layout = *block.layout();
+        const bool newPage =
+            block.blockFormat().pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore;
+        for (int i = 0; i < layout.lineCount(); ++i) {
+            const QTextLine line = layout.lineAt(i);
+            const qreal top = layout.position().y() + line.y();
+            m_lines.push_back(
+                {block.position() + line.textStart(), top, top + line.height(), newPage && i == 0});
+        }
+    }
+}
+
+void RangeFormatter::draw(const FormatRange& range, const Line& first, const Line& last) {
+    QPainter& painter = *range.painter;
+    const qreal unitsX = range.device->logicalDpiX() / twipsPerInch;
+    const qreal unitsY = range.device->logicalDpiY() / twipsPerInch;
+    const QRectF band(-range.rect.left() * unitsX, first.top,
+                      (range.rect.right() + range.rect.left()) * unitsX, last.bottom - first.top);
+    painter.save();
+    painter.translate(range.rect.left() * unitsX, range.rect.top() * unitsY - first.top);
+    painter.setClipRect(band, Qt::IntersectClip);
+    QAbstractTextDocumentLayout::PaintContext context;
+    context.clip = band;
+    context.palette.setColor(QPalette::Text, Qt::black);
+    m_copy->documentLayout()->draw(&painter, context);
+    painter.restore();
+}
+
+} // namespace orvalis

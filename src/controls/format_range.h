@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QRectF>
+#include <QTextDocument>
+
+#include <memory>
+#include <vector>
+
+class QPainter;
+class QPaintDevice;
+
+namespace orvalis {
+
+class TextPositions;
+
+/// One page to be formatted.
+struct FormatRange {
+    QPainter* painter = nullptr;    ///< draws the page; none: it is only measured
+    QPaintDevice* device = nullptr; ///< what is measured by, and drawn on
+    QRectF rect;                    ///< where the text goes, in twips from the painter's origin
+    int first = 0;                  ///< the first character, a position in the plain text
+    int last = -1;                  ///< where to stop; -1: the end of the text
+};
+
+/// Breaks a document into pages: lays a copy of it out for the device once, and hands its lines
+/// out page by page. No line is cut in two, and a picture larger than the page shrinks to it.
+class RangeFormatter {
+public:
+    /// \returns the position of the first character that did not fit. A page takes at least one
+    /// line, whatever its height.
+    int format(const QTextDocument& document, const TextPositions& positions,
+               const FormatRange& range);
+    /// Forgets the copy.
+    void release();
+
+private:
+    struct Line {
+        int position; ///< of its first character in the document
+        qreal top;
+        qreal bottom;
+        bool startsPage;
+    };
+
+    void prepare(const QTextDocument& document, const FormatRange& range);
+    void shrinkPictures(const QSizeF& page);
+    void collectLines();
+    void draw(const FormatRange& range, const Line& first, const Line& last);
+
+    std::unique_ptr<QTextDocument> m_copy;
+    std::vector<Line> m_lines;
+    const QTextDocument* m_document = nullptr;
+    int m_revision = 0;
+    QPaintDevice* m_device = nullptr;
+    QSizeF m_page; ///< twips
+};
+
+} // namespace orvalis

@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "controls/msg_box.h"
+
+#include "controls/form.h"
+#include "controls/program_end.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMessageBox>
+
+namespace orvalis {
+
+namespace {
+
+constexpr int ButtonsMask = 0x0f;
+constexpr int IconMask = 0x70;
+
+QMessageBox::StandardButtons buttonsOf(int flags) {
+    switch (flags & ButtonsMask) {
+    case MsgFlags::OkCancel:
+        return QMessageBox::Ok | QMessageBox::Cancel;
+    case MsgFlags::YesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    default:
+        return QMessageBox::Ok;
+    }
+}
+
+QMessageBox::Icon iconOf(int flags) {
+    switch (flags & IconMask) {
+    case MsgFlags::StopIcon:
+        return QMessageBox::Critical;
+    case MsgFlags::QuestionIcon:
+        return QMessageBox::Question;
+    case MsgFlags::ExclamationIcon:
+        return QMessageBox::Warning;
+    case MsgFlags::InformationIcon:
+        return QMessageBox::Information;
+    default:
+        return QMessageBox::NoIcon;
+    }
+}
+
+/// A Yes-No question takes no third way out: Qt would read Escape and the close button as No.
+class Box final : public QMessageBox {
+public:
+    Box(int flags, QWidget* parent)
+        : QMessageBox(parent)
+        , m_mustBeAnswered((flags & ButtonsMask) == MsgFlags::YesNo) {}
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (m_mustBeAnswered && event->matches(QKeySequence::Cancel)) {
+            event->accept();
+            return;
+        }
+        QMessageBox::keyPressEvent(event);
+    }
+    void closeEvent(QCloseEvent* event) override {
+        if (m_mustBeAnswered) {
+            event->ignore();
+            return;
+        }
+        QMessageBox::closeEvent(event);
+    }
+
+private:
+    bool m_mustBeAnswered;
+};
+
+Answer answerOf(int button) {
+    switch (button) {
+    case QMessageBox::Yes:
+        return Answer::Yes;
+    case QMessageBox::No:
+        return Answer::No;
+    case QMessageBox::Cancel:
+        return Answer::Cancel;
+    default:
+        return Answer::Ok;
+    }
+}
+
+} // namespace
+
+Answer QtMessageBoxes::MsgBox(const QString& text, int flags, const QString& title) {
+    QWidget* owner = Form::lastActive();
+    Box box(flags, owner != nullptr && owner->isVisible() ? owner : nullptr);
+    box.setObjectName(QStringLiteral("MsgBox"));
+    box.setWindowTitle(title.isEmpty() ? QStringLiteral("Orvalis") : title);
+    // Texts may quote a path or a record, which must not be read as markup.
+    box.setTextFormat(Qt::PlainText);
+    box.setText(text);
+    box.setIcon(iconOf(flags));
+    box.setStandardButtons(buttonsOf(flags));
+    const auto buttons = box.buttons();
+    const int defaultButton = (flags & MsgFlags::SecondButtonIsDefault) != 0 ? 1 : 0;
+    if (buttonsOf(flags).testFlag(QMessageBox::Yes))
+        box.setDefaultButton(defaultButton == 0 ? QMessageBox::Yes : QMessageBox::No);
+    else
+        box.setDefaultButton(defaultButton == 0 || buttons.size() == 1 ? QMessageBox::Ok
+                                                                       : QMessageBox::Cancel);
+    // Stickers may lie on top of everything, the question must not hide below them.
+    box.setWindowFlag(Qt::WindowStaysOnTopHint);
+    const int button = box.exec();
+    throwIfEnded();
+    return answerOf(button);
+}
+
+} // namespace orvalis

@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "controls/rich_clipboard.h"
+
+#include "controls/control_marks.h"
+#include "controls/document_reading.h"
+#include "controls/html_import.h"
+#include "rtf/picture_format.h"
+#include "rtf/reader.h"
+#include "rtf/writer.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QMimeData>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextDocumentFragment>
+
+#include <algorithm>
+#include <iterator>
+
+namespace orvalis {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// The names under which desktops and programs know RTF.
+const QString rtfNames[] = {u"text/rtf"_s, u"application/rtf"_s, u"text/richtext"_s,
+                            u"application/x-qt-windows-mime;value=\"Rich Text Format\""_s};
+const QString pictureNames[] = {u"image/png"_s, u"image/jpeg"_s};
+
+QByteArray rtfOf(const QMimeData& data) {
+    for (const QString& name : rtfNames) {
+        const QByteArray bytes = data.data(name);
+        if (rtf::looksLikeRtf(bytes))
+            return bytes;
+    }
+    return {};
+}
+
+/// The picture's own bytes where they can be kept, so that a photograph stays as small as it is.
+QByteArray pictureOf(const QMimeData& data) {
+    for (const QString& name : pictureNames) {
+        const QByteArray bytes = data.data(name);
+        if (!bytes.isEmpty())
+            return bytes;
+    }
+    QByteArray bytes;
+    const auto image = qvariant_cast<QImage>(data.imageData());
+    if (!image.isNull()) {
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::WriteOnly);
+        image.save(&buffer, "PNG");
+    }
+    return bytes;
+}
+
+bool offersPicture(const QMimeData& data) {
+    return data.hasImage() ||
+           std::any_of(std::begin(pictureNames), std::end(pictureNames),
+                       [&](const QString& name) { return data.hasFormat(name); });
+}
+
+bool takePicture(const QMimeData& data, QTextCursor& selection) {
+    const QByteArray bytes = pictureOf(data);
+    return !bytes.isEmpty() && rtf::insertPicture(selection, bytes);
+}
+
+/// HTML in which each picture carries its bytes along: the name it has here means nothing
+/// elsewhere.
+QString htmlOf(const QTextCursor& selection) {
+    QString html = selection.selection().toHtml();
+    const QTextDocument& document = *selection.document();
+    const int to = selection.selectionEnd();
+    QTextBlock block = document.findBlock(selection.selectionStart());
+    for (; block.isValid() && block.position() < to; block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextCharFormat format = it.fragment().charFormat();
+            if (!format.isImageFormat())
+                continue;
+            const rtf::Picture picture = rtf::pictureOfFormat(document, format.toImageFormat());
+            const bool jpeg = picture.kind == rtf::PictureKind::Jpeg;
+            if (jpeg || picture.kind == rtf::PictureKind::Png)
+                html.replace(format.toImageFormat().name(),
+                             (jpeg ? u"data:image/jpeg;base64,"_s : u"data:image/png;base64,"_s) +
+                                 QString::fromLatin1(picture.bytes.toBase64()));
+        }
+    }
+    return html;
+}
+
+/// Line ends of other programs, as a document knows them.
+QString withCrLf(QString text) {
+    text.replace(u"\r\n"_s, u"\n"_s);
+    text.replace(u'\r', u'\n');
+    return text.replace(u"\n"_s, u"\r\n"_s);
+}
+
+} // namespace
+
+std::unique_ptr<QMimeData> clipboardData(const QTextCursor& selection, const QString& plain) {
+    auto data = std::make_unique<QMimeData>();
+    const QByteArray rtf =
+        rtf::writeRtf(*selection.document(), selection.selectionStart(), selection.selectionEnd());
+    for (const QString& name : rtfNames)
+        data->setData(name, rtf);
+    data->setHtml(htmlOf(selection));
+    data->setText(QString(plain).replace(u"\r\n"_s, u"\n"_s));
+    return data;
+}
+
+bool canTake(const QMimeData& data) {
+    return data.hasText() || data.hasHtml() || offersPicture(data) || !rtfOf(data).isEmpty();
+}
+
+bool takeClipboard(const QMimeData& data, QTextCursor& selection, const QTextCharFormat& plain) {
+    const QByteArray rtf = rtfOf(data);
+    if (!rtf.isEmpty() && rtf::insertRtf(rtf, selection, readOptions()).fault != rtf::Fault::NotRtf)
+        return true;
+    // A browser offers a picture as a page that only points to it.
+    if (offersPicture(data) && data.text().trimmed().isEmpty() && takePicture(data, selection))
+        return true;
+    if (data.hasHtml() && insertHtml(selection, data.html(), plain))
+        return true;
+    if (data.hasText()) {
+        selection.beginEditBlock();
+        selection.removeSelectedText();
+        insertPlain(selection, withCrLf(data.text()), plain);
+        selection.endEditBlock();
+        return true;
+    }
+    return offersPicture(data) && takePicture(data, selection);
+}
+
+} // namespace orvalis

@@ -1,0 +1,365 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "controls/rich_text_box.h"
+
+#include "controls/control_marks.h"
+#include "controls/document_reading.h"
+#include "controls/format_range.h"
+#include "controls/selection_format.h"
+#include "controls/text_positions.h"
+#include "controls/text_search.h"
+#include "rtf/reader.h"
+#include "rtf/writer.h"
+#include "runtime/failure.h"
+#include "runtime/text_file.h"
+
+#include <QTextBlock>
+#include <QTextDocument>
+
+#include <algorithm>
+#include <exception>
+#include <utility>
+
+namespace orvalis {
+namespace {
+
+void require(bool valid) {
+    if (!valid)
+        throw RuntimeError(ErrorNumber::InvalidPropertyValue);
+}
+
+/// The bytes of RTF that came as a string. RTF is ASCII; any other character in it is spelled out.
+QByteArray bytesOfRtf(const QString& rtf) {
+    QByteArray bytes;
+    bytes.reserve(rtf.size());
+    for (const QChar c : rtf) {
+        if (c.unicode() < 0x80)
+            bytes += char(c.unicode());
+        else
+            bytes += "{\\uc0\\u" + QByteArray::number(qint16(c.unicode())) + " }";
+    }
+    return bytes;
+}
+
+} // namespace
+
+RichTextBox::RichTextBox(QWidget* parent)
+    : QTextEdit(parent)
+    , m_positions(std::make_unique<TextPositions>(*document()))
+    , m_undoKinds(std::make_unique<UndoKinds>()) {
+    connect(document(), &QTextDocument::contentsChange, this,
+            [this](int from, int removed, int added) {
+                m_positions->contentsChanged(from, removed, added);
+                m_changeToTell = true;
+            });
+    connect(document(), &QTextDocument::contentsChanged, this, [this] {
+        m_undoKinds->stepsChanged(document()->availableUndoSteps(), m_movesThroughHistory);
+    });
+    connect(this, &QTextEdit::textChanged, this, &RichTextBox::tellChange);
+    connect(this, &QTextEdit::cursorPositionChanged, this, &RichTextBox::tellSelection);
+    connect(this, &QTextEdit::selectionChanged, this, &RichTextBox::tellSelection);
+}
+
+RichTextBox::~RichTextBox() {
+    // The document's last words would reach members that are gone.
+    document()->disconnect(this);
+}
+
+// --- the whole document
+
+QString RichTextBox::Text() const {
+    return m_positions->text();
+}
+
+void RichTextBox::SetText(const QString& text) {
+    replaceEverything(text, editCursor().blockFormat());
+}
+
+void RichTextBox::replaceEverything(const QString& text, const QTextBlockFormat& paragraph) {
+    const QTextCharFormat format = formatAtStart(editCursor());
+    const bool inBatch = m_batches > 0;
+    hold();
+    if (!inBatch)
+        document()->setUndoRedoEnabled(false);
+    QTextCursor everything(document());
+    everything.select(QTextCursor::Document);
+    editAt(everything, [&](QTextCursor& cursor) {
+        cursor.beginEditBlock();
+        cursor.removeSelectedText();
+        cursor.setBlockFormat(paragraph);
+        cursor.setBlockCharFormat(format);
+        insertPlain(cursor, text, format);
+        cursor.endEditBlock();
+    });
+    if (!inBatch)
+        document()->setUndoRedoEnabled(true);
+    contentWasSet(format);
+    release();
+}
+
+/// The caret goes to the start, in the format given for what is typed into an empty document; the
+/// selection counts as changed even where it stands as it stood.
+void RichTextBox::contentWasSet(const QTextCharFormat& format) {
+    QTextCursor caret(document());
+    if (document()->isEmpty())
+        caret.setCharFormat(format);
+    m_toldAnchor = -1;
+    takeCursor(caret);
+}
+
+QByteArray RichTextBox::TextRTF() const {
+    return rtf::writeRtf(*document());
+}
+
+void RichTextBox::SetTextRTF(const QByteArray& rtf) {
+    if (rtf::looksLikeRtf(rtf))
+        takeRtf(rtf);
+    else
+        SetText(decodeText(rtf));
+}
+
+/// \returns whether all of it could be read.
+bool RichTextBox::takeRtf(const QByteArray& rtf) {
+    QTextCursor everything(document());
+    everything.select(QTextCursor::Document);
+    rtf::ReadResult result;
+    hold();
+    editAt(everything, [&](QTextCursor& cursor) {
+        if (m_batches > 0) {
+            result = rtf::insertRtf(rtf, cursor, readOptions());
+            return;
+        }
+        result = rtf::readRtf(rtf, *document(), readOptions());
+        cursor = QTextCursor(document());
+    });
+    contentWasSet(QTextCursor(document()).charFormat());
+    release();
+    return result.ok();
+}
+
+void RichTextBox::SetTextRTF(const QString& rtf) {
+    const QByteArray bytes = bytesOfRtf(rtf);
+    if (rtf::looksLikeRtf(bytes))
+        SetTextRTF(bytes);
+    else
+        SetText(rtf);
+}
+
+QString RichTextBox::FontName() const {
+    return document()->defaultFont().family();
+}
+
+void RichTextBox::SetFontName(const QString& family) {
+    QFont font = document()->defaultFont();
+    font.setFamilies({family});
+    QTextCharFormat format;
+    format.setFontFamilies({family});
+    setBoxFont(font, format);
+}
+
+qreal RichTextBox::FontSize() const {
+    return pointsOf(QTextCharFormat(), document()->defaultFont());
+}
+
+void RichTextBox::SetFontSize(qreal points) {
+    require(points > 0);
+    QFont font = document()->defaultFont();
+    font.setPointSizeF(points);
+    QTextCharFormat format;
+    format.setFontPointSize(points);
+    setBoxFont(font, format);
+}
+
+void RichTextBox::setBoxFont(const QFont& font, const QTextCharFormat& format) {
+    setFont(font);
+    const QTextCursor caret = editCursor();
+    QTextCursor everything(document());
+    everything.select(QTextCursor::Document);
+    everything.beginEditBlock();
+    everything.mergeCharFormat(format);
+    QTextCursor(document()).mergeBlockCharFormat(format);
+    everything.endEditBlock();
+    if (!caret.hasSelection())
+        mergeFormat(format);
+}
+
+// --- the selection
+
+/// The cursor that edits go through: inside a batch one of its own, since moving the widget's would
+/// lay the document out each time.
+QTextCursor RichTextBox::editCursor() const {
+    return m_batches > 0 ? m_batchCursor : textCursor();
+}
+
+void RichTextBox::takeCursor(const QTextCursor& cursor) {
+    if (m_batches > 0)
+        m_batchCursor = cursor;
+    else
+        setTextCursor(cursor);
+}
+
+void RichTextBox::editAt(QTextCursor cursor, const std::function<void(QTextCursor&)>& edit) {
+    const int from = cursor.selectionStart();
+    const int removed = cursor.selectionEnd() - from;
+    hold();
+    edit(cursor);
+    if (m_batches > 0)
+        m_positions->changedInBlock(from, removed, cursor.position() - from);
+    takeCursor(cursor);
+    release();
+}
+
+/// Until release(), nobody hears of a change: they would find a selection that is still on its way.
+void RichTextBox::hold() {
+    ++m_holds;
+}
+
+void RichTextBox::release() {
+    if (--m_holds > 0)
+        return;
+    tellChange();
+    tellSelection();
+}
+
+void RichTextBox::tellChange() {
+    if (m_holds == 0 && std::exchange(m_changeToTell, false))
+        emit Change();
+}
+
+void RichTextBox::tellSelection() {
+    const QTextCursor cursor = textCursor();
+    if (m_holds > 0 || (cursor.anchor() == m_toldAnchor && cursor.position() == m_toldPosition))
+        return;
+    m_toldAnchor = cursor.anchor();
+    m_toldPosition = cursor.position();
+    emit SelChange();
+}
+
+int RichTextBox::SelStart() const {
+    return m_positions->indexOf(editCursor().selectionStart());
+}
+
+void RichTextBox::SetSelStart(int start) {
+    require(start >= 0);
+    QTextCursor cursor = editCursor();
+    cursor.setPosition(m_positions->positionOf(start));
+    takeCursor(cursor);
+}
+
+int RichTextBox::SelLength() const {
+    const QTextCursor cursor = editCursor();
+    return m_positions->indexOf(cursor.selectionEnd()) -
+           m_positions->indexOf(cursor.selectionStart());
+}
+
+void RichTextBox::SetSelLength(int length) {
+    require(length >= 0);
+    QTextCursor cursor = editCursor();
+    const int start = cursor.selectionStart();
+    const int end = m_positions->indexOf(start) + std::min(length, m_positions->length());
+    cursor.setPosition(start);
+    cursor.setPosition(m_positions->positionOf(end), QTextCursor::KeepAnchor);
+    takeCursor(cursor);
+}
+
+QString RichTextBox::SelText() const {
+    const QTextCursor cursor = editCursor();
+    return m_positions->between(cursor.selectionStart(), cursor.selectionEnd());
+}
+
+void RichTextBox::SetSelText(const QString& text) {
+    if (text.isEmpty() && !editCursor().hasSelection())
+        return;
+    const QTextCharFormat format = formatAtStart(editCursor());
+    editAt(editCursor(), [&](QTextCursor& cursor) {
+        cursor.beginEditBlock();
+        cursor.removeSelectedText();
+        insertPlain(cursor, text, format);
+        cursor.endEditBlock();
+        cursor.setCharFormat(format);
+    });
+}
+
+QByteArray RichTextBox::SelRTF() const {
+    const QTextCursor cursor = editCursor();
+    return rtf::writeRtf(*document(), cursor.selectionStart(), cursor.selectionEnd());
+}
+
+void RichTextBox::SetSelRTF(const QByteArray& rtf) {
+    if (!rtf::looksLikeRtf(rtf)) {
+        SetSelText(decodeText(rtf));
+        return;
+    }
+    editAt(editCursor(), [&](QTextCursor& cursor) { rtf::insertRtf(rtf, cursor, readOptions()); });
+}
+
+void RichTextBox::SetSelRTF(const QString& rtf) {
+    const QByteArray bytes = bytesOfRtf(rtf);
+    if (rtf::looksLikeRtf(bytes))
+        SetSelRTF(bytes);
+    else
+        SetSelText(rtf);
+}
+
+// --- search
+
+int RichTextBox::Find(const QString& text, int start, int end, int options) {
+    if (m_batches == 0)
+        m_positions->text(); // worth having as a whole: searches come in rows
+    const TextSearch search{text, (options & rtfWholeWord) != 0, (options & rtfMatchCase) != 0};
+    const int limit = end < 0 ? m_positions->length() : end;
+    const int found = findText(*m_positions, search, std::max(start, 0), limit);
+    if (found >= 0) {
+        QTextCursor cursor = editCursor();
+        cursor.setPosition(m_positions->positionOf(found));
+        cursor.setPosition(m_positions->positionOf(found + int(text.size())),
+                           QTextCursor::KeepAnchor);
+        takeCursor(cursor);
+    }
+    return found;
+}
+
+// --- batches
+
+RichTextBox::Batch::Batch(RichTextBox& box)
+    : m_box(box) {
+    m_box.beginBatch();
+}
+
+RichTextBox::Batch::~Batch() noexcept(false) {
+    if (std::uncaught_exceptions() > m_exceptions)
+        endSilently([this] { m_box.endBatch(); });
+    else
+        m_box.endBatch();
+}
+
+void RichTextBox::beginBatch() {
+    hold();
+    if (m_batches++ > 0)
+        return;
+    m_batchCursor = textCursor();
+    m_batchCursor.beginEditBlock();
+}
+
+void RichTextBox::endBatch() {
+    if (--m_batches == 0) {
+        m_batchCursor.endEditBlock();
+        setTextCursor(m_batchCursor);
+        m_batchCursor = QTextCursor();
+    }
+    release();
+}
+
+// --- printing
+
+int RichTextBox::FormatPage(const FormatRange& range) {
+    if (!m_formatter)
+        m_formatter = std::make_unique<RangeFormatter>();
+    return m_formatter->format(*document(), *m_positions, range);
+}
+
+void RichTextBox::EndFormatting() {
+    m_formatter.reset();
+}
+
+} // namespace orvalis

@@ -1,0 +1,256 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "controls/undo_kind.h"
+
+#include <QByteArray>
+#include <QSet>
+#include <QString>
+#include <QTextCursor>
+#include <QTextEdit>
+
+#include <exception>
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace orvalis {
+
+class RangeFormatter;
+class TextPositions;
+class UndoKinds;
+struct FormatRange;
+
+/// The control that holds every document of the program: rich text that is edited, loaded, saved,
+/// searched and printed.
+///
+/// A position is an index into Text(), where a line break is the two characters CR and LF and a
+/// picture is one blank. Text() keeps every character that was set: control characters, a lone CR
+/// and a lone LF show as small marks. What the program sets raises Change and SelChange like what
+/// the user types.
+class RichTextBox : public QTextEdit {
+    Q_OBJECT
+
+public:
+    /// What LoadFile() and SaveFile() read and write.
+    enum FileFlags : int { rtfRTF = 0, rtfText = 1 };
+    /// Options of Find(), to be added up.
+    enum FindOptions : int { rtfWholeWord = 2, rtfMatchCase = 4 };
+    /// Values of SelAlignment; a justified paragraph can be read and set too.
+    enum AlignmentValues : int { rtfLeft = 0, rtfRight = 1, rtfCenter = 2, rtfJustify = 3 };
+    /// How the bytes of a plain text file are taken.
+    enum class PlainFile {
+        Notes, ///< ANSI page or UTF-8, whichever the bytes are; line ends of LF alone are lines
+        Ansi,  ///< the ANSI page byte by byte, nothing is taken for anything else
+    };
+
+    explicit RichTextBox(QWidget* parent = nullptr);
+    ~RichTextBox() override;
+
+    // --- the whole document
+
+    /// The plain characters, without format.
+    QString Text() const;
+    /// Replaces everything by plain text that takes the format at the selection's start. The caret
+    /// goes to the start and the history of undo is dropped.
+    void SetText(const QString& text);
+    /// The whole document as RTF.
+    QByteArray TextRTF() const;
+    /// Replaces everything by RTF; what is not RTF is taken as plain text, as by SetText().
+    void SetTextRTF(const QByteArray& rtf);
+    void SetTextRTF(const QString& rtf);
+
+    /// A free string kept with the control.
+    QString Tag() const { return m_tag; }
+    void SetTag(const QString& tag) { m_tag = tag; }
+
+    /// The font of the whole box: setting it changes all text and what is typed next.
+    QString FontName() const;
+    void SetFontName(const QString& family);
+    /// In points.
+    qreal FontSize() const;
+    /// \throws RuntimeError InvalidPropertyValue unless above 0.
+    void SetFontSize(qreal points);
+
+    // --- the selection
+
+    int SelStart() const;
+    /// Puts the caret there and selects nothing. Beyond the end means the end; between CR and LF
+    /// means ahead of both. \throws RuntimeError InvalidPropertyValue when negative.
+    void SetSelStart(int start);
+    int SelLength() const;
+    /// \throws RuntimeError InvalidPropertyValue when negative.
+    void SetSelLength(int length);
+    QString SelText() const;
+    /// Replaces the selection by plain text in the format at its start; the caret goes behind it.
+    void SetSelText(const QString& text);
+    /// The selection as RTF.
+    QByteArray SelRTF() const;
+    /// Replaces the selection by RTF, of which exactly one closing paragraph mark is dropped; what
+    /// is not RTF is taken as plain text, as by SetSelText().
+    void SetSelRTF(const QByteArray& rtf);
+    void SetSelRTF(const QString& rtf);
+
+    // Format of the selection, or of the caret and what is typed there. Reading gives nothing when
+    // the selection is mixed.
+
+    std::optional<bool> SelBold() const;
+    void SetSelBold(bool on);
+    std::optional<bool> SelItalic() const;
+    void SetSelItalic(bool on);
+    std::optional<bool> SelUnderline() const;
+    void SetSelUnderline(bool on);
+    std::optional<bool> SelStrikeThru() const;
+    void SetSelStrikeThru(bool on);
+    std::optional<QString> SelFontName() const;
+    void SetSelFontName(const QString& family);
+    /// In points.
+    std::optional<qreal> SelFontSize() const;
+    /// \throws RuntimeError InvalidPropertyValue unless above 0.
+    void SetSelFontSize(qreal points);
+    /// 0xBBGGRR; text without a colour of its own is 0. A colour of the system, with the top bit
+    /// set, makes the text follow the window's own colour again.
+    std::optional<quint32> SelColor() const;
+    void SetSelColor(quint32 color);
+    /// One of AlignmentValues.
+    std::optional<int> SelAlignment() const;
+    /// \throws RuntimeError InvalidPropertyValue for any other number.
+    void SetSelAlignment(int alignment);
+    /// The paragraphs' left indent in twips. A negative one is remembered, yet shows as none, so
+    /// that no text leaves the window.
+    std::optional<int> SelIndent() const;
+    void SetSelIndent(int twips);
+    std::optional<bool> SelBullet() const;
+    void SetSelBullet(bool on);
+
+    // --- files
+
+    PlainFile plainFile() const { return m_plainFile; }
+    void setPlainFile(PlainFile kind) { m_plainFile = kind; }
+
+    /// Replaces the document by a file; flags 0 RTF, 1 plain text. Nothing changes on a failure.
+    /// \throws RuntimeError InvalidFileFormat when flags are 0 and the file is not RTF, those of
+    /// readWhole() when it cannot be read, InvalidProcedureCall for other flags.
+    void LoadFile(const QString& path, int flags = rtfRTF);
+    /// Writes the document whole. A file that LoadFile() could not read, or not all of, is kept
+    /// aside first, under its name with ".unreadable" added.
+    /// \throws RuntimeError those of saveWhole(), InvalidProcedureCall for other flags.
+    void SaveFile(const QString& path, int flags = rtfRTF);
+
+    // --- search
+
+    /// Selects the first match at or behind \a start that ends at or before \a end (-1: the end of
+    /// the text). \returns its position, or -1 and the selection as it was.
+    int Find(const QString& text, int start = 0, int end = -1, int options = 0);
+
+    // --- editing
+
+    bool CanUndo() const;
+    void Undo();
+    /// What the next Undo() takes back.
+    UndoKind UndoType() const;
+    bool CanPaste() const;
+    void Cut();
+    void Copy();
+    void Paste();
+
+    bool WordWrap() const;
+    void SetWordWrap(bool on);
+
+    /// Whether a right click opens the editing menu; a form with a menu of its own turns it off.
+    bool editMenu() const;
+    void setEditMenu(bool on);
+
+    /// Many edits as one: one step of undo, one layout, one Change and one SelChange at its end.
+    /// Selection, SelText, SelRTF, formats and Find work inside as outside.
+    class Batch {
+    public:
+        explicit Batch(RichTextBox& box);
+        ~Batch() noexcept(false); // what is told at the end can fail in who hears it
+        Q_DISABLE_COPY_MOVE(Batch)
+
+    private:
+        RichTextBox& m_box;
+        int m_exceptions = std::uncaught_exceptions();
+    };
+
+    // --- printing
+
+    /// Formats one page's worth of text and renders it where a painter is given.
+    /// \returns the position of the first character that did not fit; it always advances, and is
+    /// the length of Text() (or the range's end) behind the last page.
+    int FormatPage(const FormatRange& range);
+    /// Frees what FormatPage() keeps between pages.
+    void EndFormatting();
+
+signals:
+    /// After each change of the content, also when the program sets it.
+    void Change();
+    /// After each change of the selection, also when the program sets it.
+    void SelChange();
+    /// After a mouse button was pressed and let go inside the text.
+    void Click();
+    /// When a mouse button goes down inside the text, before the caret follows it.
+    void MouseDown(Qt::MouseButton button);
+
+protected:
+    bool canInsertFromMimeData(const QMimeData* source) const override;
+    QMimeData* createMimeDataFromSelection() const override;
+    void insertFromMimeData(const QMimeData* source) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    // These would go round the rules above.
+    using QTextEdit::append;
+    using QTextEdit::copy;
+    using QTextEdit::cut;
+    using QTextEdit::insertHtml;
+    using QTextEdit::insertPlainText;
+    using QTextEdit::paste;
+    using QTextEdit::setHtml;
+    using QTextEdit::setMarkdown;
+    using QTextEdit::setPlainText;
+    using QTextEdit::setText;
+    using QTextEdit::toPlainText;
+
+    QTextCursor editCursor() const;
+    void takeCursor(const QTextCursor& cursor);
+    void editAt(QTextCursor cursor, const std::function<void(QTextCursor&)>& edit);
+    void replaceEverything(const QString& text, const QTextBlockFormat& paragraph);
+    bool takeRtf(const QByteArray& rtf);
+    void contentWasSet(const QTextCharFormat& format);
+    void mergeFormat(const QTextCharFormat& format);
+    void setBoxFont(const QFont& font, const QTextCharFormat& format);
+    void typeParagraphEnd();
+    void tellChange();
+    void tellSelection();
+    void hold();
+    void release();
+    void beginBatch();
+    void endBatch();
+    void paintNoBreakMarks(const QRect& area);
+
+    QString m_tag;
+    PlainFile m_plainFile = PlainFile::Notes;
+    bool m_editMenu = true;
+    bool m_movesThroughHistory = false;
+    int m_batches = 0;
+    int m_holds = 0;
+    bool m_changeToTell = false;
+    int m_toldAnchor = 0;
+    int m_toldPosition = 0;
+    QTextCursor m_batchCursor;
+    QSet<QString> m_unreadable;
+    std::unique_ptr<TextPositions> m_positions;
+    std::unique_ptr<UndoKinds> m_undoKinds;
+    std::unique_ptr<RangeFormatter> m_formatter;
+};
+
+} // namespace orvalis

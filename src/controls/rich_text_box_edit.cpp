@@ -1,0 +1,246 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "controls/rich_clipboard.h"
+#include "controls/rich_text_box.h"
+#include "controls/selection_format.h"
+#include "controls/text_positions.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextLayout>
+
+// What the user does to the text: keys, pointer, clipboard, undo; and the marks of blanks that do
+// not break.
+
+namespace orvalis {
+namespace {
+
+bool deletes(const QKeyEvent& event) {
+    for (const auto key : {QKeySequence::Delete, QKeySequence::DeleteStartOfWord,
+                           QKeySequence::DeleteEndOfWord, QKeySequence::DeleteEndOfLine,
+                           QKeySequence::DeleteCompleteLine, QKeySequence::Backspace}) {
+        if (event.matches(key))
+            return true;
+    }
+    return event.key() == Qt::Key_Backspace || event.key() == Qt::Key_Delete;
+}
+
+/// Where a backspace would take the bullet away, and with it the room that the bullet hangs in.
+bool atBullet(const QTextCursor& cursor) {
+    return !cursor.hasSelection() && cursor.atBlockStart() && hasBullet(cursor.block());
+}
+
+} // namespace
+
+bool RichTextBox::CanUndo() const {
+    return document()->isUndoAvailable();
+}
+
+void RichTextBox::Undo() {
+    const QScopedValueRollback history(m_movesThroughHistory, true);
+    undo();
+}
+
+UndoKind RichTextBox::UndoType() const {
+    return m_undoKinds->kindOfNext();
+}
+
+bool RichTextBox::CanPaste() const {
+    const QMimeData* offered = QApplication::clipboard()->mimeData();
+    return !isReadOnly() && offered && canInsertFromMimeData(offered);
+}
+
+void RichTextBox::Cut() {
+    if (isReadOnly() || !editCursor().hasSelection())
+        return;
+    Copy();
+    const UndoKindScope kind(*m_undoKinds, UndoKind::Cut);
+    SetSelText(QString());
+}
+
+void RichTextBox::Copy() {
+    if (editCursor().hasSelection())
+        QApplication::clipboard()->setMimeData(createMimeDataFromSelection());
+}
+
+void RichTextBox::Paste() {
+    const QMimeData* offered = QApplication::clipboard()->mimeData();
+    if (!offered)
+        return;
+    const UndoKindScope kind(*m_undoKinds, UndoKind::Paste);
+    insertFromMimeData(offered);
+}
+
+bool RichTextBox::canInsertFromMimeData(const QMimeData* source) const {
+    return canTake(*source);
+}
+
+QMimeData* RichTextBox::createMimeDataFromSelection() const {
+    return clipboardData(editCursor(), SelText()).release();
+}
+
+void RichTextBox::insertFromMimeData(const QMimeData* source) {
+    if (isReadOnly() || !source)
+        return;
+    const QTextCharFormat format = formatAtStart(editCursor());
+    editAt(editCursor(), [&](QTextCursor& cursor) { takeClipboard(*source, cursor, format); });
+    ensureCursorVisible();
+}
+
+void RichTextBox::keyPressEvent(QKeyEvent* event) {
+    // The editing keys go the way of the members, so that both do the same.
+    if (event->matches(QKeySequence::Cut)) {
+        Cut();
+    } else if (event->matches(QKeySequence::Copy)) {
+        Copy();
+    } else if (event->matches(QKeySequence::Paste)) {
+        Paste();
+    } else if (event->matches(QKeySequence::Undo) || event->matches(QKeySequence::Redo)) {
+        const QScopedValueRollback history(m_movesThroughHistory, true);
+        QTextEdit::keyPressEvent(event);
+        return;
+    } else if (event->key() == Qt::Key_Backspace && atBullet(editCursor()) && !isReadOnly()) {
+        const UndoKindScope kind(*m_undoKinds, UndoKind::Delete);
+        SetSelBullet(false);
+    } else if (event->matches(QKeySequence::InsertParagraphSeparator) && !isReadOnly()) {
+        const UndoKindScope kind(*m_undoKinds, UndoKind::Typing);
+        typeParagraphEnd();
+    } else {
+        const UndoKindScope kind(*m_undoKinds,
+                                 deletes(*event) ? UndoKind::Delete : UndoKind::Typing);
+        QTextEdit::keyPressEvent(event);
+        return;
+    }
+    event->accept();
+}
+
+/// The new paragraph goes on in the format of the old one; the editor's own way would go back to no
+/// format at all behind an empty line. An empty item ends its list.
+void RichTextBox::typeParagraphEnd() {
+    if (atBullet(editCursor()) && editCursor().block().length() == 1) {
+        SetSelBullet(false);
+        return;
+    }
+    editAt(editCursor(), [](QTextCursor& cursor) {
+        const QTextCharFormat format = formatAtStart(cursor);
+        QTextBlockFormat paragraph = cursor.blockFormat();
+        paragraph.clearProperty(QTextFormat::PageBreakPolicy);
+        cursor.beginEditBlock();
+        cursor.removeSelectedText();
+        cursor.insertBlock(paragraph, format);
+        cursor.endEditBlock();
+        cursor.setCharFormat(format);
+    });
+}
+
+void RichTextBox::inputMethodEvent(QInputMethodEvent* event) {
+    const UndoKindScope kind(*m_undoKinds, UndoKind::Typing);
+    QTextEdit::inputMethodEvent(event);
+}
+
+void RichTextBox::dropEvent(QDropEvent* event) {
+    const UndoKindScope kind(*m_undoKinds, UndoKind::DragDrop);
+    QTextEdit::dropEvent(event);
+}
+
+void RichTextBox::mousePressEvent(QMouseEvent* event) {
+    emit MouseDown(event->button());
+    QTextEdit::mousePressEvent(event);
+}
+
+void RichTextBox::mouseReleaseEvent(QMouseEvent* event) {
+    QTextEdit::mouseReleaseEvent(event);
+    if (viewport()->rect().contains(event->position().toPoint()))
+        emit Click();
+}
+
+bool RichTextBox::WordWrap() const {
+    return lineWrapMode() != NoWrap;
+}
+
+void RichTextBox::SetWordWrap(bool on) {
+    setLineWrapMode(on ? WidgetWidth : NoWrap);
+}
+
+bool RichTextBox::editMenu() const {
+    return m_editMenu;
+}
+
+void RichTextBox::setEditMenu(bool on) {
+    m_editMenu = on;
+}
+
+void RichTextBox::contextMenuEvent(QContextMenuEvent* event) {
+    if (!m_editMenu) {
+        event->ignore();
+        return;
+    }
+    QMenu menu(this);
+    menu.setObjectName(QStringLiteral("editMenu"));
+    const auto add = [&](const QString& text, const QString& name, bool enabled, auto&& command) {
+        QAction* const action = menu.addAction(text, this, command);
+        action->setObjectName(name);
+        action->setEnabled(enabled);
+    };
+    const bool writable = !isReadOnly();
+    const bool selected = editCursor().hasSelection();
+    add(tr("&Undo"), QStringLiteral("editUndo"), writable && CanUndo(), [this] { Undo(); });
+    menu.addSeparator();
+    add(tr("Cu&t"), QStringLiteral("editCut"), writable && selected, [this] { Cut(); });
+    add(tr("&Copy"), QStringLiteral("editCopy"), selected, [this] { Copy(); });
+    add(tr("&Paste"), QStringLiteral("editPaste"), CanPaste(), [this] { Paste(); });
+    add(tr("&Delete"), QStringLiteral("editDelete"), writable && selected, [this] {
+        const UndoKindScope kind(*m_undoKinds, UndoKind::Delete);
+        SetSelText(QString());
+    });
+    menu.addSeparator();
+    add(tr("Select &All"), QStringLiteral("editSelectAll"), !document()->isEmpty(),
+        [this] { selectAll(); });
+    menu.exec(event->globalPos());
+    event->accept();
+}
+
+void RichTextBox::paintEvent(QPaintEvent* event) {
+    QTextEdit::paintEvent(event);
+    paintNoBreakMarks(event->rect());
+}
+
+/// A blank that does not break looks like any other; a small bracket under it tells.
+void RichTextBox::paintNoBreakMarks(const QRect& area) {
+    const QPointF origin(-horizontalScrollBar()->value(), -verticalScrollBar()->value());
+    QPainter painter(viewport());
+    painter.setClipRect(area);
+    QColor ink = palette().color(QPalette::Text);
+    ink.setAlphaF(0.45F);
+    painter.setPen(QPen(ink, 1));
+    for (QTextBlock block = cursorForPosition(QPoint(0, area.top())).block(); block.isValid();
+         block = block.next()) {
+        const QTextLayout& layout = *block.layout();
+        const QPointF corner = layout.position() + origin;
+        if (corner.y() > area.bottom())
+            break;
+        const QString text = block.text();
+        for (qsizetype at = text.indexOf(QChar(QChar::Nbsp)); at >= 0;
+             at = text.indexOf(QChar(QChar::Nbsp), at + 1)) {
+            const QTextLine line = layout.lineForTextPosition(int(at));
+            if (!line.isValid())
+                continue;
+            const qreal left = corner.x() + line.cursorToX(int(at)) + 1;
+            const qreal right = corner.x() + line.cursorToX(int(at) + 1) - 1;
+            const qreal base = corner.y() + line.y() + line.ascent() + 1;
+            painter.drawPolyline(QPolygonF({QPointF(left, base - 2), QPointF(left, base),
+                                            QPointF(right, base), QPointF(right, base - 2)}));
+        }
+    }
+}
+
+} // namespace orvalis

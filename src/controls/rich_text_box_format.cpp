@@ -1,0 +1,149 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "controls/rich_text_box.h"
+#include "controls/selection_format.h"
+#include "runtime/colour.h"
+#include "runtime/failure.h"
+
+#include <QTextDocument>
+
+// The format of the selection, property by property.
+
+namespace orvalis {
+namespace {
+
+constexpr quint32 systemColor = 0x80000000;
+
+void require(bool valid) {
+    if (!valid)
+        throw RuntimeError(ErrorNumber::InvalidPropertyValue);
+}
+
+} // namespace
+
+/// An empty paragraph takes the format itself: what the cursor alone remembers is lost as soon as
+/// it moves, and a format chosen for an empty box is to hold for what is typed later.
+void RichTextBox::mergeFormat(const QTextCharFormat& format) {
+    QTextCursor cursor = editCursor();
+    if (!cursor.hasSelection() && cursor.block().length() == 1)
+        cursor.mergeBlockCharFormat(format);
+    cursor.mergeCharFormat(format);
+    takeCursor(cursor);
+}
+
+std::optional<bool> RichTextBox::SelBold() const {
+    const QFont defaultFont = document()->defaultFont();
+    return commonOfRuns<bool>(
+        editCursor(), [&](const QTextCharFormat& format) { return isBold(format, defaultFont); });
+}
+
+void RichTextBox::SetSelBold(bool on) {
+    QTextCharFormat format;
+    format.setFontWeight(on ? QFont::Bold : QFont::Normal);
+    mergeFormat(format);
+}
+
+std::optional<bool> RichTextBox::SelItalic() const {
+    const QFont defaultFont = document()->defaultFont();
+    return commonOfRuns<bool>(
+        editCursor(), [&](const QTextCharFormat& format) { return isItalic(format, defaultFont); });
+}
+
+void RichTextBox::SetSelItalic(bool on) {
+    QTextCharFormat format;
+    format.setFontItalic(on);
+    mergeFormat(format);
+}
+
+std::optional<bool> RichTextBox::SelUnderline() const {
+    return commonOfRuns<bool>(editCursor(),
+                              [](const QTextCharFormat& format) { return format.fontUnderline(); });
+}
+
+void RichTextBox::SetSelUnderline(bool on) {
+    QTextCharFormat format;
+    format.setFontUnderline(on);
+    mergeFormat(format);
+}
+
+std::optional<bool> RichTextBox::SelStrikeThru() const {
+    return commonOfRuns<bool>(editCursor(),
+                              [](const QTextCharFormat& format) { return format.fontStrikeOut(); });
+}
+
+void RichTextBox::SetSelStrikeThru(bool on) {
+    QTextCharFormat format;
+    format.setFontStrikeOut(on);
+    mergeFormat(format);
+}
+
+std::optional<QString> RichTextBox::SelFontName() const {
+    const QFont defaultFont = document()->defaultFont();
+    return commonOfRuns<QString>(
+        editCursor(), [&](const QTextCharFormat& format) { return familyOf(format, defaultFont); });
+}
+
+void RichTextBox::SetSelFontName(const QString& family) {
+    QTextCharFormat format;
+    format.setFontFamilies({family});
+    mergeFormat(format);
+}
+
+std::optional<qreal> RichTextBox::SelFontSize() const {
+    const QFont defaultFont = document()->defaultFont();
+    return commonOfRuns<qreal>(
+        editCursor(), [&](const QTextCharFormat& format) { return pointsOf(format, defaultFont); });
+}
+
+void RichTextBox::SetSelFontSize(qreal points) {
+    require(points > 0);
+    QTextCharFormat format;
+    format.setFontPointSize(points);
+    mergeFormat(format);
+}
+
+std::optional<quint32> RichTextBox::SelColor() const {
+    return commonOfRuns<quint32>(editCursor(), colorOf);
+}
+
+void RichTextBox::SetSelColor(quint32 color) {
+    if ((color & systemColor) == 0) {
+        QTextCharFormat format;
+        format.setForeground(toQColor(color));
+        mergeFormat(format);
+        return;
+    }
+    QTextCursor cursor = editCursor();
+    changeRuns(cursor, [](QTextCharFormat& format) { format.clearForeground(); });
+    takeCursor(cursor);
+}
+
+std::optional<int> RichTextBox::SelAlignment() const {
+    return commonOfParagraphs<int>(editCursor(), alignmentOf);
+}
+
+void RichTextBox::SetSelAlignment(int alignment) {
+    require(alignment >= rtfLeft && alignment <= rtfJustify);
+    QTextCursor cursor = editCursor();
+    alignParagraphs(cursor, alignment);
+}
+
+std::optional<int> RichTextBox::SelIndent() const {
+    return commonOfParagraphs<int>(editCursor(), indentOf);
+}
+
+void RichTextBox::SetSelIndent(int twips) {
+    QTextCursor cursor = editCursor();
+    indentParagraphs(cursor, twips);
+}
+
+std::optional<bool> RichTextBox::SelBullet() const {
+    return commonOfParagraphs<bool>(editCursor(), hasBullet);
+}
+
+void RichTextBox::SetSelBullet(bool on) {
+    QTextCursor cursor = editCursor();
+    bulletParagraphs(cursor, on);
+}
+
+} // namespace orvalis

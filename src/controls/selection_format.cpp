@@ -1,0 +1,257 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "controls/selection_format.h"
+
+#include "rtf/format_properties.h"
+#include "runtime/colour.h"
+#include "runtime/twips.h"
+
+#include <QFont>
+#include <QTextDocument>
+#include <QTextList>
+
+#include <vector>
+
+namespace orvalis {
+namespace {
+
+/// An indent below zero, which the paragraph's margin does not follow.
+constexpr int RequestedIndent = QTextFormat::UserProperty + 0x5190;
+/// How far a bullet hangs left of its text.
+constexpr int bulletTwips = 360;
+
+constexpr Qt::Alignment alignments[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter,
+                                        Qt::AlignJustify};
+
+struct Run {
+    int from;
+    int to;
+    QTextCharFormat format;
+};
+
+/// The runs of a selection with pictures among them only where there is nothing else.
+void walkRuns(const QTextCursor& selection, bool pictures,
+              const std::function<bool(const Run&)>& visit) {
+    const int from = selection.selectionStart();
+    const int to = selection.selectionEnd();
+    QTextBlock block = selection.document()->findBlock(from);
+    for (; block.isValid() && block.position() < to; block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextFragment fragment = it.fragment();
+            const Run run{qMax(fragment.position(), from),
+                          qMin(fragment.position() + fragment.length(), to), fragment.charFormat()};
+            if (run.from >= run.to || (!pictures && run.format.isImageFormat()))
+                continue;
+            if (!visit(run))
+                return;
+        }
+    }
+}
+
+QTextCharFormat formatOfFirst(const QTextCursor& selection) {
+    if (!selection.hasSelection())
+        return selection.charFormat();
+    QTextCursor first(selection);
+    first.setPosition(selection.selectionStart());
+    const bool atParagraphEnd = first.atBlockEnd();
+    if (!atParagraphEnd)
+        first.movePosition(QTextCursor::NextCharacter);
+    return first.charFormat();
+}
+
+/// How far the first line stands right of the others, in twips: negative where it, or the bullet,
+/// hangs out.
+int firstIndentOf(const QTextBlockFormat& format) {
+    if (format.hasProperty(rtf::ParagraphFirstIndent))
+        return format.intProperty(rtf::ParagraphFirstIndent);
+    return pixelsToTwips(format.textIndent());
+}
+
+/// The left margin that is made of steps, in pixels.
+qreal steppedMargin(const QTextBlock& block) {
+    int steps = block.blockFormat().indent();
+    const QTextList* const list = block.textList();
+    if (list && !list->format().boolProperty(rtf::ListIndentIsRoom))
+        steps += list->format().indent();
+    return steps * block.document()->indentWidth();
+}
+
+void changeParagraphs(QTextCursor& selection,
+                      const std::function<void(const QTextBlock&, QTextBlockFormat&)>& change) {
+    std::vector<QTextBlock> blocks;
+    visitParagraphs(selection, [&](const QTextBlock& block) {
+        blocks.push_back(block);
+        return true;
+    });
+    selection.beginEditBlock();
+    for (const QTextBlock& block : blocks) {
+        QTextBlockFormat format = block.blockFormat();
+        change(block, format);
+        if (format != block.blockFormat()) // a step of undo that changes nothing would puzzle
+            QTextCursor(block).setBlockFormat(format);
+    }
+    selection.endEditBlock();
+}
+
+} // namespace
+
+QTextCharFormat formatAtStart(const QTextCursor& selection) {
+    QTextCharFormat format = formatOfFirst(selection);
+    for (const int property :
+         {int(QTextFormat::ObjectType), int(QTextFormat::ObjectIndex), int(QTextFormat::ImageName),
+          int(QTextFormat::ImageWidth), int(QTextFormat::ImageHeight), int(QTextFormat::ImageTitle),
+          int(QTextFormat::ImageAltText), int(QTextFormat::IsAnchor), int(QTextFormat::AnchorHref),
+          int(QTextFormat::AnchorName), int(rtf::PictureSource), int(rtf::PictureSourceKind),
+          int(rtf::PictureSourceSize)})
+        format.clearProperty(property);
+    return format;
+}
+
+void visitRuns(const QTextCursor& selection,
+               const std::function<bool(const QTextCharFormat&)>& visit) {
+    bool any = false;
+    for (const bool pictures : {false, true}) {
+        if (any || !selection.hasSelection())
+            break;
+        walkRuns(selection, pictures, [&](const Run& run) {
+            any = true;
+            return visit(run.format);
+        });
+    }
+    if (!any)
+        visit(formatOfFirst(selection));
+}
+
+void changeRuns(QTextCursor& selection, const std::function<void(QTextCharFormat&)>& change) {
+    if (!selection.hasSelection()) {
+        QTextCharFormat format = selection.charFormat();
+        change(format);
+        selection.setCharFormat(format);
+        return;
+    }
+    std::vector<Run> runs;
+    walkRuns(selection, true, [&](const Run& run) {
+        runs.push_back(run);
+        return true;
+    });
+    selection.beginEditBlock();
+    for (Run& run : runs) {
+        change(run.format);
+        QTextCursor cursor(selection);
+        cursor.setPosition(run.from);
+        cursor.setPosition(run.to, QTextCursor::KeepAnchor);
+        cursor.setCharFormat(run.format);
+    }
+    selection.endEditBlock();
+}
+
+void visitParagraphs(const QTextCursor& selection,
+                     const std::function<bool(const QTextBlock&)>& visit) {
+    const int from = selection.selectionStart();
+    const int to = selection.selectionEnd();
+    QTextBlock block = selection.document()->findBlock(from);
+    do {
+        if (!visit(block))
+            return;
+        block = block.next();
+    } while (block.isValid() && block.position() < to);
+}
+
+QString familyOf(const QTextCharFormat& format, const QFont& defaultFont) {
+    const QStringList families = format.fontFamilies().toStringList();
+    return families.isEmpty() ? defaultFont.family() : families.first();
+}
+
+qreal pointsOf(const QTextCharFormat& format, const QFont& defaultFont) {
+    constexpr qreal pointsPerPixel = 0.75;
+    if (format.hasProperty(QTextFormat::FontPointSize))
+        return format.fontPointSize();
+    if (format.hasProperty(QTextFormat::FontPixelSize))
+        return format.intProperty(QTextFormat::FontPixelSize) * pointsPerPixel;
+    return defaultFont.pointSizeF() > 0 ? defaultFont.pointSizeF()
+                                        : defaultFont.pixelSize() * pointsPerPixel;
+}
+
+bool isBold(const QTextCharFormat& format, const QFont& defaultFont) {
+    const bool says = format.hasProperty(QTextFormat::FontWeight);
+    return (says ? format.fontWeight() : int(defaultFont.weight())) > QFont::Medium;
+}
+
+bool isItalic(const QTextCharFormat& format, const QFont& defaultFont) {
+    return format.hasProperty(QTextFormat::FontItalic) ? format.fontItalic() : defaultFont.italic();
+}
+
+quint32 colorOf(const QTextCharFormat& format) {
+    return format.foreground().style() == Qt::NoBrush ? 0 : fromQColor(format.foreground().color());
+}
+
+int alignmentOf(const QTextBlock& block) {
+    const Qt::Alignment alignment = block.blockFormat().alignment();
+    if (alignment & Qt::AlignJustify)
+        return 3;
+    if (alignment & Qt::AlignHCenter)
+        return 2;
+    return alignment & Qt::AlignRight ? 1 : 0;
+}
+
+void alignParagraphs(QTextCursor& selection, int alignment) {
+    changeParagraphs(selection, [&](const QTextBlock& block, QTextBlockFormat& format) {
+        if (alignmentOf(block) != alignment)
+            format.setAlignment(alignments[alignment]);
+    });
+}
+
+int indentOf(const QTextBlock& block) {
+    const QTextBlockFormat format = block.blockFormat();
+    if (format.hasProperty(RequestedIndent))
+        return format.intProperty(RequestedIndent);
+    return pixelsToTwips(format.leftMargin() + steppedMargin(block)) + firstIndentOf(format);
+}
+
+void indentParagraphs(QTextCursor& selection, int twips) {
+    changeParagraphs(selection, [&](const QTextBlock& block, QTextBlockFormat& format) {
+        if (indentOf(block) == twips)
+            return;
+        if (twips < 0)
+            format.setProperty(RequestedIndent, twips);
+        else
+            format.clearProperty(RequestedIndent);
+        const qreal margin = twipsToPixelsF(qMax(twips, 0) - firstIndentOf(format));
+        format.setLeftMargin(margin - steppedMargin(block));
+    });
+}
+
+bool hasBullet(const QTextBlock& block) {
+    const QTextList* list = block.textList();
+    // The styles that are no numbering come first and count down from -1.
+    return list && list->format().style() >= QTextListFormat::ListSquare &&
+           list->format().style() <= QTextListFormat::ListDisc;
+}
+
+void bulletParagraphs(QTextCursor& selection, bool on) {
+    QTextList* list = nullptr;
+    changeParagraphs(selection, [&](const QTextBlock& block, QTextBlockFormat& format) {
+        if (hasBullet(block) == on)
+            return;
+        const int indent = indentOf(block);
+        format.setIndent(0);
+        format.setTextIndent(0);
+        if (on) {
+            if (!list) {
+                QTextListFormat bullets;
+                bullets.setStyle(QTextListFormat::ListDisc);
+                bullets.setIndent(0);
+                list = qobject_cast<QTextList*>(QTextCursor(block).createList(bullets));
+            }
+            format.setObjectIndex(list->objectIndex());
+            format.setProperty(rtf::ParagraphFirstIndent, -bulletTwips);
+            format.setLeftMargin(twipsToPixelsF(qMax(indent, 0) + bulletTwips));
+        } else {
+            format.setObjectIndex(-1);
+            format.clearProperty(rtf::ParagraphFirstIndent);
+            format.setLeftMargin(twipsToPixelsF(qMax(indent, 0)));
+        }
+    });
+}
+
+} // namespace orvalis

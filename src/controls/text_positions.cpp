@@ -1,0 +1,173 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "controls/text_positions.h"
+
+#include "controls/control_marks.h"
+
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+
+#include <algorithm>
+
+namespace orvalis {
+
+TextPositions::TextPositions(QTextDocument& document)
+    : m_document(document)
+    , m_characters(document.characterCount()) {
+    scanBreaks(0, 0, m_characters);
+}
+
+int TextPositions::lastPosition() const {
+    return m_document.characterCount() - 1;
+}
+
+int TextPositions::length() const {
+    return lastPosition() + m_document.blockCount() - 1 + int(m_lineBreaks.size());
+}
+
+int TextPositions::breaksBefore(int position) const {
+    return int(std::lower_bound(m_lineBreaks.begin(), m_lineBreaks.end(), position) -
+               m_lineBreaks.begin());
+}
+
+int TextPositions::indexOf(int position) const {
+    position = std::clamp(position, 0, lastPosition());
+    return position + m_document.findBlock(position).blockNumber() + breaksBefore(position);
+}
+
+int TextPositions::positionOf(int index) const {
+    if (index <= 0)
+        return 0;
+    if (index >= length())
+        return lastPosition();
+    // The index grows with the position by one or, over a break, by two; so the position is found
+    // by halving, first among the blocks and then inside one.
+    int first = 0;
+    int last = m_document.blockCount() - 1;
+    while (first < last) {
+        const int middle = (first + last + 1) / 2;
+        const int position = m_document.findBlockByNumber(middle).position();
+        if (position + middle + breaksBefore(position) <= index)
+            first = middle;
+        else
+            last = middle - 1;
+    }
+    const QTextBlock block = m_document.findBlockByNumber(first);
+    int low = block.position();
+    int high = low + block.length() - 1;
+    while (low < high) {
+        const int middle = (low + high + 1) / 2;
+        if (middle + first + breaksBefore(middle) <= index)
+            low = middle;
+        else
+            high = middle - 1;
+    }
+    return low;
+}
+
+QString TextPositions::between(int from, int to) const {
+    to = std::min(to, lastPosition());
+    QString plain;
+    if (from >= to)
+        return plain;
+    const QString raw = rawText(from, to);
+    plain.reserve(indexOf(to) - indexOf(from));
+    if (!appendWithoutMarks(plain, raw)) {
+        plain.resize(0);
+        appendBlocks(plain, from, to);
+    }
+    return plain;
+}
+
+/// A part of the document as it stands there, in one piece: far quicker than block by block.
+QString TextPositions::rawText(int from, int to) const {
+    if (from == 0 && to == lastPosition())
+        return m_document.toRawText();
+    QTextCursor cursor(&m_document);
+    cursor.setPosition(from);
+    cursor.setPosition(to, QTextCursor::KeepAnchor);
+    return cursor.selectedText();
+}
+
+void TextPositions::appendBlocks(QString& plain, int from, int to) const {
+    for (QTextBlock block = m_document.findBlock(from); block.isValid(); block = block.next()) {
+        const int start = block.position();
+        const int end = start + block.length() - 1;
+        appendPlain(plain, block, std::max(from - start, 0), std::min(to, end) - start);
+        if (to <= end)
+            break;
+        plain += QStringLiteral("\r\n");
+    }
+}
+
+const QString& TextPositions::text() const {
+    if (!m_textValid) {
+        m_text = between(0, lastPosition());
+        m_textValid = true;
+    }
+    return m_text;
+}
+
+void TextPositions::contentsChanged(int from, int removed, int added) {
+    const int characters = m_document.characterCount();
+    if (m_seenInBlock) {
+        // All of it was taken in step by step.
+        m_seenInBlock = false;
+        m_characters = characters;
+        return;
+    }
+    // A document that is emptied counts its last separator in, on one side or on both.
+    if (from < 0 || from + added > characters || characters - m_characters != added - removed) {
+        m_lineBreaks.clear();
+        scanBreaks(0, 0, characters);
+        m_textValid = false;
+    } else {
+        scanBreaks(from, removed, added);
+        patchText(from, added);
+    }
+    m_characters = characters;
+}
+
+void TextPositions::changedInBlock(int from, int removed, int added) {
+    scanBreaks(from, removed, added);
+    m_textValid = false;
+    m_seenInBlock = true;
+}
+
+void TextPositions::scanBreaks(int from, int removed, int added) {
+    const auto first = std::lower_bound(m_lineBreaks.begin(), m_lineBreaks.end(), from);
+    const auto behind = std::lower_bound(first, m_lineBreaks.end(), from + removed);
+    for (auto it = behind; it != m_lineBreaks.end(); ++it)
+        *it += added - removed;
+
+    std::vector<int> found;
+    const int to = from + added;
+    for (QTextBlock block = m_document.findBlock(from); block.isValid() && block.position() < to;
+         block = block.next()) {
+        const QString text = block.text();
+        qsizetype at =
+            text.indexOf(QChar(QChar::LineSeparator), std::max(from - block.position(), 0));
+        for (; at >= 0 && block.position() + at < to;
+             at = text.indexOf(QChar(QChar::LineSeparator), at + 1))
+            found.push_back(int(block.position() + at));
+    }
+    const auto place = m_lineBreaks.erase(first, behind);
+    m_lineBreaks.insert(place, found.begin(), found.end());
+}
+
+void TextPositions::patchText(int from, int added) {
+    if (!m_textValid)
+        return;
+    const int to = std::min(from + added, lastPosition());
+    const int start = indexOf(from);
+    const int tail = length() - indexOf(to);
+    const int replaced = int(m_text.size()) - start - tail;
+    if (replaced < 0) {
+        m_textValid = false;
+        return;
+    }
+    m_text.replace(start, replaced, between(from, to));
+}
+
+} // namespace orvalis

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+class QTextDocument;
+
+namespace orvalis {
+
+/// Converts between positions of a document, where a break counts one, and indexes into its plain
+/// text, where it counts two; and holds that text.
+///
+/// Nothing is rebuilt for a change: an index is the position plus the breaks ahead of it, and of
+/// the text the changed part alone is replaced.
+class TextPositions {
+public:
+    explicit TextPositions(QTextDocument& document);
+
+    /// Length of the plain text.
+    int length() const;
+    /// The index of a document's position.
+    int indexOf(int position) const;
+    /// The document's position of an index: at most the end; the place ahead of a break for an
+    /// index between its CR and LF.
+    int positionOf(int index) const;
+    /// The plain text between two positions of the document.
+    QString between(int from, int to) const;
+    const QString& text() const;
+    /// Whether text() costs nothing at the moment.
+    bool hasText() const { return m_textValid; }
+
+    /// The document told of a change (QTextDocument::contentsChange).
+    void contentsChanged(int from, int removed, int added);
+    /// A change inside an open edit block, of which the document will tell when the block closes.
+    void changedInBlock(int from, int removed, int added);
+
+private:
+    int lastPosition() const;
+    int breaksBefore(int position) const;
+    QString rawText(int from, int to) const;
+    void appendBlocks(QString& plain, int from, int to) const;
+    void scanBreaks(int from, int removed, int added);
+    void patchText(int from, int added);
+
+    QTextDocument& m_document;
+    std::vector<int> m_lineBreaks; ///< positions of U+2028, in order
+    int m_characters;              ///< of the document at the last change that was seen
+    bool m_seenInBlock = false;
+    mutable bool m_textValid = false;
+    mutable QString m_text;
+};
+
+} // namespace orvalis

@@ -1,0 +1,303 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "controls/format_range.h"
+#include "controls/rich_text_box.h"
+#include "support/test_main.h"
+
+#include <QApplication>
+#include <QBuffer>
+#include <QClipboard>
+#include <QPainter>
+#include <QTextBlock>
+
+using namespace orvalis;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int inch = 1440;
+constexpr int dotsPerMeter = 3780; // 96 to the inch
+constexpr QRectF wholePage(inch, inch, 4 * inch, 4 * inch);
+
+QImage sheet() {
+    QImage image(6 * 96, 6 * 96, QImage::Format_RGB32);
+    image.setDotsPerMeterX(dotsPerMeter);
+    image.setDotsPerMeterY(dotsPerMeter);
+    image.fill(Qt::white);
+    return image;
+}
+
+struct Page {
+    QImage image;
+    int next;
+};
+
+/// All pages of a box, drawn; at most a hundred.
+QList<Page> pagesOf(RichTextBox& box, const QRectF& rect = wholePage) {
+    QList<Page> pages;
+    const int length = int(box.Text().size());
+    int first = 0;
+    do {
+        Page page{sheet(), 0};
+        QPainter painter(&page.image);
+        page.next = box.FormatPage({&painter, &page.image, rect, first, -1});
+        painter.end();
+        pages << page;
+        first = page.next;
+    } while (first < length && pages.size() < 100);
+    box.EndFormatting();
+    return pages;
+}
+
+bool hasInk(const QImage& image, const QRect& area) {
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x) {
+            if (image.pixel(x, y) != qRgb(255, 255, 255))
+                return true;
+        }
+    }
+    return false;
+}
+
+QString manyLines(int count) {
+    QString text;
+    for (int i = 1; i <= count; ++i)
+        text += u"line "_s + QString::number(i) + u"\r\n"_s;
+    text.chop(2);
+    return text;
+}
+
+void paste(RichTextBox& box, const QSize& size) {
+    QImage picture(size, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    QApplication::clipboard()->setImage(picture);
+    box.Paste();
+}
+
+QRect inkBounds(const QImage& image) {
+    QRect bounds;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixel(x, y) != qRgb(255, 255, 255))
+                bounds |= QRect(x, y, 1, 1);
+        }
+    }
+    return bounds;
+}
+
+} // namespace
+
+class FormatRangeTest : public QObject {
+    Q_OBJECT
+private slots:
+    void oneLineIsOnePage();
+    void anEmptyBoxIsDoneAtOnce();
+    void manyLinesBecomePagesThatFollowEachOther();
+    void eachPageBeginsAtTheTopOfItsRectangle();
+    void noLineIsCutInTwo();
+    void aParagraphLongerThanAPageGoesOnBehindItsLines();
+    void aDocumentOfExactlyOnePageHasNoSecond();
+    void aPictureLargerThanThePageShrinks();
+    void aPictureThatFitsKeepsItsSize();
+    void aLineTallerThanThePageStillAdvances();
+    void aPageBreakBeginsAPage();
+    void aRangeEndsWhereItIsTold();
+    void measuringDrawsNothing();
+    void printingIsTheSameOnAFinerDevice();
+    void aChangedTextIsFormattedAnew();
+    void theBoxItselfStaysAsItWas();
+};
+
+void FormatRangeTest::oneLineIsOnePage() {
+    RichTextBox box;
+    box.SetText(u"one line"_s);
+    const QList<Page> pages = pagesOf(box);
+    QCOMPARE(pages.size(), 1);
+    QCOMPARE(pages.first().next, 8);
+    QVERIFY(hasInk(pages.first().image, QRect(96, 96, 200, 40)));
+    QVERIFY(!hasInk(pages.first().image, QRect(0, 0, 95, 576)));
+    QVERIFY(!hasInk(pages.first().image, QRect(0, 0, 576, 95)));
+}
+
+void FormatRangeTest::anEmptyBoxIsDoneAtOnce() {
+    RichTextBox box;
+    const QList<Page> pages = pagesOf(box);
+    QCOMPARE(pages.size(), 1);
+    QCOMPARE(pages.first().next, 0);
+    QVERIFY(inkBounds(pages.first().image).isEmpty());
+}
+
+void FormatRangeTest::manyLinesBecomePagesThatFollowEachOther() {
+    RichTextBox box;
+    box.SetText(manyLines(100));
+    const QList<Page> pages = pagesOf(box);
+    QVERIFY(pages.size() >= 3);
+    const QString text = box.Text();
+    int before = 0;
+    for (const Page& page : pages) {
+        QVERIFY(page.next > before);
+        if (page.next < text.size())
+            QCOMPARE(text.mid(page.next, 5), u"line "_s);
+        before = page.next;
+    }
+    QCOMPARE(before, int(text.size()));
+}
+
+void FormatRangeTest::eachPageBeginsAtTheTopOfItsRectangle() {
+    RichTextBox box;
+    box.SetText(manyLines(100));
+    const QList<Page> pages = pagesOf(box);
+    const int top = inkBounds(pages.first().image).top();
+    QVERIFY(top >= 96);
+    for (const Page& page : pages) {
+        QVERIFY(std::abs(inkBounds(page.image).top() - top) <= 1);
+        QVERIFY(inkBounds(page.image).bottom() < 5 * 96);
+    }
+}
+
+void FormatRangeTest::noLineIsCutInTwo() {
+    // A page whose height ends in the middle of a line leaves that line to the next page, so that
+    // the two draw it once and whole.
+    RichTextBox box;
+    box.SetText(manyLines(3));
+    const QList<Page> whole = pagesOf(box);
+    const int lineHeight = inkBounds(whole.first().image).height() / 3;
+    const QRectF short2(inch, inch, 4 * inch, (lineHeight * 2.5) * 15);
+    const QList<Page> pages = pagesOf(box, short2);
+    QCOMPARE(pages.size(), 2);
+    QCOMPARE(pages.first().next, 16);
+    const QImage last = pages.last().image.copy(inkBounds(pages.last().image));
+    box.SetText(u"line 3"_s);
+    const QImage alone = pagesOf(box).first().image;
+    QCOMPARE(last, alone.copy(inkBounds(alone)));
+}
+
+void FormatRangeTest::aParagraphLongerThanAPageGoesOnBehindItsLines() {
+    RichTextBox box;
+    box.SetText(u"many words in one paragraph "_s.repeated(400));
+    const QList<Page> pages = pagesOf(box);
+    QVERIFY(pages.size() >= 2);
+    QVERIFY(pages.first().next < int(box.Text().size()));
+    QCOMPARE(box.Text().at(pages.first().next - 1), u' ');
+    QCOMPARE(pages.last().next, int(box.Text().size()));
+}
+
+void FormatRangeTest::aDocumentOfExactlyOnePageHasNoSecond() {
+    RichTextBox box;
+    box.SetText(manyLines(100));
+    const int fits = box.Text().left(pagesOf(box).first().next).count(u'\n');
+    box.SetText(manyLines(fits));
+    const QList<Page> exact = pagesOf(box);
+    QCOMPARE(exact.size(), 1);
+    QCOMPARE(exact.first().next, int(box.Text().size()));
+    box.SetText(manyLines(fits + 1));
+    QCOMPARE(pagesOf(box).size(), 2);
+}
+
+void FormatRangeTest::aPictureLargerThanThePageShrinks() {
+    for (const QSize& size : {QSize(3000, 100), QSize(100, 3000), QSize(2000, 2000)}) {
+        RichTextBox box;
+        paste(box, size);
+        const QList<Page> pages = pagesOf(box);
+        QCOMPARE(pages.size(), 1);
+        QCOMPARE(pages.first().next, 1);
+        const QRect ink = inkBounds(pages.first().image);
+        QVERIFY(ink.width() <= 4 * 96);
+        QVERIFY(ink.height() <= 4 * 96);
+        QVERIFY(ink.width() > 300 || ink.height() > 300);
+        const double shape = double(size.width()) / size.height();
+        QVERIFY(std::abs(ink.width() - ink.height() * shape) <= 1.5 * qMax(1.0, shape));
+    }
+}
+
+void FormatRangeTest::aPictureThatFitsKeepsItsSize() {
+    RichTextBox box;
+    paste(box, QSize(60, 40));
+    QCOMPARE(inkBounds(pagesOf(box).first().image).size(), QSize(60, 40));
+}
+
+void FormatRangeTest::aLineTallerThanThePageStillAdvances() {
+    RichTextBox box;
+    box.SetText(u"A\r\nB\r\nC"_s);
+    box.selectAll();
+    box.SetSelFontSize(200);
+    const QList<Page> pages = pagesOf(box, QRectF(0, 0, 4 * inch, inch));
+    QCOMPARE(pages.size(), 3);
+    QCOMPARE(pages.at(0).next, 3);
+    QCOMPARE(pages.at(1).next, 6);
+    QCOMPARE(pages.at(2).next, 7);
+}
+
+void FormatRangeTest::aPageBreakBeginsAPage() {
+    RichTextBox box;
+    box.SetTextRTF(QByteArrayLiteral("{\\rtf1 one\\par\\pagebb two\\par}"));
+    const QList<Page> pages = pagesOf(box);
+    QCOMPARE(pages.size(), 2);
+    QCOMPARE(pages.first().next, 5);
+}
+
+void FormatRangeTest::aRangeEndsWhereItIsTold() {
+    RichTextBox box;
+    box.SetText(manyLines(20));
+    QImage image = sheet();
+    QPainter painter(&image);
+    QCOMPARE(box.FormatPage({&painter, &image, wholePage, 0, 16}), 16);
+    painter.end();
+    QImage two = sheet();
+    box.SetText(manyLines(2));
+    QPainter other(&two);
+    box.FormatPage({&other, &two, wholePage, 0, -1});
+    other.end();
+    QCOMPARE(image, two);
+}
+
+void FormatRangeTest::measuringDrawsNothing() {
+    RichTextBox box;
+    box.SetText(manyLines(100));
+    QImage image = sheet();
+    const int next = box.FormatPage({nullptr, &image, wholePage, 0, -1});
+    QCOMPARE(next, pagesOf(box).first().next);
+    QVERIFY(inkBounds(image).isEmpty());
+}
+
+void FormatRangeTest::printingIsTheSameOnAFinerDevice() {
+    RichTextBox box;
+    box.SetText(u"many words in one paragraph "_s.repeated(200));
+    paste(box, QSize(50, 50));
+    QImage fine(6 * 600, 6 * 600, QImage::Format_RGB32);
+    fine.setDotsPerMeterX(qRound(600 / 0.0254));
+    fine.setDotsPerMeterY(qRound(600 / 0.0254));
+    fine.fill(Qt::white);
+    QPainter painter(&fine);
+    const int next = box.FormatPage({&painter, &fine, wholePage, 0, -1});
+    painter.end();
+    const QRect ink = inkBounds(fine);
+    QVERIFY(ink.left() >= 600 && ink.right() < 5 * 600);
+    QVERIFY(ink.top() >= 600 && ink.bottom() < 5 * 600);
+    QVERIFY(ink.width() > 3 * 600);
+    // Letters are measured more finely there, so the lines break nearly, not exactly, alike.
+    QVERIFY(std::abs(next - pagesOf(box).first().next) < next / 10);
+}
+
+void FormatRangeTest::aChangedTextIsFormattedAnew() {
+    RichTextBox box;
+    box.SetText(manyLines(100));
+    QImage image = sheet();
+    QVERIFY(box.FormatPage({nullptr, &image, wholePage, 0, -1}) < int(box.Text().size()));
+    box.SetText(u"short"_s);
+    QCOMPARE(box.FormatPage({nullptr, &image, wholePage, 0, -1}), 5);
+    box.SetSelText(u"not so "_s);
+    QCOMPARE(box.FormatPage({nullptr, &image, wholePage, 0, -1}), 12);
+}
+
+void FormatRangeTest::theBoxItselfStaysAsItWas() {
+    RichTextBox box;
+    paste(box, QSize(2000, 2000));
+    const QByteArray before = box.TextRTF();
+    pagesOf(box);
+    QCOMPARE(box.TextRTF(), before);
+    QCOMPARE(box.SelStart(), 1);
+}
+
+ORVALIS_TEST_MAIN_WITH(QApplication, FormatRangeTest)
+#include "format_range_test.moc"

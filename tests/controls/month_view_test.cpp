@@ -1,0 +1,191 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "controls/month_view.h"
+
+#include "runtime/failure.h"
+#include "support/test_main.h"
+
+#include <QApplication>
+#include <QSignalSpy>
+#include <QTableView>
+
+using namespace orvalis;
+
+namespace {
+
+/// The cell of a date in the month shown; row 0 of the calendar's table holds the day names.
+QPoint cellOf(const QTableView& days, const QDate& date) {
+    const QDate first(date.year(), date.month(), 1);
+    int before = first.dayOfWeek() % 7;
+    if (before == 0)
+        before = 7; // a month that begins on Sunday is shown behind a week of the month before
+    const int place = before + date.day() - 1;
+    return days.visualRect(days.model()->index(1 + place / 7, place % 7)).center();
+}
+
+} // namespace
+
+class MonthViewTest : public QObject {
+    Q_OBJECT
+private slots:
+    void init();
+    void weeksBeginOnSundayAndAreNotNumbered();
+    void partsOfTheValueCanBeReadAndSet();
+    void aDayThatTheNewMonthLacksBecomesItsLast();
+    void partsThatAreNoneAreRefused_data();
+    void partsThatAreNoneAreRefused();
+    void daysOfTheWeekCountFromSunday_data();
+    void daysOfTheWeekCountFromSunday();
+    void weekOneHoldsTheFirstOfJanuary_data();
+    void weekOneHoldsTheFirstOfJanuary();
+    void aClickOnADateIsToldOnce();
+    void aClickOnTheSelectedDateIsToldToo();
+    void aDateChosenByKeyIsTold();
+    void aDateSetByCodeIsNotTold();
+    void settingTheValueTurnsBackToItsMonth();
+    void refreshKeepsTheValue();
+
+private:
+    QTableView* days() const { return m_calendar->findChild<QTableView*>(); }
+    std::unique_ptr<MonthView> m_calendar;
+};
+
+void MonthViewTest::init() {
+    m_calendar = std::make_unique<MonthView>();
+    m_calendar->setValue(QDate(2026, 3, 14));
+    m_calendar->resize(320, 240);
+    m_calendar->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_calendar.get()));
+}
+
+void MonthViewTest::weeksBeginOnSundayAndAreNotNumbered() {
+    QCOMPARE(m_calendar->firstDayOfWeek(), Qt::Sunday);
+    QCOMPARE(m_calendar->verticalHeaderFormat(), QCalendarWidget::NoVerticalHeader);
+}
+
+void MonthViewTest::partsOfTheValueCanBeReadAndSet() {
+    QCOMPARE(m_calendar->Day(), 14);
+    QCOMPARE(m_calendar->Month(), 3);
+    QCOMPARE(m_calendar->Year(), 2026);
+    m_calendar->setDay(2);
+    m_calendar->setMonth(11);
+    m_calendar->setYear(1999);
+    QCOMPARE(m_calendar->Value(), QDate(1999, 11, 2));
+}
+
+void MonthViewTest::aDayThatTheNewMonthLacksBecomesItsLast() {
+    m_calendar->setValue(QDate(2024, 3, 31));
+    m_calendar->setMonth(2);
+    QCOMPARE(m_calendar->Value(), QDate(2024, 2, 29));
+    m_calendar->setYear(2023);
+    QCOMPARE(m_calendar->Value(), QDate(2023, 2, 28));
+}
+
+void MonthViewTest::partsThatAreNoneAreRefused_data() {
+    QTest::addColumn<QString>("part");
+    QTest::addColumn<int>("value");
+    QTest::newRow("day 0") << QStringLiteral("day") << 0;
+    QTest::newRow("day 32") << QStringLiteral("day") << 32;
+    QTest::newRow("month 0") << QStringLiteral("month") << 0;
+    QTest::newRow("month 13") << QStringLiteral("month") << 13;
+    QTest::newRow("year 0") << QStringLiteral("year") << 0;
+    QTest::newRow("year 10000") << QStringLiteral("year") << 10000;
+}
+
+void MonthViewTest::partsThatAreNoneAreRefused() {
+    QFETCH(QString, part);
+    QFETCH(int, value);
+    const auto failure = firstFailure([&] {
+        if (part == QStringLiteral("day"))
+            m_calendar->setDay(value);
+        else if (part == QStringLiteral("month"))
+            m_calendar->setMonth(value);
+        else
+            m_calendar->setYear(value);
+    });
+    QVERIFY(failure.has_value());
+    QCOMPARE(failure->number(), ErrorNumber::InvalidPropertyValue);
+    QCOMPARE(m_calendar->Value(), QDate(2026, 3, 14));
+    QVERIFY(firstFailure([&] { m_calendar->setValue(QDate()); }).has_value());
+}
+
+void MonthViewTest::daysOfTheWeekCountFromSunday_data() {
+    QTest::addColumn<QDate>("date");
+    QTest::addColumn<int>("day");
+    for (int i = 0; i < 7; ++i)
+        QTest::addRow("%d", i + 1) << QDate(2002, 6, 9 + i) << i + 1;
+}
+
+void MonthViewTest::daysOfTheWeekCountFromSunday() {
+    QFETCH(QDate, date);
+    QFETCH(int, day);
+    m_calendar->setValue(date);
+    QCOMPARE(m_calendar->DayOfWeek(), day);
+}
+
+void MonthViewTest::weekOneHoldsTheFirstOfJanuary_data() {
+    QTest::addColumn<QDate>("date");
+    QTest::addColumn<int>("week");
+    QTest::newRow("1 January on a Tuesday") << QDate(2002, 1, 1) << 1;
+    QTest::newRow("the first Saturday") << QDate(2002, 1, 5) << 1;
+    QTest::newRow("the first Sunday after") << QDate(2002, 1, 6) << 2;
+    QTest::newRow("1 January on a Sunday") << QDate(2023, 1, 1) << 1;
+    QTest::newRow("the Saturday behind it") << QDate(2023, 1, 7) << 1;
+    QTest::newRow("1 January on a Saturday") << QDate(2022, 1, 1) << 1;
+    QTest::newRow("the day behind it") << QDate(2022, 1, 2) << 2;
+    QTest::newRow("the end of December") << QDate(2002, 12, 31) << 53;
+    QTest::newRow("the end of a leap year that began on Saturday") << QDate(2000, 12, 31) << 54;
+    QTest::newRow("midsummer") << QDate(2002, 6, 12) << 24;
+}
+
+void MonthViewTest::weekOneHoldsTheFirstOfJanuary() {
+    QFETCH(QDate, date);
+    QFETCH(int, week);
+    m_calendar->setValue(date);
+    QCOMPARE(m_calendar->Week(), week);
+}
+
+void MonthViewTest::aClickOnADateIsToldOnce() {
+    QSignalSpy told(m_calendar.get(), &MonthView::DateClick);
+    QTest::mouseClick(days()->viewport(), Qt::LeftButton, {}, cellOf(*days(), QDate(2026, 3, 20)));
+    QCOMPARE(told.count(), 1);
+    QCOMPARE(told.first().first().toDate(), QDate(2026, 3, 20));
+    QCOMPARE(m_calendar->Value(), QDate(2026, 3, 20));
+}
+
+void MonthViewTest::aClickOnTheSelectedDateIsToldToo() {
+    QSignalSpy told(m_calendar.get(), &MonthView::DateClick);
+    QTest::keyClick(days(), Qt::Key_Right);
+    QTest::mouseClick(days()->viewport(), Qt::LeftButton, {}, cellOf(*days(), QDate(2026, 3, 15)));
+    QCOMPARE(told.count(), 2);
+}
+
+void MonthViewTest::aDateChosenByKeyIsTold() {
+    QSignalSpy told(m_calendar.get(), &MonthView::DateClick);
+    QTest::keyClick(days(), Qt::Key_Right);
+    QCOMPARE(told.count(), 1);
+    QCOMPARE(m_calendar->Value(), QDate(2026, 3, 15));
+}
+
+void MonthViewTest::aDateSetByCodeIsNotTold() {
+    QTest::keyClick(days(), Qt::Key_Right);
+    QSignalSpy told(m_calendar.get(), &MonthView::DateClick);
+    m_calendar->setValue(QDate(2026, 5, 1));
+    m_calendar->setDay(3);
+    QCOMPARE(told.count(), 0);
+}
+
+void MonthViewTest::settingTheValueTurnsBackToItsMonth() {
+    m_calendar->showNextMonth();
+    m_calendar->setValue(m_calendar->Value());
+    QCOMPARE(m_calendar->monthShown(), 3);
+    QCOMPARE(m_calendar->yearShown(), 2026);
+}
+
+void MonthViewTest::refreshKeepsTheValue() {
+    m_calendar->Refresh();
+    QCOMPARE(m_calendar->Value(), QDate(2026, 3, 14));
+}
+
+ORVALIS_TEST_MAIN_WITH(QApplication, MonthViewTest)
+#include "month_view_test.moc"

@@ -1,0 +1,376 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "skin/palette.h"
+#include "skin/skin.h"
+#include "skin/style.h"
+#include "support/test_main.h"
+
+#include <QApplication>
+#include <QCalendarWidget>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QImage>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPainter>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QStyleOption>
+#include <QTextEdit>
+#include <QToolTip>
+
+using namespace Qt::StringLiterals;
+using namespace orvalis;
+namespace colour = skin::colour;
+
+namespace {
+
+QImage pictureOf(QWidget& widget, qreal ratio = 1) {
+    QImage image((QSizeF(widget.size()) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::red);
+    widget.ensurePolished();
+    widget.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+    return image;
+}
+
+// How many pixels are near the colour: edges are smooth, so that few are exactly it.
+int pixelsLike(const QImage& image, QRgb rgb, int tolerance = 12) {
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            count += qAbs(qRed(pixel) - qRed(rgb)) <= tolerance &&
+                     qAbs(qGreen(pixel) - qGreen(rgb)) <= tolerance &&
+                     qAbs(qBlue(pixel) - qBlue(rgb)) <= tolerance;
+        }
+    }
+    return count;
+}
+
+QImage drawn(QStyle::PrimitiveElement element, QStyle::State state, QSize size) {
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    QStyleOption option;
+    option.rect = image.rect();
+    option.state = state;
+    QPainter painter(&image);
+    QApplication::style()->drawPrimitive(element, &option, &painter);
+    return image;
+}
+
+QStyleOptionSlider bar(int height, int maximum, int page, int position) {
+    QStyleOptionSlider option;
+    option.rect = QRect(0, 0, 12, height);
+    option.orientation = Qt::Vertical;
+    option.maximum = maximum;
+    option.pageStep = page;
+    option.sliderPosition = position;
+    option.state = QStyle::State_Enabled;
+    return option;
+}
+
+QRect sliderOf(const QStyleOptionSlider& option, QStyle::SubControl part) {
+    return QApplication::style()->subControlRect(QStyle::CC_ScrollBar, &option, part);
+}
+
+} // namespace
+
+class StyleTest : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void theProgramWearsItsOwnColours();
+    void theProgramHasAnIconAtEverySizeOfTheTaskBar();
+    void aTickIsGreenAndGoesWithTheTick();
+    void aTickIsFaintWhileDisabled();
+    void aTickIsSharpAtTwiceTheScale();
+    void aChosenOptionHasItsDot();
+    void whatIsUnderThePointerHasATealEdge();
+    void whatIsSelectedInAListIsSage();
+    void whatIsUnderThePointerInAListIsNotSage();
+    void aFieldOnPaperShowsThePage();
+    void aLineOnPaperHasNoFrame();
+    void aFieldElsewhereIsWhiteWithAnEdge();
+    void aLabelOnGlassIsPale();
+    void aComboHasItsArrowAtTheRight();
+    void theEditFieldOfAComboEndsBeforeItsArrow();
+    void theListOfAComboDropsDownBelowIt();
+    void aFrameLeavesRoomForItsCaption();
+    void aFrameWithoutACaptionIsClosed();
+    void theSliderOfAScrollBarShowsThePart();
+    void theSliderOfALongListCanStillBeGrasped();
+    void aScrollBarHasNoArrowButtons();
+    void progressIsGreenAsFarAsItCame();
+    void aButtonSinksWhenItIsPressed();
+    void theIconsOfMessageBoxesAreOurs();
+    void aChosenMenuEntryIsTeal();
+    void theCalendarHasAnEdgeAndAQuietHead();
+    void theMonthOfTheCalendarHasNoArrowInItsCorner();
+};
+
+void StyleTest::initTestCase() {
+    skin::dress(*qApp);
+}
+
+void StyleTest::theProgramWearsItsOwnColours() {
+    QCOMPARE(QApplication::palette().color(QPalette::Highlight), QColor::fromRgba(colour::Sage));
+    QCOMPARE(QApplication::palette().color(QPalette::WindowText), QColor::fromRgba(colour::Ink));
+    QCOMPARE(QToolTip::palette().color(QPalette::ToolTipText), QColor::fromRgba(colour::Ink));
+    QVERIFY(dynamic_cast<skin::Style*>(QApplication::style()));
+}
+
+void StyleTest::theProgramHasAnIconAtEverySizeOfTheTaskBar() {
+    for (const int side : {16, 22, 24, 32, 48, 64})
+        QCOMPARE(QApplication::windowIcon().pixmap(QSize(side, side), 1.0).width(), side);
+}
+
+void StyleTest::aTickIsGreenAndGoesWithTheTick() {
+    QCheckBox box(u"Remind"_s);
+    QCOMPARE(pixelsLike(pictureOf(box), colour::Green), 0);
+    box.setChecked(true);
+    QVERIFY(pixelsLike(pictureOf(box), colour::Green) > 5);
+}
+
+void StyleTest::aTickIsFaintWhileDisabled() {
+    QCheckBox box(u"Remind"_s);
+    box.setChecked(true);
+    box.setEnabled(false);
+    QCOMPARE(pixelsLike(pictureOf(box), colour::Green), 0);
+    QVERIFY(pixelsLike(pictureOf(box), colour::DisabledText) > 3);
+}
+
+void StyleTest::aTickIsSharpAtTwiceTheScale() {
+    QCheckBox box(u"Remind"_s);
+    box.setChecked(true);
+    box.resize(box.sizeHint());
+    const QImage large = pictureOf(box, 2);
+    const QImage blown = pictureOf(box).scaled(large.size());
+    // A drawing has far more pixels that are wholly green than a magnified bitmap has.
+    QVERIFY(pixelsLike(large, colour::Green, 2) > 30);
+    QVERIFY(pixelsLike(large, colour::Green, 2) > pixelsLike(blown, colour::Green, 2));
+}
+
+void StyleTest::aChosenOptionHasItsDot() {
+    QRadioButton option(u"First"_s);
+    QCOMPARE(pixelsLike(pictureOf(option), colour::Green), 0);
+    option.setChecked(true);
+    QVERIFY(pixelsLike(pictureOf(option), colour::Green) > 8);
+}
+
+void StyleTest::whatIsUnderThePointerHasATealEdge() {
+    const auto box = [](QStyle::State state) {
+        return drawn(QStyle::PE_IndicatorCheckBox, state | QStyle::State_Off, QSize(14, 14));
+    };
+    QCOMPARE(pixelsLike(box(QStyle::State_Enabled), colour::Teal, 40), 0);
+    QVERIFY(pixelsLike(box(QStyle::State_Enabled | QStyle::State_MouseOver), colour::Teal, 40) > 8);
+    QCOMPARE(pixelsLike(box(QStyle::State_MouseOver), colour::Teal, 40), 0);
+}
+
+void StyleTest::whatIsSelectedInAListIsSage() {
+    const QImage image = drawn(QStyle::PE_PanelItemViewItem,
+                               QStyle::State_Enabled | QStyle::State_Selected, QSize(20, 10));
+    QCOMPARE(image.pixel(10, 5), colour::Sage);
+}
+
+void StyleTest::whatIsUnderThePointerInAListIsNotSage() {
+    const QImage image = drawn(QStyle::PE_PanelItemViewItem,
+                               QStyle::State_Enabled | QStyle::State_MouseOver, QSize(20, 10));
+    QCOMPARE(image.pixel(10, 5), colour::TealMist);
+}
+
+void StyleTest::aFieldOnPaperShowsThePage() {
+    QTextEdit text;
+    text.setProperty("skinSurface", u"paper"_s);
+    text.resize(60, 40);
+    const QImage image = pictureOf(text);
+    QCOMPARE(image.pixel(0, 0), qRgb(255, 0, 0));
+    QCOMPARE(image.pixel(40, 30), qRgb(255, 0, 0));
+}
+
+void StyleTest::aLineOnPaperHasNoFrame() {
+    QLineEdit line;
+    line.setProperty("skinSurface", u"paper"_s);
+    line.resize(60, 20);
+    const QImage image = pictureOf(line);
+    QCOMPARE(image.pixel(30, 0), qRgb(255, 0, 0));
+    QCOMPARE(image.pixel(0, 10), qRgb(255, 0, 0));
+}
+
+void StyleTest::aFieldElsewhereIsWhiteWithAnEdge() {
+    QLineEdit line;
+    line.resize(60, 20);
+    const QImage image = pictureOf(line);
+    QCOMPARE(image.pixel(30, 10), qRgb(255, 255, 255));
+    QCOMPARE(image.pixel(30, 0), colour::Line);
+    QTextEdit text;
+    text.resize(60, 40);
+    const QImage page = pictureOf(text);
+    QCOMPARE(page.pixel(30, 20), qRgb(255, 255, 255));
+    QCOMPARE(page.pixel(30, 0), colour::Line);
+}
+
+void StyleTest::aLabelOnGlassIsPale() {
+    QLabel label(u"10 : 24"_s);
+    label.setProperty("skinSurface", u"glass"_s);
+    label.ensurePolished();
+    QCOMPARE(label.palette().color(QPalette::WindowText), QColor::fromRgba(colour::GlassText));
+}
+
+void StyleTest::aComboHasItsArrowAtTheRight() {
+    QComboBox combo;
+    combo.resize(60, 23);
+    const QImage image = pictureOf(combo);
+    const QRect right(60 - 19, 0, 19, 23);
+    QVERIFY(pixelsLike(image.copy(right), colour::TitleInk, 40) > 4);
+    QCOMPARE(pixelsLike(image.copy(0, 0, 40, 23), colour::TitleInk, 40), 0);
+}
+
+void StyleTest::theEditFieldOfAComboEndsBeforeItsArrow() {
+    QComboBox combo;
+    combo.setEditable(true);
+    combo.resize(60, 23);
+    combo.show();
+    QVERIFY(combo.lineEdit()->geometry().right() < 60 - 19);
+    QVERIFY(combo.lineEdit()->geometry().width() > 30);
+}
+
+void StyleTest::theListOfAComboDropsDownBelowIt() {
+    QComboBox combo;
+    QStyleOptionComboBox option;
+    QCOMPARE(QApplication::style()->styleHint(QStyle::SH_ComboBox_Popup, &option, &combo), 0);
+}
+
+void StyleTest::aFrameLeavesRoomForItsCaption() {
+    QGroupBox frame(u"Start Up"_s);
+    frame.resize(120, 60);
+    const QImage image = pictureOf(frame);
+    QStyleOptionGroupBox option;
+    option.initFrom(&frame);
+    option.text = frame.title();
+    const QRect caption = QApplication::style()->subControlRect(QStyle::CC_GroupBox, &option,
+                                                                QStyle::SC_GroupBoxLabel, &frame);
+    const int edge = caption.center().y();
+    QVERIFY(image.pixel(110, edge) != qRgb(255, 0, 0));
+    QCOMPARE(image.pixel(caption.left() - 2, edge), qRgb(255, 0, 0));
+    QCOMPARE(image.pixel(110, edge - 3), qRgb(255, 0, 0));
+    QVERIFY(pixelsLike(image.copy(caption), colour::Ink, 60) > 10);
+}
+
+void StyleTest::aFrameWithoutACaptionIsClosed() {
+    QGroupBox frame;
+    frame.resize(120, 60);
+    const QImage image = pictureOf(frame);
+    for (int x = 10; x < 110; ++x)
+        QVERIFY(image.pixel(x, 0) != qRgb(255, 0, 0));
+}
+
+void StyleTest::theSliderOfAScrollBarShowsThePart() {
+    const QStyleOptionSlider option = bar(100, 100, 100, 50);
+    QCOMPARE(sliderOf(option, QStyle::SC_ScrollBarSlider), QRect(0, 25, 12, 50));
+    QCOMPARE(sliderOf(option, QStyle::SC_ScrollBarSubPage), QRect(0, 0, 12, 25));
+    QCOMPARE(sliderOf(option, QStyle::SC_ScrollBarAddPage), QRect(0, 75, 12, 25));
+    QCOMPARE(sliderOf(option, QStyle::SC_ScrollBarGroove), QRect(0, 0, 12, 100));
+}
+
+void StyleTest::theSliderOfALongListCanStillBeGrasped() {
+    QCOMPARE(sliderOf(bar(100, 1000000, 10, 1000000), QStyle::SC_ScrollBarSlider),
+             QRect(0, 76, 12, 24));
+    QCOMPARE(sliderOf(bar(10, 1000, 10, 0), QStyle::SC_ScrollBarSlider), QRect(0, 0, 12, 10));
+}
+
+void StyleTest::aScrollBarHasNoArrowButtons() {
+    const QStyleOptionSlider option = bar(100, 100, 10, 0);
+    QVERIFY(!sliderOf(option, QStyle::SC_ScrollBarAddLine).isValid());
+    QVERIFY(!sliderOf(option, QStyle::SC_ScrollBarSubLine).isValid());
+}
+
+void StyleTest::progressIsGreenAsFarAsItCame() {
+    QProgressBar progress;
+    progress.setTextVisible(false);
+    progress.resize(104, 14);
+    progress.setRange(0, 100);
+    progress.setValue(50);
+    const QImage image = pictureOf(progress);
+    const QRgb done = image.pixel(30, 7);
+    QVERIFY(qGreen(done) > qRed(done) + 20 && qGreen(done) > qBlue(done) + 20);
+    const QRgb rest = image.pixel(80, 7);
+    QVERIFY(qAbs(qGreen(rest) - qRed(rest)) < 20);
+}
+
+void StyleTest::aButtonSinksWhenItIsPressed() {
+    QPushButton button;
+    button.resize(60, 24);
+    const QImage up = pictureOf(button);
+    button.setDown(true);
+    const QImage down = pictureOf(button);
+    QVERIFY(qGray(up.pixel(30, 4)) > qGray(up.pixel(30, 20)));
+    QVERIFY(qGray(down.pixel(30, 4)) < qGray(down.pixel(30, 20)));
+}
+
+void StyleTest::theIconsOfMessageBoxesAreOurs() {
+    const auto same = [](QStyle::StandardPixmap standard, QStringView name) {
+        return QApplication::style()->standardIcon(standard).pixmap(QSize(48, 48), 1.0).toImage() ==
+               skin::pixmap(name, QSize(48, 48), 1).toImage();
+    };
+    QVERIFY(same(QStyle::SP_MessageBoxInformation, u"box_information"));
+    QVERIFY(same(QStyle::SP_MessageBoxWarning, u"box_warning"));
+    QVERIFY(same(QStyle::SP_MessageBoxCritical, u"box_stop"));
+    QVERIFY(same(QStyle::SP_MessageBoxQuestion, u"box_question"));
+}
+
+void StyleTest::aChosenMenuEntryIsTeal() {
+    QImage image(80, 22, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    QStyleOptionMenuItem option;
+    option.rect = image.rect();
+    option.palette = QApplication::palette();
+    option.menuItemType = QStyleOptionMenuItem::Normal;
+    option.state = QStyle::State_Enabled | QStyle::State_Selected;
+    QPainter painter(&image);
+    QApplication::style()->drawControl(QStyle::CE_MenuItem, &option, &painter);
+    painter.end();
+    QCOMPARE(image.pixel(60, 11), colour::Teal);
+}
+
+void StyleTest::theCalendarHasAnEdgeAndAQuietHead() {
+    QCalendarWidget calendar;
+    calendar.resize(230, 158);
+    const QImage image = pictureOf(calendar);
+    QCOMPARE(image.pixel(0, 80), colour::Line);
+    QCOMPARE(image.pixel(229, 80), colour::Line);
+    auto* head = calendar.findChild<QWidget*>(u"qt_calendar_navigationbar"_s);
+    QVERIFY(head);
+    QCOMPARE(head->palette().color(QPalette::HighlightedText), QColor::fromRgba(colour::TitleInk));
+    QVERIFY(qGray(image.pixel(20, 3)) > 200);
+}
+
+void StyleTest::theMonthOfTheCalendarHasNoArrowInItsCorner() {
+    QCalendarWidget calendar;
+    calendar.resize(230, 158);
+    QWidget* month = calendar.findChild<QWidget*>(u"qt_calendar_monthbutton"_s);
+    QVERIFY(month);
+    QStyleOptionToolButton with;
+    with.rect = QRect(0, 0, 70, 24);
+    with.state = QStyle::State_Enabled;
+    with.features = QStyleOptionToolButton::HasMenu;
+    with.subControls = QStyle::SC_ToolButton;
+    QStyleOptionToolButton without(with);
+    without.features = QStyleOptionToolButton::None;
+    const auto picture = [](const QStyleOptionToolButton& option, const QWidget* widget) {
+        QImage image(option.rect.size(), QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        QApplication::style()->drawComplexControl(QStyle::CC_ToolButton, &option, &painter, widget);
+        return image;
+    };
+    QCOMPARE(picture(with, month), picture(without, month));
+    QVERIFY(picture(with, nullptr) != picture(without, nullptr));
+}
+
+ORVALIS_TEST_MAIN_WITH(QApplication, StyleTest)
+#include "style_test.moc"

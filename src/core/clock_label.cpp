@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "core/clock_label.h"
+
+#include "skin/type.h"
+
+#include <QPainter>
+#include <QStyle>
+
+namespace orvalis {
+
+namespace {
+
+constexpr int SideRoom = 2; // pixels
+
+} // namespace
+
+ClockLabel::ClockLabel(const QString& name, QWidget* parent)
+    : Label(name, {}, parent) {}
+
+void ClockLabel::useClockFont() {
+    if (font().family() == QLatin1String("Digital SF"))
+        return;
+    QFont arial = skin::font(font().pointSize());
+    arial.setBold(font().bold());
+    setFont(arial);
+}
+
+void ClockLabel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    // A text that just fits would touch what stands beside the label.
+    const QSize room = contentsRect().size() - QSize(2 * SideRoom, 0);
+    painter.setFont(skin::fitted(font(), Caption(), room));
+    style()->drawItemText(&painter, contentsRect(), static_cast<int>(alignment()), palette(),
+                          isEnabled(), Caption(), foregroundRole());
+}
+
+} // namespace orvalis

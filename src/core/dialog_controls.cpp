@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "core/dialog_controls.h"
+
+#include "core/button_look.h"
+#include "core/skin_picture.h"
+#include "skin/type.h"
+#include "widgets/gg_command.h"
+
+#include <QGroupBox>
+#include <QRadioButton>
+
+namespace orvalis {
+
+namespace {
+
+constexpr int DialogPoints = 8;
+constexpr int PictureLeft = 1;
+constexpr int PictureDistance = 5;
+constexpr int CaptionDistance = 8;
+
+} // namespace
+
+QFont dialogFont() {
+    return skin::font(DialogPoints);
+}
+
+QGroupBox* dialogFrame(QWidget& parent, const QString& name, const QString& caption,
+                       const QRect& place) {
+    auto* frame = new QGroupBox(caption, &parent);
+    frame->setObjectName(name);
+    frame->setGeometry(place);
+    return frame;
+}
+
+QRadioButton* dialogOption(QWidget& parent, const QString& name, const QString& caption,
+                           const QRect& place) {
+    auto* option = new QRadioButton(caption, &parent);
+    option->setObjectName(name);
+    option->setGeometry(place);
+    return option;
+}
+
+GGCommand* dialogButton(QWidget& parent, const QString& name, const QString& caption,
+                        const QString& picture, const QRect& place) {
+    auto* button = new GGCommand(name, &parent);
+    button->setGeometry(place);
+    button->setCaption(caption);
+    button->setFont(dialogFont());
+    button->setPicture(skinPicture(picture));
+    button->setPictureAlignment(PictureLeft);
+    button->setPictureXOffset(PictureDistance);
+    button->setCaptionXOffset(CaptionDistance);
+    wearLook(*button, skin::DialogButton);
+    return button;
+}
+
+} // namespace orvalis

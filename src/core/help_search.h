@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QList>
+#include <QString>
+
+namespace orvalis {
+
+/// A page as far as a search asks for it.
+struct HelpPage {
+    QString address;
+    QString title;
+    QString text;
+};
+
+/// A page that a search has found.
+struct HelpFinding {
+    QString address;
+    QString title;
+    /// A piece of the page's text around the first word found, with "…" where it is cut.
+    QString excerpt;
+
+    bool operator==(const HelpFinding&) const = default;
+};
+
+/// The pages that hold every word of the query, in either case and also as the beginning of a
+/// longer word. Pages with the words in their title come first, then those that say them most
+/// often; equals keep their order. An empty query finds nothing.
+QList<HelpFinding> searchHelp(const QList<HelpPage>& pages, const QString& query);
+
+} // namespace orvalis

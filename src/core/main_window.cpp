@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "core/main_window.h"
+
+#include "controls/image.h"
+#include "controls/label.h"
+#include "core/clock_label.h"
+#include "core/program.h"
+#include "core/resize_form.h"
+#include "core/skin_picture.h"
+#include "platform/screen.h"
+#include "runtime/twips.h"
+
+namespace orvalis {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int DesignWidth = 4800;
+
+} // namespace
+
+frmnotes::frmnotes(Program& program)
+    : ChromePanel(program, chromeRow(ChromeKind::Main)) {
+    makeOpener(1, u"open_reminder"_s, u"Reminder"_s, {14, 151, 146, 144}, ChromeKind::Reminder);
+    makeOpener(2, u"open_notes"_s, u"Notes"_s, {160, 151, 146, 144}, ChromeKind::Notes);
+    makeOpener(3, u"open_address"_s, u"Address"_s, {14, 295, 146, 144}, ChromeKind::Address);
+    makeOpener(4, u"open_password"_s, u"Password"_s, {160, 295, 146, 144}, ChromeKind::Password);
+    auto* label = new Label(u"Label2"_s, u"L2"_s, this);
+    label->setGeometry(0, 466, 10, 10);
+    label->hide();
+}
+
+void frmnotes::onLoad() {
+    lblVreme->useClockFont();
+    QFont clockFont = lblVreme->font();
+    clockFont.setPointSize(16);
+    lblVreme->setFont(clockFont);
+    clsResize(program().services.screen.GetSystemMetrics(0))
+        .ResizeForm(*this, DesignWidth, pixelsToTwips(background->width()), background, imgStop,
+                    imgSet);
+    takeSizeOfBackground();
+}
+
+void frmnotes::makeOpener(int number, const QString& picture, const QString& name,
+                          const QRect& place, ChromeKind target) {
+    auto* opener = new Image(u"imgopen%1"_s.arg(number), this);
+    opener->setGeometry(place);
+    opener->setPicture(skinPicture(picture));
+    // The picture carries its word, so it needs no tool tip; who cannot see it hears the word.
+    opener->setAccessibleName(name);
+    opener->setCursor(Qt::PointingHandCursor);
+    const PictureSource normal = opener->Picture();
+    const PictureSource hovered = skinPicture(picture + u"_hover"_s);
+    connect(opener, &Image::MouseEnter, opener, [opener, hovered] { opener->setPicture(hovered); });
+    connect(opener, &Image::MouseExit, opener, [opener, normal] { opener->setPicture(normal); });
+    connect(opener, &Image::MouseMove, this, &frmnotes::HoverReset);
+    connect(opener, &Image::MouseDown, this, [this, target] { openPanel(target); });
+}
+
+} // namespace orvalis

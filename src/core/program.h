@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "controls/program_end.h"
+#include "core/roles.h"
+#include "core/state.h"
+#include "core/tick.h"
+#include "core/tray_owner.h"
+#include "core/windows.h"
+#include "runtime/clock.h"
+
+namespace orvalis {
+
+class App;
+class Dialogs;
+class MessageBoxes;
+class Registry;
+class Screen;
+class Shell;
+class SoundPlayer;
+
+/// The world outside, as far as the program asks anything of it. main.cpp puts the real one in, a
+/// test its doubles.
+struct Services {
+    const App& app;
+    const Clock& clock;
+    Registry& settings;
+    MessageBoxes& boxes;
+    Dialogs& dialogs;
+    Shell& shell;
+    SoundPlayer& sound;
+    Screen& screen;
+};
+
+/// The running program as every window is given it: the outside world, the shared state, the
+/// registry of windows, and the way out.
+class Program {
+public:
+    explicit Program(const Services& outside)
+        : services(outside) {}
+
+    Services services;
+    SharedState state;
+    Windows windows;
+    /// Set by main.cpp once the sticker windows are there.
+    StickerMaker* stickers = nullptr;
+    /// The work of each second; set by main.cpp.
+    Tick* tick = nullptr;
+    /// Gives a window its tray side; without it `imgMini` leaves the window as it is.
+    TrayOwnerMaker makeTrayOwner;
+
+    MessageBoxes& boxes() const { return services.boxes; }
+
+    /// `ExitProgram`: unloads panels and side windows in their fixed order, then ends the program.
+    /// Does not return.
+    [[noreturn]] void ExitProgram();
+    /// The end statement: no unload handler runs. Does not return.
+    [[noreturn]] void end();
+};
+
+} // namespace orvalis

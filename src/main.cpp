@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "alarm/alarm_set_dialog.h"
+#include "alarm/alarm_tick.h"
+#include "alarm/alarm_window.h"
+#include "controls/common_dialog.h"
+#include "controls/document_reading.h"
+#include "controls/msg_box.h"
+#include "core/about_box.h"
+#include "core/application.h"
+#include "core/help_viewer.h"
+#include "core/main_window.h"
+#include "core/options_dialog.h"
+#include "core/popup_menus.h"
+#include "core/program.h"
+#include "core/start_window.h"
+#include "core/tray_handover.h"
+#include "planner/reminder_panel.h"
+#include "platform/desktop_tray.h"
+#include "platform/ini_settings_store.h"
+#include "platform/interface_scale.h"
+#include "platform/logon_entry.h"
+#include "platform/metafile_process.h"
+#include "platform/registry.h"
+#include "platform/screen.h"
+#include "platform/shell.h"
+#include "platform/single_instance.h"
+#include "platform/sound_player.h"
+#include "runtime/app.h"
+#include "skin/style.h"
+#include "stickers/stickers.h"
+
+#include <QIcon>
+#include <QTimer>
+
+using namespace orvalis;
+
+namespace {
+
+/// Which class stands behind which role.
+void registerWindows(Program& program, bool previousInstance, HelpDisplay& help) {
+    program.windows.registerMaker<StartWindow>(
+        [&, previousInstance] { return std::make_unique<frmStart>(program, previousInstance); });
+    program.windows.registerMaker<MainWindow>([&] { return std::make_unique<frmnotes>(program); });
+    program.windows.registerMaker<ReminderPanel>(
+        [&] { return std::make_unique<frmnotes1>(program); });
+    program.windows.registerMaker<OptionsWindow>(
+        [&] { return std::make_unique<frmOptions>(program); });
+    program.windows.registerMaker<AboutBox>([&] { return std::make_unique<frmAbout>(program); });
+    program.windows.registerMaker<PopupMenus>(
+        [&] { return std::make_unique<frmdel1>(program, help); });
+    program.windows.registerMaker<AlarmSetDialog>(
+        [&] { return std::make_unique<frmAlSet>(program); });
+    program.windows.registerMaker<AlarmWindow>([] { return std::make_unique<frmAlarm>(); });
+}
+
+/// Each window that is made has the icon drawn in several sizes. The first one need not wait for
+/// that: the icon is given to the windows once they have been painted.
+void postponeIcon() {
+    const QIcon icon = Application::windowIcon();
+    Application::setWindowIcon({});
+    QTimer::singleShot(100, qApp, [icon] { Application::setWindowIcon(icon); });
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    applyInterfaceScale();
+    Application application(argc, argv);
+    withdrawInterfaceScale();
+    Application::setApplicationName(QStringLiteral("orvalis"));
+    Application::setDesktopFileName(QStringLiteral("orvalis"));
+    skin::dress(application);
+    postponeIcon();
+
+    const App app = App::ofThisProcess();
+    const SingleInstance instance(app.Path());
+    const SystemClock clock;
+    IniSettingsStore store;
+    XdgLogonEntry logonEntry;
+    Registry settings(store, logonEntry);
+    QtMessageBoxes boxes;
+    QtDialogs dialogs;
+    DesktopShell shell;
+    DeviceSoundPlayer sound;
+    DesktopScreen screen;
+    DesktopTray tray;
+    HelpWindow help(shell);
+    MetafileProcess metafiles;
+    setMetafileConverter(&metafiles);
+    application.setBoxes(boxes);
+
+    Program program({.app = app,
+                     .clock = clock,
+                     .settings = settings,
+                     .boxes = boxes,
+                     .dialogs = dialogs,
+                     .shell = shell,
+                     .sound = sound,
+                     .screen = screen});
+    AlarmTick tick(program);
+    program.tick = &tick;
+    Stickers stickers(program);
+    program.stickers = &stickers;
+    program.makeTrayOwner = [&tray](ChromeWindow& window) {
+        return std::make_unique<TrayHandover>(window, tray);
+    };
+    registerWindows(program, instance.PrevInstance(), help);
+    return application.run([&program] { program.windows.get<StartWindow>().form().Show(); });
+}

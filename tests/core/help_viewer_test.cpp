@@ -1,0 +1,249 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "core/help_viewer.h"
+#include "platform/chm_file.h"
+#include "platform/shell.h"
+#include "runtime/files.h"
+#include "support/test_main.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QStackedWidget>
+#include <QTemporaryDir>
+#include <QTextBlock>
+#include <QToolButton>
+#include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
+
+using namespace orvalis;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString HelpFile = QStringLiteral(ORVALIS_HELP_FILE);
+
+class RecordingShell final : public Shell {
+public:
+    bool open(const QString& target) override {
+        opened << target;
+        return true;
+    }
+    void start(const QString&) override {}
+    QStringList opened;
+};
+
+class RecordingDisplay final : public HelpDisplay {
+public:
+    WId HtmlHelpA(WId owner, const QString& path, int command, quint32 data) override {
+        calls << u"%1 %2 %3 %4"_s.arg(owner).arg(path).arg(command).arg(data);
+        return answer;
+    }
+    QStringList calls;
+    WId answer = 7;
+};
+
+/// A viewer with the manual open.
+struct Opened {
+    Opened()
+        : viewer(shell) {
+        viewer.open(HelpFile);
+        viewer.show();
+    }
+    template <class Control>
+    Control* control(const QString& name) const {
+        return viewer.findChild<Control*>(name);
+    }
+    HelpPageView* page() const { return control<HelpPageView>(u"helpPage"_s); }
+    QString shown() const { return page()->source().path().mid(1); }
+    QTreeWidgetItem* topic(const QString& name) const {
+        const auto found = control<QTreeWidget>(u"helpContents"_s)
+                               ->findItems(name, Qt::MatchExactly | Qt::MatchRecursive);
+        return found.isEmpty() ? nullptr : found.constFirst();
+    }
+    void choose(const QString& name) const {
+        control<QTreeWidget>(u"helpContents"_s)->setCurrentItem(topic(name));
+    }
+
+    RecordingShell shell;
+    HelpViewer viewer;
+};
+
+} // namespace
+
+class HelpViewerTest : public QObject {
+    Q_OBJECT
+private slots:
+    void aMissingHelpFileIsToldByTheResultAlone() {
+        RecordingDisplay display;
+        QVERIFY(!ShowHelpFile(display, u"/nowhere/orvalis.chm"_s, 3, 0));
+        QVERIFY(display.calls.isEmpty());
+    }
+    void withoutAContextTheFirstPageIsAskedFor() {
+        RecordingDisplay display;
+        QVERIFY(ShowHelpFile(display, HelpFile, 3, 0));
+        QCOMPARE(display.calls, QStringList{u"3 "_s + HelpFile + u" 0 0"_s});
+    }
+    void aContextIsAskedForByItsNumber() {
+        RecordingDisplay display;
+        QVERIFY(ShowHelpFile(display, HelpFile, 3, 42));
+        QCOMPARE(display.calls, QStringList{u"3 "_s + HelpFile + u" 15 42"_s});
+    }
+    void aDisplayThatFailsIsToldByTheResult() {
+        RecordingDisplay display;
+        display.answer = 0;
+        QVERIFY(!ShowHelpFile(display, HelpFile, 3, 0));
+    }
+
+    void theManualOpensOnItsFirstPageWithItsContents() {
+        Opened help;
+        QCOMPARE(help.shown(), u"first_steps.html"_s);
+        QVERIFY(help.page()->toPlainText().startsWith(u"First steps"_s));
+        auto* contents = help.control<QTreeWidget>(u"helpContents"_s);
+        QVERIFY(contents->topLevelItemCount() >= 8);
+        QCOMPARE(contents->currentItem()->text(0), u"First steps"_s);
+        QCOMPARE(help.topic(u"The weekly planner"_s)->parent()->text(0), u"The Reminder panel"_s);
+    }
+
+    void aTopicOfTheContentsShowsItsPage() {
+        Opened help;
+        help.choose(u"Stickers"_s);
+        QCOMPARE(help.shown(), u"stickers.html"_s);
+        QVERIFY(help.page()->toPlainText().startsWith(u"Stickers"_s));
+    }
+
+    void aLinkLeadsToItsPageAndPlaceAndTheContentsFollow() {
+        Opened help;
+        emit help.page()->anchorClicked(QUrl(u"lists.html#clear"_s));
+        QCOMPARE(help.shown(), u"lists.html"_s);
+        QCOMPARE(help.page()->source().fragment(), u"clear"_s);
+        QVERIFY(help.page()->verticalScrollBar()->value() > 0);
+        QCOMPARE(help.control<QTreeWidget>(u"helpContents"_s)->currentItem()->text(0),
+                 u"To-Do, Priority and Remind"_s);
+    }
+
+    void everyTopicAndEveryLinkLeadsSomewhere() {
+        const auto file = ChmFile::open(HelpFile);
+        QVERIFY(file != nullptr);
+        static const QRegularExpression links(u"(?:href|src)=\"([^\"]+)\""_s);
+        int followed = 0;
+        for (const QString& page : file->files()) {
+            if (!page.endsWith(u".html"_s))
+                continue;
+            const QString html = QString::fromUtf8(file->read(page));
+            for (auto match = links.globalMatch(html); match.hasNext();) {
+                const QString link = match.next().captured(1);
+                const QString target = link.section(u'#', 0, 0);
+                QVERIFY2(file->files().contains(target), qPrintable(page + u": "_s + link));
+                if (const QString anchor = link.section(u'#', 1); !anchor.isEmpty())
+                    QVERIFY2(file->read(target).contains(u"name=\"%1\""_s.arg(anchor).toUtf8()),
+                             qPrintable(page + u": "_s + link));
+                ++followed;
+            }
+        }
+        QVERIFY(followed > 20);
+        for (const ChmTopic& topic : file->contents())
+            QVERIFY2(file->files().contains(topic.page), qPrintable(topic.name));
+    }
+
+    void everyPageStandsInTheContents() {
+        const auto file = ChmFile::open(HelpFile);
+        QStringList listed;
+        for (const ChmTopic& topic : file->contents())
+            listed << topic.page;
+        for (const QString& page : file->files())
+            if (page.endsWith(u".html"_s))
+                QVERIFY2(listed.contains(page), qPrintable(page));
+    }
+
+    void backForwardAndHomeMoveAmongThePages() {
+        Opened help;
+        auto* back = help.control<QToolButton>(u"helpBack"_s);
+        auto* forward = help.control<QToolButton>(u"helpForward"_s);
+        QVERIFY(!back->isEnabled() && !forward->isEnabled());
+        help.choose(u"Stickers"_s);
+        help.choose(u"Options"_s);
+        QVERIFY(back->isEnabled());
+        back->click();
+        QCOMPARE(help.shown(), u"stickers.html"_s);
+        QCOMPARE(help.control<QTreeWidget>(u"helpContents"_s)->currentItem()->text(0),
+                 u"Stickers"_s);
+        forward->click();
+        QCOMPARE(help.shown(), u"options.html"_s);
+        help.control<QToolButton>(u"helpHome"_s)->click();
+        QCOMPARE(help.shown(), u"first_steps.html"_s);
+    }
+
+    void aSearchListsThePagesAndShowsTheOneChosen() {
+        Opened help;
+        auto* search = help.control<QLineEdit>(u"helpSearch"_s);
+        auto* findings = help.control<QListWidget>(u"helpFindings"_s);
+        QVERIFY(!findings->isVisible());
+        search->setText(u"sticker"_s);
+        QVERIFY(findings->isVisible());
+        QVERIFY(findings->count() >= 3);
+        QVERIFY(findings->item(0)->text().startsWith(u"Stickers\n"_s));
+        findings->setCurrentRow(0);
+        QCOMPARE(help.shown(), u"stickers.html"_s);
+        search->setText(u"zebra"_s);
+        QVERIFY(help.control<QLabel>(u"helpNothingFound"_s)->isVisible());
+        search->clear();
+        QVERIFY(help.control<QTreeWidget>(u"helpContents"_s)->isVisible());
+    }
+
+    void anAddressOutsideTheManualGoesToTheDesktop() {
+        Opened help;
+        emit help.page()->anchorClicked(QUrl(u"https://example.org/x"_s));
+        QCOMPARE(help.shell.opened, QStringList{u"https://example.org/x"_s});
+        QCOMPARE(help.shown(), u"first_steps.html"_s);
+    }
+
+    void aPageThatIsNotThereIsTold() {
+        Opened help;
+        emit help.page()->anchorClicked(QUrl(u"gone.html"_s));
+        QVERIFY(help.page()->toPlainText().contains(u"gone.html"_s));
+        help.control<QToolButton>(u"helpBack"_s)->click();
+        QCOMPARE(help.shown(), u"first_steps.html"_s);
+    }
+
+    void aDamagedFileIsToldAndTheNextWholeOneOpens_data() {
+        QTest::addColumn<QByteArray>("bytes");
+        const QByteArray whole = readWhole(HelpFile);
+        QTest::newRow("truncated") << whole.first(whole.size() / 2);
+        QTest::newRow("not a chm") << QByteArray("A letter, and no help.");
+        QTest::newRow("empty") << QByteArray();
+    }
+    void aDamagedFileIsToldAndTheNextWholeOneOpens() {
+        QFETCH(QByteArray, bytes);
+        QTemporaryDir folder;
+        const QString path = folder.filePath(u"orvalis.chm"_s);
+        saveWhole(path, bytes);
+        RecordingShell shell;
+        HelpWindow window(shell);
+        QVERIFY(ShowHelpFile(window, path, 0, 0));
+        auto* viewer = viewerOnShow();
+        QVERIFY(viewer != nullptr);
+        auto* page = viewer->findChild<HelpPageView*>();
+        QVERIFY(page->toPlainText().contains(u"The help cannot be shown"_s));
+        QCOMPARE(viewer->findChild<QTreeWidget*>()->topLevelItemCount(), 0);
+        QVERIFY(!viewer->findChild<QLineEdit*>()->isEnabled());
+
+        QVERIFY(ShowHelpFile(window, HelpFile, 0, 0));
+        QCOMPARE(viewerOnShow(), viewer);
+        QVERIFY(page->toPlainText().startsWith(u"First steps"_s));
+    }
+
+private:
+    static HelpViewer* viewerOnShow() {
+        for (QWidget* widget : QApplication::topLevelWidgets())
+            if (auto* viewer = qobject_cast<HelpViewer*>(widget); viewer && viewer->isVisible())
+                return viewer;
+        return nullptr;
+    }
+};
+
+ORVALIS_TEST_MAIN_WITH(QApplication, HelpViewerTest)
+#include "help_viewer_test.moc"

@@ -1,0 +1,197 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "controls/image.h"
+#include "core/clock_label.h"
+#include "core/main_window.h"
+#include "support/pointer_events.h"
+#include "support/role_doubles.h"
+#include "support/test_main.h"
+#include "support/test_program.h"
+
+using namespace orvalis;
+using namespace orvalis::test;
+using namespace Qt::StringLiterals;
+
+class MainWindowTest : public QObject {
+    Q_OBJECT
+private slots:
+    void init();
+    void eachOpeningPictureShowsItsPanelAndThenHidesTheWindow_data();
+    void eachOpeningPictureShowsItsPanelAndThenHidesTheWindow();
+    void anyButtonOpensAPanelOnItsPress();
+    void aPanelThatNobodyMakesDoesNotOpenAndTheWindowStays();
+    void thePanelHasTheSameCentreAsTheWindow();
+    void theWindowIsDrawnAtItsDesignSize();
+    void theClockFontIsArialsStandInAtSixteenPointsBeforeTheScreensFactor();
+    void aClockFontThatTheMachineHasStays();
+    void aWiderScreenGivesSmallerPointSizes();
+    void theLabelWithoutBehaviourIsThere();
+    void openingPicturesTellTheirPanelsToThoseWhoCannotSeeThem();
+    void aLongTextInTheClockIsNotCutOff();
+
+private:
+    frmnotes& window() { return static_cast<frmnotes&>(m_test->program.windows.get<MainWindow>()); }
+    template <class Role>
+    void makePanel(ChromeKind kind) {
+        m_test->program.windows.registerMaker<Role>([this, kind] {
+            return std::make_unique<LoggedPanel<Role>>(m_test->program, kind, m_log);
+        });
+    }
+    void makePanels();
+
+    std::unique_ptr<TestProgram> m_test;
+    QStringList m_log;
+};
+
+void MainWindowTest::init() {
+    m_log.clear();
+    m_test = std::make_unique<TestProgram>();
+    m_test->screen.screenSize = QSize(800, 600);
+    m_test->program.windows.registerMaker<MainWindow>(
+        [this] { return std::make_unique<frmnotes>(m_test->program); });
+}
+
+void MainWindowTest::makePanels() {
+    makePanel<NotesPanel>(ChromeKind::Notes);
+    makePanel<AddressPanel>(ChromeKind::Address);
+    makePanel<PasswordPanel>(ChromeKind::Password);
+    m_test->program.windows.registerMaker<ReminderPanel>(
+        [this] { return std::make_unique<FakeReminderPanel>(m_test->program, m_log); });
+}
+
+void MainWindowTest::eachOpeningPictureShowsItsPanelAndThenHidesTheWindow_data() {
+    QTest::addColumn<QString>("picture");
+    QTest::addColumn<QString>("panel");
+    QTest::newRow("1") << u"imgopen1"_s << u"frmnotes1"_s;
+    QTest::newRow("2") << u"imgopen2"_s << u"frmnotes2"_s;
+    QTest::newRow("3") << u"imgopen3"_s << u"frmnotes3"_s;
+    QTest::newRow("4") << u"imgopen4"_s << u"frmnotes4"_s;
+}
+
+void MainWindowTest::eachOpeningPictureShowsItsPanelAndThenHidesTheWindow() {
+    QFETCH(QString, picture);
+    QFETCH(QString, panel);
+    makePanels();
+    window().Show();
+    bool shownWhilePanelCame = false;
+    auto* opener = window().findChild<Image*>(picture);
+    // The panel is on the screen before the window goes.
+    class Watch final : public QObject {
+    public:
+        Watch(frmnotes& watched, bool& seen)
+            : m_watched(watched)
+            , m_seen(seen) {}
+        bool eventFilter(QObject*, QEvent* event) override {
+            if (event->type() == QEvent::Show)
+                m_seen = m_watched.isVisible();
+            return false;
+        }
+
+    private:
+        frmnotes& m_watched;
+        bool& m_seen;
+    };
+    Watch watch(window(), shownWhilePanelCame);
+    for (Form* form : {&m_test->program.windows.get<ReminderPanel>().form(),
+                       &m_test->program.windows.get<NotesPanel>().form(),
+                       &m_test->program.windows.get<AddressPanel>().form(),
+                       &m_test->program.windows.get<PasswordPanel>().form()})
+        form->installEventFilter(&watch);
+    m_log.clear();
+    Pointer(*opener).press();
+    m_log.removeAll(u"TrayReset"_s);
+    QCOMPARE(m_log, QStringList{u"show "_s + panel});
+    QVERIFY(shownWhilePanelCame);
+    QVERIFY(!window().isVisible());
+}
+
+void MainWindowTest::anyButtonOpensAPanelOnItsPress() {
+    makePanels();
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
+        window().Show();
+        Pointer(*window().findChild<Image*>(u"imgopen2"_s)).press({5, 5}, button);
+        QVERIFY(!window().isVisible());
+        Form& panel = m_test->program.windows.get<NotesPanel>().form();
+        QVERIFY(panel.isVisible());
+        panel.Hide();
+    }
+}
+
+void MainWindowTest::aPanelThatNobodyMakesDoesNotOpenAndTheWindowStays() {
+    window().Show();
+    for (const QString& name : {u"imgopen1"_s, u"imgopen2"_s, u"imgopen3"_s, u"imgopen4"_s})
+        Pointer(*window().findChild<Image*>(name)).press();
+    QVERIFY(window().isVisible());
+}
+
+void MainWindowTest::thePanelHasTheSameCentreAsTheWindow() {
+    makePanels();
+    window().Show();
+    window().move(200, 50);
+    Pointer(*window().findChild<Image*>(u"imgopen4"_s)).press();
+    const Form& panel = m_test->program.windows.get<PasswordPanel>().form();
+    QCOMPARE(panel.pos(), QPoint(200 - (700 - 320) / 2, 50 + (483 - 450) / 2));
+}
+
+void MainWindowTest::theWindowIsDrawnAtItsDesignSize() {
+    window().Show();
+    QCOMPARE(window().size(), QSize(320, 483));
+    QCOMPARE(window().findChild<Image*>(u"Image5"_s)->geometry(), QRect(0, 0, 320, 483));
+}
+
+void MainWindowTest::theClockFontIsArialsStandInAtSixteenPointsBeforeTheScreensFactor() {
+    const QFont font = window().findChild<ClockLabel*>(u"lblVreme"_s)->font();
+    QCOMPARE(font.pointSize(), 16);
+    QVERIFY(font.families().contains(u"Arial"_s));
+}
+
+void MainWindowTest::aClockFontThatTheMachineHasStays() {
+    ClockLabel label(u"lblVreme"_s, nullptr);
+    label.setFont(QFont(u"Digital SF"_s, 12));
+    label.useClockFont();
+    QCOMPARE(label.font().family(), u"Digital SF"_s);
+    label.setFont(QFont(u"Courier New"_s, 12));
+    label.useClockFont();
+    QVERIFY(label.font().families().contains(u"Arial"_s));
+    QCOMPARE(label.font().pointSize(), 12);
+}
+
+void MainWindowTest::aWiderScreenGivesSmallerPointSizes() {
+    m_test->screen.screenSize = QSize(1600, 900);
+    QCOMPARE(window().findChild<ClockLabel*>(u"lblVreme"_s)->font().pointSize(), 8);
+}
+
+void MainWindowTest::theLabelWithoutBehaviourIsThere() {
+    QCOMPARE(window().findChild<Label*>(u"Label2"_s)->Caption(), u"L2"_s);
+}
+
+void MainWindowTest::openingPicturesTellTheirPanelsToThoseWhoCannotSeeThem() {
+    QCOMPARE(window().findChild<Image*>(u"imgopen1"_s)->accessibleName(), u"Reminder"_s);
+    QCOMPARE(window().findChild<Image*>(u"imgopen4"_s)->accessibleName(), u"Password"_s);
+}
+
+void MainWindowTest::aLongTextInTheClockIsNotCutOff() {
+    window().Show();
+    auto* clock = window().findChild<ClockLabel*>(u"lblVreme"_s);
+    // The longest date that the clock tells on a hover.
+    clock->setCaption(u"Wednesday, September 30, 2026"_s);
+    const QImage picture = window().grab(clock->geometry()).toImage();
+    const QImage empty = [&] {
+        clock->setCaption({});
+        return window().grab(clock->geometry()).toImage();
+    }();
+    const auto columnDiffers = [&](int x) {
+        for (int y = 0; y < picture.height(); ++y)
+            if (picture.pixel(x, y) != empty.pixel(x, y))
+                return true;
+        return false;
+    };
+    bool drawn = false;
+    for (int x = 0; x < picture.width(); ++x)
+        drawn = drawn || columnDiffers(x);
+    QVERIFY(drawn);
+    QVERIFY(!columnDiffers(0) && !columnDiffers(picture.width() - 1));
+}
+
+ORVALIS_TEST_MAIN_WITH(Application, MainWindowTest)
+#include "main_window_test.moc"

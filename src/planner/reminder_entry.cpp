@@ -1,0 +1,140 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "planner/reminder_panel.h"
+
+#include "controls/combo_box.h"
+#include "controls/image.h"
+#include "controls/label.h"
+#include "controls/message_boxes.h"
+#include "controls/rich_text_box.h"
+#include "controls/selection_font.h"
+#include "core/program.h"
+#include "widgets/gg_command.h"
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLineEdit>
+
+namespace orvalis {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int LastHour = 23;
+constexpr int LastMinute = 59;
+constexpr double NewMessageFontSize = 8;
+
+/// Kept with the message once its text has changed.
+QString changedTag() {
+    return u"promena"_s;
+}
+
+} // namespace
+
+void frmnotes1::connectEntryArea() {
+    connect(ui.rt1, &RichTextBox::Change, this, [this] { ui.rt1->SetTag(changedTag()); });
+    connect(ui.chkRemind, &QCheckBox::toggled, this, &frmnotes1::chkRemind_Click);
+    connect(ui.Combo1, &ComboBox::Change, this, [this] { Combo_Change(*ui.Combo1, LastHour); });
+    connect(ui.Combo2, &ComboBox::Change, this, [this] { Combo_Change(*ui.Combo2, LastMinute); });
+    connect(ui.Combo1, &ComboBox::Click, this, &frmnotes1::showTime);
+    connect(ui.Combo2, &ComboBox::Click, this, &frmnotes1::showTime);
+    connect(ui.Button1, &GGCommand::Click, this, &frmnotes1::Button1_Click);
+    connect(ui.Button2, &GGCommand::Click, this, &frmnotes1::Button2_Click);
+    connect(ui.imgNew, &Image::Click, this, &frmnotes1::imgNew_Click);
+    connect(ui.imgSave, &Image::Click, this, &frmnotes1::imgSave_Click);
+    connect(ui.Command2, &GGCommand::Click, this, &frmnotes1::Command2_Click);
+    showEntryFrame();
+}
+
+void frmnotes1::showEntryFrame() {
+    const EntryArea::Frame shown = m_entryArea.shown();
+    ui.Frame2->setVisible(shown == EntryArea::Frame::Message);
+    ui.Frame3->setVisible(shown == EntryArea::Frame::Reminder);
+    ui.Frame1->setVisible(shown == EntryArea::Frame::Find);
+}
+
+void frmnotes1::chkRemind_Click() {
+    if (!ui.chkRemind->isChecked())
+        return;
+    m_entryArea.message = false;
+    m_entryArea.reminder = true;
+    ui.imgSave->setEnabled(false);
+    showEntryFrame();
+    // The box that had the focus is hidden now: the keys go on where the user goes on.
+    ui.Combo1->setFocus(Qt::TabFocusReason);
+}
+
+void frmnotes1::endReminderFrame() {
+    m_entryArea.reminder = false;
+    m_entryArea.message = true;
+    ui.imgSave->setEnabled(true);
+    showEntryFrame();
+    ui.rt1->setFocus();
+}
+
+void frmnotes1::Combo_Change(const ComboBox& combo, int limit) {
+    if (fitsTimeLabel(combo.Text(), limit))
+        showTime();
+    else
+        program().boxes().MsgBox(u"Invalid input for time."_s, MsgFlags::StopIcon);
+}
+
+void frmnotes1::showTime() {
+    ui.Label5->setCaption(timeLabel(ui.Combo1->Text(), ui.Combo2->Text()));
+}
+
+void frmnotes1::Button1_Click() {
+    if (ui.rtMs2->Text().isEmpty())
+        ui.rtMs2->SetText(u"Message not set"_s);
+    ui.Combo1->setText(withLeadingZero(ui.Combo1->Text()));
+    ui.Combo2->setText(withLeadingZero(ui.Combo2->Text()));
+    endReminderFrame();
+}
+
+void frmnotes1::Button2_Click() {
+    endReminderFrame();
+    ui.chkRemind->setChecked(false);
+    ui.rt1->SetText({});
+    ui.rtMs2->SetText({});
+}
+
+bool frmnotes1::askToSave(const QString& question) {
+    return ui.rt1->Tag() == changedTag() && !ui.rt1->Text().isEmpty() &&
+           program().boxes().MsgBox(question, MsgFlags::YesNo) == Answer::Yes;
+}
+
+void frmnotes1::imgNew_Click() {
+    if (askToSave(u"Save changes?"_s))
+        imgSave_Click();
+    ui.rt1->SetTag({});
+    ui.rt1->setVisible(true);
+    ui.rt1->setReadOnly(false);
+    ui.rt1->SetText({});
+    ui.txt1->setText(u"Title"_s);
+    m_entryArea = EntryArea();
+    showEntryFrame();
+    ui.rt1->SetFontSize(NewMessageFontSize);
+}
+
+void frmnotes1::Command2_Click() {
+    CommonDialog1.CancelError = true;
+    const auto failure = firstFailure([this] {
+        loadFontFromSelection(CommonDialog1, *ui.rt1);
+        CommonDialog1.Flags = fontDialogFlags;
+        CommonDialog1.ShowFont();
+        applyFontToSelection(CommonDialog1, *ui.rt1);
+        ui.rt1a->SetSelFontName(CommonDialog1.FontName);
+        ui.rt1a->SetSelFontSize(CommonDialog1.FontSize);
+        ui.rt1->setFocus();
+    });
+    // A mixed selection cannot be loaded. The dialog comes up all the same, and what is chosen
+    // there is not applied.
+    if (failure && failure->number() == ErrorNumber::InvalidUseOfNull)
+        endSilently([this] {
+            CommonDialog1.Flags = fontDialogFlags;
+            CommonDialog1.ShowFont();
+        });
+}
+
+} // namespace orvalis

@@ -1,0 +1,157 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "planner/reminder_panel.h"
+
+#include "controls/combo_box.h"
+#include "controls/image.h"
+#include "controls/label.h"
+#include "controls/month_view.h"
+#include "controls/ms_flex_grid.h"
+#include "controls/rich_text_box.h"
+#include "core/clock_label.h"
+#include "core/layout_rule.h"
+#include "core/program.h"
+#include "core/resize_form.h"
+#include "platform/registry.h"
+#include "platform/screen.h"
+#include "runtime/app.h"
+#include "runtime/format.h"
+#include "runtime/numeric_text.h"
+#include "runtime/twips.h"
+
+#include <QGroupBox>
+
+namespace orvalis {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int DesignWidth = 10530;
+constexpr double LargestFontSize = 2160;
+
+} // namespace
+
+frmnotes1::frmnotes1(Program& program)
+    : ChromePanel(program, chromeRow(ChromeKind::Reminder))
+    , ui(*this)
+    , CommonDialog1(program.services.dialogs) {
+    connectEntryArea();
+    connectFind();
+    connectLists();
+    connect(ui.MonthView1, &MonthView::DateClick, this, [this](QDate date) {
+        ui.Label9->setCaption(shortDate(date));
+        HoverReset();
+    });
+    connect(ui.imgNot, &Image::Click, this, [this] {
+        if (StickerMaker* stickers = this->program().stickers)
+            stickers->newFrmstick().form().Show();
+    });
+}
+
+void frmnotes1::onLoad() {
+    loadDocuments();
+    loadFont();
+    loadDateAndLists();
+    layOut();
+    for (const QString& hour : timeEntries(23))
+        ui.Combo1->AddItem(hour);
+    for (const QString& minute : timeEntries(59))
+        ui.Combo2->AddItem(minute);
+    ui.Label5->setCaption(timeLabelAtLoad(ui.Combo1->Text(), ui.Combo2->Text()));
+    ui.Label9->setCaption(shortDate(ui.MonthView1->Value()));
+    selectSubPanel(2);
+    // Its font was set on the way, which is no change of the message.
+    ui.rt1->SetTag({});
+    ui.rt1->setFocus();
+}
+
+void frmnotes1::loadDocuments() {
+    const App& app = program().services.app;
+    resumeNext([&] { ui.rt1a->LoadFile(app.file(u"Vazno.rtf"_s)); },
+               [&] { ui.rt2->LoadFile(app.file(u"weekly.rtf"_s)); });
+}
+
+void frmnotes1::loadFont() {
+    const Registry& settings = program().services.settings;
+    resumeNext(
+        [&] { ui.rt1->SetFontName(settings.setting(u"RT1"_s, u"FN"_s, u"Arial"_s).toString()); },
+        [&] {
+            const auto size = numericValue(settings.setting(u"RT1"_s, u"FS"_s, u"8"_s).toString());
+            if (!size)
+                throw RuntimeError(ErrorNumber::TypeMismatch);
+            if (*size > LargestFontSize)
+                throw RuntimeError(ErrorNumber::InvalidPropertyValue);
+            ui.rt1->SetFontSize(*size);
+            m_fontSizeSetting = *size;
+        });
+}
+
+void frmnotes1::loadDateAndLists() {
+    resumeNext([this] { ui.MonthView1->setValue(program().services.clock.date()); },
+               [this] { LoadTmp1(ui.MS1->grid()); }, [this] { LoadTmp2(ui.MS3->grid()); });
+}
+
+void frmnotes1::layOut() {
+    QFont clockFont = lblVreme->font();
+    clockFont.setPointSize(16);
+    lblVreme->setFont(clockFont);
+    clsResize(program().services.screen.GetSystemMetrics(0))
+        .ResizeForm(*this, DesignWidth, pixelsToTwips(background->width()), background, imgStop,
+                    imgSet);
+    // The layout scales the font of a box; what is typed into these two is to follow it.
+    for (RichTextBox* box : {ui.rt1, ui.rtMs2})
+        box->SetFontSize(box->font().pointSizeF());
+    takeSizeOfBackground();
+    placeByPicture();
+}
+
+void frmnotes1::placeByPicture() {
+    ui.MonthView1->move(ui.Frame2->x() + (ui.Frame2->width() - ui.MonthView1->width()) / 2,
+                        ui.MonthView1->y());
+    for (MSFlexGrid* grid : {ui.MS1, ui.MS3})
+        grid->setColWidth(0, pixelsToTwips(grid->width()));
+}
+
+void frmnotes1::resizeEvent(QResizeEvent* event) {
+    ChromePanel::resizeEvent(event);
+    if (!isMinimized())
+        placeByPicture();
+}
+
+void frmnotes1::onActivate() {
+    ChromePanel::onActivate();
+    goToToday();
+}
+
+void frmnotes1::goToToday() {
+    resumeNext([this] { ui.MonthView1->Refresh(); },
+               [this] { ui.MonthView1->setValue(program().services.clock.date()); },
+               [this] { ui.Label9->setCaption(shortDate(ui.MonthView1->Value())); });
+}
+
+bool frmnotes1::exitExtra() {
+    if (askToSave(u"Save changes before you quit?"_s))
+        imgSave_Click();
+    Sacremi();
+    return true;
+}
+
+void frmnotes1::Sacremi() {
+    Registry& settings = program().services.settings;
+    // A mixed selection has no one name or size: what was kept last stays.
+    if (const auto name = ui.rt1->SelFontName())
+        settings.putSetting(u"RT1"_s, u"FN"_s, *name);
+    if (const auto size = ui.rt1->SelFontSize())
+        settings.putSetting(u"RT1"_s, u"FS"_s, QString::number(fontSizeToKeep(*size)));
+}
+
+int frmnotes1::fontSizeToKeep(double pointSize) const {
+    const double factor = fontFactor(program().services.screen.GetSystemMetrics(0));
+    // Some sizes share one scaled size: the one that was read is kept while nobody changed it.
+    if (scaledFontSize(m_fontSizeSetting, factor) == roundHalfEven(pointSize))
+        return static_cast<int>(roundHalfEven(m_fontSizeSetting));
+    return unscaledFontSize(pointSize, factor);
+}
+
+} // namespace orvalis

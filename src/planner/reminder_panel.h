@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "controls/common_dialog.h"
+#include "core/chrome_window.h"
+#include "planner/entry_area.h"
+#include "planner/reminder_controls.h"
+#include "planner/reminder_rules.h"
+
+namespace orvalis {
+
+class GridModel;
+
+/// `frmnotes1`, the Reminder panel: a calendar and an entry area on the left page; the Remind and
+/// Priority lists, the to-do document and the weekly planner on the right. It reads its files at
+/// its load and writes them at its commands.
+class frmnotes1 final : public ChromePanel<ReminderPanel> {
+public:
+    explicit frmnotes1(Program& program);
+
+    MSFlexGrid& MS3() override { return *ui.MS3; }
+    void sv1() override;
+    void sv3() override;
+    void Sacremi() override;
+
+    /// Writes a grid to the Priority list's file.
+    void MatSave1(const GridModel& grid);
+
+protected:
+    void onLoad() override;
+    void onActivate() override;
+    void onQueryUnload() override { Sacremi(); }
+    void onUnload() override { Sacremi(); }
+    bool exitExtra() override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    // reminder_panel.cpp
+    void loadDocuments();
+    void loadFont();
+    void loadDateAndLists();
+    void layOut();
+    void placeByPicture();
+    void goToToday();
+    int fontSizeToKeep(double pointSize) const;
+
+    // reminder_entry.cpp: message, reminder and what leads to and from them
+    void connectEntryArea();
+    void showEntryFrame();
+    void chkRemind_Click();
+    void endReminderFrame();
+    void Combo_Change(const ComboBox& combo, int limit);
+    void showTime();
+    void Button1_Click();
+    void Button2_Click();
+    void imgNew_Click();
+    void Command2_Click();
+    bool askToSave(const QString& question);
+
+    // message_save.cpp
+    void imgSave_Click();
+    void appendEntry(QDate date);
+    void addToLists(QDate date);
+    void saveAndReadBack();
+    void clearEntry();
+
+    // todo_find.cpp
+    void connectFind();
+    void imgFind_Click();
+    void imgBack_Click();
+    void FindButton_Click();
+    void FindNextButton_Click();
+    void find(int leastFound);
+
+    // reminder_lists.cpp: sub-panels, grids and their files
+    void connectLists();
+    void selectSubPanel(std::size_t index);
+    void MS3_KeyPress(const QString& key);
+    void imstodo_Click();
+    void imgso_Click();
+    QString gridPath(const QString& name);
+    void SaveTmp2(const GridModel& grid);
+    void LoadTmp1(GridModel& grid);
+    void LoadTmp2(GridModel& grid);
+    GridModel& hiddenReminders() const;
+
+    ReminderControls ui;
+    CommonDialog CommonDialog1;
+    EntryArea m_entryArea;
+    FindSteps FindPosition;
+    double m_fontSizeSetting = 8; ///< `FS` as it was read
+};
+
+} // namespace orvalis

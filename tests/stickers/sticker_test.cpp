@@ -1,0 +1,338 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "stickers/stickers.h"
+
+#include "controls/image.h"
+#include "controls/label.h"
+#include "controls/rich_text_box.h"
+#include "stickers/sticker_form.h"
+#include "support/test_main.h"
+#include "support/test_program.h"
+#include "widgets/gg_command.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QPointer>
+
+#include <set>
+
+using namespace orvalis;
+using namespace orvalis::test;
+using namespace Qt::StringLiterals;
+
+class StickerTest : public QObject {
+    Q_OBJECT
+private slots:
+    void init();
+    void cleanup();
+
+    void withTheSecondOfThreeClosedTheNextGetsNumberFour();
+    void alarmAndReminderStickersCountInBothCounters();
+    void aNewStickerStartsOnTopWithImgOffShowing();
+    void unpinningSwapsTheImagesAndLetsTheWindowSink();
+    void pinningAgainBringsTheWindowBackOnTop();
+    void captionAndTitleBeginWithTheNumber();
+    void theCaptionFollowsTheTitle();
+    void anEmptyTitleGivesAnEmptyCaption();
+    void newStickerMakesAnXnFromEitherClass_data();
+    void newStickerMakesAnXnFromEitherClass();
+    void closingAsksNothingAndTakesTheTextAway();
+    void theWindowManagersCloseDoesWhatTheCloseButtonDoes();
+    void theGlobalStickerIsMadeAgainOnceItWasClosed();
+    void everyReminderHasAWindowOfItsOwn();
+    void theClockShowsTheChosenFormat();
+    void theClockIsSetWhenTheStickerShows();
+    void movingOverTheClockTellsTheDateInItsToolTip();
+    void anyButtonOnTheClockDragsTheWindow_data();
+    void anyButtonOnTheClockDragsTheWindow();
+    void theFontDialogIsLoadedFromTheSelectionAndWrittenBack();
+    void aCancelledFontDialogChangesNothing();
+    void aMixedSelectionShowsTheDialogAndAppliesNothing();
+    void clientSizesAreThoseOfTheirClasses();
+    void toolTipsTellWhatTheButtonsDo();
+
+private:
+    template <class Control>
+    Control& find(StickerWindow& sticker, const char* name) {
+        auto* control = sticker.form().findChild<Control*>(QString::fromLatin1(name));
+        if (control == nullptr)
+            qFatal("no control %s", name);
+        return *control;
+    }
+    void press(StickerWindow& sticker, const char* name) {
+        find<GGCommand>(sticker, name).setValue(true);
+    }
+    static void click(Image& image) { QTest::mouseClick(&image, Qt::LeftButton); }
+    Program& program() { return m_test->program; }
+
+    std::unique_ptr<TestProgram> m_test;
+    std::unique_ptr<Stickers> m_stickers;
+};
+
+void StickerTest::init() {
+    m_test = std::make_unique<TestProgram>();
+    m_stickers = std::make_unique<Stickers>(m_test->program);
+    program().stickers = m_stickers.get();
+}
+
+void StickerTest::cleanup() {
+    m_stickers.reset();
+    m_test.reset();
+}
+
+void StickerTest::withTheSecondOfThreeClosedTheNextGetsNumberFour() {
+    m_stickers->newFrmstick();
+    StickerWindow& second = m_stickers->newFrmstick();
+    m_stickers->newFrmstick();
+    press(second, "Image2");
+    QCOMPARE(program().state.StickerCount, 2);
+
+    StickerWindow& next = m_stickers->newFrmstick();
+    QCOMPARE(next.form().windowTitle(), u"Sticker No4"_s);
+    QCOMPARE(program().state.StickerNo, 4);
+    QCOMPARE(program().state.StickerCount, 3);
+}
+
+void StickerTest::alarmAndReminderStickersCountInBothCounters() {
+    m_stickers->globalXn();
+    m_stickers->newXn();
+    QCOMPARE(program().state.StickerNo, 2);
+    QCOMPARE(program().state.StickerCount, 2);
+}
+
+void StickerTest::aNewStickerStartsOnTopWithImgOffShowing() {
+    StickerWindow& sticker = m_stickers->newFrmstick();
+    QVERIFY(sticker.form().windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    QVERIFY(!find<Image>(sticker, "imgOff").isHidden());
+    QVERIFY(find<Image>(sticker, "imgOn").isHidden());
+}
+
+void StickerTest::unpinningSwapsTheImagesAndLetsTheWindowSink() {
+    StickerWindow& sticker = m_stickers->newFrmstick();
+    sticker.form().Show();
+    click(find<Image>(sticker, "imgOff"));
+    QVERIFY(!sticker.form().windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    QVERIFY(find<Image>(sticker, "imgOff").isHidden());
+    QVERIFY(!find<Image>(sticker, "imgOn").isHidden());
+    QVERIFY(sticker.form().isVisible());
+}
+
+void StickerTest::pinningAgainBringsTheWindowBackOnTop() {
+    StickerWindow& sticker = m_stickers->newFrmstick();
+    sticker.form().Show();
+    click(find<Image>(sticker, "imgOff"));
+    click(find<Image>(sticker, "imgOn"));
+    QVERIFY(sticker.form().windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    QVERIFY(!find<Image>(sticker, "imgOff").isHidden());
+    QVERIFY(find<Image>(sticker, "imgOn").isHidden());
+}
+
+void StickerTest::captionAndTitleBeginWithTheNumber() {
+    StickerWindow& sticker = m_stickers->newXn();
+    QCOMPARE(sticker.form().windowTitle(), u"Sticker No1"_s);
+    QCOMPARE(find<QLineEdit>(sticker, "txtLabel1").text(), u"Sticker No1"_s);
+}
+
+void StickerTest::theCaptionFollowsTheTitle() {
+    StickerWindow& sticker = m_stickers->newFrmstick();
+    auto& title = find<QLineEdit>(sticker, "txtLabel1");
+    title.selectAll();
+    QTest::keyClicks(&title, u"Milk"_s);
+    QCOMPARE(sticker.form().windowTitle(), u"Milk"_s);
+}
+
+void StickerTest::anEmptyTitleGivesAnEmptyCaption() {
+    StickerWindow& sticker = m_stickers->newFrmstick();
+    auto& title = find<QLineEdit>(sticker, "txtLabel1");
+    title.selectAll();
+    QTest::keyClick(&title, Qt::Key_Delete);
+    QCOMPARE(sticker.form().windowTitle(), QString());
+}
+
+void StickerTest::newStickerMakesAnXnFromEitherClass_data() {
+    QTest::addColumn<bool>("fromXn");
+    QTest::newRow("from frmstick") << false;
+    QTest::newRow("from xn") << true;
+}
+
+void StickerTest::newStickerMakesAnXnFromEitherClass() {
+    QFETCH(bool, fromXn);
+    StickerWindow& sticker = fromXn ? m_stickers->newXn() : m_stickers->newFrmstick();
+    std::set<QWidget*> before;
+    for (QWidget* widget : QApplication::topLevelWidgets())
+        before.insert(widget);
+    press(sticker, "Image1");
+    const auto widgets = QApplication::topLevelWidgets();
+    const auto made = std::find_if(widgets.begin(), widgets.end(), [&](QWidget* widget) {
+        return !before.contains(widget) && qobject_cast<StickerForm*>(widget);
+    });
+    QVERIFY(made != widgets.end());
+    QCOMPARE((*made)->objectName(), u"xn"_s);
+    QVERIFY((*made)->isVisible());
+    QCOMPARE((*made)->windowTitle(), u"Sticker No2"_s);
+}
+
+void StickerTest::closingAsksNothingAndTakesTheTextAway() {
+    StickerWindow& sticker = m_stickers->newFrmstick();
+    sticker.form().Show();
+    sticker.Text1().SetText(u"remember"_s);
+    const QPointer<Form> form(&sticker.form());
+    press(sticker, "Image2");
+    QVERIFY(!form->isVisible());
+    QCOMPARE(program().state.StickerCount, 0);
+    QTRY_VERIFY(form.isNull());
+    QVERIFY(m_test->boxes.asked.isEmpty());
+}
+
+void StickerTest::theWindowManagersCloseDoesWhatTheCloseButtonDoes() {
+    StickerWindow& sticker = m_stickers->newFrmstick();
+    sticker.form().Show();
+    sticker.form().close();
+    QCOMPARE(program().state.StickerCount, 0);
+}
+
+void StickerTest::theGlobalStickerIsMadeAgainOnceItWasClosed() {
+    StickerWindow& first = m_stickers->globalXn();
+    QCOMPARE(&m_stickers->globalXn(), &first);
+    press(first, "Image2");
+    QCOMPARE(m_stickers->globalXn().form().windowTitle(), u"Sticker No2"_s);
+    QCOMPARE(program().state.StickerCount, 1);
+}
+
+void StickerTest::everyReminderHasAWindowOfItsOwn() {
+    StickerWindow& global = m_stickers->globalXn();
+    StickerWindow& one = m_stickers->newXn();
+    StickerWindow& other = m_stickers->newXn();
+    QVERIFY(&one != &other);
+    QVERIFY(&one != &global);
+}
+
+void StickerTest::theClockShowsTheChosenFormat() {
+    program().state.timeFormatIndex = 8;
+    StickerWindow& sticker = m_stickers->newFrmstick();
+    sticker.form().Show();
+    QCOMPARE(find<Label>(sticker, "lblVreme").Caption(), u"10 / 24 / 36"_s);
+    program().state.timeFormatIndex = 13;
+    m_test->clock.advanceSeconds(1);
+    QTRY_COMPARE(find<Label>(sticker, "lblVreme").Caption(), QString());
+}
+
+void StickerTest::theClockIsSetWhenTheStickerShows() {
+    StickerWindow& sticker = m_stickers->newFrmstick();
+    sticker.form().Show();
+    QCOMPARE(find<Label>(sticker, "lblVreme").Caption(), u"10 : 24 : 36"_s);
+    sticker.form().Hide();
+    m_test->clock.advanceSeconds(60);
+    sticker.form().Show();
+    QCOMPARE(find<Label>(sticker, "lblVreme").Caption(), u"10 : 25 : 36"_s);
+}
+
+void StickerTest::movingOverTheClockTellsTheDateInItsToolTip() {
+    StickerWindow& sticker = m_stickers->newFrmstick();
+    sticker.form().Show();
+    auto& clock = find<Label>(sticker, "lblVreme");
+    QTest::mouseMove(&clock, QPoint(5, 5));
+    QTest::mouseMove(&clock, QPoint(9, 6));
+    QTRY_COMPARE(clock.toolTip(), u"Saturday, March 14, 2026"_s);
+}
+
+void StickerTest::anyButtonOnTheClockDragsTheWindow_data() {
+    QTest::addColumn<Qt::MouseButton>("button");
+    QTest::newRow("left") << Qt::LeftButton;
+    QTest::newRow("right") << Qt::RightButton;
+    QTest::newRow("middle") << Qt::MiddleButton;
+}
+
+void StickerTest::anyButtonOnTheClockDragsTheWindow() {
+    QFETCH(Qt::MouseButton, button);
+    StickerWindow& sticker = m_stickers->newFrmstick();
+    Form& form = sticker.form();
+    form.Show();
+    const QPoint before = form.pos();
+    auto& clock = find<Label>(sticker, "lblVreme");
+    const QPoint grip(20, 8);
+    const QPoint by(-37, 21);
+    QTest::mousePress(&clock, button, {}, grip);
+    QMouseEvent move(QEvent::MouseMove, grip + by, clock.mapToGlobal(grip) + by, Qt::NoButton,
+                     button, Qt::NoModifier);
+    QApplication::sendEvent(&clock, &move);
+    QTest::mouseRelease(&clock, button, {}, grip);
+    QCOMPARE(form.pos(), before + by);
+}
+
+void StickerTest::theFontDialogIsLoadedFromTheSelectionAndWrittenBack() {
+    StickerWindow& sticker = m_stickers->newFrmstick();
+    RichTextBox& text = sticker.Text1();
+    text.SetText(u"note"_s);
+    text.SetSelStart(0);
+    text.SetSelLength(4);
+    text.SetSelItalic(true);
+    text.SetSelFontName(u"Liberation Serif"_s);
+    text.SetSelFontSize(11);
+    text.SetSelColor(0x0000FF);
+    const FontChoice chosen{.italic = false,
+                            .bold = true,
+                            .name = u"Liberation Mono"_s,
+                            .size = 14,
+                            .strikethrough = true,
+                            .underline = true,
+                            .colour = 0x00FF00};
+    m_test->dialogs.answerFont(chosen);
+    press(sticker, "Image3");
+
+    QCOMPARE(m_test->dialogs.fonts.size(), 1);
+    const FontChoice shown = m_test->dialogs.fonts.first();
+    QCOMPARE(shown.italic, true);
+    QCOMPARE(shown.bold, false);
+    QCOMPARE(shown.name, u"Liberation Serif"_s);
+    QCOMPARE(shown.size, 11.0);
+    QCOMPARE(shown.colour, 0x0000FFU);
+    QCOMPARE(text.SelItalic(), std::optional(false));
+    QCOMPARE(text.SelBold(), std::optional(true));
+    QCOMPARE(text.SelFontName(), std::optional(u"Liberation Mono"_s));
+    QCOMPARE(text.SelFontSize(), std::optional(14.0));
+    QCOMPARE(text.SelStrikeThru(), std::optional(true));
+    QCOMPARE(text.SelUnderline(), std::optional(true));
+    QCOMPARE(text.SelColor(), std::optional(0x00FF00U));
+}
+
+void StickerTest::aCancelledFontDialogChangesNothing() {
+    StickerWindow& sticker = m_stickers->newFrmstick();
+    sticker.Text1().SetText(u"note"_s);
+    const QByteArray before = sticker.Text1().TextRTF();
+    m_test->dialogs.answerFont(std::nullopt);
+    press(sticker, "Image3");
+    QCOMPARE(sticker.Text1().TextRTF(), before);
+}
+
+void StickerTest::aMixedSelectionShowsTheDialogAndAppliesNothing() {
+    StickerWindow& sticker = m_stickers->newFrmstick();
+    RichTextBox& text = sticker.Text1();
+    text.SetText(u"half bold"_s);
+    text.SetSelStart(0);
+    text.SetSelLength(4);
+    text.SetSelBold(true);
+    text.SetSelStart(0);
+    text.SetSelLength(9);
+    const QByteArray before = text.TextRTF();
+    m_test->dialogs.answerFont(FontChoice{.name = u"Liberation Mono"_s, .size = 20});
+    press(sticker, "Image3");
+    QCOMPARE(m_test->dialogs.fonts.size(), 1);
+    QCOMPARE(text.TextRTF(), before);
+}
+
+void StickerTest::clientSizesAreThoseOfTheirClasses() {
+    QCOMPARE(m_stickers->newFrmstick().form().size(), QSize(194, 147));
+    QCOMPARE(m_stickers->newXn().form().size(), QSize(194, 148));
+}
+
+void StickerTest::toolTipsTellWhatTheButtonsDo() {
+    StickerWindow& sticker = m_stickers->newFrmstick();
+    QCOMPARE(find<GGCommand>(sticker, "Image1").ToolTip(), u"New Sticker"_s);
+    QCOMPARE(find<GGCommand>(sticker, "Image2").ToolTip(), u"Close"_s);
+    QCOMPARE(find<GGCommand>(sticker, "Image2").Caption(), u"x"_s);
+    QCOMPARE(find<GGCommand>(sticker, "Image3").ToolTip(), u"Font"_s);
+}
+
+ORVALIS_TEST_MAIN_WITH(QApplication, StickerTest)
+#include "sticker_test.moc"

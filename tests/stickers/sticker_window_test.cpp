@@ -1,0 +1,155 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "controls/image.h"
+#include "controls/rich_text_box.h"
+#include "core/clock_label.h"
+#include "runtime/aligned_timer.h"
+#include "stickers/sticker_form.h"
+#include "stickers/stickers.h"
+#include "support/pointer_events.h"
+#include "support/test_main.h"
+#include "support/test_program.h"
+#include "widgets/gg_command.h"
+
+#include <QWindow>
+
+using namespace orvalis;
+using namespace orvalis::test;
+using namespace Qt::StringLiterals;
+
+class StickerWindowTest : public QObject {
+    Q_OBJECT
+private slots:
+    void init();
+    void cleanup();
+    void thePinSwitchesStayingOnTopWhileTheWindowStaysTheSame();
+    void theBackgroundDragsTheWindowToo();
+    void aHiddenStickersClockSleeps();
+    void aPopUpComesUpOnTopWithoutTheFocus();
+    void theFontDialogsColourStartsWhite();
+    void theFontDialogGivesTheFocusToTheText();
+    void theEndOfTheRunTakesStickersWithoutTheirUnload();
+    void thereIsNoLimitToTheNumberOfStickers();
+    void everyControlCarriesItsName();
+
+private:
+    StickerForm& shown(StickerWindow& window) {
+        window.form().Show();
+        return static_cast<StickerForm&>(window);
+    }
+    static void click(QWidget* widget) {
+        Pointer pointer(*widget);
+        pointer.press();
+        pointer.release();
+    }
+
+    std::unique_ptr<TestProgram> m_test;
+    std::unique_ptr<Stickers> m_stickers;
+};
+
+void StickerWindowTest::init() {
+    m_test = std::make_unique<TestProgram>();
+    m_stickers = std::make_unique<Stickers>(m_test->program);
+    m_test->program.stickers = m_stickers.get();
+}
+
+void StickerWindowTest::cleanup() {
+    m_stickers.reset();
+    m_test.reset();
+}
+
+void StickerWindowTest::thePinSwitchesStayingOnTopWhileTheWindowStaysTheSame() {
+    StickerForm& sticker = shown(m_stickers->newFrmstick());
+    const QWindow* window = sticker.windowHandle();
+    const WId id = sticker.winId();
+    QVERIFY(window->flags().testFlag(Qt::WindowStaysOnTopHint));
+    click(sticker.findChild<Image*>(u"imgOff"_s));
+    QVERIFY(!window->flags().testFlag(Qt::WindowStaysOnTopHint));
+    QVERIFY(sticker.isVisible());
+    click(sticker.findChild<Image*>(u"imgOn"_s));
+    QVERIFY(window->flags().testFlag(Qt::WindowStaysOnTopHint));
+    QVERIFY(sticker.isVisible());
+    QCOMPARE(sticker.windowHandle(), window);
+    QCOMPARE(sticker.winId(), id);
+}
+
+void StickerWindowTest::theBackgroundDragsTheWindowToo() {
+    StickerForm& sticker = shown(m_stickers->newFrmstick());
+    sticker.move(100, 100);
+    Pointer pointer(sticker);
+    pointer.press({2, 60});
+    pointer.move({12, 60}, Qt::LeftButton);
+    QCOMPARE(sticker.pos(), QPoint(110, 100));
+    pointer.release();
+    pointer.press({2, 60}, Qt::RightButton);
+    pointer.move({42, 60}, Qt::RightButton);
+    QCOMPARE(sticker.pos(), QPoint(110, 100));
+}
+
+void StickerWindowTest::aHiddenStickersClockSleeps() {
+    auto& sticker = static_cast<StickerForm&>(m_stickers->newFrmstick());
+    const auto* timer = sticker.findChild<AlignedTimer*>(u"Timer1"_s);
+    QVERIFY(!timer->isActive());
+    sticker.Show();
+    QVERIFY(timer->isActive());
+    sticker.Hide();
+    QVERIFY(!timer->isActive());
+}
+
+void StickerWindowTest::aPopUpComesUpOnTopWithoutTheFocus() {
+    StickerWindow& sticker = m_stickers->globalXn();
+    sticker.popUp();
+    QVERIFY(sticker.form().isVisible());
+    QVERIFY(sticker.form().testAttribute(Qt::WA_ShowWithoutActivating));
+    QVERIFY(sticker.form().windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint));
+}
+
+void StickerWindowTest::theFontDialogsColourStartsWhite() {
+    StickerForm& sticker = shown(m_stickers->newFrmstick());
+    RichTextBox& text = sticker.Text1();
+    text.SetText(u"ab"_s);
+    text.SetSelStart(0);
+    text.SetSelLength(1);
+    text.SetSelItalic(true);
+    text.SetSelStart(0);
+    text.SetSelLength(2);
+    m_test->dialogs.answerFont(std::nullopt);
+    click(sticker.findChild<GGCommand*>(u"Image3"_s));
+    // Nothing of the mixed selection was read, the italics being the first of the seven.
+    QCOMPARE(m_test->dialogs.fonts.constLast().colour, 0xFFFFFFU);
+    QVERIFY(!programHasEnded());
+}
+
+void StickerWindowTest::theFontDialogGivesTheFocusToTheText() {
+    StickerForm& sticker = shown(m_stickers->newFrmstick());
+    sticker.findChild<QWidget*>(u"txtLabel1"_s)->setFocus();
+    m_test->dialogs.answerFont(FontChoice{.name = u"Arial"_s, .size = 9});
+    click(sticker.findChild<GGCommand*>(u"Image3"_s));
+    QCOMPARE(sticker.focusWidget(), &sticker.Text1());
+}
+
+void StickerWindowTest::theEndOfTheRunTakesStickersWithoutTheirUnload() {
+    shown(m_stickers->newFrmstick());
+    shown(m_stickers->newFrmstick()).close();
+    QCOMPARE(m_test->program.state.StickerCount, 1);
+    m_stickers.reset();
+    QCOMPARE(m_test->program.state.StickerCount, 1);
+}
+
+void StickerWindowTest::thereIsNoLimitToTheNumberOfStickers() {
+    for (int i = 0; i < 40; ++i)
+        m_stickers->newXn();
+    QCOMPARE(m_test->program.state.StickerCount, 40);
+    QCOMPARE(m_test->program.state.StickerNo, 40);
+}
+
+void StickerWindowTest::everyControlCarriesItsName() {
+    StickerForm& sticker = shown(m_stickers->newXn());
+    for (const QString& name : {u"Image1"_s, u"Image2"_s, u"Image3"_s, u"txtLabel1"_s, u"Text1"_s,
+                                u"lblVreme"_s, u"imgOn"_s, u"imgOff"_s})
+        QVERIFY2(sticker.findChild<QWidget*>(name, Qt::FindDirectChildrenOnly) != nullptr,
+                 qPrintable(name));
+}
+
+ORVALIS_TEST_MAIN_WITH(Application, StickerWindowTest)
+#include "sticker_window_test.moc"

@@ -1,0 +1,29 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Orvalis developers
+# SPDX-License-Identifier: MIT
+#
+# What the program asks of the world outside passes through one home each; anywhere else a test could
+# not answer it.
+set -euo pipefail
+cd "$1/src"
+
+failed=0
+only_in() { # pattern, homes as an extended regular expression of paths
+  local hits
+  hits=$(grep -rnE --include='*.h' --include='*.cpp' "$1" -- . | grep -vE "^\./($2)" || true)
+  if [ -n "$hits" ]; then
+    printf 'only in %s:\n%s\n' "$2" "$hits"
+    failed=1
+  fi
+}
+
+only_in '::currentDateTime|::currentMSecs|QDate::currentDate|QTime::currentTime|system_clock::now' 'runtime/clock\.cpp'
+only_in '#include <QMessageBox>|QMessageBox::' 'controls/msg_box'
+only_in '#include <Q(File|Font|Color)Dialog>|Q(File|Font|Color)Dialog::' 'controls/(common_dialog|font_dialog|qt_dialogs)'
+only_in '#include <Q(DesktopServices|Process)>' 'platform/'
+only_in '#include <QSystemTrayIcon>' 'platform/'
+only_in '#include <Q(SoundEffect|MediaPlayer|AudioOutput|AudioSink)>' 'platform/'
+only_in '#include <QPrinter>' '(platform|controls)/'
+only_in '#include <QSettings>' 'nowhere'
+only_in '\bsystem\(|\bpopen\(' 'nowhere'
+exit $failed

@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "driver/stage.h"
+
+#include <QJsonObject>
+#include <QPoint>
+#include <QRect>
+#include <QTemporaryDir>
+
+namespace orvalis::driver {
+
+/// A control as the probe describes it. Geometry is in device pixels of the display.
+struct Control {
+    bool found = false;
+    bool visible = false;
+    bool enabled = false;
+    bool checked = false;
+    QRect rect;
+    QString name;
+    QString className;
+    QString text;
+    QString title;
+    QString tip;
+    QStringList rows;    ///< of a list
+    QStringList entries; ///< of a menu
+    QStringList buttons; ///< of a message box
+    QList<QRect> buttonRects;
+};
+
+/// The built program on a stage, with its own folder of data and settings, its own clock, and a
+/// person in front of it who looks, points and types.
+class DrivenProgram {
+public:
+    /// \param executable the built program; it is copied with its companions into a fresh folder.
+    DrivenProgram(Stage& stage, const QString& executable);
+    /// Another start of the same executable, over the same data and settings.
+    DrivenProgram(const DrivenProgram& first, int number);
+    ~DrivenProgram();
+    DrivenProgram(const DrivenProgram&) = delete;
+    DrivenProgram& operator=(const DrivenProgram&) = delete;
+
+    /// The folder of the executable, where the data files come to lie.
+    QString folder() const { return m_folder->path() + QStringLiteral("/app"); }
+    QString configFolder() const { return m_folder->path() + QStringLiteral("/config"); }
+    QString binFolder() const { return m_folder->path() + QStringLiteral("/bin"); }
+    QByteArray fileBytes(const QString& name) const;
+
+    /// Further variables for the program; call before start.
+    void setVariable(const QString& name, const QString& value);
+    /// Moves the program's clock to the moment given, from where it runs on. Before start or during
+    /// the run.
+    void setClock(const QDateTime& moment);
+
+    /// Launches the program and waits until it can be asked.
+    bool start() { return launch() && connectProbe(); }
+    bool launch();
+    bool connectProbe();
+    bool isRunning();
+    void kill();
+    bool waitForEnd(int milliseconds = 10000);
+    QByteArray output();
+
+    // Looking.
+    Control control(const QString& name);
+    Control menuEntry(const QString& nameOrText);
+    QList<Control> windows();
+    /// The topmost message box, if one shows.
+    Control messageBox();
+    bool waitVisible(const QString& name, int milliseconds = 10000);
+    bool waitText(const QString& name, const QString& text, int milliseconds = 10000);
+    bool takePicture(const QString& path);
+
+    // Doing. Each returns false when the thing named is not there to be acted on.
+    bool point(const QString& name);
+    bool click(const QString& name, int button = 1);
+    bool doubleClick(const QString& name);
+    bool clickAt(QPoint place, int button = 1);
+    bool choose(const QString& menuEntryNameOrText);
+    bool answer(const QString& buttonText);
+    bool drag(const QString& name, QPoint by);
+    void type(const QString& text);
+    void key(const QString& keys);
+
+private:
+    QJsonObject ask(const QString& what, const QString& name = {});
+    bool xdotool(const QStringList& arguments);
+
+    Stage& m_stage;
+    std::shared_ptr<QTemporaryDir> m_folder;
+    QString m_probe;
+    QProcessEnvironment m_environment;
+    QProcess m_process;
+    int m_socket = -1;
+    QByteArray m_received;
+    bool m_clockMoved = false;
+};
+
+} // namespace orvalis::driver

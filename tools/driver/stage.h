@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QSize>
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+namespace orvalis::driver {
+
+/// A virtual desktop to drive the program on: a display of its own, and as asked for a window
+/// manager, a tray and a session bus. Everything ends with the stage.
+class Stage {
+public:
+    struct Plan {
+        QSize screen{1280, 1024}; ///< device pixels
+        bool windowManager = true;
+        bool tray = false;
+        bool sessionBus = false;
+    };
+
+    explicit Stage(const Plan& plan);
+    ~Stage();
+    Stage(const Stage&) = delete;
+    Stage& operator=(const Stage&) = delete;
+
+    /// Empty when everything came up, otherwise what did not.
+    const QString& trouble() const { return m_trouble; }
+    /// The environment of a program on this stage.
+    const QProcessEnvironment& environment() const { return m_environment; }
+
+    void startTray();
+    void stopTray();
+
+private:
+    QProcess* start(const QString& program, const QStringList& arguments);
+    bool startDisplay(QSize screen);
+    void startSessionBus();
+
+    QProcessEnvironment m_environment;
+    std::vector<std::unique_ptr<QProcess>> m_processes;
+    QProcess* m_tray = nullptr;
+    QString m_trouble;
+};
+
+/// Waits until the condition holds, asking again every few milliseconds. \returns whether it held
+/// before the time was over.
+template <class Condition>
+bool waitUntil(Condition&& condition, int milliseconds);
+
+void sleepMilliseconds(int milliseconds);
+
+template <class Condition>
+bool waitUntil(Condition&& condition, int milliseconds) {
+    constexpr int step = 20;
+    for (int waited = 0; waited <= milliseconds; waited += step) {
+        if (condition())
+            return true;
+        sleepMilliseconds(step);
+    }
+    return condition();
+}
+
+} // namespace orvalis::driver

@@ -1,0 +1,124 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "alarm/alarm_set_dialog.h"
+#include "controls/common_dialog.h"
+#include "controls/msg_box.h"
+#include "core/main_window.h"
+#include "core/options_dialog.h"
+#include "core/program.h"
+#include "core/start_window.h"
+#include "core/tray_handover.h"
+#include "platform/desktop_tray.h"
+#include "platform/ini_settings_store.h"
+#include "platform/logon_entry.h"
+#include "platform/registry.h"
+#include "platform/screen.h"
+#include "platform/shell.h"
+#include "platform/sound_player.h"
+#include "runtime/app.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <cstdio>
+#include <vector>
+
+using namespace orvalis;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int Rounds = 21;
+
+struct Times {
+    double first;
+    double median;
+};
+
+/// What the work takes until everything it showed is painted, and what undoes it in between.
+template <class Work, class Undo>
+Times milliseconds(Work&& work, Undo&& undo) {
+    std::vector<double> times;
+    for (int round = 0; round < Rounds; ++round) {
+        QElapsedTimer timer;
+        timer.start();
+        work();
+        QApplication::processEvents();
+        times.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
+        undo();
+        QApplication::processEvents();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    const double first = times.front();
+    std::sort(times.begin(), times.end());
+    return {first, times[times.size() / 2]};
+}
+
+void tell(const char* what, const Times& times, double limit) {
+    std::printf("%-34s first %7.2f ms, median %7.2f ms (limit %.0f ms)\n", what, times.first,
+                times.median, limit);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (!qEnvironmentVariableIsSet("DISPLAY"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    QTemporaryDir folder;
+    const App app(folder.filePath(u"orvalis"_s), folder.path(), {});
+    const SystemClock clock;
+    IniSettingsStore store(folder.filePath(u"orvalis.ini"_s));
+    XdgLogonEntry logonEntry(folder.filePath(u"autostart"_s));
+    Registry settings(store, logonEntry);
+    QtMessageBoxes boxes;
+    QtDialogs dialogs;
+    DesktopShell shell;
+    DeviceSoundPlayer sound;
+    DesktopScreen screen;
+    DesktopTray tray;
+    Program program({.app = app,
+                     .clock = clock,
+                     .settings = settings,
+                     .boxes = boxes,
+                     .dialogs = dialogs,
+                     .shell = shell,
+                     .sound = sound,
+                     .screen = screen});
+    Windows& windows = program.windows;
+    program.makeTrayOwner = [&tray](ChromeWindow& window) {
+        return std::make_unique<TrayHandover>(window, tray);
+    };
+    windows.registerMaker<StartWindow>([&] { return std::make_unique<frmStart>(program, false); });
+    windows.registerMaker<MainWindow>([&] { return std::make_unique<frmnotes>(program); });
+    windows.registerMaker<OptionsWindow>([&] { return std::make_unique<frmOptions>(program); });
+    windows.registerMaker<AlarmSetDialog>([&] { return std::make_unique<frmAlSet>(program); });
+    windows.get<StartWindow>().form().Show();
+    QApplication::processEvents();
+
+    std::vector<std::unique_ptr<QWidget>> bare;
+    tell("a bare window",
+         milliseconds(
+             [&] {
+                 bare.push_back(std::make_unique<QWidget>());
+                 bare.back()->resize(246, 267);
+                 bare.back()->show();
+             },
+             [&] { bare.clear(); }),
+         50);
+    tell("Options",
+         milliseconds([&] { windows.get<OptionsWindow>().form().Show(); },
+                      [&] { windows.unload<OptionsWindow>(); }),
+         50);
+    tell("the alarm dialog",
+         milliseconds([&] { windows.get<AlarmSetDialog>().form().Show(); },
+                      [&] { windows.unload<AlarmSetDialog>(); }),
+         50);
+    tell("to the tray",
+         milliseconds([&] { windows.get<MainWindow>().Pocni(); },
+                      [&] { emit tray.mouse(TrayMouse::LeftDoubleClick); }),
+         100);
+    return 0;
+}

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/reader.h"
+#include "rtf/writer.h"
+
+#include <QGuiApplication>
+#include <QTextDocument>
+
+#include <cstdint>
+#include <cstdlib>
+
+using namespace orvalis::rtf;
+
+namespace {
+
+void require(bool held) {
+    if (!held)
+        std::abort();
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    new QGuiApplication(*argc, *argv);
+    return 0;
+}
+
+/// Whatever any bytes leave in a document is written so that it reads back as the same, and is then
+/// written with the same bytes.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    QByteArray rtf(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
+    if (!looksLikeRtf(rtf))
+        rtf.prepend("{\\rtf1");
+    QTextDocument document;
+    readRtf(rtf, document);
+    const QByteArray written = writeRtf(document);
+    QTextDocument again;
+    require(readRtf(written, again).ok());
+    require(again.toRawText() == document.toRawText());
+    require(writeRtf(again) == written);
+    return 0;
+}

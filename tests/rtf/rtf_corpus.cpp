@@ -3,10 +3,12 @@
 //
 // Measures reader and writer on a folder of RTF files of many makers:
 //
-//     rtf_corpus FOLDER
+//     rtf_corpus [--write OTHER] FOLDER
 //
 // FOLDER/files holds the documents, in any depth; FOLDER/text/NAME.txt, where there is one, the
-// text expected of files/NAME. Prints a line for each miss and the totals.
+// text expected of files/NAME. Prints a line for each miss and the totals. With --write, each
+// document is left in OTHER/files as the writer writes it: once a word processor has put its own
+// text of them into OTHER/text, OTHER measures what that program reads in what we write.
 #include "document_comparison.h"
 #include "rtf/reader.h"
 #include "rtf/writer.h"
@@ -16,6 +18,7 @@
 #include <QDirIterator>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QTextBlock>
 #include <QTextDocument>
@@ -92,7 +95,13 @@ QString firstDifference(const QString& expected, const QString& found) {
                                                                  found.mid(from, 60));
 }
 
-void measure(const QDir& root, const QString& name, Totals& totals) {
+bool leave(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    return QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly) &&
+           file.write(bytes) == bytes.size();
+}
+
+void measure(const QDir& root, const QString& name, const QString& other, Totals& totals) {
     ++totals.files;
     const QByteArray bytes = contentOf(root.filePath(u"files/"_s + name));
     QTextDocument document;
@@ -119,8 +128,11 @@ void measure(const QDir& root, const QString& name, Totals& totals) {
             miss("TEXT", name, firstDifference(expected, found));
     }
 
+    const QByteArray written = rtf::writeRtf(document);
+    if (!other.isEmpty() && !leave(other + u"/files/"_s + name, written))
+        miss("LEAVE", name, u"cannot be written"_s);
     QTextDocument again;
-    rtf::readRtf(rtf::writeRtf(document), again);
+    rtf::readRtf(written, again);
     const QString difference = test::firstDifference(document, again);
     if (difference.isEmpty())
         ++totals.roundTrips;
@@ -137,11 +149,17 @@ void total(const char* what, int hits, int of) {
 int main(int argc, char** argv) {
     test::fixedGround();
     QGuiApplication app(argc, argv);
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: rtf_corpus FOLDER\n");
+    QStringList arguments = QGuiApplication::arguments().sliced(1);
+    QString other;
+    if (arguments.size() == 3 && arguments.first() == u"--write"_s) {
+        other = arguments.at(1);
+        arguments.remove(0, 2);
+    }
+    if (arguments.size() != 1) {
+        std::fprintf(stderr, "usage: rtf_corpus [--write OTHER] FOLDER\n");
         return 2;
     }
-    const QDir root(QString::fromLocal8Bit(argv[1]));
+    const QDir root(arguments.first());
     const QDir files(root.filePath(u"files"_s));
     QStringList names;
     QDirIterator it(files.path(), {u"*.rtf"_s}, QDir::Files | QDir::Hidden,
@@ -151,7 +169,7 @@ int main(int argc, char** argv) {
     names.sort();
     Totals totals;
     for (const QString& name : std::as_const(names))
-        measure(root, name, totals);
+        measure(root, name, other, totals);
     total("opens", totals.opened, totals.files);
     total("text agrees, of the files that have one", totals.textAgrees, totals.withText);
     total("kept through reading, writing and reading", totals.roundTrips, totals.files);

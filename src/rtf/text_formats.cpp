@@ -336,7 +336,10 @@ ParagraphFormat paragraphFormat(const QTextBlockFormat& format, const QTextList*
     result.list.identity = list->objectIndex();
     if (result.list.kind != ListKind::Bullet) {
         result.list.prefix = listFormat.numberPrefix();
-        result.list.suffix = listFormat.numberSuffix();
+        // A list that says nothing of it shows a dot behind its numbers.
+        result.list.suffix = listFormat.hasProperty(QTextFormat::ListNumberSuffix)
+                                 ? listFormat.numberSuffix()
+                                 : QStringLiteral(".");
         if (listFormat.hasProperty(ListStart))
             result.list.start = listFormat.intProperty(ListStart);
     }

@@ -5,7 +5,9 @@
 #include "support/test_main.h"
 
 #include <QGuiApplication>
+#include <QTextCursor>
 #include <QTextDocument>
+#include <QTextList>
 
 using namespace orvalis;
 using namespace orvalis::rtf;
@@ -14,6 +16,7 @@ class WriterTest : public QObject {
     Q_OBJECT
 private slots:
     void whatIsWrittenIsReadAgain();
+    void numbersKeepTheDotThatTheyShow();
 };
 
 void WriterTest::whatIsWrittenIsReadAgain() {
@@ -32,6 +35,26 @@ void WriterTest::whatIsWrittenIsReadAgain() {
     QVERIFY(readRtf(written, again).ok());
     QCOMPARE(again.toPlainText(), document.toPlainText());
     QCOMPARE(writeRtf(again), written);
+}
+
+void WriterTest::numbersKeepTheDotThatTheyShow() {
+    for (const char* suffix : {static_cast<const char*>(nullptr), "", ")"}) {
+        QTextDocument document;
+        QTextCursor cursor(&document);
+        QTextListFormat numbers;
+        numbers.setStyle(QTextListFormat::ListDecimal);
+        if (suffix)
+            numbers.setNumberSuffix(QString::fromLatin1(suffix));
+        const QTextList* list = cursor.createList(numbers);
+        cursor.insertText(QStringLiteral("item"));
+        const QString shown = list->itemText(cursor.block());
+        QCOMPARE(shown, u'1' + QString::fromLatin1(suffix ? suffix : "."));
+        const QByteArray written = writeRtf(document);
+        QTextDocument again;
+        QVERIFY(readRtf(written, again).ok());
+        QCOMPARE(again.begin().textList()->itemText(again.begin()), shown);
+        QVERIFY(written.contains("{\\pntext " + shown.toLatin1() + "\\tab}"));
+    }
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, WriterTest)

@@ -178,6 +178,8 @@ class TrayJourneyTest : public QObject {
     Q_OBJECT
 private slots:
     void anAlarmLivesInATrayOfIcons();
+    void anAlarmLivesOnADesktopWithoutATray();
+    void aTrayThatComesAndGoesLeavesTheProgramReachable();
     void anAlarmLivesInAStatusNotifierTray();
     void withStartSetTheProgramComesUpInTheTrayAlone();
     void aMissingMessageEndsTheProgramInTheTrayAndTheTickInTheWindow();
@@ -196,18 +198,11 @@ private:
 };
 
 bool TrayJourneyTest::settled(DrivenProgram& program, const QString& name) {
-    const bool visible = program.waitVisible(name);
-    sleepMilliseconds(700);
-    return visible;
+    return program.waitAtRest(name).visible;
 }
 
 bool TrayJourneyTest::openMenu(DrivenProgram& program, const QString& iconName) {
-    // A menu that opens while the window manager still hands the focus on is closed by it, and a
-    // person presses again.
-    for (int attempt = 0; attempt < 3; ++attempt)
-        if (program.click(iconName, 3) && program.waitVisible(u"mnuPopup"_s, 3000))
-            return true;
-    return false;
+    return program.click(iconName, 3) && program.waitVisible(u"mnuPopup"_s, 5000);
 }
 
 void TrayJourneyTest::writeOpener(const DrivenProgram& program) {
@@ -322,6 +317,40 @@ void TrayJourneyTest::aliveInWindowTray(Stage& stage, const QString& iconName) {
 void TrayJourneyTest::anAlarmLivesInATrayOfIcons() {
     Stage stage({.tray = true});
     aliveInWindowTray(stage, u"QSystemTrayIconSys"_s);
+}
+
+void TrayJourneyTest::anAlarmLivesOnADesktopWithoutATray() {
+    Stage stage({});
+    aliveInWindowTray(stage, u"trayWindow"_s);
+}
+
+void TrayJourneyTest::aTrayThatComesAndGoesLeavesTheProgramReachable() {
+    const QString inTray = u"QSystemTrayIconSys"_s;
+    const QString standIn = u"trayWindow"_s;
+    Stage stage({.tray = true});
+    QVERIFY2(stage.trouble().isEmpty(), qPrintable(stage.trouble()));
+    DrivenProgram program(stage, QStringLiteral(ORVALIS_EXECUTABLE));
+    QVERIFY(program.start());
+    QVERIFY(program.click(u"frmnotes/imgMini"_s));
+    QVERIFY(program.waitVisible(inTray));
+    QVERIFY(!program.control(standIn).visible);
+
+    stage.stopTray();
+    QVERIFY(program.waitVisible(standIn));
+    QCOMPARE(program.control(standIn).tip, u" Orvalis "_s);
+    QVERIFY(program.doubleClick(standIn));
+    QVERIFY(program.waitVisible(u"frmnotes"_s));
+    QVERIFY(waitUntil([&] { return !program.control(standIn).visible; }, 5000));
+    QVERIFY(program.click(u"frmnotes/imgMini"_s));
+    QVERIFY(program.waitVisible(standIn));
+
+    stage.startTray();
+    QVERIFY2(stage.trouble().isEmpty(), qPrintable(stage.trouble()));
+    QVERIFY(program.waitVisible(inTray));
+    QVERIFY(waitUntil([&] { return !program.control(standIn).visible; }, 5000));
+    QVERIFY(openMenu(program, inTray));
+    QVERIFY(program.choose(u"Exit"_s));
+    QVERIFY(program.waitForEnd());
 }
 
 void TrayJourneyTest::anAlarmLivesInAStatusNotifierTray() {

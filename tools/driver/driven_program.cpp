@@ -10,6 +10,7 @@
 #include <QJsonDocument>
 
 #include <cstring>
+#include <utility>
 
 #include <poll.h>
 #include <sys/socket.h>
@@ -35,6 +36,7 @@ Control controlOf(const QJsonObject& object) {
     control.visible = object[u"visible"_s].toBool();
     control.enabled = object[u"enabled"_s].toBool();
     control.checked = object[u"checked"_s].toBool();
+    control.window = static_cast<quint32>(object[u"window"_s].toInteger());
     control.rect = rectOf(object);
     control.name = object[u"name"_s].toString();
     control.className = object[u"class"_s].toString();
@@ -220,19 +222,31 @@ QJsonObject DrivenProgram::ask(const QString& what, const QString& name) {
     return QJsonDocument::fromJson(m_received).object();
 }
 
+/// What the probe tells is measured from the corner of the control's window.
+Control DrivenProgram::placed(Control control) const {
+    const auto origin = m_stage.display().originOf(control.window);
+    control.visible = control.visible && origin.has_value();
+    if (!origin)
+        return control;
+    control.rect.translate(*origin);
+    for (QRect& button : control.buttonRects)
+        button.translate(*origin);
+    return control;
+}
+
 Control DrivenProgram::control(const QString& name) {
-    return controlOf(ask(u"control"_s, name));
+    return placed(controlOf(ask(u"control"_s, name)));
 }
 
 Control DrivenProgram::menuEntry(const QString& nameOrText) {
-    return controlOf(ask(u"action"_s, nameOrText));
+    return placed(controlOf(ask(u"action"_s, nameOrText)));
 }
 
 QList<Control> DrivenProgram::windows() {
     QList<Control> list;
     const auto windows = ask(u"windows"_s)[u"windows"_s].toArray();
     for (const auto& window : windows)
-        list << controlOf(window.toObject());
+        list << placed(controlOf(window.toObject()));
     return list;
 }
 
@@ -263,8 +277,26 @@ bool DrivenProgram::xdotool(const QStringList& arguments) {
     return process.waitForFinished(20000) && process.exitCode() == 0;
 }
 
+Control DrivenProgram::waitAtRest(const QString& name) {
+    return waitAtRest([&] { return control(name); });
+}
+
+Control DrivenProgram::waitAtRest(const std::function<Control()>& look) {
+    constexpr int restMilliseconds = 100;
+    Control seen;
+    const bool rests = waitUntil(
+        [&] {
+            const Control earlier = std::exchange(seen, look());
+            sleepMilliseconds(restMilliseconds);
+            return seen.visible && seen.enabled && seen.rect == earlier.rect &&
+                   seen.window == earlier.window && seen.buttonRects == earlier.buttonRects;
+        },
+        8000);
+    return rests ? seen : Control();
+}
+
 bool DrivenProgram::point(const QString& name) {
-    const Control target = control(name);
+    const Control target = waitAtRest(name);
     if (!target.visible)
         return false;
     const QPoint centre = target.rect.center();
@@ -281,18 +313,12 @@ bool DrivenProgram::clickAt(QPoint place, int button) {
 }
 
 bool DrivenProgram::click(const QString& name, int button) {
-    if (!waitUntil(
-            [&] {
-                const Control target = control(name);
-                return target.visible && target.enabled;
-            },
-            5000))
-        return false;
-    return clickAt(control(name).rect.center(), button);
+    const Control target = waitAtRest(name);
+    return target.visible && clickAt(target.rect.center(), button);
 }
 
 bool DrivenProgram::doubleClick(const QString& name) {
-    const Control target = control(name);
+    const Control target = waitAtRest(name);
     if (!target.visible)
         return false;
     const QPoint place = target.rect.center();
@@ -301,30 +327,20 @@ bool DrivenProgram::doubleClick(const QString& name) {
 }
 
 bool DrivenProgram::choose(const QString& menuEntryNameOrText) {
-    if (!waitUntil([&] { return menuEntry(menuEntryNameOrText).visible; }, 5000))
-        return false;
-    return clickAt(menuEntry(menuEntryNameOrText).rect.center());
+    const Control entry = waitAtRest([&] { return menuEntry(menuEntryNameOrText); });
+    return entry.visible && clickAt(entry.rect.center());
 }
 
 bool DrivenProgram::answer(const QString& buttonText) {
-    // A window manager may still be placing the box: nobody presses a button before it rests.
-    Control box;
-    const bool rests = waitUntil(
-        [&] {
-            const Control earlier = box;
-            box = messageBox();
-            sleepMilliseconds(150);
-            return box.found && box.buttonRects == earlier.buttonRects;
-        },
-        8000);
-    for (qsizetype i = 0; rests && i < box.buttons.size(); ++i)
+    const Control box = waitAtRest([&] { return messageBox(); });
+    for (qsizetype i = 0; i < box.buttons.size(); ++i)
         if (withoutMnemonic(box.buttons[i]) == buttonText)
             return clickAt(box.buttonRects[i].center());
     return false;
 }
 
 bool DrivenProgram::drag(const QString& name, QPoint by) {
-    const Control target = control(name);
+    const Control target = waitAtRest(name);
     if (!target.visible)
         return false;
     const QPoint from = target.rect.center();

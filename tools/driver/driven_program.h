@@ -9,6 +9,8 @@
 #include <QRect>
 #include <QTemporaryDir>
 
+#include <functional>
+
 namespace orvalis::driver {
 
 /// A control as the probe describes it. Geometry is in device pixels of the display.
@@ -17,6 +19,7 @@ struct Control {
     bool visible = false;
     bool enabled = false;
     bool checked = false;
+    quint32 window = 0; ///< the display's number of the window that it lies in
     QRect rect;
     QString name;
     QString className;
@@ -69,6 +72,9 @@ public:
     /// The topmost message box, if one shows.
     Control messageBox();
     bool waitVisible(const QString& name, int milliseconds = 10000);
+    /// Waits until the control shows, is enabled and stays where it is: until then the window
+    /// manager may still be placing its window, and nobody presses on what moves.
+    Control waitAtRest(const QString& name);
     bool waitText(const QString& name, const QString& text, int milliseconds = 10000);
     bool takePicture(const QString& path);
 
@@ -85,6 +91,8 @@ public:
 
 private:
     QJsonObject ask(const QString& what, const QString& name = {});
+    Control placed(Control control) const;
+    Control waitAtRest(const std::function<Control()>& look);
     bool xdotool(const QStringList& arguments);
 
     Stage& m_stage;

@@ -36,10 +36,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QJsonObject rectangle(const QRect& logical, const QWidget& in) {
-    // What the display counts in: device pixels of the whole desktop.
+    // What the display counts in, device pixels, from the corner of the server's window: where that
+    // one stands the server knows best.
     const qreal ratio = in.devicePixelRatioF();
-    const QPoint origin = in.mapToGlobal(logical.topLeft());
-    return {{u"x"_s, origin.x() * ratio},
+    const QWidget* holder = in.internalWinId() != 0 ? &in : in.nativeParentWidget();
+    const QPoint origin = holder ? in.mapTo(holder, logical.topLeft()) : logical.topLeft();
+    return {{u"window"_s, static_cast<qint64>(in.effectiveWinId())},
+            {u"x"_s, origin.x() * ratio},
             {u"y"_s, origin.y() * ratio},
             {u"w"_s, logical.width() * ratio},
             {u"h"_s, logical.height() * ratio}};

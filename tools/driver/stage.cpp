@@ -9,6 +9,10 @@ using namespace Qt::StringLiterals;
 
 namespace orvalis::driver {
 
+namespace {
+constexpr int comesUpWithinMilliseconds = 20000;
+} // namespace
+
 void sleepMilliseconds(int milliseconds) {
     QThread::msleep(static_cast<unsigned long>(milliseconds));
 }
@@ -25,7 +29,7 @@ Stage::Stage(const Plan& plan)
     if (plan.sessionBus)
         startSessionBus();
     if (plan.windowManager)
-        start(u"openbox"_s, {u"--sm-disable"_s});
+        startWindowManager();
     if (plan.tray)
         startTray();
 }
@@ -66,7 +70,19 @@ bool Stage::startDisplay(QSize screen) {
     }
     const QString number = QString::fromLatin1(server->readLine().trimmed());
     m_environment.insert(u"DISPLAY"_s, u":"_s + number);
+    if (!m_display.open(u":"_s + number)) {
+        m_trouble = u"Xvfb takes no connection"_s;
+        return false;
+    }
     return true;
+}
+
+void Stage::startWindowManager() {
+    // A window that comes before the window manager is taken over later: it vanishes, moves and
+    // comes again under the pointer.
+    if (start(u"openbox"_s, {u"--sm-disable"_s}) &&
+        !waitUntil([this] { return m_display.hasWindowManager(); }, comesUpWithinMilliseconds))
+        m_trouble = u"openbox does not come up"_s;
 }
 
 void Stage::startSessionBus() {
@@ -85,6 +101,8 @@ void Stage::startSessionBus() {
 void Stage::startTray() {
     m_tray = start(u"trayer"_s, {u"--edge"_s, u"top"_s, u"--align"_s, u"right"_s, u"--widthtype"_s,
                                  u"request"_s, u"--height"_s, u"28"_s});
+    if (m_tray && !waitUntil([this] { return m_display.hasTray(); }, comesUpWithinMilliseconds))
+        m_trouble = u"trayer does not come up"_s;
 }
 
 void Stage::stopTray() {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "driver/display.h"
+
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QSize>
@@ -33,6 +35,8 @@ public:
     /// The environment of a program on this stage.
     const QProcessEnvironment& environment() const { return m_environment; }
 
+    const Display& display() const { return m_display; }
+
     void startTray();
     void stopTray();
 
@@ -40,7 +44,9 @@ private:
     QProcess* start(const QString& program, const QStringList& arguments);
     bool startDisplay(QSize screen);
     void startSessionBus();
+    void startWindowManager();
 
+    Display m_display;
     QProcessEnvironment m_environment;
     std::vector<std::unique_ptr<QProcess>> m_processes;
     QProcess* m_tray = nullptr;

@@ -28,6 +28,11 @@ void Image::setPicture(const PictureSource& picture) {
     render();
 }
 
+void Image::setHoverPicture(const PictureSource& picture) {
+    m_hoverPicture = picture;
+    render();
+}
+
 void Image::setDisabledPicture(const PictureSource& picture) {
     m_disabledPicture = picture;
     update();
@@ -42,8 +47,22 @@ QString Image::spokenName() const {
     return accessibleName();
 }
 
+void Image::setHovered(bool hovered) {
+    if (m_hovered == hovered) {
+        return;
+    }
+    m_hovered = hovered;
+    if (!m_hoverPicture.isNull()) {
+        render();
+    }
+}
+
+const PictureSource& Image::pictureOnShow() const {
+    return m_hovered && !m_hoverPicture.isNull() ? m_hoverPicture : m_picture;
+}
+
 void Image::render() {
-    setPixmap(m_picture.pixmap(size(), devicePixelRatioF()));
+    setPixmap(pictureOnShow().pixmap(size(), devicePixelRatioF()));
 }
 
 QPixmap Image::disabledPixmap() const {
@@ -62,9 +81,26 @@ bool Image::event(QEvent* event) {
     return ClickableLabel::event(event);
 }
 
+void Image::enterEvent(QEnterEvent* event) {
+    // First, since a listener may delete the image.
+    setHovered(true);
+    ClickableLabel::enterEvent(event);
+}
+
+void Image::leaveEvent(QEvent* event) {
+    setHovered(false);
+    ClickableLabel::leaveEvent(event);
+}
+
+void Image::hideEvent(QHideEvent* event) {
+    // What is hidden under the pointer is not told that the pointer has gone.
+    setHovered(false);
+    ClickableLabel::hideEvent(event);
+}
+
 void Image::paintEvent(QPaintEvent*) {
     // The window may have come to a screen of another ratio since the picture was drawn.
-    if (!m_picture.isNull() && pixmap().devicePixelRatio() != devicePixelRatioF()) {
+    if (!pictureOnShow().isNull() && pixmap().devicePixelRatio() != devicePixelRatioF()) {
         render();
     }
     if (pixmap().isNull()) {

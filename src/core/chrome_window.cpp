@@ -121,6 +121,7 @@ void ChromeWindow::makeAlarmDisplay() {
     imgSet = new Image(u"imgSet"_s, this);
     imgSet->setGeometry(layout.set);
     imgSet->setPicture(skinPicture(layout.setPicture));
+    imgSet->setHoverPicture(skinPicture(layout.setPicture + u"_hover"_s));
     imgSet->setToolTip(m_row.setToolTip);
     connect(imgSet, &Image::Click, this, [this] {
         if (m_program.windows.knows<AlarmSetDialog>())
@@ -130,6 +131,7 @@ void ChromeWindow::makeAlarmDisplay() {
     imgStop = new Image(u"imgStop"_s, this);
     imgStop->setGeometry(layout.stop);
     imgStop->setPicture(skinPicture(layout.stopPicture));
+    imgStop->setHoverPicture(skinPicture(layout.stopPicture + u"_hover"_s));
     imgStop->setToolTip(u" STOP "_s);
     imgStop->hide();
     connect(imgStop, &Image::Click, this, &ChromeWindow::stopClick);

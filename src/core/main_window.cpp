@@ -48,13 +48,10 @@ void frmnotes::makeOpener(int number, const QString& picture, const QString& nam
     auto* opener = new Image(u"imgopen%1"_s.arg(number), this);
     opener->setGeometry(place);
     opener->setPicture(skinPicture(picture));
+    opener->setHoverPicture(skinPicture(picture + u"_hover"_s));
     // The picture carries its word, so it needs no tool tip; who cannot see it hears the word.
     opener->setAccessibleName(name);
     opener->setCursor(Qt::PointingHandCursor);
-    const PictureSource normal = opener->Picture();
-    const PictureSource hovered = skinPicture(picture + u"_hover"_s);
-    connect(opener, &Image::MouseEnter, opener, [opener, hovered] { opener->setPicture(hovered); });
-    connect(opener, &Image::MouseExit, opener, [opener, normal] { opener->setPicture(normal); });
     connect(opener, &Image::MouseMove, this, &frmnotes::HoverReset);
     connect(opener, &Image::MouseDown, this, [this, target] { openPanel(target); });
 }

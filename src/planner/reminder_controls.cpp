@@ -35,20 +35,15 @@ constexpr QRect SubPanelPlace(380, 80, 296, 354);
 constexpr QRect ListPlace(0, 0, 296, 322);
 constexpr QRect SavePlace(222, 329, 74, 25);
 
-/// A picture button: it shows its hover picture under the pointer while it can be pressed.
+/// A picture button.
 Image* command(QWidget& parent, const QString& name, const QRect& place, const QString& toolTip,
                const QString& pictureName) {
     auto* image = new Image(name, &parent);
-    const PictureSource normal = skinPicture(pictureName);
-    const PictureSource hover = skinPicture(pictureName + u"_hover"_s);
     image->setGeometry(place);
     image->setToolTip(toolTip);
-    image->setPicture(normal);
+    image->setPicture(skinPicture(pictureName));
+    image->setHoverPicture(skinPicture(pictureName + u"_hover"_s));
     image->setDisabledPicture(skinPicture(pictureName + u"_disabled"_s));
-    QObject::connect(image, &Image::MouseEnter, image,
-                     [image, hover] { image->setPicture(hover); });
-    QObject::connect(image, &Image::MouseExit, image,
-                     [image, normal] { image->setPicture(normal); });
     return image;
 }
 

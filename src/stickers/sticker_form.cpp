@@ -94,12 +94,9 @@ Image* StickerForm::makePin(const QString& name, const QString& picture,
                             const QString& spokenName) {
     auto* image = new Image(name, this);
     image->setGeometry(6, 3, 18, 18);
-    const PictureSource normal = skinPicture(picture);
-    const PictureSource hovered = skinPicture(picture + u"_hover"_s);
-    image->setPicture(normal);
+    image->setPicture(skinPicture(picture));
+    image->setHoverPicture(skinPicture(picture + u"_hover"_s));
     image->setAccessibleName(spokenName);
-    connect(image, &Image::MouseEnter, image, [image, hovered] { image->setPicture(hovered); });
-    connect(image, &Image::MouseExit, image, [image, normal] { image->setPicture(normal); });
     return image;
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/image.h"
 
+#include "support/pointer_events.h"
 #include "support/test_main.h"
 
 #include <QAccessible>
@@ -67,6 +68,9 @@ private slots:
     void aDisabledImageCannotBePressed();
     void aDisabledImageLooksDisabled();
     void aDisabledImageShowsItsDisabledPicture();
+    void theHoverPictureShowsWhileThePointerIsOnTheImage();
+    void anImageHiddenUnderThePointerComesBackWithItsOwnPicture();
+    void aDisabledImageShowsNoHover();
     void aHandlerMayDeleteTheImage();
 };
 
@@ -367,6 +371,43 @@ void ImageTest::aDisabledImageShowsItsDisabledPicture() {
     image.setDisabledPicture(filled({20, 20}, Qt::blue));
     image.setEnabled(false);
     QCOMPARE(middleOf(image), QColor(Qt::blue));
+}
+
+void ImageTest::theHoverPictureShowsWhileThePointerIsOnTheImage() {
+    Image image;
+    image.setPicture(filled({20, 20}, Qt::red));
+    image.setHoverPicture(filled({20, 20}, Qt::blue));
+    const PictureSource own = image.Picture();
+    QCOMPARE(middleOf(image), QColor(Qt::red));
+    test::Pointer pointer(image);
+    pointer.enter();
+    QCOMPARE(middleOf(image), QColor(Qt::blue));
+    QVERIFY(image.Picture() == own);
+    image.setPicture(filled({20, 20}, Qt::green));
+    QCOMPARE(middleOf(image), QColor(Qt::blue));
+    pointer.leave();
+    QCOMPARE(middleOf(image), QColor(Qt::green));
+}
+
+void ImageTest::anImageHiddenUnderThePointerComesBackWithItsOwnPicture() {
+    Image image;
+    image.setPicture(filled({20, 20}, Qt::red));
+    image.setHoverPicture(filled({20, 20}, Qt::blue));
+    image.show();
+    test::Pointer(image).enter();
+    image.hide();
+    image.show();
+    QCOMPARE(middleOf(image), QColor(Qt::red));
+}
+
+void ImageTest::aDisabledImageShowsNoHover() {
+    Image image;
+    image.setPicture(filled({20, 20}, Qt::red));
+    image.setHoverPicture(filled({20, 20}, Qt::blue));
+    image.setDisabledPicture(filled({20, 20}, Qt::green));
+    image.setEnabled(false);
+    test::Pointer(image).enter();
+    QCOMPARE(middleOf(image), QColor(Qt::green));
 }
 
 void ImageTest::aHandlerMayDeleteTheImage() {

@@ -65,6 +65,7 @@ private slots:
     void thePointerOnAnImageButtonGivesItItsHoverPicture_data();
     void thePointerOnAnImageButtonGivesItItsHoverPicture();
     void movingFromExitStraightToMiniGivesExitItsNormalPictureBack();
+    void theBellsLookDifferentUnderThePointer();
     void movingOverTheFormGivesNormalPicturesBack();
     void leavingTheWindowGivesNormalPicturesBack();
     void toolTipsAreThoseOfTheTable();
@@ -218,6 +219,21 @@ void ChromeWindowTest::movingFromExitStraightToMiniGivesExitItsNormalPictureBack
     QVERIFY(image(main, u"imgMini"_s)->Picture() == image(main, u"imgMinib"_s)->Picture());
     Pointer(*image(main, u"imgExit"_s)).move({5, 5});
     QVERIFY(image(main, u"imgHelp"_s)->Picture() == image(main, u"imgHelpb"_s)->Picture());
+}
+
+void ChromeWindowTest::theBellsLookDifferentUnderThePointer() {
+    for (const ChromeKind kind : AllKinds) {
+        ChromeWindow& shown = show(kind);
+        for (const QString& name : {u"imgSet"_s, u"imgStop"_s}) {
+            Image* bell = image(shown, name);
+            const QImage normal = bell->grab().toImage();
+            Pointer(*bell).enter();
+            QVERIFY(bell->grab().toImage() != normal);
+            Pointer(*bell).leave();
+            QCOMPARE(bell->grab().toImage(), normal);
+        }
+        shown.Hide();
+    }
 }
 
 void ChromeWindowTest::movingOverTheFormGivesNormalPicturesBack() {

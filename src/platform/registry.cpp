@@ -33,6 +33,7 @@ bool isRunKey(Hive hive, const QString& subKey) {
 }
 
 /// The text of a value: a flag as a word, a number with "." as its decimal sign.
+/// \throws RuntimeError TypeMismatch for a value that has no text.
 QString textOf(const QVariant& value) {
     switch (value.typeId()) {
     case QMetaType::Bool:
@@ -42,6 +43,8 @@ QString textOf(const QVariant& value) {
     case QMetaType::Double:
         return numberText(value.toDouble());
     default:
+        if (value.isValid() && !value.canConvert<QString>())
+            throw RuntimeError(ErrorNumber::TypeMismatch);
         return value.toString();
     }
 }
@@ -70,7 +73,8 @@ bool Registry::RegPutSetting(const QString& product, const QString& section,
                              const QString& valueName, const QVariant& value, Hive hive,
                              const QString& rootPath) {
     const RegistryKey key{hive, joined(rootPath, product, section)};
-    return RegSetVariant(key, valueName, REG_SZ, value) == success;
+    // The status of the write is not looked at: a store that takes nothing is no error.
+    return endSilently([&] { RegSetVariant(key, valueName, REG_SZ, value); });
 }
 
 int Registry::RegQueryVariant(const RegistryKey& key, const QString& valueName,

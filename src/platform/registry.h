@@ -28,6 +28,7 @@ public:
                            const QVariant& defaultValue, Hive hive = Hive::CurrentUser,
                            const QString& rootPath = QStringLiteral("SOFTWARE")) const;
     /// Writes the value as a text, whatever it is; a flag as "True" or "False".
+    /// \returns true, also where the store took nothing; false for a value that has no text.
     bool RegPutSetting(const QString& product, const QString& section, const QString& valueName,
                        const QVariant& value, Hive hive = Hive::CurrentUser,
                        const QString& rootPath = QStringLiteral("SOFTWARE"));
@@ -37,6 +38,7 @@ public:
     int RegQueryVariant(const RegistryKey& key, const QString& valueName, QVariant& value) const;
     /// Writes a text (type 1) or a number (type 4); other types do nothing.
     /// \returns 0, or the status of a failed write.
+    /// \throws RuntimeError TypeMismatch for a value that has no text.
     int RegSetVariant(const RegistryKey& key, const QString& valueName, quint32 type,
                       const QVariant& value);
 

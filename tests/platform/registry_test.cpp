@@ -66,6 +66,7 @@ private slots:
     void typesThatAreNotWrittenDoNothing();
     void numbersAreWrittenAsDoubleWords();
     void aFailedWriteIsSilent();
+    void aValueWithoutATextCutsTheWriteShort();
     void theRunKeyIsTheLogonEntry_data();
     void theRunKeyIsTheLogonEntry();
     void anotherRunKeyIsWrittenOnlyWhereItIs();
@@ -247,7 +248,12 @@ void RegistryTest::numbersAreWrittenAsDoubleWords() {
 
 void RegistryTest::aFailedWriteIsSilent() {
     m_store->writable = false;
-    QVERIFY(!m_registry->putSetting(u"Reg"_s, u"Start"_s, u"1"_s));
+    QVERIFY(m_registry->putSetting(u"Reg"_s, u"Start"_s, u"1"_s));
+    QCOMPARE(m_registry->setting(u"Reg"_s, u"Start"_s, u"0"_s), QVariant(u"0"_s));
+}
+
+void RegistryTest::aValueWithoutATextCutsTheWriteShort() {
+    QVERIFY(!m_registry->putSetting(u"Reg"_s, u"Start"_s, QVariantList{1, 2}));
     QCOMPARE(m_registry->setting(u"Reg"_s, u"Start"_s, u"0"_s), QVariant(u"0"_s));
 }
 

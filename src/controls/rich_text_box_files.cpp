@@ -48,7 +48,12 @@ void requireFlags(int flags) {
 
 void RichTextBox::LoadFile(const QString& path, int flags) {
     requireFlags(flags);
-    const QByteArray bytes = readWhole(path);
+    QByteArray bytes;
+    if (const auto failure = firstFailure([&] { bytes = readWhole(path); })) {
+        if (QFileInfo(path).isFile())
+            m_unreadable.insert(fileKey(path)); // nobody knows what lies there
+        throw *failure;
+    }
     if (flags == rtfText) {
         // Indents, bullets and alignment are nothing that a plain file could mean.
         replaceEverything(plainTextOf(bytes, m_plainFile), QTextBlockFormat());

@@ -132,6 +132,12 @@ void SaveGridFile(const QString& path, const GridModel& grid) {
     endSilently([&] { saveWhole(path, encodeText(gridFileText(grid))); });
 }
 
+void SaveGridFileTwice(const QString& path, const GridModel& passing, const GridModel& staying) {
+    endSilently([&] {
+        saveWholeTwice(path, encodeText(gridFileText(passing)), encodeText(gridFileText(staying)));
+    });
+}
+
 void fillGrid(GridModel& grid, QStringView text, const GridColours* colours) {
     FileReader file(text);
     grid.setRows(file.number());

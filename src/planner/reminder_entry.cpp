@@ -44,32 +44,27 @@ void frmnotes1::connectEntryArea() {
     connect(ui.imgNew, &Image::Click, this, &frmnotes1::imgNew_Click);
     connect(ui.imgSave, &Image::Click, this, &frmnotes1::imgSave_Click);
     connect(ui.Command2, &GGCommand::Click, this, &frmnotes1::Command2_Click);
-    showEntryFrame();
+    showEntryFrame(EntryFrame::Message);
 }
 
-void frmnotes1::showEntryFrame() {
-    const EntryArea::Frame shown = m_entryArea.shown();
-    ui.Frame2->setVisible(shown == EntryArea::Frame::Message);
-    ui.Frame3->setVisible(shown == EntryArea::Frame::Reminder);
-    ui.Frame1->setVisible(shown == EntryArea::Frame::Find);
+void frmnotes1::showEntryFrame(EntryFrame frame) {
+    ui.Frame2->setVisible(frame == EntryFrame::Message);
+    ui.Frame3->setVisible(frame == EntryFrame::Reminder);
+    ui.Frame1->setVisible(frame == EntryFrame::Find);
 }
 
 void frmnotes1::chkRemind_Click() {
     if (!ui.chkRemind->isChecked())
         return;
-    m_entryArea.message = false;
-    m_entryArea.reminder = true;
     ui.imgSave->setEnabled(false);
-    showEntryFrame();
+    showEntryFrame(EntryFrame::Reminder);
     // The box that had the focus is hidden now: the keys go on where the user goes on.
     ui.Combo1->setFocus(Qt::TabFocusReason);
 }
 
 void frmnotes1::endReminderFrame() {
-    m_entryArea.reminder = false;
-    m_entryArea.message = true;
     ui.imgSave->setEnabled(true);
-    showEntryFrame();
+    showEntryFrame(EntryFrame::Message);
     ui.rt1->setFocus();
 }
 
@@ -112,8 +107,7 @@ void frmnotes1::imgNew_Click() {
     ui.rt1->setReadOnly(false);
     ui.rt1->SetText({});
     ui.txt1->setText(u"Title"_s);
-    m_entryArea = EntryArea();
-    showEntryFrame();
+    showEntryFrame(EntryFrame::Message);
     ui.rt1->SetFontSize(NewMessageFontSize);
 }
 

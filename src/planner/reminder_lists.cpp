@@ -55,8 +55,7 @@ void frmnotes1::sv1() {
 }
 
 void frmnotes1::sv3() {
-    SaveTmp2(ui.MS3->grid());
-    SaveTmp2(hiddenReminders());
+    SaveTmp2(ui.MS3->grid(), hiddenReminders());
 }
 
 void frmnotes1::imgso_Click() {
@@ -82,6 +81,10 @@ void frmnotes1::MatSave1(const GridModel& grid) {
 
 void frmnotes1::SaveTmp2(const GridModel& grid) {
     SaveGridFile(gridPath(u"tmp2.brf"_s), grid);
+}
+
+void frmnotes1::SaveTmp2(const GridModel& passing, const GridModel& staying) {
+    SaveGridFileTwice(gridPath(u"tmp2.brf"_s), passing, staying);
 }
 
 void frmnotes1::LoadTmp1(GridModel& grid) {

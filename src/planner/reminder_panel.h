@@ -4,7 +4,7 @@
 
 #include "controls/common_dialog.h"
 #include "core/chrome_window.h"
-#include "planner/entry_area.h"
+#include "planner/entry_frame.h"
 #include "planner/reminder_controls.h"
 #include "planner/reminder_rules.h"
 
@@ -47,7 +47,7 @@ private:
 
     // reminder_entry.cpp: message, reminder and what leads to and from them
     void connectEntryArea();
-    void showEntryFrame();
+    void showEntryFrame(EntryFrame frame);
     void chkRemind_Click();
     void endReminderFrame();
     void Combo_Change(const ComboBox& combo, int limit);
@@ -81,13 +81,13 @@ private:
     void imgso_Click();
     QString gridPath(const QString& name);
     void SaveTmp2(const GridModel& grid);
+    void SaveTmp2(const GridModel& passing, const GridModel& staying);
     void LoadTmp1(GridModel& grid);
     void LoadTmp2(GridModel& grid);
     GridModel& hiddenReminders() const;
 
     ReminderControls ui;
     CommonDialog CommonDialog1;
-    EntryArea m_entryArea;
     FindSteps FindPosition;
     double m_fontSizeSetting = 8; ///< `FS` as it was read
 };

@@ -32,20 +32,17 @@ void frmnotes1::connectFind() {
 }
 
 void frmnotes1::imgFind_Click() {
-    m_entryArea.message = false;
-    m_entryArea.find = true;
-    showEntryFrame();
+    showEntryFrame(EntryFrame::Find);
     ui.Text1->clear();
     ui.Text1->setFocus();
     selectSubPanel(2);
 }
 
 void frmnotes1::imgBack_Click() {
-    m_entryArea.message = true;
-    m_entryArea.find = false;
-    showEntryFrame();
-    if (m_entryArea.shown() == EntryArea::Frame::Message)
-        ui.rt1->setFocus();
+    // Also where the search began in the reminder's frame, and a save that was disabled there stays
+    // so: the way back to that frame is its own tick.
+    showEntryFrame(EntryFrame::Message);
+    ui.rt1->setFocus();
 }
 
 void frmnotes1::FindButton_Click() {

@@ -86,6 +86,38 @@ ErrorNumber refusal(bool permitted) {
     return permitted ? ErrorNumber::PathFileAccessError : ErrorNumber::PermissionDenied;
 }
 
+/// A file's new bytes, complete on the disk beside it.
+class WholeFile {
+public:
+    WholeFile(const QString& path, QByteArrayView bytes)
+        : m_file(path) {
+        const QFileInfo target(path);
+        if (target.fileName().isEmpty() || (target.exists() && !target.isFile()))
+            fail(ErrorNumber::PathFileAccessError);
+        const QFileInfo folder(target.path());
+        if (!folder.isDir())
+            fail(ErrorNumber::PathNotFound);
+        const bool permitted = target.exists() ? target.isWritable() : folder.isWritable();
+
+        m_file.setDirectWriteFallback(true);
+        if (!m_file.open(QIODevice::WriteOnly))
+            fail(refusal(permitted));
+        // The buffer goes to the disk by a step of its own, since commit() takes no notice when a
+        // full disk refuses a small file's only write.
+        if (m_file.write(bytes.data(), bytes.size()) != bytes.size() || !m_file.flush())
+            fail(ErrorNumber::PathFileAccessError);
+    }
+
+    /// Lets the bytes take the place of what the file holds.
+    void takePlace() {
+        if (!m_file.commit())
+            fail(ErrorNumber::PathFileAccessError);
+    }
+
+private:
+    QSaveFile m_file;
+};
+
 } // namespace
 
 QString joinPath(const QString& folder, const QString& name) {
@@ -120,22 +152,19 @@ bool FileExists(const QString& path) {
 }
 
 void saveWhole(const QString& path, QByteArrayView bytes) {
-    const QFileInfo target(path);
-    if (target.fileName().isEmpty() || (target.exists() && !target.isFile()))
-        fail(ErrorNumber::PathFileAccessError);
-    const QFileInfo folder(target.path());
-    if (!folder.isDir())
-        fail(ErrorNumber::PathNotFound);
-    const bool permitted = target.exists() ? target.isWritable() : folder.isWritable();
+    WholeFile(path, bytes).takePlace();
+}
 
-    QSaveFile file(path);
-    file.setDirectWriteFallback(true);
-    if (!file.open(QIODevice::WriteOnly))
-        fail(refusal(permitted));
-    // The buffer goes to the disk by a step of its own, since commit() takes no notice when a full
-    // disk refuses a small file's only write.
-    if (file.write(bytes.data(), bytes.size()) != bytes.size() || !file.flush() || !file.commit())
-        fail(ErrorNumber::PathFileAccessError);
+void saveWholeTwice(const QString& path, QByteArrayView first, QByteArrayView second) {
+    if (!QFileInfo(QFileInfo(path).path()).isWritable()) {
+        // Without room for a file beside it there is nothing to make ready.
+        endSilently([&] { saveWhole(path, first); });
+        saveWhole(path, second);
+        return;
+    }
+    WholeFile staying(path, second);
+    endSilently([&] { saveWhole(path, first); });
+    staying.takePlace();
 }
 
 QByteArray readWhole(const QString& path, qint64 maximum) {

@@ -26,6 +26,12 @@ bool FileExists(const QString& path);
 /// PathFileAccessError (a folder stands there, the disk is full, or anything else).
 void saveWhole(const QString& path, QByteArrayView bytes);
 
+/// Writes a file twice, the second bytes being those that stay. They are on the disk before the
+/// first take the old file's place: a disk without room for them keeps the old file. A refusal of
+/// the first bytes is passed over.
+/// \throws RuntimeError as saveWhole() does, where the second bytes are refused.
+void saveWholeTwice(const QString& path, QByteArrayView first, QByteArrayView second);
+
 /// The largest file that is read unless a caller says otherwise, in bytes.
 constexpr qint64 largestFile = qint64{256} * 1024 * 1024;
 

@@ -15,6 +15,7 @@ class ReminderScanTest : public QObject {
     Q_OBJECT
 private slots:
     void init();
+    void cleanup() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); }
     void theKeyIsTheLongDateASlashAndTheTime();
     void aReminderInItsSecondPopsUpWithItsMessage();
     void theStickerIsBlueAndBold();
@@ -34,6 +35,8 @@ private slots:
     void aPanelWithOneRowAloneIsAFailureAndTheHiddenGridStays();
     void aKeyInTheLastRowHasNoMessageAndFails();
     void aReminderOfAFormerRunStaysSilentUntilOneIsSaved();
+    void aHeaderOfAnotherLanguageNoLongerMatches();
+    void aTimeThatWasNeverTouchedNeverComes();
 
 private:
     QString key(const QTime& time) const {
@@ -263,6 +266,30 @@ void ReminderScanTest::aReminderOfAFormerRunStaysSilentUntilOneIsSaved() {
     fill(MS3(), {u""_s, u"1"_s, u"2"_s});
     scan();
     QCOMPARE(m_stickers->made.size(), std::size_t(1));
+}
+
+void ReminderScanTest::aHeaderOfAnotherLanguageNoLongerMatches() {
+    const QStringList list{u""_s, u"Saturday, March 14, 2026/10:24:36"_s, u"Call Ann"_s};
+    fill(MS2(), list);
+    fill(MS3(), {u""_s, u"1"_s, u"2"_s});
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    scan();
+    QCOMPARE(m_stickers->made.size(), std::size_t(0));
+    QCOMPARE(rows(MS2()), list);
+    fill(MS2(), {u""_s, u"Samstag, März 14, 2026/10:24:36"_s, u"Anna anrufen"_s});
+    scan();
+    QCOMPARE(m_stickers->made.size(), std::size_t(1));
+}
+
+void ReminderScanTest::aTimeThatWasNeverTouchedNeverComes() {
+    fill(MS2(), {u""_s, u"Saturday, March 14, 2026/00 : 00 : 00"_s, u"never"_s});
+    fill(MS3(), {u""_s, u"1"_s, u"2"_s});
+    m_test->clock.set(QDateTime(m_test->clock.date(), QTime(0, 0)));
+    for (int minute = 0; minute < 24 * 60; ++minute) {
+        scan();
+        m_test->clock.advanceSeconds(60);
+    }
+    QCOMPARE(m_stickers->made.size(), std::size_t(0));
 }
 
 ORVALIS_TEST_MAIN_WITH(Application, ReminderScanTest)

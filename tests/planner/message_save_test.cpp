@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "planner/panel_ground.h"
 
+#include "support/folder_watch.h"
+
 #include <QFileInfo>
 
 using namespace orvalis;
@@ -59,6 +61,7 @@ private slots:
     void theListsAreWrittenAndReadBackColoured();
     void theHiddenCopyTakesWhatThePanelShows();
     void theShownListIsWhatStaysInTheFile();
+    void filesAreWrittenInTheirOrderAndTheRemindersTwice();
     void remindersOfAFormerRunComeAliveWithTheNextSave();
     void untouchedCombosStoreATimeThatCannotCome();
     void aMultilineMessageShiftsThePriorityList();
@@ -260,6 +263,19 @@ void MessageSaveTest::theShownListIsWhatStaysInTheFile() {
     QCOMPARE(ground.folder.read(u"tmp2.brf"_s),
              QByteArray(" 3  1 \r\n\r\nheader\r\nonly on the panel\r\n"));
     QCOMPARE(ground.MS2().TextMatrix(2, 0), u"only on the panel"_s);
+}
+
+void MessageSaveTest::filesAreWrittenInTheirOrderAndTheRemindersTwice() {
+    PanelGround ground;
+    for (const char* name : {"Vazno.rtf", "tmp1.brf", "tmp2.brf"})
+        ground.folder.write(QString::fromLatin1(name), {});
+    ground.panel();
+    const FolderWatch watch(ground.folder.path());
+    ground.press(u"imgSave"_s);
+    QCOMPARE(watch.renamedTo(),
+             (QStringList{u"Vazno.rtf"_s, u"tmp1.brf"_s, u"tmp2.brf"_s, u"tmp2.brf"_s}));
+    ground.panel().sv3();
+    QCOMPARE(watch.renamedTo(), (QStringList{u"tmp2.brf"_s, u"tmp2.brf"_s}));
 }
 
 void MessageSaveTest::remindersOfAFormerRunComeAliveWithTheNextSave() {

@@ -23,7 +23,7 @@ private slots:
     void findAndBackSwapTheFrames();
     void newReturnsToTheMessageFromEveryFrame();
     void newLeavesSaveAsItIs();
-    void aSearchFromTheReminderFrameLeadsBackToIt();
+    void backFromASearchLeadsToTheMessageAlsoFromTheReminderFrame();
     void theFocusFollowsTheFrames();
     void aDisabledSaveLooksSoAndCannotBePressed();
     void typingMarksTheMessageAsChanged();
@@ -158,16 +158,25 @@ void ReminderEntryTest::newLeavesSaveAsItIs() {
     QVERIFY(ground.control<QCheckBox>(u"chkRemind"_s).isChecked());
 }
 
-void ReminderEntryTest::aSearchFromTheReminderFrameLeadsBackToIt() {
+void ReminderEntryTest::backFromASearchLeadsToTheMessageAlsoFromTheReminderFrame() {
     PanelGround ground;
     ground.tick(u"chkRemind"_s);
     ground.press(u"imgFind"_s);
     QVERIFY(ground.isUp(u"Frame1"_s));
+    QVERIFY(!ground.isUp(u"Frame2"_s));
     QVERIFY(!ground.isUp(u"Frame3"_s));
     ground.press(u"imgBack"_s);
-    QVERIFY(ground.isUp(u"Frame3"_s));
-    QVERIFY(!ground.isUp(u"Frame2"_s));
+    QVERIFY(ground.isUp(u"Frame2"_s));
+    QVERIFY(!ground.isUp(u"Frame1"_s));
+    QVERIFY(!ground.isUp(u"Frame3"_s));
+    // Neither step touches the tick or the save that the reminder's frame disabled.
     QVERIFY(!ground.control<Image>(u"imgSave"_s).isEnabled());
+    QVERIFY(ground.control<QCheckBox>(u"chkRemind"_s).isChecked());
+    ground.tick(u"chkRemind"_s, false);
+    ground.tick(u"chkRemind"_s);
+    QVERIFY(ground.isUp(u"Frame3"_s));
+    ground.press(u"Button1"_s);
+    QVERIFY(ground.control<Image>(u"imgSave"_s).isEnabled());
 }
 
 void ReminderEntryTest::theFocusFollowsTheFrames() {

@@ -4,6 +4,7 @@
 
 #include "runtime/failure.h"
 #include "runtime/files.h"
+#include "support/without_root.h"
 
 #include <QMenu>
 
@@ -49,6 +50,7 @@ private slots:
     void aPressOnClearDoesNothingYet();
     void theWeeklyButtonsDoNothingYet();
     void unloadStoresTheFont();
+    void queryUnloadAndUnloadEachStoreTheFont();
     void exitStoresTheFont();
     void fontsAndSettingsStayOverManyRuns_data();
     void fontsAndSettingsStayOverManyRuns();
@@ -57,7 +59,9 @@ private slots:
     void noMenuOfTheToolkitOpensOnARightClick();
     void aDocumentThatIsNotRtfLeavesTheBoxEmptyAndIsKeptAside_data();
     void aDocumentThatIsNotRtfLeavesTheBoxEmptyAndIsKeptAside();
+    void aDocumentThatCannotBeReadIsKeptAside();
     void aTruncatedDocumentOpensWithWhatCouldBeRead();
+    void rubbishInsideADocumentLeavesTheTextAroundIt();
 };
 
 void ReminderPanelTest::everyControlIsThereUnderItsName_data() {
@@ -346,12 +350,21 @@ void ReminderPanelTest::unloadStoresTheFont() {
     QCOMPARE(ground.settings.setting(u"RT1"_s, u"FS"_s, {}).toString(), u"12"_s);
 }
 
+void ReminderPanelTest::queryUnloadAndUnloadEachStoreTheFont() {
+    PanelGround ground;
+    ground.panel();
+    ground.store.writes = 0;
+    ground.leave();
+    QCOMPARE(ground.store.writes, 4); // name and size, twice
+}
+
 void ReminderPanelTest::exitStoresTheFont() {
     PanelGround ground;
     ground.program.state.StickerCount = 1; // so that the program goes on
     ground.rt1().SetSelFontSize(12);
     ground.panel().exitClick();
     QCOMPARE(ground.settings.setting(u"RT1"_s, u"FS"_s, {}).toString(), u"12"_s);
+    QCOMPARE(ground.settings.setting(u"RT1"_s, u"FN"_s, {}).toString(), u"Arial"_s);
 }
 
 void ReminderPanelTest::fontsAndSettingsStayOverManyRuns_data() {
@@ -438,6 +451,21 @@ void ReminderPanelTest::aDocumentThatIsNotRtfLeavesTheBoxEmptyAndIsKeptAside() {
     QCOMPARE(ground.folder.names().contains(u"Vazno.rtf.unreadable"_s), !bytes.isEmpty());
 }
 
+void ReminderPanelTest::aDocumentThatCannotBeReadIsKeptAside() {
+    const WithoutRoot ordinaryUser;
+    PanelGround ground;
+    const QString path = ground.folder.write(u"Vazno.rtf"_s, plainDocument);
+    QVERIFY(QFile::setPermissions(path, QFile::WriteOwner));
+    QCOMPARE(ground.rt1a().Text(), QString());
+    ground.rt1().SetText(u"message"_s);
+    ground.press(u"imgSave"_s);
+    QVERIFY(ground.boxes.asked.isEmpty());
+    QVERIFY(ground.folder.read(u"Vazno.rtf"_s).contains("message"));
+    const QString aside = ground.folder.file(u"Vazno.rtf.unreadable"_s);
+    QVERIFY(QFile::setPermissions(aside, QFile::ReadOwner));
+    QCOMPARE(ground.folder.read(u"Vazno.rtf.unreadable"_s), plainDocument);
+}
+
 void ReminderPanelTest::aTruncatedDocumentOpensWithWhatCouldBeRead() {
     for (qsizetype length = 1; length < plainDocument.size(); ++length) {
         PanelGround ground;
@@ -447,6 +475,27 @@ void ReminderPanelTest::aTruncatedDocumentOpensWithWhatCouldBeRead() {
         const qsizetype begin = plainDocument.indexOf("Call Ann");
         const qsizetype there = std::clamp<qsizetype>(length - begin, 0, whole.size());
         QVERIFY2(read.left(there) == whole.left(there), plainDocument.first(length).constData());
+    }
+}
+
+void ReminderPanelTest::rubbishInsideADocumentLeavesTheTextAroundIt() {
+    const QByteArray rubbish("\x00\xFF\x81\x0C\x1A\\'\x7F{\\*\\\xF0", 13);
+    const QString whole = u"Call Ann"_s;
+    const qsizetype begin = plainDocument.indexOf("Call Ann");
+    for (qsizetype place = 6; place <= plainDocument.size(); ++place) {
+        PanelGround ground;
+        QByteArray bytes = plainDocument;
+        bytes.insert(place, rubbish);
+        ground.folder.write(u"Vazno.rtf"_s, bytes);
+        const QString read = ground.rt1a().Text();
+        const qsizetype before = std::clamp<qsizetype>(place - begin, 0, whole.size());
+        QVERIFY2(read.left(before) == whole.left(before), qPrintable(QString::number(place)));
+        QVERIFY(ground.boxes.asked.isEmpty());
+        // Whatever could not be read of it stays beside what is written next.
+        ground.press(u"imgSave"_s);
+        QVERIFY(ground.folder.read(u"Vazno.rtf"_s).contains("Message not set"));
+        if (ground.folder.names().contains(u"Vazno.rtf.unreadable"_s))
+            QCOMPARE(ground.folder.read(u"Vazno.rtf.unreadable"_s), bytes);
     }
 }
 

@@ -52,6 +52,9 @@ private slots:
     void aFullDiskLeavesTheOldFile_data();
     void aFullDiskLeavesTheOldFile();
 
+    void theSecondOfTwoWritesStays();
+    void aDiskWithoutRoomForTheSecondOfTwoWritesKeepsTheOldFile();
+    void aFolderThatRefusesNewFilesTakesBothWritesDirectly();
     void readingGivesEveryByte();
     void readingAMissingFileIsFileNotFound();
     void readingFromAMissingFolderIsPathNotFound();
@@ -242,6 +245,43 @@ void FilesTest::aFullDiskLeavesTheOldFile() {
     }
     QCOMPARE(folder.read(u"x"_s), QByteArray("old"));
     QCOMPARE(folder.names(), QStringList{u"x"_s});
+}
+
+void FilesTest::theSecondOfTwoWritesStays() {
+    const TemporaryFolder folder;
+    saveWholeTwice(folder.file(u"x"_s), "first and longer", "second");
+    QCOMPARE(folder.read(u"x"_s), QByteArray("second"));
+    saveWholeTwice(folder.file(u"x"_s), "first", "the second, and longer");
+    QCOMPARE(folder.read(u"x"_s), QByteArray("the second, and longer"));
+    QCOMPARE(folder.names(), QStringList{u"x"_s});
+}
+
+void FilesTest::aDiskWithoutRoomForTheSecondOfTwoWritesKeepsTheOldFile() {
+    const TemporaryFolder folder;
+    folder.write(u"x"_s, "old");
+    {
+        const SmallDisk disk(1000);
+        QCOMPARE(
+            failureOf([&] { saveWholeTwice(folder.file(u"x"_s), "first", QByteArray(2000, 's')); }),
+            ErrorNumber::PathFileAccessError);
+    }
+    QCOMPARE(folder.read(u"x"_s), QByteArray("old"));
+    QCOMPARE(folder.names(), QStringList{u"x"_s});
+    {
+        const SmallDisk disk(1000);
+        saveWholeTwice(folder.file(u"x"_s), QByteArray(2000, 'f'), "second");
+    }
+    QCOMPARE(folder.read(u"x"_s), QByteArray("second"));
+}
+
+void FilesTest::aFolderThatRefusesNewFilesTakesBothWritesDirectly() {
+    const WithoutRoot ordinaryUser;
+    const TemporaryFolder folder;
+    folder.write(u"x"_s, "old and longer");
+    folder.setWritable(false);
+    saveWholeTwice(folder.file(u"x"_s), "first and longer", "second");
+    folder.setWritable(true);
+    QCOMPARE(folder.read(u"x"_s), QByteArray("second"));
 }
 
 void FilesTest::readingGivesEveryByte() {

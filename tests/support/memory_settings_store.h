@@ -13,6 +13,7 @@ namespace orvalis::test {
 class MemorySettingsStore final : public SettingsStore {
 public:
     bool writable = true;
+    int writes = 0; ///< Values that were to be written, the refused ones included.
 
     bool hasKey(Hive hive, const QString& path) const override {
         return m_keys.contains(keyOf(hive, path));
@@ -29,6 +30,7 @@ public:
     }
     bool setValue(Hive hive, const QString& path, const QString& name,
                   const StoredValue& value) override {
+        ++writes;
         if (createKey(hive, path))
             m_values[keyOf(hive, path) + u'|' + name.toLower()] = value;
         return writable;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/control_marks.h"
 
+#include "controls/selection_format.h"
 #include "rtf/control_marks.h"
 
 #include <QTextBlock>
@@ -25,7 +26,8 @@ public:
     PlainInserter(QTextCursor& cursor, const QTextCharFormat& format)
         : m_cursor(cursor)
         , m_ordinary(format)
-        , m_marks(format) {
+        , m_marks(format)
+        , m_beginsPage(cursor.blockFormat().hasProperty(QTextFormat::PageBreakPolicy)) {
         m_ordinary.clearProperty(rtf::ControlMarks);
         m_marks.setProperty(rtf::ControlMarks, true);
     }
@@ -35,7 +37,7 @@ public:
         for (qsizetype at = 0; at < text.size(); ++at) {
             const char16_t c = text[at].unicode();
             if (c == u'\r' && at + 1 < text.size() && text[at + 1] == u'\n') {
-                m_run += u'\n'; // what the cursor takes for a paragraph's end
+                endParagraph();
                 ++at;
             } else if (rtf::needsMark(c)) {
                 add(Kind::Marks, rtf::markOf(c));
@@ -50,6 +52,16 @@ public:
 
 private:
     enum class Kind { Any, Marks, Typed };
+
+    void endParagraph() {
+        if (!m_beginsPage) {
+            m_run += u'\n'; // what the cursor takes for a paragraph's end
+            return;
+        }
+        flush();
+        m_cursor.insertBlock(followingParagraph(m_cursor.blockFormat()), m_ordinary);
+        m_beginsPage = false;
+    }
 
     void add(Kind kind, char16_t c) {
         if (m_kind != Kind::Any && m_kind != kind)
@@ -68,6 +80,7 @@ private:
     QTextCursor& m_cursor;
     QTextCharFormat m_ordinary;
     QTextCharFormat m_marks;
+    bool m_beginsPage;
     QString m_run;
     Kind m_kind = Kind::Any;
 };

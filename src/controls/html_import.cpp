@@ -84,6 +84,7 @@ private:
             m_target.setBlockFormat(paragraphOf(block));
         }
         m_any = true;
+        m_ownParagraph = followingParagraph(m_ownParagraph);
         m_table = table;
         m_row = row;
         if (const QTextList* list = block.textList()) {

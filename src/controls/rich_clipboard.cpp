@@ -62,6 +62,17 @@ bool offersPicture(const QMimeData& data) {
                        [&](const QString& name) { return data.hasFormat(name); });
 }
 
+/// RTF that holds nothing we can show leaves the place to what comes beside it: some programs put
+/// an object into it and its picture next to it.
+bool takeRtf(const QMimeData& data, QTextCursor& selection) {
+    const QByteArray rtf = rtfOf(data);
+    if (rtf.isEmpty())
+        return false;
+    const int from = selection.selectionStart();
+    rtf::insertRtf(rtf, selection, readOptions());
+    return selection.position() > from;
+}
+
 bool takePicture(const QMimeData& data, QTextCursor& selection) {
     const QByteArray bytes = pictureOf(data);
     return !bytes.isEmpty() && rtf::insertPicture(selection, bytes);
@@ -90,6 +101,21 @@ QString htmlOf(const QTextCursor& selection) {
     return html;
 }
 
+/// A picture alone is offered as one too, to programs that know of nothing else.
+void offerPicture(QMimeData& data, const QTextCursor& selection) {
+    if (selection.selectionEnd() - selection.selectionStart() != 1)
+        return;
+    QTextCursor behind(selection);
+    behind.setPosition(selection.selectionEnd());
+    if (!behind.charFormat().isImageFormat())
+        return;
+    const rtf::Picture picture =
+        rtf::pictureOfFormat(*selection.document(), behind.charFormat().toImageFormat());
+    if (picture.kind == rtf::PictureKind::Png || picture.kind == rtf::PictureKind::Jpeg)
+        data.setData(picture.kind == rtf::PictureKind::Png ? u"image/png"_s : u"image/jpeg"_s,
+                     picture.bytes);
+}
+
 /// Line ends of other programs, as a document knows them.
 QString withCrLf(QString text) {
     text.replace(u"\r\n"_s, u"\n"_s);
@@ -97,26 +123,8 @@ QString withCrLf(QString text) {
     return text.replace(u"\n"_s, u"\r\n"_s);
 }
 
-} // namespace
-
-std::unique_ptr<QMimeData> clipboardData(const QTextCursor& selection, const QString& plain) {
-    auto data = std::make_unique<QMimeData>();
-    const QByteArray rtf =
-        rtf::writeRtf(*selection.document(), selection.selectionStart(), selection.selectionEnd());
-    for (const QString& name : rtfNames)
-        data->setData(name, rtf);
-    data->setHtml(htmlOf(selection));
-    data->setText(QString(plain).replace(u"\r\n"_s, u"\n"_s));
-    return data;
-}
-
-bool canTake(const QMimeData& data) {
-    return data.hasText() || data.hasHtml() || offersPicture(data) || !rtfOf(data).isEmpty();
-}
-
-bool takeClipboard(const QMimeData& data, QTextCursor& selection, const QTextCharFormat& plain) {
-    const QByteArray rtf = rtfOf(data);
-    if (!rtf.isEmpty() && rtf::insertRtf(rtf, selection, readOptions()).fault != rtf::Fault::NotRtf)
+bool takeBest(const QMimeData& data, QTextCursor& selection, const QTextCharFormat& plain) {
+    if (takeRtf(data, selection))
         return true;
     // A browser offers a picture as a page that only points to it.
     if (offersPicture(data) && data.text().trimmed().isEmpty() && takePicture(data, selection))
@@ -131,6 +139,31 @@ bool takeClipboard(const QMimeData& data, QTextCursor& selection, const QTextCha
         return true;
     }
     return offersPicture(data) && takePicture(data, selection);
+}
+
+} // namespace
+
+std::unique_ptr<QMimeData> clipboardData(const QTextCursor& selection, const QString& plain) {
+    auto data = std::make_unique<QMimeData>();
+    const QByteArray rtf =
+        rtf::writeRtf(*selection.document(), selection.selectionStart(), selection.selectionEnd());
+    for (const QString& name : rtfNames)
+        data->setData(name, rtf);
+    data->setHtml(htmlOf(selection));
+    data->setText(QString(plain).replace(u"\r\n"_s, u"\n"_s));
+    offerPicture(*data, selection);
+    return data;
+}
+
+bool canTake(const QMimeData& data) {
+    return data.hasText() || data.hasHtml() || offersPicture(data) || !rtfOf(data).isEmpty();
+}
+
+bool takeClipboard(const QMimeData& data, QTextCursor& selection, const QTextCharFormat& plain) {
+    selection.beginEditBlock();
+    const bool taken = takeBest(data, selection, plain);
+    selection.endEditBlock();
+    return taken;
 }
 
 } // namespace orvalis

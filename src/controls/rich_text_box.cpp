@@ -344,6 +344,7 @@ void RichTextBox::beginBatch() {
 void RichTextBox::endBatch() {
     if (--m_batches == 0) {
         m_batchCursor.endEditBlock();
+        m_positions->blockClosed();
         setTextCursor(m_batchCursor);
         m_batchCursor = QTextCursor();
     }

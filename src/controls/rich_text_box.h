@@ -229,6 +229,7 @@ private:
     void mergeFormat(const QTextCharFormat& format);
     void setBoxFont(const QFont& font, const QTextCharFormat& format);
     void typeParagraphEnd();
+    void typeText(QKeyEvent* event);
     void tellChange();
     void tellSelection();
     void hold();

@@ -4,6 +4,7 @@
 #include "controls/rich_text_box.h"
 #include "controls/selection_format.h"
 #include "controls/text_positions.h"
+#include "rtf/control_marks.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
@@ -32,6 +33,11 @@ bool deletes(const QKeyEvent& event) {
             return true;
     }
     return event.key() == Qt::Key_Backspace || event.key() == Qt::Key_Delete;
+}
+
+bool types(const QKeyEvent& event) {
+    const bool command = event.modifiers() & (Qt::ControlModifier | Qt::MetaModifier);
+    return !command && !event.text().isEmpty() && event.text().front().isPrint();
 }
 
 /// Where a backspace would take the bullet away, and with it the room that the bullet hangs in.
@@ -114,6 +120,9 @@ void RichTextBox::keyPressEvent(QKeyEvent* event) {
     } else if (event->matches(QKeySequence::InsertParagraphSeparator) && !isReadOnly()) {
         const UndoKindScope kind(*m_undoKinds, UndoKind::Typing);
         typeParagraphEnd();
+    } else if (types(*event) && !isReadOnly()) {
+        const UndoKindScope kind(*m_undoKinds, UndoKind::Typing);
+        typeText(event);
     } else {
         const UndoKindScope kind(*m_undoKinds,
                                  deletes(*event) ? UndoKind::Delete : UndoKind::Typing);
@@ -121,6 +130,24 @@ void RichTextBox::keyPressEvent(QKeyEvent* event) {
         return;
     }
     event->accept();
+}
+
+/// What is typed over a selection takes the format at its start; the editor's own way would ask at
+/// which end the caret stands. What is typed behind a mark is no mark.
+void RichTextBox::typeText(QKeyEvent* event) {
+    QTextCursor cursor = editCursor();
+    if (cursor.hasSelection()) {
+        SetSelText(event->text());
+        ensureCursorVisible();
+        return;
+    }
+    QTextCharFormat format = cursor.charFormat();
+    if (format.boolProperty(rtf::ControlMarks)) {
+        format.clearProperty(rtf::ControlMarks);
+        cursor.setCharFormat(format);
+        takeCursor(cursor);
+    }
+    QTextEdit::keyPressEvent(event);
 }
 
 /// The new paragraph goes on in the format of the old one; the editor's own way would go back to no
@@ -132,8 +159,7 @@ void RichTextBox::typeParagraphEnd() {
     }
     editAt(editCursor(), [](QTextCursor& cursor) {
         const QTextCharFormat format = formatAtStart(cursor);
-        QTextBlockFormat paragraph = cursor.blockFormat();
-        paragraph.clearProperty(QTextFormat::PageBreakPolicy);
+        const QTextBlockFormat paragraph = followingParagraph(cursor.blockFormat());
         cursor.beginEditBlock();
         cursor.removeSelectedText();
         cursor.insertBlock(paragraph, format);

@@ -15,10 +15,16 @@
 namespace orvalis {
 namespace {
 
-/// An indent below zero, which the paragraph's margin does not follow.
+/// An indent that the paragraph's margin does not follow.
 constexpr int RequestedIndent = QTextFormat::UserProperty + 0x5190;
 /// How far a bullet hangs left of its text.
 constexpr int bulletTwips = 360;
+/// The furthest that an indent shows, far outside any window and any page.
+constexpr int mostShownIndent = 1'000'000;
+
+int shownIndent(int twips) {
+    return qBound(0, twips, mostShownIndent);
+}
 
 constexpr Qt::Alignment alignments[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter,
                                         Qt::AlignJustify};
@@ -104,6 +110,11 @@ QTextCharFormat formatAtStart(const QTextCursor& selection) {
           int(QTextFormat::AnchorName), int(rtf::PictureSource), int(rtf::PictureSourceKind),
           int(rtf::PictureSourceSize)})
         format.clearProperty(property);
+    return format;
+}
+
+QTextBlockFormat followingParagraph(QTextBlockFormat format) {
+    format.clearProperty(QTextFormat::PageBreakPolicy);
     return format;
 }
 
@@ -212,11 +223,11 @@ void indentParagraphs(QTextCursor& selection, int twips) {
     changeParagraphs(selection, [&](const QTextBlock& block, QTextBlockFormat& format) {
         if (indentOf(block) == twips)
             return;
-        if (twips < 0)
+        if (twips != shownIndent(twips))
             format.setProperty(RequestedIndent, twips);
         else
             format.clearProperty(RequestedIndent);
-        const qreal margin = twipsToPixelsF(qMax(twips, 0) - firstIndentOf(format));
+        const qreal margin = twipsToPixelsF(shownIndent(twips) - firstIndentOf(format));
         format.setLeftMargin(margin - steppedMargin(block));
     });
 }
@@ -245,11 +256,11 @@ void bulletParagraphs(QTextCursor& selection, bool on) {
             }
             format.setObjectIndex(list->objectIndex());
             format.setProperty(rtf::ParagraphFirstIndent, -bulletTwips);
-            format.setLeftMargin(twipsToPixelsF(qMax(indent, 0) + bulletTwips));
+            format.setLeftMargin(twipsToPixelsF(shownIndent(indent) + bulletTwips));
         } else {
             format.setObjectIndex(-1);
             format.clearProperty(rtf::ParagraphFirstIndent);
-            format.setLeftMargin(twipsToPixelsF(qMax(indent, 0)));
+            format.setLeftMargin(twipsToPixelsF(shownIndent(indent)));
         }
     });
 }

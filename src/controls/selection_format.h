@@ -19,6 +19,9 @@ namespace orvalis {
 /// without what makes it a picture or a link.
 QTextCharFormat formatAtStart(const QTextCursor& selection);
 
+/// The format of a paragraph that goes on behind one of this format: it begins no page again.
+QTextBlockFormat followingParagraph(QTextBlockFormat format);
+
 /// Hands over the format of each run of the selection, until the visitor returns false. Pictures
 /// count only where there is nothing else: they have no font to speak of.
 void visitRuns(const QTextCursor& selection,

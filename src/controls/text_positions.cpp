@@ -113,7 +113,6 @@ void TextPositions::contentsChanged(int from, int removed, int added) {
     const int characters = m_document.characterCount();
     if (m_seenInBlock) {
         // All of it was taken in step by step.
-        m_seenInBlock = false;
         m_characters = characters;
         return;
     }

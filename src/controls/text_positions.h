@@ -36,6 +36,8 @@ public:
     void contentsChanged(int from, int removed, int added);
     /// A change inside an open edit block, of which the document will tell when the block closes.
     void changedInBlock(int from, int removed, int added);
+    /// The edit block closed, and the document told of it if anything had changed.
+    void blockClosed() { m_seenInBlock = false; }
 
 private:
     int lastPosition() const;

@@ -37,7 +37,10 @@ DocumentSink::DocumentSink(QTextCursor& cursor, const ReadOptions& options, qsiz
     , m_pixelBytesLeft(pixelShare * fileSize + ground)
     , m_textBefore(!cursor.atBlockStart())
     , m_textBehind(!cursor.atBlockEnd())
-    , m_targetFormat(cursor.blockFormat()) {}
+    , m_targetFormat(cursor.blockFormat()) {
+    if (m_textBefore) // which keeps what begins a page
+        m_targetFormat.clearProperty(QTextFormat::PageBreakPolicy);
+}
 
 void DocumentSink::begin(const Names& names) {
     m_names = &names;

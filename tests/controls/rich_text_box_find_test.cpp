@@ -29,6 +29,7 @@ private slots:
     void capitalsCountOnlyWhenAsked();
     void wholeWords_data();
     void wholeWords();
+    void wholeWordsAndCapitalsCountTogether();
     void lettersOutsideTheBasicPlaneCountAsLetters();
     void positionsCountLineBreaksTwice();
     void aLineBreakCanBeLookedFor();
@@ -190,6 +191,15 @@ void RichTextBoxFindTest::insideABatchTheSearchFindsTheSame() {
             QVERIFY(hits == 300 || expected < 0);
         }
     }
+}
+
+void RichTextBoxFindTest::wholeWordsAndCapitalsCountTogether() {
+    RichTextBox box;
+    box.SetText(u"cats Cats cat Cat"_s);
+    QCOMPARE(box.Find(u"Cat"_s, 0, -1, wholeWord), 10);
+    QCOMPARE(box.Find(u"Cat"_s, 0, -1, matchCase), 5);
+    QCOMPARE(box.Find(u"Cat"_s, 0, -1, wholeWord + matchCase), 14);
+    QCOMPARE(box.Find(u"CAT"_s, 0, -1, wholeWord + matchCase), -1);
 }
 
 ORVALIS_TEST_MAIN_WITH(QApplication, RichTextBoxFindTest)

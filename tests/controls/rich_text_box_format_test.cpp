@@ -8,6 +8,8 @@
 #include <QTextLayout>
 #include <QTextList>
 
+#include <limits>
+
 using namespace orvalis;
 using namespace Qt::StringLiterals;
 
@@ -37,6 +39,7 @@ private slots:
     void indentsAreTwips();
     void anIndentGoesUpAndDownByMillimetres();
     void anIndentBelowZeroIsRememberedAndShowsAsNone();
+    void anIndentBeyondEverythingIsRememberedAndShowsFarAway();
     void bulletsComeAndGo();
     void aBulletKeepsTheIndentOfItsParagraph();
     void aNumberedParagraphHasNoBullet();
@@ -352,6 +355,23 @@ void RichTextBoxFormatTest::wordWrapCanBeTurnedOff() {
     QCOMPARE(lines(), 1);
     box.SetWordWrap(true);
     QVERIFY(lines() > 1);
+}
+
+void RichTextBoxFormatTest::anIndentBeyondEverythingIsRememberedAndShowsFarAway() {
+    constexpr int most = std::numeric_limits<int>::max();
+    RichTextBox box;
+    box.SetText(u"one"_s);
+    box.SetSelIndent(most);
+    QCOMPARE(box.SelIndent(), std::optional(most));
+    QVERIFY(box.document()->begin().blockFormat().leftMargin() < 100000);
+    box.SetSelBullet(true);
+    QCOMPARE(box.SelIndent(), std::optional(most));
+    QVERIFY(box.document()->begin().blockFormat().leftMargin() < 100000);
+    RichTextBox other;
+    other.SetTextRTF(box.TextRTF());
+    QVERIFY(*other.SelIndent() > 20000);
+    box.SetSelIndent(454);
+    QCOMPARE(box.SelIndent(), std::optional(454));
 }
 
 ORVALIS_TEST_MAIN_WITH(QApplication, RichTextBoxFormatTest)

@@ -6,7 +6,10 @@
 
 #include <QApplication>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTextBlock>
+
+#include <functional>
 
 using namespace orvalis;
 using namespace Qt::StringLiterals;
@@ -62,12 +65,14 @@ private slots:
     void changeIsToldForWhatTheProgramSets();
     void changeIsToldForWhatIsTyped();
     void changeIsToldForAFormat();
+    void everyWayToChangeTheContentTellsOnce();
     void changeIsNotToldWhereNothingChanges();
     void selectionChangesAreToldOnce();
     void settingContentTellsOfTheSelection();
     void theTagIsKept();
     void aBatchIsOneChangeAndOneUndo();
     void positionsHoldInsideABatch();
+    void aBatchThatChangesNothingLeavesPositionsRight();
     void aFailureInsideABatchEndsIt();
 };
 
@@ -478,6 +483,68 @@ void RichTextBoxTextTest::aFailureInsideABatchEndsIt() {
     box.SetSelText(u"2"_s);
     QCOMPARE(changes.count(), 1);
     QCOMPARE(box.Text(), u"12abc"_s);
+}
+
+void RichTextBoxTextTest::aBatchThatChangesNothingLeavesPositionsRight() {
+    RichTextBox box;
+    box.SetText(u"x\u2028y"_s);
+    {
+        const RichTextBox::Batch batch(box);
+        box.SetSelStart(0);
+        box.SetSelRTF(QByteArrayLiteral("{\\rtf1}"));
+    }
+    QTest::keyClicks(&box, u"ab"_s);
+    for (const int at : {3, 5, 6}) {
+        box.SetSelStart(at);
+        QCOMPARE(box.SelStart(), at);
+    }
+    QCOMPARE(box.Find(u"y"_s), 5);
+}
+
+void RichTextBoxTextTest::everyWayToChangeTheContentTellsOnce() {
+    QTemporaryDir folder;
+    RichTextBox file;
+    file.SetText(u"from a file"_s);
+    file.SaveFile(folder.filePath(u"a.rtf"_s), 0);
+    file.SaveFile(folder.filePath(u"a.txt"_s), 1);
+    const std::pair<const char*, std::function<void(RichTextBox&)>> ways[] = {
+        {"Text", [](RichTextBox& box) { box.SetText(u"x"_s); }},
+        {"Text, empty", [](RichTextBox& box) { box.SetText(QString()); }},
+        {"TextRTF", [](RichTextBox& box) { box.SetTextRTF(QByteArrayLiteral("{\\rtf1 x}")); }},
+        {"TextRTF, plain", [](RichTextBox& box) { box.SetTextRTF(u"x"_s); }},
+        {"SelText", [](RichTextBox& box) { box.SetSelText(u"x\r\ny"_s); }},
+        {"SelRTF", [](RichTextBox& box) { box.SetSelRTF(QByteArrayLiteral("{\\rtf1 x}")); }},
+        {"SelBold", [](RichTextBox& box) { box.SetSelBold(true); }},
+        {"SelItalic", [](RichTextBox& box) { box.SetSelItalic(true); }},
+        {"SelUnderline", [](RichTextBox& box) { box.SetSelUnderline(true); }},
+        {"SelStrikeThru", [](RichTextBox& box) { box.SetSelStrikeThru(true); }},
+        {"SelFontName", [](RichTextBox& box) { box.SetSelFontName(u"Liberation Mono"_s); }},
+        {"SelFontSize", [](RichTextBox& box) { box.SetSelFontSize(30); }},
+        {"SelColor", [](RichTextBox& box) { box.SetSelColor(255); }},
+        {"SelAlignment", [](RichTextBox& box) { box.SetSelAlignment(2); }},
+        {"SelIndent", [](RichTextBox& box) { box.SetSelIndent(454); }},
+        {"SelBullet", [](RichTextBox& box) { box.SetSelBullet(true); }},
+        {"Font.Name", [](RichTextBox& box) { box.SetFontName(u"Liberation Mono"_s); }},
+        {"Font.Size", [](RichTextBox& box) { box.SetFontSize(30); }},
+        {"LoadFile 0", [&](RichTextBox& box) { box.LoadFile(folder.filePath(u"a.rtf"_s), 0); }},
+        {"LoadFile 1", [&](RichTextBox& box) { box.LoadFile(folder.filePath(u"a.txt"_s), 1); }},
+        {"Undo", [](RichTextBox& box) { box.Undo(); }},
+        {"Cut", [](RichTextBox& box) { box.Cut(); }},
+        {"typing", [](RichTextBox& box) { QTest::keyClicks(&box, u"x"_s); }},
+        {"deleting", [](RichTextBox& box) { QTest::keyClick(&box, Qt::Key_Delete); }},
+        {"Return", [](RichTextBox& box) { QTest::keyClick(&box, Qt::Key_Return); }},
+    };
+    for (const auto& [name, way] : ways) {
+        RichTextBox box;
+        box.SetText(u"some words"_s);
+        box.SetSelText(u"and "_s);
+        box.SetSelStart(4);
+        box.SetSelLength(4);
+        QSignalSpy changes(&box, &RichTextBox::Change);
+        way(box);
+        QVERIFY2(changes.count() == 1,
+                 qPrintable(u"%1: %2"_s.arg(QLatin1StringView(name)).arg(changes.count())));
+    }
 }
 
 ORVALIS_TEST_MAIN_WITH(QApplication, RichTextBoxTextTest)

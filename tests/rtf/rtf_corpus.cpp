@@ -159,7 +159,7 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "usage: rtf_corpus [--write OTHER] FOLDER\n");
         return 2;
     }
-    const QDir root(arguments.first());
+    const QDir root(QFileInfo(arguments.first()).absoluteFilePath());
     const QDir files(root.filePath(u"files"_s));
     QStringList names;
     QDirIterator it(files.path(), {u"*.rtf"_s}, QDir::Files | QDir::Hidden,

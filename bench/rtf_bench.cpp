@@ -1,0 +1,428 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+//
+// rtf_bench: the speed of the RTF reader and writer, beside a bare cursor and beside unrtf where
+// it is installed, and how it holds as documents grow.
+// rtf_bench --hostile [NAME]: time and memory for 200 MB of whatever does most harm; with a name
+// only the files called so. Takes some minutes and 2 GB.
+#include "rtf/reader.h"
+#include "rtf/sink.h"
+#include "rtf/text_formats.h"
+#include "rtf/writer.h"
+#include "support/test_main.h"
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+#include <functional>
+#include <limits>
+#include <vector>
+
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace orvalis;
+using namespace orvalis::rtf;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype Megabyte = 1'000'000;
+constexpr int Rounds = 5;
+constexpr double ReaderLimit = 100;  // MB/s
+constexpr double CursorLimit = 1.5;  // times the bare cursor
+constexpr double OutsideLimit = 5.0; // times faster than unrtf
+constexpr double WriterLimit = 60;   // MB/s
+constexpr qsizetype HostileSize = 200 * Megabyte;
+constexpr unsigned LongestReading = 120; // seconds
+constexpr qint64 MemoryPerByte = 40;
+constexpr qint64 MemoryGround = qint64(64) << 20;
+
+// Processor time, the least of several rounds: what else the machine does only ever adds to it.
+double seconds(const std::function<void()>& work, int rounds = Rounds) {
+    double best = std::numeric_limits<double>::max();
+    for (int round = 0; round < rounds; ++round) {
+        const std::clock_t start = std::clock();
+        work();
+        best = std::min(best, double(std::clock() - start) / CLOCKS_PER_SEC);
+    }
+    return best;
+}
+
+double rate(qsizetype bytes, double time) {
+    return double(bytes) / double(Megabyte) / time;
+}
+
+bool anyMissed = false;
+
+void tell(const char* what, double figure, const char* unit, bool kept, const QString& limit) {
+    std::printf("%-58s %9.1f %-5s limit %-12s %s\n", what, figure, unit, qUtf8Printable(limit),
+                kept ? "kept" : "MISSED");
+    anyMissed |= !kept;
+}
+
+/// Makes documents as people write them: headings, running text with words set off in all ways,
+/// letters beyond ASCII, items, links and tabs; half of the paragraphs as rich edit controls write
+/// them, flat and terse, half as word processors do. Runs are as long as the median of real files
+/// has them, some 55 characters.
+class MixedDocument {
+public:
+    QByteArray rtf(qsizetype size) {
+        m_rtf = "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fswiss\\fcharset0 Arial;}"
+                "{\\f1\\froman\\fcharset0 Times New Roman;}{\\f2\\fnil\\fcharset2 Symbol;}}\r\n"
+                "{\\colortbl ;\\red255\\green0\\blue0;\\red0\\green0\\blue255;}\r\n"
+                "\\viewkind4\\uc1\\pard\\f0\\fs20 ";
+        m_rtf.reserve(size + 4096);
+        while (m_rtf.size() < size) {
+            if (below(2) == 0)
+                terseParagraph();
+            else
+                wordyParagraph();
+            m_rtf += "\\par\r\n";
+        }
+        return m_rtf + "}\r\n";
+    }
+
+private:
+    int below(int limit) { return int(m_random.bounded(limit)); }
+
+    void words(int count) {
+        static constexpr const char* known[] = {
+            "letter", "the",      "of",      "morning", "a",   "price",   "calls", "and",
+            "to",     "Saturday", "dentist", "garden",  "key", "because", "seven", "caf\\'e9"};
+        for (; count > 0; --count)
+            m_rtf.append(known[below(int(std::size(known)))]).append(' ');
+    }
+
+    void terseParagraph() {
+        static constexpr std::pair<const char*, const char*> looks[] = {
+            {"\\b ", "\\b0 "},          {"\\i ", "\\i0 "},  {"{\\ul ", "}"},
+            {"\\cf1 ", "\\cf0 "},       {"{\\super ", "}"}, {"\\f1\\fs28 ", "\\f0\\fs20 "},
+            {"\\strike ", "\\strike0 "}};
+        const int kind = below(6);
+        if (kind == 0)
+            m_rtf += "\\pard\\qc\\sb120\\sa120\\b\\fs32 ";
+        else if (kind == 1)
+            m_rtf += "\\pard{\\pntext\\f2\\'B7\\tab}{\\*\\pn\\pnlvlblt\\pnf2\\pnindent0{\\pntxtb"
+                     "\\'B7}}\\fi-360\\li720 ";
+        else if (kind == 2)
+            m_rtf += "\\pard\\tx1440\\tqr\\tx5000 ";
+        else
+            m_rtf += "\\pard\\sa100 ";
+        for (int sentence = 1 + below(3); sentence > 0; --sentence) {
+            words(8 + below(20));
+            const auto& [on, off] = looks[below(int(std::size(looks)))];
+            m_rtf += on;
+            words(1 + below(4));
+            m_rtf += off;
+        }
+        if (kind == 0)
+            m_rtf += "\\b0\\fs20";
+        else if (kind == 2)
+            m_rtf += "\\tab 7 \\endash  8\\tab 12.50 \\u8364?";
+        else if (kind == 3)
+            m_rtf += "{\\field{\\*\\fldinst{HYPERLINK \"http://example.org/\"}}"
+                     "{\\fldrslt{\\ul there}}}";
+    }
+
+    void wordyParagraph() {
+        static constexpr const char* looks[] = {"\\b",   "\\i",    "\\ul",
+                                                "\\cf2", "\\fs28", "\\highlight1"};
+        m_rtf +=
+            "\\pard\\plain \\ltrpar\\qj\\fi284\\li0\\ri0\\sa160\\sl259\\slmult1\\widctlpar"
+            "\\wrapdefault\\aspalpha\\aspnum\\faauto\\adjustright\\rin0\\lin0\\itap0 \\rtlch\\fcs1 "
+            "\\af0\\afs20 \\ltrch\\fcs0 \\f0\\fs20\\lang1033\\langfe1033 ";
+        for (int sentence = 1 + below(3); sentence > 0; --sentence) {
+            m_rtf += "{\\rtlch\\fcs1 \\af0 \\ltrch\\fcs0 \\insrsid4738105 ";
+            words(8 + below(20));
+            m_rtf += "}{\\rtlch\\fcs1 \\af0 \\ltrch\\fcs0 ";
+            m_rtf += looks[below(int(std::size(looks)))];
+            m_rtf += "\\insrsid13261 ";
+            words(1 + below(4));
+            m_rtf += "}";
+        }
+        m_rtf += "{\\*\\bkmkstart _Toc}{\\*\\bkmkend _Toc}";
+    }
+
+    QRandomGenerator m_random{1};
+    QByteArray m_rtf;
+};
+
+QByteArray mixedDocument(qsizetype size) {
+    return MixedDocument().rtf(size);
+}
+
+/// The runs of a document as a program would insert them by hand: text and ready formats.
+class RunList final : public Sink {
+public:
+    void begin(const Names& names) override { m_names = &names; }
+    void text(QStringView text, const CharFormat& format) override {
+        m_line.push_back({text.toString(), textFormat(format, *m_names)});
+    }
+    bool picture(const Picture& /*picture*/, const CharFormat& /*format*/) override { return true; }
+    void paragraphEnd(const ParagraphFormat& paragraph, const CharFormat& mark) override {
+        m_paragraphs.push_back(
+            {blockFormat(paragraph), textFormat(mark, *m_names), std::exchange(m_line, {})});
+    }
+    void end(const ParagraphFormat& /*paragraph*/, const CharFormat& /*mark*/) override {}
+
+    void insert(QTextDocument& document) const {
+        document.setUndoRedoEnabled(false);
+        QTextCursor cursor(&document);
+        cursor.beginEditBlock();
+        for (const Paragraph& paragraph : m_paragraphs) {
+            cursor.insertBlock(paragraph.shape, paragraph.mark);
+            for (const Run& run : paragraph.runs)
+                cursor.insertText(run.text, run.look);
+        }
+        cursor.endEditBlock();
+    }
+
+private:
+    struct Run {
+        QString text;
+        QTextCharFormat look;
+    };
+    struct Paragraph {
+        QTextBlockFormat shape;
+        QTextCharFormat mark;
+        std::vector<Run> runs;
+    };
+
+    const Names* m_names = nullptr;
+    std::vector<Run> m_line;
+    std::vector<Paragraph> m_paragraphs;
+};
+
+double readingSeconds(const QByteArray& rtf) {
+    return seconds([&] {
+        NullSink sink;
+        readRtf(rtf, sink);
+    });
+}
+
+void readerAlone(const QByteArray& rtf) {
+    const double speed = rate(rtf.size(), readingSeconds(rtf));
+    tell("reader alone, 10 MB of mixed formatting", speed, "MB/s", speed >= ReaderLimit,
+         u">= %1"_s.arg(ReaderLimit));
+}
+
+void besideACursor(const QByteArray& rtf) {
+    RunList runs;
+    readRtf(rtf, runs);
+    // One after the other in each round, so that both meet the same machine.
+    double own = std::numeric_limits<double>::max();
+    double bare = own;
+    for (int round = 0; round < Rounds; ++round) {
+        QTextDocument byReader;
+        own = std::min(own, seconds([&] { readRtf(rtf, byReader); }, 1));
+        QTextDocument byCursor;
+        bare = std::min(bare, seconds([&] { runs.insert(byCursor); }, 1));
+    }
+    std::printf("  10 MB into a document %.3f s, its runs by a bare cursor %.3f s\n", own, bare);
+    tell("reader into a document, to a bare cursor", own / bare, "x", own / bare <= CursorLimit,
+         u"<= %1"_s.arg(CursorLimit));
+}
+
+double secondsOfChildren() {
+    rusage usage{};
+    getrusage(RUSAGE_CHILDREN, &usage);
+    const auto of = [](const timeval& time) { return double(time.tv_sec) + time.tv_usec / 1e6; };
+    return of(usage.ru_utime) + of(usage.ru_stime);
+}
+
+void besideUnrtf(const QByteArray& rtf) {
+    const QString tool = QStandardPaths::findExecutable(u"unrtf"_s);
+    if (tool.isEmpty()) {
+        std::printf("unrtf is not installed: end to end is not compared\n");
+        return;
+    }
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"mixed.rtf"_s);
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(rtf) != rtf.size())
+        return;
+    file.close();
+    const double own = seconds(
+        [&] {
+            QFile source(path);
+            QTextDocument document;
+            if (source.open(QIODevice::ReadOnly))
+                readRtf(source.readAll(), document);
+            if (document.toPlainText().isEmpty())
+                std::abort();
+        },
+        3);
+    double other = std::numeric_limits<double>::max();
+    for (int round = 0; round < 3; ++round) {
+        const double before = secondsOfChildren();
+        QProcess process;
+        process.setStandardOutputFile(folder.filePath(u"mixed.txt"_s));
+        process.start(tool, {u"--text"_s, path});
+        process.waitForFinished(-1);
+        other = std::min(other, secondsOfChildren() - before);
+    }
+    std::printf("  file to text by way of a document %.3f s, by unrtf %.3f s\n", own, other);
+    tell("end to end, to unrtf --text", other / own, "x", other / own >= OutsideLimit,
+         u">= %1"_s.arg(OutsideLimit));
+}
+
+void writerAlone(const QByteArray& rtf) {
+    QTextDocument document;
+    readRtf(rtf, document);
+    qsizetype written = 0;
+    const double time = seconds([&] { written = writeRtf(document).size(); });
+    const double speed = rate(written, time);
+    tell("writer, 10 MB of mixed formatting", speed, "MB/s", speed >= WriterLimit,
+         u">= %1"_s.arg(WriterLimit));
+}
+
+void growth() {
+    std::printf("%8s %16s %22s %16s\n", "MB", "reader, MB/s", "into a document, MB/s",
+                "writer, MB/s");
+    for (const int megabytes : {1, 2, 5, 10, 20, 50}) {
+        const QByteArray rtf = mixedDocument(megabytes * Megabyte);
+        const double reading = readingSeconds(rtf);
+        QTextDocument document;
+        const double filling = seconds([&] { readRtf(rtf, document); }, 2);
+        qsizetype written = 0;
+        const double writing = seconds([&] { written = writeRtf(document).size(); }, 3);
+        std::printf("%8d %16.1f %22.1f %16.1f\n", megabytes, rate(rtf.size(), reading),
+                    rate(rtf.size(), filling), rate(written, writing));
+    }
+}
+
+/// A file of the size that is nothing but one thing over and over.
+QByteArray repeated(const QByteArray& head, const QByteArray& piece, qsizetype size) {
+    QByteArray rtf;
+    rtf.reserve(size + piece.size());
+    rtf += head;
+    while (rtf.size() < size)
+        rtf += piece;
+    return rtf;
+}
+
+QByteArray noise(qsizetype size) {
+    QByteArray rtf(size, Qt::Uninitialized);
+    QRandomGenerator random(2);
+    std::generate(rtf.begin(), rtf.end(), [&] { return char(random.generate()); });
+    return rtf.replace(0, 12, "{\\rtf1 text ");
+}
+
+struct Hostile {
+    const char* name;
+    std::function<QByteArray(qsizetype)> make;
+};
+
+std::vector<Hostile> hostileFiles() {
+    const auto of = [](const QByteArray& head, const QByteArray& piece) {
+        return [=](qsizetype size) { return repeated(head, piece, size); };
+    };
+    return {
+        {"random bytes", noise},
+        {"opening braces", of("{\\rtf1 text ", "{")},
+        {"closing braces", of("{\\rtf1 text ", "}")},
+        {"groups within groups, each with its look", of("{\\rtf1 text ", "{\\b\\tx99 a")},
+        {"empty paragraphs", of("{\\rtf1 text ", "\\par")},
+        {"one-letter runs", of("{\\rtf1 text ", "\\b a\\b0 b")},
+        {"a size for each letter", of("{\\rtf1 text ", "\\fs8 a\\fs9\\up3 b\\fs20\\ul c")},
+        {"list items of their own", of("{\\rtf1 text ", "\\pard{\\pntext 7.}x\\par")},
+        {"colours", of("{\\rtf1 text{\\colortbl;", "\\red1;")},
+        {"fonts", of("{\\rtf1 text{\\fonttbl", "{\\f7 A;}")},
+        {"numbers with one list entry each",
+         of("{\\rtf1 text{\\*\\listtable", "{\\list{\\listlevel}\\listid1}")},
+        {"pictures of one pixel", of("{\\rtf1 text ", "{\\pict\\wbitmap0\\picw1\\pich1 00}")},
+        {"hexadecimal of one picture", of("{\\rtf1 text{\\pict\\pngblip 89504e470d0a1a0a", "00")},
+        {"codes of a page of two bytes", of("{\\rtf1\\ansicpg932 text", "\\'83\\'56")},
+        {"characters by number", of("{\\rtf1 text ", "\\u1078?")},
+        {"links", of("{\\rtf1 text ", "{\\field{\\*\\fldinst HYPERLINK u}{\\fldrslt x}}")}};
+}
+
+/// What a reading took in a process of its own.
+struct Answer {
+    double time = -1; ///< seconds, negative when the process died
+    qint64 memory = -1;
+    bool keptText = false; ///< of what stands in front of the trouble
+};
+
+Answer readInAChild(const QByteArray& rtf) {
+    int ends[2];
+    if (pipe(ends) != 0)
+        return {};
+    const pid_t child = fork();
+    if (child == 0) {
+        alarm(LongestReading);
+        const auto peak = [] {
+            rusage usage{};
+            getrusage(RUSAGE_SELF, &usage);
+            return qint64(usage.ru_maxrss) * 1024;
+        };
+        const qint64 before = peak();
+        QTextDocument document;
+        const double time = seconds([&] { readRtf(rtf, document); }, 1);
+        const Answer answer{time, peak() - before,
+                            document.firstBlock().text().startsWith(u"text"_s)};
+        const bool told = ::write(ends[1], &answer, sizeof answer) == sizeof answer;
+        _exit(told ? 0 : 1);
+    }
+    close(ends[1]);
+    Answer answer;
+    if (::read(ends[0], &answer, sizeof answer) != sizeof answer)
+        answer = {};
+    close(ends[0]);
+    waitpid(child, nullptr, 0);
+    return answer;
+}
+
+bool inBounds(const Answer& answer, qsizetype size) {
+    return answer.memory >= 0 && answer.memory <= MemoryPerByte * size + MemoryGround;
+}
+
+void hostile(const QString& wanted) {
+    std::printf("hostile files of %lld MB into a document, limit %lld x + %lld MB\n",
+                static_cast<long long>(HostileSize / Megabyte),
+                static_cast<long long>(MemoryPerByte), static_cast<long long>(MemoryGround >> 20));
+    for (const Hostile& file : hostileFiles()) {
+        if (!wanted.isEmpty() && !QString::fromLatin1(file.name).contains(wanted))
+            continue;
+        const Answer small = readInAChild(file.make(HostileSize / 10));
+        const Answer large = readInAChild(file.make(HostileSize));
+        const bool kept = large.keptText && small.keptText && inBounds(large, HostileSize) &&
+                          inBounds(small, HostileSize / 10);
+        std::printf("%-44s %6.2f s (a tenth %5.2f s) %6.1f x the file (a tenth %5.1f x) %s\n",
+                    file.name, large.time, small.time, double(large.memory) / HostileSize,
+                    double(small.memory) / (HostileSize / 10), kept ? "kept" : "MISSED");
+        std::fflush(stdout);
+        anyMissed |= !kept;
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    test::fixedGround();
+    const QGuiApplication app(argc, argv);
+    const QStringList arguments = QGuiApplication::arguments();
+    if (arguments.value(1) == u"--hostile") {
+        hostile(arguments.value(2));
+        return anyMissed ? 1 : 0;
+    }
+    const QByteArray rtf = mixedDocument(10 * Megabyte);
+    readerAlone(rtf);
+    besideACursor(rtf);
+    besideUnrtf(rtf);
+    writerAlone(rtf);
+    growth();
+    return anyMissed ? 1 : 0;
+}

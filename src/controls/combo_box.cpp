@@ -68,6 +68,10 @@ void ComboBox::setText(const QString& text) {
         lineEdit()->setText(text);
         return;
     }
+    // Two entries may read the same: the one that stands there stays.
+    if (text == Text()) {
+        return;
+    }
     const int index = findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (index >= 0) {
         setCurrentIndex(index);

@@ -4,6 +4,7 @@
 
 #include "controls/font_dialog.h"
 #include "controls/form.h"
+#include "controls/ordinary_pointer.h"
 #include "controls/program_end.h"
 #include "runtime/colour.h"
 
@@ -23,6 +24,7 @@ QWidget* owner() {
 /// Shows a dialog over the form that the user is in, also where that form lies on top of all.
 int run(QDialog& dialog) {
     dialog.setWindowFlag(Qt::WindowStaysOnTopHint);
+    const OrdinaryPointer pointer;
     const int result = dialog.exec();
     throwIfEnded();
     return result;

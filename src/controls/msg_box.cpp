@@ -3,6 +3,7 @@
 #include "controls/msg_box.h"
 
 #include "controls/form.h"
+#include "controls/ordinary_pointer.h"
 #include "controls/program_end.h"
 
 #include <QCloseEvent>
@@ -103,6 +104,7 @@ Answer QtMessageBoxes::MsgBox(const QString& text, int flags, const QString& tit
                                                                        : QMessageBox::Cancel);
     // Stickers may lie on top of everything, the question must not hide below them.
     box.setWindowFlag(Qt::WindowStaysOnTopHint);
+    const OrdinaryPointer pointer;
     const int button = box.exec();
     throwIfEnded();
     return answerOf(button);

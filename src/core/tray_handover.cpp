@@ -142,6 +142,8 @@ void TrayHandover::restore() {
 }
 
 void TrayHandover::unloadTrayForm() {
+    // A choice that was made twice before the first could be met must find nobody listening.
+    m_frmSysTray->disconnect(this);
     m_frmSysTray->unload();
     m_frmSysTray.reset();
 }

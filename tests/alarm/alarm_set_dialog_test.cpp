@@ -27,8 +27,10 @@ struct Dialog {
         Windows& windows = outside.program.windows;
         windows.registerMaker<AlarmSetDialog>(
             [this] { return std::make_unique<frmAlSet>(outside.program); });
-        windows.registerMaker<OptionsWindow>(
-            [builtInPlayer] { return std::make_unique<PlainOptions>(builtInPlayer); });
+        windows.registerMaker<OptionsWindow>([this, builtInPlayer] {
+            hourglassAtTheOptions = hourglass();
+            return std::make_unique<PlainOptions>(builtInPlayer);
+        });
     }
     Form& form() { return outside.program.windows.get<AlarmSetDialog>().form(); }
     bool isLoaded() const { return outside.program.windows.loaded<AlarmSetDialog>() != nullptr; }
@@ -52,9 +54,14 @@ struct Dialog {
     void cancel() { control<GGCommand>(u"imgCanc"_s)->setValue(true); }
     void media() { control<GGCommand>(u"imgMed"_s)->setValue(true); }
     SharedState& state() { return outside.program.state; }
+    static bool hourglass() {
+        const QCursor* pointer = QGuiApplication::overrideCursor();
+        return pointer != nullptr && pointer->shape() == Qt::WaitCursor;
+    }
     QByteArray msg() const { return outside.folder.read(u"Msg.txt"_s); }
 
     TestProgram outside;
+    bool hourglassAtTheOptions = false;
 };
 
 } // namespace
@@ -270,9 +277,20 @@ private slots:
         QCOMPARE(dialog.message()->Text(), QString());
     }
 
+    void aFileThatIsThereIsTaken_data() {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("length");
+        QTest::newRow("signs of a shell") << u"song of $(the) ;\"night\".mp3"_s << 0;
+        QTest::newRow("leading dash") << u"-rf"_s << 0;
+        QTest::newRow("4000 characters") << u"-a song.mp3"_s << 4000;
+    }
     void aFileThatIsThereIsTaken() {
+        QFETCH(QString, name);
+        QFETCH(int, length);
         Dialog dialog;
-        const QString file = dialog.outside.folder.write(u"song of $(the) ;night.mp3"_s, "x");
+        const TemporaryFolder& folder = dialog.outside.folder;
+        const QString file =
+            length == 0 ? folder.write(name, "x") : folder.writeFarDown(name, length);
         dialog.outside.dialogs.answerOpen(file);
         dialog.media();
         QCOMPARE(dialog.state().alarmMediaFile, file);
@@ -317,9 +335,32 @@ private slots:
         QCOMPARE(dialog.state().alarmMediaFile, file);
     }
 
-    void withTheBuiltInPlayerTheFileChoiceIsSkipped() {
+    void theHourglassIsUpAroundTheFileDialogAndTheArming() {
+        Dialog dialog;
+        bool up = false;
+        dialog.outside.dialogs.answerOpen(std::nullopt);
+        dialog.outside.dialogs.whileOpen = [&] { up = Dialog::hourglass(); };
+        bool upAtTheBox = false;
+        dialog.outside.boxes.answer(Answer::Ok);
+        dialog.outside.boxes.meanwhile([&] { upAtTheBox = Dialog::hourglass(); });
+        dialog.media();
+        QVERIFY(up);
+        QVERIFY(upAtTheBox);
+        QVERIFY(!Dialog::hourglass());
+
+        upAtTheBox = false;
+        dialog.hour()->lineEdit()->clear();
+        dialog.outside.boxes.answer(Answer::Ok);
+        dialog.outside.boxes.meanwhile([&] { upAtTheBox = Dialog::hourglass(); });
+        dialog.ok();
+        QVERIFY(upAtTheBox);
+        QVERIFY(!Dialog::hourglass());
+    }
+
+    void withTheBuiltInPlayerTheFileChoiceOnlyFlashesTheHourglass() {
         Dialog dialog(true);
         dialog.media();
+        QVERIFY(dialog.hourglassAtTheOptions);
         QVERIFY(dialog.outside.dialogs.opened.isEmpty());
         QVERIFY(dialog.outside.boxes.asked.isEmpty());
         QVERIFY(QGuiApplication::overrideCursor() == nullptr);

@@ -68,6 +68,7 @@ private slots:
     void savingOverAFileAsksNothingAndAddsNoExtension();
     void aFileThatIsNotThereCanBeOpened();
     void escapeInAFileDialogIsCancel();
+    void theHourglassStandsBackWhileADialogIsOpen();
     void theFontDialogOffersAllSevenThings();
     void aFamilyThatIsNotInstalledIsKept();
     void anUnreadableSizeIsTheOneThatWasGiven();
@@ -247,6 +248,17 @@ void CommonDialogTest::escapeInAFileDialogIsCancel() {
     whenOpen<QFileDialog>([](QFileDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
     QtDialogs dialogs;
     QVERIFY(!dialogs.openFile({}).has_value());
+}
+
+void CommonDialogTest::theHourglassStandsBackWhileADialogIsOpen() {
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    whenOpen<QFileDialog>([](QFileDialog& dialog) {
+        QVERIFY(QGuiApplication::overrideCursor() == nullptr);
+        dialog.reject();
+    });
+    QtDialogs().openFile({});
+    QVERIFY(QGuiApplication::overrideCursor() != nullptr);
+    QGuiApplication::restoreOverrideCursor();
 }
 
 void CommonDialogTest::theFontDialogOffersAllSevenThings() {

@@ -48,6 +48,7 @@ private slots:
     void aPressedButtonIsTheAnswer();
     void textIsNoMarkup();
     void timersGoOnWhileABoxIsOpen();
+    void theHourglassStandsBackWhileABoxIsOpen();
     void theCallerGoesNoFurtherWhenTheProgramEndsBehindTheBox();
 };
 
@@ -158,6 +159,18 @@ void MsgBoxTest::timersGoOnWhileABoxIsOpen() {
     timer.start(1);
     QtMessageBoxes().MsgBox(QStringLiteral("Words"));
     QVERIFY(ticks >= 3);
+}
+
+void MsgBoxTest::theHourglassStandsBackWhileABoxIsOpen() {
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    ask(0, [](QMessageBox& box) {
+        QVERIFY(QGuiApplication::overrideCursor() == nullptr);
+        box.accept();
+    });
+    QVERIFY(QGuiApplication::overrideCursor() != nullptr);
+    QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    QGuiApplication::restoreOverrideCursor();
+    QVERIFY(QGuiApplication::overrideCursor() == nullptr);
 }
 
 void MsgBoxTest::theCallerGoesNoFurtherWhenTheProgramEndsBehindTheBox() {

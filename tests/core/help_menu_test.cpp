@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QMenu>
+#include <QPushButton>
 #include <QTimer>
 
 using namespace orvalis;
@@ -153,8 +154,16 @@ private slots:
 
     void itIsModalAndTimersGoOn() {
         Menus menus;
-        QWidget behind;
+        QPushButton behind(u"Behind"_s);
         behind.show();
+        int clicks = 0;
+        QObject::connect(&behind, &QPushButton::clicked, [&] { ++clicks; });
+        // Through the window, as the desktop tells of a click, and not straight to the widget.
+        const auto clickBehind = [&] {
+            QTest::mouseClick(behind.windowHandle(), Qt::LeftButton, {}, behind.rect().center());
+        };
+        clickBehind();
+        QCOMPARE(clicks, 1);
         int ticks = 0;
         QTimer tick;
         tick.start(1);
@@ -162,10 +171,14 @@ private slots:
         menus.whileAboutIsOpen([&] {
             QCOMPARE(menus.about()->windowModality(), Qt::ApplicationModal);
             QCOMPARE(QApplication::activeModalWidget(), menus.about());
+            clickBehind();
+            QCOMPARE(clicks, 1);
             const int before = ticks;
             QTRY_VERIFY(ticks > before);
         });
         QVERIFY(QApplication::activeModalWidget() == nullptr);
+        clickBehind();
+        QCOMPARE(clicks, 2);
     }
 
     void escapeAndAClickCloseIt_data() {

@@ -165,6 +165,16 @@ private slots:
         QCOMPARE(options.stored(u"Reg"_s, u"Vreme"_s), u"4"_s);
     }
 
+    void theArrowKeysPassTheTwinEntries() {
+        Options options;
+        options.form().Show();
+        for (int down = 0; down < 6; ++down)
+            QTest::keyClick(options.list(), Qt::Key_Down);
+        QCOMPARE(options.list()->ListIndex(), 6);
+        options.ok();
+        QCOMPARE(options.stored(u"Reg"_s, u"Vreme"_s), u"6"_s);
+    }
+
     void cancelAfterAChangeLeavesTheClocksAsTheyWere() {
         Options options;
         const QString before = options.clock();

@@ -194,6 +194,16 @@ private slots:
         QCOMPARE(stage.icons.count(Call::Delete), 1);
     }
 
+    void aChoiceMadeTwiceIsMetOnce() {
+        Stage stage;
+        stage.window->miniClick();
+        stage.choose(u"Show Orvalis"_s);
+        stage.choose(u"Show Orvalis"_s);
+        QTRY_VERIFY(stage.window->isVisible());
+        QCoreApplication::processEvents();
+        QCOMPARE(stage.icons.count(Call::Delete), 1);
+    }
+
     void theWayToTheTrayCanBeGoneAgainAndAgain() {
         Stage stage;
         for (int round = 0; round < 3; ++round) {

@@ -28,6 +28,7 @@ private slots:
     void aMissingDocumentAndAnEmptyTextAreNotOpened();
     void theOpenerGetsOneArgumentWhateverItHolds_data();
     void theOpenerGetsOneArgumentWhateverItHolds();
+    void aPathOf4000CharactersIsOneArgument();
     void withoutAnOpenerOpeningFails();
     void openingDoesNotWaitForTheOpener();
     void theUsersScaleIsHandedOnAndNothingOfOurs();
@@ -133,6 +134,18 @@ void ShellTest::theOpenerGetsOneArgumentWhateverItHolds() {
     DesktopShell shell;
     QVERIFY(shell.open(text));
     QTRY_COMPARE(written(u"arguments"_s), "1|" + text.toUtf8());
+    QVERIFY(!QFile::exists(m_folder->file(u"x"_s)));
+}
+
+void ShellTest::aPathOf4000CharactersIsOneArgument() {
+    const QByteArray folder = m_folder->path().toLocal8Bit();
+    install(u"xdg-open"_s, "printf '%s|%s' $# \"$1\" > " + folder + "/new\n/bin/mv " + folder +
+                               "/new " + folder + "/arguments\n");
+    const QString document = m_folder->writeFarDown(u"-a song.mp3"_s, 4000);
+    QCOMPARE(document.size(), 4000);
+    DesktopShell shell;
+    QVERIFY(shell.open(document));
+    QTRY_COMPARE(written(u"arguments"_s), "1|" + document.toUtf8());
     QVERIFY(!QFile::exists(m_folder->file(u"x"_s)));
 }
 

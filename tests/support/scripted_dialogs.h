@@ -7,6 +7,8 @@
 #include <QList>
 #include <QTest>
 
+#include <functional>
+
 namespace orvalis::test {
 
 /// Answers file, font and colour dialogs from scripts, one for each kind, and records what was
@@ -37,6 +39,8 @@ public:
 
     std::optional<QString> openFile(const FileRequest& request) override {
         opened.append(request);
+        if (whileOpen)
+            whileOpen();
         return next(m_open, QStringLiteral("open dialog, filter ") + request.filter);
     }
     std::optional<QString> saveFile(const FileRequest& request) override {
@@ -57,6 +61,8 @@ public:
     QList<FileRequest> saved;
     QList<FontChoice> fonts;
     QList<quint32> colours;
+    /// Runs while an open dialog is up.
+    std::function<void()> whileOpen;
 
 private:
     static void fail(const QString& words) { QTest::qFail(qPrintable(words), __FILE__, __LINE__); }

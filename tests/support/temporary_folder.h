@@ -21,6 +21,22 @@ public:
             qFatal("the test's file could not be written");
         return target.fileName();
     }
+    /// An empty file so far down in folders of names that no shell would bear that its path has the
+    /// length given.
+    QString writeFarDown(const QString& name, qsizetype length) const {
+        const QString part = QStringLiteral("/a 'b' \"c\"; $(touch x) `touch x` -d");
+        QString folder = path();
+        while (folder.size() + 2 * part.size() + name.size() + 1 < length)
+            folder += part;
+        folder += u'/' + QString(length - folder.size() - name.size() - 2, u'n');
+        if (!QDir().mkpath(folder))
+            qFatal("the test's folders could not be made");
+        const QString written = folder + u'/' + name;
+        QFile target(written);
+        if (!target.open(QIODevice::WriteOnly))
+            qFatal("the test's file could not be written");
+        return written;
+    }
     QByteArray read(const QString& name) const {
         QFile source(file(name));
         return source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();

@@ -20,6 +20,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QTemporaryDir>
+#include <QWindow>
 
 #include <algorithm>
 #include <cstdio>
@@ -31,13 +32,24 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int Rounds = 21;
+constexpr int Patience = 5000; // milliseconds
 
 struct Times {
     double first;
     double median;
 };
 
-/// What the work takes until everything it showed is painted, and what undoes it in between.
+/// Whether every window that is to be seen, the icon in the tray too, stands on the screen.
+bool everythingIsSeen() {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::all_of(windows.begin(), windows.end(), [](const QWidget* window) {
+        return !window->isVisible() || window->testAttribute(Qt::WA_DontShowOnScreen) ||
+               (window->windowHandle() != nullptr && window->windowHandle()->isExposed());
+    });
+}
+
+/// What the work takes until everything it showed is seen and painted, and what undoes it in
+/// between.
 template <class Work, class Undo>
 Times milliseconds(Work&& work, Undo&& undo) {
     std::vector<double> times;
@@ -45,7 +57,9 @@ Times milliseconds(Work&& work, Undo&& undo) {
         QElapsedTimer timer;
         timer.start();
         work();
-        QApplication::processEvents();
+        do
+            QApplication::processEvents();
+        while (!everythingIsSeen() && timer.elapsed() < Patience);
         times.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
         undo();
         QApplication::processEvents();
@@ -56,9 +70,11 @@ Times milliseconds(Work&& work, Undo&& undo) {
     return {first, times[times.size() / 2]};
 }
 
-void tell(const char* what, const Times& times, double limit) {
+/// \returns whether both are below the limit.
+bool tell(const char* what, const Times& times, double limit) {
     std::printf("%-34s first %7.2f ms, median %7.2f ms (limit %.0f ms)\n", what, times.first,
                 times.median, limit);
+    return times.first < limit && times.median < limit;
 }
 
 } // namespace
@@ -99,6 +115,7 @@ int main(int argc, char** argv) {
     QApplication::processEvents();
 
     std::vector<std::unique_ptr<QWidget>> bare;
+    // What the library itself takes for a window of that size.
     tell("a bare window",
          milliseconds(
              [&] {
@@ -108,17 +125,17 @@ int main(int argc, char** argv) {
              },
              [&] { bare.clear(); }),
          50);
-    tell("Options",
-         milliseconds([&] { windows.get<OptionsWindow>().form().Show(); },
-                      [&] { windows.unload<OptionsWindow>(); }),
-         50);
-    tell("the alarm dialog",
-         milliseconds([&] { windows.get<AlarmSetDialog>().form().Show(); },
-                      [&] { windows.unload<AlarmSetDialog>(); }),
-         50);
-    tell("to the tray",
-         milliseconds([&] { windows.get<MainWindow>().Pocni(); },
-                      [&] { emit tray.mouse(TrayMouse::LeftDoubleClick); }),
-         100);
-    return 0;
+    bool good = tell("Options",
+                     milliseconds([&] { windows.get<OptionsWindow>().form().Show(); },
+                                  [&] { windows.unload<OptionsWindow>(); }),
+                     50);
+    good &= tell("the alarm dialog",
+                 milliseconds([&] { windows.get<AlarmSetDialog>().form().Show(); },
+                              [&] { windows.unload<AlarmSetDialog>(); }),
+                 50);
+    good &= tell("to the tray",
+                 milliseconds([&] { windows.get<MainWindow>().Pocni(); },
+                              [&] { emit tray.mouse(TrayMouse::LeftDoubleClick); }),
+                 100);
+    return good ? 0 : 1;
 }

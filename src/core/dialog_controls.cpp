@@ -3,7 +3,6 @@
 #include "core/dialog_controls.h"
 
 #include "core/button_look.h"
-#include "core/skin_picture.h"
 #include "skin/type.h"
 #include "widgets/gg_command.h"
 
@@ -15,9 +14,6 @@ namespace orvalis {
 namespace {
 
 constexpr int DialogPoints = 8;
-constexpr int PictureLeft = 1;
-constexpr int PictureDistance = 5;
-constexpr int CaptionDistance = 8;
 
 } // namespace
 
@@ -47,10 +43,7 @@ GGCommand* dialogButton(QWidget& parent, const QString& name, const QString& cap
     button->setGeometry(place);
     button->setCaption(caption);
     button->setFont(dialogFont());
-    button->setPicture(skinPicture(picture));
-    button->setPictureAlignment(PictureLeft);
-    button->setPictureXOffset(PictureDistance);
-    button->setCaptionXOffset(CaptionDistance);
+    wearPicture(*button, picture);
     wearLook(*button, skin::DialogButton);
     return button;
 }

@@ -8,6 +8,7 @@
 #include "core/program.h"
 #include "platform/registry.h"
 #include "runtime/app.h"
+#include "runtime/clock_text.h"
 #include "runtime/failure.h"
 #include "runtime/format.h"
 #include "widgets/gg_command.h"
@@ -133,6 +134,7 @@ void frmOptions::makeTimeFrame() {
     m_lstvreme = new ComboBox(u"lstvreme"_s, frame, ComboBox::Style::DropDownList);
     m_lstvreme->setGeometry(12, 19, 206, 23);
     m_lstvreme->setAccessibleName(frame->title());
+    m_lstvreme->setMaxVisibleItems(clockFormatCount);
     connect(m_lstvreme, &ComboBox::Click, this, &frmOptions::lstvremeClick);
 }
 

@@ -17,9 +17,17 @@ using namespace Qt::StringLiterals;
 constexpr int LeftButton = 1;
 constexpr int RightButton = 2;
 
+const QString SeparatorCaption = u"-"_s;
+
 void setCaption(QAction& entry, const QString& caption) {
-    entry.setSeparator(caption == u"-"_s);
-    entry.setText(caption);
+    const bool separates = caption == SeparatorCaption;
+    entry.setSeparator(separates);
+    // A separator that has a text would be drawn as a heading.
+    entry.setText(separates ? QString() : caption);
+}
+
+QString captionOf(const QAction& entry) {
+    return entry.isSeparator() ? SeparatorCaption : entry.text();
 }
 
 } // namespace
@@ -141,7 +149,7 @@ void frmSysTray::RemoveMenuItem(int index) {
     }
     for (int next = index + 1; next < m_mnuSysTray.size(); ++next) {
         QAction* before = m_mnuSysTray.at(next - 1);
-        setCaption(*before, m_mnuSysTray.at(next)->text());
+        setCaption(*before, captionOf(*m_mnuSysTray.at(next)));
         before->setData(m_mnuSysTray.at(next)->data());
     }
     delete m_mnuSysTray.takeLast();

@@ -145,6 +145,7 @@ private slots:
         QCOMPARE(tray.form->mnuSysTray(0)->objectName(), u"mnuSysTray(0)"_s);
         QCOMPARE(tray.form->mnuSysTray(1)->objectName(), u"mnuSysTray(1)"_s);
         QVERIFY(tray.form->mnuSysTray(1)->isSeparator());
+        QVERIFY2(tray.form->mnuSysTray(1)->text().isEmpty(), "a text would make it a heading");
     }
 
     void entriesAreSwitchedByTheirIndexAndOthersAreLeft() {
@@ -265,6 +266,7 @@ private slots:
         tray.tick.disarms = true;
         emit tray.form->findChild<AlignedTimer*>(u"Timer1"_s)->tick();
         QVERIFY(!tray.outside.program.state.alarmArmed);
+        QVERIFY2(tray.icons.entries().isEmpty(), "tip and icon stay until the pointer comes");
     }
 
     void aFailureOfTheTickLeavesTheHandler() {

@@ -37,6 +37,8 @@ constexpr int SideWidth = 230;
 constexpr int PageMargin = 18;
 constexpr int PagePoints = 10;
 constexpr int SidePoints = 9;
+/// Pictures of a page are drawn at twice the size that they are shown at.
+constexpr qreal DrawnRatio = 2;
 constexpr int AddressRole = Qt::UserRole;
 
 QUrl addressOf(const QString& page) {
@@ -101,6 +103,17 @@ void HelpPageView::go(const QString& page) {
     setSource(addressOf(page), QTextDocument::HtmlResource);
 }
 
+QImage HelpPageView::picture(const QByteArray& content) const {
+    const QImage drawn = QImage::fromData(content);
+    if (drawn.isNull())
+        return {};
+    const qreal ratio = devicePixelRatioF();
+    QImage shown = drawn.scaled((QSizeF(drawn.size()) * ratio / DrawnRatio).toSize(),
+                                Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    shown.setDevicePixelRatio(ratio);
+    return shown;
+}
+
 QVariant HelpPageView::loadResource(int type, const QUrl& name) {
     if (m_file == nullptr)
         return message(tr("The help cannot be shown"),
@@ -108,6 +121,8 @@ QVariant HelpPageView::loadResource(int type, const QUrl& name) {
     const QUrl address = name.isRelative() ? source().resolved(name) : name;
     const QByteArray content =
         address.scheme() == Scheme ? m_file->read(pageOf(address)) : QByteArray();
+    if (type == QTextDocument::ImageResource)
+        return picture(content);
     if (type != QTextDocument::HtmlResource)
         return content;
     if (content.isNull())

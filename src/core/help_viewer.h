@@ -35,6 +35,9 @@ public:
     QVariant loadResource(int type, const QUrl& name) override;
 
 private:
+    /// A picture of the file, made ready for the screen that the page is on.
+    QImage picture(const QByteArray& content) const;
+
     const ChmFile* m_file = nullptr;
 };
 

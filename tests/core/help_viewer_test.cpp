@@ -149,6 +149,56 @@ private slots:
             QVERIFY2(file->files().contains(topic.page), qPrintable(topic.name));
     }
 
+    void theWindowsThatAPageTellsOfArePicturedOnIt_data() {
+        QTest::addColumn<QString>("page");
+        for (const auto* page : {"main_window", "reminder", "stickers", "alarm", "tray", "options"})
+            QTest::newRow(page) << QString::fromLatin1(page) + u".html"_s;
+    }
+    void theWindowsThatAPageTellsOfArePicturedOnIt() {
+        QFETCH(QString, page);
+        const auto file = ChmFile::open(HelpFile);
+        const QList<Picture> pictures = picturesOf(*file, page);
+        QVERIFY(!pictures.isEmpty());
+        for (const Picture& picture : pictures) {
+            const QImage drawn = QImage::fromData(file->read(picture.name), "PNG");
+            QVERIFY2(!drawn.isNull(), qPrintable(picture.name));
+            QCOMPARE(picture.size * 2, drawn.size());
+            QVERIFY2(picture.words.size() > 10, "who cannot see it hears what it shows");
+        }
+    }
+
+    void everyPictureStandsOnAPage() {
+        const auto file = ChmFile::open(HelpFile);
+        QStringList shown;
+        for (const QString& page : file->files())
+            for (const Picture& picture : picturesOf(*file, page))
+                shown << picture.name;
+        for (const QString& name : file->files())
+            if (name.endsWith(u".png"_s))
+                QVERIFY2(shown.contains(name), qPrintable(name));
+    }
+
+    void thePicturesOfAPageComeFromTheFileAndFitThePage() {
+        Opened help;
+        const auto file = ChmFile::open(HelpFile);
+        for (const QString& page : file->files()) {
+            const QList<Picture> pictures = picturesOf(*file, page);
+            if (pictures.isEmpty())
+                continue;
+            help.page()->go(page);
+            for (const Picture& picture : pictures) {
+                const QUrl address = help.page()->source().resolved(QUrl(picture.name));
+                const auto shown = help.page()
+                                       ->document()
+                                       ->resource(QTextDocument::ImageResource, address)
+                                       .value<QImage>();
+                QVERIFY2(!shown.isNull(), qPrintable(picture.name));
+                QCOMPARE(shown.deviceIndependentSize().toSize(), picture.size);
+            }
+            QVERIFY2(help.page()->horizontalScrollBar()->maximum() == 0, qPrintable(page));
+        }
+    }
+
     void everyPageStandsInTheContents() {
         const auto file = ChmFile::open(HelpFile);
         QStringList listed;
@@ -237,6 +287,26 @@ private slots:
     }
 
 private:
+    struct Picture {
+        QString name;
+        QString words;
+        QSize size;
+    };
+    static QList<Picture> picturesOf(const ChmFile& file, const QString& page) {
+        static const QRegularExpression pictures(
+            uR"re(<img src="([^"]+)" width="(\d+)" height="(\d+)" alt="([^"]+)">)re"_s);
+        QList<Picture> found;
+        if (!page.endsWith(u".html"_s))
+            return found;
+        const QString html = QString::fromUtf8(file.read(page));
+        for (auto match = pictures.globalMatch(html); match.hasNext();) {
+            const auto picture = match.next();
+            found.append({picture.captured(1), picture.captured(4),
+                          QSize(picture.captured(2).toInt(), picture.captured(3).toInt())});
+        }
+        return found;
+    }
+
     static HelpViewer* viewerOnShow() {
         for (QWidget* widget : QApplication::topLevelWidgets())
             if (auto* viewer = qobject_cast<HelpViewer*>(widget); viewer && viewer->isVisible())

@@ -7,7 +7,9 @@
 
 #include <QElapsedTimer>
 #include <QGuiApplication>
+#include <QProcess>
 #include <QRandomGenerator>
+#include <QSet>
 #include <QTemporaryDir>
 #include <QtEndian>
 
@@ -35,6 +37,22 @@ private slots:
         QVERIFY(help->files().contains(u"manual.css"_s));
         for (const QString& file : help->files())
             QVERIFY2(!file.startsWith(u'#') && !file.startsWith(u'$'), qPrintable(file));
+    }
+
+    void anIndependentReaderListsTheSameFiles() {
+        QProcess reader;
+        reader.start(u"chmls"_s, {u"list"_s, HelpFile});
+        QVERIFY2(reader.waitForFinished(), "chmls comes with the compiler of the help");
+        QSet<QString> listed;
+        for (const QByteArray& line : reader.readAllStandardOutput().split('\n')) {
+            const QString name = QString::fromUtf8(line).section(u"  /"_s, 1).trimmed();
+            if (!name.isEmpty() && !name.startsWith(u'#') && !name.startsWith(u'$') &&
+                !name.startsWith(u'_'))
+                listed << name;
+        }
+        const QStringList own = ChmFile::open(HelpFile)->files();
+        QCOMPARE(listed, QSet<QString>(own.begin(), own.end()));
+        QVERIFY(listed.contains(u"main_window.png"_s));
     }
 
     void eachFileIsReadWhole() {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "driver/display.h"
 
+#include "driver/waiting.h"
+
 #include <QByteArray>
 
 #include <xcb/xcb.h>
@@ -49,6 +51,17 @@ bool Display::hasWindowManager() const {
                          0, 1),
         nullptr));
     return answer && xcb_get_property_value_length(answer.get()) > 0;
+}
+
+bool Display::showsWindows(int milliseconds) const {
+    const xcb_window_t window = xcb_generate_id(m_connection);
+    xcb_create_window(m_connection, XCB_COPY_FROM_PARENT, window, m_root, 0, 0, 1, 1, 0,
+                      XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
+    xcb_map_window(m_connection, window);
+    const bool seen = waitUntil([&] { return originOf(window).has_value(); }, milliseconds);
+    xcb_destroy_window(m_connection, window);
+    xcb_flush(m_connection);
+    return seen;
 }
 
 bool Display::hasTray() const {

@@ -24,6 +24,9 @@ public:
     bool open(const QString& name);
 
     bool hasWindowManager() const;
+    /// Brings up a small window, as a program does, and takes it away again. \returns whether it
+    /// could be seen within the time given.
+    bool showsWindows(int milliseconds) const;
     /// Whether a tray of icons is ready to take one.
     bool hasTray() const;
     /// Where a window's area begins, in device pixels of the whole desktop; nothing while it cannot

@@ -3,7 +3,6 @@
 #include "driver/stage.h"
 
 #include <QFile>
-#include <QThread>
 
 using namespace Qt::StringLiterals;
 
@@ -12,10 +11,6 @@ namespace orvalis::driver {
 namespace {
 constexpr int comesUpWithinMilliseconds = 20000;
 } // namespace
-
-void sleepMilliseconds(int milliseconds) {
-    QThread::msleep(static_cast<unsigned long>(milliseconds));
-}
 
 Stage::Stage(const Plan& plan)
     : m_environment(QProcessEnvironment::systemEnvironment()) {
@@ -80,9 +75,20 @@ bool Stage::startDisplay(QSize screen) {
 void Stage::startWindowManager() {
     // A window that comes before the window manager is taken over later: it vanishes, moves and
     // comes again under the pointer.
-    if (start(u"openbox"_s, {u"--sm-disable"_s}) &&
-        !waitUntil([this] { return m_display.hasWindowManager(); }, comesUpWithinMilliseconds))
+    if (!start(u"openbox"_s, {u"--sm-disable"_s}))
+        return;
+    if (!waitUntil([this] { return m_display.hasWindowManager(); }, comesUpWithinMilliseconds)) {
         m_trouble = u"openbox does not come up"_s;
+        return;
+    }
+    // What reaches it while it comes up it may leave lying until the next event: windows of our own
+    // go first, until one is shown.
+    constexpr int tries = 40;
+    constexpr int tryMilliseconds = 250;
+    for (int i = 0; i < tries; ++i)
+        if (m_display.showsWindows(tryMilliseconds))
+            return;
+    m_trouble = u"openbox shows no window"_s;
 }
 
 void Stage::startSessionBus() {

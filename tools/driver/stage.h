@@ -3,6 +3,7 @@
 #pragma once
 
 #include "driver/display.h"
+#include "driver/waiting.h"
 
 #include <QProcess>
 #include <QProcessEnvironment>
@@ -52,23 +53,5 @@ private:
     QProcess* m_tray = nullptr;
     QString m_trouble;
 };
-
-/// Waits until the condition holds, asking again every few milliseconds. \returns whether it held
-/// before the time was over.
-template <class Condition>
-bool waitUntil(Condition&& condition, int milliseconds);
-
-void sleepMilliseconds(int milliseconds);
-
-template <class Condition>
-bool waitUntil(Condition&& condition, int milliseconds) {
-    constexpr int step = 20;
-    for (int waited = 0; waited <= milliseconds; waited += step) {
-        if (condition())
-            return true;
-        sleepMilliseconds(step);
-    }
-    return condition();
-}
 
 } // namespace orvalis::driver

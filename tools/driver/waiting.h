@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace orvalis::driver {
+
+/// Waits until the condition holds, asking again every few milliseconds. \returns whether it held
+/// before the time was over.
+template <class Condition>
+bool waitUntil(Condition&& condition, int milliseconds);
+
+void sleepMilliseconds(int milliseconds);
+
+template <class Condition>
+bool waitUntil(Condition&& condition, int milliseconds) {
+    constexpr int step = 20;
+    for (int waited = 0; waited <= milliseconds; waited += step) {
+        if (condition())
+            return true;
+        sleepMilliseconds(step);
+    }
+    return condition();
+}
+
+} // namespace orvalis::driver

@@ -4,6 +4,7 @@
 
 #include "skin/type.h"
 
+#include <QFontDatabase>
 #include <QPainter>
 #include <QStyle>
 
@@ -19,11 +20,11 @@ ClockLabel::ClockLabel(const QString& name, QWidget* parent)
     : Label(name, {}, parent) {}
 
 void ClockLabel::useClockFont() {
-    if (font().family() == QLatin1String("Digital SF"))
-        return;
-    QFont arial = skin::font(font().pointSize());
-    arial.setBold(font().bold());
-    setFont(arial);
+    const QString clockFamily = QStringLiteral("Digital SF");
+    QFont clockFont = skin::font(font().pointSize(), font().bold());
+    if (QFontDatabase::hasFamily(clockFamily))
+        clockFont.setFamilies(QStringList{clockFamily} + clockFont.families());
+    setFont(clockFont);
 }
 
 void ClockLabel::paintEvent(QPaintEvent*) {

@@ -13,7 +13,8 @@ class ClockLabel final : public Label {
 public:
     ClockLabel(const QString& name, QWidget* parent);
 
-    /// Sets the font's family to "Arial" unless the clock font "Digital SF" is in use.
+    /// Takes the clock font "Digital SF" where the machine has it, and otherwise Arial, in the size
+    /// and weight that the label has.
     void useClockFont();
 
 protected:

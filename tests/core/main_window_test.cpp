@@ -8,9 +8,34 @@
 #include "support/test_main.h"
 #include "support/test_program.h"
 
+#include <QDirIterator>
+#include <QFontDatabase>
+
 using namespace orvalis;
 using namespace orvalis::test;
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A font file whose family is the clock font's: an ordinary one under another name.
+QByteArray clockFontFile() {
+    QDirIterator files(u"/usr/share/fonts"_s, {u"LiberationSans-Regular.ttf"_s}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    QFile file(files.next());
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    const auto twoBytesEach = [](const QByteArray& text) {
+        QByteArray wide;
+        for (const char c : text)
+            wide.append('\0').append(c);
+        return wide;
+    };
+    const QByteArray family = "Liberation Sans";
+    const QByteArray clock = QByteArray("Digital SF").leftJustified(family.size());
+    return file.readAll().replace(family, clock).replace(twoBytesEach(family), twoBytesEach(clock));
+}
+
+} // namespace
 
 class MainWindowTest : public QObject {
     Q_OBJECT
@@ -23,7 +48,9 @@ private slots:
     void thePanelHasTheSameCentreAsTheWindow();
     void theWindowIsDrawnAtItsDesignSize();
     void theClockFontIsArialsStandInAtSixteenPointsBeforeTheScreensFactor();
-    void aClockFontThatTheMachineHasStays();
+    void aClockFontThatTheMachineHasIsUsed();
+    void aClockFontThatTheMachineLacksIsReplaced();
+    void theAlarmsImagesKeepTheirSizeAndMove();
     void aWiderScreenGivesSmallerPointSizes();
     void theLabelWithoutBehaviourIsThere();
     void openingPicturesTellTheirPanelsToThoseWhoCannotSeeThem();
@@ -145,15 +172,39 @@ void MainWindowTest::theClockFontIsArialsStandInAtSixteenPointsBeforeTheScreensF
     QVERIFY(font.families().contains(u"Arial"_s));
 }
 
-void MainWindowTest::aClockFontThatTheMachineHasStays() {
+void MainWindowTest::aClockFontThatTheMachineHasIsUsed() {
+    const int font = QFontDatabase::addApplicationFontFromData(clockFontFile());
+    QVERIFY(QFontDatabase::hasFamily(u"Digital SF"_s));
+    const QFont used = window().findChild<ClockLabel*>(u"lblVreme"_s)->font();
+    const QString drawnWith = QFontInfo(used).family();
+    QVERIFY(QFontDatabase::removeApplicationFont(font));
+    QCOMPARE(drawnWith, u"Digital SF"_s);
+    QCOMPARE(used.pointSize(), 16);
+}
+
+void MainWindowTest::aClockFontThatTheMachineLacksIsReplaced() {
     ClockLabel label(u"lblVreme"_s, nullptr);
-    label.setFont(QFont(u"Digital SF"_s, 12));
+    label.setFont(QFont(u"Digital SF"_s, 12, QFont::Bold));
     label.useClockFont();
-    QCOMPARE(label.font().family(), u"Digital SF"_s);
-    label.setFont(QFont(u"Courier New"_s, 12));
-    label.useClockFont();
-    QVERIFY(label.font().families().contains(u"Arial"_s));
+    QCOMPARE(label.font().families().constFirst(), u"Arial"_s);
     QCOMPARE(label.font().pointSize(), 12);
+    QVERIFY(label.font().bold());
+}
+
+void MainWindowTest::theAlarmsImagesKeepTheirSizeAndMove() {
+    // A background half as wide again as the design moves everything and makes it larger, but for
+    // the two pictures beside the clock.
+    frmnotes main(m_test->program);
+    main.findChild<Image*>(u"Image5"_s)->resize(480, 725);
+    main.load();
+    const ChromeLayout& design = chromeLayout(ChromeKind::Main);
+    for (const auto& [name, place] :
+         {std::pair(u"imgSet"_s, design.set), std::pair(u"imgStop"_s, design.stop)}) {
+        const QRect now = main.findChild<Image*>(name)->geometry();
+        QCOMPARE(now.size(), place.size());
+        QCOMPARE(now.topLeft(), place.topLeft() * 1.5);
+    }
+    QCOMPARE(main.findChild<Image*>(u"imgMini"_s)->size(), design.mini.size() * 1.5);
 }
 
 void MainWindowTest::aWiderScreenGivesSmallerPointSizes() {

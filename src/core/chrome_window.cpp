@@ -94,6 +94,9 @@ void ChromeWindow::makeTriple(Triple& triple, const QString& name, const QString
     triple.shown->setPicture(triple.normal->Picture());
     triple.shown->setToolTip(toolTip);
     connect(triple.shown, &Image::MouseMove, this, [this, &triple] { hover(triple); });
+    // A quick pointer goes from the button straight to another control or out of the window, over
+    // no point of the form.
+    connect(triple.shown, &Image::MouseExit, this, &ChromeWindow::HoverReset);
 }
 
 void ChromeWindow::makeClock() {
@@ -182,12 +185,6 @@ void ChromeWindow::mousePressEvent(QMouseEvent* event) {
 }
 
 void ChromeWindow::mouseMoveEvent(QMouseEvent*) {
-    HoverReset();
-}
-
-void ChromeWindow::leaveEvent(QEvent* event) {
-    Form::leaveEvent(event);
-    // A quick pointer leaves the window straight from a button, over no point of the form.
     HoverReset();
 }
 

@@ -199,6 +199,7 @@ private:
     /// Lays the button out and paints face and edge anew, in the look that it has.
     void repaintLook();
     void applyBorder3DStyle();
+    void takeMousePointer(qint16 pointer);
     QFont lookFont(bool hoverLook) const;
     void nameForAssistivePrograms();
 

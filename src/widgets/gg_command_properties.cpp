@@ -202,13 +202,17 @@ void GGCommand::setGradientInverseOnPress(bool inverse) {
 }
 
 void GGCommand::setMousePointer(qint16 pointer) {
+    takeMousePointer(pointer);
+    mark(u"MousePointer"_s);
+}
+
+void GGCommand::takeMousePointer(qint16 pointer) {
     m_mousePointer = pointer;
     if (pointer == 0) {
         unsetCursor();
     } else {
         setCursor(cursorOf(pointer));
     }
-    mark(u"MousePointer"_s);
 }
 
 void GGCommand::setEnabled(bool enabled) {
@@ -292,7 +296,7 @@ void GGCommand::ReadProperties(const PropertyBag& bag) {
     m_gradientFromColor = colour(u"GradientFromColor"_s, highlight3DColour);
     m_gradientToColor = colour(u"GradientToColor"_s, buttonShadowColour);
     m_gradientInverseOnPress = flag(u"GradientInverseOnPress"_s, true);
-    setMousePointer(bag.ReadProperty(u"MousePointer"_s, 0).value<qint16>());
+    takeMousePointer(bag.ReadProperty(u"MousePointer"_s, 0).value<qint16>());
     QWidget::setEnabled(flag(u"Enabled"_s, true));
     nameForAssistivePrograms();
     repaintLook();

@@ -67,7 +67,7 @@ private slots:
     void movingFromExitStraightToMiniGivesExitItsNormalPictureBack();
     void theBellsLookDifferentUnderThePointer();
     void movingOverTheFormGivesNormalPicturesBack();
-    void leavingTheWindowGivesNormalPicturesBack();
+    void leavingAnImageButtonForAnythingGivesItsNormalPictureBack();
     void toolTipsAreThoseOfTheTable();
     void helpPopsUpTheHelpMenuOnTheLeftPressAlone();
 
@@ -252,11 +252,14 @@ void ChromeWindowTest::movingOverTheFormGivesNormalPicturesBack() {
     }
 }
 
-void ChromeWindowTest::leavingTheWindowGivesNormalPicturesBack() {
+void ChromeWindowTest::leavingAnImageButtonForAnythingGivesItsNormalPictureBack() {
     ChromeWindow& main = show(ChromeKind::Main);
-    Pointer(*image(main, u"imgExit"_s)).move({5, 5});
-    Pointer(main).leave();
-    QVERIFY(image(main, u"imgExit"_s)->Picture() == image(main, u"imgExitb"_s)->Picture());
+    for (const QString& name : {u"imgMini"_s, u"imgExit"_s, u"imgHelp"_s}) {
+        Pointer pointer(*image(main, name));
+        pointer.move({5, 5});
+        pointer.leave();
+        QVERIFY(image(main, name)->Picture() == image(main, name + u'b')->Picture());
+    }
 }
 
 void ChromeWindowTest::toolTipsAreThoseOfTheTable() {

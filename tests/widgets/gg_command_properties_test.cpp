@@ -162,6 +162,7 @@ private slots:
     void aStoredButtonComesBackWhole();
     void aButtonComesBackThroughAStream();
     void anEmptyBagGivesTheDefaults();
+    void readingMarksNothingForStoring();
     void anEmptyCaptionIsStored();
     void whatIsNotPersistedIsNotStored();
     void settingAPropertyMarksItForStoring_data();
@@ -305,6 +306,17 @@ void GGCommandPropertiesTest::anEmptyBagGivesTheDefaults() {
     compareAllDefaults(button);
     QCOMPARE(button.Caption(), u"imgOK"_s);
     QCOMPARE(button.Font().pointSize(), QApplication::font().pointSize());
+}
+
+void GGCommandPropertiesTest::readingMarksNothingForStoring() {
+    GGCommand changed;
+    changeAll(changed);
+    PropertyBag bag;
+    changed.WriteProperties(bag);
+    GGCommand button;
+    const QSignalSpy marked(&button, &GGCommand::PropertyChanged);
+    button.ReadProperties(bag);
+    QCOMPARE(marked.count(), 0);
 }
 
 void GGCommandPropertiesTest::anEmptyCaptionIsStored() {

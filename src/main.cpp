@@ -30,6 +30,7 @@
 #include "skin/style.h"
 #include "stickers/stickers.h"
 
+#include <QEvent>
 #include <QIcon>
 #include <QTimer>
 
@@ -55,12 +56,27 @@ void registerWindows(Program& program, bool previousInstance, HelpDisplay& help)
 }
 
 /// Each window that is made has the icon drawn in several sizes. The first one need not wait for
-/// that: the icon is given to the windows once they have been painted.
-void postponeIcon() {
-    const QIcon icon = Application::windowIcon();
-    Application::setWindowIcon({});
-    QTimer::singleShot(100, qApp, [icon] { Application::setWindowIcon(icon); });
-}
+/// that: the windows are given the icon a moment after one of them was painted, however long that
+/// took.
+class LateIcon final : public QObject {
+public:
+    explicit LateIcon(Application& application)
+        : m_icon(Application::windowIcon()) {
+        Application::setWindowIcon({});
+        application.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            qApp->removeEventFilter(this);
+            QTimer::singleShot(100, this, [this] { Application::setWindowIcon(m_icon); });
+        }
+        return false;
+    }
+
+private:
+    QIcon m_icon;
+};
 
 } // namespace
 
@@ -71,7 +87,7 @@ int main(int argc, char** argv) {
     Application::setApplicationName(QStringLiteral("orvalis"));
     Application::setDesktopFileName(QStringLiteral("orvalis"));
     skin::dress(application);
-    postponeIcon();
+    const LateIcon icon(application);
 
     const App app = App::ofThisProcess();
     const SingleInstance instance(app.Path());

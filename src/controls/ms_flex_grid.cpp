@@ -104,6 +104,9 @@ bool isCommand(const QKeyEvent& event) {
 
 MSFlexGrid::MSFlexGrid(QWidget* parent)
     : QTableView(parent) {
+    // First of all: a header that shows is measured, in a font that nothing else asks for.
+    horizontalHeader()->hide();
+    verticalHeader()->hide();
     setModel(&m_grid);
     setItemDelegate(new CellPainter(this));
     setEditTriggers(NoEditTriggers);
@@ -114,7 +117,6 @@ MSFlexGrid::MSFlexGrid(QWidget* parent)
     setContextMenuPolicy(Qt::PreventContextMenu);
     setHorizontalScrollMode(ScrollPerPixel);
     for (QHeaderView* header : {horizontalHeader(), verticalHeader()}) {
-        header->hide();
         header->setMinimumSectionSize(1);
         header->setSectionResizeMode(QHeaderView::Fixed);
     }

@@ -5,7 +5,6 @@
 #include "controls/image.h"
 #include "controls/label.h"
 #include "controls/message_boxes.h"
-#include "controls/mouse_numbers.h"
 #include "controls/window_drag.h"
 #include "core/clock_label.h"
 #include "core/program.h"
@@ -16,8 +15,6 @@
 #include "runtime/clock_text.h"
 #include "runtime/failure.h"
 #include "runtime/format.h"
-#include "skin/palette.h"
-#include "skin/type.h"
 
 #include <QMouseEvent>
 
@@ -28,12 +25,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int LeftButton = 1;
-
-void setInk(QWidget* label, QRgb ink) {
-    QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, QColor(ink));
-    label->setPalette(palette);
-}
 
 } // namespace
 
@@ -76,100 +67,6 @@ ChromeWindow::ChromeWindow(Program& program, const ChromeRow& row)
 }
 
 ChromeWindow::~ChromeWindow() = default;
-
-void ChromeWindow::makeTriple(Triple& triple, const QString& name, const QString& picture,
-                              const QString& toolTip, const QRect& place) {
-    const auto make = [&](const QString& suffix, const QString& pictureName) {
-        auto* image = new Image(name + suffix, this);
-        image->setGeometry(place);
-        image->setPicture(skinPicture(pictureName));
-        return image;
-    };
-    triple.normal = make(u"b"_s, picture);
-    triple.normal->hide();
-    triple.hover = make(u"a"_s, picture + u"_hover"_s);
-    triple.hover->hide();
-    triple.shown = new Image(name, this);
-    triple.shown->setGeometry(place);
-    triple.shown->setPicture(triple.normal->Picture());
-    triple.shown->setToolTip(toolTip);
-    connect(triple.shown, &Image::MouseMove, this, [this, &triple] { hover(triple); });
-    // A quick pointer goes from the button straight to another control or out of the window, over
-    // no point of the form.
-    connect(triple.shown, &Image::MouseExit, this, &ChromeWindow::HoverReset);
-}
-
-void ChromeWindow::makeClock() {
-    const ChromeLayout& layout = chromeLayout(m_row.kind);
-    lblVreme = new ClockLabel(u"lblVreme"_s, this);
-    lblVreme->setGeometry(layout.clock);
-    lblVreme->setAlignment(layout.clockAlignment);
-    lblVreme->setFont(skin::font(16));
-    setInk(lblVreme, skin::colour::GlassText);
-    connect(lblVreme, &Label::MouseMove, this, &ChromeWindow::showDateInClock);
-    m_clockTimer = new AlignedTimer(m_program.services.clock, this, m_row.clockInterval);
-    m_clockTimer->setObjectName(m_row.clockTimer);
-    connect(m_clockTimer, &AlignedTimer::tick, this, &ChromeWindow::updateClock);
-}
-
-void ChromeWindow::makeAlarmDisplay() {
-    const ChromeLayout& layout = chromeLayout(m_row.kind);
-    lblAlarm = new Label(u"lblAlarm"_s, {}, this);
-    lblAlarm->setGeometry(layout.alarm);
-    lblAlarm->setAlignment(layout.alarmAlignment);
-    lblAlarm->setFont(skin::font(10));
-    setInk(lblAlarm, skin::colour::GlassAlarm);
-    connect(lblAlarm, &Label::Change, this, &ChromeWindow::alarmCaptionChanged);
-
-    imgSet = new Image(u"imgSet"_s, this);
-    imgSet->setGeometry(layout.set);
-    imgSet->setPicture(skinPicture(layout.setPicture));
-    imgSet->setHoverPicture(skinPicture(layout.setPicture + u"_hover"_s));
-    imgSet->setToolTip(m_row.setToolTip);
-    connect(imgSet, &Image::Click, this, [this] {
-        if (m_program.windows.knows<AlarmSetDialog>())
-            m_program.windows.get<AlarmSetDialog>().form().Show();
-    });
-
-    imgStop = new Image(u"imgStop"_s, this);
-    imgStop->setGeometry(layout.stop);
-    imgStop->setPicture(skinPicture(layout.stopPicture));
-    imgStop->setHoverPicture(skinPicture(layout.stopPicture + u"_hover"_s));
-    imgStop->setToolTip(u" STOP "_s);
-    imgStop->hide();
-    connect(imgStop, &Image::Click, this, &ChromeWindow::stopClick);
-}
-
-void ChromeWindow::makePanelLabels() {
-    if (m_row.title.isEmpty())
-        return;
-    lblRem = new Label(u"lblRem"_s, m_row.title, this);
-    lblRem->setGeometry(24, 14, 118, 22);
-    lblRem->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    QFont titleFont = skin::font(11, true);
-    titleFont.setLetterSpacing(QFont::AbsoluteSpacing, 2);
-    lblRem->setFont(titleFont);
-    lblRem->setAttribute(Qt::WA_TransparentForMouseEvents);
-    setInk(lblRem, skin::colour::TitleInk);
-
-    static constexpr std::array<QRect, 3> places{QRect(146, 14, 70, 22), QRect(218, 14, 70, 22),
-                                                 QRect(290, 14, 72, 22)};
-    for (std::size_t i = 0; i < m_row.labels.size(); ++i) {
-        const PanelLabel& entry = m_row.labels.at(i);
-        auto* label = new Label(entry.name, entry.caption, this);
-        label->setGeometry(places.at(i));
-        label->setAlignment(Qt::AlignCenter);
-        label->setFont(skin::font(10));
-        label->setCursor(Qt::PointingHandCursor);
-        setInk(label, skin::colour::LabelInk);
-        const auto lead = [this, target = entry.target] { openPanel(target); };
-        if (m_row.labelEvent == LabelEvent::MouseDown)
-            connect(label, &Label::MouseDown, this, lead);
-        else
-            connect(label, &Label::Click, this, lead);
-        panelLabels.at(i) = label;
-    }
-}
 
 void ChromeWindow::behaveAsBackground(Image* picture) {
     connect(picture, &Image::MouseMove, this, &ChromeWindow::HoverReset);

@@ -111,6 +111,9 @@ void ChromeWindow::makePanelLabels() {
         label->setFont(skin::font(10));
         label->setCursor(Qt::PointingHandCursor);
         setInk(label, skin::colour::LabelInk);
+        connect(label, &Label::MouseEnter, label, [label] { setInk(label, skin::colour::Teal); });
+        connect(label, &Label::MouseExit, label,
+                [label] { setInk(label, skin::colour::LabelInk); });
         const auto lead = [this, target = entry.target] { openPanel(target); };
         if (m_row.labelEvent == LabelEvent::MouseDown)
             connect(label, &Label::MouseDown, this, lead);

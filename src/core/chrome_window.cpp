@@ -118,6 +118,8 @@ void ChromeWindow::showEvent(QShowEvent* event) {
 
 void ChromeWindow::hideEvent(QHideEvent* event) {
     m_clockTimer->stop();
+    // The pointer is elsewhere when the window comes back.
+    HoverReset();
     Form::hideEvent(event);
 }
 

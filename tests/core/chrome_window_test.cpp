@@ -68,6 +68,7 @@ private slots:
     void theBellsLookDifferentUnderThePointer();
     void movingOverTheFormGivesNormalPicturesBack();
     void leavingAnImageButtonForAnythingGivesItsNormalPictureBack();
+    void hidingTheWindowGivesNormalPicturesBack();
     void toolTipsAreThoseOfTheTable();
     void helpPopsUpTheHelpMenuOnTheLeftPressAlone();
 
@@ -103,6 +104,7 @@ private slots:
 
     // Panel labels.
     void panelLabelsCarryTheNamesOfTheirTargets();
+    void aPanelLabelTellsThatThePointerIsOnIt();
     void aPanelLabelLeadsToItsTarget_data();
     void aPanelLabelLeadsToItsTarget();
     void theReminderPanelsLabelsAnswerThePressOfAnyButton();
@@ -259,6 +261,15 @@ void ChromeWindowTest::leavingAnImageButtonForAnythingGivesItsNormalPictureBack(
         pointer.move({5, 5});
         pointer.leave();
         QVERIFY(image(main, name)->Picture() == image(main, name + u'b')->Picture());
+    }
+}
+
+void ChromeWindowTest::hidingTheWindowGivesNormalPicturesBack() {
+    for (const ChromeKind kind : AllKinds) {
+        ChromeWindow& shown = show(kind);
+        Pointer(*image(shown, u"imgMini"_s)).move({5, 5});
+        shown.Hide();
+        QVERIFY(image(shown, u"imgMini"_s)->Picture() == image(shown, u"imgMinib"_s)->Picture());
     }
 }
 
@@ -587,6 +598,19 @@ void ChromeWindowTest::panelLabelsCarryTheNamesOfTheirTargets() {
         QCOMPARE(shown, row.value());
     }
     QVERIFY(label(window(ChromeKind::Main), u"lblNot"_s) == nullptr);
+}
+
+void ChromeWindowTest::aPanelLabelTellsThatThePointerIsOnIt() {
+    ChromeWindow& panel = show(ChromeKind::Reminder);
+    for (const QString& name : {u"lblNot"_s, u"lblAdd"_s, u"lblPass"_s}) {
+        Label* way = label(panel, name);
+        const QColor atRest = way->palette().color(QPalette::WindowText);
+        Pointer pointer(*way);
+        pointer.enter();
+        QVERIFY(way->palette().color(QPalette::WindowText) != atRest);
+        pointer.leave();
+        QCOMPARE(way->palette().color(QPalette::WindowText), atRest);
+    }
 }
 
 void ChromeWindowTest::aPanelLabelLeadsToItsTarget_data() {

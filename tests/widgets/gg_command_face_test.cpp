@@ -3,6 +3,7 @@
 #include "widgets/gg_command.h"
 
 #include "controls/image.h"
+#include "support/plain_pictures.h"
 #include "support/pointer_events.h"
 #include "support/test_main.h"
 
@@ -15,6 +16,7 @@
 using namespace orvalis;
 using namespace Qt::StringLiterals;
 using orvalis::test::Pointer;
+using orvalis::test::square;
 
 namespace {
 
@@ -98,12 +100,6 @@ QRect extentOf(const QImage& image, QRgb colour) {
         }
     }
     return extent;
-}
-
-PictureSource square(int side, const QColor& colour) {
-    QPixmap pixmap(side, side);
-    pixmap.fill(colour);
-    return pixmap;
 }
 
 /// The text of a button drawn by itself in the place given, in black on white.

@@ -3,6 +3,7 @@
 #include "widgets/gg_command.h"
 
 #include "controls/image.h"
+#include "support/plain_pictures.h"
 #include "support/pointer_events.h"
 #include "support/test_main.h"
 
@@ -19,6 +20,7 @@
 using namespace orvalis;
 using namespace Qt::StringLiterals;
 using orvalis::test::Pointer;
+using orvalis::test::square;
 
 namespace {
 
@@ -49,12 +51,6 @@ public:
 private:
     QStringList m_lines;
 };
-
-PictureSource square(int side) {
-    QPixmap pixmap(side, side);
-    pixmap.fill(Qt::green);
-    return pixmap;
-}
 
 } // namespace
 

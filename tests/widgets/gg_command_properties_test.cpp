@@ -3,6 +3,7 @@
 #include "widgets/gg_command.h"
 
 #include "controls/image.h"
+#include "support/plain_pictures.h"
 #include "support/pointer_events.h"
 #include "support/test_main.h"
 #include "widgets/property_bag.h"
@@ -16,17 +17,12 @@
 using namespace orvalis;
 using namespace Qt::StringLiterals;
 using orvalis::test::Pointer;
+using orvalis::test::square;
 
 using Setter = std::function<void(GGCommand&)>;
 Q_DECLARE_METATYPE(Setter)
 
 namespace {
-
-PictureSource square(int side) {
-    QPixmap pixmap(side, side);
-    pixmap.fill(Qt::green);
-    return pixmap;
-}
 
 /// Counts how often a widget is painted.
 class PaintCounter : public QObject {

@@ -36,8 +36,8 @@ namespace {
 /// The program with its real windows, and the folder that its pictures go to.
 class Studio {
 public:
-    explicit Studio(QDir folder)
-        : m_folder(std::move(folder)) {
+    explicit Studio(const QDir& folder)
+        : m_folder(folder) {
         m_outside.screen.screenSize = QSize(900, 600);
         Program& program = m_outside.program;
         program.stickers = &m_stickers;

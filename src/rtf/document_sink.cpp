@@ -8,6 +8,8 @@
 #include <QTextBlock>
 #include <QTextDocument>
 
+#include <algorithm>
+
 namespace orvalis::rtf {
 
 namespace {
@@ -24,6 +26,16 @@ constexpr int bytesOfPixel = 4;
 constexpr qint64 structureShare = 20;
 constexpr qint64 pixelShare = 8;
 constexpr qint64 ground = qint64(24) << 20;
+
+// A document searches all formats that differ only in their family, or in their tab stops, for each
+// run and paragraph that it takes. So many are searched before it is felt; each further one costs
+// the time in which so many bytes are filled.
+constexpr qint64 formatsSearchedAtOnce = 64;
+constexpr qint64 bytesOfSearch = 4;
+
+qint64 searchAmong(qint64 formats) {
+    return std::max<qint64>(formats - formatsSearchedAtOnce, 0) * bytesOfSearch;
+}
 
 constexpr qint64 mostPixelsOfOne = qint64(1) << 23;
 constexpr size_t mostFormats = 16384;
@@ -60,6 +72,7 @@ int DocumentSink::formatIndex(const CharFormat& format) {
         m_lastIndex = *found;
     } else if (m_formats.size() < mostFormats) {
         spend(bytesOfFormat);
+        m_families.insert(format.family);
         m_formats.push_back(textFormat(format, *m_names));
         // A file that names no font means that of whoever shows it.
         if (format.family == noName)
@@ -77,7 +90,7 @@ void DocumentSink::text(QStringView text, const CharFormat& format) {
         m_runs.back().length += text.size();
         return;
     }
-    spend(bytesOfRun);
+    spend(bytesOfRun + searchAmong(m_families.size()));
     m_runs.push_back(Run{text.size(), index});
 }
 
@@ -100,11 +113,21 @@ bool DocumentSink::picture(const Picture& picture, const CharFormat& format) {
 }
 
 void DocumentSink::paragraphEnd(const ParagraphFormat& paragraph, const CharFormat& mark) {
-    if (!spend(bytesOfParagraph)) {
+    countTabs(paragraph);
+    if (!spend(bytesOfParagraph + searchAmong(m_families.size()) + searchAmong(m_tabRows.size()))) {
         text(QStringView(u"\u2028"), mark);
         return;
     }
     insertParagraph(paragraph, mark);
+}
+
+void DocumentSink::countTabs(const ParagraphFormat& paragraph) {
+    if (paragraph.tabs.isEmpty() || (m_hasBlockFormat && paragraph.tabs == m_paragraph.tabs))
+        return;
+    size_t hash = 0;
+    for (const TabStop& tab : paragraph.tabs)
+        hash = qHashMulti(hash, tab.position, int(tab.type));
+    m_tabRows.insert(hash);
 }
 
 void DocumentSink::end(const ParagraphFormat& paragraph, const CharFormat& mark) {
@@ -172,7 +195,8 @@ void DocumentSink::joinList(const ParagraphFormat& paragraph) {
         member.setObjectIndex(list->objectIndex());
         m_cursor.mergeBlockFormat(member);
     } else if (spend(bytesOfList)) {
-        m_lists.began(paragraph, m_cursor.createList(listFormat(label, paragraph.left)));
+        m_lists.began(paragraph,
+                      m_cursor.createList(listFormat(m_lists.newLabel(), paragraph.left)));
     }
 }
 

@@ -6,6 +6,7 @@
 #include "rtf/reader.h"
 #include "rtf/sink.h"
 
+#include <QSet>
 #include <QTextCursor>
 #include <QTextImageFormat>
 
@@ -16,8 +17,8 @@ namespace orvalis::rtf {
 /// Writes what it is told at a cursor of a text document.
 ///
 /// A paragraph is kept until its shape is known, so that each takes one insertion a run. Small
-/// pieces cost a document much more than the bytes that name them; when they have cost what the
-/// size of the file allows, the rest comes in as text alone, its paragraphs as lines.
+/// pieces cost a document much more memory and time than the bytes that name them; when they have
+/// cost what the size of the file allows, the rest comes in as text alone, its paragraphs as lines.
 class DocumentSink final : public Sink {
 public:
     /// \param fileSize bytes of the file, by which the memory that is spent is bounded.
@@ -47,6 +48,7 @@ private:
     void insertRuns();
     void joinList(const ParagraphFormat& paragraph);
     bool spend(qint64 bytes);
+    void countTabs(const ParagraphFormat& paragraph);
 
     QTextCursor& m_cursor;
     ReadOptions m_options;
@@ -59,6 +61,8 @@ private:
     QHash<CharFormat, int> m_formatIndex;
     CharFormat m_lastFormat;
     int m_lastIndex = noName;
+    QSet<int> m_families;
+    QSet<size_t> m_tabRows; ///< hashes of the tab stops of paragraphs
 
     QString m_text;
     std::vector<Run> m_runs;

@@ -6,6 +6,12 @@ namespace orvalis::rtf {
 
 namespace {
 
+constexpr int mostItems = 256;
+// Where numbers go on in a further list they begin at 1 on the screen, so the lists of a document
+// that people wrote are left whole.
+constexpr int mostNumbers = 2048;
+constexpr int membersOfRealDocuments = 4 * mostNumbers;
+
 bool sameLabel(const ListLabel& a, const ListLabel& b) {
     return a.kind == b.kind && a.identity == b.identity && a.level == b.level &&
            a.prefix == b.prefix && a.suffix == b.suffix;
@@ -48,6 +54,11 @@ bool ListKeeper::goesOn(const Entry& entry, const ParagraphFormat& item, bool ad
     return sameShape || numberFollows(label, entry.label, entry.items);
 }
 
+bool ListKeeper::isFull(const Entry& entry) const {
+    const bool whole = entry.label.kind != ListKind::Bullet && m_members < membersOfRealDocuments;
+    return entry.items >= (whole ? mostNumbers : mostItems);
+}
+
 QTextList* ListKeeper::goOn(const ParagraphFormat& item) {
     const ListLabel& label = item.list;
     Entry* found = entry(shapeKey(item), label);
@@ -64,8 +75,15 @@ QTextList* ListKeeper::goOn(const ParagraphFormat& item) {
     m_lastLeft = item.left;
     if (label.identity != 0)
         m_levels[label.identity] = label.level;
+    ++m_members;
+    m_new = label;
     if (!going)
         return nullptr;
+    if (isFull(*found)) {
+        if (label.kind != ListKind::Bullet)
+            m_new.start = found->label.start + found->items;
+        return nullptr;
+    }
     ++found->items;
     const int index = int(found - m_entries.constData());
     m_byShape[shapeKey(item)] = index;
@@ -75,7 +93,7 @@ QTextList* ListKeeper::goOn(const ParagraphFormat& item) {
 
 void ListKeeper::began(const ParagraphFormat& item, QTextList* list) {
     const int index = int(m_entries.size());
-    m_entries.append(Entry{item.list, list, 1});
+    m_entries.append(Entry{m_new, list, 1});
     m_byShape[shapeKey(item)] = index;
     m_byLabel[labelKey(item.list)] = index;
 }

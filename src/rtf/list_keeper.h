@@ -14,11 +14,16 @@ namespace orvalis::rtf {
 /// Items that name a list by its identity go on with it across other paragraphs, until an item of
 /// an outer level comes; the others hold together by following each other in one shape, or by a
 /// number that goes on where an earlier list ended.
+///
+/// A document spends time on all items of a list whenever one joins it, so lists are kept short
+/// enough for that not to be felt: what is longer goes on in a further list.
 class ListKeeper {
 public:
     /// The list to go on with, null when the item begins a new one. The item counts as its member.
     QTextList* goOn(const ParagraphFormat& item);
-    /// Remembers the list that an item began.
+    /// The label of the new list that the item last asked for begins.
+    const ListLabel& newLabel() const { return m_new; }
+    /// Remembers the list that an item began with newLabel().
     void began(const ParagraphFormat& item, QTextList* list);
     /// A paragraph outside all lists came.
     void interrupt() { m_adjacent = false; }
@@ -31,6 +36,7 @@ private:
     };
 
     Entry* entry(size_t key, const ListLabel& label);
+    bool isFull(const Entry& entry) const;
     bool goesOn(const Entry& entry, const ParagraphFormat& item, bool adjacent) const;
 
     QHash<size_t, int> m_byShape; ///< the last list of each label and indent
@@ -38,6 +44,8 @@ private:
     QList<Entry> m_entries;
     QHash<int, int> m_levels; ///< of the last item of each identity
     ListLabel m_last;
+    ListLabel m_new;
+    int m_members = 0; ///< of all lists
     int m_lastLeft = 0;
     bool m_adjacent = false;
 };

@@ -3,7 +3,10 @@
 #pragma once
 
 #include "rtf/formats.h"
+#include "rtf/paragraph_writer.h"
 #include "rtf/picture.h"
+#include "rtf/rtf_output.h"
+#include "rtf/writer_tables.h"
 
 #include <QByteArray>
 #include <QStringView>
@@ -17,9 +20,11 @@ namespace orvalis::rtf {
 class BodyWriter {
 public:
     BodyWriter();
+    BodyWriter(const BodyWriter&) = delete;
+    BodyWriter& operator=(const BodyWriter&) = delete;
 
     /// The families and links by which character formats are told.
-    Names& names() { return m_names; }
+    Names& names() { return m_tables.names(); }
 
     /// \param number of a numbered list item.
     void beginParagraph(const ParagraphFormat& paragraph, int number);
@@ -33,35 +38,16 @@ public:
     QByteArray file(int defaultTab) const;
 
 private:
-    void word(const char* name) { m_body.append(name), m_needsDelimiter = true; }
-    void word(const char* name, int number);
-    void paragraphWords(const ParagraphFormat& paragraph);
-    void label(const ListLabel& label, int number);
-    void numbering(const ListLabel& label);
     void change(const CharFormat& format);
-    void openLink(int link);
-    void escaped(QStringView text);
-    void escapedSymbols(QStringView text);
-    int fontNumber(int family);
-    int colorNumber(QRgb color);
-    int listNumberOf(int identity);
+    void changeLink(int link);
+    void toggle(bool on, bool was, QByteArrayView word);
 
-    Names m_names;
-    QList<int> m_fonts; ///< families in the order of the font table
-    QHash<int, int> m_fontNumbers;
-    QList<QRgb> m_colors;
-    QHash<QRgb, int> m_colorNumbers;
-    QHash<int, int> m_listNumbers;
-
-    QByteArray m_body;
-    ParagraphFormat m_paragraph;
-    int m_paragraphNumber = 0;
+    WriterTables m_tables;
+    RtfOutput m_out;
+    ParagraphWriter m_paragraphs;
     CharFormat m_format;
     CharFormat m_formatBeforeLink;
-    int m_symbolFamily;
     bool m_fontIsSymbol = false;
-    bool m_needsDelimiter = false;
-    bool m_anyParagraph = false;
 };
 
 } // namespace orvalis::rtf

@@ -54,15 +54,14 @@ QSize metafileSize(const Picture& picture) {
 
 } // namespace
 
-void appendPicture(QByteArray& rtf, const Picture& picture) {
-    if (picture.kind == PictureKind::Wmf) {
-        appendGroup(rtf, "\\wmetafile" + QByteArray::number(picture.mapMode), metafileSize(picture),
-                    picture, picture.bytes);
-        return;
-    }
-    if (picture.kind == PictureKind::Emf) {
-        appendGroup(rtf, "\\emfblip", metafileSize(picture), picture, picture.bytes);
-        return;
+QByteArray pictureGroups(const Picture& picture) {
+    QByteArray rtf;
+    if (picture.kind == PictureKind::Wmf || picture.kind == PictureKind::Emf) {
+        const QByteArray kind = picture.kind == PictureKind::Emf
+                                    ? QByteArray("\\emfblip")
+                                    : "\\wmetafile" + QByteArray::number(picture.mapMode);
+        appendGroup(rtf, kind, metafileSize(picture), picture, picture.bytes);
+        return rtf;
     }
     const QSize size = pixelSize(picture);
     const bool twin = !size.isEmpty() && qint64(size.width()) * size.height() <= mostTwinPixels;
@@ -72,11 +71,12 @@ void appendPicture(QByteArray& rtf, const Picture& picture) {
                 picture.bytes);
     rtf.append('}');
     if (image.isNull())
-        return;
+        return rtf;
     rtf.append("{\\nonshppict");
     appendGroup(rtf, "\\wmetafile8", metafileSize(picture), picture,
                 metafileOfDib(dibOfImage(image), image.size()));
     rtf.append('}');
+    return rtf;
 }
 
 } // namespace orvalis::rtf

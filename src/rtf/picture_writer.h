@@ -6,8 +6,8 @@
 
 namespace orvalis::rtf {
 
-/// Appends a picture as RTF. A small one comes twice, as itself and as a metafile for readers that
-/// know only those.
-void appendPicture(QByteArray& rtf, const Picture& picture);
+/// The groups of a picture in RTF. A small one comes twice, as itself and as a metafile for readers
+/// that know only those.
+QByteArray pictureGroups(const Picture& picture);
 
 } // namespace orvalis::rtf

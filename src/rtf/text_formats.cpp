@@ -333,8 +333,9 @@ ParagraphFormat paragraphFormat(const QTextBlockFormat& format, const QTextList*
 
     const QTextListFormat listFormat = list->format();
     result.list.kind = listKind(listFormat.style());
-    result.list.identity = list->objectIndex();
+    // Bullets look alike whichever list they are of, numbers do not.
     if (result.list.kind != ListKind::Bullet) {
+        result.list.identity = list->objectIndex();
         result.list.prefix = listFormat.numberPrefix();
         // A list that says nothing of it shows a dot behind its numbers.
         result.list.suffix = listFormat.hasProperty(QTextFormat::ListNumberSuffix)

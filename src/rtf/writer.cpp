@@ -27,22 +27,29 @@ public:
         , m_defaultTab(int(document.defaultTextOption().tabStopDistance() * twipsPerPixel)) {}
 
     QByteArray rtf() {
-        for (QTextBlock block = m_document.findBlock(m_from);
-             block.isValid() && block.position() <= m_to; block = block.next())
-            paragraph(block);
+        QTextBlock block = m_document.findBlock(m_from);
+        int position = block.position();
+        for (; block.isValid() && position <= m_to; block = block.next()) {
+            paragraph(block, position);
+            position += block.length();
+        }
         return m_body.file(m_defaultTab);
     }
 
 private:
-    void paragraph(const QTextBlock& block) {
-        const CharFormat mark = format(block.charFormat());
+    // Positions are counted along the way: a block and a fragment find theirs only by a search.
+    void paragraph(const QTextBlock& block, int position) {
         const ParagraphFormat& paragraphShape = shape(block);
         m_body.beginParagraph(paragraphShape, number(block));
+        const QString text = block.text();
         bool empty = true;
+        int at = 0;
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             const QTextFragment fragment = it.fragment();
-            const int start = std::max(fragment.position(), m_from);
-            const int end = std::min(fragment.position() + fragment.length(), m_to);
+            const int length = fragment.length();
+            const int start = std::max(at, m_from - position);
+            const int end = std::min(at + length, m_to - position);
+            at += length;
             if (start >= end)
                 continue;
             empty = false;
@@ -53,14 +60,16 @@ private:
                     pictureOfFormat(m_document, fragment.charFormat().toImageFormat());
                 for (int i = start; i < end; ++i)
                     m_body.picture(picture, look);
-            } else if (start == fragment.position() &&
-                       end == fragment.position() + fragment.length()) {
-                m_body.text(fragment.text(), look);
             } else {
-                m_body.text(fragment.text().mid(start - fragment.position(), end - start), look);
+                m_body.text(QStringView(text).mid(start, end - start), look);
             }
         }
-        m_body.endParagraph(empty ? &mark : nullptr);
+        if (empty) {
+            const CharFormat mark = format(block.charFormat());
+            m_body.endParagraph(&mark);
+        } else {
+            m_body.endParagraph(nullptr);
+        }
     }
 
     CharFormat format(const QTextCharFormat& from) {

@@ -126,6 +126,7 @@ private slots:
     void randomDocumentsSurviveWritingAndReading();
     void theSameDocumentGivesTheSameBytes();
     void whatWasReadIsWrittenTheSameAgain();
+    void neighbouringListsOfBulletsAreWrittenTheSameAgain();
     void everyPartOfADocumentCanBeWritten();
     void onlyAsciiIsWritten();
 };
@@ -164,6 +165,23 @@ void RoundTripTest::whatWasReadIsWrittenTheSameAgain() {
     QTextDocument again;
     QVERIFY(readRtf(written, again).ok());
     QCOMPARE(test::firstDifference(document, again), QString());
+    QCOMPARE(writeRtf(again), written);
+}
+
+void RoundTripTest::neighbouringListsOfBulletsAreWrittenTheSameAgain() {
+    QTextDocument document;
+    QTextCursor cursor(&document);
+    QTextListFormat bullets;
+    bullets.setStyle(QTextListFormat::ListDisc);
+    for (int item = 0; item < 3; ++item) {
+        if (item > 0)
+            cursor.insertBlock(QTextBlockFormat());
+        cursor.createList(bullets);
+        cursor.insertText(QStringLiteral("item"));
+    }
+    const QByteArray written = writeRtf(document);
+    QTextDocument again;
+    QVERIFY(readRtf(written, again).ok());
     QCOMPARE(writeRtf(again), written);
 }
 

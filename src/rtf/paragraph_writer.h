@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "rtf/formats.h"
+
+namespace orvalis::rtf {
+
+class RtfOutput;
+class WriterTables;
+
+/// Writes what stands at the start of a paragraph: its shape where it changes, and its label.
+class ParagraphWriter {
+public:
+    ParagraphWriter(RtfOutput& out, WriterTables& tables)
+        : m_out(out)
+        , m_tables(tables) {}
+
+    /// \param number of a numbered list item.
+    void begin(const ParagraphFormat& paragraph, int number);
+
+private:
+    void shape(const ParagraphFormat& paragraph);
+    void alignment(Alignment alignment);
+    void tabs(const QList<TabStop>& tabs);
+    void label(const ListLabel& label);
+    void numbering(const ListLabel& label);
+    void numberingText(QByteArrayView group, const QString& text);
+    int listNumberOf(int identity);
+
+    RtfOutput& m_out;
+    WriterTables& m_tables;
+    ParagraphFormat m_last;
+    int m_lastNumber = 0;
+    bool m_any = false;
+    QHash<int, int> m_listNumbers;
+};
+
+} // namespace orvalis::rtf

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QStringView>
+
+namespace orvalis::rtf {
+
+/// RTF in the making: control words, and text in the letters that they leave free.
+///
+/// It knows whether a word stands at the end, and sets the blank between it and a text that would
+/// be read as part of it.
+class RtfOutput {
+public:
+    /// \param word with its backslash; whatever stands before it, a brace say, may come along.
+    void word(QByteArrayView word) {
+        m_bytes.append(word);
+        m_needsDelimiter = true;
+    }
+    void word(QByteArrayView word, int number);
+    /// Appends what no text can join: braces, whole groups, line ends.
+    void structure(QByteArrayView bytes) {
+        m_bytes.append(bytes);
+        m_needsDelimiter = false;
+    }
+    /// Text in code page 1252, with \u for the rest.
+    void text(QStringView text);
+    /// Text of the Symbol font, in that font's own bytes.
+    void symbols(QStringView text);
+
+    const QByteArray& bytes() const { return m_bytes; }
+    void reserve(qsizetype size) { m_bytes.reserve(size); }
+
+private:
+    void special(char16_t character);
+
+    QByteArray m_bytes;
+    bool m_needsDelimiter = false;
+};
+
+} // namespace orvalis::rtf

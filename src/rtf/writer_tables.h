@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "rtf/formats.h"
+
+namespace orvalis::rtf {
+
+class RtfOutput;
+
+/// The fonts and colours of a file that is written, numbered in the order of their first use.
+class WriterTables {
+public:
+    WriterTables();
+
+    /// The families and links by which character formats are told.
+    Names& names() { return m_names; }
+    const Names& names() const { return m_names; }
+
+    /// The number of a family of names().
+    int font(int family);
+    /// The number of the font that bullets are drawn in.
+    int symbolFont() { return font(m_symbolFamily); }
+    bool isSymbolFont(int family) const;
+    /// The number of a colour; 0 is the automatic one.
+    int color(QRgb color);
+
+    /// Appends the tables with all that was used so far.
+    void write(RtfOutput& out) const;
+
+private:
+    Names m_names;
+    int m_symbolFamily;
+    QList<int> m_fonts; ///< families in the order of the font table
+    QHash<int, int> m_fontNumbers;
+    QList<QRgb> m_colors;
+    QHash<QRgb, int> m_colorNumbers;
+};
+
+} // namespace orvalis::rtf

@@ -79,9 +79,10 @@ private:
             if (table && table == m_table && row == m_row)
                 m_target.insertText(QStringLiteral("\t"), m_base);
             else
-                m_target.insertBlock(paragraphOf(block), m_base);
+                m_target.insertBlock(paragraphOf(block), markOf(block));
         } else if (m_target.block().length() == 1) {
             m_target.setBlockFormat(paragraphOf(block));
+            m_target.setBlockCharFormat(markOf(block));
         }
         m_any = true;
         m_ownParagraph = followingParagraph(m_ownParagraph);
@@ -95,6 +96,13 @@ private:
         }
         for (auto it = block.begin(); !it.atEnd(); ++it)
             insertRun(it.fragment());
+    }
+
+    /// The paragraph itself, and with it the label of a list's item, looks as its text begins.
+    QTextCharFormat markOf(const QTextBlock& block) const {
+        const bool begins =
+            !block.begin().atEnd() && !block.begin().fragment().charFormat().isImageFormat();
+        return begins ? formatOf(block.begin().fragment().charFormat()) : m_base;
     }
 
     QTextBlockFormat paragraphOf(const QTextBlock& block) const {

@@ -67,6 +67,7 @@ private slots:
     void htmlKeepsItsRuns();
     void aTableInHtmlComesAsTextWithTabs();
     void listsInHtmlStayLists();
+    void labelsOfListsInHtmlLookLikeTheirText();
     void htmlFetchesNothing();
     void aPictureIsPasted();
     void aPicturesOwnBytesAreKept();
@@ -442,6 +443,25 @@ void RichTextBoxClipboardTest::whateverIsPastedIsOneStepOfUndo() {
         QCOMPARE(box.Text(), u"a word b"_s);
         QVERIFY(!box.CanUndo());
     }
+}
+
+void RichTextBoxClipboardTest::labelsOfListsInHtmlLookLikeTheirText() {
+    auto* data = new QMimeData;
+    data->setHtml(u"<ol><li>plain<li><b style='color:#ff0000'>bold</b></ol>"_s);
+    QApplication::clipboard()->setMimeData(data);
+    RichTextBox box;
+    box.SetText(u"title"_s);
+    box.selectAll();
+    box.SetSelBold(true);
+    box.SetSelFontSize(30);
+    box.Paste();
+    QCOMPARE(box.Text(), u"plain\r\nbold"_s);
+    const QTextCharFormat first = box.document()->begin().charFormat();
+    QVERIFY(first.fontWeight() <= QFont::Normal);
+    QCOMPARE(first.fontPointSize(), 30.0);
+    const QTextCharFormat second = box.document()->lastBlock().charFormat();
+    QCOMPARE(second.fontWeight(), int(QFont::Bold));
+    QCOMPARE(second.foreground().color(), QColor(255, 0, 0));
 }
 
 ORVALIS_TEST_MAIN_WITH(QApplication, RichTextBoxClipboardTest)

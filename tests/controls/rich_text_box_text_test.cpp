@@ -402,6 +402,15 @@ void RichTextBoxTextTest::changeIsNotToldWhereNothingChanges() {
     box.SetSelText(QString());
     QCOMPARE(box.Find(u"or"_s), 1);
     QCOMPARE(spy.count(), 0);
+    box.SetSelStart(4);
+    box.SetSelText(u"s"_s);
+    QCOMPARE(spy.count(), 1);
+    {
+        const RichTextBox::Batch batch(box);
+        box.SetSelStart(2);
+        box.SetSelRTF(QByteArrayLiteral("{\\rtf1}"));
+    }
+    QCOMPARE(spy.count(), 1);
 }
 
 void RichTextBoxTextTest::selectionChangesAreToldOnce() {

@@ -51,7 +51,8 @@ void FontTable::addName(QByteArrayView bytes) {
 
 void FontTable::addName(char16_t character) {
     if (m_name.size() < longestName) {
-        m_name += QString::fromLatin1(m_bytes);
+        const bool own = m_entry.page && m_entry.page->number() != symbolPage;
+        (own ? *m_entry.page : CodePage::forNumber(latin1Page)).decode(m_bytes, m_name);
         m_bytes.clear();
         m_name += QChar(character);
     }

@@ -5,6 +5,7 @@
 #include "support/test_main.h"
 
 #include <QGuiApplication>
+#include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextList>
@@ -17,6 +18,7 @@ class WriterTest : public QObject {
 private slots:
     void whatIsWrittenIsReadAgain();
     void numbersKeepTheDotThatTheyShow();
+    void fontNamesOfMixedCharactersStay();
 };
 
 void WriterTest::whatIsWrittenIsReadAgain() {
@@ -55,6 +57,19 @@ void WriterTest::numbersKeepTheDotThatTheyShow() {
         QCOMPARE(again.begin().textList()->itemText(again.begin()), shown);
         QVERIFY(written.contains("{\\pntext " + shown.toLatin1() + "\\tab}"));
     }
+}
+
+void WriterTest::fontNamesOfMixedCharactersStay() {
+    const QByteArray source = "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0\\fnil\\fcharset0 A"
+                              "\\u1045?\\'82\\'84\\u1028?;}}\\f0 x\\par}";
+    QTextDocument document;
+    QVERIFY(readRtf(source, document).ok());
+    QCOMPARE(document.begin().begin().fragment().charFormat().fontFamilies().toStringList(),
+             QStringList{QStringLiteral("A\u0415\u201A\u201E\u0404")});
+    const QByteArray written = writeRtf(document);
+    QTextDocument again;
+    QVERIFY(readRtf(written, again).ok());
+    QCOMPARE(writeRtf(again), written);
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, WriterTest)

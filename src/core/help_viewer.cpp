@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/help_viewer.h"
 
+#include "core/help_page_view.h"
 #include "platform/chm_file.h"
 #include "platform/shell.h"
 #include "skin/skin.h"
@@ -31,36 +32,13 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-const QString Scheme = u"help"_s;
 constexpr QSize FirstSize(820, 560);
 constexpr int SideWidth = 230;
-constexpr int PageMargin = 18;
-constexpr int PagePoints = 10;
 constexpr int SidePoints = 9;
-/// Pictures of a page are drawn at twice the size that they are shown at.
-constexpr qreal DrawnRatio = 2;
 constexpr int AddressRole = Qt::UserRole;
-
-QUrl addressOf(const QString& page) {
-    const qsizetype anchor = page.indexOf(u'#');
-    QUrl url;
-    url.setScheme(Scheme);
-    url.setPath(u'/' + (anchor < 0 ? page : page.left(anchor)));
-    if (anchor >= 0)
-        url.setFragment(page.mid(anchor + 1));
-    return url;
-}
-
-QString pageOf(const QUrl& address) {
-    return address.path().mid(1);
-}
 
 bool isPage(const QString& file) {
     return file.endsWith(u".html"_s) || file.endsWith(u".htm"_s);
-}
-
-QString message(const QString& heading, const QString& text) {
-    return u"<h1>%1</h1><p>%2</p>"_s.arg(heading.toHtmlEscaped(), text.toHtmlEscaped());
 }
 
 QString titleOf(const QString& html) {
@@ -85,50 +63,6 @@ QToolButton* toolButton(QWidget* parent, const QString& name, const QString& pic
 }
 
 } // namespace
-
-HelpPageView::HelpPageView(QWidget* parent)
-    : QTextBrowser(parent) {
-    setObjectName(u"helpPage"_s);
-    setOpenLinks(false);
-    setFrameShape(QFrame::NoFrame);
-    document()->setDocumentMargin(PageMargin);
-    document()->setDefaultFont(skin::font(PagePoints));
-}
-
-void HelpPageView::setFile(const ChmFile* file) {
-    m_file = file;
-}
-
-void HelpPageView::go(const QString& page) {
-    setSource(addressOf(page), QTextDocument::HtmlResource);
-}
-
-QImage HelpPageView::picture(const QByteArray& content) const {
-    const QImage drawn = QImage::fromData(content);
-    if (drawn.isNull())
-        return {};
-    const qreal ratio = devicePixelRatioF();
-    QImage shown = drawn.scaled((QSizeF(drawn.size()) * ratio / DrawnRatio).toSize(),
-                                Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    shown.setDevicePixelRatio(ratio);
-    return shown;
-}
-
-QVariant HelpPageView::loadResource(int type, const QUrl& name) {
-    if (m_file == nullptr)
-        return message(tr("The help cannot be shown"),
-                       tr("The help file is damaged, or it is not a help file."));
-    const QUrl address = name.isRelative() ? source().resolved(name) : name;
-    const QByteArray content =
-        address.scheme() == Scheme ? m_file->read(pageOf(address)) : QByteArray();
-    if (type == QTextDocument::ImageResource)
-        return picture(content);
-    if (type != QTextDocument::HtmlResource)
-        return content;
-    if (content.isNull())
-        return message(tr("This page is not in the help"), pageOf(address));
-    return QString::fromUtf8(content);
-}
 
 HelpViewer::HelpViewer(Shell& shell)
     : m_shell(shell) {
@@ -201,7 +135,7 @@ QWidget* HelpViewer::makeSide() {
     connect(m_search, &QLineEdit::textChanged, this, &HelpViewer::search);
     const auto showTopic = [this](const QTreeWidgetItem* item) {
         const QString page = item == nullptr ? QString() : item->data(0, AddressRole).toString();
-        if (!page.isEmpty() && addressOf(page) != m_page->source())
+        if (!page.isEmpty() && helpAddress(page) != m_page->source())
             m_page->go(page);
     };
     connect(m_contents, &QTreeWidget::currentItemChanged, this, showTopic);
@@ -283,8 +217,10 @@ void HelpViewer::readPages() {
             continue;
         const QString html = QString::fromUtf8(m_file->read(file));
         const QString title = titleOf(html);
+        // A picture counts as a character that nobody reads.
         m_pages.append({file, title.isEmpty() ? file : title,
-                        QTextDocumentFragment::fromHtml(html).toPlainText()});
+                        QTextDocumentFragment::fromHtml(html).toPlainText().remove(
+                            QChar::ObjectReplacementCharacter)});
     }
 }
 
@@ -307,7 +243,7 @@ void HelpViewer::search(const QString& query) {
 
 void HelpViewer::follow(const QUrl& link) {
     const QUrl address = m_page->source().resolved(link);
-    if (address.scheme() == Scheme)
+    if (isHelpAddress(address))
         m_page->setSource(address, QTextDocument::HtmlResource);
     else
         m_shell.open(address.toString());
@@ -317,7 +253,7 @@ void HelpViewer::markPageInContents(const QUrl& page) {
     const QSignalBlocker quiet(m_contents);
     QTreeWidgetItem* samePage = nullptr;
     for (QTreeWidgetItemIterator place(m_contents); *place != nullptr; ++place) {
-        const QUrl address = addressOf((*place)->data(0, AddressRole).toString());
+        const QUrl address = helpAddress((*place)->data(0, AddressRole).toString());
         if (address == page) {
             m_contents->setCurrentItem(*place);
             return;

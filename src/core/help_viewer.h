@@ -5,7 +5,7 @@
 #include "core/help_file.h"
 #include "core/help_search.h"
 
-#include <QTextBrowser>
+#include <QWidget>
 
 #include <memory>
 
@@ -19,27 +19,8 @@ class QTreeWidgetItem;
 namespace orvalis {
 
 class ChmFile;
+class HelpPageView;
 class Shell;
-
-/// Shows the pages of a compiled help file, straight from the file.
-class HelpPageView final : public QTextBrowser {
-    Q_OBJECT
-public:
-    explicit HelpPageView(QWidget* parent);
-
-    /// The file must outlive its use here; a null file shows that the help cannot be read.
-    void setFile(const ChmFile* file);
-    /// Goes to a page by its path in the file, perhaps with "#anchor".
-    void go(const QString& page);
-
-    QVariant loadResource(int type, const QUrl& name) override;
-
-private:
-    /// A picture of the file, made ready for the screen that the page is on.
-    QImage picture(const QByteArray& content) const;
-
-    const ChmFile* m_file = nullptr;
-};
 
 /// The window of the help: contents or findings at the left, the page at the right, and back,
 /// forward and home above them.

@@ -252,11 +252,13 @@ void CommonDialogTest::escapeInAFileDialogIsCancel() {
 
 void CommonDialogTest::theHourglassStandsBackWhileADialogIsOpen() {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    whenOpen<QFileDialog>([](QFileDialog& dialog) {
-        QVERIFY(QGuiApplication::overrideCursor() == nullptr);
+    bool stoodBack = false;
+    whenOpen<QFileDialog>([&stoodBack](QFileDialog& dialog) {
+        stoodBack = QGuiApplication::overrideCursor() == nullptr;
         dialog.reject();
     });
     QtDialogs().openFile({});
+    QVERIFY(stoodBack);
     QVERIFY(QGuiApplication::overrideCursor() != nullptr);
     QGuiApplication::restoreOverrideCursor();
 }

@@ -163,10 +163,12 @@ void MsgBoxTest::timersGoOnWhileABoxIsOpen() {
 
 void MsgBoxTest::theHourglassStandsBackWhileABoxIsOpen() {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    ask(0, [](QMessageBox& box) {
-        QVERIFY(QGuiApplication::overrideCursor() == nullptr);
+    bool stoodBack = false;
+    ask(0, [&stoodBack](QMessageBox& box) {
+        stoodBack = QGuiApplication::overrideCursor() == nullptr;
         box.accept();
     });
+    QVERIFY(stoodBack);
     QVERIFY(QGuiApplication::overrideCursor() != nullptr);
     QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
     QGuiApplication::restoreOverrideCursor();

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
+#include "core/help_page_view.h"
 #include "core/help_viewer.h"
 #include "platform/chm_file.h"
 #include "platform/shell.h"

@@ -4,14 +4,21 @@
 
 #include "runtime/failure.h"
 
-#include <QEvent>
+#include <QMouseEvent>
+#include <QPainter>
 #include <QTableView>
+#include <QTextCharFormat>
 
 #include <algorithm>
 
 namespace orvalis {
 
 namespace {
+
+constexpr QPoint Nowhere(-1, -1);
+constexpr qreal CornerRadius = 4;
+constexpr qreal TodayRing = 1.4; // pixels
+constexpr int HoverVeil = 40;    // of 255
 
 int fromSunday(const QDate& date) {
     return date.dayOfWeek() % 7;
@@ -28,7 +35,8 @@ int weekOfYear(const QDate& date) {
 }
 
 MonthView::MonthView(QWidget* parent)
-    : QCalendarWidget(parent) {
+    : QCalendarWidget(parent)
+    , m_pointer(Nowhere) {
     setFirstDayOfWeek(Qt::Sunday);
     setVerticalHeaderFormat(NoVerticalHeader);
     setHorizontalHeaderFormat(ShortDayNames);
@@ -38,6 +46,7 @@ MonthView::MonthView(QWidget* parent)
     for (QAbstractItemView* days : findChildren<QAbstractItemView*>()) {
         days->installEventFilter(this);
         days->viewport()->installEventFilter(this);
+        days->viewport()->setMouseTracking(true);
     }
     connect(this, &QCalendarWidget::clicked, this, &MonthView::DateClick);
     connect(this, &QCalendarWidget::selectionChanged, this, [this] {
@@ -78,6 +87,18 @@ void MonthView::Refresh() {
     updateCells();
 }
 
+void MonthView::setToday(const QDate& date) {
+    if (m_today == date)
+        return;
+    m_today = date;
+    updateCells();
+}
+
+void MonthView::pointAt(QWidget& days, const QPoint& place) {
+    m_pointer = place;
+    days.update();
+}
+
 bool MonthView::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
     case QEvent::KeyPress:
@@ -87,10 +108,59 @@ bool MonthView::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::MouseButtonRelease:
         m_keyed = false;
         break;
+    case QEvent::MouseMove:
+        pointAt(*static_cast<QWidget*>(watched), static_cast<QMouseEvent*>(event)->pos());
+        break;
+    case QEvent::Leave:
+    case QEvent::Hide:
+        pointAt(*static_cast<QWidget*>(watched), Nowhere);
+        break;
     default:
         break;
     }
     return QCalendarWidget::eventFilter(watched, event);
+}
+
+QColor MonthView::ink(const QDate& date, bool pointedAt) const {
+    if (!isEnabled() || date.month() != monthShown())
+        return palette().color(QPalette::Disabled, QPalette::Text);
+    if (date == Value())
+        return palette().color(QPalette::HighlightedText);
+    if (pointedAt)
+        return palette().color(QPalette::Link);
+    const QBrush ofWeekday =
+        weekdayTextFormat(static_cast<Qt::DayOfWeek>(date.dayOfWeek())).foreground();
+    return ofWeekday.style() == Qt::NoBrush ? palette().color(QPalette::Text) : ofWeekday.color();
+}
+
+void MonthView::paintCell(QPainter* painter, const QRect& rect, QDate date) const {
+    const bool pointedAt = isEnabled() && rect.contains(m_pointer);
+    const QRectF face = QRectF(rect).adjusted(3, 0.5, -3, -0.5);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+    if (date == Value()) {
+        const QColor chosen = palette().color(QPalette::Highlight);
+        painter->setBrush(chosen);
+        painter->setPen(QPen(chosen.darker(pointedAt ? 150 : 120), 1));
+        painter->drawRoundedRect(face, CornerRadius, CornerRadius);
+    } else if (pointedAt) {
+        QColor veil = palette().color(QPalette::Link);
+        veil.setAlpha(HoverVeil);
+        painter->setBrush(veil);
+        painter->drawRoundedRect(face, CornerRadius, CornerRadius);
+    }
+    QFont letters = font();
+    if (date == m_today) {
+        painter->setBrush(Qt::NoBrush);
+        painter->setPen(QPen(palette().color(QPalette::Link), TodayRing));
+        painter->drawRoundedRect(face, CornerRadius, CornerRadius);
+        letters.setBold(true);
+    }
+    painter->setFont(letters);
+    painter->setPen(ink(date, pointedAt));
+    painter->drawText(rect, Qt::AlignCenter, locale().toString(date.day()));
+    painter->restore();
 }
 
 } // namespace orvalis

@@ -34,14 +34,23 @@ public:
     /// Draws the control anew.
     void Refresh();
 
+    /// The date that is marked as today's; none at first.
+    void setToday(const QDate& date);
+
 signals:
     /// The user chose a date, by mouse or by key; the same date again counts when it is clicked.
     void DateClick(const QDate& date);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintCell(QPainter* painter, const QRect& rect, QDate date) const override;
 
 private:
+    void pointAt(QWidget& days, const QPoint& place);
+    QColor ink(const QDate& date, bool pointedAt) const;
+
+    QDate m_today;
+    QPoint m_pointer; ///< Where the pointer is over the days; outside of them for none.
     bool m_keyed = false;
 };
 

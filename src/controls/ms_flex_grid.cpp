@@ -16,6 +16,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <cmath>
 
 namespace orvalis {
 
@@ -51,9 +52,7 @@ public:
         painter->drawText(textRect(option), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
                           option.fontMetrics.elidedText(shownText(index), Qt::ElideRight,
                                                         textRect(option).width()));
-        painter->setPen(LineColor);
-        painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
-        painter->drawLine(option.rect.topRight(), option.rect.bottomRight());
+        drawLines(*painter, option.rect);
         if (view && view->currentIndex() == index && view->hasFocus()) {
             painter->setPen(QPen(CurrentCellFrame, 2));
             painter->drawRect(QRectF(option.rect).adjusted(1, 1, -1, -1));
@@ -78,6 +77,14 @@ private:
     static constexpr int LongestShownText = 1000;
     static constexpr int LongestToolTip = 2000;
 
+    /// The lines below and beside a cell, in whole pixels of the screen and on the cell's very
+    /// edge: of a line told in the window's own units some cells would show a rest of themselves.
+    static void drawLines(QPainter& painter, const QRectF& cell) {
+        const qreal ratio = painter.device()->devicePixelRatioF();
+        const qreal thin = std::max(1.0, std::floor(ratio)) / ratio;
+        painter.fillRect(QRectF(cell.left(), cell.bottom() - thin, cell.width(), thin), LineColor);
+        painter.fillRect(QRectF(cell.right() - thin, cell.top(), thin, cell.height()), LineColor);
+    }
     static QString shownText(const QModelIndex& index) {
         return onOneLine(index.data().toString().left(LongestShownText));
     }

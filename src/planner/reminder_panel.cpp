@@ -43,6 +43,8 @@ frmnotes1::frmnotes1(Program& program)
         ui.Label9->setCaption(shortDate(date));
         HoverReset();
     });
+    connect(lblVreme, &Label::Change, this,
+            [this] { ui.MonthView1->setToday(this->program().services.clock.date()); });
     connect(ui.imgNot, &Image::Click, this, [this] {
         if (StickerMaker* stickers = this->program().stickers)
             stickers->newFrmstick().form().Show();

@@ -2,12 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "skin/calendar_look.h"
 
+#include "skin/faces.h"
 #include "skin/palette.h"
 #include "skin/skin.h"
 
+#include <QAbstractItemView>
 #include <QCalendarWidget>
 #include <QEvent>
 #include <QPainter>
+#include <QPainterPath>
+#include <QPointer>
 #include <QTextCharFormat>
 #include <QToolButton>
 
@@ -17,26 +21,6 @@ namespace orvalis::skin {
 
 namespace {
 
-/// Paints a calendar's card behind its parts: a white sheet with the edge of a field.
-class CardEdge : public QObject {
-public:
-    explicit CardEdge(QCalendarWidget& calendar)
-        : QObject(&calendar) {
-        calendar.setContentsMargins(1, 1, 1, 1);
-        calendar.installEventFilter(this);
-    }
-
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::Paint) {
-            auto* calendar = static_cast<QWidget*>(watched);
-            QPainter painter(calendar);
-            painter.fillRect(calendar->rect(), QColor::fromRgba(colour::Line));
-            painter.fillRect(calendar->rect().adjusted(1, 1, -1, -1), Qt::white);
-        }
-        return QObject::eventFilter(watched, event);
-    }
-};
-
 QBrush iceHead() {
     QLinearGradient gradient(0, 0, 0, 1);
     gradient.setCoordinateMode(QGradient::ObjectMode);
@@ -44,6 +28,46 @@ QBrush iceHead() {
     gradient.setColorAt(1, QColor::fromRgba(0xFFC3DEE6));
     return gradient;
 }
+
+/// Paints a calendar's card behind its parts: a white sheet in the shape of a field, with its head.
+/// The parts let the card through and keep off its edge, which they would cover in part where a
+/// pixel of theirs is no whole pixel of the screen.
+class Card : public QObject {
+public:
+    Card(QCalendarWidget& calendar, QWidget* head)
+        : QObject(&calendar)
+        , m_head(head) {
+        calendar.setContentsMargins(Edge, Edge, Edge, Edge);
+        calendar.installEventFilter(this);
+        if (head)
+            head->setAutoFillBackground(false);
+        for (QAbstractItemView* days : calendar.findChildren<QAbstractItemView*>())
+            days->viewport()->setAutoFillBackground(false);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Paint)
+            paint(*static_cast<QWidget*>(watched));
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    static constexpr int Edge = 2; // pixels
+
+    void paint(QWidget& calendar) {
+        QPainter painter(&calendar);
+        faces::field(painter, calendar.rect(), Qt::white, QStyle::State_Enabled);
+        if (!m_head || !m_head->isVisibleTo(&calendar))
+            return;
+        QPainterPath inside;
+        inside.addRoundedRect(QRectF(calendar.rect()).adjusted(1, 1, -1, -1), 2.5, 2.5);
+        painter.setClipPath(inside);
+        const QRect head(0, 0, calendar.width(), m_head->geometry().bottom() + 1);
+        painter.fillRect(head, iceHead());
+    }
+
+    QPointer<QWidget> m_head;
+};
 
 void dressArrow(QCalendarWidget& calendar, const QString& name, QStringView picture) {
     if (auto* button = calendar.findChild<QToolButton*>(name))
@@ -53,7 +77,8 @@ void dressArrow(QCalendarWidget& calendar, const QString& name, QStringView pict
 } // namespace
 
 void dressCalendar(QCalendarWidget& calendar) {
-    new CardEdge(calendar);
+    auto* head = calendar.findChild<QWidget*>(u"qt_calendar_navigationbar"_s);
+    new Card(calendar, head);
     calendar.setGridVisible(false);
     QTextCharFormat heads;
     heads.setForeground(QColor::fromRgba(colour::LabelInk));
@@ -64,9 +89,8 @@ void dressCalendar(QCalendarWidget& calendar) {
     calendar.setWeekdayTextFormat(Qt::Saturday, weekend);
     calendar.setWeekdayTextFormat(Qt::Sunday, weekend);
     // The head takes the colours of what is selected unless it is told otherwise.
-    if (auto* head = calendar.findChild<QWidget*>(u"qt_calendar_navigationbar"_s)) {
+    if (head) {
         QPalette palette = head->palette();
-        palette.setBrush(QPalette::Highlight, iceHead());
         palette.setColor(QPalette::HighlightedText, QColor::fromRgba(colour::TitleInk));
         palette.setColor(QPalette::ButtonText, QColor::fromRgba(colour::TitleInk));
         head->setPalette(palette);

@@ -110,6 +110,9 @@ void StickerForm::makeTitle() {
     m_txtLabel1->setAccessibleName(u"Title"_s);
     setInk(*m_txtLabel1, QPalette::Text, skin::colour::StickerInk);
     connect(m_txtLabel1, &QLineEdit::textChanged, this, &StickerForm::setWindowTitle);
+    // A title that does not fit is read from its beginning.
+    connect(m_txtLabel1, &QLineEdit::editingFinished, m_txtLabel1,
+            [this] { m_txtLabel1->setCursorPosition(0); });
 }
 
 void StickerForm::makeText() {

@@ -44,8 +44,17 @@ private slots:
     void aDateSetByCodeIsNotTold();
     void settingTheValueTurnsBackToItsMonth();
     void refreshKeepsTheValue();
+    void theDayUnderThePointerIsMarked();
+    void todayIsMarkedAlsoWhereItIsSelected();
+    void aMarkMovesWithTheDay();
 
 private:
+    /// The picture of a day's cell, the day's own figures included.
+    QImage pictureOf(const QDate& date) const {
+        const QPoint middle = cellOf(*days(), date);
+        const QRect cell = days()->visualRect(days()->indexAt(middle));
+        return days()->viewport()->grab(cell).toImage();
+    }
     QTableView* days() const { return m_calendar->findChild<QTableView*>(); }
     std::unique_ptr<MonthView> m_calendar;
 };
@@ -185,6 +194,45 @@ void MonthViewTest::settingTheValueTurnsBackToItsMonth() {
 void MonthViewTest::refreshKeepsTheValue() {
     m_calendar->Refresh();
     QCOMPARE(m_calendar->Value(), QDate(2026, 3, 14));
+}
+
+void MonthViewTest::theDayUnderThePointerIsMarked() {
+    const QDate day(2026, 3, 18);
+    const QDate other(2026, 3, 19);
+    const QImage plain = pictureOf(day);
+    const QImage plainOther = pictureOf(other);
+    QTest::mouseMove(days()->viewport(), cellOf(*days(), day));
+    QTRY_VERIFY(pictureOf(day) != plain);
+    QCOMPARE(pictureOf(other), plainOther);
+    QTest::mouseMove(days()->viewport(), cellOf(*days(), other));
+    QTRY_VERIFY(pictureOf(other) != plainOther);
+    QCOMPARE(pictureOf(day), plain);
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(days()->viewport(), &leave);
+    QCOMPARE(pictureOf(other), plainOther);
+    QVERIFY(m_calendar->Value() == QDate(2026, 3, 14));
+}
+
+void MonthViewTest::todayIsMarkedAlsoWhereItIsSelected() {
+    const QDate today(2026, 3, 18);
+    const QImage plain = pictureOf(today);
+    m_calendar->setToday(today);
+    const QImage marked = pictureOf(today);
+    QVERIFY(marked != plain);
+    m_calendar->setValue(today);
+    const QImage both = pictureOf(today);
+    QVERIFY(both != marked);
+    m_calendar->setToday({});
+    QVERIFY(pictureOf(today) != both);
+}
+
+void MonthViewTest::aMarkMovesWithTheDay() {
+    const QImage plain = pictureOf(QDate(2026, 3, 18));
+    const QImage next = pictureOf(QDate(2026, 3, 19));
+    m_calendar->setToday(QDate(2026, 3, 18));
+    m_calendar->setToday(QDate(2026, 3, 19));
+    QCOMPARE(pictureOf(QDate(2026, 3, 18)), plain);
+    QVERIFY(pictureOf(QDate(2026, 3, 19)) != next);
 }
 
 ORVALIS_TEST_MAIN_WITH(QApplication, MonthViewTest)

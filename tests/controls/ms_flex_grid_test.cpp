@@ -37,6 +37,8 @@ private slots:
     void tabLeavesTheGrid();
     void aRightClickOpensNoMenu();
     void coloursArePaintedPerCell();
+    void aLineLiesOnItsCellsEdgeAtEveryScale_data();
+    void aLineLiesOnItsCellsEdgeAtEveryScale();
     void theCurrentCellIsFramedWhileTheGridHasTheFocus();
     void linesBetweenCellsAreSage();
     void aLineBreakIsShownAsABlank();
@@ -266,6 +268,40 @@ void MSFlexGridTest::coloursArePaintedPerCell() {
     m_grid->setCellForeColor(0xFF0000);
     m_grid->setRow(0);
     QCOMPARE(pixel(middleOf(2)), QColor(Qt::blue));
+}
+
+void MSFlexGridTest::aLineLiesOnItsCellsEdgeAtEveryScale_data() {
+    QTest::addColumn<qreal>("ratio");
+    for (const qreal ratio : {1.0, 1.125, 1.25, 1.375, 1.5, 1.75, 2.0, 2.5})
+        QTest::addRow("%g", ratio) << ratio;
+}
+
+void MSFlexGridTest::aLineLiesOnItsCellsEdgeAtEveryScale() {
+    QFETCH(qreal, ratio);
+    const QRgb line = qRgb(0xB0, 0xC8, 0xA0);
+    const QRgb filled = qRgb(0xFF, 0, 0);
+    m_grid->setRows(9);
+    for (int row = 0; row < 9; ++row) {
+        m_grid->setTextMatrix(row, 0, {});
+        m_grid->setRow(row);
+        m_grid->setCellBackColor(row % 2 == 1 ? 255 : GridModel::White);
+    }
+    m_grid->clearFocus();
+    QWidget& cells = *m_grid->viewport();
+    QImage image((QSizeF(cells.size()) * ratio).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::white);
+    cells.render(&image);
+    // Downwards each colour gives way to the line, and each line to the next row's colour.
+    QList<QRgb> bands;
+    for (int y = 0; y < image.height(); ++y)
+        if (const QRgb pixel = image.pixel(image.width() / 2, y);
+            bands.isEmpty() || bands.last() != pixel)
+            bands << pixel;
+    QList<QRgb> expected;
+    for (int row = 0; row < 9; ++row)
+        expected << (row % 2 == 1 ? filled : qRgb(255, 255, 255)) << line;
+    QCOMPARE(bands.first(expected.size()), expected);
 }
 
 void MSFlexGridTest::theCurrentCellIsFramedWhileTheGridHasTheFocus() {

@@ -45,6 +45,7 @@ private slots:
     void theMessageIsUnchangedAfterLoad();
     void aMenuButtonBringsItsSubPanelToTheFront();
     void anActivationReturnsToToday();
+    void theCalendarMarksTodayAndFollowsMidnight();
     void clickingADateShowsIt();
     void aNewStickerIsMadeByItsButton();
     void aPressOnClearDoesNothingYet();
@@ -306,6 +307,21 @@ void ReminderPanelTest::anActivationReturnsToToday() {
     QCOMPARE(ground.calendar().Value(), QDate(2026, 4, 30));
     QCOMPARE(ground.calendar().monthShown(), 4);
     QCOMPARE(ground.caption(u"Label9"_s), u"4/30/26"_s);
+}
+
+void ReminderPanelTest::theCalendarMarksTodayAndFollowsMidnight() {
+    PanelGround ground;
+    ground.clock.set(QDateTime(QDate(2026, 3, 17), QTime(23, 59, 59)));
+    ground.shown();
+    ground.calendar().setValue(QDate(2026, 3, 1));
+    const auto calendar = [&] { return ground.calendar().grab().toImage(); };
+    const QImage before = calendar();
+    ground.clock.advanceSeconds(1);
+    QTRY_VERIFY(calendar() != before);
+    const QImage after = calendar();
+    ground.calendar().setToday(QDate(2026, 3, 18));
+    QCOMPARE(calendar(), after);
+    QCOMPARE(ground.calendar().Value(), QDate(2026, 3, 1));
 }
 
 void ReminderPanelTest::clickingADateShowsIt() {

@@ -34,6 +34,7 @@ private slots:
     void captionAndTitleBeginWithTheNumber();
     void theCaptionFollowsTheTitle();
     void anEmptyTitleGivesAnEmptyCaption();
+    void aTitleThatDoesNotFitIsReadFromItsBeginning();
     void newStickerMakesAnXnFromEitherClass_data();
     void newStickerMakesAnXnFromEitherClass();
     void closingAsksNothingAndTakesTheTextAway();
@@ -147,6 +148,19 @@ void StickerTest::anEmptyTitleGivesAnEmptyCaption() {
     title.selectAll();
     QTest::keyClick(&title, Qt::Key_Delete);
     QCOMPARE(sticker.form().windowTitle(), QString());
+}
+
+void StickerTest::aTitleThatDoesNotFitIsReadFromItsBeginning() {
+    StickerWindow& sticker = m_stickers->newFrmstick();
+    sticker.form().Show();
+    QApplication::setActiveWindow(&sticker.form());
+    auto& title = find<QLineEdit>(sticker, "txtLabel1");
+    title.setFocus();
+    title.selectAll();
+    QTest::keyClicks(&title, u"Milk, bread, butter, eggs and whatever else is due"_s);
+    QVERIFY(title.cursorPosition() > 0);
+    sticker.Text1().setFocus();
+    QCOMPARE(title.cursorPosition(), 0);
 }
 
 void StickerTest::newStickerMakesAnXnFromEitherClass_data() {

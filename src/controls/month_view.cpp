@@ -4,6 +4,7 @@
 
 #include "runtime/failure.h"
 
+#include <QHeaderView>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTableView>
@@ -43,7 +44,9 @@ MonthView::MonthView(QWidget* parent)
     setDateEditEnabled(false);
     // The calendar tells a click on a date; a date chosen by the arrow keys is told as a change of
     // the selection, like one that code sets. The keys are watched to tell the two apart.
-    for (QAbstractItemView* days : findChildren<QAbstractItemView*>()) {
+    for (QTableView* days : findChildren<QTableView*>()) {
+        // All weeks of a month share the room there is; the last one is not to be cut off.
+        days->verticalHeader()->setMinimumSectionSize(1);
         days->installEventFilter(this);
         days->viewport()->installEventFilter(this);
         days->viewport()->setMouseTracking(true);

@@ -144,7 +144,7 @@ void ReminderControls::makeCommands(QWidget& panel) {
     imgNot = command(panel, u"imgNot"_s, {290, 50, 32, 32}, u"Create Sticker"_s, u"sticker"_s);
     MonthView1 = new MonthView(&panel);
     MonthView1->setObjectName(u"MonthView1"_s);
-    MonthView1->setGeometry(59, 87, 230, 158);
+    MonthView1->setGeometry(50, 86, 248, 161);
     MonthView1->setFont(skin::font(DesignPoints));
     MonthView1->setToolTip(u"Click on Calendar Item to change it"_s);
     txt1 = line(panel, u"txt1"_s, {26, 251, 296, 23});

@@ -64,9 +64,10 @@ inline constexpr ButtonLook MenuTab{colourValue(0xFFBAD0D8),   colourValue(0xFFF
 inline constexpr ButtonLook MenuTabSelected{colourValue(0xFFA3BC92),   colourValue(0xFFEEF4EA),
                                             colourValue(colour::Sage), 0xC00000,
                                             colourValue(colour::Teal), true};
-/// Buttons on the head of a sticker: the face continues the head's own gradient.
+/// Buttons on the head of a sticker: the face continues the head's own gradient, which is so gentle
+/// there that the one colour of a button's rim lies unseen on it.
 inline constexpr ButtonLook StickerButton{
-    colourValue(0xFFB9D1A9),         colourValue(0xFFC7DAB8),   colourValue(0xFFADC89B),
+    colourValue(0xFFB8CFA8),         colourValue(0xFFBCD2AD),   colourValue(0xFFB4CCA4),
     colourValue(colour::StickerInk), colourValue(colour::Teal), false};
 
 } // namespace orvalis::skin

@@ -44,6 +44,7 @@ private slots:
     void aDateSetByCodeIsNotTold();
     void settingTheValueTurnsBackToItsMonth();
     void refreshKeepsTheValue();
+    void theLastWeekIsNotCutOff();
     void theDayUnderThePointerIsMarked();
     void todayIsMarkedAlsoWhereItIsSelected();
     void aMarkMovesWithTheDay();
@@ -194,6 +195,15 @@ void MonthViewTest::settingTheValueTurnsBackToItsMonth() {
 void MonthViewTest::refreshKeepsTheValue() {
     m_calendar->Refresh();
     QCOMPARE(m_calendar->Value(), QDate(2026, 3, 14));
+}
+
+void MonthViewTest::theLastWeekIsNotCutOff() {
+    for (const int height : {150, 158, 166, 240}) {
+        m_calendar->resize(248, height);
+        QApplication::processEvents();
+        const QRect last = days()->visualRect(days()->model()->index(6, 0));
+        QVERIFY2(days()->viewport()->rect().contains(last), qPrintable(QString::number(height)));
+    }
 }
 
 void MonthViewTest::theDayUnderThePointerIsMarked() {

@@ -193,7 +193,9 @@ void GridFileTest::withoutAFileTheGridHasOneEmptyRowAndTheFirstItemLandsOnRowsOn
     grid.setText(u"old"_s);
     grid.setCellBackColor(7);
     grid.AddItem(u"old too"_s);
+    grid.setCols(3);
     LoadPriorityGrid(path(), grid);
+    QCOMPARE(grid.Cols(), 1);
     QCOMPARE(texts(grid), QStringList{QString()});
     QCOMPARE(colours(grid), QStringList{plain});
     grid.AddItem(u"header"_s);

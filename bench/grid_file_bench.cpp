@@ -2,37 +2,23 @@
 // SPDX-License-Identifier: MIT
 #include "controls/ms_flex_grid.h"
 #include "planner/grid_file.h"
+#include "timing.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTextStream>
 
-#include <algorithm>
 #include <cstdio>
-#include <vector>
 
 using namespace orvalis;
+using bench::medianMilliseconds;
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int Items = 10'000;
 constexpr int Rounds = 15;
-
-template <class Work>
-double medianMilliseconds(Work&& work) {
-    std::vector<double> times;
-    for (int round = 0; round < Rounds; ++round) {
-        QElapsedTimer timer;
-        timer.start();
-        work();
-        times.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
-    }
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
-}
 
 } // namespace
 
@@ -51,9 +37,9 @@ int main(int argc, char** argv) {
     }
     QApplication::processEvents();
 
-    const double save = medianMilliseconds([&] { SaveGridFile(path, grid.grid()); });
-    const double load = medianMilliseconds([&] { LoadRemindGrid(path, grid.grid()); });
-    const double lines = medianMilliseconds([&] {
+    const double save = medianMilliseconds(Rounds, [&] { SaveGridFile(path, grid.grid()); });
+    const double load = medianMilliseconds(Rounds, [&] { LoadRemindGrid(path, grid.grid()); });
+    const double lines = medianMilliseconds(Rounds, [&] {
         QFile file(path);
         if (!file.open(QIODevice::ReadOnly))
             return;
@@ -63,7 +49,7 @@ int main(int argc, char** argv) {
             read << stream.readLine();
     });
     grid.hide();
-    const double walk = medianMilliseconds([&] {
+    const double walk = medianMilliseconds(Rounds, [&] {
         for (int row = 0; row < grid.Rows(); ++row)
             grid.setRow(row);
     });

@@ -2,15 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "planner/panel_ground.h"
 #include "planner/todo_entry.h"
+#include "timing.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QScrollBar>
 #include <QTextEdit>
 
-#include <algorithm>
 #include <cstdio>
-#include <vector>
 
 using namespace orvalis;
 using namespace Qt::StringLiterals;
@@ -21,17 +19,8 @@ constexpr int Entries = 5'000;
 constexpr int Rounds = 9;
 
 template <class Work>
-double medianMilliseconds(Work&& work) {
-    std::vector<double> times;
-    for (int round = 0; round < Rounds; ++round) {
-        QElapsedTimer timer;
-        timer.start();
-        work();
-        times.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
-        QApplication::processEvents();
-    }
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
+double median(Work&& work) {
+    return bench::medianMilliseconds(Rounds, work, [] { QApplication::processEvents(); });
 }
 
 QString message(int number) {
@@ -74,14 +63,13 @@ int main(int argc, char** argv) {
     test::PanelGround ground;
     writeDocument(ground.app.file(u"Vazno.rtf"_s));
 
-    QElapsedTimer timer;
-    timer.start();
-    ground.shown();
-    layOut(ground.rt1a());
-    const double open = static_cast<double>(timer.nsecsElapsed()) / 1e6;
+    const double open = bench::millisecondsOf([&] {
+        ground.shown();
+        layOut(ground.rt1a());
+    });
 
     int number = Entries;
-    const double save = medianMilliseconds([&] {
+    const double save = median([&] {
         ground.rt1().SetText(message(number++));
         ground.tick(u"chkTop"_s);
         ground.press(u"imgSave"_s);
@@ -92,7 +80,7 @@ int main(int argc, char** argv) {
     bare.setPlainText(ground.rt1a().Text());
     bare.show();
     layOut(bare);
-    const double yardstick = medianMilliseconds([&] {
+    const double yardstick = median([&] {
         bare.append(message(number++));
         const QByteArray written = bare.document()->toHtml().toUtf8();
         if (written.isEmpty())

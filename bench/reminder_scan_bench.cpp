@@ -5,35 +5,21 @@
 // texts in a plain list.
 #include "alarm/reminder_scan.h"
 #include "controls/grid_model.h"
+#include "timing.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QLocale>
 
-#include <algorithm>
 #include <cstdio>
-#include <vector>
 
 using namespace orvalis;
+using bench::medianMilliseconds;
 
 namespace {
 
 constexpr int Rows = 10'000;
 constexpr int Rounds = 201;
 constexpr double Limit = 0.2;
-
-template <class Work>
-double medianMilliseconds(Work&& work) {
-    std::vector<double> times;
-    for (int round = 0; round < Rounds; ++round) {
-        QElapsedTimer timer;
-        timer.start();
-        work();
-        times.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
-    }
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
-}
 
 } // namespace
 
@@ -52,9 +38,9 @@ int main(int argc, char** argv) {
     }
     int found = 0;
     const double scan =
-        medianMilliseconds([&] { found += seekReminder(grid, reminderKey(now)) ? 1 : 0; });
+        medianMilliseconds(Rounds, [&] { found += seekReminder(grid, reminderKey(now)) ? 1 : 0; });
     const double walk =
-        medianMilliseconds([&] { found += plain.contains(reminderKey(now)) ? 1 : 0; });
+        medianMilliseconds(Rounds, [&] { found += plain.contains(reminderKey(now)) ? 1 : 0; });
     std::printf("scan of %d rows: %.4f ms, a plain list %.4f ms (limit %.1f ms)\n", Rows, scan,
                 walk, Limit);
     return found == 0 && grid.Row() == Rows - 1 && scan < Limit ? 0 : 1;

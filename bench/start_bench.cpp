@@ -5,6 +5,7 @@
 // it needs for that, beside a bare window of the same library on the same display; with --idle also
 // what the program asks of the processor in a minute of doing nothing.
 #include "support/virtual_display.h"
+#include "timing.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -24,6 +25,8 @@
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+using orvalis::bench::median;
 
 namespace {
 
@@ -101,11 +104,6 @@ Start measure(const QByteArray& program, const Eye& eye) {
     // What the first picture drags along belongs to its price.
     QThread::msleep(150);
     return {elapsed, static_cast<double>(stop(child).ru_maxrss)};
-}
-
-double median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
 }
 
 double idleShare(const QByteArray& program, const Eye& eye) {

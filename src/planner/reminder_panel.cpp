@@ -95,6 +95,7 @@ void frmnotes1::loadDateAndLists() {
 }
 
 void frmnotes1::layOut() {
+    lblVreme->useClockFont();
     QFont clockFont = lblVreme->font();
     clockFont.setPointSize(16);
     lblVreme->setFont(clockFont);

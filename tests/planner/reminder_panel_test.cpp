@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "planner/panel_ground.h"
 
+#include "core/clock_label.h"
 #include "runtime/failure.h"
 #include "runtime/files.h"
 #include "support/without_root.h"
@@ -37,6 +38,7 @@ private slots:
     void theMessageFontComesFromTheSettings();
     void aFontSizeThatIsNoneIsPassedOver_data();
     void aFontSizeThatIsNoneIsPassedOver();
+    void theClockTakesItsFontAtLoad();
     void theCalendarStandsOnToday();
     void timeCombosAreFilledAndReadZero();
     void theTimeLabelHasBlanksAfterLoad();
@@ -240,6 +242,16 @@ void ReminderPanelTest::aFontSizeThatIsNoneIsPassedOver() {
     QVERIFY(points.has_value());
     QVERIFY(*points >= 6 && *points <= 12);
     QVERIFY(!ground.caption(u"Label5"_s).isEmpty());
+}
+
+void ReminderPanelTest::theClockTakesItsFontAtLoad() {
+    PanelGround ground;
+    frmnotes1 panel(ground.program);
+    auto* clock = panel.findChild<ClockLabel*>(u"lblVreme"_s);
+    clock->setFont(QFont(u"Courier New"_s, 30));
+    panel.load();
+    QCOMPARE(clock->font().families().constFirst(), u"Arial"_s);
+    QCOMPARE(clock->font().pointSize(), 16);
 }
 
 void ReminderPanelTest::theCalendarStandsOnToday() {

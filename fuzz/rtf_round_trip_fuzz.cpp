@@ -7,15 +7,18 @@
 #include <QTextDocument>
 
 #include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 
 using namespace orvalis::rtf;
 
 namespace {
 
-void require(bool held) {
-    if (!held)
-        std::abort();
+void require(bool held, const char* promise, const QByteArray& written) {
+    if (held)
+        return;
+    std::fprintf(stderr, "broken: %s, of\n%s\n", promise, written.constData());
+    std::abort();
 }
 
 } // namespace
@@ -36,8 +39,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     readRtf(rtf, document);
     const QByteArray written = writeRtf(document);
     QTextDocument again;
-    require(readRtf(written, again).ok());
-    require(again.toRawText() == document.toRawText());
-    require(writeRtf(again) == written);
+    require(readRtf(written, again).ok(), "what is written can be read", written);
+    require(again.toRawText() == document.toRawText(), "the text stays", written);
+    require(writeRtf(again) == written, "it is written the same again", written);
     return 0;
 }

@@ -14,17 +14,25 @@ namespace {
 constexpr qsizetype mostFonts = 32768;
 constexpr qsizetype longestName = 256;
 
-// Old writers list a face once a script and tell the script in the name.
+// No face is named with what ends an entry of the table, stands for a picture or cannot be seen.
+QString cleanName(QString name) {
+    name.removeIf([](QChar c) {
+        return c.unicode() < u' ' || c == u';' || c == QChar(QChar::ObjectReplacementCharacter);
+    });
+    name.truncate(longestName);
+    return name.trimmed();
+}
+
+} // namespace
+
 QString withoutScript(const QString& name) {
     static constexpr QLatin1StringView scripts[] = {" CE"_L1,  " CYR"_L1, " Cyr"_L1,   " Greek"_L1,
                                                     " Tur"_L1, " TUR"_L1, " Baltic"_L1};
     for (const auto& script : scripts)
         if (name.size() > script.size() && name.endsWith(script))
-            return name.chopped(script.size());
+            return name.chopped(script.size()).trimmed();
     return name;
 }
-
-} // namespace
 
 void FontTable::begin(int number) {
     m_open = true;
@@ -67,8 +75,8 @@ void FontTable::commit(Names& names, const CodePage& documentPage) {
     const CodePage& latin = CodePage::forNumber(latin1Page);
     const CodePage& own = symbols ? latin : m_entry.page ? *m_entry.page : documentPage;
     own.decode(m_bytes, m_name);
-    const QString plain = m_plainName.isEmpty() ? withoutScript(m_name.trimmed()) : m_plainName;
-    const QString name = plain.trimmed();
+    const QString plain = cleanName(m_plainName);
+    const QString name = plain.isEmpty() ? withoutScript(cleanName(m_name)) : plain;
     // Of the fonts with pictures for letters only this one shows what Unicode has names for.
     if (symbols && !isSymbolFont(name))
         m_entry.page = &latin;

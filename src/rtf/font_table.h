@@ -9,6 +9,10 @@
 
 namespace orvalis::rtf {
 
+/// The name of a face without the script that old writers, which list a face once a script, tell
+/// behind it.
+QString withoutScript(const QString& name);
+
 /// The fonts of a file by their numbers, filled while the font table is read.
 class FontTable {
 public:

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/writer_tables.h"
 
+#include "rtf/font_table.h"
 #include "rtf/rtf_output.h"
 #include "rtf/symbol_font.h"
 
@@ -43,7 +44,14 @@ void WriterTables::write(RtfOutput& out) const {
         QString name = m_names.familyAt(m_fonts[number]);
         out.word("{\\f", int(number));
         out.word(isSymbolFamily(name) ? "\\fnil\\fcharset2" : "\\fnil\\fcharset0");
-        out.text(name.remove(u';'));
+        name.remove(u';');
+        // A reader would take the end of such a name for the script of its letters.
+        if (withoutScript(name) != name) {
+            out.structure("{\\*\\fname ");
+            out.text(name);
+            out.structure(";}");
+        }
+        out.text(name);
         out.structure(";}");
     }
     out.structure("}\r\n");

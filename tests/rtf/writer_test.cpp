@@ -19,6 +19,9 @@ private slots:
     void whatIsWrittenIsReadAgain();
     void numbersKeepTheDotThatTheyShow();
     void fontNamesOfMixedCharactersStay();
+    void aFontNamedLikeAScriptKeepsItsName();
+    void oddFontNamesAreWrittenTheSameAgain_data();
+    void oddFontNamesAreWrittenTheSameAgain();
 };
 
 void WriterTest::whatIsWrittenIsReadAgain() {
@@ -66,6 +69,41 @@ void WriterTest::fontNamesOfMixedCharactersStay() {
     QVERIFY(readRtf(source, document).ok());
     QCOMPARE(document.begin().begin().fragment().charFormat().fontFamilies().toStringList(),
              QStringList{QStringLiteral("A\u0415\u201A\u201E\u0404")});
+    const QByteArray written = writeRtf(document);
+    QTextDocument again;
+    QVERIFY(readRtf(written, again).ok());
+    QCOMPARE(writeRtf(again), written);
+}
+
+void WriterTest::aFontNamedLikeAScriptKeepsItsName() {
+    const QString name = QStringLiteral("GFS Greek");
+    QTextDocument document;
+    QTextCharFormat format;
+    format.setFontFamilies({name});
+    QTextCursor(&document).insertText(QStringLiteral("x"), format);
+    QTextDocument again;
+    QVERIFY(readRtf(writeRtf(document), again).ok());
+    QCOMPARE(again.begin().begin().fragment().charFormat().fontFamilies().toStringList(),
+             QStringList{name});
+}
+
+void WriterTest::oddFontNamesAreWrittenTheSameAgain_data() {
+    QTest::addColumn<QByteArray>("fonts");
+    QByteArray numbers;
+    for (int i = 0; i < 200; ++i)
+        numbers += "\\u233?";
+    QTest::newRow("longer than a name is kept")
+        << QByteArray("{\\f0 " + numbers + QByteArray(200, 'a') + "}");
+    QTest::newRow("two scripts") << QByteArray("{\\f0 Face CE CE;}");
+    QTest::newRow("a blank before the script") << QByteArray("{\\f0 Face  CE;}");
+    QTest::newRow("what ends an entry, by its number") << QByteArray("{\\f0 A\\u59?;}{\\f1 A;}");
+    QTest::newRow("what stands for a picture") << QByteArray("{\\f0 A\\u65532?;}{\\f1 A;}");
+}
+
+void WriterTest::oddFontNamesAreWrittenTheSameAgain() {
+    QFETCH(QByteArray, fonts);
+    QTextDocument document;
+    QVERIFY(readRtf("{\\rtf1{\\fonttbl" + fonts + "}\\f0 x\\f1 y\\par}", document).ok());
     const QByteArray written = writeRtf(document);
     QTextDocument again;
     QVERIFY(readRtf(written, again).ok());

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "alarm/alarm_set_dialog.h"
-#include "alarm/alarm_window.h"
 #include "controls/combo_box.h"
 #include "controls/label.h"
 #include "controls/rich_text_box.h"
@@ -14,7 +13,6 @@
 #include <QDir>
 #include <QGroupBox>
 #include <QLineEdit>
-#include <QMenuBar>
 
 using namespace orvalis;
 using namespace orvalis::test;
@@ -364,22 +362,6 @@ private slots:
         QVERIFY(dialog.outside.dialogs.opened.isEmpty());
         QVERIFY(dialog.outside.boxes.asked.isEmpty());
         QVERIFY(QGuiApplication::overrideCursor() == nullptr);
-    }
-
-    void thePlayerWindowHasMenusThatDoNothing() {
-        frmAlarm window;
-        window.load();
-        window.Show();
-        QStringList entries;
-        for (const QMenu* menu : window.findChildren<QMenu*>())
-            for (QAction* entry : menu->actions()) {
-                entries << entry->text();
-                entry->trigger();
-            }
-        for (const auto& entry : {u"&Repeat ..."_s, u"&Playback"_s, u"File &Intro"_s,
-                                  u"Sort &List ..."_s, u"&Load"_s, u"&Save"_s, u"&New"_s})
-            QVERIFY2(entries.contains(entry), qPrintable(entry));
-        QVERIFY(window.isVisible());
     }
 };
 

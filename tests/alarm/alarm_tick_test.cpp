@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "alarm/alarm_tick.h"
+#include "alarm/reminder_scan.h"
 #include "controls/label.h"
+#include "controls/ms_flex_grid.h"
 #include "core/start_window.h"
 #include "runtime/aligned_timer.h"
 #include "support/role_doubles.h"
@@ -78,6 +80,12 @@ private slots:
     void theWindowedTickDisarmsThroughItsForm();
     void theScanRunsOnlyWhileRemindersArePending();
     void theAlarmFiresWithNoWindowOnTheScreen();
+    void theFileOpensBeforeTheStickerIsMade();
+    void theNextAlarmReplacesWhatStandsInItsSticker();
+    void theAlarmComesBeforeTheReminders();
+    void aTickStaysInItsSecondWhateverTheAlarmTakes();
+    void theWindowsAlarmDisplayStaysUntilTheNextActivation();
+    void theMessageStaysOnTheDiskAndNothingElseIsKept();
     void twentyFourHoursOfJitterySecondsSkipNone();
 
 private:
@@ -85,6 +93,17 @@ private:
     void tickAt(const QTime& time) {
         m_test->clock.set(QDateTime(m_test->clock.date(), time));
         m_tick->run(*m_owner);
+    }
+    /// A reminder of today, pending.
+    void dueReminder(const QTime& time) {
+        MSFlexGrid& MS2 = start().MS2();
+        MS2.AddItem(reminderKey(QDateTime(m_test->clock.date(), time)));
+        MS2.AddItem(u"Call Ann"_s);
+        MS2.AddItem(u"behind it"_s);
+        MSFlexGrid& MS3 = m_test->program.windows.get<ReminderPanel>().MS3();
+        MS3.setRows(3);
+        m_test->program.state.RemindPending = true;
+        m_log.clear();
     }
     frmStart& start() { return static_cast<frmStart&>(m_test->program.windows.get<StartWindow>()); }
 
@@ -262,6 +281,8 @@ void AlarmTickTest::aMissingMessageInTheWindowedTickEndsItAndTheAlarmStaysArmed(
     QVERIFY(QFile::remove(m_test->folder.file(u"Msg.txt"_s)));
     arm({10, 30});
     m_test->program.state.RemindPending = true;
+    start().MS2().setRows(5);
+    start().MS2().setRow(1);
     m_test->clock.set(QDateTime(m_test->clock.date(), QTime(10, 30)));
     emit start().findChild<AlignedTimer*>(u"Timer23"_s)->tick();
     QVERIFY(m_test->program.state.alarmArmed);
@@ -269,6 +290,8 @@ void AlarmTickTest::aMissingMessageInTheWindowedTickEndsItAndTheAlarmStaysArmed(
     QVERIFY(!m_log.contains(u"popUp global xn"_s));
     // The document was opened before, and the reminders behind the failure were not looked at.
     QCOMPARE(m_test->shell.opened.size(), 1);
+    QCOMPARE(start().MS2().Row(), 1);
+    QCOMPARE(m_stickers->made.back()->Text1().Text(), u"\r\n"_s);
     m_test->folder.write(u"Msg.txt"_s, "late");
     m_test->clock.advanceSeconds(24 * 3600);
     emit start().findChild<AlignedTimer*>(u"Timer23"_s)->tick();
@@ -282,6 +305,8 @@ void AlarmTickTest::aMissingMessageInTheTrayIsAFailure() {
     QVERIFY(failure.has_value());
     QCOMPARE(failure->number(), ErrorNumber::FileNotFound);
     QVERIFY(m_test->program.state.alarmArmed);
+    // The clock is told first of all.
+    QCOMPARE(m_owner->clock, u"10 : 30 : 00"_s);
 }
 
 void AlarmTickTest::theWindowedTickDisarmsThroughItsForm() {
@@ -312,6 +337,66 @@ void AlarmTickTest::theAlarmFiresWithNoWindowOnTheScreen() {
     tickAt({10, 30});
     QVERIFY(!m_test->program.windows.get<MainWindow>().form().isVisible());
     QVERIFY(m_log.contains(u"popUp global xn"_s));
+}
+
+void AlarmTickTest::theFileOpensBeforeTheStickerIsMade() {
+    std::size_t made = 1;
+    m_test->shell.whileOpening = [&] { made = m_stickers->made.size(); };
+    arm({10, 30});
+    tickAt({10, 30});
+    QCOMPARE(made, std::size_t(0));
+    QCOMPARE(m_stickers->made.size(), std::size_t(1));
+}
+
+void AlarmTickTest::theNextAlarmReplacesWhatStandsInItsSticker() {
+    arm({10, 30});
+    tickAt({10, 30});
+    m_stickers->made.back()->Text1().SetText(u"typed by hand"_s);
+    m_test->folder.write(u"Msg.txt"_s, "Alarm time: 10:31:00\r\nCake");
+    arm({10, 31});
+    tickAt({10, 31});
+    QCOMPARE(m_stickers->made.back()->Text1().Text(), u"Alarm time: 10:31:00\r\nCake"_s);
+}
+
+void AlarmTickTest::theAlarmComesBeforeTheReminders() {
+    dueReminder({10, 30});
+    arm({10, 30});
+    tickAt({10, 30});
+    const auto alarm = m_log.indexOf(u"popUp global xn"_s);
+    const auto reminder = m_log.indexOf(u"new xn"_s);
+    QVERIFY(alarm >= 0);
+    QVERIFY(reminder > alarm);
+    QVERIFY(!m_test->program.state.alarmArmed);
+}
+
+void AlarmTickTest::aTickStaysInItsSecondWhateverTheAlarmTakes() {
+    dueReminder({10, 30});
+    m_test->shell.whileOpening = [this] { m_test->clock.advanceSeconds(3); };
+    arm({10, 30});
+    tickAt({10, 30});
+    QVERIFY(m_log.contains(u"popUp xn"_s));
+}
+
+void AlarmTickTest::theWindowsAlarmDisplayStaysUntilTheNextActivation() {
+    auto& main =
+        static_cast<LoggedPanel<MainWindow>&>(m_test->program.windows.get<MainWindow>().form());
+    arm({10, 30});
+    main.Show();
+    QCOMPARE(main.alarmShown(), u"10:30:00"_s);
+    tickAt({10, 30});
+    QVERIFY(!m_test->program.state.alarmArmed);
+    QCOMPARE(main.alarmShown(), u"10:30:00"_s);
+    main.Hide();
+    main.Show();
+    QCOMPARE(main.alarmShown(), QString());
+}
+
+void AlarmTickTest::theMessageStaysOnTheDiskAndNothingElseIsKept() {
+    arm({10, 30});
+    tickAt({10, 30});
+    QCOMPARE(m_test->folder.names(), QStringList{u"Msg.txt"_s});
+    QCOMPARE(m_test->folder.read(u"Msg.txt"_s), QByteArray("Alarm time: 10:30:00\r\nTea"));
+    QCOMPARE(m_test->store.valueCount(), 0);
 }
 
 void AlarmTickTest::twentyFourHoursOfJitterySecondsSkipNone() {

@@ -29,6 +29,8 @@ private slots:
     void theListOnThePanelLosesTwoRowsAtItsOwnCurrentRow();
     void firingLoadsTheReminderPanelSilently();
     void bothGridsAreSavedOnce();
+    void theListsChangeOnlyOnceTheStickerIsUp();
+    void pendingIsSettledOnceTheListsAreSaved();
     void pendingGoesOffWhereTheGridRestsOnRowOne();
     void pendingStaysOnWhereTheGridRestsElsewhere();
     void theFiringOfTheOnlyReminderEmptiesBothGridsAndStaysPending();
@@ -155,6 +157,7 @@ void ReminderScanTest::onlyOneReminderFiresInATick() {
     fill(MS3(), {u""_s, u"1"_s, u"2"_s, u"3"_s, u"4"_s});
     scan();
     QCOMPARE(m_stickers->made.size(), std::size_t(1));
+    QCOMPARE(m_stickers->made.back()->Text1().Text(), u"\r\nREMINDER:\r\na"_s);
     QCOMPARE(m_test->sound.played.size(), 1);
 }
 
@@ -206,6 +209,43 @@ void ReminderScanTest::bothGridsAreSavedOnce() {
     QCOMPARE(m_log.count(u"sv1"_s), 0);
 }
 
+void ReminderScanTest::theListsChangeOnlyOnceTheStickerIsUp() {
+    const QStringList list{u""_s, key({10, 24, 36}), u"a"_s, u"x"_s, u"y"_s};
+    fill(MS2(), list);
+    fill(MS3(), list);
+    QStringList hidden;
+    QStringList shown;
+    m_test->sound.whilePlaying = [&] {
+        hidden = rows(MS2());
+        shown = rows(MS3());
+        QVERIFY(!m_test->program.state.RemindFired);
+    };
+    scan();
+    QCOMPARE(hidden, list);
+    QCOMPARE(shown, list);
+    QVERIFY(m_log.indexOf(u"popUp xn"_s) < m_log.indexOf(u"sv3"_s));
+}
+
+void ReminderScanTest::pendingIsSettledOnceTheListsAreSaved() {
+    fill(MS2(), {key({10, 24, 36}), u"a"_s, u"x"_s, u"y"_s});
+    fill(MS3(), {u""_s, u"1"_s, u"2"_s});
+    auto& panel =
+        static_cast<FakeReminderPanel&>(m_test->program.windows.get<ReminderPanel>().form());
+    int hidden = 0;
+    int shown = 0;
+    bool pending = false;
+    panel.whileSaving = [&] {
+        hidden = MS2().Rows();
+        shown = MS3().Rows();
+        pending = m_test->program.state.RemindPending;
+    };
+    scan();
+    QCOMPARE(hidden, 2);
+    QCOMPARE(shown, 1);
+    QVERIFY(pending);
+    QVERIFY(!m_test->program.state.RemindPending);
+}
+
 void ReminderScanTest::pendingGoesOffWhereTheGridRestsOnRowOne() {
     fill(MS2(), {key({10, 24, 36}), u"a"_s, u"x"_s, u"y"_s});
     fill(MS3(), {u""_s, u"1"_s, u"2"_s});
@@ -242,7 +282,9 @@ void ReminderScanTest::aPanelWithOneRowAloneIsAFailureAndTheHiddenGridStays() {
     QCOMPARE(failure->number(), ErrorNumber::CannotRemoveLastRow);
     QCOMPARE(rows(MS2()), list);
     QVERIFY(m_log.contains(u"popUp xn"_s));
+    QVERIFY(m_test->program.state.RemindFired);
     QVERIFY(!m_log.contains(u"sv3"_s));
+    QVERIFY(m_test->program.state.RemindPending);
 }
 
 void ReminderScanTest::aKeyInTheLastRowHasNoMessageAndFails() {

@@ -15,16 +15,20 @@
 
 namespace orvalis::test {
 
-/// Opens and starts nothing, and keeps what it was asked for.
+/// Opens and starts nothing, and keeps what it was asked for. \c whileOpening runs in the place of
+/// what opens.
 class RecordingShell final : public Shell {
 public:
     QStringList opened;
     QStringList started;
     bool opens = true;
     QStringList programs; // those that start() finds
+    std::function<void()> whileOpening;
 
     bool open(const QString& documentOrAddress) override {
         opened << documentOrAddress;
+        if (whileOpening)
+            whileOpening();
         return opens;
     }
     void start(const QString& program) override {

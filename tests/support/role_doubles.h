@@ -10,6 +10,7 @@
 
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -86,8 +87,14 @@ public:
 
     MSFlexGrid& MS3() override { return *m_MS3; }
     void sv1() override { m_log << QStringLiteral("sv1"); }
-    void sv3() override { m_log << QStringLiteral("sv3"); }
+    void sv3() override {
+        m_log << QStringLiteral("sv3");
+        if (whileSaving)
+            whileSaving();
+    }
     void Sacremi() override { m_log << QStringLiteral("Sacremi"); }
+
+    std::function<void()> whileSaving; ///< Runs in the place of a save by `sv3`.
 
 private:
     QStringList& m_log;

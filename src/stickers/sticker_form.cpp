@@ -110,9 +110,10 @@ void StickerForm::makeTitle() {
     m_txtLabel1->setAccessibleName(u"Title"_s);
     setInk(*m_txtLabel1, QPalette::Text, skin::colour::StickerInk);
     connect(m_txtLabel1, &QLineEdit::textChanged, this, &StickerForm::setWindowTitle);
-    // A title that does not fit is read from its beginning.
+    // A title that does not fit is read from its beginning. The line edit is held itself: it tells
+    // of a lost focus when the window that had it is gone but for the toolkit's part.
     connect(m_txtLabel1, &QLineEdit::editingFinished, m_txtLabel1,
-            [this] { m_txtLabel1->setCursorPosition(0); });
+            [title = m_txtLabel1] { title->setCursorPosition(0); });
 }
 
 void StickerForm::makeText() {

@@ -11,6 +11,8 @@
 #include <QLabel>
 #include <QMenu>
 
+#include <optional>
+
 using namespace orvalis;
 using namespace orvalis::test;
 using namespace Qt::StringLiterals;
@@ -76,6 +78,15 @@ private slots:
         QVERIFY(tray.outside.program.state.trayActive);
         QVERIFY(!tray.form->isVisible());
         QVERIFY(tray.icons.menu() != nullptr);
+    }
+
+    void theIconIsAddedBeforeTheProgramCountsAsInTheTray() {
+        Tray tray;
+        std::optional<bool> wasInTray;
+        tray.icons.atCall = [&](Call) { wasInTray = tray.outside.program.state.trayActive; };
+        tray.form->load();
+        QCOMPARE(wasInTray, std::optional(false));
+        QVERIFY(tray.outside.program.state.trayActive);
     }
 
     void unloadTakesTheIconAway() {
@@ -205,6 +216,15 @@ private slots:
         tray.form->ShowMenu();
         QCOMPARE(tray.icons.count(Call::PopUp), 1);
         QCOMPARE(tray.icons.menu()->defaultAction(), tray.form->mnuSysTray(1));
+    }
+
+    void withoutADefaultEntryTheFirstOneIsTheDefault() {
+        Tray tray;
+        tray.load();
+        tray.form->AddMenuItem(u"A"_s, u"a"_s, false);
+        tray.form->AddMenuItem(u"B"_s, u"b"_s, false);
+        tray.form->ShowMenu();
+        QCOMPARE(tray.icons.menu()->defaultAction(), tray.form->mnuSysTray(0));
     }
 
     void aClickOnAnEntryTellsIndexAndKey() {

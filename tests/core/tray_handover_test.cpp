@@ -58,6 +58,13 @@ struct Stage {
                 captions << (entry->isSeparator() ? u"-"_s : entry->text());
         return captions;
     }
+    /// What each entry answers to, also those out of sight.
+    QStringList keys() const {
+        QStringList all;
+        for (const QAction* entry : icons.menu()->actions())
+            all << entry->data().toString();
+        return all;
+    }
     void choose(const QString& caption) const {
         for (QAction* entry : icons.menu()->actions())
             if (entry->text() == caption && !entry->isSeparator())
@@ -139,6 +146,58 @@ private slots:
             QCOMPARE(stage.entries(),
                      (QStringList{firstEntry, u"-"_s, u"Create Sticker"_s, u"-"_s,
                                   u"Disable Alarm"_s, u"-"_s, u"Options"_s, u"-"_s, u"Exit"_s}));
+        }
+    }
+
+    void eachEntryHasItsKey() {
+        Stage idle;
+        idle.window->miniClick();
+        QCOMPARE(idle.keys(),
+                 (QStringList{u"open"_s, {}, u"nalep"_s, {}, u"options"_s, {}, u"close"_s}));
+        Stage armed;
+        armed.arm();
+        armed.window->miniClick();
+        QCOMPARE(
+            armed.keys(),
+            (QStringList{
+                u"open"_s, {}, u"nalep"_s, {}, u"disable"_s, {}, u"options"_s, {}, u"close"_s}));
+    }
+
+    void aPanelLeavesTheScreenOnceItsIconIsComplete_data() {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<bool>("visible");
+        QTest::newRow("frmnotes hides first") << 0 << false;
+        for (int kind = 1; kind < 5; ++kind)
+            QTest::addRow("frmnotes%d hides last", kind) << kind << true;
+    }
+    void aPanelLeavesTheScreenOnceItsIconIsComplete() {
+        QFETCH(int, kind);
+        QFETCH(bool, visible);
+        Stage stage(static_cast<ChromeKind>(kind));
+        stage.arm();
+        QList<bool> wasVisible;
+        stage.icons.atCall = [&](Call) { wasVisible << stage.window->isVisible(); };
+        stage.window->miniClick();
+        QCOMPARE(wasVisible, (QList<bool>{visible, visible, visible}));
+        QVERIFY(!stage.window->isVisible());
+    }
+
+    void theWindowIsBackBeforeTheIconGoesAndTheTickComesLast() {
+        for (const int code : {0, 515}) {
+            Stage stage;
+            stage.window->miniClick();
+            QStringList seen;
+            stage.icons.atCall = [&](Call call) {
+                if (call == Call::Delete)
+                    seen << (stage.window->isVisible() ? u"shown"_s : u"hidden"_s)
+                         << (stage.start->timer23Enabled() ? u"ticking"_s : u"not ticking"_s);
+            };
+            if (code == 0)
+                stage.choose(u"Show Orvalis"_s);
+            else
+                stage.icons.tell(code);
+            QTRY_VERIFY(stage.start->timer23Enabled());
+            QCOMPARE(seen, (QStringList{u"shown"_s, u"not ticking"_s}));
         }
     }
 
@@ -304,6 +363,38 @@ private slots:
         QVERIFY(!stage.chooseEnds(u"Exit"_s));
         stage.outside.boxes.verifyAllAsked();
         QVERIFY(stage.outside.program.state.trayActive);
+    }
+
+    void exitGoesByTheAlarmAndNotByTheWindowsDisplayOfIt() {
+        {
+            Stage stage;
+            stage.arm();
+            stage.window->miniClick();
+            stage.outside.program.state.alarmArmed = false;
+            QCOMPARE(stage.window->alarmShown(), u"07:30:00"_s);
+            QVERIFY(stage.chooseEnds(u"Exit"_s));
+            QVERIFY(stage.outside.boxes.asked.isEmpty());
+        }
+        {
+            Stage stage;
+            stage.window->miniClick();
+            stage.outside.program.state.alarmArmed = true;
+            stage.outside.boxes.expect(u"The alarm is set.\nDisable alarm before you quit."_s, 64,
+                                       Answer::Ok);
+            QVERIFY(!stage.chooseEnds(u"Exit"_s));
+            stage.outside.boxes.verifyAllAsked();
+        }
+    }
+
+    void withAnArmedAlarmAndStickersExitTellsOfTheAlarmAlone() {
+        Stage stage;
+        stage.arm();
+        stage.outside.program.state.StickerCount = 2;
+        stage.window->miniClick();
+        stage.outside.boxes.expect(u"The alarm is set.\nDisable alarm before you quit."_s, 64,
+                                   Answer::Ok);
+        QVERIFY(!stage.chooseEnds(u"Exit"_s));
+        QCOMPARE(stage.outside.boxes.asked.size(), 1);
     }
 
     void withStickersOpenExitAsks() {

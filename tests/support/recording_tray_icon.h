@@ -7,6 +7,7 @@
 #include <QList>
 
 #include <algorithm>
+#include <functional>
 
 namespace orvalis::test {
 
@@ -44,10 +45,15 @@ public:
     /// The record as it last came.
     const TrayRecord& record() const { return m_record; }
 
+    /// Runs at each call that sends a record, before the call returns.
+    std::function<void(Call)> atCall;
+
 private:
     void keep(Call call, const TrayRecord& record) {
         m_record = record;
         m_entries.append(Entry{call, record.uFlags, record.szTip.text(), record.hIcon.cacheKey()});
+        if (atCall)
+            atCall(call);
     }
 
     QMenu* m_menu = nullptr;

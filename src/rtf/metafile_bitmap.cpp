@@ -8,7 +8,6 @@ namespace orvalis::rtf {
 
 namespace {
 
-constexpr quint32 placeableKey = 0x9ac6cdd7;
 constexpr qsizetype placeableHeaderSize = 22;
 constexpr quint16 metafileHeaderWords = 9;
 constexpr qsizetype recordHeaderSize = 6;
@@ -64,7 +63,7 @@ qsizetype enhancedDibField(quint32 type) {
 } // namespace
 
 QByteArrayView dibOfMetafile(QByteArrayView metafile) {
-    if (readU32(metafile, 0) == placeableKey)
+    if (hasPlaceableHeader(metafile))
         metafile = metafile.sliced(std::min(placeableHeaderSize, metafile.size()));
     if (readU16(metafile, 2) != metafileHeaderWords)
         return {};

@@ -13,7 +13,7 @@ class MetafileConverter {
 public:
     virtual ~MetafileConverter() = default;
 
-    /// \param metafile a Windows metafile, with a placeable header in front of it.
+    /// \param metafile a Windows metafile, with or without a placeable header.
     /// \param pixels the size at which it will be shown.
     /// \returns the picture, null when it could not be drawn.
     virtual QImage convert(QByteArrayView metafile, QSize pixels) = 0;

@@ -3,6 +3,7 @@
 #include "rtf/picture.h"
 
 #include "rtf/little_endian.h"
+#include "rtf/metafile_size.h"
 
 #include <algorithm>
 
@@ -14,12 +15,14 @@ constexpr double twipsPerHundredthMillimetre = 1440.0 / 2540.0;
 constexpr double twipsPerBitmapPixel = 15.0;
 constexpr double largestTwips = 100000;
 
-double wantedLength(const Picture& picture, int goal, int scale, int own) {
-    double twips = goal;
-    if (goal <= 0) {
-        const bool metafile = picture.kind == PictureKind::Wmf || picture.kind == PictureKind::Emf;
-        twips = own * (metafile ? twipsPerHundredthMillimetre : twipsPerBitmapPixel);
-    }
+double namedLength(const Picture& picture, int goal, int own) {
+    if (goal > 0)
+        return goal;
+    const bool metafile = picture.kind == PictureKind::Wmf || picture.kind == PictureKind::Emf;
+    return own * (metafile ? twipsPerHundredthMillimetre : twipsPerBitmapPixel);
+}
+
+double scaled(double twips, int scale) {
     if (scale > 0)
         twips = twips * scale / 100;
     return std::clamp(twips, 0.0, largestTwips);
@@ -28,19 +31,26 @@ double wantedLength(const Picture& picture, int goal, int scale, int own) {
 } // namespace
 
 QSizeF wantedTwips(const Picture& picture) {
-    const double width = wantedLength(picture, picture.goalWidth, picture.scaleX, picture.width);
-    const double height = wantedLength(picture, picture.goalHeight, picture.scaleY, picture.height);
-    return width > 0 && height > 0 ? QSizeF(width, height) : QSizeF();
+    QSizeF size(namedLength(picture, picture.goalWidth, picture.width),
+                namedLength(picture, picture.goalHeight, picture.height));
+    if (size.isEmpty())
+        size = metafileTwips(picture.bytes);
+    size = {scaled(size.width(), picture.scaleX), scaled(size.height(), picture.scaleY)};
+    return size.isEmpty() ? QSizeF() : size;
+}
+
+bool hasPlaceableHeader(QByteArrayView bytes) {
+    constexpr quint32 key = 0x9ac6cdd7;
+    return readU32(bytes, 0) == key;
 }
 
 PictureKind kindOfBytes(QByteArrayView bytes) {
-    constexpr quint32 placeableKey = 0x9ac6cdd7;
     constexpr quint32 enhancedSignature = 0x464d4520;
     if (bytes.startsWith("\x89PNG\r\n\x1a\n"))
         return PictureKind::Png;
     if (bytes.startsWith("\xff\xd8\xff"))
         return PictureKind::Jpeg;
-    if (readU32(bytes, 0) == placeableKey)
+    if (hasPlaceableHeader(bytes))
         return PictureKind::Wmf;
     if (readU32(bytes, 0) == 1 && readU32(bytes, 40) == enhancedSignature)
         return PictureKind::Emf;

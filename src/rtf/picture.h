@@ -42,8 +42,12 @@ struct Picture {
     QByteArray bytes;
 };
 
-/// The size in twips at which a picture wants to be shown; empty when it names none at all.
+/// The size in twips at which a picture wants to be shown, by the words around it or else by its
+/// own head where it is a metafile; empty when it names none at all.
 QSizeF wantedTwips(const Picture& picture);
+
+/// Whether a metafile begins with the header that tells its box.
+bool hasPlaceableHeader(QByteArrayView bytes);
 
 /// What the first bytes say that a picture is, whatever the file calls it.
 PictureKind kindOfBytes(QByteArrayView bytes);

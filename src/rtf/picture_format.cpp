@@ -80,6 +80,8 @@ QTextImageFormat pictureFormat(QTextDocument& document, const Picture& picture,
     if (image.isNull()) {
         image = imageOfPicture(picture, bounds.mostPixels, converter);
         bounds.spentPixels = qint64(image.width()) * image.height();
+        if (image.isNull())
+            wanted = drawingTwips(picture) / twipsPerPixel;
         if (image.isNull() && wanted.isEmpty())
             return {};
         if (image.isNull() && kindOfBytes(picture.bytes) == PictureKind::Unknown &&

@@ -20,6 +20,9 @@ namespace {
 // nothing but the claim.
 constexpr qint64 mostClaimedPixels = qint64(1) << 27;
 
+// An inch either way: enough to be seen, too little to be in the way.
+constexpr QSizeF unnamedTwips(1440, 1440);
+
 bool isEncoded(PictureKind kind) {
     return kind == PictureKind::Png || kind == PictureKind::Jpeg || kind == PictureKind::Other;
 }
@@ -54,6 +57,17 @@ QImage decoded(const QByteArray& bytes, qint64 mostPixels) {
     return reader.read();
 }
 
+QByteArrayView dibOfPicture(const Picture& picture, PictureKind kind) {
+    switch (kind) {
+    case PictureKind::Wmf:
+        return dibOfMetafile(picture.bytes);
+    case PictureKind::Emf:
+        return dibOfEnhancedMetafile(picture.bytes);
+    default:
+        return picture.bytes;
+    }
+}
+
 QImage shrunk(const QImage& image, qint64 mostPixels) {
     const QSize wanted = fitted(image.size(), mostPixels);
     return wanted == image.size()
@@ -73,12 +87,16 @@ QSize pixelSize(const Picture& picture) {
     }
     if (kind == PictureKind::DeviceDependent)
         return {picture.width, picture.height};
-    QByteArrayView dib = picture.bytes;
-    if (kind == PictureKind::Wmf)
-        dib = dibOfMetafile(picture.bytes);
-    else if (kind == PictureKind::Emf)
-        dib = dibOfEnhancedMetafile(picture.bytes);
+    const QByteArrayView dib = dibOfPicture(picture, kind);
     return dib.isEmpty() ? QSize() : QSize(int(readU32(dib, 4)), qAbs(qint32(readU32(dib, 8))));
+}
+
+QSizeF drawingTwips(const Picture& picture) {
+    const QSizeF wanted = wantedTwips(picture);
+    if (!wanted.isEmpty())
+        return wanted;
+    const PictureKind kind = kindOfBytes(picture.bytes);
+    return kind == PictureKind::Wmf || kind == PictureKind::Emf ? unnamedTwips : QSizeF();
 }
 
 QImage imageOfPicture(const Picture& picture, qint64 mostPixels, MetafileConverter* converter) {
@@ -90,15 +108,13 @@ QImage imageOfPicture(const Picture& picture, qint64 mostPixels, MetafileConvert
                       mostPixels);
     case PictureKind::Wmf:
     case PictureKind::Emf: {
-        const bool enhanced = trueKind(picture) == PictureKind::Emf;
-        const QByteArrayView dib =
-            enhanced ? dibOfEnhancedMetafile(picture.bytes) : dibOfMetafile(picture.bytes);
+        const QByteArrayView dib = dibOfPicture(picture, trueKind(picture));
         const QImage image = dib.isEmpty() ? QImage() : imageOfDib(dib);
         if (!image.isNull())
             return shrunk(image, mostPixels);
-        if (!converter || enhanced)
+        if (!converter || trueKind(picture) == PictureKind::Emf)
             return {};
-        const QSizeF twips = wantedTwips(picture);
+        const QSizeF twips = drawingTwips(picture);
         const QSize pixels = fitted((twips / twipsPerPixel).toSize(), mostPixels);
         return pixels.isEmpty() ? QImage() : converter->convert(picture.bytes, pixels);
     }

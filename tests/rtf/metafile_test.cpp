@@ -1,0 +1,228 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/device_bitmap.h"
+#include "rtf/format_properties.h"
+#include "rtf/metafile_converter.h"
+#include "rtf/picture.h"
+#include "rtf/reader.h"
+#include "rtf/writer.h"
+#include "sample_metafile.h"
+#include "sample_rtf.h"
+#include "support/test_main.h"
+
+#include <QGuiApplication>
+#include <QTextBlock>
+#include <QTextDocument>
+
+using namespace orvalis;
+using namespace orvalis::rtf;
+
+namespace {
+
+/// Draws everything in one colour and remembers what it was asked.
+class PlainConverter final : public MetafileConverter {
+public:
+    QByteArray asked;
+    QSize size;
+
+    QImage convert(QByteArrayView metafile, QSize pixels) override {
+        asked = metafile.toByteArray();
+        size = pixels;
+        QImage image(pixels, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        return image;
+    }
+};
+
+QByteArray rtfOf(const QByteArray& words, const QByteArray& bytes) {
+    return "{\\rtf1 a{\\pict" + words + "\r\n" + bytes.toHex() + "}b\\par}";
+}
+
+QTextImageFormat pictureOf(const QTextDocument& document) {
+    for (auto run = document.firstBlock().begin(); !run.atEnd(); ++run)
+        if (run.fragment().charFormat().isImageFormat())
+            return run.fragment().charFormat().toImageFormat();
+    return {};
+}
+
+QImage shown(const QTextDocument& document) {
+    return document.resource(QTextDocument::ImageResource, QUrl(pictureOf(document).name()))
+        .value<QImage>();
+}
+
+QByteArray withoutLineEnds(QByteArray bytes) {
+    return bytes.replace("\r\n", "");
+}
+
+constexpr quint32 copy = 0x00cc0020; // the operation that takes pixels over as they are
+
+} // namespace
+
+class MetafileTest : public QObject {
+    Q_OBJECT
+private slots:
+    void aBitmapInsideAMetafileIsShown_data();
+    void aBitmapInsideAMetafileIsShown();
+    void aDrawingWithoutSizeIsKept_data();
+    void aDrawingWithoutSizeIsKept();
+    void aDrawingIsDrawnAtItsSize_data();
+    void aDrawingIsDrawnAtItsSize();
+    void anEnhancedDrawingIsABoxWithItsBytes();
+    void theWordsWinOverTheHead();
+};
+
+void MetafileTest::aBitmapInsideAMetafileIsShown_data() {
+    QTest::addColumn<QByteArray>("words");
+    QTest::addColumn<QByteArray>("bytes");
+    const QByteArray dib = dibOfImage(test::sampleImage());
+    const auto dibSize = quint32(dib.size());
+    constexpr quint32 headSize = 40;
+    const auto row = [](const char* name, const char* words, const QByteArray& bytes) {
+        QTest::newRow(name) << QByteArray(words) << bytes;
+    };
+    const auto drawn = [](const QByteArray& record) {
+        return test::metafile(test::metafileRecord(0x0103, {8}) + record);
+    };
+    const int low = copy & 0xffff;
+    const int high = copy >> 16;
+    row("blit", "\\wmetafile8",
+        drawn(test::metafileRecord(0x0940, {low, high, 0, 0, 3, 4, 0, 0}, dib)));
+    row("stretched blit", "\\wmetafile8",
+        drawn(test::metafileRecord(0x0b41, {low, high, 3, 4, 0, 0, 30, 40, 0, 0}, dib)));
+    row("stretched bits", "\\wmetafile8",
+        drawn(test::metafileRecord(0x0f43, {low, high, 0, 3, 4, 0, 0, 30, 40, 0, 0}, dib)));
+    row("bits to the device", "\\wmetafile8",
+        drawn(test::metafileRecord(0x0d33, {0, 3, 0, 0, 0, 3, 4, 0, 0}, dib)));
+    row("behind a placeable header", "\\wmetafile8",
+        test::placeable({0, 0, 4, 3}, 96,
+                        drawn(test::metafileRecord(0x0940, {low, high, 0, 0, 3, 4, 0, 0}, dib))));
+    row("named the other kind", "\\emfblip",
+        drawn(test::metafileRecord(0x0940, {low, high, 0, 0, 3, 4, 0, 0}, dib)));
+    const auto enhanced = [](const QByteArray& record) {
+        return test::enhancedMetafile({0, 0, 106, 79}, test::enhancedRecord(17, {8}) + record);
+    };
+    row("enhanced, stretched bits", "\\emfblip",
+        enhanced(test::enhancedRecord(81,
+                                      {0, 0, 3, 2, 0, 0, 0, 0, 4, 3, 80, headSize, 80 + headSize,
+                                       dibSize - headSize, 0, copy, 4, 3},
+                                      dib)));
+    row("enhanced, bits to the device", "\\emfblip",
+        enhanced(test::enhancedRecord(80,
+                                      {0, 0, 3, 2, 0, 0, 0, 0, 4, 3, 76, headSize, 76 + headSize,
+                                       dibSize - headSize, 0, 0, 3},
+                                      dib)));
+    for (const quint32 type : {76u, 77u}) {
+        QList<quint32> words{0, 0, 3, 2, 0, 0, 4, 3, copy, 0, 0};
+        words += {0x3f800000, 0, 0, 0x3f800000, 0, 0, 0, 0}; // a matrix, a colour, a usage
+        const quint32 start = 8 + 4 * quint32(words.size()) + (type == 77 ? 24 : 16);
+        words += {start, headSize, start + headSize, dibSize - headSize};
+        if (type == 77)
+            words += {4, 3};
+        row(type == 77 ? "enhanced, stretched blit" : "enhanced, blit", "\\emfblip",
+            enhanced(test::enhancedRecord(type, words, dib)));
+    }
+}
+
+void MetafileTest::aBitmapInsideAMetafileIsShown() {
+    QFETCH(QByteArray, words);
+    QFETCH(QByteArray, bytes);
+    QTextDocument document;
+    QVERIFY(readRtf(rtfOf(words + "\\picwgoal600\\pichgoal300", bytes), document).ok());
+    QCOMPARE(document.toRawText(), QStringLiteral("a\ufffcb"));
+    QCOMPARE(shown(document).convertToFormat(QImage::Format_RGB32), test::sampleImage());
+    QCOMPARE(pictureOf(document).width(), 40.0);
+    QCOMPARE(pictureOf(document).height(), 20.0);
+    QVERIFY(withoutLineEnds(writeRtf(document)).contains(bytes.toHex()));
+}
+
+void MetafileTest::aDrawingWithoutSizeIsKept_data() {
+    QTest::addColumn<QByteArray>("words");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QSizeF>("pixels");
+    const auto row = [](const char* name, const char* words, const QByteArray& bytes,
+                        const QSizeF& pixels) {
+        QTest::newRow(name) << QByteArray(words) << bytes << pixels;
+    };
+    row("enhanced, sized by its frame", "\\emfblip",
+        test::vectorEnhancedMetafile({100, 100, 5080, 2540}), {192, 96});
+    row("enhanced, of no frame", "\\emfblip", test::vectorEnhancedMetafile({0, 0, 0, 0}), {96, 96});
+    row("sized by its box", "\\wmetafile8",
+        test::placeable({-50, 0, 300, 150}, 150, test::vectorMetafile()), {192, 96});
+    row("of a box on its head", "\\wmetafile8",
+        test::placeable({0, 150, 300, -150}, 150, test::vectorMetafile()), {192, 96});
+    row("of a box in no unit", "\\wmetafile8",
+        test::placeable({0, 0, 300, 150}, 0, test::vectorMetafile()), {96, 96});
+    row("bare", "\\wmetafile8", test::vectorMetafile(), {96, 96});
+    row("half as wide as its box", "\\wmetafile8\\picscalex50",
+        test::placeable({0, 0, 300, 150}, 150, test::vectorMetafile()), {96, 96});
+}
+
+void MetafileTest::aDrawingWithoutSizeIsKept() {
+    QFETCH(QByteArray, words);
+    QFETCH(QByteArray, bytes);
+    QFETCH(QSizeF, pixels);
+    QTextDocument document;
+    QVERIFY(readRtf(rtfOf(words, bytes), document).ok());
+    QCOMPARE(document.toRawText(), QStringLiteral("a\ufffcb"));
+    const QTextImageFormat format = pictureOf(document);
+    QVERIFY(std::abs(format.width() - pixels.width()) < 0.01);
+    QVERIFY(std::abs(format.height() - pixels.height()) < 0.01);
+    const QByteArray written = writeRtf(document);
+    QTextDocument again;
+    QVERIFY(readRtf(written, again).ok());
+    QCOMPARE(pictureOf(again).property(PictureSource).toByteArray(), bytes);
+    QCOMPARE(writeRtf(again), written);
+}
+
+void MetafileTest::aDrawingIsDrawnAtItsSize_data() {
+    QTest::addColumn<QByteArray>("words");
+    QTest::addColumn<QSize>("pixels");
+    QTest::newRow("by its goal") << QByteArray("\\picwgoal600\\pichgoal300") << QSize(40, 20);
+    QTest::newRow("by its source, in hundredths of a millimetre")
+        << QByteArray("\\picw2540\\pich1270") << QSize(96, 48);
+    QTest::newRow("by nothing") << QByteArray() << QSize(96, 96);
+}
+
+void MetafileTest::aDrawingIsDrawnAtItsSize() {
+    QFETCH(QByteArray, words);
+    QFETCH(QSize, pixels);
+    PlainConverter converter;
+    ReadOptions options;
+    options.metafiles = &converter;
+    const QByteArray bytes = test::vectorMetafile();
+    QTextDocument document;
+    QVERIFY(readRtf(rtfOf("\\wmetafile8" + words, bytes), document, options).ok());
+    QCOMPARE(converter.asked, bytes);
+    QCOMPARE(converter.size, pixels);
+    QCOMPARE(shown(document).size(), pixels);
+    QCOMPARE(pictureOf(document).width(), double(pixels.width()));
+    QCOMPARE(shown(document).pixelColor(0, 0), QColor(Qt::red));
+    QVERIFY(withoutLineEnds(writeRtf(document)).contains("\\wmetafile8"));
+    QVERIFY(withoutLineEnds(writeRtf(document)).contains(bytes.toHex()));
+}
+
+void MetafileTest::anEnhancedDrawingIsABoxWithItsBytes() {
+    PlainConverter converter;
+    ReadOptions options;
+    options.metafiles = &converter;
+    const QByteArray bytes = test::vectorEnhancedMetafile({0, 0, 2540, 2540});
+    QTextDocument document;
+    QVERIFY(readRtf(rtfOf("\\emfblip\\picwgoal600\\pichgoal300", bytes), document, options).ok());
+    QVERIFY(converter.asked.isEmpty());
+    QCOMPARE(shown(document).size(), QSize(40, 20));
+    QCOMPARE(shown(document).pixelColor(20, 10), QColor(Qt::white));
+    const QByteArray written = withoutLineEnds(writeRtf(document));
+    QVERIFY(written.contains("\\emfblip"));
+    QVERIFY(written.contains("\\picwgoal600\\pichgoal300" + bytes.toHex()));
+}
+
+void MetafileTest::theWordsWinOverTheHead() {
+    QTextDocument document;
+    const QByteArray bytes = test::vectorEnhancedMetafile({0, 0, 2540, 2540});
+    QVERIFY(readRtf(rtfOf("\\emfblip\\picw508\\pich254", bytes), document).ok());
+    QVERIFY(std::abs(pictureOf(document).width() - 19.2) < 0.01);
+    QVERIFY(std::abs(pictureOf(document).height() - 9.6) < 0.01);
+}
+
+ORVALIS_TEST_MAIN_WITH(QGuiApplication, MetafileTest)
+#include "metafile_test.moc"

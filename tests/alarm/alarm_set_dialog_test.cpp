@@ -4,6 +4,7 @@
 #include "controls/combo_box.h"
 #include "controls/label.h"
 #include "controls/rich_text_box.h"
+#include "runtime/failure.h"
 #include "support/plain_windows.h"
 #include "support/test_main.h"
 #include "support/test_program.h"
@@ -79,14 +80,30 @@ private slots:
         QCOMPARE(dialog.form().size(), QSize(271, 278));
     }
 
+    void beforeItsLoadItIsAlarmSet() {
+        Dialog dialog;
+        const frmAlSet form(dialog.outside.program);
+        QCOMPARE(form.windowTitle(), u"Alarm Set"_s);
+        QCOMPARE(form.findChild<Label*>(u"Label5"_s)->Caption(), u"00:00:00"_s);
+        QCOMPARE(form.findChild<ComboBox*>(u"Combo1"_s)->Text(), u"00"_s);
+        QCOMPARE(form.findChild<ComboBox*>(u"Combo2"_s)->Text(), u"00"_s);
+    }
+
+    void itShowsWithoutHoldingTheOtherWindows() {
+        Dialog dialog;
+        dialog.form().Show();
+        QVERIFY(dialog.form().isVisible());
+        QCOMPARE(dialog.form().windowModality(), Qt::NonModal);
+        QVERIFY(QApplication::activeModalWidget() == nullptr);
+    }
+
     void theListsHoldEachHourAndMinuteOnceInTwoDigits() {
         Dialog dialog;
         QCOMPARE(dialog.hour()->ListCount(), 24);
-        QCOMPARE(dialog.hour()->List(0), u"00"_s);
-        QCOMPARE(dialog.hour()->List(9), u"09"_s);
-        QCOMPARE(dialog.hour()->List(23), u"23"_s);
         QCOMPARE(dialog.minute()->ListCount(), 60);
-        QCOMPARE(dialog.minute()->List(59), u"59"_s);
+        for (ComboBox* box : {dialog.hour(), dialog.minute()})
+            for (int i = 0; i < box->ListCount(); ++i)
+                QCOMPARE(box->List(i), u"%1"_s.arg(i, 2, 10, QChar(u'0')));
         QCOMPARE(dialog.hour()->Text(), u"00"_s);
         QCOMPARE(dialog.minute()->Text(), u"00"_s);
         QCOMPARE(dialog.shown(), u"00 : 00 : 00"_s);
@@ -207,6 +224,7 @@ private slots:
     void invalidTextAtOkIsReportedAndTheDialogStays() {
         QFETCH(QString, text);
         Dialog dialog;
+        dialog.state().alarmTime = QTime(8, 15);
         if (!text.isEmpty())
             dialog.outside.boxes.expect(u"Invalid input for time."_s, 16, Answer::Ok);
         dialog.hour()->setText(text);
@@ -216,6 +234,8 @@ private slots:
         QVERIFY(dialog.isLoaded());
         QVERIFY(!dialog.state().alarmArmed);
         QCOMPARE(dialog.state().alarmTimeText, text + u":00:00"_s);
+        QCOMPARE(dialog.state().alarmTime, QTime(8, 15));
+        QCOMPARE(dialog.message()->Text(), u"Message not set"_s);
         QVERIFY(dialog.msg().isEmpty());
         QVERIFY(QGuiApplication::overrideCursor() == nullptr);
     }
@@ -245,6 +265,39 @@ private slots:
         QVERIFY(QGuiApplication::overrideCursor() == nullptr);
     }
 
+    void okAfterAMsgThatCouldNotBeWrittenHeadsTheMessageTwice() {
+        Dialog dialog;
+        const QString msg = dialog.outside.folder.file(u"Msg.txt"_s);
+        QVERIFY(QDir().mkdir(msg));
+        dialog.message()->SetText(u"Tea"_s);
+        dialog.outside.boxes.expect(u"Path/File access error"_s, 64, Answer::Ok);
+        dialog.ok();
+        QCOMPARE(dialog.message()->Text(), u"Alarm time: 00:00:00\r\nTea"_s);
+        QVERIFY(QDir().rmdir(msg));
+        dialog.ok();
+        QVERIFY(dialog.state().alarmArmed);
+        QCOMPARE(dialog.msg(), QByteArray("Alarm time: 00:00:00\r\nAlarm time: 00:00:00\r\nTea"));
+    }
+
+    void anAlarmThatIsArmedStaysSoAtCancelAndIsReplacedAtOk() {
+        Dialog dialog;
+        dialog.choose(dialog.hour(), 6);
+        dialog.message()->SetText(u"first"_s);
+        dialog.ok();
+        dialog.choose(dialog.hour(), 9);
+        dialog.cancel();
+        QVERIFY(dialog.state().alarmArmed);
+        QCOMPARE(dialog.state().alarmTimeText, u"06:00:00"_s);
+        QCOMPARE(dialog.state().alarmTime, QTime(6, 0));
+        QCOMPARE(dialog.msg(), QByteArray("Alarm time: 06:00:00\r\nfirst"));
+        dialog.choose(dialog.hour(), 9);
+        dialog.ok();
+        QVERIFY(dialog.state().alarmArmed);
+        QCOMPARE(dialog.state().alarmTimeText, u"09:00:00"_s);
+        QCOMPARE(dialog.state().alarmTime, QTime(9, 0));
+        QCOMPARE(dialog.msg(), QByteArray("Alarm time: 09:00:00\r\nMessage not set"));
+    }
+
     void openingForgetsAnEarlierFileAlsoWhenLeftByCancel() {
         Dialog dialog;
         dialog.state().alarmMediaFile = u"/music/old.wav"_s;
@@ -264,6 +317,15 @@ private slots:
         QTest::keyClick(&dialog.form(), Qt::Key_Escape);
         QVERIFY(!dialog.isLoaded());
         QVERIFY(!dialog.state().alarmArmed);
+    }
+
+    void theWindowManagersCloseIsCancel() {
+        Dialog dialog;
+        dialog.form().Show();
+        dialog.form().close();
+        QVERIFY(!dialog.isLoaded());
+        QVERIFY(!dialog.state().alarmArmed);
+        QVERIFY(dialog.msg().isEmpty());
     }
 
     void eachOpeningStartsFrom00() {
@@ -303,10 +365,12 @@ private slots:
     void cancelOfTheFileDialogIsFileNotFoundAndTheDialogStays() {
         Dialog dialog;
         dialog.form().Show();
+        dialog.state().alarmMediaFile = u"/music/chosen.wav"_s;
         dialog.outside.dialogs.answerOpen(std::nullopt);
         dialog.outside.boxes.expect(u"File not found."_s, 16, Answer::Ok);
         dialog.media();
         dialog.outside.boxes.verifyAllAsked();
+        QCOMPARE(dialog.state().alarmMediaFile, u"/music/chosen.wav"_s);
         QVERIFY(dialog.isLoaded());
         QVERIFY(dialog.form().isVisible());
         QVERIFY(QGuiApplication::overrideCursor() == nullptr);
@@ -331,6 +395,19 @@ private slots:
         dialog.media();
         dialog.outside.boxes.verifyAllAsked();
         QCOMPARE(dialog.state().alarmMediaFile, file);
+    }
+
+    void aFailureOfTheFileChoiceIsReportedWithTheStopIcon() {
+        Dialog dialog;
+        dialog.outside.dialogs.whileOpen = [] {
+            throw RuntimeError(ErrorNumber::PermissionDenied);
+        };
+        dialog.outside.boxes.expect(u"Permission denied"_s, 16, Answer::Ok);
+        dialog.media();
+        dialog.outside.boxes.verifyAllAsked();
+        QVERIFY(dialog.isLoaded());
+        QCOMPARE(dialog.state().alarmMediaFile, QString());
+        QVERIFY(QGuiApplication::overrideCursor() == nullptr);
     }
 
     void theHourglassIsUpAroundTheFileDialogAndTheArming() {

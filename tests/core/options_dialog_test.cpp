@@ -79,6 +79,23 @@ private slots:
         QCOMPARE(options.control<QGroupBox>(u"Frame6"_s)->title(), u"Display Time Format"_s);
     }
 
+    void itShowsWithoutHoldingTheOtherWindows() {
+        Options options;
+        options.form().Show();
+        QVERIFY(options.form().isVisible());
+        QCOMPARE(options.form().windowModality(), Qt::NonModal);
+    }
+
+    void eachMissingSettingHasADefaultOfItsOwn() {
+        Options options;
+        options.put(u"Media"_s, u"Player2"_s, u"False"_s);
+        options.put(u"Reg"_s, u"1st"_s, u"False"_s);
+        QVERIFY(!options.checked(u"Option1(0)"_s));
+        QVERIFY(!options.checked(u"Option1(1)"_s));
+        QVERIFY(!options.checked(u"optSort(0)"_s));
+        QVERIFY(!options.checked(u"optSort(1)"_s));
+    }
+
     void onAFreshProfileTheDefaultsShow() {
         Options options;
         QVERIFY(!options.checked(u"Option1(0)"_s));
@@ -148,6 +165,34 @@ private slots:
         QVERIFY(options.role().builtInPlayer());
     }
 
+    void okGoesByTheRunEntryTheFormatAndTheSettingsInThatOrder() {
+        Options options;
+        options.check1()->setChecked(true);
+        options.chooseFormat(7);
+        QStringList seen;
+        options.outside.logonEntry.atCall = [&] {
+            seen << u"entry, format %1"_s.arg(options.format());
+        };
+        options.outside.store.atWrite = [&](const QString& path, const QString& name) {
+            seen << path.section(u'\\', -1) + u'/' + name;
+            QCOMPARE(options.format(), 7);
+            QVERIFY(options.isLoaded());
+        };
+        options.ok();
+        QCOMPARE(seen, (QStringList{u"entry, format 0"_s, u"Media/Player1"_s, u"Media/Player2"_s,
+                                    u"Reg/Start"_s, u"Reg/1st"_s, u"Reg/2nd"_s, u"Reg/Vreme"_s}));
+        QVERIFY(!options.isLoaded());
+    }
+
+    void theFormatKeepsItsValueWhenTheDialogGoes() {
+        Options options;
+        options.put(u"Reg"_s, u"Vreme"_s, u"8"_s);
+        options.role();
+        options.cancel();
+        QVERIFY(!options.isLoaded());
+        QCOMPARE(options.format(), 8);
+    }
+
     void okWithoutAClickOnTheListStoresTheFirstFormat() {
         Options options;
         options.put(u"Reg"_s, u"Vreme"_s, u"8"_s);
@@ -195,6 +240,16 @@ private slots:
         QTest::keyClick(&options.form(), Qt::Key_Escape);
         QVERIFY(!options.isLoaded());
         QCOMPARE(options.outside.store.valueCount(), 0);
+    }
+
+    void theWindowManagersCloseIsCancel() {
+        Options options;
+        options.form().Show();
+        options.chooseFormat(9);
+        options.form().close();
+        QVERIFY(!options.isLoaded());
+        QCOMPARE(options.outside.store.valueCount(), 0);
+        QCOMPARE(options.format(), 0);
     }
 
     void tickingStartEntersTheProgramAtLogonAndUntickingTakesItOut() {

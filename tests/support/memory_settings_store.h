@@ -7,6 +7,8 @@
 #include <QMap>
 #include <QSet>
 
+#include <functional>
+
 namespace orvalis::test {
 
 /// Settings that live as long as the test, and can be told to refuse writes.
@@ -14,6 +16,8 @@ class MemorySettingsStore final : public SettingsStore {
 public:
     bool writable = true;
     int writes = 0; ///< Values that were to be written, the refused ones included.
+    /// Runs before each of these writes.
+    std::function<void(const QString& path, const QString& name)> atWrite;
 
     bool hasKey(Hive hive, const QString& path) const override {
         return m_keys.contains(keyOf(hive, path));
@@ -31,6 +35,8 @@ public:
     bool setValue(Hive hive, const QString& path, const QString& name,
                   const StoredValue& value) override {
         ++writes;
+        if (atWrite)
+            atWrite(path, name);
         if (createKey(hive, path))
             m_values[keyOf(hive, path) + u'|' + name.toLower()] = value;
         return writable;

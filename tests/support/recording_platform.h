@@ -58,12 +58,18 @@ class RecordingLogonEntry final : public LogonEntry {
 public:
     QMap<QString, QString> entries;
     bool permitted = true;
+    /// Runs before an entry is set or removed.
+    std::function<void()> atCall;
 
     void set(const QString& name, const QString& programPath) override {
+        if (atCall)
+            atCall();
         if (permitted)
             entries[name] = programPath;
     }
     void remove(const QString& name) override {
+        if (atCall)
+            atCall();
         if (permitted)
             entries.remove(name);
     }

@@ -85,8 +85,7 @@ void BodyWriter::change(const CharFormat& format) {
     toggle(format.strike, m_format.strike, "\\strike");
     toggle(format.controlMarks, m_format.controlMarks, "\\orvmarks");
     toggle(format.hidden, m_format.hidden, "\\v");
-    toggle(format.capitals == Capitals::Small, m_format.capitals == Capitals::Small, "\\scaps");
-    toggle(format.capitals == Capitals::All, m_format.capitals == Capitals::All, "\\caps");
+    changeCapitals(format.capitals);
     if (format.raise != m_format.raise)
         m_out.word(format.raise < 0 ? "\\dn" : "\\up", std::abs(format.raise));
     if (format.script != m_format.script)
@@ -98,6 +97,17 @@ void BodyWriter::change(const CharFormat& format) {
     if (format.halfPoints != m_format.halfPoints)
         m_out.word("\\fs", format.halfPoints);
     m_format = format;
+}
+
+void BodyWriter::changeCapitals(Capitals capitals) {
+    if (capitals == m_format.capitals)
+        return;
+    // The one kind ends before the other begins: many readers keep them in one place.
+    const auto word = [](Capitals kind) { return kind == Capitals::Small ? "\\scaps" : "\\caps"; };
+    if (m_format.capitals != Capitals::AsTyped)
+        m_out.word(word(m_format.capitals), 0);
+    if (capitals != Capitals::AsTyped)
+        m_out.word(word(capitals));
 }
 
 void BodyWriter::changeLink(int link) {
@@ -128,7 +138,10 @@ void BodyWriter::text(QStringView text, const CharFormat& format) {
 }
 
 void BodyWriter::picture(const Picture& picture, const CharFormat& format) {
-    change(format);
+    // Hidden text is only not drawn, a hidden picture is skipped by readers.
+    CharFormat shown = format;
+    shown.hidden = false;
+    change(shown);
     if (!picture.bytes.isEmpty())
         m_out.structure(pictureGroups(picture));
 }

@@ -39,6 +39,7 @@ public:
 
 private:
     void change(const CharFormat& format);
+    void changeCapitals(Capitals capitals);
     void changeLink(int link);
     void toggle(bool on, bool was, QByteArrayView word);
 

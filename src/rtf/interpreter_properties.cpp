@@ -85,7 +85,11 @@ bool Interpreter::characterWord(const Token& token) {
                       (token.hasParameter ? std::clamp(token.parameter, 0, largestRaise) : 6);
         return true;
     case Action::CapitalsKind:
-        chars.capitals = isOn(token) ? static_cast<Capitals>(token.word->value) : Capitals::AsTyped;
+        // Switched off, the one kind leaves the other alone.
+        if (isOn(token))
+            chars.capitals = static_cast<Capitals>(token.word->value);
+        else if (chars.capitals == static_cast<Capitals>(token.word->value))
+            chars.capitals = Capitals::AsTyped;
         return true;
     case Action::UnicodeSkip:
         m_state.unicodeSkip =

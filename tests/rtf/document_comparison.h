@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "rtf/format_properties.h"
+
 #include <QFont>
 #include <QTextBlock>
 #include <QTextDocument>
@@ -29,6 +31,10 @@ inline QString differenceOfCharacters(const QTextCharFormat& a, const QTextCharF
                 .arg(one.height())
                 .arg(other.width())
                 .arg(other.height());
+        if (a.hasProperty(rtf::PictureSource) && b.hasProperty(rtf::PictureSource) &&
+            a.intProperty(rtf::PictureSourceKind) == b.intProperty(rtf::PictureSourceKind) &&
+            a.property(rtf::PictureSource) != b.property(rtf::PictureSource))
+            return u"bytes of the picture"_s;
     }
     if (a.fontFamilies().toStringList().value(0) != b.fontFamilies().toStringList().value(0))
         return u"font %1, then %2"_s.arg(a.fontFamilies().toStringList().value(0),
@@ -43,12 +49,17 @@ inline QString differenceOfCharacters(const QTextCharFormat& a, const QTextCharF
         return u"bold"_s;
     if (a.fontItalic() != b.fontItalic())
         return u"italic"_s;
-    if (a.underlineStyle() != b.underlineStyle())
+    if (a.underlineStyle() != b.underlineStyle() ||
+        a.intProperty(rtf::UnderlineKind) != b.intProperty(rtf::UnderlineKind))
         return u"underline"_s;
     if (a.fontStrikeOut() != b.fontStrikeOut())
         return u"strike"_s;
     if (a.verticalAlignment() != b.verticalAlignment())
         return u"script"_s;
+    if (!near(a.baselineOffset(), b.baselineOffset()))
+        return u"raise %1, then %2"_s.arg(a.baselineOffset()).arg(b.baselineOffset());
+    if (a.property(rtf::HiddenText) != b.property(rtf::HiddenText))
+        return u"hiding"_s;
     if (a.fontCapitalization() != b.fontCapitalization())
         return u"capitals"_s;
     if (a.anchorHref() != b.anchorHref())
@@ -71,6 +82,8 @@ inline QString differenceOfParagraphs(const QTextBlock& one, const QTextBlock& o
         return u"line spacing"_s;
     if (a.tabPositions() != b.tabPositions())
         return u"tabs"_s;
+    if (a.pageBreakPolicy() != b.pageBreakPolicy())
+        return u"page break"_s;
     if (a.layoutDirection() != b.layoutDirection())
         return u"direction"_s;
     const QTextList* list = one.textList();

@@ -85,6 +85,7 @@ void ReaderFormatTest::everyCharacterWordChangesWhatItNames_data() {
     row("\\caps", [](CharFormat& f) { f.capitals = Capitals::All; });
     row("\\scaps", [](CharFormat& f) { f.capitals = Capitals::Small; });
     row("\\scaps\\scaps0", [](CharFormat&) {});
+    row("\\scaps\\caps0", [](CharFormat& f) { f.capitals = Capitals::Small; });
     row("\\fs36", [](CharFormat& f) { f.halfPoints = 36; });
     row("\\fs0", [](CharFormat&) {});
     row("\\fs-4", [](CharFormat&) {});

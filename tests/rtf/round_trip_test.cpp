@@ -1,8 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "document_comparison.h"
+#include "rtf/device_bitmap.h"
+#include "rtf/format_properties.h"
+#include "rtf/formats.h"
+#include "rtf/picture_format.h"
 #include "rtf/reader.h"
 #include "rtf/writer.h"
+#include "sample_metafile.h"
 #include "sample_rtf.h"
 #include "support/test_main.h"
 
@@ -33,8 +38,12 @@ public:
             if (below(4) == 0)
                 list(cursor);
             const int runs = below(5);
-            for (int run = 0; run < runs; ++run)
-                cursor.insertText(text(), look());
+            for (int run = 0; run < runs; ++run) {
+                if (below(8) == 0)
+                    picture(cursor);
+                else
+                    cursor.insertText(text(), below(6) == 0 ? hidden(look()) : look());
+            }
         }
     }
 
@@ -67,6 +76,11 @@ private:
         format.setFontStrikeOut(below(5) == 0);
         format.setUnderlineStyle(
             static_cast<QTextCharFormat::UnderlineStyle>(below(3) == 0 ? 1 + below(4) : 0));
+        if (format.underlineStyle() == QTextCharFormat::SingleUnderline && below(2) == 0) {
+            static constexpr Underline kinds[] = {Underline::Words, Underline::Double,
+                                                  Underline::Thick};
+            format.setProperty(UnderlineKind, int(kinds[below(3)]));
+        }
         if (below(3) == 0)
             format.setForeground(QColor(below(256), below(256), below(256)));
         if (below(5) == 0)
@@ -74,11 +88,55 @@ private:
         if (below(6) == 0)
             format.setVerticalAlignment(below(2) == 0 ? QTextCharFormat::AlignSuperScript
                                                       : QTextCharFormat::AlignSubScript);
+        if (below(6) == 0)
+            format.setBaselineOffset((below(25) - 12) * 50 / format.fontPointSize());
+        if (below(4) == 0)
+            format.setFontCapitalization(below(2) == 0 ? QFont::AllUppercase : QFont::SmallCaps);
         if (below(6) == 0) {
             format.setAnchor(true);
             format.setAnchorHref(QStringLiteral("http://a.b/%1?\"c\\d").arg(below(3)));
         }
         return format;
+    }
+
+    static QTextCharFormat hidden(QTextCharFormat format) {
+        const bool automatic = format.foreground().style() == Qt::NoBrush;
+        format.setProperty(HiddenText,
+                           int(automatic ? automaticColor : format.foreground().color().rgb()));
+        format.setForeground(QColor(Qt::transparent));
+        format.setFontLetterSpacingType(QFont::PercentageSpacing);
+        format.setFontLetterSpacing(1);
+        return format;
+    }
+
+    void picture(QTextCursor& cursor) {
+        const QImage image = test::sampleImage(1 + below(6), 1 + below(6));
+        Picture picture;
+        switch (below(4)) {
+        case 0:
+            picture.kind = PictureKind::Png;
+            picture.bytes = test::encoded(image, "PNG");
+            break;
+        case 1:
+            picture.kind = PictureKind::Jpeg;
+            picture.bytes = test::encoded(image, "JPG");
+            break;
+        case 2:
+            picture.kind = PictureKind::Wmf;
+            picture.bytes = metafileOfDib(dibOfImage(image), image.size());
+            break;
+        default:
+            picture.kind = PictureKind::Emf;
+            picture.bytes = test::vectorEnhancedMetafile({0, 0, 2540, 2540});
+        }
+        if (below(2) == 0) {
+            picture.goalWidth = 1 + below(2000);
+            picture.goalHeight = 1 + below(2000);
+        }
+        PictureBounds bounds;
+        QTextCharFormat format = look();
+        format.merge(pictureFormat(*cursor.document(), picture, nullptr, bounds));
+        cursor.insertImage(format.toImageFormat());
     }
 
     QTextBlockFormat shape() {
@@ -97,6 +155,8 @@ private:
             format.setTabPositions({QTextOption::Tab(100, QTextOption::RightTab)});
         if (below(6) == 0)
             format.setLayoutDirection(Qt::RightToLeft);
+        if (below(8) == 0)
+            format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
         return format;
     }
 
@@ -127,6 +187,7 @@ private slots:
     void theSameDocumentGivesTheSameBytes();
     void whatWasReadIsWrittenTheSameAgain();
     void neighbouringListsOfBulletsAreWrittenTheSameAgain();
+    void aPictureAmongHiddenTextStays();
     void everyPartOfADocumentCanBeWritten();
     void onlyAsciiIsWritten();
 };
@@ -183,6 +244,18 @@ void RoundTripTest::neighbouringListsOfBulletsAreWrittenTheSameAgain() {
     QTextDocument again;
     QVERIFY(readRtf(written, again).ok());
     QCOMPARE(writeRtf(again), written);
+}
+
+void RoundTripTest::aPictureAmongHiddenTextStays() {
+    QTextDocument document;
+    QTextCursor cursor(&document);
+    readRtf("{\\rtf1\\v hidden\\par}", document);
+    cursor.setPosition(3);
+    QVERIFY(insertPicture(cursor, test::encoded(test::sampleImage(), "PNG")));
+    QTextDocument again;
+    QVERIFY(readRtf(writeRtf(document), again).ok());
+    QCOMPARE(again.toRawText(), QStringLiteral("hid\ufffcden"));
+    QVERIFY(again.firstBlock().begin().fragment().charFormat().hasProperty(HiddenText));
 }
 
 void RoundTripTest::everyPartOfADocumentCanBeWritten() {

@@ -50,7 +50,8 @@ private slots:
     void theMessageKeepsItsOwnFormats();
     void theDueLineIsPlainSmallArial();
     void theDueLineOfATopPriorityIsRed();
-    void theSavedLineIsBlack();
+    void theSavedLineIsBlackAndOtherwiseAsTheDueLine();
+    void itemsStandInTheOrderOfSaving();
     void theEntryStandsForTheDateOfTheCalendar();
     void theTitleTakesTheFormatAtTheEnd();
     void theDocumentIsSavedAndTheCaretRestsAtItsEnd();
@@ -145,11 +146,37 @@ void MessageSaveTest::theDueLineOfATopPriorityIsRed() {
     QCOMPARE(formatOf(ground.rt1a(), u"To do: Saturday, March 14, 2026"_s).colour, 255u);
 }
 
-void MessageSaveTest::theSavedLineIsBlack() {
+void MessageSaveTest::theSavedLineIsBlackAndOtherwiseAsTheDueLine() {
     PanelGround ground;
+    ground.rt1().SetSelFontSize(20);
+    ground.rt1().SetSelBold(true);
+    ground.rt1().SetSelText(u"loud"_s);
     ground.tick(u"chkTop"_s);
     ground.press(u"imgSave"_s);
-    QCOMPARE(formatOf(ground.rt1a(), u"Saved: 3/14/26"_s).colour, 0u);
+    const Format saved = formatOf(ground.rt1a(), u"    Saved: 3/14/26 10:24:36 AM"_s);
+    QCOMPARE(saved.colour, 0u);
+    QCOMPARE(saved.name, u"Arial"_s);
+    QCOMPARE(saved.size, 8.0);
+    QCOMPARE(saved.bold, false);
+}
+
+void MessageSaveTest::itemsStandInTheOrderOfSaving() {
+    PanelGround ground;
+    for (const QDate& date : {QDate(2026, 12, 1), QDate(2026, 3, 20)}) {
+        ground.calendar().setValue(date);
+        ground.rt1().SetText(QString::number(date.day()));
+        ground.tick(u"chkTop"_s);
+        ground.tick(u"chkRemind"_s);
+        ground.rtMs2().SetText(QString::number(date.month()));
+        ground.press(u"Button1"_s);
+        ground.press(u"imgSave"_s);
+    }
+    QCOMPARE(ground.folder.read(u"tmp1.brf"_s),
+             QByteArray(" 5  1 \r\n\r\nTuesday, December 01, 2026\r\n1\r\n"
+                        "Friday, March 20, 2026\r\n20\r\n"));
+    QCOMPARE(ground.folder.read(u"tmp2.brf"_s),
+             QByteArray(" 5  1 \r\n\r\nTuesday, December 01, 2026/00 : 00 : 00\r\n12\r\n"
+                        "Friday, March 20, 2026/00 : 00 : 00\r\n3\r\n"));
 }
 
 void MessageSaveTest::theEntryStandsForTheDateOfTheCalendar() {
@@ -188,6 +215,8 @@ void MessageSaveTest::aTopPriorityMessageLandsInThePriorityList() {
              QByteArray(" 3  1 \r\n\r\nSaturday, March 14, 2026\r\nurgent\r\n"));
     QCOMPARE(ground.MS1().grid().backColor(1, 0), 255u);
     QCOMPARE(ground.MS1().grid().foreColor(1, 0), 0xFFFFFFu);
+    QCOMPARE(ground.MS1().grid().backColor(2, 0), GridModel::White);
+    QCOMPARE(ground.MS1().grid().foreColor(2, 0), 0u);
     QCOMPARE(ground.folder.read(u"tmp2.brf"_s), QByteArray(" 1  1 \r\n\r\n"));
     QVERIFY(!ground.program.state.RemindPending);
 }

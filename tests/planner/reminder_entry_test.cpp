@@ -35,6 +35,9 @@ private slots:
     void aTimeThatIsNoneIsReportedAndStays();
     void typingSevenAndOkPutsTheHourInTwoDigits();
     void typingTwentyFourIsReportedAndOkTakesItAsItStands();
+    void aChoiceIsNotTestedEvenBesideATextThatIsNone();
+    void aChangeIsTestedInItsOwnFieldAlone();
+    void theSoundTickChangesNothing();
     void okGivesAnEmptyEventMessageItsStandIn();
     void okKeepsTheEventMessage();
     void newAsksForAChangedMessage_data();
@@ -46,6 +49,8 @@ private slots:
     void exitAsksNothingWhileAnAlarmIsSet();
     void typingThenErasingAsksNothing();
     void theFontDialogIsLoadedFromTheSelection();
+    void eachEffectIsLoadedAndWrittenBack_data();
+    void eachEffectIsLoadedAndWrittenBack();
     void theChosenFontGoesToTheSelectionAndToTheListsCaret();
     void aCancelledFontDialogChangesNothing();
     void aMixedSelectionShowsTheDialogAndAppliesNothing();
@@ -284,6 +289,39 @@ void ReminderEntryTest::typingTwentyFourIsReportedAndOkTakesItAsItStands() {
     QCOMPARE(ground.caption(u"Label5"_s), u"2:00:00"_s);
 }
 
+void ReminderEntryTest::aChoiceIsNotTestedEvenBesideATextThatIsNone() {
+    PanelGround ground;
+    ground.boxes.expect(invalidTime.text, invalidTime.flags, Answer::Ok);
+    ground.type(ground.combo(2), u"x"_s);
+    ground.combo(1).setCurrentIndex(7);
+    emit ground.combo(1).activated(7);
+    QCOMPARE(ground.caption(u"Label5"_s), u"07:x:00"_s);
+    QCOMPARE(ground.boxes.asked.size(), 1);
+}
+
+void ReminderEntryTest::aChangeIsTestedInItsOwnFieldAlone() {
+    PanelGround ground;
+    ground.boxes.expect(invalidTime.text, invalidTime.flags, Answer::Ok);
+    ground.combo(1).setText(u"24"_s);
+    ground.combo(2).setText(u"45"_s);
+    QCOMPARE(ground.caption(u"Label5"_s), u"24:45:00"_s);
+    QCOMPARE(ground.boxes.asked.size(), 1);
+}
+
+void ReminderEntryTest::theSoundTickChangesNothing() {
+    PanelGround ground;
+    ground.tick(u"chkRemind"_s);
+    ground.tick(u"chkSound"_s);
+    QVERIFY(ground.isUp(u"Frame3"_s));
+    ground.rtMs2().SetText(u"event"_s);
+    ground.press(u"Button1"_s);
+    ground.press(u"imgSave"_s);
+    QCOMPARE(ground.folder.read(u"tmp2.brf"_s),
+             QByteArray(" 3  1 \r\n\r\nSaturday, March 14, 2026/00 : 00 : 00\r\nevent\r\n"));
+    QVERIFY(ground.control<QCheckBox>(u"chkSound"_s).isChecked());
+    QVERIFY(ground.sound.played.isEmpty());
+}
+
 void ReminderEntryTest::okGivesAnEmptyEventMessageItsStandIn() {
     PanelGround ground;
     ground.tick(u"chkRemind"_s);
@@ -328,6 +366,8 @@ void ReminderEntryTest::newStartsOver() {
     QVERIFY(!ground.rt1().isHidden());
     QCOMPARE(ground.control<QLineEdit>(u"txt1"_s).text(), u"Title"_s);
     QVERIFY(ground.boxes.asked.isEmpty());
+    // To clear the text is a change of it.
+    QCOMPARE(ground.rt1().Tag(), u"promena"_s);
 }
 
 void ReminderEntryTest::newSetsSizeEightWhateverTheSettingHolds() {
@@ -400,6 +440,43 @@ void ReminderEntryTest::theFontDialogIsLoadedFromTheSelection() {
                                                        .colour = 0x00FF00}));
 }
 
+void ReminderEntryTest::eachEffectIsLoadedAndWrittenBack_data() {
+    QTest::addColumn<int>("effect");
+    QTest::newRow("italic") << 0;
+    QTest::newRow("bold") << 1;
+    QTest::newRow("strikethrough") << 2;
+    QTest::newRow("underline") << 3;
+}
+
+void ReminderEntryTest::eachEffectIsLoadedAndWrittenBack() {
+    QFETCH(int, effect);
+    PanelGround ground;
+    RichTextBox& message = ground.rt1();
+    message.SetText(u"message"_s);
+    message.SetSelLength(7);
+    message.SetSelItalic(effect == 0);
+    message.SetSelBold(effect == 1);
+    message.SetSelStrikeThru(effect == 2);
+    message.SetSelUnderline(effect == 3);
+    // What comes up is turned round: each effect that was on goes off, and the others come on.
+    ground.dialogs.answerFont(FontChoice{.italic = effect != 0,
+                                         .bold = effect != 1,
+                                         .name = u"Arial"_s,
+                                         .size = 8,
+                                         .strikethrough = effect != 2,
+                                         .underline = effect != 3});
+    ground.press(u"Command2"_s);
+    const FontChoice& shown = ground.dialogs.fonts.constFirst();
+    QCOMPARE(shown.italic, effect == 0);
+    QCOMPARE(shown.bold, effect == 1);
+    QCOMPARE(shown.strikethrough, effect == 2);
+    QCOMPARE(shown.underline, effect == 3);
+    QCOMPARE(message.SelItalic(), effect != 0);
+    QCOMPARE(message.SelBold(), effect != 1);
+    QCOMPARE(message.SelStrikeThru(), effect != 2);
+    QCOMPARE(message.SelUnderline(), effect != 3);
+}
+
 void ReminderEntryTest::theChosenFontGoesToTheSelectionAndToTheListsCaret() {
     PanelGround ground;
     ground.shown();
@@ -426,10 +503,13 @@ void ReminderEntryTest::aCancelledFontDialogChangesNothing() {
     PanelGround ground;
     RichTextBox& message = ground.rt1();
     message.SetText(u"message"_s);
+    message.SetSelFontName(u"Courier New"_s);
     const QByteArray before = message.TextRTF();
+    const auto listFont = ground.rt1a().SelFontName();
     ground.dialogs.answerFont(std::nullopt);
     ground.press(u"Command2"_s);
     QCOMPARE(message.TextRTF(), before);
+    QCOMPARE(ground.rt1a().SelFontName(), listFont);
     QVERIFY(ground.boxes.asked.isEmpty());
 }
 

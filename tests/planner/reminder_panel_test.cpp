@@ -3,10 +3,14 @@
 #include "planner/panel_ground.h"
 
 #include "core/clock_label.h"
+#include "core/tick.h"
+#include "runtime/aligned_timer.h"
 #include "runtime/failure.h"
 #include "runtime/files.h"
 #include "support/without_root.h"
 
+#include <QDir>
+#include <QHeaderView>
 #include <QMenu>
 
 using namespace orvalis;
@@ -16,6 +20,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr quint32 Selected = 0xC00000;
+
+/// Counts the runs of the tick.
+class CountingTick final : public Tick {
+public:
+    void run(TickOwner&) override { ++runs; }
+    int runs = 0;
+};
 
 const QByteArray plainDocument = "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\f0\\fs16 Call Ann\\par}";
 
@@ -28,9 +39,13 @@ private slots:
     void everyControlIsThereUnderItsName();
     void captionsAndToolTipsAreTheSystemsOwn_data();
     void captionsAndToolTipsAreTheSystemsOwn();
+    void everyFrameHoldsItsControls_data();
+    void everyFrameHoldsItsControls();
+    void theFramesOfTheEntryAreaShareOnePlace();
+    void theFramesOfTheSubPanelsShareOnePlace();
     void theWindowHasTheSizeOfItsPicture();
-    void theCalendarStandsInTheMiddleOverTheMessage();
-    void gridColumnsTakeTheWidthOfTheirGrid();
+    void aResizePutsCalendarAndColumnsBack();
+    void theListsAreWhiteSageRuledAndHaveNoHeads();
     void noControlIsCutOffOrLiesOnAnother();
     void loadReadsBothDocuments();
     void missingFilesLeaveTheirControlsEmpty();
@@ -55,6 +70,10 @@ private slots:
     void unloadStoresTheFont();
     void queryUnloadAndUnloadEachStoreTheFont();
     void exitStoresTheFont();
+    void exitNeitherAsksForNorWritesTheDocuments();
+    void thePickedDateIsNotKept();
+    void loadGoesOnPastEveryFailure();
+    void itsClockDoesNoAlarmWork();
     void fontsAndSettingsStayOverManyRuns_data();
     void fontsAndSettingsStayOverManyRuns();
     void aSizeTheUserChoseSurvivesItsScaling();
@@ -157,18 +176,95 @@ void ReminderPanelTest::theWindowHasTheSizeOfItsPicture() {
     QCOMPARE(ground.panel().size(), ground.control<Image>(u"Image21"_s).size());
 }
 
-void ReminderPanelTest::theCalendarStandsInTheMiddleOverTheMessage() {
+void ReminderPanelTest::aResizePutsCalendarAndColumnsBack() {
     PanelGround ground;
     ground.shown();
     const QRect frame = ground.control<QGroupBox>(u"Frame2"_s).geometry();
-    const QRect calendar = ground.calendar().geometry();
-    QCOMPARE(calendar.x(), frame.x() + (frame.width() - calendar.width()) / 2);
-}
-
-void ReminderPanelTest::gridColumnsTakeTheWidthOfTheirGrid() {
-    PanelGround ground;
+    const int middle = frame.x() + (frame.width() - ground.calendar().width()) / 2;
+    QCOMPARE(ground.calendar().x(), middle);
+    const int top = ground.calendar().y();
+    const auto putOff = [&] {
+        ground.calendar().move(3, top);
+        ground.MS1().setColWidth(0, 150);
+        ground.MS3().setColWidth(0, 150);
+        ground.panel().setFixedSize(500, 300);
+        QApplication::processEvents();
+    };
+    putOff();
+    QCOMPARE(ground.panel().size(), ground.control<Image>(u"Image21"_s).size());
+    QCOMPARE(ground.calendar().pos(), QPoint(middle, top));
     for (MSFlexGrid* grid : {&ground.MS1(), &ground.MS3()})
         QCOMPARE(grid->ColWidth(0), grid->width() * 15);
+
+    ground.panel().setWindowState(Qt::WindowMinimized);
+    putOff();
+    QCOMPARE(ground.calendar().x(), 3);
+    QCOMPARE(ground.MS3().ColWidth(0), 150);
+}
+
+void ReminderPanelTest::theListsAreWhiteSageRuledAndHaveNoHeads() {
+    PanelGround ground;
+    ground.shown();
+    const QColor sage(0xB0, 0xC8, 0xA0);
+    for (MSFlexGrid* grid : {&ground.MS1(), &ground.MS3()}) {
+        QCOMPARE(grid->Rows(), 1);
+        QCOMPARE(grid->Cols(), 1);
+        QVERIFY(grid->horizontalHeader()->isHidden());
+        QVERIFY(grid->verticalHeader()->isHidden());
+        QCOMPARE(grid->palette().color(QPalette::Base), QColor(Qt::white));
+        QCOMPARE(grid->palette().color(QPalette::Highlight), sage);
+        grid->clearFocus();
+        const QImage cells = grid->viewport()->grab().toImage();
+        const QRect cell = grid->visualRect(grid->model()->index(0, 0));
+        QCOMPARE(cells.pixelColor(cell.center()), QColor(Qt::white));
+        QCOMPARE(cells.pixelColor(cell.center().x(), cell.bottom()), sage);
+        QCOMPARE(cells.pixelColor(cell.center().x(), cell.bottom() + 40), QColor(Qt::white));
+    }
+}
+
+void ReminderPanelTest::everyFrameHoldsItsControls_data() {
+    QTest::addColumn<QString>("frame");
+    QTest::addColumn<QStringList>("controls");
+    const auto row = [](const char* frame, const char* controls) {
+        QTest::newRow(frame) << QString::fromLatin1(frame)
+                             << QString::fromLatin1(controls).split(u' ');
+    };
+    row("OwnerFrame(0)", "MS3 imgso");
+    row("OwnerFrame(1)", "MS1 imgsoo");
+    row("OwnerFrame(2)", "rt1a imstodo");
+    row("OwnerFrame(3)", "rt2 Button4 imgOpen imgoe Button5 Button6");
+    row("Frame2", "rt1 Command2 chkRemind chkTop");
+    row("Frame3", "Label8 Label9 Label3 Combo1 Label1 Combo2 Label5 Label6 rtMs2 chkSound Button1 "
+                  "Button2");
+    row("Frame1", "Label4 Text1 Check1 Check2 FindButton FindNextButton imgBack");
+    row("frmnotes1", "MonthView1 txt1 imgNew imgSave imgDel imgFind imgNot cmdmenu(0) cmdmenu(1) "
+                     "cmdmenu(2) cmdmenu(3) OwnerFrame(0) OwnerFrame(1) OwnerFrame(2) "
+                     "OwnerFrame(3) Frame1 Frame2 Frame3");
+}
+
+void ReminderPanelTest::everyFrameHoldsItsControls() {
+    QFETCH(QString, frame);
+    QFETCH(QStringList, controls);
+    PanelGround ground;
+    QStringList held;
+    for (const QString& name : std::as_const(controls))
+        if (ground.control<QWidget>(name).parentWidget()->objectName() == frame)
+            held << name;
+    QCOMPARE(held, controls);
+}
+
+void ReminderPanelTest::theFramesOfTheEntryAreaShareOnePlace() {
+    PanelGround ground;
+    const QRect place = ground.control<QWidget>(u"Frame2"_s).geometry();
+    QCOMPARE(ground.control<QWidget>(u"Frame3"_s).geometry(), place);
+    QCOMPARE(ground.control<QWidget>(u"Frame1"_s).geometry(), place);
+}
+
+void ReminderPanelTest::theFramesOfTheSubPanelsShareOnePlace() {
+    PanelGround ground;
+    const QRect place = ground.control<QWidget>(u"OwnerFrame(0)"_s).geometry();
+    for (int index = 1; index < 4; ++index)
+        QCOMPARE(ground.control<QWidget>(u"OwnerFrame(%1)"_s.arg(index)).geometry(), place);
 }
 
 void ReminderPanelTest::noControlIsCutOffOrLiesOnAnother() {
@@ -353,6 +449,9 @@ void ReminderPanelTest::aNewStickerIsMadeByItsButton() {
     ground.press(u"imgNot"_s);
     QCOMPARE(ground.log, QStringList{u"new frmstick"_s});
     QVERIFY(ground.stickers.made.back()->isVisible());
+    QVERIFY(!ground.stickers.made.back()->isModal());
+    ground.press(u"imgNot"_s);
+    QCOMPARE(ground.stickers.made.size(), std::size_t(2));
 }
 
 void ReminderPanelTest::aPressOnClearDoesNothingYet() {
@@ -393,6 +492,59 @@ void ReminderPanelTest::exitStoresTheFont() {
     ground.panel().exitClick();
     QCOMPARE(ground.settings.setting(u"RT1"_s, u"FS"_s, {}).toString(), u"12"_s);
     QCOMPARE(ground.settings.setting(u"RT1"_s, u"FN"_s, {}).toString(), u"Arial"_s);
+}
+
+void ReminderPanelTest::exitNeitherAsksForNorWritesTheDocuments() {
+    PanelGround ground;
+    ground.program.state.StickerCount = 1; // so that the program goes on
+    ground.rt1a().SetText(u"edited by hand"_s);
+    ground.control<RichTextBox>(u"rt2"_s).SetText(u"edited too"_s);
+    ground.MS1().AddItem(u"not saved"_s);
+    ground.panel().exitClick();
+    ground.leave();
+    QVERIFY(ground.boxes.asked.isEmpty());
+    QCOMPARE(ground.folder.names(), QStringList());
+}
+
+void ReminderPanelTest::thePickedDateIsNotKept() {
+    PanelGround ground;
+    ground.shown();
+    ground.calendar().setValue(QDate(2026, 3, 20));
+    emit ground.calendar().DateClick(QDate(2026, 3, 20));
+    ground.leave();
+    QVERIFY(ground.program.windows.loaded<ReminderPanel>() == nullptr);
+    QCOMPARE(ground.store.valueCount(), 2); // name and size of the font
+    QCOMPARE(ground.calendar().Value(), QDate(2026, 3, 14));
+    QCOMPARE(ground.caption(u"Label9"_s), u"3/14/26"_s);
+}
+
+void ReminderPanelTest::loadGoesOnPastEveryFailure() {
+    PanelGround ground;
+    for (const QString& name : {u"Vazno.rtf"_s, u"tmp1.brf"_s, u"tmp2.brf"_s})
+        QVERIFY(QDir(ground.folder.path()).mkdir(name));
+    ground.folder.write(u"weekly.rtf"_s, "{\\rtf1\\ansi Monday\\par}");
+    ground.settings.putSetting(u"RT1"_s, u"FS"_s, u"x"_s);
+    QVERIFY(ground.control<RichTextBox>(u"rt2"_s).Text().startsWith(u"Monday"_s));
+    QCOMPARE(ground.calendar().Value(), QDate(2026, 3, 14));
+    QCOMPARE(ground.MS1().Rows(), 1);
+    QCOMPARE(ground.MS3().Rows(), 1);
+    QCOMPARE(ground.combo(1).ListCount(), 24);
+    QCOMPARE(ground.combo(2).ListCount(), 60);
+    QCOMPARE(ground.caption(u"Label5"_s), u"00 : 00 : 00"_s);
+    QCOMPARE(ground.caption(u"Label9"_s), u"3/14/26"_s);
+    QCOMPARE(ground.control<GGCommand>(u"cmdmenu(2)"_s).ForeColor(), Selected);
+    QVERIFY(ground.boxes.asked.isEmpty());
+}
+
+void ReminderPanelTest::itsClockDoesNoAlarmWork() {
+    PanelGround ground;
+    CountingTick tick;
+    ground.program.tick = &tick;
+    ground.shown();
+    ground.clock.advanceSeconds(1);
+    emit ground.panel().findChild<AlignedTimer*>(u"Timer2"_s)->tick();
+    QCOMPARE(ground.caption(u"lblVreme"_s), u"10 : 24 : 37"_s);
+    QCOMPARE(tick.runs, 0);
 }
 
 void ReminderPanelTest::fontsAndSettingsStayOverManyRuns_data() {

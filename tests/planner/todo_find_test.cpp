@@ -75,10 +75,13 @@ void TodoFindTest::aMatchAtTheVeryFirstCharacterIsNotFound() {
 }
 
 void TodoFindTest::nextGoesOnBehindTheLastMatch() {
+    m_ground->press(u"imgFind"_s);
     search(u"a two two two"_s, u"two"_s);
     m_ground->press(u"FindButton"_s);
+    field().setFocus();
     m_ground->press(u"FindNextButton"_s);
     QCOMPARE(found(), 6);
+    QCOMPARE(m_ground->panel().focusWidget(), &m_ground->rt1a());
     m_ground->press(u"FindNextButton"_s);
     QCOMPARE(found(), 10);
     expectMiss();
@@ -94,9 +97,14 @@ void TodoFindTest::findStartsOver() {
 }
 
 void TodoFindTest::aMissIsReported() {
+    m_ground->press(u"imgFind"_s);
     search(u"one two"_s, u"three"_s);
+    m_ground->rt1a().SetSelStart(4);
+    m_ground->rt1a().SetSelLength(3);
     expectMiss();
     m_ground->press(u"FindButton"_s);
+    QCOMPARE(m_ground->panel().focusWidget(), &field());
+    QCOMPARE(m_ground->rt1a().SelText(), u"two"_s);
 }
 
 void TodoFindTest::nextAfterAMissStartsAtTheBeginningAndReportsAMatchThere() {

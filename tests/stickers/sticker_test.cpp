@@ -47,10 +47,15 @@ private slots:
     void anyButtonOnTheClockDragsTheWindow_data();
     void anyButtonOnTheClockDragsTheWindow();
     void theFontDialogIsLoadedFromTheSelectionAndWrittenBack();
+    void eachEffectIsLoadedAndWrittenBack_data();
+    void eachEffectIsLoadedAndWrittenBack();
     void aCancelledFontDialogChangesNothing();
     void aMixedSelectionShowsTheDialogAndAppliesNothing();
     void clientSizesAreThoseOfTheirClasses();
     void toolTipsTellWhatTheButtonsDo();
+    void bothClassesHaveTheSameControls();
+    void onAWiderScreenTheFontsShrinkAndThePlacesStay();
+    void nothingOfAStickerIsStored();
 
 private:
     template <class Control>
@@ -310,6 +315,43 @@ void StickerTest::theFontDialogIsLoadedFromTheSelectionAndWrittenBack() {
     QCOMPARE(text.SelColor(), std::optional(0x00FF00U));
 }
 
+void StickerTest::eachEffectIsLoadedAndWrittenBack_data() {
+    QTest::addColumn<int>("effect");
+    QTest::newRow("italic") << 0;
+    QTest::newRow("bold") << 1;
+    QTest::newRow("strikethrough") << 2;
+    QTest::newRow("underline") << 3;
+}
+
+void StickerTest::eachEffectIsLoadedAndWrittenBack() {
+    QFETCH(int, effect);
+    StickerWindow& sticker = m_stickers->newXn();
+    RichTextBox& text = sticker.Text1();
+    text.SetText(u"note"_s);
+    text.SetSelLength(4);
+    text.SetSelItalic(effect == 0);
+    text.SetSelBold(effect == 1);
+    text.SetSelStrikeThru(effect == 2);
+    text.SetSelUnderline(effect == 3);
+    // What comes up is turned round: each effect that was on goes off, and the others come on.
+    m_test->dialogs.answerFont(FontChoice{.italic = effect != 0,
+                                          .bold = effect != 1,
+                                          .name = u"Arial"_s,
+                                          .size = 8,
+                                          .strikethrough = effect != 2,
+                                          .underline = effect != 3});
+    press(sticker, "Image3");
+    const FontChoice& shown = m_test->dialogs.fonts.constFirst();
+    QCOMPARE(shown.italic, effect == 0);
+    QCOMPARE(shown.bold, effect == 1);
+    QCOMPARE(shown.strikethrough, effect == 2);
+    QCOMPARE(shown.underline, effect == 3);
+    QCOMPARE(text.SelItalic(), effect != 0);
+    QCOMPARE(text.SelBold(), effect != 1);
+    QCOMPARE(text.SelStrikeThru(), effect != 2);
+    QCOMPARE(text.SelUnderline(), effect != 3);
+}
+
 void StickerTest::aCancelledFontDialogChangesNothing() {
     StickerWindow& sticker = m_stickers->newFrmstick();
     sticker.Text1().SetText(u"note"_s);
@@ -346,6 +388,47 @@ void StickerTest::toolTipsTellWhatTheButtonsDo() {
     QCOMPARE(find<GGCommand>(sticker, "Image2").ToolTip(), u"Close"_s);
     QCOMPARE(find<GGCommand>(sticker, "Image2").Caption(), u"x"_s);
     QCOMPARE(find<GGCommand>(sticker, "Image3").ToolTip(), u"Font"_s);
+}
+
+void StickerTest::bothClassesHaveTheSameControls() {
+    const auto controls = [](StickerWindow& sticker) {
+        QStringList names;
+        for (const QWidget* child :
+             sticker.form().findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+            names << child->objectName() + u' ' +
+                         QString::fromLatin1(child->metaObject()->className());
+        names.sort();
+        return names;
+    };
+    StickerWindow& one = m_stickers->newFrmstick();
+    StickerWindow& other = m_stickers->newXn();
+    QCOMPARE(one.form().objectName(), u"frmstick"_s);
+    QCOMPARE(controls(one), controls(other));
+    QCOMPARE(controls(one).size(), 8);
+}
+
+void StickerTest::onAWiderScreenTheFontsShrinkAndThePlacesStay() {
+    m_test->screen.screenSize = QSize(800, 600);
+    StickerWindow& narrow = m_stickers->newFrmstick();
+    m_test->screen.screenSize = QSize(1600, 1200);
+    StickerWindow& wide = m_stickers->newFrmstick();
+    for (const char* name : {"txtLabel1", "Text1", "lblVreme", "Image1", "imgOff"})
+        QCOMPARE(find<QWidget>(wide, name).geometry(), find<QWidget>(narrow, name).geometry());
+    for (const char* name : {"txtLabel1", "Text1", "lblVreme"}) {
+        const double points = find<QWidget>(narrow, name).font().pointSizeF();
+        QCOMPARE(find<QWidget>(wide, name).font().pointSizeF(), points / 2);
+    }
+    QCOMPARE(wide.form().size(), narrow.form().size());
+}
+
+void StickerTest::nothingOfAStickerIsStored() {
+    StickerWindow& closed = m_stickers->newFrmstick();
+    closed.Text1().SetText(u"remember"_s);
+    press(closed, "Image2");
+    m_stickers->newXn().Text1().SetText(u"remember too"_s);
+    m_stickers.reset();
+    QCOMPARE(m_test->folder.names(), QStringList());
+    QCOMPARE(m_test->store.valueCount(), 0);
 }
 
 ORVALIS_TEST_MAIN_WITH(QApplication, StickerTest)

@@ -6,7 +6,10 @@
 #include "controls/ordinary_pointer.h"
 #include "controls/program_end.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QFontMetrics>
+#include <QGridLayout>
 #include <QKeyEvent>
 #include <QMessageBox>
 
@@ -70,6 +73,20 @@ private:
     bool m_mustBeAnswered;
 };
 
+/// What a title bar holds beside its title: an icon at one end, up to three buttons at the other,
+/// and the room between. In logical pixels.
+constexpr int TitleBarParts = 130;
+
+/// A box is as wide as its words, which may be few; no window manager makes a window wider than its
+/// program asks for, and a title without room is cut off.
+void makeRoomForTitle(QMessageBox& box) {
+    QFont font = QApplication::font("QMdiSubWindowTitleBar");
+    font.setBold(true);
+    const int width = QFontMetrics(font).horizontalAdvance(box.windowTitle()) + TitleBarParts;
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout()))
+        grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 Answer answerOf(int button) {
     switch (button) {
     case QMessageBox::Yes:
@@ -102,6 +119,7 @@ Answer QtMessageBoxes::MsgBox(const QString& text, int flags, const QString& tit
     else
         box.setDefaultButton(defaultButton == 0 || buttons.size() == 1 ? QMessageBox::Ok
                                                                        : QMessageBox::Cancel);
+    makeRoomForTitle(box);
     // Stickers may lie on top of everything, the question must not hide below them.
     box.setWindowFlag(Qt::WindowStaysOnTopHint);
     const OrdinaryPointer pointer;

@@ -42,6 +42,7 @@ private slots:
     void flagsGiveIconButtonsAndDefault_data();
     void flagsGiveIconButtonsAndDefault();
     void theTitleIsTheProgramsUnlessOneIsGiven();
+    void aBoxOfFewWordsIsWideEnoughForItsTitle();
     void escapeAnswersOkWhereThereIsOkAlone();
     void escapeAnswersCancelWhereThereIsCancel();
     void escapeAndTheCloseButtonLeaveAYesNoBoxOpen();
@@ -112,6 +113,26 @@ void MsgBoxTest::theTitleIsTheProgramsUnlessOneIsGiven() {
             box.accept();
         },
         QStringLiteral("Exit Orvalis"));
+}
+
+void MsgBoxTest::aBoxOfFewWordsIsWideEnoughForItsTitle() {
+    // A title bar has an icon and three buttons beside its title, each about as wide as it is high.
+    constexpr int partsOfATitleBar = 4 * 24;
+    for (const QString& title : {QString(), QStringLiteral("A title of more words than the box")}) {
+        int width = 0;
+        int needed = 0;
+        ask(
+            0,
+            [&](QMessageBox& box) {
+                QFont font = box.font();
+                font.setBold(true);
+                needed = QFontMetrics(font).horizontalAdvance(box.windowTitle()) + partsOfATitleBar;
+                width = box.width();
+                box.accept();
+            },
+            title);
+        QVERIFY(width >= needed);
+    }
 }
 
 void MsgBoxTest::escapeAnswersOkWhereThereIsOkAlone() {

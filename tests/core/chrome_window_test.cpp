@@ -4,12 +4,15 @@
 #include "core/chrome_window.h"
 #include "core/clock_label.h"
 #include "runtime/aligned_timer.h"
+#include "runtime/failure.h"
 #include "support/pointer_events.h"
 #include "support/role_doubles.h"
 #include "support/test_main.h"
 #include "support/test_program.h"
 
 #include <QScreen>
+
+#include <utility>
 
 using namespace orvalis;
 using namespace orvalis::test;
@@ -37,6 +40,23 @@ public:
     using LoggedWindow::LoggedWindow;
     void PopupMenu(const QString& name) override { popped << name; }
     QStringList popped;
+};
+
+/// Counts what is painted.
+class PaintCount final : public QObject {
+public:
+    bool eventFilter(QObject*, QEvent* event) override {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+    int count = 0;
+};
+
+/// A tray that cannot be reset.
+class FailingTray final : public TrayOwner {
+public:
+    void TrayBuild() override {}
+    void TrayReset() override { throw RuntimeError(ErrorNumber::InvalidProcedureCall); }
 };
 
 /// A panel that wants to stay when it is closed.
@@ -67,6 +87,7 @@ private slots:
     void movingFromExitStraightToMiniGivesExitItsNormalPictureBack();
     void theBellsLookDifferentUnderThePointer();
     void movingOverTheFormGivesNormalPicturesBack();
+    void idleMovesRedrawNothing();
     void leavingAnImageButtonForAnythingGivesItsNormalPictureBack();
     void hidingTheWindowGivesNormalPicturesBack();
     void toolTipsAreThoseOfTheTable();
@@ -79,12 +100,15 @@ private slots:
     void theDateStandsInTheClockFromTheHoverToTheNextTick();
     void eachClockHasItsTimerAndItsInterval();
     void aHiddenWindowsClockSleeps();
+    void aTimeThatCannotBeToldLeavesTheClockAsItIs();
 
     // Alarm.
     void setOpensTheAlarmDialogNotModal();
     void activatingWhileArmedShowsTheAlarm();
     void anAlarmShownHereIsNotShownAgainAtTheNextActivation();
+    void showingTheAlarmBringsAHiddenDisplayBack();
     void activatingWhileIdleClearsTheDisplayAndTheTray();
+    void aFailureAtActivationIsPassedOver();
     void stopDisarms();
     void aCaptionThatChangesMovesTheImagesAndTheMirror();
 
@@ -93,6 +117,8 @@ private slots:
     void closingGoesToTheTrayWithoutAQuestionWhileStickersAreOpen();
     void closingNeverEndsTheProgramWhileStartIsOne();
     void closingEndsTheProgramOtherwise();
+    void closingLooksAtTheSettingEachTime();
+    void closingWritesNoSettings();
     void aPanelsOwnStepComesAfterTheAlarmsRefusalAndMayStay();
     void theWindowManagersCloseDoesWhatExitDoes();
 
@@ -114,8 +140,10 @@ private slots:
 
     // The window itself.
     void theWindowHasTheSizeOfItsPicture();
+    void aMinimisedWindowKeepsItsSize();
     void aWindowWithoutFrameHasATitleAndIsAnOrdinaryWindow();
     void draggingTheBackgroundMovesTheWindow();
+    void draggingTheBackgroundsPictureMovesTheWindow();
     void anotherButtonDoesNotDrag();
     void everyControlCarriesItsName();
 
@@ -254,6 +282,20 @@ void ChromeWindowTest::movingOverTheFormGivesNormalPicturesBack() {
     }
 }
 
+void ChromeWindowTest::idleMovesRedrawNothing() {
+    ChromeWindow& main = show(ChromeKind::Main);
+    QCoreApplication::processEvents();
+    PaintCount paints;
+    for (const QString& name : {u"imgMini"_s, u"imgExit"_s, u"imgHelp"_s})
+        image(main, name)->installEventFilter(&paints);
+    for (int x = 3; x < 20; ++x)
+        Pointer(main).move({static_cast<qreal>(x), 60});
+    QCoreApplication::processEvents();
+    QCOMPARE(paints.count, 0);
+    Pointer(*image(main, u"imgExit"_s)).move({5, 5});
+    QTRY_COMPARE(paints.count, 1);
+}
+
 void ChromeWindowTest::leavingAnImageButtonForAnythingGivesItsNormalPictureBack() {
     ChromeWindow& main = show(ChromeKind::Main);
     for (const QString& name : {u"imgMini"_s, u"imgExit"_s, u"imgHelp"_s}) {
@@ -286,16 +328,20 @@ void ChromeWindowTest::toolTipsAreThoseOfTheTable() {
 }
 
 void ChromeWindowTest::helpPopsUpTheHelpMenuOnTheLeftPressAlone() {
-    ChromeWindow& main = show(ChromeKind::Main);
-    Image* help = image(main, u"imgHelp"_s);
-    Pointer(*help).press(); // nobody owns the menus: nothing happens
+    Pointer(*image(show(ChromeKind::Main), u"imgHelp"_s)).press(); // nobody owns the menus
+    window(ChromeKind::Main).Hide();
     m_test->program.windows.registerMaker<PopupMenus>(
         [this] { return std::make_unique<FakeMenus>(u"frmdel1"_s, m_log); });
-    Pointer(*help).press({5, 5}, Qt::RightButton);
-    QVERIFY(m_test->program.windows.loaded<PopupMenus>() == nullptr);
-    Pointer(*help).press();
     auto& menus = static_cast<FakeMenus&>(m_test->program.windows.get<PopupMenus>());
-    QCOMPARE(menus.popped, QStringList{u"mnuhelp"_s});
+    for (const ChromeKind kind : AllKinds) {
+        ChromeWindow& shown = show(kind);
+        Image* help = image(shown, u"imgHelp"_s);
+        Pointer(*help).press({5, 5}, Qt::RightButton);
+        QCOMPARE(menus.popped, QStringList());
+        Pointer(*help).press();
+        QCOMPARE(std::exchange(menus.popped, {}), QStringList{u"mnuhelp"_s});
+        shown.Hide();
+    }
 }
 
 void ChromeWindowTest::theClockIsSetWhenTheWindowShows() {
@@ -357,6 +403,15 @@ void ChromeWindowTest::aHiddenWindowsClockSleeps() {
     QVERIFY(!timer->isActive());
 }
 
+void ChromeWindowTest::aTimeThatCannotBeToldLeavesTheClockAsItIs() {
+    ChromeWindow& main = show(ChromeKind::Main);
+    m_test->clock.set(QDateTime());
+    emit main.findChild<AlignedTimer*>(u"Timer23"_s)->tick();
+    QCOMPARE(label(main, u"lblVreme"_s)->Caption(), u"10 : 24 : 36"_s);
+    QCOMPARE(m_test->boxes.asked.size(), 0);
+    QVERIFY(!programHasEnded());
+}
+
 void ChromeWindowTest::setOpensTheAlarmDialogNotModal() {
     for (const ChromeKind kind : AllKinds) {
         ChromeWindow& shown = show(kind);
@@ -402,6 +457,16 @@ void ChromeWindowTest::anAlarmShownHereIsNotShownAgainAtTheNextActivation() {
     QCOMPARE(main.alarmShown(), u"08:00:00"_s);
 }
 
+void ChromeWindowTest::showingTheAlarmBringsAHiddenDisplayBack() {
+    auto& role = m_test->program.windows.get<MainWindow>();
+    ChromeWindow& main = show(ChromeKind::Main);
+    label(main, u"lblAlarm"_s)->setVisible(false);
+    setAlarm();
+    role.SetAlarm0();
+    QVERIFY(label(main, u"lblAlarm"_s)->isVisible());
+    QCOMPARE(main.alarmShown(), u"07:30:00"_s);
+}
+
 void ChromeWindowTest::activatingWhileIdleClearsTheDisplayAndTheTray() {
     setAlarm();
     ChromeWindow& main = show(ChromeKind::Main);
@@ -413,6 +478,14 @@ void ChromeWindowTest::activatingWhileIdleClearsTheDisplayAndTheTray() {
     QVERIFY(image(main, u"imgSet"_s)->isVisible());
     QVERIFY(!image(main, u"imgStop"_s)->isVisible());
     QCOMPARE(m_log.count(u"TrayReset"_s), 1);
+}
+
+void ChromeWindowTest::aFailureAtActivationIsPassedOver() {
+    m_test->program.makeTrayOwner = [](ChromeWindow&) { return std::make_unique<FailingTray>(); };
+    ChromeWindow& main = show(ChromeKind::Main);
+    QVERIFY(main.isVisible());
+    QVERIFY(!programHasEnded());
+    QCOMPARE(m_test->boxes.asked.size(), 0);
 }
 
 void ChromeWindowTest::stopDisarms() {
@@ -490,6 +563,24 @@ void ChromeWindowTest::closingEndsTheProgramOtherwise() {
         ChromeWindow& shown = show(kind);
         QVERIFY(endsTheProgram([&] { shown.exitClick(); }));
         QVERIFY(!m_log.contains(u"TrayBuild"_s));
+    }
+}
+
+void ChromeWindowTest::closingLooksAtTheSettingEachTime() {
+    ChromeWindow& main = show(ChromeKind::Main);
+    m_test->setSetting(u"Reg"_s, u"Start"_s, u"1"_s);
+    main.exitClick();
+    QVERIFY(!programHasEnded());
+    main.Show();
+    m_test->setSetting(u"Reg"_s, u"Start"_s, u"0"_s);
+    QVERIFY(endsTheProgram([&] { main.exitClick(); }));
+}
+
+void ChromeWindowTest::closingWritesNoSettings() {
+    for (const ChromeKind kind : AllKinds) {
+        ChromeWindow& shown = show(kind);
+        QVERIFY(endsTheProgram([&] { shown.exitClick(); }));
+        QCOMPARE(m_test->store.keyCount(), 0);
     }
 }
 
@@ -714,6 +805,18 @@ void ChromeWindowTest::theWindowHasTheSizeOfItsPicture() {
     QCOMPARE(password.size(), QSize(600, 400));
 }
 
+void ChromeWindowTest::aMinimisedWindowKeepsItsSize() {
+    ChromeWindow& main = show(ChromeKind::Main);
+    image(main, main.row().background)->resize(400, 600);
+    QResizeEvent resized(main.size(), main.size());
+    main.setWindowState(Qt::WindowMinimized);
+    QCoreApplication::sendEvent(&main, &resized);
+    QCOMPARE(main.size(), QSize(320, 483));
+    main.setWindowState(Qt::WindowNoState);
+    QCoreApplication::sendEvent(&main, &resized);
+    QCOMPARE(main.size(), QSize(400, 600));
+}
+
 void ChromeWindowTest::aWindowWithoutFrameHasATitleAndIsAnOrdinaryWindow() {
     for (const ChromeKind kind : AllKinds) {
         const ChromeWindow& shown = window(kind);
@@ -732,6 +835,22 @@ void ChromeWindowTest::draggingTheBackgroundMovesTheWindow() {
     Pointer(main).release({10, 140});
     Pointer(main).move({90, 90});
     QCOMPARE(main.pos(), QPoint(130, 70));
+}
+
+void ChromeWindowTest::draggingTheBackgroundsPictureMovesTheWindow() {
+    for (const ChromeKind kind : AllKinds) {
+        ChromeWindow& shown = show(kind);
+        shown.move(60, 50);
+        Image* picture = image(shown, shown.row().background);
+        Pointer(*picture).press({10, 140});
+        Pointer(*picture).move({40, 160}, Qt::LeftButton);
+        QCOMPARE(shown.pos(), QPoint(90, 70));
+        Pointer(*picture).release({10, 140});
+        Pointer(*picture).press({10, 140}, Qt::RightButton);
+        Pointer(*picture).move({40, 160}, Qt::RightButton);
+        QCOMPARE(shown.pos(), QPoint(90, 70));
+        shown.Hide();
+    }
 }
 
 void ChromeWindowTest::anotherButtonDoesNotDrag() {

@@ -1,9 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "controls/label.h"
+#include "controls/ms_flex_grid.h"
 #include "core/main_window.h"
 #include "core/start_window.h"
 #include "runtime/aligned_timer.h"
+#include "runtime/failure.h"
 #include "support/role_doubles.h"
 #include "support/test_main.h"
 #include "support/test_program.h"
@@ -39,7 +41,9 @@ private slots:
     void withStartSetTheProgramGoesToTheTrayAndNoWindowFlashesUp();
     void aStartOfAnythingButOneShowsTheMainWindow_data();
     void aStartOfAnythingButOneShowsTheMainWindow();
+    void aFailureOfTheStartIsPassedOver();
     void noPanelAndNoOptionsAreLoadedAtStart();
+    void itOwnsTheControlsOfTheTickUnseen();
     void itCountsAsShownYetIsSeenNowhere();
     void theTickRunsOnceASecondFromTheStart();
     void aFailingTickEndsSilently();
@@ -114,6 +118,26 @@ void StartWindowTest::aStartOfAnythingButOneShowsTheMainWindow() {
     m_test->setSetting(u"Reg"_s, u"Start"_s, value);
     start().Show();
     QVERIFY(m_test->program.windows.get<MainWindow>().form().isVisible());
+}
+
+void StartWindowTest::aFailureOfTheStartIsPassedOver() {
+    m_test->program.windows.registerMaker<MainWindow>([]() -> std::unique_ptr<MainWindow> {
+        throw RuntimeError(ErrorNumber::ObjectVariableNotSet);
+    });
+    start().Show();
+    QVERIFY(start().timer23Enabled());
+    QVERIFY(!programHasEnded());
+    QCOMPARE(m_test->boxes.asked.size(), 0);
+}
+
+void StartWindowTest::itOwnsTheControlsOfTheTickUnseen() {
+    start().Show();
+    for (const QString& name : {u"MS2"_s, u"Image1"_s, u"lblVreme"_s, u"lblAlarm"_s}) {
+        const auto* control = start().findChild<QWidget*>(name);
+        QVERIFY2(control != nullptr, qPrintable(name));
+        QVERIFY2(!control->isVisible(), qPrintable(name));
+    }
+    QCOMPARE(start().findChild<QWidget*>(u"MS2"_s), &start().MS2());
 }
 
 void StartWindowTest::noPanelAndNoOptionsAreLoadedAtStart() {

@@ -62,6 +62,7 @@ private slots:
     void aMoveThatNobodyAnnouncedBeginsTheHoverFirst();
     void leavingRaisesMouseExit();
     void theClickComesBetweenMouseDownAndMouseUp();
+    void eachEventIsToldBeforeTheButtonFollowsIt();
     void eventsTellButtonShiftAndPoint();
     void theRightButtonGivesNoClick();
     void theRightButtonDoesNotSinkTheEdge();
@@ -148,6 +149,35 @@ void GGCommandMouseTest::theClickComesBetweenMouseDownAndMouseUp() {
     QCOMPARE(diary.lines(), QStringList{u"MouseDown 1 0 1 2"_s});
     pointer.release({3, 4});
     QCOMPARE(diary.lines(), (QStringList{u"Click"_s, u"MouseUp 1 0 3 4"_s}));
+}
+
+void GGCommandMouseTest::eachEventIsToldBeforeTheButtonFollowsIt() {
+    GGCommand button;
+    button.setToolTip(u"Close"_s);
+    QStringList seen;
+    const auto look = [&](const QString& event) {
+        return [&, event] {
+            seen << u"%1 %2 %3"_s.arg(event)
+                        .arg(button.borderState())
+                        .arg(button.toolTipWindow() != nullptr ? u"tip"_s : u"none"_s);
+        };
+    };
+    connect(&button, &GGCommand::MouseEnter, this, look(u"MouseEnter"_s));
+    connect(&button, &GGCommand::MouseDown, this, look(u"MouseDown"_s));
+    connect(&button, &GGCommand::Click, this, look(u"Click"_s));
+    connect(&button, &GGCommand::MouseUp, this, look(u"MouseUp"_s));
+    connect(&button, &GGCommand::MouseExit, this, look(u"MouseExit"_s));
+    Pointer pointer(button);
+    pointer.enter();
+    pointer.press();
+    pointer.release();
+    pointer.leave();
+    // The tip is there when the entering is told, and still there when the leaving is; the edge
+    // is the one from before.
+    QCOMPARE(seen, (QStringList{u"MouseEnter 0 tip"_s, u"MouseDown 1 tip"_s, u"Click 2 tip"_s,
+                                u"MouseUp 2 tip"_s, u"MouseExit 1 tip"_s}));
+    QCOMPARE(button.borderState(), 0);
+    QVERIFY(button.toolTipWindow() == nullptr);
 }
 
 void GGCommandMouseTest::eventsTellButtonShiftAndPoint() {

@@ -47,11 +47,7 @@ RichTextBox::RichTextBox(QWidget* parent)
     : QTextEdit(parent)
     , m_positions(std::make_unique<TextPositions>(*document()))
     , m_undoKinds(std::make_unique<UndoKinds>()) {
-    connect(document(), &QTextDocument::contentsChange, this,
-            [this](int from, int removed, int added) {
-                m_positions->contentsChanged(from, removed, added);
-                m_changeToTell = true;
-            });
+    connect(document(), &QTextDocument::contentsChange, this, &RichTextBox::takeChange);
     connect(document(), &QTextDocument::contentsChanged, this, [this] {
         m_undoKinds->stepsChanged(document()->availableUndoSteps(), m_movesThroughHistory);
     });
@@ -63,6 +59,15 @@ RichTextBox::RichTextBox(QWidget* parent)
 RichTextBox::~RichTextBox() {
     // The document's last words would reach members that are gone.
     document()->disconnect(this);
+}
+
+/// The document lays out what it tells of; what it left out would vanish from the window.
+void RichTextBox::takeChange(int from, int removed, int added) {
+    const int end = m_scatteredChange ? m_positions->manyContentsChanged(from, removed, added)
+                                      : m_positions->contentsChanged(from, removed, added);
+    if (end > from + added)
+        document()->markContentsDirty(from + added, end - from - added);
+    m_changeToTell = true;
 }
 
 // --- the whole document

@@ -214,12 +214,15 @@ private:
     using QTextEdit::insertHtml;
     using QTextEdit::insertPlainText;
     using QTextEdit::paste;
+    using QTextEdit::redo;
     using QTextEdit::setHtml;
     using QTextEdit::setMarkdown;
     using QTextEdit::setPlainText;
     using QTextEdit::setText;
     using QTextEdit::toPlainText;
+    using QTextEdit::undo;
 
+    void takeChange(int from, int removed, int added);
     QTextCursor editCursor() const;
     void takeCursor(const QTextCursor& cursor);
     void editAt(QTextCursor cursor, const std::function<void(QTextCursor&)>& edit);
@@ -228,6 +231,8 @@ private:
     void contentWasSet(const QTextCharFormat& format);
     void mergeFormat(const QTextCharFormat& format);
     void setBoxFont(const QFont& font, const QTextCharFormat& format);
+    void moveThroughHistory(const std::function<void()>& move);
+    void changeScattered(const std::function<void()>& change);
     void typeParagraphEnd();
     void typeText(QKeyEvent* event);
     void tellChange();
@@ -242,6 +247,7 @@ private:
     PlainFile m_plainFile = PlainFile::Notes;
     bool m_editMenu = true;
     bool m_movesThroughHistory = false;
+    bool m_scatteredChange = false; ///< one step changes several places, in any order
     int m_batches = 0;
     int m_holds = 0;
     bool m_changeToTell = false;

@@ -52,8 +52,19 @@ bool RichTextBox::CanUndo() const {
 }
 
 void RichTextBox::Undo() {
+    moveThroughHistory([this] { undo(); });
+}
+
+void RichTextBox::moveThroughHistory(const std::function<void()>& move) {
     const QScopedValueRollback history(m_movesThroughHistory, true);
-    undo();
+    changeScattered(move);
+}
+
+/// The text ahead of the change tells how far it reached.
+void RichTextBox::changeScattered(const std::function<void()>& change) {
+    m_positions->text();
+    const QScopedValueRollback scattered(m_scatteredChange, true);
+    change();
 }
 
 UndoKind RichTextBox::UndoType() const {
@@ -111,8 +122,7 @@ void RichTextBox::keyPressEvent(QKeyEvent* event) {
     } else if (event->matches(QKeySequence::Paste)) {
         Paste();
     } else if (event->matches(QKeySequence::Undo) || event->matches(QKeySequence::Redo)) {
-        const QScopedValueRollback history(m_movesThroughHistory, true);
-        QTextEdit::keyPressEvent(event);
+        moveThroughHistory([&] { QTextEdit::keyPressEvent(event); });
         return;
     } else if (event->key() == Qt::Key_Backspace && atBullet(editCursor()) && !isReadOnly()) {
         const UndoKindScope kind(*m_undoKinds, UndoKind::Delete);
@@ -175,7 +185,7 @@ void RichTextBox::inputMethodEvent(QInputMethodEvent* event) {
 
 void RichTextBox::dropEvent(QDropEvent* event) {
     const UndoKindScope kind(*m_undoKinds, UndoKind::DragDrop);
-    QTextEdit::dropEvent(event);
+    changeScattered([&] { QTextEdit::dropEvent(event); });
 }
 
 void RichTextBox::mousePressEvent(QMouseEvent* event) {

@@ -7,8 +7,10 @@
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextFormat>
 
 #include <algorithm>
+#include <utility>
 
 namespace orvalis {
 
@@ -109,12 +111,13 @@ const QString& TextPositions::text() const {
     return m_text;
 }
 
-void TextPositions::contentsChanged(int from, int removed, int added) {
+int TextPositions::contentsChanged(int from, int removed, int added) {
     const int characters = m_document.characterCount();
+    const int end = reach(from, added);
     if (m_seenInBlock) {
         // All of it was taken in step by step.
         m_characters = characters;
-        return;
+        return std::max(end, characters - m_untouched);
     }
     // A document that is emptied counts its last separator in, on one side or on both.
     if (from < 0 || from + added > characters || characters - m_characters != added - removed) {
@@ -126,11 +129,44 @@ void TextPositions::contentsChanged(int from, int removed, int added) {
         patchText(from, added);
     }
     m_characters = characters;
+    return end;
+}
+
+int TextPositions::manyContentsChanged(int from, int removed, int added) {
+    if (!hasLists())
+        return contentsChanged(from, removed, added);
+    m_characters = m_document.characterCount();
+    m_lineBreaks.clear();
+    scanBreaks(0, 0, m_characters);
+    const bool known = std::exchange(m_textValid, false);
+    if (!known)
+        return m_characters;
+    const QString before = m_text;
+    const QString& now = text();
+    const auto [was, is] =
+        std::mismatch(before.crbegin(), before.crend(), now.crbegin(), now.crend());
+    return std::max(positionOf(int(now.crend() - is)) + 1, reach(from, added));
+}
+
+/// Each paragraph that a list takes in can cost the range one character at its end.
+int TextPositions::reach(int from, int added) const {
+    const int end = std::clamp(from + added, 0, lastPosition());
+    const int breaks =
+        m_document.findBlock(end).blockNumber() - m_document.findBlock(from).blockNumber();
+    return breaks > 0 && hasLists() ? std::min(end + breaks, lastPosition()) : end;
+}
+
+bool TextPositions::hasLists() const {
+    const QList<QTextFormat> formats = m_document.allFormats();
+    return std::any_of(formats.begin(), formats.end(),
+                       [](const QTextFormat& format) { return format.isListFormat(); });
 }
 
 void TextPositions::changedInBlock(int from, int removed, int added) {
     scanBreaks(from, removed, added);
     m_textValid = false;
+    const int untouched = m_document.characterCount() - (from + added);
+    m_untouched = m_seenInBlock ? std::min(m_untouched, untouched) : untouched;
     m_seenInBlock = true;
 }
 

@@ -33,7 +33,12 @@ public:
     bool hasText() const { return m_textValid; }
 
     /// The document told of a change (QTextDocument::contentsChange).
-    void contentsChanged(int from, int removed, int added);
+    /// \returns the position up to which it reaches: what is told ends too early where an edit
+    /// block made a list longer ahead of another change.
+    int contentsChanged(int from, int removed, int added);
+    /// The same for a change made of several in any order: with lists about, everything is looked
+    /// at again.
+    int manyContentsChanged(int from, int removed, int added);
     /// A change inside an open edit block, of which the document will tell when the block closes.
     void changedInBlock(int from, int removed, int added);
     /// The edit block closed, and the document told of it if anything had changed.
@@ -42,6 +47,8 @@ public:
 private:
     int lastPosition() const;
     int breaksBefore(int position) const;
+    int reach(int from, int added) const;
+    bool hasLists() const;
     QString rawText(int from, int to) const;
     void appendBlocks(QString& plain, int from, int to) const;
     void scanBreaks(int from, int removed, int added);
@@ -51,6 +58,7 @@ private:
     std::vector<int> m_lineBreaks; ///< positions of U+2028, in order
     int m_characters;              ///< of the document at the last change that was seen
     bool m_seenInBlock = false;
+    int m_untouched = 0; ///< characters behind the last change that was seen in the block
     mutable bool m_textValid = false;
     mutable QString m_text;
 };

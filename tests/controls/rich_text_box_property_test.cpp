@@ -3,9 +3,14 @@
 #include "controls/rich_text_box.h"
 #include "support/test_main.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QApplication>
+#include <QClipboard>
+#include <QImage>
 #include <QRandomGenerator>
+#include <QTextBlock>
 #include <QTextDocument>
+#include <QTextLayout>
 
 using namespace orvalis;
 using namespace Qt::StringLiterals;
@@ -46,11 +51,12 @@ public:
     explicit RandomUser(quint32 seed)
         : m_random(seed) {
         m_box.resize(200, 200);
+        m_box.show(); // or nothing is laid out
     }
 
     void step() {
         m_before = m_model;
-        m_last = int(m_random.bounded(16));
+        m_last = int(m_random.bounded(20));
         switch (m_last) {
         case 0:
         case 1:
@@ -72,8 +78,9 @@ public:
             break;
         }
         case 8:
+            if (!atBullet() || m_box.textCursor().block().length() > 1)
+                m_model.replace(u"\r\n"_s); // an empty item would end its list
             QTest::keyClick(&m_box, Qt::Key_Return);
-            m_model.replace(u"\r\n"_s);
             break;
         case 9:
             backspace();
@@ -101,6 +108,24 @@ public:
             else
                 undoAndRedo();
             break;
+        case 16:
+            QTest::keyClick(&m_box, Qt::Key_Return, Qt::ShiftModifier);
+            m_model.replace(u"\r\n"_s);
+            break;
+        case 17:
+            pastePicture();
+            break;
+        case 18:
+            m_box.SetSelAlignment(m_random.bounded(4));
+            m_box.SetSelBullet(m_random.bounded(2) == 1);
+            m_box.SetSelColor(m_random.bounded(2) == 1 ? 0x80000008 : 255);
+            break;
+        case 19:
+            if (m_random.bounded(6) == 0)
+                replaceByItself();
+            else
+                emptyBatch();
+            break;
         }
     }
 
@@ -115,9 +140,23 @@ public:
         QCOMPARE(m_box.SelLength(), m_model.length);
         QCOMPARE(m_box.SelText(), m_model.text.mid(m_model.start, m_model.length));
         QCOMPARE(slowText(*m_box.document()), m_model.text);
+        compareLayout();
     }
 
 private:
+    /// Each paragraph's lines are lines of its present text.
+    void compareLayout() const {
+        const QTextDocument& document = *m_box.document();
+        for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+            document.documentLayout()->blockBoundingRect(block); // lays out up to here
+            const QTextLayout& layout = *block.layout();
+            int laidOut = 0;
+            for (int line = 0; line < layout.lineCount(); ++line)
+                laidOut += layout.lineAt(line).textLength();
+            QCOMPARE(laidOut, block.length() - 1);
+        }
+    }
+
     QString words() {
         static const QString pieces[] = {u"a"_s,       u" word"_s, u"\r\n"_s,   u"\u0001"_s,
                                          u"\n"_s,      u"."_s,     u"\u00A0"_s, u"\r\n\r\n"_s,
@@ -150,7 +189,16 @@ private:
         m_model.replace(text);
     }
 
+    bool atBullet() const {
+        return m_model.length == 0 && m_box.textCursor().atBlockStart() &&
+               m_box.SelBullet() == true;
+    }
+
     void backspace() {
+        if (atBullet()) { // goes first
+            QTest::keyClick(&m_box, Qt::Key_Backspace);
+            return;
+        }
         if (m_model.length == 0) {
             if (m_model.start == 0)
                 return;
@@ -194,6 +242,29 @@ private:
         }
     }
 
+    void pastePicture() {
+        QImage picture(4, 3, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        QApplication::clipboard()->setImage(picture);
+        m_box.Paste();
+        m_model.replace(u" "_s);
+    }
+
+    void replaceByItself() {
+        m_box.SetTextRTF(m_box.TextRTF());
+        m_model.start = 0;
+        m_model.length = 0;
+    }
+
+    /// Whatever happens in it, nothing is changed.
+    void emptyBatch() {
+        const RichTextBox::Batch batch(m_box);
+        moveTo(m_random.bounded(int(m_model.text.size()) + 1));
+        insert(QString());
+        m_box.SetSelRTF(QByteArrayLiteral("{\\rtf1}"));
+        m_box.SetSelItalic(m_random.bounded(2) == 1);
+    }
+
     void setAll() {
         m_model = {words() + words(), 0, 0};
         m_box.SetText(m_model.text);
@@ -204,7 +275,7 @@ private:
             return;
         m_box.Undo();
         QCOMPARE(slowText(*m_box.document()), m_box.Text());
-        m_box.redo();
+        QTest::keySequence(&m_box, QKeySequence::Redo);
         m_model.start = m_box.SelStart();
         m_model.length = m_box.SelLength();
     }

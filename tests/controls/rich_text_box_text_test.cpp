@@ -10,6 +10,7 @@
 #include <QTextBlock>
 
 #include <functional>
+#include <tuple>
 
 using namespace orvalis;
 using namespace Qt::StringLiterals;
@@ -74,6 +75,7 @@ private slots:
     void positionsHoldInsideABatch();
     void aBatchThatChangesNothingLeavesPositionsRight();
     void aFailureInsideABatchEndsIt();
+    void aBatchThatMakesAListLongerAheadOfAnotherChangeIsSeenWhole();
 };
 
 void RichTextBoxTextTest::anEmptyBoxHasNoText() {
@@ -508,6 +510,33 @@ void RichTextBoxTextTest::aBatchThatChangesNothingLeavesPositionsRight() {
         QCOMPARE(box.SelStart(), at);
     }
     QCOMPARE(box.Find(u"y"_s), 5);
+}
+
+/// Documents tell too little of such a change, by a character for each new item.
+void RichTextBoxTextTest::aBatchThatMakesAListLongerAheadOfAnotherChangeIsSeenWhole() {
+    RichTextBox box;
+    const QString before = u"item\r\nbetween\r\nab"_s;
+    const QString after = u"i\r\nt\r\nem\r\nbetween\r\naY"_s;
+    box.SetText(before);
+    box.SetSelBullet(true);
+    QCOMPARE(box.Text(), before);
+    {
+        const RichTextBox::Batch batch(box);
+        for (const auto& [start, length, text] :
+             {std::tuple(16, 1, u"Y"_s), std::tuple(2, 0, u"\r\n"_s),
+              std::tuple(1, 0, u"\r\n"_s)}) {
+            box.SetSelStart(start);
+            box.SetSelLength(length);
+            box.SetSelText(text);
+        }
+    }
+    QCOMPARE(box.Text(), after);
+    for (int time = 0; time < 2; ++time) {
+        box.Undo();
+        QCOMPARE(box.Text(), before);
+        QTest::keySequence(&box, QKeySequence::Redo);
+        QCOMPARE(box.Text(), after);
+    }
 }
 
 void RichTextBoxTextTest::everyWayToChangeTheContentTellsOnce() {

@@ -7,6 +7,7 @@
 #include "skin/palette.h"
 #include "skin/skin.h"
 #include "skin/type.h"
+#include "skin/window_palette.h"
 
 #include <QAbstractScrollArea>
 #include <QApplication>
@@ -22,13 +23,6 @@ using namespace Qt::StringLiterals;
 namespace orvalis::skin {
 
 namespace {
-
-constexpr int kScrollBar = 12;
-constexpr int kShortestSlider = 24;
-constexpr int kComboArrow = 19;
-constexpr int kFieldFrame = 2;
-constexpr int kCaptionInset = 9;
-constexpr int kMark = 14;
 
 QColor of(QRgb rgb) {
     return QColor::fromRgba(rgb);
@@ -54,42 +48,6 @@ void layOnGlass(QWidget* widget) {
     widget->setPalette(palette);
 }
 
-QRect scrollBarRect(const QStyleOptionSlider& bar, QStyle::SubControl part) {
-    const bool upright = bar.orientation == Qt::Vertical;
-    const int length = upright ? bar.rect.height() : bar.rect.width();
-    const qint64 range = qint64(bar.maximum) - bar.minimum;
-    int slider = length;
-    if (range > 0) {
-        const qint64 page = qMax(1, bar.pageStep);
-        slider = int(qMax<qint64>(length * page / (range + page), kShortestSlider));
-        slider = qMin(slider, length);
-    }
-    const int start = QStyle::sliderPositionFromValue(bar.minimum, bar.maximum, bar.sliderPosition,
-                                                      length - slider, bar.upsideDown);
-    int from = 0;
-    int size = length;
-    switch (part) {
-    case QStyle::SC_ScrollBarSlider:
-        from = start;
-        size = slider;
-        break;
-    case QStyle::SC_ScrollBarSubPage:
-        size = start;
-        break;
-    case QStyle::SC_ScrollBarAddPage:
-        from = start + slider;
-        size = length - from;
-        break;
-    case QStyle::SC_ScrollBarGroove:
-        break;
-    default:
-        return {};
-    }
-    const QRect rect =
-        upright ? QRect(0, from, bar.rect.width(), size) : QRect(from, 0, size, bar.rect.height());
-    return QStyle::visualRect(bar.direction, bar.rect, rect.translated(bar.rect.topLeft()));
-}
-
 void drawMenuItem(const QStyle* base, const QStyleOptionMenuItem& item, QPainter* painter,
                   const QWidget* widget) {
     QStyleOptionMenuItem ours(item);
@@ -102,35 +60,6 @@ void drawMenuItem(const QStyle* base, const QStyleOptionMenuItem& item, QPainter
 
 Style::Style()
     : QProxyStyle(u"fusion"_s) {}
-
-QPalette windowPalette() {
-    QPalette palette(of(0xFFDCEAEF), of(0xFFEFF6F8));
-    palette.setColor(QPalette::Window, of(0xFFEFF6F8));
-    palette.setColor(QPalette::WindowText, of(colour::Ink));
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::AlternateBase, of(0xFFF4F8F1));
-    palette.setColor(QPalette::Text, of(colour::Text));
-    palette.setColor(QPalette::PlaceholderText, of(colour::Quiet));
-    palette.setColor(QPalette::Button, of(0xFFDCEAEF));
-    palette.setColor(QPalette::ButtonText, of(colour::Ink));
-    palette.setColor(QPalette::BrightText, Qt::white);
-    palette.setColor(QPalette::Highlight, of(colour::Sage));
-    palette.setColor(QPalette::HighlightedText, of(0xFF14261B));
-    palette.setColor(QPalette::Link, of(0xFF00747A));
-    palette.setColor(QPalette::LinkVisited, of(colour::LabelInk));
-    palette.setColor(QPalette::ToolTipBase, of(0xFFFBFDF6));
-    palette.setColor(QPalette::ToolTipText, of(colour::Ink));
-    palette.setColor(QPalette::Light, Qt::white);
-    palette.setColor(QPalette::Midlight, of(0xFFE4EFF3));
-    palette.setColor(QPalette::Mid, of(0xFFB7CED5));
-    palette.setColor(QPalette::Dark, of(colour::Line));
-    palette.setColor(QPalette::Shadow, of(0xFF4E8E9E));
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, of(colour::DisabledText));
-    palette.setColor(QPalette::Disabled, QPalette::Base, of(0xFFF1F3EF));
-    palette.setColor(QPalette::Disabled, QPalette::Highlight, of(colour::LineSoft));
-    return palette;
-}
 
 QPalette Style::standardPalette() const {
     return windowPalette();
@@ -253,7 +182,7 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
     }
     if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
         bar && control == CC_ScrollBar) {
-        faces::scrollBar(*painter, *bar, scrollBarRect(*bar, SC_ScrollBarSlider));
+        faces::scrollBar(*painter, *bar, subControlRect(control, bar, SC_ScrollBarSlider, widget));
         return;
     }
     const auto* tool = qstyleoption_cast<const QStyleOptionToolButton*>(option);
@@ -265,65 +194,6 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
         return;
     }
     QProxyStyle::drawComplexControl(control, option, painter, widget);
-}
-
-QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
-                            SubControl part, const QWidget* widget) const {
-    if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
-        bar && control == CC_ScrollBar)
-        return scrollBarRect(*bar, part);
-    if (control == CC_ComboBox) {
-        const QRect whole = option->rect;
-        const QRect arrow = whole.adjusted(whole.width() - kComboArrow, 0, 0, 0);
-        if (part == SC_ComboBoxArrow)
-            return visualRect(option->direction, whole, arrow);
-        if (part == SC_ComboBoxEditField)
-            return visualRect(option->direction, whole,
-                              whole.adjusted(kFieldFrame, kFieldFrame, -kComboArrow, -kFieldFrame));
-    }
-    if (const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
-        group && control == CC_GroupBox && part == SC_GroupBoxLabel) {
-        const QSize text = group->fontMetrics.size(Qt::TextShowMnemonic, group->text) + QSize(2, 0);
-        return visualRect(group->direction, group->rect,
-                          QRect(group->rect.topLeft() + QPoint(kCaptionInset, 0), text));
-    }
-    return QProxyStyle::subControlRect(control, option, part, widget);
-}
-
-int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
-                       const QWidget* widget) const {
-    switch (metric) {
-    case PM_ScrollBarExtent:
-        return kScrollBar;
-    case PM_ScrollBarSliderMin:
-        return kShortestSlider;
-    case PM_ScrollView_ScrollBarSpacing:
-        return 0;
-    case PM_DefaultFrameWidth:
-        return kFieldFrame;
-    case PM_IndicatorWidth:
-    case PM_IndicatorHeight:
-    case PM_ExclusiveIndicatorWidth:
-    case PM_ExclusiveIndicatorHeight:
-        return kMark;
-    case PM_ButtonShiftHorizontal:
-    case PM_ButtonShiftVertical:
-        return 0;
-    default:
-        return QProxyStyle::pixelMetric(metric, option, widget);
-    }
-}
-
-int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                     QStyleHintReturn* result) const {
-    switch (hint) {
-    case SH_DialogButtonBox_ButtonsHaveIcons:
-    case SH_ComboBox_Popup:
-    case SH_EtchDisabledText:
-        return 0;
-    default:
-        return QProxyStyle::styleHint(hint, option, widget, result);
-    }
 }
 
 QIcon Style::standardIcon(StandardPixmap picture, const QStyleOption* option,

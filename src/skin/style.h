@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QPalette>
 #include <QProxyStyle>
 
 class QApplication;
@@ -12,9 +11,6 @@ namespace orvalis::skin {
 /// Gives the whole program its look: style, palette, font, tool tips and window icon. One call,
 /// made once the application object stands and before the first window shows. It draws nothing.
 void dress(QApplication& application);
-
-/// The colours of every window, independent of the desktop's theme.
-QPalette windowPalette();
 
 /// The style of the whole program: what Fusion leaves alone (layout, keys, sizes) with faces of our
 /// own, all drawn as vectors so that they are sharp at every scale. A style rather than a style

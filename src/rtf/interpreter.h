@@ -101,9 +101,11 @@ private:
     void openDestination(Destination destination);
     void closeDestination(Destination destination);
     bool tableWord(const Token& token);
-    bool pictureWord(const Token& token);
     void colorBytes(QByteArrayView run);
     void fontBytes(QByteArrayView run);
+
+    // Pictures (interpreter_pictures.cpp)
+    bool pictureWord(const Token& token);
     void pictureBytes(QByteArrayView run);
     void deliverPicture();
 

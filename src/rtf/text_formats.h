@@ -4,27 +4,15 @@
 
 #include "rtf/formats.h"
 
-#include <QTextBlockFormat>
 #include <QTextCharFormat>
-#include <QTextListFormat>
 
 class QFont;
-class QTextList;
 
 namespace orvalis::rtf {
 
-/// Formats of RTF as those of a text document, and back.
+/// Formats of characters in RTF as those of a text document, and back.
 QTextCharFormat textFormat(const CharFormat& format, const Names& names);
-/// Leaves the list out: that is an object of the document.
-QTextBlockFormat blockFormat(const ParagraphFormat& format);
-/// \param left indent of the item in twips: one too small for a label gets room on the screen.
-QTextListFormat listFormat(const ListLabel& label, int left);
-
 /// \param defaultFont what the document shows where the format says nothing.
 CharFormat charFormat(const QTextCharFormat& format, Names& names, const QFont& defaultFont);
-/// \param list of the block, null for none.
-/// \param indentWidth pixels of one step of the indents of lists and blocks.
-ParagraphFormat paragraphFormat(const QTextBlockFormat& format, const QTextList* list,
-                                double indentWidth);
 
 } // namespace orvalis::rtf

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/writer.h"
 
+#include "rtf/block_formats.h"
 #include "rtf/body_writer.h"
 #include "rtf/picture_format.h"
 #include "rtf/text_formats.h"

@@ -15,6 +15,7 @@
 #include <QTextDocument>
 #include <QUrl>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -63,8 +64,10 @@ QImage imageOfResource(const QVariant& resource) {
     }
 }
 
-int twips(double pixels) {
-    return int(std::lround(pixels * twipsPerPixel));
+// What shows at all is at least a twip long: none would mean the picture's own length.
+int goalTwips(double shown, int own) {
+    return shown > 0 ? std::max(1, int(std::lround(shown * twipsPerPixel)))
+                     : int(std::lround(own * twipsPerPixel));
 }
 
 } // namespace
@@ -142,8 +145,8 @@ Picture pictureOfFormat(const QTextDocument& document, const QTextImageFormat& f
         }
     }
     const QSize own = picture.bytes.isEmpty() ? QSize() : pixelSize(picture);
-    picture.goalWidth = twips(format.width() > 0 ? format.width() : own.width());
-    picture.goalHeight = twips(format.height() > 0 ? format.height() : own.height());
+    picture.goalWidth = goalTwips(format.width(), own.width());
+    picture.goalHeight = goalTwips(format.height(), own.height());
     return picture;
 }
 

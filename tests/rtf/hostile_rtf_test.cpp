@@ -6,13 +6,23 @@
 #include "sample_rtf.h"
 #include "support/test_main.h"
 
-#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QTextDocument>
+
+#include <ctime>
 
 using namespace orvalis;
 using namespace orvalis::rtf;
 using orvalis::test::RecordingSink;
+
+namespace {
+
+/// Of the processor's time, which a busy machine does not stretch.
+double millisecondsSince(std::clock_t start) {
+    return 1000.0 * double(std::clock() - start) / CLOCKS_PER_SEC;
+}
+
+} // namespace
 
 class HostileRtfTest : public QObject {
     Q_OBJECT
@@ -148,10 +158,9 @@ void HostileRtfTest::picturesThatLieAreRefused_data() {
 void HostileRtfTest::picturesThatLieAreRefused() {
     QFETCH(QByteArray, picture);
     QTextDocument document;
-    QElapsedTimer timer;
-    timer.start();
+    const std::clock_t start = std::clock();
     readRtf("{\\rtf1 a" + picture + "b}", document);
-    QVERIFY(timer.elapsed() < 2000);
+    QVERIFY(millisecondsSince(start) < 2000);
     QString text = document.toRawText();
     QCOMPARE(text.remove(QChar(QChar::ObjectReplacementCharacter)), QStringLiteral("ab"));
 }
@@ -165,10 +174,9 @@ void HostileRtfTest::garbageIsReadInLinearTime() {
             rtf += char(seed >> 24);
         }
         NullSink sink;
-        QElapsedTimer timer;
-        timer.start();
+        const std::clock_t start = std::clock();
         readRtf(rtf, sink);
-        return timer.nsecsElapsed() / 1e6;
+        return millisecondsSince(start);
     };
     const double small = milliseconds(1 << 20);
     const double large = milliseconds(16 << 20);

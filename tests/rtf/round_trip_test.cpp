@@ -188,6 +188,7 @@ private slots:
     void whatWasReadIsWrittenTheSameAgain();
     void neighbouringListsOfBulletsAreWrittenTheSameAgain();
     void aPictureAmongHiddenTextStays();
+    void aPictureTooSmallToSeeStays();
     void everyPartOfADocumentCanBeWritten();
     void onlyAsciiIsWritten();
 };
@@ -256,6 +257,20 @@ void RoundTripTest::aPictureAmongHiddenTextStays() {
     QVERIFY(readRtf(writeRtf(document), again).ok());
     QCOMPARE(again.toRawText(), QStringLiteral("hid\ufffcden"));
     QVERIFY(again.firstBlock().begin().fragment().charFormat().hasProperty(HiddenText));
+}
+
+void RoundTripTest::aPictureTooSmallToSeeStays() {
+    QTextDocument document;
+    const QByteArray png = test::encoded(test::sampleImage(), "PNG");
+    QVERIFY(readRtf("{\\rtf1{\\pict\\pngblip\\picwgoal1\\picscalex10\\pichgoal300 " + png.toHex() +
+                        "}\\par}",
+                    document)
+                .ok());
+    const QByteArray written = writeRtf(document);
+    QVERIFY(written.contains("\\picwgoal1\\pichgoal300"));
+    QTextDocument again;
+    QVERIFY(readRtf(written, again).ok());
+    QCOMPARE(writeRtf(again), written);
 }
 
 void RoundTripTest::everyPartOfADocumentCanBeWritten() {

@@ -90,6 +90,7 @@ public:
     void key(const QString& keys);
 
 private:
+    void appendSanitizerOption(const QString& option);
     QJsonObject ask(const QString& what, const QString& name = {});
     Control placed(Control control) const;
     Control waitAtRest(const std::function<Control()>& look);

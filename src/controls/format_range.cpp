@@ -67,12 +67,15 @@ int RangeFormatter::format(const QTextDocument& document, const TextPositions& p
 
 void RangeFormatter::prepare(const QTextDocument& document, const FormatRange& range) {
     const QSizeF page = range.rect.size();
+    // Another device can stand where one stood before.
+    const QSize dots(range.device->logicalDpiX(), range.device->logicalDpiY());
     if (m_copy && m_document == &document && m_revision == document.revision() &&
-        m_device == range.device && m_page == page)
+        m_device == range.device && m_dots == dots && m_page == page)
         return;
     m_document = &document;
     m_revision = document.revision();
     m_device = range.device;
+    m_dots = dots;
     m_page = page;
     m_copy.reset(document.clone());
     m_copy->setUndoRedoEnabled(false);

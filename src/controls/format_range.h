@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QRectF>
+#include <QSize>
 #include <QTextDocument>
 
 #include <memory>
@@ -53,6 +54,7 @@ private:
     const QTextDocument* m_document = nullptr;
     int m_revision = 0;
     QPaintDevice* m_device = nullptr;
+    QSize m_dots;  ///< of the device to the inch
     QSizeF m_page; ///< twips
 };
 

@@ -10,6 +10,8 @@
 #include <QPainter>
 #include <QTextBlock>
 
+#include <functional>
+
 using namespace orvalis;
 using namespace Qt::StringLiterals;
 
@@ -105,6 +107,9 @@ private slots:
     void measuringDrawsNothing();
     void printingIsTheSameOnAFinerDevice();
     void aChangedTextIsFormattedAnew();
+    void aChangedFormatIsFormattedAnew_data();
+    void aChangedFormatIsFormattedAnew();
+    void anotherRectangleOrDeviceIsFormattedAnew();
     void theBoxItselfStaysAsItWas();
 };
 
@@ -288,6 +293,58 @@ void FormatRangeTest::aChangedTextIsFormattedAnew() {
     QCOMPARE(box.FormatPage({nullptr, &image, wholePage, 0, -1}), 5);
     box.SetSelText(u"not so "_s);
     QCOMPARE(box.FormatPage({nullptr, &image, wholePage, 0, -1}), 12);
+}
+
+void FormatRangeTest::aChangedFormatIsFormattedAnew_data() {
+    using Change = std::function<void(RichTextBox&)>;
+    QTest::addColumn<Change>("change");
+    QTest::newRow("size") << Change([](RichTextBox& box) { box.SetSelFontSize(30); });
+    QTest::newRow("size, in a batch") << Change([](RichTextBox& box) {
+        const RichTextBox::Batch batch(box);
+        box.SetSelFontSize(30);
+    });
+    QTest::newRow("size of the box") << Change([](RichTextBox& box) { box.SetFontSize(30); });
+    QTest::newRow("indent") << Change([](RichTextBox& box) { box.SetSelIndent(3 * inch); });
+    QTest::newRow("bullets") << Change([](RichTextBox& box) {
+        box.SetSelBullet(true);
+        box.SetSelIndent(3 * inch);
+    });
+    QTest::newRow("undo") << Change([](RichTextBox& box) {
+        box.Undo(); // back to the large size that the words had
+    });
+}
+
+/// A page may be printed, a format changed, and the next page printed; or the same box again.
+void FormatRangeTest::aChangedFormatIsFormattedAnew() {
+    QFETCH(std::function<void(RichTextBox&)>, change);
+    RichTextBox box;
+    box.SetText(u"words that fill their line and then the next ones too, "_s.repeated(60));
+    box.selectAll();
+    box.SetSelFontSize(20);
+    box.SetSelFontSize(10);
+    QImage image = sheet();
+    const int before = box.FormatPage({nullptr, &image, wholePage, 0, -1});
+    change(box);
+    const int after = box.FormatPage({nullptr, &image, wholePage, 0, -1});
+    QVERIFY2(after < before, qPrintable(u"%1, %2"_s.arg(before).arg(after)));
+    box.EndFormatting();
+    QCOMPARE(box.FormatPage({nullptr, &image, wholePage, 0, -1}), after);
+}
+
+void FormatRangeTest::anotherRectangleOrDeviceIsFormattedAnew() {
+    RichTextBox box;
+    box.SetText(u"words that fill their line and then the next ones too, "_s.repeated(60));
+    QImage image = sheet();
+    const int before = box.FormatPage({nullptr, &image, wholePage, 0, -1});
+    const QRectF narrow(inch, inch, 2 * inch, 4 * inch);
+    QVERIFY(box.FormatPage({nullptr, &image, narrow, 0, -1}) < before * 2 / 3);
+
+    QCOMPARE(box.FormatPage({nullptr, &image, wholePage, 0, -1}), before);
+    // The same device prints finer than before: a page holds as much, though not as many dots.
+    image.setDotsPerMeterX(4 * dotsPerMeter);
+    image.setDotsPerMeterY(4 * dotsPerMeter);
+    const int finer = box.FormatPage({nullptr, &image, wholePage, 0, -1});
+    QVERIFY2(std::abs(finer - before) < before / 4, qPrintable(u"%1, %2"_s.arg(before).arg(finer)));
 }
 
 void FormatRangeTest::theBoxItselfStaysAsItWas() {

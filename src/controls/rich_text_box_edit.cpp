@@ -45,6 +45,16 @@ bool atBullet(const QTextCursor& cursor) {
     return !cursor.hasSelection() && cursor.atBlockStart() && hasBullet(cursor.block());
 }
 
+/// What is typed behind a mark is no mark. \returns whether the cursor's format changed.
+bool leaveMarks(QTextCursor& cursor) {
+    QTextCharFormat format = cursor.charFormat();
+    if (!format.boolProperty(rtf::ControlMarks))
+        return false;
+    format.clearProperty(rtf::ControlMarks);
+    cursor.setCharFormat(format);
+    return true;
+}
+
 } // namespace
 
 bool RichTextBox::CanUndo() const {
@@ -143,7 +153,7 @@ void RichTextBox::keyPressEvent(QKeyEvent* event) {
 }
 
 /// What is typed over a selection takes the format at its start; the editor's own way would ask at
-/// which end the caret stands. What is typed behind a mark is no mark.
+/// which end the caret stands.
 void RichTextBox::typeText(QKeyEvent* event) {
     QTextCursor cursor = editCursor();
     if (cursor.hasSelection()) {
@@ -151,12 +161,8 @@ void RichTextBox::typeText(QKeyEvent* event) {
         ensureCursorVisible();
         return;
     }
-    QTextCharFormat format = cursor.charFormat();
-    if (format.boolProperty(rtf::ControlMarks)) {
-        format.clearProperty(rtf::ControlMarks);
-        cursor.setCharFormat(format);
+    if (leaveMarks(cursor))
         takeCursor(cursor);
-    }
     QTextEdit::keyPressEvent(event);
 }
 
@@ -178,8 +184,25 @@ void RichTextBox::typeParagraphEnd() {
     });
 }
 
+/// As typeText(): what is composed over a selection takes the format at its start, whether it comes
+/// at once or is shown before it is committed.
 void RichTextBox::inputMethodEvent(QInputMethodEvent* event) {
+    if (isReadOnly()) {
+        event->ignore();
+        return;
+    }
     const UndoKindScope kind(*m_undoKinds, UndoKind::Typing);
+    QTextCursor cursor = editCursor();
+    const bool writes = !event->commitString().isEmpty() || !event->preeditString().isEmpty();
+    if (writes && cursor.hasSelection() && event->replacementLength() == 0) {
+        SetSelText(event->commitString());
+        QInputMethodEvent rest(event->preeditString(), event->attributes());
+        QTextEdit::inputMethodEvent(&rest);
+        event->accept();
+        return;
+    }
+    if (writes && leaveMarks(cursor))
+        takeCursor(cursor);
     QTextEdit::inputMethodEvent(event);
 }
 

@@ -28,6 +28,13 @@ int pagesBegun(const RichTextBox& box) {
     return count;
 }
 
+/// What an input method sends while something is composed, and when it is done.
+void compose(RichTextBox& box, const QString& shown, const QString& committed = {}) {
+    QInputMethodEvent event(shown, {});
+    event.setCommitString(committed);
+    QApplication::sendEvent(&box, &event);
+}
+
 } // namespace
 
 class RichTextBoxEditTest : public QObject {
@@ -41,6 +48,10 @@ private slots:
     void typedFormatsCanBeUndone();
     void whatIsTypedOverASelectionTakesTheFormatAtItsStart();
     void aMarkTypedBehindAControlCharacterIsNoCode();
+    void composingLeavesTheTextAsItIsUntilItIsCommitted();
+    void composingReplacesTheSelection();
+    void whatIsCommittedOverASelectionTakesTheFormatAtItsStart();
+    void aReadOnlyBoxTakesNothingComposed();
     void backspaceAtABulletTakesTheBulletAndItsRoom();
     void emptyLinesKeepTheFormat();
     void aParagraphBehindOneThatBeginsAPageBeginsNone();
@@ -78,8 +89,13 @@ void RichTextBoxEditTest::undoKindsFollowWhatWasDone() {
     QCOMPARE(box.UndoType(), UndoKind::LastAction);
     QTest::keyClicks(&box, u"words"_s);
     QCOMPARE(box.UndoType(), UndoKind::Typing);
+    QTest::keyClick(&box, Qt::Key_Return);
+    QCOMPARE(box.UndoType(), UndoKind::Typing);
     QTest::keyClick(&box, Qt::Key_Backspace);
     QCOMPARE(box.UndoType(), UndoKind::Delete);
+    QTest::keyClick(&box, Qt::Key_Return);
+    QCOMPARE(box.UndoType(), UndoKind::Typing);
+    QTest::keyClick(&box, Qt::Key_Backspace);
     box.SetSelStart(0);
     box.SetSelLength(2);
     box.Cut();
@@ -325,6 +341,101 @@ void RichTextBoxEditTest::aMarkTypedBehindAControlCharacterIsNoCode() {
     box.selectAll();
     QApplication::sendEvent(&box, &key);
     QCOMPARE(box.Text(), u"\u2801"_s);
+}
+
+void RichTextBoxEditTest::composingLeavesTheTextAsItIsUntilItIsCommitted() {
+    RichTextBox box;
+    box.SetText(u"one three"_s);
+    box.SetSelStart(4);
+    QSignalSpy changes(&box, &RichTextBox::Change);
+    compose(box, u"ni"_s);
+    compose(box, u"nihao"_s);
+    QCOMPARE(box.Text(), u"one three"_s);
+    QCOMPARE(box.SelStart(), 4);
+    QVERIFY(!box.CanUndo());
+    compose(box, {}, u"\u4F60\u597D "_s);
+    QCOMPARE(box.Text(), u"one \u4F60\u597D three"_s);
+    QCOMPARE(box.SelStart(), 7);
+    QVERIFY(changes.count() >= 1);
+    box.SetSelStart(8);
+    QCOMPARE(box.Find(u"three"_s), 7);
+    QCOMPARE(box.UndoType(), UndoKind::Typing);
+    box.Undo();
+    QCOMPARE(box.Text(), u"one three"_s);
+    QVERIFY(!box.CanUndo());
+}
+
+void RichTextBoxEditTest::composingReplacesTheSelection() {
+    RichTextBox box;
+    box.SetText(u"one\r\ntwo\r\nthree"_s);
+    box.SetSelStart(5);
+    box.SetSelLength(3);
+    QSignalSpy changes(&box, &RichTextBox::Change);
+    QSignalSpy selections(&box, &RichTextBox::SelChange);
+    compose(box, u"ni"_s);
+    QCOMPARE(box.Text(), u"one\r\n\r\nthree"_s);
+    QCOMPARE(box.SelStart(), 5);
+    QCOMPARE(box.SelLength(), 0);
+    QVERIFY(changes.count() >= 1);
+    QVERIFY(selections.count() >= 1);
+    compose(box, {}, u"\u4F60"_s);
+    QCOMPARE(box.Text(), u"one\r\n\u4F60\r\nthree"_s);
+    QCOMPARE(box.SelStart(), 6);
+    QCOMPARE(box.UndoType(), UndoKind::Typing);
+    while (box.CanUndo()) {
+        QCOMPARE(box.UndoType(), UndoKind::Typing);
+        box.Undo();
+    }
+    QCOMPARE(box.Text(), u"one\r\ntwo\r\nthree"_s);
+    while (box.document()->isRedoAvailable())
+        QTest::keySequence(&box, QKeySequence::Redo);
+    QCOMPARE(box.Text(), u"one\r\n\u4F60\r\nthree"_s);
+
+    // Given up, it leaves what a deleted selection leaves.
+    box.SetSelStart(0);
+    box.SetSelLength(5);
+    compose(box, u"ni"_s);
+    compose(box, {});
+    QCOMPARE(box.Text(), u"\u4F60\r\nthree"_s);
+    QCOMPARE(box.SelStart(), 0);
+}
+
+void RichTextBoxEditTest::whatIsCommittedOverASelectionTakesTheFormatAtItsStart() {
+    for (const bool composed : {false, true}) {
+        RichTextBox box;
+        box.SetText(u"plain bold plain"_s);
+        box.SetSelStart(6);
+        box.SetSelLength(4);
+        box.SetSelBold(true);
+        if (composed)
+            compose(box, u"x"_s);
+        compose(box, {}, u"\u4F60"_s);
+        QCOMPARE(box.Text(), u"plain \u4F60 plain"_s);
+        QCOMPARE(box.SelStart(), 7);
+        box.SetSelStart(6);
+        box.SetSelLength(1);
+        QCOMPARE(box.SelBold(), std::optional(true));
+        box.Undo();
+        if (composed)
+            box.Undo();
+        QCOMPARE(box.Text(), u"plain bold plain"_s);
+    }
+    RichTextBox box;
+    box.SetText(u"\u0001"_s);
+    box.SetSelStart(1);
+    compose(box, {}, u"\u2801"_s);
+    QCOMPARE(box.Text(), u"\u0001\u2801"_s);
+}
+
+void RichTextBoxEditTest::aReadOnlyBoxTakesNothingComposed() {
+    RichTextBox box;
+    box.SetText(u"text"_s);
+    box.selectAll();
+    box.setReadOnly(true);
+    compose(box, u"ni"_s);
+    compose(box, {}, u"\u4F60"_s);
+    QCOMPARE(box.Text(), u"text"_s);
+    QCOMPARE(box.SelLength(), 4);
 }
 
 ORVALIS_TEST_MAIN_WITH(QApplication, RichTextBoxEditTest)

@@ -64,6 +64,7 @@ private slots:
     void pastedLineEndsOfOtherProgramsAreLineBreaks();
     void pastedTextTakesTheFormatAtTheSelectionsStart();
     void richTextComesBeforeHtmlAndText();
+    void textComesBeforeItsPicture();
     void htmlKeepsItsRuns();
     void aTableInHtmlComesAsTextWithTabs();
     void listsInHtmlStayLists();
@@ -273,6 +274,26 @@ void RichTextBoxClipboardTest::richTextComesBeforeHtmlAndText() {
     data->setHtml(u"<p>from html</p>"_s);
     data->setText(u"from text"_s);
     QCOMPARE(pasted(data), u"from html"_s);
+}
+
+/// Programs offer a picture of what is copied beside it, cells of a sheet say.
+void RichTextBoxClipboardTest::textComesBeforeItsPicture() {
+    const auto withPicture = [] {
+        auto* data = new QMimeData;
+        data->setData(u"image/png"_s, pngOf(Qt::red));
+        data->setImageData(QImage::fromData(pngOf(Qt::red)));
+        return data;
+    };
+    QMimeData* data = withPicture();
+    data->setData(u"text/rtf"_s, "{\\rtf1 from rtf\\par}");
+    QCOMPARE(pasted(data), u"from rtf"_s);
+    data = withPicture();
+    data->setHtml(u"<p>from html</p>"_s);
+    data->setText(u"from text"_s);
+    QCOMPARE(pasted(data), u"from html"_s);
+    data = withPicture();
+    data->setText(u"from text"_s);
+    QCOMPARE(pasted(data), u"from text"_s);
 }
 
 void RichTextBoxClipboardTest::htmlKeepsItsRuns() {

@@ -35,6 +35,7 @@ private slots:
     void init();
     void richTextIsSavedAndLoaded();
     void plainTextIsSavedAndLoaded();
+    void richTextLoadedAsPlainTextShowsItsCodes();
     void everyCodeIsSavedAndLoaded_data();
     void everyCodeIsSavedAndLoaded();
     void everyPairOfCodesIsSavedAndLoaded();
@@ -116,6 +117,17 @@ void RichTextBoxFilesTest::plainTextIsSavedAndLoaded() {
     RichTextBox other;
     other.LoadFile(path(u"note.txt"_s), 1);
     QCOMPARE(other.Text(), u"one\r\ntwo\r\n"_s);
+}
+
+/// The flags alone say what a file is, not what lies in it.
+void RichTextBoxFilesTest::richTextLoadedAsPlainTextShowsItsCodes() {
+    write(u"note.txt"_s, "{\\rtf1 text}");
+    RichTextBox box;
+    box.LoadFile(path(u"note.txt"_s), 1);
+    QCOMPARE(box.Text(), u"{\\rtf1 text}"_s);
+    box.SaveFile(path(u"other.rtf"_s), 0);
+    box.LoadFile(path(u"other.rtf"_s), 0);
+    QCOMPARE(box.Text(), u"{\\rtf1 text}"_s);
 }
 
 void RichTextBoxFilesTest::everyCodeIsSavedAndLoaded_data() {

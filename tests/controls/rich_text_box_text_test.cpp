@@ -53,6 +53,7 @@ private slots:
     void settingTheTextDoesNotMakeALinkOfIt();
     void aFormatSetOnAnEmptyBoxHoldsForWhatIsTyped();
     void aFormatSetOnAnEmptyBoxHoldsAfterTheCaretMoved();
+    void aFormatSetOnAnEmptyLineHoldsAfterTheCaretMoved();
 
     void selectionCountsInPositionsOfTheText();
     void aStartBeyondTheEndIsTheEnd();
@@ -280,6 +281,21 @@ void RichTextBoxTextTest::aFormatSetOnAnEmptyBoxHoldsAfterTheCaretMoved() {
     box.selectAll();
     QCOMPARE(box.SelFontSize(), std::optional<qreal>(17));
     QCOMPARE(box.SelBold(), std::optional<bool>(true));
+}
+
+void RichTextBoxTextTest::aFormatSetOnAnEmptyLineHoldsAfterTheCaretMoved() {
+    RichTextBox box;
+    box.SetText(u"one\r\n\r\nthree"_s);
+    box.SetSelStart(5);
+    box.SetSelBold(true);
+    box.SetSelStart(9);
+    QCOMPARE(box.SelBold(), std::optional(false));
+    box.SetSelStart(5);
+    QCOMPARE(box.SelBold(), std::optional(true));
+    QTest::keyClicks(&box, u"two"_s);
+    box.SetSelStart(5);
+    box.SetSelLength(3);
+    QCOMPARE(box.SelBold(), std::optional(true));
 }
 
 void RichTextBoxTextTest::selectionCountsInPositionsOfTheText() {

@@ -23,12 +23,16 @@ double namedLength(const Picture& picture, int goal, int own) {
 }
 
 double scaled(double twips, int scale) {
-    if (scale > 0)
-        twips = twips * scale / 100;
-    return std::clamp(twips, 0.0, largestTwips);
+    return std::max(scale > 0 ? twips * scale / 100 : twips, 0.0);
 }
 
 } // namespace
+
+QSizeF boundedTwips(QSizeF size) {
+    if (size.isEmpty())
+        return {};
+    return size * std::min(1.0, largestTwips / std::max(size.width(), size.height()));
+}
 
 QSizeF wantedTwips(const Picture& picture) {
     QSizeF size(namedLength(picture, picture.goalWidth, picture.width),
@@ -36,7 +40,7 @@ QSizeF wantedTwips(const Picture& picture) {
     if (size.isEmpty())
         size = metafileTwips(picture.bytes);
     size = {scaled(size.width(), picture.scaleX), scaled(size.height(), picture.scaleY)};
-    return size.isEmpty() ? QSizeF() : size;
+    return boundedTwips(size);
 }
 
 bool hasPlaceableHeader(QByteArrayView bytes) {

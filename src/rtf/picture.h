@@ -42,6 +42,9 @@ struct Picture {
     QByteArray bytes;
 };
 
+/// A size of which no side is longer than what a document can hold, in the shape it had.
+QSizeF boundedTwips(QSizeF size);
+
 /// The size in twips at which a picture wants to be shown, by the words around it or else by its
 /// own head where it is a metafile; empty when it names none at all.
 QSizeF wantedTwips(const Picture& picture);

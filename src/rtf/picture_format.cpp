@@ -44,6 +44,24 @@ QString nameOf(const Picture& picture) {
     return "picture:"_L1 + QLatin1StringView(hash.result().toHex());
 }
 
+// What cannot be drawn keeps its place where its bytes are something and its size is named: by
+// words around it or, as every metafile has one, by itself.
+bool canBeBox(const Picture& picture) {
+    switch (kindOfBytes(picture.bytes)) {
+    case PictureKind::Wmf:
+    case PictureKind::Emf:
+        return true;
+    case PictureKind::Unknown:
+        if (picture.kind != PictureKind::DeviceIndependent &&
+            picture.kind != PictureKind::DeviceDependent)
+            return false;
+        break;
+    default:
+        break;
+    }
+    return !wantedTwips(picture).isEmpty();
+}
+
 QImage emptyBox(QSize size) {
     QImage box(size.boundedTo({largestBox, largestBox}).expandedTo({1, 1}), QImage::Format_RGB32);
     box.fill(Qt::white);
@@ -79,29 +97,21 @@ QTextImageFormat pictureFormat(QTextDocument& document, const Picture& picture,
     const QUrl url(name);
     QVariant resource = document.resource(QTextDocument::ImageResource, url);
     QImage image = imageOfResource(resource);
-    QSizeF wanted = wantedTwips(picture) / twipsPerPixel;
+    QSizeF shown = shownTwips(picture) / twipsPerPixel;
     if (image.isNull()) {
         image = imageOfPicture(picture, bounds.mostPixels, converter);
         bounds.spentPixels = qint64(image.width()) * image.height();
-        if (image.isNull())
-            wanted = drawingTwips(picture) / twipsPerPixel;
-        if (image.isNull() && wanted.isEmpty())
-            return {};
-        if (image.isNull() && kindOfBytes(picture.bytes) == PictureKind::Unknown &&
-            picture.kind != PictureKind::DeviceIndependent &&
-            picture.kind != PictureKind::DeviceDependent)
+        if (image.isNull() && !canBeBox(picture))
             return {};
         if (image.isNull())
-            image = emptyBox(wanted.toSize());
+            image = emptyBox(shown.toSize());
         document.addResource(QTextDocument::ImageResource, url, image);
     }
-    if (wanted.isEmpty())
-        wanted = pixelSize(picture);
-    if (wanted.isEmpty())
-        wanted = image.size();
+    if (shown.isEmpty())
+        shown = image.size();
     format.setName(name);
-    format.setWidth(wanted.width());
-    format.setHeight(wanted.height());
+    format.setWidth(shown.width());
+    format.setHeight(shown.height());
     format.setProperty(PictureSource, picture.bytes);
     const PictureKind found = kindOfBytes(picture.bytes);
     format.setProperty(PictureSourceKind,

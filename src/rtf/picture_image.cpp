@@ -23,6 +23,11 @@ constexpr qint64 mostClaimedPixels = qint64(1) << 27;
 // An inch either way: enough to be seen, too little to be in the way.
 constexpr QSizeF unnamedTwips(1440, 1440);
 
+bool isMetafile(const Picture& picture) {
+    const PictureKind kind = kindOfBytes(picture.bytes);
+    return kind == PictureKind::Wmf || kind == PictureKind::Emf;
+}
+
 bool isEncoded(PictureKind kind) {
     return kind == PictureKind::Png || kind == PictureKind::Jpeg || kind == PictureKind::Other;
 }
@@ -88,15 +93,21 @@ QSize pixelSize(const Picture& picture) {
     if (kind == PictureKind::DeviceDependent)
         return {picture.width, picture.height};
     const QByteArrayView dib = dibOfPicture(picture, kind);
-    return dib.isEmpty() ? QSize() : QSize(int(readU32(dib, 4)), qAbs(qint32(readU32(dib, 8))));
+    const qint64 width = qint32(readU32(dib, 4));
+    const qint64 height = qAbs(qint64(qint32(readU32(dib, 8))));
+    // A bitmap has a bit for each of its pixels at the least: what claims more is none.
+    const bool plausible = width > 0 && height > 0 && width <= dib.size() * 8 / height;
+    return plausible ? QSize(int(width), int(height)) : QSize();
 }
 
-QSizeF drawingTwips(const Picture& picture) {
+QSizeF shownTwips(const Picture& picture) {
     const QSizeF wanted = wantedTwips(picture);
     if (!wanted.isEmpty())
         return wanted;
-    const PictureKind kind = kindOfBytes(picture.bytes);
-    return kind == PictureKind::Wmf || kind == PictureKind::Emf ? unnamedTwips : QSizeF();
+    const QSize pixels = pixelSize(picture);
+    if (!pixels.isEmpty())
+        return boundedTwips(QSizeF(pixels) * twipsPerPixel);
+    return isMetafile(picture) ? unnamedTwips : QSizeF();
 }
 
 QImage imageOfPicture(const Picture& picture, qint64 mostPixels, MetafileConverter* converter) {
@@ -114,7 +125,7 @@ QImage imageOfPicture(const Picture& picture, qint64 mostPixels, MetafileConvert
             return shrunk(image, mostPixels);
         if (!converter || trueKind(picture) == PictureKind::Emf)
             return {};
-        const QSizeF twips = drawingTwips(picture);
+        const QSizeF twips = shownTwips(picture);
         const QSize pixels = fitted((twips / twipsPerPixel).toSize(), mostPixels);
         return pixels.isEmpty() ? QImage() : converter->convert(picture.bytes, pixels);
     }

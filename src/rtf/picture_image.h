@@ -13,9 +13,9 @@ class MetafileConverter;
 /// The size of a picture's own raster in pixels, read from its head alone; empty when unknown.
 QSize pixelSize(const Picture& picture);
 
-/// The size in twips at which a drawing shows, an inch square where nothing names one; empty for
-/// a picture that is no metafile and names no size.
-QSizeF drawingTwips(const Picture& picture);
+/// The size in twips at which a picture shows: the one it wants, else a pixel of its own to one of
+/// the document, else, where it is a drawing, an inch square. Empty where nothing tells a size.
+QSizeF shownTwips(const Picture& picture);
 
 /// Draws a picture. One with more pixels than allowed comes smaller, in the same shape.
 /// \param mostPixels the largest raster that may be made.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "rtf/format_properties.h"
+#include "rtf/picture.h"
 
 #include <QFont>
 #include <QTextBlock>
@@ -31,9 +32,11 @@ inline QString differenceOfCharacters(const QTextCharFormat& a, const QTextCharF
                 .arg(one.height())
                 .arg(other.width())
                 .arg(other.height());
-        if (a.hasProperty(rtf::PictureSource) && b.hasProperty(rtf::PictureSource) &&
-            a.intProperty(rtf::PictureSourceKind) == b.intProperty(rtf::PictureSourceKind) &&
-            a.property(rtf::PictureSource) != b.property(rtf::PictureSource))
+        // Rows of pixels are written as an image file, everything else as it is.
+        const auto kind = static_cast<rtf::PictureKind>(a.intProperty(rtf::PictureSourceKind));
+        const bool kept = kind == rtf::PictureKind::Png || kind == rtf::PictureKind::Jpeg ||
+                          kind == rtf::PictureKind::Wmf || kind == rtf::PictureKind::Emf;
+        if (kept && a.property(rtf::PictureSource) != b.property(rtf::PictureSource))
             return u"bytes of the picture"_s;
     }
     if (a.fontFamilies().toStringList().value(0) != b.fontFamilies().toStringList().value(0))

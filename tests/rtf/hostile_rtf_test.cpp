@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "recording_sink.h"
+#include "rtf/picture_image.h"
 #include "rtf/reader.h"
 #include "rtf/writer.h"
 #include "sample_rtf.h"
@@ -36,6 +37,7 @@ private slots:
     void hugeNumbersHarmNobody();
     void picturesThatLieAreRefused_data();
     void picturesThatLieAreRefused();
+    void aPictureOfMorePixelsThanAnyCameraMakesIsNotDecoded();
     void garbageIsReadInLinearTime();
     void aFloodOfParagraphsComesInAsLinesOnceTheyCostTooMuch();
     void theFirstFaultAndItsPlaceAreTold_data();
@@ -163,6 +165,19 @@ void HostileRtfTest::picturesThatLieAreRefused() {
     QVERIFY(millisecondsSince(start) < 2000);
     QString text = document.toRawText();
     QCOMPARE(text.remove(QChar(QChar::ObjectReplacementCharacter)), QStringLiteral("ab"));
+}
+
+void HostileRtfTest::aPictureOfMorePixelsThanAnyCameraMakesIsNotDecoded() {
+    // A few bytes that would keep a decoder busy with 144 million pixels.
+    QImage blank(12000, 12000, QImage::Format_Mono);
+    blank.fill(0);
+    Picture picture;
+    picture.kind = PictureKind::Png;
+    picture.bytes = test::encoded(blank, "PNG");
+    QVERIFY(picture.bytes.size() < 100000);
+    QVERIFY(imageOfPicture(picture, 1 << 20, nullptr).isNull());
+    picture.bytes = test::encoded(blank.copy(0, 0, 1200, 1200), "PNG");
+    QVERIFY(!imageOfPicture(picture, 1 << 20, nullptr).isNull());
 }
 
 void HostileRtfTest::garbageIsReadInLinearTime() {

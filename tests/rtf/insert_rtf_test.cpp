@@ -52,6 +52,9 @@ private slots:
     void aPictureKeepsItsBytesAndItsWantedSize();
     void aPictureComesOnceOfTheTwoForms();
     void anInsertedPictureIsWrittenWithItsOwnBytes();
+    void pictureFilesAreNotEncodedAgain_data();
+    void pictureFilesAreNotEncodedAgain();
+    void aHugePictureKeepsItsShape();
 };
 
 void InsertRtfTest::exactlyOneClosingMarkIsDropped_data() {
@@ -246,6 +249,43 @@ void InsertRtfTest::anInsertedPictureIsWrittenWithItsOwnBytes() {
     QVERIFY(written.contains("\\pngblip"));
     QVERIFY(written.contains(png.toHex()));
     QVERIFY(written.contains("\\picwgoal60\\pichgoal45"));
+}
+
+void InsertRtfTest::pictureFilesAreNotEncodedAgain_data() {
+    QTest::addColumn<QByteArray>("words");
+    QTest::addColumn<QByteArray>("bytes");
+    // What stands in such a file besides its pixels is lost when it is encoded again.
+    QImage told = test::sampleImage();
+    told.setText(QStringLiteral("Description"), QStringLiteral("a sample"));
+    QTest::newRow("png") << QByteArray("\\pngblip") << test::encoded(told, "PNG");
+    QTest::newRow("jpeg") << QByteArray("\\jpegblip") << test::encoded(told, "JPG");
+}
+
+void InsertRtfTest::pictureFilesAreNotEncodedAgain() {
+    QFETCH(QByteArray, words);
+    QFETCH(QByteArray, bytes);
+    QTextDocument document;
+    QVERIFY(readRtf("{\\rtf1{\\pict" + words + " " + bytes.toHex() + "}\\par}", document).ok());
+    // The text of the image is no part of what the document shows.
+    const QTextImageFormat format =
+        document.firstBlock().begin().fragment().charFormat().toImageFormat();
+    document.addResource(QTextDocument::ImageResource, QUrl(format.name()), test::sampleImage());
+    QByteArray written = writeRtf(document);
+    written.replace("\r\n", "");
+    QVERIFY(written.contains(words));
+    QVERIFY(written.contains(bytes.toHex()));
+}
+
+void InsertRtfTest::aHugePictureKeepsItsShape() {
+    // A document's lengths end at 100000 twips.
+    QTextDocument document;
+    QTextCursor cursor(&document);
+    QVERIFY(insertPicture(cursor, test::encoded(QImage(10000, 100, QImage::Format_Mono), "PNG")));
+    QByteArray written = writeRtf(document);
+    QVERIFY(written.contains("\\picwgoal100000\\pichgoal1000"));
+    QTextDocument again;
+    QVERIFY(readRtf(written, again).ok());
+    QCOMPARE(writeRtf(again), written);
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, InsertRtfTest)

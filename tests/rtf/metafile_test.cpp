@@ -69,6 +69,7 @@ private slots:
     void aDrawingIsDrawnAtItsSize();
     void anEnhancedDrawingIsABoxWithItsBytes();
     void theWordsWinOverTheHead();
+    void aBitmapThatClaimsTooMuchIsADrawing();
 };
 
 void MetafileTest::aBitmapInsideAMetafileIsShown_data() {
@@ -222,6 +223,22 @@ void MetafileTest::theWordsWinOverTheHead() {
     QVERIFY(readRtf(rtfOf("\\emfblip\\picw508\\pich254", bytes), document).ok());
     QVERIFY(std::abs(pictureOf(document).width() - 19.2) < 0.01);
     QVERIFY(std::abs(pictureOf(document).height() - 9.6) < 0.01);
+}
+
+void MetafileTest::aBitmapThatClaimsTooMuchIsADrawing() {
+    QByteArray dib = dibOfImage(test::sampleImage());
+    dib[6] = 100; // more than six million pixels wide
+    const QByteArray bytes =
+        test::metafile(test::metafileRecord(0x0940, {0x20, 0xcc, 0, 0, 3, 4, 0, 0}, dib));
+    QTextDocument document;
+    const QByteArray group = "{\\pict\\wmetafile8 " + bytes.toHex() + "}";
+    QVERIFY(readRtf("{\\rtf1" + group + "and" + group + "\\par}", document).ok());
+    for (auto run = document.firstBlock().begin(); !run.atEnd(); ++run) {
+        const QTextCharFormat format = run.fragment().charFormat();
+        if (format.isImageFormat())
+            QCOMPARE(format.toImageFormat().width(), 96.0);
+    }
+    QCOMPARE(document.toRawText(), QStringLiteral("\ufffcand\ufffc"));
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, MetafileTest)

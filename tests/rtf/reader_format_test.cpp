@@ -49,6 +49,7 @@ private slots:
     void listsOfAllKindsAreKnown_data();
     void listsOfAllKindsAreKnown();
     void aListGoesOnUntilPard();
+    void aListOfTheTablesGoesOnUntilPard();
 };
 
 void ReaderFormatTest::everyCharacterWordChangesWhatItNames_data() {
@@ -309,6 +310,17 @@ void ReaderFormatTest::aListGoesOnUntilPard() {
                                        "{\\pntext 2.\\tab}b\\par\\pard c\\par");
     QCOMPARE(sink.paragraphs[1].format.list.kind, ListKind::Decimal);
     QCOMPARE(sink.paragraphs[2].format.list.kind, ListKind::None);
+}
+
+void ReaderFormatTest::aListOfTheTablesGoesOnUntilPard() {
+    const RecordingSink sink =
+        reading("{\\*\\listtable{\\list{\\listlevel\\levelnfc23}{\\listlevel\\levelnfc0}\\listid7}}"
+                "{\\*\\listoverridetable{\\listoverride\\listid7\\ls1}}"
+                "\\pard\\ls1\\ilvl1 a\\par b\\par\\pard c\\par\\pard\\ls1 d\\par");
+    QCOMPARE(sink.paragraphs[0].format.list.kind, ListKind::Decimal);
+    QCOMPARE(sink.paragraphs[1].format.list.kind, ListKind::Decimal);
+    QCOMPARE(sink.paragraphs[2].format.list.kind, ListKind::None);
+    QCOMPARE(sink.paragraphs[3].format.list.kind, ListKind::Bullet);
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, ReaderFormatTest)

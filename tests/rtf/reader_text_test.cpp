@@ -125,6 +125,7 @@ void ReaderTextTest::whatTheProgramDoesNotShowIsSkipped_data() {
                               "{\\*\\generator G;}",
                               "{\\*\\unknown {deep {er}}}",
                               "{\\*\\unknown \\bin3 }}}}",
+                              "{\\*\\unknown \\bin3 }x{}",
                               "{\\*\\themedata 0011}",
                               "{\\deleted gone}",
                               "{\\pntext 1.\\tab}",
@@ -269,6 +270,9 @@ void ReaderTextTest::hyperlinksKeepTheirTargets_data() {
                              << QStringLiteral("c:\\x");
     QTest::newRow("result marked ignorable")
         << QByteArray("{\\field{\\*\\fldinst{HYPERLINK \"u\"}}{\\*\\fldrslt t}}")
+        << QStringLiteral("u");
+    QTest::newRow("result that begins with plain characters")
+        << QByteArray("{\\field{\\*\\fldinst{HYPERLINK \"u\"}}{\\fldrslt\\plain t}}")
         << QStringLiteral("u");
     QTest::newRow("another field")
         << QByteArray("{\\field{\\*\\fldinst DATE}{\\fldrslt t}}") << QString();

@@ -17,6 +17,8 @@ class WriterTest : public QObject {
     Q_OBJECT
 private slots:
     void whatIsWrittenIsReadAgain();
+    void theTablesHoldOnlyWhatIsUsed();
+    void charactersBeyondThePageAreSignedNumbers();
     void numbersKeepTheDotThatTheyShow();
     void fontNamesOfMixedCharactersStay();
     void aFontNamedLikeAScriptKeepsItsName();
@@ -40,6 +42,33 @@ void WriterTest::whatIsWrittenIsReadAgain() {
     QVERIFY(readRtf(written, again).ok());
     QCOMPARE(again.toPlainText(), document.toPlainText());
     QCOMPARE(writeRtf(again), written);
+}
+
+void WriterTest::theTablesHoldOnlyWhatIsUsed() {
+    const QByteArray tables = "{\\rtf1{\\fonttbl{\\f0 Arial;}{\\f1 Times;}{\\f2 Courier;}}"
+                              "{\\colortbl;\\red1\\green2\\blue3;\\red4\\green5\\blue6;}";
+    const auto written = [&tables](const QByteArray& body) {
+        QTextDocument document;
+        readRtf(tables + body, document);
+        return writeRtf(document);
+    };
+    QCOMPARE(written("\\f1 x\\par}"), QByteArray("{\\rtf1\\ansi\\ansicpg1252\\deff0\\deflang1033"
+                                                 "{\\fonttbl{\\f0\\fnil\\fcharset0 Times;}}\r\n"
+                                                 "{\\*\\generator Orvalis;}\\viewkind4\\uc1"
+                                                 "\\pard\\f0\\fs24 x\\par\r\n}\r\n"));
+    QCOMPARE(written("\\f2\\cf2 x\\f1\\cf0 y\\par}"),
+             QByteArray("{\\rtf1\\ansi\\ansicpg1252\\deff0\\deflang1033"
+                        "{\\fonttbl{\\f0\\fnil\\fcharset0 Courier;}"
+                        "{\\f1\\fnil\\fcharset0 Times;}}\r\n"
+                        "{\\colortbl ;\\red4\\green5\\blue6;}\r\n"
+                        "{\\*\\generator Orvalis;}\\viewkind4\\uc1"
+                        "\\pard\\cf1\\f0\\fs24 x\\cf0\\f1 y\\par\r\n}\r\n"));
+}
+
+void WriterTest::charactersBeyondThePageAreSignedNumbers() {
+    const QTextDocument document(QStringLiteral("\u0436\u20ac\uf0b7") +
+                                 QString::fromUcs4(U"\U0001f4a9"));
+    QVERIFY(writeRtf(document).contains("\\u1078?\\'80\\u-3913?\\u-10179?\\u-9047?\\par"));
 }
 
 void WriterTest::numbersKeepTheDotThatTheyShow() {

@@ -42,6 +42,7 @@ class RichTextBoxEditTest : public QObject {
 private slots:
     void init();
     void undoTakesBackStepByStep();
+    void undoReachesBackOverManySteps();
     void undoKindsFollowWhatWasDone();
     void kindsSurviveUndoAndRedo();
     void kindsHaveTheirNames();
@@ -82,6 +83,26 @@ void RichTextBoxEditTest::undoTakesBackStepByStep() {
     while (box.CanUndo())
         box.Undo();
     QCOMPARE(box.Text(), QString());
+}
+
+void RichTextBoxEditTest::undoReachesBackOverManySteps() {
+    constexpr int steps = 300;
+    RichTextBox box;
+    QStringList texts{QString()};
+    for (int i = 0; i < steps; ++i) {
+        box.SetSelStart(0);
+        box.SetSelText(QString::number(i) + u' ');
+        texts << box.Text();
+    }
+    for (int i = steps; i > 0; --i) {
+        QVERIFY(box.CanUndo());
+        box.Undo();
+        QCOMPARE(box.Text(), texts.at(i - 1));
+    }
+    QVERIFY(!box.CanUndo());
+    for (int i = 1; i <= steps; ++i)
+        QTest::keySequence(&box, QKeySequence::Redo);
+    QCOMPARE(box.Text(), texts.last());
 }
 
 void RichTextBoxEditTest::undoKindsFollowWhatWasDone() {

@@ -143,6 +143,17 @@ public:
         compareLayout();
     }
 
+    /// What a second box makes of the document as RTF is the same text, and the same RTF again.
+    void compareCopy() const {
+        RichTextBox copy;
+        copy.SetTextRTF(m_box.TextRTF());
+        QCOMPARE(copy.Text(), m_model.text);
+        QCOMPARE(copy.TextRTF(), m_box.TextRTF());
+        RichTextBox inserted;
+        inserted.SetSelRTF(m_box.TextRTF());
+        QCOMPARE(inserted.Text(), m_model.text);
+    }
+
 private:
     /// Each paragraph's lines are lines of its present text.
     void compareLayout() const {
@@ -308,6 +319,8 @@ void RichTextBoxPropertyTest::randomUseKeepsTextSelectionAndDocumentInStep() {
     for (int step = 0; step < 200; ++step) {
         user.step();
         user.compare();
+        if (step % 20 == 19)
+            user.compareCopy();
         if (QTest::currentTestFailed()) {
             qWarning("step %d: %s", step, qPrintable(user.told()));
             return;

@@ -69,6 +69,7 @@ private slots:
     void changeIsToldForAFormat();
     void everyWayToChangeTheContentTellsOnce();
     void changeIsNotToldWhereNothingChanges();
+    void aReadOnlyBoxTakesWhatTheProgramSets();
     void selectionChangesAreToldOnce();
     void settingContentTellsOfTheSelection();
     void theTagIsKept();
@@ -599,6 +600,32 @@ void RichTextBoxTextTest::everyWayToChangeTheContentTellsOnce() {
         QVERIFY2(changes.count() == 1,
                  qPrintable(u"%1: %2"_s.arg(QLatin1StringView(name)).arg(changes.count())));
     }
+}
+
+/// The user may not change it, the program may.
+void RichTextBoxTextTest::aReadOnlyBoxTakesWhatTheProgramSets() {
+    QTemporaryDir folder;
+    RichTextBox file;
+    file.SetText(u"from a file"_s);
+    file.SaveFile(folder.filePath(u"a.rtf"_s), 0);
+    RichTextBox box;
+    box.setReadOnly(true);
+    QSignalSpy changes(&box, &RichTextBox::Change);
+    box.SetSelFontSize(10);
+    QCOMPARE(box.SelFontSize(), std::optional<qreal>(10));
+    box.SetText(u"text"_s);
+    QCOMPARE(box.Text(), u"text"_s);
+    box.selectAll();
+    QCOMPARE(box.SelFontSize(), std::optional<qreal>(10));
+    box.SetSelText(u"other"_s);
+    QCOMPARE(box.Text(), u"other"_s);
+    box.SetSelRTF(QByteArrayLiteral("{\\rtf1  words}"));
+    QCOMPARE(box.Text(), u"other words"_s);
+    box.LoadFile(folder.filePath(u"a.rtf"_s), 0);
+    QCOMPARE(box.Text(), u"from a file"_s);
+    box.SetTextRTF(QByteArrayLiteral("{\\rtf1 rich}"));
+    QCOMPARE(box.Text(), u"rich"_s);
+    QCOMPARE(changes.count(), 6);
 }
 
 ORVALIS_TEST_MAIN_WITH(QApplication, RichTextBoxTextTest)

@@ -7,14 +7,23 @@
 #include "controls/ordinary_pointer.h"
 #include "controls/program_end.h"
 #include "runtime/colour.h"
+#include "runtime/format.h"
 
 #include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QHeaderView>
+#include <QTreeView>
+
+#include <algorithm>
 
 namespace orvalis {
 
 namespace {
+
+constexpr QSize ComfortableSize(680, 430);
+constexpr int DateColumn = 3;
+const QDateTime WideDate(QDate(2028, 9, 28), QTime(20, 58, 58));
 
 QWidget* owner() {
     Form* form = Form::lastActive();
@@ -30,6 +39,19 @@ int run(QDialog& dialog) {
     return result;
 }
 
+/// Gives the list of files room for whole dates. A desktop's own file dialog has no such list.
+void makeRoomForDates(QFileDialog& dialog) {
+    auto* files = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+    if (files == nullptr)
+        return;
+    dialog.resize(ComfortableSize);
+    // Qt's own width is that of a date in one language.
+    const int needed =
+        files->fontMetrics().horizontalAdvance(generalDate(WideDate) + QStringLiteral("000"));
+    QHeaderView& columns = *files->header();
+    columns.resizeSection(DateColumn, std::max(needed, columns.sectionSize(DateColumn)));
+}
+
 std::optional<QString> chooseFile(const FileRequest& request, QFileDialog::AcceptMode mode,
                                   const QString& title) {
     QFileDialog dialog(owner(), request.title.isEmpty() ? title : request.title, request.directory);
@@ -41,6 +63,7 @@ std::optional<QString> chooseFile(const FileRequest& request, QFileDialog::Accep
     const QStringList filters = nameFilters(request.filter);
     if (!filters.isEmpty())
         dialog.setNameFilters(filters);
+    makeRoomForDates(dialog);
     if (!request.fileName.isEmpty())
         dialog.selectFile(request.fileName);
     if (run(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty())

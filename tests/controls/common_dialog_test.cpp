@@ -10,12 +10,15 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QTreeView>
 
 #include <functional>
 
@@ -67,6 +70,7 @@ private slots:
     void filtersBecomeNameFilters();
     void savingOverAFileAsksNothingAndAddsNoExtension();
     void aFileThatIsNotThereCanBeOpened();
+    void theFileDialogShowsWholeDates();
     void escapeInAFileDialogIsCancel();
     void theHourglassStandsBackWhileADialogIsOpen();
     void theFontDialogOffersAllSevenThings();
@@ -242,6 +246,35 @@ void CommonDialogTest::aFileThatIsNotThereCanBeOpened() {
                                           .fileName = {},
                                           .title = u"Insert Image"_s});
     QCOMPARE(chosen.value_or(QString()), folder.filePath(u"missing.rtf"_s));
+}
+
+void CommonDialogTest::theFileDialogShowsWholeDates() {
+    const QTemporaryDir folder;
+    // The list writes its dates in the desktop's language, whatever the tests have set.
+    const QLocale ofTheTests;
+    QLocale::setDefault(QLocale::system());
+    // File dialogs keep the widths of their columns among the user's settings.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                       folder.filePath(u"settings"_s));
+    QFile file(folder.filePath(QString(80, u'n') + u".wav"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.close();
+    bool whole = false;
+    whenOpen<QFileDialog>([&whole](QFileDialog& dialog) {
+        auto* files = dialog.findChild<QTreeView*>(u"treeView"_s);
+        QTRY_COMPARE(files->model()->rowCount(files->rootIndex()), 1);
+        constexpr int DateColumn = 3;
+        const QString date =
+            QLocale::system().toString(QDateTime::currentDateTime(), QLocale::ShortFormat);
+        whole =
+            files->columnWidth(DateColumn) > files->fontMetrics().horizontalAdvance(date + u"0"_s);
+        const int end = files->columnViewportPosition(DateColumn) + files->columnWidth(DateColumn);
+        whole = whole && end <= files->viewport()->width();
+        dialog.reject();
+    });
+    QtDialogs().openFile({.filter = {}, .directory = folder.path(), .fileName = {}, .title = {}});
+    QLocale::setDefault(ofTheTests);
+    QVERIFY(whole);
 }
 
 void CommonDialogTest::escapeInAFileDialogIsCancel() {

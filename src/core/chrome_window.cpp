@@ -50,8 +50,11 @@ ChromeWindow::ChromeWindow(Program& program, const ChromeRow& row)
     connect(imgMini, &Image::Click, this, &ChromeWindow::miniClick);
     connect(imgExit, &Image::Click, this, &ChromeWindow::exitClick);
     connect(imgHelp, &Image::MouseDown, this, [this](int button) {
-        if (button == LeftButton && m_program.windows.knows<PopupMenus>())
-            m_program.windows.get<PopupMenus>().PopupMenu(u"mnuhelp"_s);
+        if (button != LeftButton || !m_program.windows.knows<PopupMenus>())
+            return;
+        // The menu takes the pointer away without a word.
+        HoverReset();
+        m_program.windows.get<PopupMenus>().PopupMenu(u"mnuhelp"_s);
     });
 
     makeClock();

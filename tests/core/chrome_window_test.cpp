@@ -92,6 +92,7 @@ private slots:
     void hidingTheWindowGivesNormalPicturesBack();
     void toolTipsAreThoseOfTheTable();
     void helpPopsUpTheHelpMenuOnTheLeftPressAlone();
+    void theHelpMenuEndsTheHover();
 
     // Clock.
     void theClockIsSetWhenTheWindowShows();
@@ -342,6 +343,17 @@ void ChromeWindowTest::helpPopsUpTheHelpMenuOnTheLeftPressAlone() {
         QCOMPARE(std::exchange(menus.popped, {}), QStringList{u"mnuhelp"_s});
         shown.Hide();
     }
+}
+
+void ChromeWindowTest::theHelpMenuEndsTheHover() {
+    m_test->program.windows.registerMaker<PopupMenus>(
+        [this] { return std::make_unique<FakeMenus>(u"frmdel1"_s, m_log); });
+    ChromeWindow& main = show(ChromeKind::Main);
+    Pointer pointer(*image(main, u"imgHelp"_s));
+    pointer.move({5, 5});
+    QVERIFY(image(main, u"imgHelp"_s)->Picture() == image(main, u"imgHelpa"_s)->Picture());
+    pointer.press();
+    QVERIFY(image(main, u"imgHelp"_s)->Picture() == image(main, u"imgHelpb"_s)->Picture());
 }
 
 void ChromeWindowTest::theClockIsSetWhenTheWindowShows() {

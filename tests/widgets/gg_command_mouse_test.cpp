@@ -61,6 +61,7 @@ private slots:
     void movingInsideRaisesMouseMove();
     void aMoveThatNobodyAnnouncedBeginsTheHoverFirst();
     void leavingRaisesMouseExit();
+    void aPressThatNoMoveAnnouncedIsLeftLikeAnyOther();
     void theClickComesBetweenMouseDownAndMouseUp();
     void eachEventIsToldBeforeTheButtonFollowsIt();
     void eventsTellButtonShiftAndPoint();
@@ -137,6 +138,21 @@ void GGCommandMouseTest::leavingRaisesMouseExit() {
     pointer.leave();
     pointer.leave();
     QCOMPARE(diary.lines(), QStringList{u"MouseExit"_s});
+}
+
+void GGCommandMouseTest::aPressThatNoMoveAnnouncedIsLeftLikeAnyOther() {
+    // A finger presses without having moved there.
+    for (const Qt::MouseButton held : {Qt::LeftButton, Qt::RightButton}) {
+        GGCommand button;
+        button.resize(40, 20);
+        Diary diary(button);
+        Pointer pointer(button);
+        pointer.press({5, 5}, held);
+        diary.lines();
+        pointer.move({50, 5}, held);
+        QCOMPARE(diary.lines().first(), u"MouseExit"_s);
+        QCOMPARE(button.borderState(), 0);
+    }
 }
 
 void GGCommandMouseTest::theClickComesBetweenMouseDownAndMouseUp() {

@@ -39,6 +39,8 @@ private slots:
     void anIconMakesTheTitleWider();
     void aBalloonHasAStem();
     void aLongTextIsWrappedToTheScreen();
+    void anAmpersandIsPrinted();
+    void theToolTipComesUpInAWindowThatIsNotActive();
     void theToolkitsOwnToolTipNeverShows();
 
 private:
@@ -282,6 +284,40 @@ void ToolTipWindowTest::aLongTextIsWrappedToTheScreen() {
     ToolTipWindow tip(tool, content(u"words and more "_s.repeated(100)));
     QVERIFY(cameUp(tip));
     QVERIFY(tip.screen()->availableGeometry().contains(tip.geometry()));
+}
+
+void ToolTipWindowTest::anAmpersandIsPrinted() {
+    QWidget tool;
+    ToolTipWindow with(tool, content(u"R&D"_s));
+    ToolTipWindow without(tool, content(u"RD"_s));
+    QVERIFY(cameUp(with) && cameUp(without));
+    QVERIFY(with.width() > without.width());
+    const auto inked = [](ToolTipWindow& tip) {
+        const QImage look = tip.grab().toImage();
+        int columns = 0;
+        for (int x = 2; x < look.width() - 2; ++x) {
+            bool ink = false;
+            for (int y = 3; y < look.height() - 3; ++y) {
+                ink = ink || look.pixel(x, y) != look.pixel(2, 3);
+            }
+            columns += ink ? 1 : 0;
+        }
+        return columns;
+    };
+    QVERIFY(inked(with) > inked(without) + 3);
+}
+
+void ToolTipWindowTest::theToolTipComesUpInAWindowThatIsNotActive() {
+    GGCommand button;
+    button.setToolTip(u"Close"_s);
+    button.show();
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    QVERIFY(!button.isActiveWindow());
+    Pointer(button).enter();
+    QVERIFY(cameUp(*button.toolTipWindow()));
 }
 
 void ToolTipWindowTest::theToolkitsOwnToolTipNeverShows() {

@@ -16,7 +16,6 @@
 #include <QToolTip>
 
 #include <algorithm>
-#include <cmath>
 
 namespace orvalis {
 
@@ -78,12 +77,22 @@ private:
     static constexpr int LongestToolTip = 2000;
 
     /// The lines below and beside a cell, in whole pixels of the screen and on the cell's very
-    /// edge: of a line told in the window's own units some cells would show a rest of themselves.
+    /// edge: of a line told in the window's own units some cells would show a rest of themselves,
+    /// and some lines would be thicker than others.
     static void drawLines(QPainter& painter, const QRectF& cell) {
-        const qreal ratio = painter.device()->devicePixelRatioF();
-        const qreal thin = std::max(1.0, std::floor(ratio)) / ratio;
-        painter.fillRect(QRectF(cell.left(), cell.bottom() - thin, cell.width(), thin), LineColor);
-        painter.fillRect(QRectF(cell.right() - thin, cell.top(), thin, cell.height()), LineColor);
+        const QTransform toScreen = painter.deviceTransform();
+        const QRect pixels = onWholePixels(toScreen.mapRect(cell));
+        const int thick = std::max(1, static_cast<int>(toScreen.m11()));
+        const auto fill = [&painter, back = toScreen.inverted()](const QRect& line) {
+            painter.fillRect(back.mapRect(QRectF(line)), LineColor);
+        };
+        fill({pixels.left(), pixels.bottom() + 1 - thick, pixels.width(), thick});
+        fill({pixels.right() + 1 - thick, pixels.top(), thick, pixels.height()});
+    }
+    /// The pixels that a filled area covers: each edge at the nearest.
+    static QRect onWholePixels(const QRectF& area) {
+        const QPoint topLeft(qRound(area.left()), qRound(area.top()));
+        return {topLeft, QPoint(qRound(area.right()) - 1, qRound(area.bottom()) - 1)};
     }
     static QString shownText(const QModelIndex& index) {
         return onOneLine(index.data().toString().left(LongestShownText));

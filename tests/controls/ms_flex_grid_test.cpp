@@ -11,6 +11,8 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 
+#include <algorithm>
+
 using namespace orvalis;
 using namespace Qt::StringLiterals;
 
@@ -302,6 +304,18 @@ void MSFlexGridTest::aLineLiesOnItsCellsEdgeAtEveryScale() {
     for (int row = 0; row < 9; ++row)
         expected << (row % 2 == 1 ? filled : qRgb(255, 255, 255)) << line;
     QCOMPARE(bands.first(expected.size()), expected);
+    // A line is as many whole pixels thick as fit into one of the window's own.
+    const int thick = std::max(1, static_cast<int>(ratio));
+    int run = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        if (image.pixel(image.width() / 2, y) == line) {
+            ++run;
+            continue;
+        }
+        if (run > 0)
+            QCOMPARE(run, thick);
+        run = 0;
+    }
 }
 
 void MSFlexGridTest::theCurrentCellIsFramedWhileTheGridHasTheFocus() {
@@ -316,6 +330,7 @@ void MSFlexGridTest::linesBetweenCellsAreSage() {
     m_grid->clearFocus();
     const QRect cell = m_grid->visualRect(m_grid->model()->index(2, 0));
     QCOMPARE(pixel(QPoint(cell.center().x(), cell.bottom())), QColor(0xB0, 0xC8, 0xA0));
+    QCOMPARE(pixel(QPoint(cell.right(), cell.center().y())), QColor(0xB0, 0xC8, 0xA0));
 }
 
 void MSFlexGridTest::aLineBreakIsShownAsABlank() {

@@ -213,6 +213,9 @@ void MonthViewTest::theDayUnderThePointerIsMarked() {
     const QImage plainOther = pictureOf(other);
     QTest::mouseMove(days()->viewport(), cellOf(*days(), day));
     QTRY_VERIFY(pictureOf(day) != plain);
+    // The day's whole face and not its number alone.
+    const QPoint besideTheNumber(6, plain.height() / 2);
+    QVERIFY(pictureOf(day).pixel(besideTheNumber) != plain.pixel(besideTheNumber));
     QCOMPARE(pictureOf(other), plainOther);
     QTest::mouseMove(days()->viewport(), cellOf(*days(), other));
     QTRY_VERIFY(pictureOf(other) != plainOther);

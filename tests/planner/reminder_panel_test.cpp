@@ -54,6 +54,7 @@ private slots:
     void aFontSizeThatIsNoneIsPassedOver_data();
     void aFontSizeThatIsNoneIsPassedOver();
     void theClockTakesItsFontAtLoad();
+    void atItsDesignWidthEveryControlStandsWhereItWasDrawn();
     void theCalendarStandsOnToday();
     void timeCombosAreFilledAndReadZero();
     void theTimeLabelHasBlanksAfterLoad();
@@ -348,6 +349,22 @@ void ReminderPanelTest::theClockTakesItsFontAtLoad() {
     panel.load();
     QCOMPARE(clock->font().families().constFirst(), u"Arial"_s);
     QCOMPARE(clock->font().pointSize(), 16);
+}
+
+void ReminderPanelTest::atItsDesignWidthEveryControlStandsWhereItWasDrawn() {
+    PanelGround ground;
+    frmnotes1 panel(ground.program);
+    const QStringList names{u"imgMini"_s, u"imgNew"_s, u"imgSave"_s,    u"rt1a"_s,
+                            u"txt1"_s,    u"lblRem"_s, u"MonthView1"_s, u"lblVreme"_s};
+    QMap<QString, QRect> drawn;
+    for (const QString& name : names) {
+        const auto* control = panel.findChild<QWidget*>(name);
+        QVERIFY2(control != nullptr, qPrintable(name));
+        drawn[name] = control->geometry();
+    }
+    panel.load();
+    for (const QString& name : names)
+        QCOMPARE(panel.findChild<QWidget*>(name)->geometry(), drawn[name]);
 }
 
 void ReminderPanelTest::theCalendarStandsOnToday() {

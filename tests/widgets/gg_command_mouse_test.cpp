@@ -67,6 +67,7 @@ private slots:
     void eventsTellButtonShiftAndPoint();
     void theRightButtonGivesNoClick();
     void theRightButtonDoesNotSinkTheEdge();
+    void aPressOfAnyButtonLetsTheLeftReleaseClick();
     void draggingOffRaisesMouseExitAndThenMouseMove();
     void aReleaseOutsideIsNotTold();
     void draggingOffAndBackAndReleasingGivesNoClick();
@@ -222,6 +223,16 @@ void GGCommandMouseTest::theRightButtonDoesNotSinkTheEdge() {
     QCOMPARE(button.borderState(), 1);
     pointer.release({1, 2}, Qt::RightButton);
     QCOMPARE(button.borderState(), 1);
+}
+
+void GGCommandMouseTest::aPressOfAnyButtonLetsTheLeftReleaseClick() {
+    GGCommand button;
+    Pointer pointer(button);
+    pointer.enter();
+    pointer.press({1, 2}, Qt::RightButton);
+    Diary diary(button);
+    pointer.release({1, 2}, Qt::LeftButton);
+    QCOMPARE(diary.lines(), (QStringList{u"Click"_s, u"MouseUp 1 0 1 2"_s}));
 }
 
 void GGCommandMouseTest::draggingOffRaisesMouseExitAndThenMouseMove() {

@@ -37,6 +37,7 @@ private slots:
     void readOnlyBoxesAreSearchedToo();
     void anOverlappingMatchFollowsTheFirst();
     void insideABatchTheSearchFindsTheSame();
+    void insideABatchTheSearchFindsAMatchWhereverItLies();
 };
 
 void RichTextBoxFindTest::aMatchIsSelectedAndItsPositionTold() {
@@ -189,6 +190,22 @@ void RichTextBoxFindTest::insideABatchTheSearchFindsTheSame() {
                 ++hits;
             }
             QVERIFY(hits == 300 || expected < 0);
+        }
+    }
+}
+
+/// Wherever a piece of the text ends, in which it looks, none is overlooked.
+void RichTextBoxFindTest::insideABatchTheSearchFindsAMatchWhereverItLies() {
+    RichTextBox box;
+    box.SetText(u"x"_s.repeated(20000));
+    const RichTextBox::Batch batch(box);
+    for (const int near : {4096, 8192, 12288}) {
+        for (int at = near - 20; at < near + 40; ++at) {
+            box.SetSelStart(at);
+            box.SetSelText(u"needle"_s);
+            QCOMPARE(box.Find(u"needle"_s), at);
+            box.SetSelText(QString());
+            QCOMPARE(box.Find(u"needle"_s), -1);
         }
     }
 }

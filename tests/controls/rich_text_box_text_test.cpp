@@ -4,10 +4,12 @@
 #include "runtime/failure.h"
 #include "support/test_main.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTextBlock>
+#include <QTextLayout>
 
 #include <functional>
 #include <tuple>
@@ -49,6 +51,7 @@ private slots:
     void settingTheTextPutsTheCaretAtTheStart();
     void settingTheTextTakesTheFormatAtTheSelectionsStart();
     void settingTheTextKeepsTheFormatOfAnEmptyFirstLine();
+    void settingTheTextKeepsTheShapeOfItsParagraph();
     void settingTheTextDropsTheHistoryOfUndo();
     void settingTheTextDoesNotMakeALinkOfIt();
     void aFormatSetOnAnEmptyBoxHoldsForWhatIsTyped();
@@ -78,6 +81,8 @@ private slots:
     void aBatchThatChangesNothingLeavesPositionsRight();
     void aFailureInsideABatchEndsIt();
     void aBatchThatMakesAListLongerAheadOfAnotherChangeIsSeenWhole();
+    void aBatchThatMakesAListLongerAheadOfAnotherChangeIsLaidOutWhole_data();
+    void aBatchThatMakesAListLongerAheadOfAnotherChangeIsLaidOutWhole();
 };
 
 void RichTextBoxTextTest::anEmptyBoxHasNoText() {
@@ -237,6 +242,18 @@ void RichTextBoxTextTest::settingTheTextKeepsTheFormatOfAnEmptyFirstLine() {
     QCOMPARE(box.SelColor(), std::optional<quint32>(0xFF0000));
     box.SetSelStart(0);
     QCOMPARE(box.SelBold(), std::optional<bool>(true));
+}
+
+void RichTextBoxTextTest::settingTheTextKeepsTheShapeOfItsParagraph() {
+    RichTextBox box;
+    box.SetText(u"left\r\nright"_s);
+    box.SetSelStart(8);
+    box.SetSelAlignment(RichTextBox::rtfRight);
+    box.SetSelIndent(300);
+    box.SetText(u"one\r\ntwo"_s);
+    box.selectAll();
+    QCOMPARE(box.SelAlignment(), std::optional(1));
+    QCOMPARE(box.SelIndent(), std::optional(300));
 }
 
 void RichTextBoxTextTest::settingTheTextDropsTheHistoryOfUndo() {
@@ -554,6 +571,55 @@ void RichTextBoxTextTest::aBatchThatMakesAListLongerAheadOfAnotherChangeIsSeenWh
         QTest::keySequence(&box, QKeySequence::Redo);
         QCOMPARE(box.Text(), after);
     }
+}
+
+void RichTextBoxTextTest::aBatchThatMakesAListLongerAheadOfAnotherChangeIsLaidOutWhole_data() {
+    QTest::addColumn<bool>("text");
+    QTest::addColumn<bool>("removed");
+    QTest::newRow("text") << true << false;
+    QTest::newRow("text, and the items go again") << true << true;
+    QTest::newRow("format") << false << false;
+}
+
+void RichTextBoxTextTest::aBatchThatMakesAListLongerAheadOfAnotherChangeIsLaidOutWhole() {
+    QFETCH(bool, text);
+    QFETCH(bool, removed);
+    RichTextBox box;
+    box.resize(200, 200);
+    box.show(); // or nothing is laid out
+    box.SetText(u"item\r\nbetween\r\nab"_s);
+    box.SetSelBullet(true);
+    const auto laidOut = [&] {
+        const QTextBlock last = box.document()->lastBlock();
+        box.document()->documentLayout()->blockBoundingRect(last); // lays out up to here
+        QCOMPARE(last.layout()->lineCount(), 1);
+        QCOMPARE(last.layout()->lineAt(0).textLength(), last.length() - 1);
+        const bool large =
+            box.document()->lastBlock().begin().fragment().charFormat().fontPointSize() > 30;
+        QCOMPARE(last.layout()->lineAt(0).height() > 30, large);
+    };
+    laidOut();
+    {
+        const RichTextBox::Batch batch(box);
+        box.SetSelStart(15);
+        box.SetSelLength(2);
+        if (text)
+            box.SetSelText(u"abc"_s);
+        else
+            box.SetSelFontSize(40);
+        box.SetSelStart(1);
+        box.SetSelText(u"\r\n"_s.repeated(8));
+        if (removed) {
+            box.SetSelStart(1);
+            box.SetSelLength(16);
+            box.SetSelText(QString());
+        }
+    }
+    laidOut();
+    box.Undo();
+    laidOut();
+    QTest::keySequence(&box, QKeySequence::Redo);
+    laidOut();
 }
 
 void RichTextBoxTextTest::everyWayToChangeTheContentTellsOnce() {

@@ -161,6 +161,7 @@ private slots:
     void readingMarksNothingForStoring();
     void anEmptyCaptionIsStored();
     void whatIsNotPersistedIsNotStored();
+    void itsHandleIsThatOfTheWindowItIsDrawnIn();
     void settingAPropertyMarksItForStoring_data();
     void settingAPropertyMarksItForStoring();
     void settingAPropertyThatShowsRepaints_data();
@@ -334,6 +335,14 @@ void GGCommandPropertiesTest::whatIsNotPersistedIsNotStored() {
     PropertyBag bag;
     button.WriteProperties(bag);
     QCOMPARE(bag.names(), QStringList());
+}
+
+void GGCommandPropertiesTest::itsHandleIsThatOfTheWindowItIsDrawnIn() {
+    QWidget form;
+    const GGCommand button(u"imgOK"_s, &form);
+    form.show();
+    QVERIFY(form.winId() != 0);
+    QCOMPARE(button.hWnd(), form.winId());
 }
 
 void GGCommandPropertiesTest::settingAPropertyMarksItForStoring_data() {

@@ -44,6 +44,8 @@ private slots:
     void whatHoldsAtTheMarkShapesTheWholeParagraph();
     void paragraphsInheritUntilPard();
     void plainResetsCharactersAndPardParagraphs();
+    void aGroupGivesTheParagraphsShapeBack();
+    void atMostThirtyTwoTabStopsAreKept();
     void theLastParagraphKeepsItsShapeWithoutAMark();
     void theDefaultTabIsTold();
     void listsOfAllKindsAreKnown_data();
@@ -235,6 +237,22 @@ void ReaderFormatTest::plainResetsCharactersAndPardParagraphs() {
     QCOMPARE(run.format.halfPoints, 24);
     QCOMPARE(run.family, QStringLiteral("Arial"));
     QCOMPARE(sink.paragraphs.first().format.alignment, Alignment::Center);
+}
+
+void ReaderFormatTest::aGroupGivesTheParagraphsShapeBack() {
+    const RecordingSink sink = reading("\\qr a\\par{\\qc\\li720 b\\par}c\\par");
+    QCOMPARE(sink.paragraphs[1].format.alignment, Alignment::Center);
+    QCOMPARE(sink.paragraphs[2].format.alignment, Alignment::Right);
+    QCOMPARE(sink.paragraphs[2].format.left, 0);
+}
+
+void ReaderFormatTest::atMostThirtyTwoTabStopsAreKept() {
+    QByteArray words = "\\pard";
+    for (int stop = 1; stop <= 40; ++stop)
+        words += "\\tx" + QByteArray::number(100 * stop);
+    const RecordingSink sink = reading(words + " x\\par");
+    QCOMPARE(sink.paragraphs.first().format.tabs.size(), 32);
+    QCOMPARE(sink.paragraphs.first().format.tabs.last().position, 3200);
 }
 
 void ReaderFormatTest::theLastParagraphKeepsItsShapeWithoutAMark() {

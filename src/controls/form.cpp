@@ -150,7 +150,7 @@ void Form::moveOntoScreen() {
     const QRect room = screen->availableGeometry();
     QPoint place = pos();
     if (!m_placed)
-        place = room.topLeft() +
+        place = room.topLeft() + m_offMiddle +
                 QPoint((room.width() - extent.width()) / 2, (room.height() - extent.height()) / 2);
     // The upper left corner wins where the window is larger than the screen.
     place.setX(std::max(room.left(), std::min(place.x(), room.right() + 1 - extent.width())));

@@ -31,6 +31,10 @@ public:
     void showWithoutFocus();
     void Hide();
 
+    /// Moves the first place away from the middle of the screen. Once the window has been shown or
+    /// was given another's place it changes nothing.
+    void setFirstPlaceOff(const QPoint& middle) { m_offMiddle = middle; }
+
     /// Puts the window where another stands: both have the same centre.
     void takePlaceOf(const Form& other);
 
@@ -62,6 +66,7 @@ private:
 
     Life m_life = Life::New;
     bool m_placed = false;
+    QPoint m_offMiddle;
     bool m_quietShow = false;
 };
 

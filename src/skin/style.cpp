@@ -67,6 +67,9 @@ QPalette Style::standardPalette() const {
 
 void Style::polish(QWidget* widget) {
     QProxyStyle::polish(widget);
+    // A field has another edge under the pointer and is to hear that the pointer left.
+    if (qobject_cast<QLineEdit*>(widget))
+        widget->setAttribute(Qt::WA_Hover);
     const QVariant surface = widget->property("skinSurface");
     if (surface == u"paper"_s)
         layOnPaper(widget);

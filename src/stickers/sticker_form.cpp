@@ -38,6 +38,10 @@ constexpr int clientWidth = 2910; // twips
 /// The width that stands for the sticker's own in its layout, on both sides of the ratio: so the
 /// geometry stays and only the fonts follow the screen.
 constexpr int layoutWidth = 3060;
+/// New stickers lie fanned out, so that one that pops up leaves the head of the one before in
+/// sight; with this many the fan begins anew.
+constexpr int fan = 8;
+constexpr QPoint fanStep(24, 28);
 
 void setInk(QWidget& widget, QPalette::ColorRole role, QRgb ink) {
     QPalette palette = widget.palette();
@@ -152,6 +156,9 @@ void StickerForm::onLoad() {
     ++m_program.state.StickerCount;
     setWindowTitle(u"Sticker No"_s + QString::number(m_program.state.StickerNo));
     m_txtLabel1->setText(windowTitle());
+    setFirstPlaceOff(fanStep * ((m_program.state.StickerNo - 1) % fan));
+    // What is typed into a new sticker is its note.
+    m_Text1->setFocus();
 }
 
 void StickerForm::onUnload() {

@@ -52,6 +52,19 @@ int pixelsLike(const QImage& image, QRgb rgb, int tolerance = 12) {
     return count;
 }
 
+/// Counts how often a widget is painted on the screen.
+class PaintCounter final : public QObject {
+public:
+    explicit PaintCounter(QWidget& widget) { widget.installEventFilter(this); }
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        count += event->type() == QEvent::Paint;
+        return QObject::eventFilter(watched, event);
+    }
+};
+
 QImage drawn(QStyle::PrimitiveElement element, QStyle::State state, QSize size) {
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::white);
@@ -91,6 +104,7 @@ private slots:
     void aTickIsSharpAtTwiceTheScale();
     void aChosenOptionHasItsDot();
     void whatIsUnderThePointerHasATealEdge();
+    void aFieldLosesItsTealEdgeWithThePointer();
     void whatIsSelectedInAListIsSage();
     void whatIsUnderThePointerInAListIsNotSage();
     void aFieldOnPaperShowsThePage();
@@ -169,6 +183,26 @@ void StyleTest::whatIsUnderThePointerHasATealEdge() {
     QCOMPARE(pixelsLike(box(QStyle::State_Enabled), colour::Teal, 40), 0);
     QVERIFY(pixelsLike(box(QStyle::State_Enabled | QStyle::State_MouseOver), colour::Teal, 40) > 8);
     QCOMPARE(pixelsLike(box(QStyle::State_MouseOver), colour::Teal, 40), 0);
+}
+
+void StyleTest::aFieldLosesItsTealEdgeWithThePointer() {
+    QWidget window;
+    window.setGeometry(100, 100, 200, 100);
+    QLineEdit field(&window);
+    field.setGeometry(20, 20, 100, 23);
+    field.setFocusPolicy(Qt::NoFocus);
+    PaintCounter paints(field);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QTest::mouseMove(&window, QPoint(180, 80));
+    QTest::qWait(20);
+    const auto repaints = [&](const QPoint& place) {
+        paints.count = 0;
+        QTest::mouseMove(&window, place);
+        return QTest::qWaitFor([&] { return paints.count > 0; }, 1000);
+    };
+    QVERIFY(repaints({40, 30}));
+    QVERIFY(repaints({180, 80}));
 }
 
 void StyleTest::whatIsSelectedInAListIsSage() {

@@ -11,6 +11,7 @@
 #include "support/test_program.h"
 #include "widgets/gg_command.h"
 
+#include <QScreen>
 #include <QWindow>
 
 using namespace orvalis;
@@ -31,6 +32,9 @@ private slots:
     void theEndOfTheRunTakesStickersWithoutTheirUnload();
     void thereIsNoLimitToTheNumberOfStickers();
     void everyControlCarriesItsName();
+    void newStickersLieFannedOut();
+    void aStickerThatWasMovedComesUpWhereItWas();
+    void whatIsTypedIntoANewStickerIsItsNote();
 
 private:
     StickerForm& shown(StickerWindow& window) {
@@ -149,6 +153,35 @@ void StickerWindowTest::everyControlCarriesItsName() {
                                 u"lblVreme"_s, u"imgOn"_s, u"imgOff"_s})
         QVERIFY2(sticker.findChild<QWidget*>(name, Qt::FindDirectChildrenOnly) != nullptr,
                  qPrintable(name));
+}
+
+void StickerWindowTest::newStickersLieFannedOut() {
+    QList<QPoint> places;
+    for (int i = 0; i < 9; ++i) {
+        StickerForm& sticker = shown(i % 2 == 0 ? m_stickers->newFrmstick() : m_stickers->newXn());
+        places << sticker.pos();
+        QVERIFY(sticker.screen()->availableGeometry().contains(sticker.frameGeometry()));
+    }
+    for (int i = 1; i < 8; ++i)
+        QCOMPARE(places.at(i) - places.at(0), QPoint(24, 28) * i);
+    QCOMPARE(places.at(8), places.at(0));
+}
+
+void StickerWindowTest::aStickerThatWasMovedComesUpWhereItWas() {
+    shown(m_stickers->newFrmstick());
+    StickerForm& sticker = shown(m_stickers->newFrmstick());
+    sticker.move(10, 20);
+    sticker.Hide();
+    sticker.Show();
+    QCOMPARE(sticker.pos(), QPoint(10, 20));
+}
+
+void StickerWindowTest::whatIsTypedIntoANewStickerIsItsNote() {
+    for (StickerWindow* made : {&m_stickers->newFrmstick(), &m_stickers->newXn()}) {
+        StickerForm& sticker = shown(*made);
+        QTest::keyClicks(sticker.focusWidget(), u"milk"_s);
+        QCOMPARE(made->Text1().Text(), u"milk"_s);
+    }
 }
 
 ORVALIS_TEST_MAIN_WITH(Application, StickerWindowTest)

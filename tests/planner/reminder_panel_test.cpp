@@ -84,7 +84,10 @@ private slots:
     void aDocumentThatIsNotRtfLeavesTheBoxEmptyAndIsKeptAside();
     void aDocumentThatCannotBeReadIsKeptAside();
     void aTruncatedDocumentOpensWithWhatCouldBeRead();
+    void ownDocumentsTruncatedAtAnyByteOpenWithWhatCameBefore();
     void rubbishInsideADocumentLeavesTheTextAroundIt();
+    void hostileListsLeaveThePanelInUse_data();
+    void hostileListsLeaveThePanelInUse();
 };
 
 void ReminderPanelTest::everyControlIsThereUnderItsName_data() {
@@ -673,6 +676,61 @@ void ReminderPanelTest::aTruncatedDocumentOpensWithWhatCouldBeRead() {
         const qsizetype there = std::clamp<qsizetype>(length - begin, 0, whole.size());
         QVERIFY2(read.left(there) == whole.left(there), plainDocument.first(length).constData());
     }
+}
+
+void ReminderPanelTest::ownDocumentsTruncatedAtAnyByteOpenWithWhatCameBefore() {
+    PanelGround ground;
+    RichTextBox& message = ground.rt1();
+    message.SetText(u"Café für Ann\r\nПозвонить 🎂 {now}"_s);
+    message.SetSelLength(4);
+    message.SetSelBold(true);
+    message.SetSelColor(0x0000FF);
+    message.SetSelFontName(u"Courier New"_s);
+    ground.tick(u"chkTop"_s);
+    ground.press(u"imgSave"_s);
+    const QByteArray bytes = ground.folder.read(u"Vazno.rtf"_s);
+    RichTextBox box;
+    box.LoadFile(ground.folder.file(u"Vazno.rtf"_s));
+    const QString whole = box.Text();
+    QVERIFY(whole.contains(u"Позвонить 🎂 {now}"_s));
+    qsizetype most = 0;
+    for (qsizetype length = 6; length <= bytes.size(); ++length) {
+        const QString path = ground.folder.write(u"cut.rtf"_s, bytes.first(length));
+        box.LoadFile(path);
+        const QString read = box.Text();
+        const auto [end, other] =
+            std::mismatch(read.cbegin(), read.cend(), whole.cbegin(), whole.cend());
+        const qsizetype common = end - read.cbegin();
+        // At most the character in which the file was cut is another, and no byte takes away what
+        // the bytes before it gave.
+        QVERIFY2(read.size() - common <= 2, bytes.first(length).right(40).constData());
+        QVERIFY2(common >= most - 2, bytes.first(length).right(40).constData());
+        most = std::max(most, common);
+    }
+    QCOMPARE(most, whole.size());
+}
+
+void ReminderPanelTest::hostileListsLeaveThePanelInUse_data() {
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("no number") << QByteArray("rows\r\na\r\n");
+    QTest::newRow("negative") << QByteArray("-3  1 \r\na\r\n");
+    QTest::newRow("a billion rows") << QByteArray(" 1000000000  1 \r\na\r\n");
+    QTest::newRow("only NUL") << QByteArray(1000, '\0');
+}
+
+void ReminderPanelTest::hostileListsLeaveThePanelInUse() {
+    QFETCH(QByteArray, bytes);
+    PanelGround ground;
+    ground.folder.write(u"tmp1.brf"_s, bytes);
+    ground.folder.write(u"tmp2.brf"_s, bytes);
+    QCOMPARE(ground.MS1().Rows(), 1);
+    QCOMPARE(ground.MS3().Rows(), 1);
+    ground.rt1().SetText(u"message"_s);
+    ground.tick(u"chkTop"_s);
+    ground.press(u"imgSave"_s);
+    QCOMPARE(ground.MS1().TextMatrix(2, 0), u"message"_s);
+    QVERIFY(ground.boxes.asked.isEmpty());
 }
 
 void ReminderPanelTest::rubbishInsideADocumentLeavesTheTextAroundIt() {

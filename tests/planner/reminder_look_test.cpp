@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "planner/panel_ground.h"
+
+#include "skin/style.h"
+
+#include <QTableView>
+
+using namespace orvalis;
+using namespace orvalis::test;
+using namespace Qt::StringLiterals;
+
+/// The panel in the dress of the program, on screens of every width: no text of it is cut.
+class ReminderLookTest : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase() { skin::dress(*qApp); }
+    void theCalendarShowsItsWeeksAndNamesWhole_data();
+    void theCalendarShowsItsWeeksAndNamesWhole();
+    void everyCaptionHasItsRoom_data() { theCalendarShowsItsWeeksAndNamesWhole_data(); }
+    void everyCaptionHasItsRoom();
+    void theLongestDateAndTimeHaveTheirRoom_data() { theCalendarShowsItsWeeksAndNamesWhole_data(); }
+    void theLongestDateAndTimeHaveTheirRoom();
+
+private:
+    static int wide(const QWidget& widget, const QString& text) {
+        return widget.fontMetrics().size(Qt::TextShowMnemonic, text).width();
+    }
+};
+
+void ReminderLookTest::theCalendarShowsItsWeeksAndNamesWhole_data() {
+    QTest::addColumn<int>("width");
+    for (const int width : {800, 910, 1024, 1097, 1280})
+        QTest::addRow("%d", width) << width;
+}
+
+void ReminderLookTest::theCalendarShowsItsWeeksAndNamesWhole() {
+    QFETCH(int, width);
+    PanelGround ground(QSize(width, 768));
+    ground.shown();
+    QApplication::processEvents();
+    const auto* days = ground.calendar().findChild<QTableView*>();
+    const QRect room = days->viewport()->rect();
+    const QFontMetrics letters(ground.calendar().font());
+    for (int col = 0; col < 7; ++col) {
+        const QModelIndex name = days->model()->index(0, col);
+        // The delegate keeps a margin on either side, within which a name is abridged.
+        const int margin = days->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1;
+        QVERIFY2(letters.horizontalAdvance(name.data().toString()) + 2 * margin <=
+                     days->columnWidth(col),
+                 qPrintable(name.data().toString()));
+        for (int row = 0; row < 7; ++row) {
+            const QRect cell = days->visualRect(days->model()->index(row, col));
+            QVERIFY2(room.contains(cell), qPrintable(u"%1 %2"_s.arg(row).arg(col)));
+            QVERIFY(cell.height() >= letters.tightBoundingRect(u"0123456789"_s).height() + 4);
+        }
+    }
+}
+
+void ReminderLookTest::everyCaptionHasItsRoom() {
+    QFETCH(int, width);
+    PanelGround ground(QSize(width, 768));
+    ground.shown();
+    for (const Label* label : ground.panel().findChildren<Label*>())
+        QVERIFY2(wide(*label, label->Caption()) <= label->width(), qPrintable(label->objectName()));
+    for (const QCheckBox* check : ground.panel().findChildren<QCheckBox*>())
+        QVERIFY2(check->sizeHint().width() <= check->width(), qPrintable(check->objectName()));
+    for (const GGCommand* button : ground.panel().findChildren<GGCommand*>()) {
+        // A picture stands left of the caption, in the middle of what is left.
+        const int picture = button->Picture().isNull() ? 0 : 24;
+        QVERIFY2(wide(*button, button->Caption()) + 4 + picture <= button->width(),
+                 qPrintable(button->objectName()));
+    }
+    for (const QGroupBox* frame : ground.panel().findChildren<QGroupBox*>())
+        QVERIFY2(wide(*frame, frame->title()) + 24 <= frame->width(),
+                 qPrintable(frame->objectName()));
+}
+
+void ReminderLookTest::theLongestDateAndTimeHaveTheirRoom() {
+    QFETCH(int, width);
+    PanelGround ground(QSize(width, 768));
+    ground.shown();
+    for (const auto& [name, text] :
+         {std::pair(u"Label9"_s, u"30/12/2026"_s), std::pair(u"Label9"_s, u"28 Nov 2026"_s),
+          std::pair(u"Label5"_s, u"00 : 00 : 00"_s)}) {
+        const Label& label = ground.control<Label>(name);
+        QVERIFY2(wide(label, text) <= label.width(), qPrintable(text));
+    }
+    for (const int number : {1, 2}) {
+        const QLineEdit* field = ground.combo(number).lineEdit();
+        QVERIFY(wide(*field, u"00"_s) + 4 <= field->width());
+    }
+}
+
+ORVALIS_TEST_MAIN_WITH(QApplication, ReminderLookTest)
+#include "reminder_look_test.moc"

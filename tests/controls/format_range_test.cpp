@@ -94,6 +94,7 @@ class FormatRangeTest : public QObject {
 private slots:
     void oneLineIsOnePage();
     void anEmptyBoxIsDoneAtOnce();
+    void aBoxOfFormatsAloneHasNothingToPrint();
     void manyLinesBecomePagesThatFollowEachOther();
     void eachPageBeginsAtTheTopOfItsRectangle();
     void noLineIsCutInTwo();
@@ -126,6 +127,18 @@ void FormatRangeTest::oneLineIsOnePage() {
 
 void FormatRangeTest::anEmptyBoxIsDoneAtOnce() {
     RichTextBox box;
+    const QList<Page> pages = pagesOf(box);
+    QCOMPARE(pages.size(), 1);
+    QCOMPARE(pages.first().next, 0);
+    QVERIFY(inkBounds(pages.first().image).isEmpty());
+}
+
+void FormatRangeTest::aBoxOfFormatsAloneHasNothingToPrint() {
+    RichTextBox box;
+    box.SetSelBold(true);
+    box.SetSelFontSize(40);
+    box.SetSelAlignment(RichTextBox::rtfCenter);
+    QCOMPARE(box.Text(), QString());
     const QList<Page> pages = pagesOf(box);
     QCOMPARE(pages.size(), 1);
     QCOMPARE(pages.first().next, 0);

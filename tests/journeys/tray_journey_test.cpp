@@ -163,7 +163,10 @@ private:
                 found.append({id, properties.value(u"type"_s).toString() == u"separator"_s
                                       ? u"-"_s
                                       : properties.value(u"label"_s).toString()});
+            entry.endStructure();
         }
+        root.endArray();
+        root.endStructure();
         return found;
     }
 

@@ -5,6 +5,7 @@
 // it is installed, and how it holds as documents grow.
 // rtf_bench --hostile [NAME]: time and memory for 200 MB of whatever does most harm; with a name
 // only the files called so. Takes some minutes and 2 GB.
+#include "rtf/block_formats.h"
 #include "rtf/reader.h"
 #include "rtf/sink.h"
 #include "rtf/text_formats.h"

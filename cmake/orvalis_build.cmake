@@ -68,6 +68,11 @@ endfunction()
 # Every *_test.cpp of the folder becomes an executable of its own name, run by ctest.
 function(orvalis_tests)
   cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
+  # Under the sanitizers everything takes several times as long.
+  set(seconds 120)
+  if(ORVALIS_SANITIZE)
+    set(seconds 600)
+  endif()
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*_test.cpp)
   get_filename_component(folder ${CMAKE_CURRENT_SOURCE_DIR} NAME)
   foreach(source ${sources})
@@ -77,7 +82,7 @@ function(orvalis_tests)
     set_target_properties(${test} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
     add_test(NAME ${folder}.${test} COMMAND ${test})
     set_tests_properties(${folder}.${test} PROPERTIES
-      TIMEOUT 120
+      TIMEOUT ${seconds}
       LABELS ${folder}
       ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_HASH_SEED=0;TZ=UTC;LC_ALL=C.UTF-8")
   endforeach()

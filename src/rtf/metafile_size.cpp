@@ -11,9 +11,6 @@ namespace orvalis::rtf {
 
 namespace {
 
-constexpr double twipsPerInch = 1440;
-constexpr double hundredthMillimetresPerInch = 2540;
-
 constexpr qsizetype frameLeft = 24; // and top, right, bottom, of four bytes each
 constexpr qsizetype boxLeft = 6;    // and top, right, bottom, of two bytes each
 constexpr qsizetype unitsPerInch = 14;
@@ -22,8 +19,7 @@ QSizeF frameTwips(QByteArrayView metafile) {
     const auto edge = [metafile](int index) {
         return double(qint32(readU32(metafile, frameLeft + 4 * index)));
     };
-    return QSizeF(edge(2) - edge(0), edge(3) - edge(1)) *
-           (twipsPerInch / hundredthMillimetresPerInch);
+    return QSizeF(edge(2) - edge(0), edge(3) - edge(1)) * twipsPerHundredthMillimetre;
 }
 
 QSizeF boxTwips(QByteArrayView metafile) {

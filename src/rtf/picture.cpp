@@ -11,7 +11,6 @@ namespace orvalis::rtf {
 
 namespace {
 
-constexpr double twipsPerHundredthMillimetre = 1440.0 / 2540.0;
 constexpr double twipsPerBitmapPixel = 15.0;
 constexpr double largestTwips = 100000;
 

@@ -7,6 +7,10 @@
 
 namespace orvalis::rtf {
 
+constexpr double twipsPerInch = 1440;
+/// Metafiles are measured in hundredths of a millimetre, 2540 to the inch.
+constexpr double twipsPerHundredthMillimetre = twipsPerInch / 2540;
+
 /// What the bytes of a picture are.
 enum class PictureKind : int {
     Unknown,

@@ -21,7 +21,7 @@ namespace {
 constexpr qint64 mostClaimedPixels = qint64(1) << 27;
 
 // An inch either way: enough to be seen, too little to be in the way.
-constexpr QSizeF unnamedTwips(1440, 1440);
+constexpr QSizeF unnamedTwips(twipsPerInch, twipsPerInch);
 
 bool isMetafile(const Picture& picture) {
     const PictureKind kind = kindOfBytes(picture.bytes);

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "controls/rich_text_box.h"
+#include "controls/selecting.h"
 #include "support/test_main.h"
 
 #include <QApplication>
@@ -11,16 +12,8 @@
 #include <limits>
 
 using namespace orvalis;
+using namespace orvalis::test;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-void select(RichTextBox& box, int start, int length) {
-    box.SetSelStart(start);
-    box.SetSelLength(length);
-}
-
-} // namespace
 
 class RichTextBoxFormatTest : public QObject {
     Q_OBJECT

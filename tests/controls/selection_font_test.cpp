@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/common_dialog.h"
 #include "controls/rich_text_box.h"
+#include "controls/selecting.h"
 #include "controls/selection_font.h"
 #include "support/test_main.h"
 
@@ -9,16 +10,8 @@
 #include <QSignalSpy>
 
 using namespace orvalis;
+using namespace orvalis::test;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-void select(RichTextBox& box, int start, int length) {
-    box.SetSelStart(start);
-    box.SetSelLength(length);
-}
-
-} // namespace
 
 class SelectionFontTest : public QObject {
     Q_OBJECT

@@ -36,7 +36,9 @@ GGCommand::GGCommand(const QString& name, QWidget* parent)
     PaintFace(0, false, false);
 }
 
-GGCommand::~GGCommand() = default;
+GGCommand::~GGCommand() {
+    endToolTip();
+}
 
 QFont GGCommand::lookFont(bool hoverLook) const {
     QFont look = font();

@@ -7,9 +7,9 @@
 #include "runtime/colour.h"
 #include "widgets/gg_face.h"
 
+#include <QPointer>
 #include <QWidget>
 
-#include <memory>
 #include <optional>
 
 namespace orvalis {
@@ -146,7 +146,7 @@ public:
     int ScaleWidth() const { return width() - 2 * frameWidth(); }
     int ScaleHeight() const { return height() - 2 * frameWidth(); }
     /// The tool tip window while one exists.
-    ToolTipWindow* toolTipWindow() const { return m_ToolTipWnd.get(); }
+    ToolTipWindow* toolTipWindow() const;
 
     void press() override;
     bool isPressable() const override { return true; }
@@ -212,6 +212,7 @@ private:
     /// The pointer is gone, or can't be followed any more.
     void pointerLeft();
     void createToolTip();
+    void endToolTip();
     QPointF facePoint(const QPointF& point) const;
 
     std::optional<QString> m_caption;
@@ -251,7 +252,7 @@ private:
     QPoint m_captionAt;
     QPoint m_pictureAt;
     quint32 m_exStyle = 0;
-    std::unique_ptr<ToolTipWindow> m_ToolTipWnd;
+    QPointer<ToolTipWindow> m_ToolTipWnd;
 
     Image* m_imgPicture;
     /// What stands painted: the face as of the last PaintFace, and the edge drawn over it since.

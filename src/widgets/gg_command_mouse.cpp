@@ -70,7 +70,7 @@ void GGCommand::endHover() {
     if (!self) {
         return;
     }
-    m_ToolTipWnd.reset();
+    endToolTip();
     m_Pressed = false;
     CalcLayout(false);
     PaintFace(0, false, false);
@@ -302,8 +302,18 @@ bool GGCommand::event(QEvent* event) {
     return QWidget::event(event);
 }
 
+/// The tip is a child of the window, as the button is. A window that goes tells its children one by
+/// one, and none of them may vanish from under its hands.
+void GGCommand::endToolTip() {
+    if (m_ToolTipWnd) {
+        m_ToolTipWnd->dismiss();
+        m_ToolTipWnd->deleteLater();
+        m_ToolTipWnd = nullptr;
+    }
+}
+
 void GGCommand::createToolTip() {
-    m_ToolTipWnd.reset();
+    endToolTip();
     ToolTipWindow::Content content;
     content.text = ToolTip();
     content.title = m_toolTipTitle;
@@ -312,7 +322,11 @@ void GGCommand::createToolTip() {
     content.centered = m_toolTipCentered;
     content.backColor = m_toolTipBackColor;
     content.foreColor = m_toolTipForeColor;
-    m_ToolTipWnd = std::make_unique<ToolTipWindow>(*this, content);
+    m_ToolTipWnd = new ToolTipWindow(*this, content);
+}
+
+ToolTipWindow* GGCommand::toolTipWindow() const {
+    return m_ToolTipWnd;
 }
 
 void GGCommand::setDontReleaseCapture(bool dont) {

@@ -22,6 +22,7 @@ private slots:
     void anEmptyToolTipCreatesNoWindow();
     void aTitleWithoutTextCreatesNoWindow();
     void leavingDestroysTheToolTip();
+    void aWindowThatGoesFindsAllItsChildren();
     void theButtonsEndDestroysTheToolTip();
     void theEndOfTheButtonsWindowDestroysTheToolTip();
     void hoveringAgainMakesANewOne();
@@ -86,7 +87,39 @@ void ToolTipWindowTest::leavingDestroysTheToolTip() {
     const QPointer<QWidget> tip(button.toolTipWindow());
     pointer.leave();
     QVERIFY(!button.toolTipWindow());
-    QVERIFY(!tip);
+    QTRY_VERIFY(!tip);
+}
+
+void ToolTipWindowTest::aWindowThatGoesFindsAllItsChildren() {
+    // A window that is hidden tells its children one after another, the tip of the button that the
+    // pointer is on among them.
+    class Last : public QWidget {
+    public:
+        Last(QWidget* form, const QPointer<QWidget>& tip)
+            : QWidget(form)
+            , m_tip(tip) {}
+        bool toldWithTheTip = false;
+
+    protected:
+        void hideEvent(QHideEvent*) override { toldWithTheTip = !m_tip.isNull(); }
+
+    private:
+        const QPointer<QWidget>& m_tip;
+    };
+    QWidget form;
+    GGCommand button(u"Image2"_s, &form);
+    button.setToolTip(u"Close"_s);
+    form.show();
+    Pointer(button).enter();
+    const QPointer<QWidget> tip(button.toolTipWindow());
+    QVERIFY(cameUp(*button.toolTipWindow()));
+    Last last(&form, tip);
+    last.show();
+    form.hide();
+    QVERIFY(last.toldWithTheTip);
+    QVERIFY(!button.toolTipWindow());
+    QVERIFY(tip.isNull() || !tip->isVisible());
+    QTRY_VERIFY(!tip);
 }
 
 void ToolTipWindowTest::theButtonsEndDestroysTheToolTip() {

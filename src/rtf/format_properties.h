@@ -16,6 +16,8 @@ enum FormatProperty : int {
     /// Of an image format: width, height, map mode, bits per pixel, planes and bytes per row as the
     /// file gave them (QVariantList of int), for the kinds that cannot be read without.
     PictureSourceSize,
+    /// Of an image format: true where the image only stands for a picture that cannot be drawn.
+    PictureIsBox,
     /// Of a character format: an Underline that Qt shows as a single line (int).
     UnderlineKind,
     /// Of a character format: the text is hidden, and this its colour (int, an RGB value with the

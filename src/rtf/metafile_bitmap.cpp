@@ -3,37 +3,22 @@
 #include "rtf/device_bitmap.h"
 
 #include "rtf/little_endian.h"
+#include "rtf/metafile_records.h"
 
 namespace orvalis::rtf {
 
 namespace {
 
-constexpr qsizetype placeableHeaderSize = 22;
-constexpr quint16 metafileHeaderWords = 9;
-constexpr qsizetype recordHeaderSize = 6;
-
-enum Record : quint16 {
-    EndOfFile = 0x0000,
-    SetMapMode = 0x0103,
-    SetStretchBltMode = 0x0107,
-    SetWindowOrigin = 0x020b,
-    SetWindowExtent = 0x020c,
-    DibBitBlt = 0x0940,
-    DibStretchBlt = 0x0b41,
-    StretchDiBits = 0x0f43,
-    SetDiBitsToDevice = 0x0d33,
-};
-
 // Where the DIB stands in a record that carries one, in bytes behind the record's header.
-qsizetype dibOffset(quint16 function) {
+qsizetype dibOffset(MetafileFunction function) {
     switch (function) {
-    case DibBitBlt:
+    case MetafileFunction::DibBitBlt:
         return 16;
-    case DibStretchBlt:
+    case MetafileFunction::DibStretchBlt:
         return 20;
-    case StretchDiBits:
+    case MetafileFunction::StretchDiBits:
         return 22;
-    case SetDiBitsToDevice:
+    case MetafileFunction::SetDiBitsToDevice:
         return 18;
     default:
         return -1;
@@ -63,22 +48,11 @@ qsizetype enhancedDibField(quint32 type) {
 } // namespace
 
 QByteArrayView dibOfMetafile(QByteArrayView metafile) {
-    if (hasPlaceableHeader(metafile))
-        metafile = metafile.sliced(std::min(placeableHeaderSize, metafile.size()));
-    if (readU16(metafile, 2) != metafileHeaderWords)
-        return {};
-    qsizetype at = metafileHeaderWords * 2;
-    while (at + recordHeaderSize <= metafile.size()) {
-        const qint64 size = qint64(readU32(metafile, at)) * 2;
-        const quint16 function = readU16(metafile, at + 4);
-        if (size < recordHeaderSize || function == EndOfFile)
-            break;
-        const qsizetype end = qsizetype(std::min<qint64>(at + size, metafile.size()));
-        const qsizetype offset = dibOffset(function);
-        if (offset >= 0 && at + recordHeaderSize + offset < end)
-            return metafile.sliced(at + recordHeaderSize + offset,
-                                   end - at - recordHeaderSize - offset);
-        at = end;
+    MetafileRecords records(metafile);
+    while (records.next()) {
+        const qsizetype offset = dibOffset(records.function());
+        if (offset >= 0 && offset < records.parameters().size())
+            return records.parameters().sliced(offset);
     }
     return {};
 }
@@ -112,9 +86,9 @@ QByteArray metafileOfDib(QByteArrayView dib, QSize size) {
     const auto height = quint16(size.height());
     QByteArray file;
     file.reserve(totalWords * 2);
-    const auto record = [&file](qsizetype words, Record function) {
+    const auto record = [&file](qsizetype words, MetafileFunction function) {
         appendU32(file, quint32(words));
-        appendU16(file, function);
+        appendU16(file, quint16(function));
     };
     appendU16(file, 1);
     appendU16(file, metafileHeaderWords);
@@ -123,16 +97,16 @@ QByteArray metafileOfDib(QByteArrayView dib, QSize size) {
     appendU16(file, 0);
     appendU32(file, quint32(drawWords));
     appendU16(file, 0);
-    record(4, SetMapMode);
+    record(4, MetafileFunction::SetMapMode);
     appendU16(file, 8);
-    record(5, SetWindowExtent);
+    record(5, MetafileFunction::SetWindowExtent);
     appendU16(file, height);
     appendU16(file, width);
-    record(5, SetWindowOrigin);
+    record(5, MetafileFunction::SetWindowOrigin);
     appendU32(file, 0);
-    record(4, SetStretchBltMode);
+    record(4, MetafileFunction::SetStretchBltMode);
     appendU16(file, 3);
-    record(drawWords, DibStretchBlt);
+    record(drawWords, MetafileFunction::DibStretchBlt);
     appendU32(file, 0x00cc0020);
     appendU16(file, height);
     appendU16(file, width);
@@ -143,7 +117,7 @@ QByteArray metafileOfDib(QByteArrayView dib, QSize size) {
     file.append(dib);
     if (dib.size() % 2 != 0)
         file.append('\0');
-    record(3, EndOfFile);
+    record(3, MetafileFunction::EndOfFile);
     return file;
 }
 

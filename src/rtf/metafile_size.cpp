@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/metafile_size.h"
 
+#include "rtf/formats.h"
 #include "rtf/little_endian.h"
+#include "rtf/metafile_records.h"
 #include "rtf/picture.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace orvalis::rtf {
@@ -14,6 +17,8 @@ namespace {
 constexpr qsizetype frameLeft = 24; // and top, right, bottom, of four bytes each
 constexpr qsizetype boxLeft = 6;    // and top, right, bottom, of two bytes each
 constexpr qsizetype unitsPerInch = 14;
+
+constexpr double widestOnPage = 6 * twipsPerInch;
 
 QSizeF frameTwips(QByteArrayView metafile) {
     const auto edge = [metafile](int index) {
@@ -34,6 +39,24 @@ QSizeF boxTwips(QByteArrayView metafile) {
            (twipsPerInch / units);
 }
 
+// The map modes in which a unit is always as long.
+double twipsOfUnit(int mapMode) {
+    switch (mapMode) {
+    case 2:
+        return twipsPerInch / 254;
+    case 3:
+        return twipsPerInch / 2540;
+    case 4:
+        return twipsPerInch / 100;
+    case 5:
+        return twipsPerInch / 1000;
+    case 6:
+        return 1;
+    default:
+        return 0;
+    }
+}
+
 } // namespace
 
 QSizeF metafileTwips(QByteArrayView metafile) {
@@ -45,6 +68,28 @@ QSizeF metafileTwips(QByteArrayView metafile) {
     default:
         return {};
     }
+}
+
+QSizeF metafileWindowTwips(QByteArrayView metafile) {
+    QSizeF window;
+    double unit = 0;
+    MetafileRecords records(metafile);
+    while (window.isEmpty() && records.next()) {
+        const QByteArrayView parameters = records.parameters();
+        const auto length = [parameters](qsizetype at) {
+            return double(std::abs(qint16(readU16(parameters, at))));
+        };
+        if (records.function() == MetafileFunction::SetMapMode)
+            unit = twipsOfUnit(readU16(parameters, 0));
+        else if (records.function() == MetafileFunction::SetWindowExtent)
+            window = {length(2), length(0)}; // the height comes first
+    }
+    if (window.isEmpty())
+        return {};
+    if (unit > 0)
+        return window * unit;
+    window *= twipsPerPixel;
+    return window * std::min(1.0, widestOnPage / std::max(window.width(), window.height()));
 }
 
 } // namespace orvalis::rtf

@@ -20,6 +20,8 @@ enum class PictureKind : int {
     Emf,
     DeviceIndependent, ///< a packed DIB without a file header
     DeviceDependent,   ///< rows of pixels, described by Picture::bitmap
+    MacPict,           ///< QuickDraw's own, which nothing here draws
+    Os2Metafile,       ///< the Presentation Manager's own, which nothing here draws
     Other,             ///< an image file of another kind, which Qt may know
 };
 
@@ -41,7 +43,7 @@ struct Picture {
     int goalHeight = 0; ///< twips
     int scaleX = 100;   ///< per cent of the goal
     int scaleY = 100;   ///< per cent
-    int mapMode = 8;    ///< of a metafile
+    int mapMode = 8;    ///< of a metafile of either system
     DeviceBitmap bitmap;
     QByteArray bytes;
 };

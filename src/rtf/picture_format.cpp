@@ -4,12 +4,12 @@
 
 #include "rtf/format_properties.h"
 #include "rtf/formats.h"
+#include "rtf/picture_box.h"
 #include "rtf/picture_image.h"
 
 #include <QBuffer>
 #include <QCryptographicHash>
 #include <QImage>
-#include <QPainter>
 #include <QPixmap>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -17,6 +17,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -26,7 +27,7 @@ namespace {
 
 enum SourceSize { Width, Height, MapMode, BitsPerPixel, Planes, BytesPerRow, SourceSizeCount };
 
-constexpr int largestBox = 256; // pixels
+constexpr int bytesOfPixel = 4; // of the rasters that are bounded
 
 QVariantList sourceSize(const Picture& picture) {
     return {picture.width,         picture.height,
@@ -36,39 +37,12 @@ QVariantList sourceSize(const Picture& picture) {
 
 // The name follows from the content, so that a document never holds the same picture twice and
 // a copy into another document finds its own.
-QString nameOf(const Picture& picture) {
+QString contentKey(const Picture& picture) {
     QCryptographicHash hash(QCryptographicHash::Sha1);
     hash.addData(picture.bytes);
     for (const QVariant& number : sourceSize(picture))
         hash.addData(QByteArray::number(number.toInt()) + ',');
-    return "picture:"_L1 + QLatin1StringView(hash.result().toHex());
-}
-
-// What cannot be drawn keeps its place where its bytes are something and its size is named: by
-// words around it or, as every metafile has one, by itself.
-bool canBeBox(const Picture& picture) {
-    switch (kindOfBytes(picture.bytes)) {
-    case PictureKind::Wmf:
-    case PictureKind::Emf:
-        return true;
-    case PictureKind::Unknown:
-        if (picture.kind != PictureKind::DeviceIndependent &&
-            picture.kind != PictureKind::DeviceDependent)
-            return false;
-        break;
-    default:
-        break;
-    }
-    return !wantedTwips(picture).isEmpty();
-}
-
-QImage emptyBox(QSize size) {
-    QImage box(size.boundedTo({largestBox, largestBox}).expandedTo({1, 1}), QImage::Format_RGB32);
-    box.fill(Qt::white);
-    QPainter painter(&box);
-    painter.setPen(Qt::lightGray);
-    painter.drawRect(box.rect().adjusted(0, 0, -1, -1));
-    return box;
+    return QString::fromLatin1(hash.result().toHex());
 }
 
 QImage imageOfResource(const QVariant& resource) {
@@ -88,35 +62,65 @@ int goalTwips(double shown, int own) {
                      : int(std::lround(own * twipsPerPixel));
 }
 
+/// What the document shows for a picture.
+struct Shown {
+    QString name;
+    QImage image;
+    bool isBox = false;
+};
+
+Shown shownAs(QTextDocument& document, const Picture& picture, MetafileConverter* converter,
+              PictureBounds& bounds) {
+    const QString key = contentKey(picture);
+    // That a picture cannot be drawn is remembered too: finding it out may take a converter's run.
+    for (const bool box : {false, true}) {
+        const QString name = (box ? "box:"_L1 : "picture:"_L1) + key;
+        QImage known = imageOfResource(document.resource(QTextDocument::ImageResource, QUrl(name)));
+        if (!known.isNull())
+            return {name, known, box};
+    }
+    Shown made{"picture:"_L1 + key, imageOfPicture(picture, bounds.mostPixels, converter)};
+    if (made.image.isNull())
+        made = {"box:"_L1 + key, emptyBox(boxTwips(picture) / twipsPerPixel, bounds.mostPixels),
+                true};
+    bounds.spentPixels = made.image.sizeInBytes() / bytesOfPixel;
+    document.addResource(QTextDocument::ImageResource, QUrl(made.name), made.image);
+    return made;
+}
+
+// What is written: what the first bytes say, unless they are a file that RTF has no word for.
+PictureKind keptKind(const Picture& picture) {
+    const PictureKind found = kindOfBytes(picture.bytes);
+    return found == PictureKind::Unknown || found == PictureKind::Other ? picture.kind : found;
+}
+
+bool isMetafile(PictureKind kind) {
+    return kind == PictureKind::Wmf || kind == PictureKind::Emf;
+}
+
+bool isWritable(PictureKind kind) {
+    return isMetafile(kind) || kind == PictureKind::Png || kind == PictureKind::Jpeg;
+}
+
 } // namespace
 
 QTextImageFormat pictureFormat(QTextDocument& document, const Picture& picture,
                                MetafileConverter* converter, PictureBounds& bounds) {
+    if (picture.bytes.isEmpty())
+        return {};
+    const Shown shown = shownAs(document, picture, converter, bounds);
+    QSizeF size = (shown.isBox ? boxTwips(picture) : shownTwips(picture)) / twipsPerPixel;
+    if (size.isEmpty())
+        size = shown.image.size();
     QTextImageFormat format;
-    const QString name = nameOf(picture);
-    const QUrl url(name);
-    QVariant resource = document.resource(QTextDocument::ImageResource, url);
-    QImage image = imageOfResource(resource);
-    QSizeF shown = shownTwips(picture) / twipsPerPixel;
-    if (image.isNull()) {
-        image = imageOfPicture(picture, bounds.mostPixels, converter);
-        bounds.spentPixels = qint64(image.width()) * image.height();
-        if (image.isNull() && !canBeBox(picture))
-            return {};
-        if (image.isNull())
-            image = emptyBox(shown.toSize());
-        document.addResource(QTextDocument::ImageResource, url, image);
-    }
-    if (shown.isEmpty())
-        shown = image.size();
-    format.setName(name);
-    format.setWidth(shown.width());
-    format.setHeight(shown.height());
+    format.setName(shown.name);
+    format.setWidth(size.width());
+    format.setHeight(size.height());
     format.setProperty(PictureSource, picture.bytes);
-    const PictureKind found = kindOfBytes(picture.bytes);
-    format.setProperty(PictureSourceKind,
-                       int(found == PictureKind::Unknown ? picture.kind : found));
+    format.setProperty(PictureSourceKind, int(keptKind(picture)));
     format.setProperty(PictureSourceSize, sourceSize(picture));
+    if (shown.isBox)
+        format.setProperty(PictureIsBox, true);
     return format;
 }
 
@@ -138,9 +142,8 @@ Picture pictureOfFormat(const QTextDocument& document, const QTextImageFormat& f
         picture.kind = kindOfBytes(picture.bytes);
     }
     QImage image = imageOfResource(resource);
-    const bool writable = picture.kind == PictureKind::Png || picture.kind == PictureKind::Jpeg ||
-                          picture.kind == PictureKind::Wmf || picture.kind == PictureKind::Emf;
-    if (!writable || picture.bytes.isEmpty()) {
+    const bool isBox = format.boolProperty(PictureIsBox) && !picture.bytes.isEmpty();
+    if (!isBox && (!isWritable(picture.kind) || picture.bytes.isEmpty())) {
         if (image.isNull() && !picture.bytes.isEmpty())
             image = imageOfPicture(picture, PictureBounds().mostPixels, nullptr);
         if (!image.isNull()) {
@@ -154,6 +157,10 @@ Picture pictureOfFormat(const QTextDocument& document, const QTextImageFormat& f
             picture.height = image.height();
         }
     }
+    const QSizeF shown(format.width(), format.height());
+    const bool unnamed = !isMetafile(picture.kind) && wantedTwips(picture).isEmpty();
+    if (isBox && unnamed && shown == boxTwips(picture) / twipsPerPixel)
+        return picture;
     const QSize own = picture.bytes.isEmpty() ? QSize() : pixelSize(picture);
     picture.goalWidth = goalTwips(format.width(), own.width());
     picture.goalHeight = goalTwips(format.height(), own.height());
@@ -167,10 +174,10 @@ bool insertPicture(QTextCursor& cursor, const QByteArray& bytes) {
     const QSize size = pixelSize(picture);
     picture.width = size.width();
     picture.height = size.height();
+    if (shownTwips(picture).isEmpty())
+        return false;
     PictureBounds bounds;
     const QTextImageFormat image = pictureFormat(*cursor.document(), picture, nullptr, bounds);
-    if (image.name().isEmpty())
-        return false;
     QTextCharFormat merged = cursor.charFormat();
     merged.merge(image);
     cursor.insertImage(merged.toImageFormat());

@@ -20,13 +20,14 @@ struct PictureBounds {
 };
 
 /// Gives the document a picture and makes the format that shows it. The format keeps the picture's
-/// own bytes. A picture that cannot be drawn but has a size shows as an empty box; one without
-/// a size gives an invalid format.
+/// own bytes. A picture that cannot be drawn shows as an empty box; one without bytes gives an
+/// invalid format.
 QTextImageFormat pictureFormat(QTextDocument& document, const Picture& picture,
                                MetafileConverter* converter, PictureBounds& bounds);
 
 /// The picture behind a format: its own bytes where they are known, otherwise the document's image
-/// as a PNG. Its goal is the size at which the format shows it. Without bytes when there is none.
+/// as a PNG. Its goal is the size at which the format shows it, but for an empty box of a size
+/// that nobody named, which has none. Without bytes when there is none.
 Picture pictureOfFormat(const QTextDocument& document, const QTextImageFormat& format);
 
 /// Inserts an image file (PNG, JPEG, BMP or another kind that Qt reads) at the cursor, one image

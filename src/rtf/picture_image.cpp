@@ -6,10 +6,12 @@
 #include "rtf/formats.h"
 #include "rtf/little_endian.h"
 #include "rtf/metafile_converter.h"
+#include "rtf/metafile_size.h"
 
 #include <QBuffer>
 #include <QImageReader>
 
+#include <algorithm>
 #include <cmath>
 
 namespace orvalis::rtf {
@@ -28,18 +30,21 @@ bool isMetafile(const Picture& picture) {
     return kind == PictureKind::Wmf || kind == PictureKind::Emf;
 }
 
+// Whether Qt may know the kind, or is to be asked whether it does.
 bool isEncoded(PictureKind kind) {
-    return kind == PictureKind::Png || kind == PictureKind::Jpeg || kind == PictureKind::Other;
+    return kind == PictureKind::Png || kind == PictureKind::Jpeg || kind == PictureKind::Other ||
+           kind == PictureKind::Unknown;
 }
 
 PictureKind trueKind(const Picture& picture) {
     const PictureKind found = kindOfBytes(picture.bytes);
-    const bool raw = picture.kind == PictureKind::DeviceIndependent ||
-                     picture.kind == PictureKind::DeviceDependent;
+    // Rows of pixels may begin with anything.
+    const bool raw = picture.kind == PictureKind::DeviceDependent;
     return found == PictureKind::Unknown || raw ? picture.kind : found;
 }
 
 QSize fitted(QSize size, qint64 mostPixels) {
+    mostPixels = std::max<qint64>(mostPixels, 1);
     const double pixels = double(size.width()) * size.height();
     if (pixels <= double(mostPixels))
         return size;
@@ -107,7 +112,10 @@ QSizeF shownTwips(const Picture& picture) {
     const QSize pixels = pixelSize(picture);
     if (!pixels.isEmpty())
         return boundedTwips(QSizeF(pixels) * twipsPerPixel);
-    return isMetafile(picture) ? unnamedTwips : QSizeF();
+    if (!isMetafile(picture))
+        return {};
+    const QSizeF window = metafileWindowTwips(picture.bytes);
+    return window.isEmpty() ? unnamedTwips : boundedTwips(window);
 }
 
 QImage imageOfPicture(const Picture& picture, qint64 mostPixels, MetafileConverter* converter) {

@@ -14,7 +14,8 @@ class MetafileConverter;
 QSize pixelSize(const Picture& picture);
 
 /// The size in twips at which a picture shows: the one it wants, else a pixel of its own to one of
-/// the document, else, where it is a drawing, an inch square. Empty where nothing tells a size.
+/// the document, else, where it is a drawing, that of its window or an inch square. Empty where
+/// nothing tells a size.
 QSizeF shownTwips(const Picture& picture);
 
 /// Draws a picture. One with more pixels than allowed comes smaller, in the same shape.

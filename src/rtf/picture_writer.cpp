@@ -47,6 +47,33 @@ void appendGroup(QByteArray& out, const QByteArray& kind, QSize size, const Pict
     out.append("\r\n}");
 }
 
+QByteArray kindWords(const Picture& picture) {
+    switch (picture.kind) {
+    case PictureKind::Png:
+        return "\\pngblip";
+    case PictureKind::Jpeg:
+        return "\\jpegblip";
+    case PictureKind::Emf:
+        return "\\emfblip";
+    case PictureKind::Wmf:
+        return "\\wmetafile" + QByteArray::number(picture.mapMode);
+    case PictureKind::DeviceIndependent:
+        return "\\dibitmap0";
+    case PictureKind::DeviceDependent:
+        return "\\wbitmap0\\wbmbitspixel" + QByteArray::number(picture.bitmap.bitsPerPixel) +
+               "\\wbmplanes" + QByteArray::number(picture.bitmap.planes) + "\\wbmwidthbytes" +
+               QByteArray::number(picture.bitmap.bytesPerRow);
+    case PictureKind::MacPict:
+        return "\\macpict";
+    case PictureKind::Os2Metafile:
+        return "\\pmmetafile" + QByteArray::number(picture.mapMode);
+    case PictureKind::Unknown:
+    case PictureKind::Other:
+        break;
+    }
+    return {};
+}
+
 // The unit of a metafile's size is a hundredth of a millimetre.
 QSize metafileSize(const Picture& picture) {
     return {picture.goalWidth * 254 / 144, picture.goalHeight * 254 / 144};
@@ -56,19 +83,26 @@ QSize metafileSize(const Picture& picture) {
 
 QByteArray pictureGroups(const Picture& picture) {
     QByteArray rtf;
-    if (picture.kind == PictureKind::Wmf || picture.kind == PictureKind::Emf) {
-        const QByteArray kind = picture.kind == PictureKind::Emf
-                                    ? QByteArray("\\emfblip")
-                                    : "\\wmetafile" + QByteArray::number(picture.mapMode);
-        appendGroup(rtf, kind, metafileSize(picture), picture, picture.bytes);
+    switch (picture.kind) {
+    case PictureKind::Wmf:
+    case PictureKind::Emf:
+        appendGroup(rtf, kindWords(picture), metafileSize(picture), picture, picture.bytes);
+        return rtf;
+    case PictureKind::Png:
+    case PictureKind::Jpeg:
+        break;
+    default:
+        appendGroup(rtf, kindWords(picture), {picture.width, picture.height}, picture,
+                    picture.bytes);
         return rtf;
     }
-    const QSize size = pixelSize(picture);
+    // What names no size must not get one by its pixels, which may be nothing but a claim.
+    const QSize size =
+        picture.goalWidth > 0 ? pixelSize(picture) : QSize(picture.width, picture.height);
     const bool twin = !size.isEmpty() && qint64(size.width()) * size.height() <= mostTwinPixels;
     const QImage image = twin ? imageOfPicture(picture, mostTwinPixels, nullptr) : QImage();
     rtf.append("{\\*\\shppict");
-    appendGroup(rtf, picture.kind == PictureKind::Jpeg ? "\\jpegblip" : "\\pngblip", size, picture,
-                picture.bytes);
+    appendGroup(rtf, kindWords(picture), size, picture, picture.bytes);
     rtf.append('}');
     if (image.isNull())
         return rtf;

@@ -1,0 +1,200 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/format_properties.h"
+#include "rtf/picture_box.h"
+#include "rtf/picture_format.h"
+#include "rtf/reader.h"
+#include "rtf/writer.h"
+#include "sample_metafile.h"
+#include "sample_rtf.h"
+#include "support/test_main.h"
+
+#include <QGuiApplication>
+#include <QTextBlock>
+#include <QTextDocument>
+
+using namespace orvalis;
+using namespace orvalis::rtf;
+
+namespace {
+
+QTextImageFormat pictureOf(const QTextDocument& document) {
+    for (auto run = document.firstBlock().begin(); !run.atEnd(); ++run)
+        if (run.fragment().charFormat().isImageFormat())
+            return run.fragment().charFormat().toImageFormat();
+    return {};
+}
+
+QImage shown(const QTextDocument& document) {
+    return document.resource(QTextDocument::ImageResource, QUrl(pictureOf(document).name()))
+        .value<QImage>();
+}
+
+QByteArray withoutLineEnds(QByteArray bytes) {
+    return bytes.replace("\r\n", "");
+}
+
+QByteArray rtfOf(const QByteArray& words, const QByteArray& bytes) {
+    return "{\\rtf1 a{\\pict" + words + "\r\n" + bytes.toHex() + "}b\\par}";
+}
+
+constexpr int paperOrInk = 2; // colours of a box
+
+} // namespace
+
+/// Pictures that nothing can draw: they keep their place and their bytes.
+class PictureBoxTest : public QObject {
+    Q_OBJECT
+private slots:
+    void whatCannotBeDrawnKeepsItsBytes_data();
+    void whatCannotBeDrawnKeepsItsBytes();
+    void aBoxOfASizeSomebodyGaveKeepsIt();
+    void theSameBytesAreTriedOnce();
+    void aBoxIsFramedAndCrossed_data();
+    void aBoxIsFramedAndCrossed();
+    void aWholeBitmapFileBehindTheWordForABareOneIsShown();
+    void whatIsNoPictureIsNotInserted();
+};
+
+void PictureBoxTest::whatCannotBeDrawnKeepsItsBytes_data() {
+    QTest::addColumn<QByteArray>("words");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QSizeF>("pixels");
+    QTest::addColumn<QByteArray>("written");
+    const auto row = [](const char* name, const QByteArray& words, const QByteArray& bytes,
+                        const QSizeF& pixels, const QByteArray& written = {}) {
+        QTest::newRow(name) << words << bytes << pixels
+                            << "{\\pict" + (written.isEmpty() ? words : written) + bytes.toHex();
+    };
+    const QSizeF unknown(96, 96);
+    const QByteArray png = test::encoded(test::sampleImage(120, 60), "PNG");
+    const QByteArray jpeg = test::encoded(test::sampleImage(120, 60), "JPG");
+    row("PNG cut in its head", "\\pngblip", png.first(6), unknown);
+    row("PNG cut in its pixels", "\\pngblip", png.chopped(png.size() / 2), {120, 60});
+    const QByteArray large = test::encoded(test::sampleImage(1200, 600), "PNG");
+    row("large PNG cut in its pixels", "\\pngblip", large.chopped(large.size() / 2), {192, 96});
+    row("PNG with a goal", "\\pngblip\\picwgoal600\\pichgoal300", png.first(6), {40, 20});
+    row("PNG with the size of its pixels", "\\pngblip\\picw4\\pich3", png.first(6), {4, 3},
+        "\\pngblip\\picwgoal60\\pichgoal45");
+    row("PNG that claims too much", "\\pngblip",
+        QByteArray::fromHex("89504e470d0a1a0a0000000d49484452000186a0000186a00802000000"), unknown);
+    row("JPEG cut in its head", "\\jpegblip", jpeg.first(8), unknown);
+    row("nothing that a JPEG begins with", "\\jpegblip", "no JPEG", unknown);
+    row("bitmap that claims too much", "\\dibitmap0",
+        QByteArray::fromHex("28000000a0860100a0860100010020000000000000"), unknown);
+    row("bitmap with a goal", "\\dibitmap0\\picwgoal600\\pichgoal300",
+        QByteArray::fromHex("28000000a0860100a0860100010020000000000000"), {40, 20});
+    row("bitmap of words", "\\dibitmap0\\picw30\\pich60", "no bitmap", {30, 60},
+        "\\dibitmap0\\picw30\\pich60\\picwgoal450\\pichgoal900");
+    row("rows that are not there",
+        "\\wbitmap0\\wbmbitspixel24\\wbmplanes1\\wbmwidthbytes90000\\picw30000\\pich15000",
+        QByteArray(1, '\0'), {6666.67, 3333.33},
+        "\\wbitmap0\\wbmbitspixel24\\wbmplanes1\\wbmwidthbytes90000\\picw30000\\pich15000"
+        "\\picwgoal100000\\pichgoal50000");
+    row("rows of many planes", "\\wbitmap0\\wbmbitspixel4\\wbmplanes4\\wbmwidthbytes2",
+        QByteArray(8, '\0'), unknown);
+    row("picture of a Macintosh", "\\macpict\\picw40\\pich30", "QuickDraw", {40, 30},
+        "\\macpict\\picw40\\pich30\\picwgoal600\\pichgoal450");
+    row("picture of OS/2", "\\pmmetafile8\\picw40\\pich30", "GPI", {40, 30},
+        "\\pmmetafile8\\picw40\\pich30\\picwgoal600\\pichgoal450");
+    row("picture of no kind", "\\picw40\\pich30", "?", {40, 30},
+        "\\picw40\\pich30\\picwgoal600\\pichgoal450");
+    row("picture of no kind and size", {}, "?", unknown);
+    row("GIF that is none, named as something else", "\\pngblip", "GIF89a", unknown);
+}
+
+void PictureBoxTest::whatCannotBeDrawnKeepsItsBytes() {
+    QFETCH(QByteArray, words);
+    QFETCH(QByteArray, bytes);
+    QFETCH(QSizeF, pixels);
+    QFETCH(QByteArray, written);
+    QTextDocument document;
+    QVERIFY(readRtf(rtfOf(words, bytes), document).ok());
+    QCOMPARE(document.toRawText(), QStringLiteral("a\ufffcb"));
+    const QTextImageFormat format = pictureOf(document);
+    QVERIFY2(std::abs(format.width() - pixels.width()) < 0.01,
+             qPrintable(QString::number(format.width())));
+    QVERIFY2(std::abs(format.height() - pixels.height()) < 0.01,
+             qPrintable(QString::number(format.height())));
+    QCOMPARE(shown(document).colorCount(), paperOrInk);
+    const QByteArray once = writeRtf(document);
+    QVERIFY2(withoutLineEnds(once).contains(written), once);
+    QTextDocument again;
+    QVERIFY(readRtf(once, again).ok());
+    QCOMPARE(pictureOf(again).property(PictureSource).toByteArray(), bytes);
+    QCOMPARE(pictureOf(again).width(), format.width());
+    QCOMPARE(writeRtf(again), once);
+}
+
+void PictureBoxTest::aBoxOfASizeSomebodyGaveKeepsIt() {
+    QTextDocument document;
+    readRtf(rtfOf("\\pngblip", "no PNG"), document);
+    QTextImageFormat format = pictureOf(document);
+    format.setWidth(50);
+    QTextCursor cursor(&document);
+    cursor.setPosition(1);
+    cursor.setPosition(2, QTextCursor::KeepAnchor);
+    cursor.setCharFormat(format);
+    QVERIFY(writeRtf(document).contains("\\pngblip\\picwgoal750\\pichgoal1440"));
+}
+
+void PictureBoxTest::theSameBytesAreTriedOnce() {
+    QTextDocument document;
+    const QByteArray group = "{\\pict\\pngblip 00112233}";
+    QVERIFY(readRtf("{\\rtf1" + group + "and" + group + "\\par}", document).ok());
+    const QTextBlock block = document.firstBlock();
+    const QTextImageFormat first = block.begin().fragment().charFormat().toImageFormat();
+    const QTextImageFormat second = (++ ++block.begin()).fragment().charFormat().toImageFormat();
+    QCOMPARE(first.name(), second.name());
+    QVERIFY(second.boolProperty(PictureIsBox));
+}
+
+void PictureBoxTest::aBoxIsFramedAndCrossed_data() {
+    QTest::addColumn<QSizeF>("size");
+    QTest::newRow("square") << QSizeF(96, 96);
+    QTest::newRow("wide") << QSizeF(400, 100);
+    QTest::newRow("larger than its raster") << QSizeF(6000, 3000);
+}
+
+void PictureBoxTest::aBoxIsFramedAndCrossed() {
+    QFETCH(QSizeF, size);
+    const QImage box = emptyBox(size, 1 << 20);
+    QVERIFY(box.width() <= 512 && box.height() <= 512);
+    QVERIFY(std::abs(double(box.width()) / box.height() - size.width() / size.height()) < 0.01);
+    const QColor ink = box.pixelColor(0, 0);
+    QVERIFY(ink != QColor(Qt::white));
+    const int right = box.width() - 1;
+    const int bottom = box.height() - 1;
+    for (const QPoint& inked :
+         {QPoint(right, 0), QPoint(0, bottom), QPoint(right, bottom), QPoint(right / 2, 0),
+          QPoint(0, bottom / 2), QPoint(right, bottom / 3), QPoint(right / 3, bottom),
+          QPoint(right / 2, bottom / 2), QPoint(right / 4, bottom / 4),
+          QPoint(right / 4, bottom - bottom / 4)})
+        QCOMPARE(box.pixelColor(inked), ink);
+    QCOMPARE(box.pixelColor(right / 2, bottom / 4), QColor(Qt::white));
+    QCOMPARE(box.pixelColor(right / 4, bottom / 2), QColor(Qt::white));
+    // One that may have no room at all is still an image.
+    QCOMPARE(emptyBox(size, 0).isNull(), false);
+    QVERIFY(emptyBox(size, 0).sizeInBytes() < 64);
+    QVERIFY(!emptyBox(QSizeF(0.01, 300), 1 << 20).isNull());
+}
+
+void PictureBoxTest::aWholeBitmapFileBehindTheWordForABareOneIsShown() {
+    QTextDocument document;
+    QVERIFY(
+        readRtf(rtfOf("\\dibitmap0", test::encoded(test::sampleImage(), "BMP")), document).ok());
+    QCOMPARE(shown(document).convertToFormat(QImage::Format_RGB32), test::sampleImage());
+    QCOMPARE(pictureOf(document).width(), 4.0);
+}
+
+void PictureBoxTest::whatIsNoPictureIsNotInserted() {
+    QTextDocument document;
+    QTextCursor cursor(&document);
+    for (const QByteArray& bytes :
+         {QByteArray(), QByteArray("text"), test::encoded(test::sampleImage(), "PNG").first(10)})
+        QVERIFY(!insertPicture(cursor, bytes));
+    QVERIFY(document.isEmpty());
+}
+
+ORVALIS_TEST_MAIN_WITH(QGuiApplication, PictureBoxTest)
+#include "picture_box_test.moc"

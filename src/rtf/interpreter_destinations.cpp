@@ -148,6 +148,11 @@ void Interpreter::closeDestination(Destination destination) {
         m_fonts.commit(m_names, *m_documentPage);
         selectFont();
         return;
+    case Destination::ColorTable:
+        // The last entry may lack its semicolon.
+        if (m_color != automaticColor)
+            colorBytes(";");
+        return;
     case Destination::PlainFontName:
         m_fonts.setPlainName(captured.section(u';', 0, 0));
         return;

@@ -41,6 +41,7 @@ private slots:
     void fontsAreFoundByTheirNumbers();
     void anEntryWithoutPartsIsTheAutomaticColour();
     void aTableWithoutAutomaticEntryBeginsWithAColour();
+    void theLastColourMayLackItsEnd();
     void whatHoldsAtTheMarkShapesTheWholeParagraph();
     void paragraphsInheritUntilPard();
     void plainResetsCharactersAndPardParagraphs();
@@ -216,6 +217,16 @@ void ReaderFormatTest::aTableWithoutAutomaticEntryBeginsWithAColour() {
             sink);
     QCOMPARE(sink.runs[0].format.color, qRgb(0, 0, 0));
     QCOMPARE(sink.runs[1].format.color, qRgb(255, 0, 0));
+}
+
+void ReaderFormatTest::theLastColourMayLackItsEnd() {
+    RecordingSink sink;
+    readRtf("{\\rtf1{\\colortbl;\\red1\\green2\\blue3;\\red4\\green5\\blue6}\\cf1 a\\cf2 b\\cf3 c}",
+            sink);
+    QCOMPARE(sink.runs.size(), 3);
+    QCOMPARE(sink.runs[0].format.color, qRgb(1, 2, 3));
+    QCOMPARE(sink.runs[1].format.color, qRgb(4, 5, 6));
+    QCOMPARE(sink.runs[2].format.color, automaticColor);
 }
 
 void ReaderFormatTest::whatHoldsAtTheMarkShapesTheWholeParagraph() {

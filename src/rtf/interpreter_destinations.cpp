@@ -82,7 +82,11 @@ bool Interpreter::destinationWord(const Token& token) {
             openDestination(Destination::Body);
         return true;
     case Action::ShapeInstruction:
-        openInBody(Destination::Shape);
+        // A group of shapes holds further ones in its own instruction.
+        if (m_state.destination == Destination::Shape)
+            openDestination(Destination::Shape);
+        else
+            openInBody(Destination::Shape);
         return true;
     case Action::ShapeText:
         if (m_state.destination == Destination::Shape || inBody)

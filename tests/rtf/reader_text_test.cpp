@@ -97,6 +97,12 @@ void ReaderTextTest::everyFormOfTextIsRead_data() {
         QStringLiteral(" shown"));
     row("text of a shape", "{\\shp{\\*\\shpinst{\\sp{\\sn a}{\\sv b}}{\\shptxt box}}}",
         QStringLiteral("box"));
+    row("text of shapes in a group",
+        "{\\shpgrp{\\*\\shpinst{\\sp{\\sn groupLeft}{\\sv 1}}"
+        "{\\shp{\\*\\shpinst{\\sp{\\sn a}{\\sv b}}{\\shptxt one\\par}}}"
+        "{\\shp{\\*\\shpinst{\\sp{\\sn pib}{\\sv {\\pict\\pngblip 00}}}{\\shptxt two}}}}"
+        "{\\shprslt fallback}}",
+        QStringLiteral("one\n\ufffctwo"));
     row("a second brace too many", " a}b\\par c", QStringLiteral("ab\nc"));
     row("hidden text is part of the text", " a{\\v b}c", QStringLiteral("abc"));
 }

@@ -47,6 +47,9 @@ bool Interpreter::captures() const {
 }
 
 void Interpreter::bytes(QByteArrayView run) {
+    // Blanks between "\\*" and the name of the destination are no text.
+    if (m_ignorable && run.trimmed().isEmpty())
+        return;
     m_ignorable = false;
     // Some files indent the heads of their groups, and some have lost the backslash of "\\*": the
     // destinations behind are destinations all the same.

@@ -145,6 +145,8 @@ void ReaderTextTest::whatTheProgramDoesNotShowIsSkipped_data() {
                               "{\\ftnsep\\chftnsep}",
                               "{\\*\\do\\dptxbx"
                               "{\\dptxbxtext old box}}",
+                              "{\\* \\generator G;}",
+                              "{\\*\t\\unknown {deep {er}}}",
                               "{*\\generator lost}"})
         QTest::newRow(group) << QByteArray(group);
 }

@@ -227,6 +227,8 @@ constexpr ControlWord words[] = {
     {"blue", Action::Blue, 0},
 
     {"list", Action::List, 0},
+    {"listoverride", Action::ListOverrideEntry, 0},
+    {"lfolevel", Action::ListOverrideLevel, 0},
     {"listid", Action::ListIdentity, 0},
     {"listlevel", Action::ListLevelEntry, 0},
     {"levelnfc", Action::ListLevelKind, 0},

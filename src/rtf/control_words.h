@@ -89,6 +89,8 @@ enum class Action : quint8 {
     Blue,
     // Inside the list tables
     List,
+    ListOverrideEntry,
+    ListOverrideLevel,
     ListIdentity,
     ListLevelEntry,
     ListLevelKind,

@@ -128,7 +128,8 @@ bool Interpreter::destinationWord(const Token& token) {
         openInBody(Destination::Label);
         return true;
     case Action::ListLevelText:
-        if (m_state.destination == Destination::ListTable)
+        if (m_state.destination == Destination::ListTable ||
+            m_state.destination == Destination::ListOverrideTable)
             openDestination(Destination::LevelText);
         else
             skipGroup();
@@ -231,6 +232,12 @@ bool Interpreter::tableWord(const Token& token) {
         return true;
     case Action::List:
         m_lists.beginList();
+        return true;
+    case Action::ListOverrideEntry:
+        m_lists.beginOverride();
+        return true;
+    case Action::ListOverrideLevel:
+        m_lists.beginOverrideLevel();
         return true;
     case Action::ListLevelEntry:
         m_lists.beginLevel();

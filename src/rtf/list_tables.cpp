@@ -55,15 +55,28 @@ int romanValue(const QString& text) {
 void ListTables::beginList() {
     m_levels.clear();
     m_identity = 0;
+    m_overrideLevel = noLevel;
+}
+
+void ListTables::beginOverride() {
+    beginList();
+    m_starts.clear();
+}
+
+void ListTables::beginOverrideLevel() {
+    m_overrideLevel = std::min<int>(m_overrideLevel + 1, mostLevels);
 }
 
 void ListTables::beginLevel() {
+    const int level = m_overrideLevel == noLevel ? int(m_levels.size()) : m_overrideLevel;
     if (m_levels.size() < mostLevels)
-        m_levels.append(ListLabel{ListKind::Decimal, 0, int(m_levels.size()), 1, 0, {}, {}});
+        m_levels.append(ListLabel{ListKind::Decimal, 0, level, 1, 0, {}, {}});
 }
 
 ListLabel* ListTables::openLevel() {
-    return m_levels.isEmpty() ? nullptr : &m_levels.last();
+    const bool open = !m_levels.isEmpty() &&
+                      (m_overrideLevel == noLevel || m_levels.last().level == m_overrideLevel);
+    return open ? &m_levels.last() : nullptr;
 }
 
 void ListTables::setIdentity(int identity) {
@@ -78,8 +91,11 @@ void ListTables::setLevelKind(int format) {
 }
 
 void ListTables::setLevelStart(int start) {
+    start = std::clamp(start, 0, largestStart);
     if (ListLabel* level = openLevel())
-        level->start = std::clamp(start, 0, largestStart);
+        level->start = start;
+    else if (m_overrideLevel != noLevel)
+        m_starts.insert(m_overrideLevel, start);
 }
 
 void ListTables::setLevelText(const QString& text) {
@@ -102,19 +118,31 @@ void ListTables::setLevelText(const QString& text) {
 }
 
 void ListTables::addOverride(int number) {
-    if (m_overrides.size() < mostLists)
-        m_overrides.insert(number, m_identity);
+    if (m_overrides.size() < mostLists) {
+        m_overrides.insert(number, Override{m_identity, m_starts, m_levels});
+        if (m_starts.isEmpty() && m_levels.isEmpty() && !m_plainOverrides.contains(m_identity))
+            m_plainOverrides.insert(m_identity, number);
+    }
+    m_starts.clear();
+    m_levels.clear();
+    m_overrideLevel = noLevel;
 }
 
 std::optional<ListLabel> ListTables::label(int overrideNumber, int level) const {
-    const auto identity = m_overrides.constFind(overrideNumber);
-    if (identity == m_overrides.constEnd())
+    const auto own = m_overrides.constFind(overrideNumber);
+    if (own == m_overrides.constEnd())
         return std::nullopt;
-    const auto levels = m_lists.constFind(*identity);
+    const auto levels = m_lists.constFind(own->identity);
     if (levels == m_lists.constEnd() || levels->isEmpty())
         return std::nullopt;
     ListLabel label = levels->at(std::clamp<qsizetype>(level, 0, levels->size() - 1));
-    label.identity = overrideNumber;
+    for (const ListLabel& changed : own->labels)
+        if (changed.level == label.level)
+            label = changed;
+    label.start = own->starts.value(label.level, label.start);
+    // Overrides that change nothing stand for the list itself, whose numbers go on.
+    const bool plain = own->starts.isEmpty() && own->labels.isEmpty();
+    label.identity = plain ? m_plainOverrides.value(own->identity, overrideNumber) : overrideNumber;
     return label;
 }
 

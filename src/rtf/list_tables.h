@@ -11,11 +11,16 @@
 
 namespace orvalis::rtf {
 
+inline constexpr int noLevel = -1;
+
 /// The list table and the override table, by which a paragraph's \ls and \ilvl name its label.
 class ListTables {
 public:
     void beginList();
     void beginLevel();
+    void beginOverride();
+    /// An override may let its levels begin at numbers of their own, and give them a label.
+    void beginOverrideLevel();
     /// \param identity of the list one stands in, or the one that the next override stands for.
     void setIdentity(int identity);
     /// \param format as \levelnfc numbers it.
@@ -31,12 +36,20 @@ public:
 
 private:
     using Levels = QList<ListLabel>;
+    struct Override {
+        int identity = 0;       ///< of the list
+        QHash<int, int> starts; ///< by level
+        Levels labels;
+    };
     ListLabel* openLevel();
 
     QHash<int, Levels> m_lists;
-    QHash<int, int> m_overrides;
+    QHash<int, Override> m_overrides;
+    QHash<int, int> m_plainOverrides; ///< by the list: the first one that changes nothing of it
     Levels m_levels;
+    QHash<int, int> m_starts;
     int m_identity = 0;
+    int m_overrideLevel = noLevel;
 };
 
 /// What a literal label, as \pntext has it, says about the list; kind None for no label at all.

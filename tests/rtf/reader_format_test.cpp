@@ -53,6 +53,8 @@ private slots:
     void listsOfAllKindsAreKnown();
     void aListGoesOnUntilPard();
     void aListOfTheTablesGoesOnUntilPard();
+    void anOverrideChangesTheListForItself();
+    void overridesOfOneListAreThatList();
 };
 
 void ReaderFormatTest::everyCharacterWordChangesWhatItNames_data() {
@@ -350,6 +352,45 @@ void ReaderFormatTest::aListOfTheTablesGoesOnUntilPard() {
     QCOMPARE(sink.paragraphs[1].format.list.kind, ListKind::Decimal);
     QCOMPARE(sink.paragraphs[2].format.list.kind, ListKind::None);
     QCOMPARE(sink.paragraphs[3].format.list.kind, ListKind::Bullet);
+}
+
+void ReaderFormatTest::anOverrideChangesTheListForItself() {
+    const RecordingSink sink =
+        reading("{\\*\\listtable"
+                "{\\list{\\listlevel\\levelnfc0\\levelstartat1{\\leveltext\\'02\\'00.;}}"
+                "{\\listlevel\\levelnfc4\\levelstartat1{\\leveltext\\'02\\'01.;}}\\listid5}"
+                "{\\list{\\listlevel\\levelnfc23}\\listid6}}"
+                "{\\*\\listoverridetable"
+                "{\\listoverride\\listid5\\listoverridecount2"
+                "{\\lfolevel\\listoverridestartat\\levelstartat7}"
+                "{\\lfolevel\\listoverrideformat{\\listlevel\\levelnfc1\\levelstartat3"
+                "{\\leveltext\\'02\\'01);}}}\\ls1}"
+                "{\\listoverride\\listid6\\listoverridecount0\\ls2}"
+                "{\\listoverride\\listid5\\listoverridecount0\\ls3}}"
+                "\\pard\\ls1 a\\par\\pard\\ls1\\ilvl1 b\\par\\pard\\ls2 c\\par\\pard\\ls3 d\\par");
+    const auto label = [&sink](int paragraph) { return sink.paragraphs[paragraph].format.list; };
+    QCOMPARE(label(0).kind, ListKind::Decimal);
+    QCOMPARE(label(0).start, 7);
+    QCOMPARE(label(0).suffix, QStringLiteral("."));
+    QCOMPARE(label(1).kind, ListKind::UpperRoman);
+    QCOMPARE(label(1).level, 1);
+    QCOMPARE(label(1).start, 3);
+    QCOMPARE(label(1).suffix, QStringLiteral(")"));
+    QCOMPARE(label(2).kind, ListKind::Bullet);
+    QCOMPARE(label(3).kind, ListKind::Decimal);
+    QCOMPARE(label(3).start, 1);
+    QVERIFY(label(0).identity != label(3).identity);
+}
+
+void ReaderFormatTest::overridesOfOneListAreThatList() {
+    const RecordingSink sink = reading("{\\*\\listtable{\\list{\\listlevel\\levelnfc0}\\listid-7}}"
+                                       "{\\*\\listoverridetable{\\listoverride\\listid-7\\ls1}"
+                                       "{\\listoverride\\listid-7\\ls2}{\\listoverride\\listid-7"
+                                       "{\\lfolevel\\listoverridestartat\\levelstartat1}\\ls3}}"
+                                       "\\pard\\ls1 a\\par\\pard\\ls2 b\\par\\pard\\ls3 c\\par");
+    QCOMPARE(sink.paragraphs[1].format.list.identity, sink.paragraphs[0].format.list.identity);
+    QVERIFY(sink.paragraphs[0].format.list.identity > 0);
+    QVERIFY(sink.paragraphs[2].format.list.identity != sink.paragraphs[0].format.list.identity);
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, ReaderFormatTest)

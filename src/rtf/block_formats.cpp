@@ -19,6 +19,9 @@ constexpr int labelRoom = 240; // twips
 // The hanging indent of a list item that was made on the screen.
 constexpr int labelIndent = 360; // twips
 
+// A level of the list tables counts the characters of its label in one byte.
+constexpr qsizetype longestLabelText = 60;
+
 double pixels(int twips) {
     return twips / twipsPerPixel;
 }
@@ -58,6 +61,18 @@ ListKind listKind(QTextListFormat::Style style) {
     default:
         return ListKind::Bullet;
     }
+}
+
+/// The text before or behind the number, without what the list tables have no room for: codes below
+/// a blank stand for numbers there.
+QString labelText(QString text) {
+    text.removeIf([](QChar c) {
+        return c < u' ' || c == QChar::LineSeparator || c == QChar::ObjectReplacementCharacter;
+    });
+    text.truncate(longestLabelText);
+    if (!text.isEmpty() && text.back().isHighSurrogate())
+        text.chop(1);
+    return text;
 }
 
 void setLineSpacing(QTextBlockFormat& block, const ParagraphFormat& format) {
@@ -144,8 +159,8 @@ QTextListFormat listFormat(const ListLabel& label, int left) {
         list.setProperty(ListIndentIsRoom, true);
     if (label.kind == ListKind::Bullet)
         return list;
-    list.setNumberPrefix(label.prefix);
-    list.setNumberSuffix(label.suffix);
+    list.setNumberPrefix(labelText(label.prefix));
+    list.setNumberSuffix(labelText(label.suffix));
     if (label.start != 1)
         list.setProperty(ListStart, label.start);
     return list;
@@ -179,11 +194,11 @@ ParagraphFormat paragraphFormat(const QTextBlockFormat& format, const QTextList*
     result.list.kind = listKind(listFormat.style());
     // Bullets look alike whichever list they are of, numbers do not.
     if (result.list.kind != ListKind::Bullet) {
-        result.list.identity = list->objectIndex();
-        result.list.prefix = listFormat.numberPrefix();
+        result.list.identity = list->objectIndex() + 1;
+        result.list.prefix = labelText(listFormat.numberPrefix());
         // A list that says nothing of it shows a dot behind its numbers.
         result.list.suffix = listFormat.hasProperty(QTextFormat::ListNumberSuffix)
-                                 ? listFormat.numberSuffix()
+                                 ? labelText(listFormat.numberSuffix())
                                  : QStringLiteral(".");
         if (listFormat.hasProperty(ListStart))
             result.list.start = listFormat.intProperty(ListStart);

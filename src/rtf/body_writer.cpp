@@ -150,8 +150,10 @@ void BodyWriter::endParagraph(const CharFormat* mark) {
     // A link ends with its paragraph: fields that span paragraphs confuse many readers.
     CharFormat atEnd = mark ? *mark : m_format;
     atEnd.link = noName;
-    if (m_format.link != noName || mark)
-        change(atEnd);
+    // A raised text that goes on beyond its paragraph some readers lose, end of paragraph and all.
+    if (!mark)
+        atEnd.script = Script::Normal;
+    change(atEnd);
     m_out.structure("\\par\r\n");
 }
 

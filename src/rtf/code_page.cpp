@@ -118,7 +118,8 @@ qsizetype CodePage::decode(QByteArrayView bytes, QString& text) const {
 uchar latin1Byte(char16_t character) {
     if (character < 0x80 || (character >= 0xa0 && character < 0x100))
         return uchar(character);
-    for (size_t code = 0; code < std::size(windowsLatin); ++code)
+    // The codes that the page leaves unassigned other programs read as they please.
+    for (size_t code = 0; code < std::size(windowsLatin) && character >= 0x100; ++code)
         if (windowsLatin[code] == character)
             return uchar(0x80 + code);
     return 0;

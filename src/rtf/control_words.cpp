@@ -249,7 +249,6 @@ constexpr ControlWord words[] = {
     {"pnlcrm", Action::NumberingKind, as(ListKind::LowerRoman)},
     {"pnucrm", Action::NumberingKind, as(ListKind::UpperRoman)},
     {"pnstart", Action::NumberingStart, 0},
-    {"orvlist", Action::NumberingIdentity, 0},
 
     {"pngblip", Action::PictureSource, as(PictureKind::Png)},
     {"jpegblip", Action::PictureSource, as(PictureKind::Jpeg)},

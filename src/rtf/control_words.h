@@ -103,7 +103,6 @@ enum class Action : quint8 {
     NumberingContinued,
     NumberingKind, ///< value: the ListKind
     NumberingStart,
-    NumberingIdentity, ///< this program's own word: which list of the document it is
     // Inside \pict
     PictureSource, ///< value: the PictureKind
     PictureWidth,

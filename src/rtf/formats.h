@@ -64,9 +64,11 @@ struct TabStop {
     bool operator==(const TabStop&) const = default;
 };
 
-/// The label of a list item. Items of one list share the identity, which is above 0 for those of
-/// the list tables and below 0 for those that this program wrote; 0 stands for a list that is held
-/// together only by its paragraphs following each other.
+/// The largest number that a list begins with: what follows it stays far from overflow.
+inline constexpr int largestListStart = 1'000'000;
+
+/// The label of a list item. Items of one list of the list tables share the identity; 0 stands for
+/// a list that is held together only by its paragraphs following each other.
 struct ListLabel {
     ListKind kind = ListKind::None;
     int identity = 0;

@@ -10,7 +10,6 @@ namespace orvalis::rtf {
 namespace {
 
 constexpr qsizetype mostColors = 65536;
-constexpr int largestStart = 32767;
 
 constexpr QRgb opaqueBlack = 0xff000000;
 
@@ -267,11 +266,8 @@ bool Interpreter::tableWord(const Token& token) {
         if (m_numbering.kind != ListKind::Bullet)
             m_numbering.kind = static_cast<ListKind>(token.word->value);
         return true;
-    case Action::NumberingIdentity:
-        m_numbering.identity = -std::max(number, 0);
-        return true;
     case Action::NumberingStart:
-        m_numbering.start = std::clamp(number, 0, largestStart);
+        m_numbering.start = std::clamp(number, 0, largestListStart);
         return true;
     default:
         return false;

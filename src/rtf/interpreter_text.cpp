@@ -104,8 +104,8 @@ void Interpreter::decode(QByteArrayView run) {
     }
     const bool toBody = m_state.destination == Destination::Body;
     // An instruction or a label is no text of the font that holds around it.
-    if (!toBody && m_state.page->number() == symbolPage)
-        table = CodePage::forNumber(latin1Page).table();
+    if (!toBody && m_state.page->number() == symbolPage && m_documentPage->table())
+        table = m_documentPage->table();
     if (toBody)
         prepareText();
     QString& target = toBody ? m_text : m_capture;

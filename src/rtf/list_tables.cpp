@@ -12,7 +12,6 @@ constexpr qsizetype mostLevels = 9;
 constexpr qsizetype mostLists = 32768;
 constexpr int levelFormatBullet = 23;
 constexpr int levelFormatNone = 255;
-constexpr int largestStart = 32767;
 
 ListKind kindOfFormat(int format) {
     switch (format) {
@@ -91,7 +90,7 @@ void ListTables::setLevelKind(int format) {
 }
 
 void ListTables::setLevelStart(int start) {
-    start = std::clamp(start, 0, largestStart);
+    start = std::clamp(start, 0, largestListStart);
     if (ListLabel* level = openLevel())
         level->start = start;
     else if (m_overrideLevel != noLevel)
@@ -140,6 +139,9 @@ std::optional<ListLabel> ListTables::label(int overrideNumber, int level) const 
         if (changed.level == label.level)
             label = changed;
     label.start = own->starts.value(label.level, label.start);
+    // Bullets look alike whichever list they are of, and follow each other by their shape.
+    if (label.kind == ListKind::Bullet)
+        return label;
     // Overrides that change nothing stand for the list itself, whose numbers go on.
     const bool plain = own->starts.isEmpty() && own->labels.isEmpty();
     label.identity = plain ? m_plainOverrides.value(own->identity, overrideNumber) : overrideNumber;
@@ -164,14 +166,14 @@ ListLabel labelFromText(const QString& text, ListKind previous) {
     const int number = middle.toInt(&isNumber);
     const bool wrapped = start > 0 || end < label.size();
     const bool upper = !middle.isEmpty() && middle.front().isUpper();
-    if (isNumber && number >= 0 && number <= largestStart) {
+    if (isNumber && number >= 0 && number <= largestListStart) {
         result.kind = ListKind::Decimal;
         result.start = number;
         return result;
     }
     const int roman = wrapped ? romanValue(middle) : 0;
     const bool wasRoman = previous == ListKind::LowerRoman || previous == ListKind::UpperRoman;
-    if (roman > 0 && roman <= largestStart && (middle.size() > 1 || roman == 1 || wasRoman)) {
+    if (roman > 0 && roman <= largestListStart && (middle.size() > 1 || roman == 1 || wasRoman)) {
         result.kind = upper ? ListKind::UpperRoman : ListKind::LowerRoman;
         result.start = roman;
         return result;

@@ -47,16 +47,14 @@ void ParagraphWriter::begin(const ParagraphFormat& paragraph, int number) {
         label(shown);
     if (goesOn)
         return;
-    if (kind != ListKind::None)
+    if (kind != ListKind::None) {
+        // Some readers know the one way to tell a list and some the other; only the list tables
+        // keep lists of one look apart.
         numbering(shown);
+        m_out.word("\\ls", m_tables.list(paragraph));
+        m_out.word("\\ilvl0");
+    }
     shape(paragraph);
-}
-
-int ParagraphWriter::listNumberOf(int identity) {
-    int& number = m_listNumbers[identity];
-    if (number == 0)
-        number = int(m_listNumbers.size());
-    return number;
 }
 
 void ParagraphWriter::label(const ListLabel& label) {
@@ -80,9 +78,7 @@ void ParagraphWriter::numbering(const ListLabel& label) {
         m_out.structure("}}");
         return;
     }
-    // Neighbouring lists look alike to other readers; this word tells ours which is which.
     m_out.word("\\pnlvlbody\\pnindent0");
-    m_out.word("\\orvlist", listNumberOf(label.identity));
     m_out.word("\\pnstart", label.start);
     m_out.word(kindWord(label.kind));
     numberingText("{\\pntxtb", label.prefix);

@@ -26,14 +26,12 @@ private:
     void label(const ListLabel& label);
     void numbering(const ListLabel& label);
     void numberingText(QByteArrayView group, const QString& text);
-    int listNumberOf(int identity);
 
     RtfOutput& m_out;
     WriterTables& m_tables;
     ParagraphFormat m_last;
     int m_lastNumber = 0;
     bool m_any = false;
-    QHash<int, int> m_listNumbers;
 };
 
 } // namespace orvalis::rtf

@@ -114,6 +114,11 @@ void RtfOutput::special(char16_t character) {
     }
 }
 
+void RtfOutput::code(uchar byte) {
+    appendCode(m_bytes, byte);
+    m_needsDelimiter = false;
+}
+
 void RtfOutput::symbols(QStringView characters) {
     // What the font does not have by a byte keeps its own code, which no table touches.
     for (const QChar character : characters) {

@@ -28,6 +28,8 @@ public:
     void text(QStringView text);
     /// Text of the Symbol font, in that font's own bytes.
     void symbols(QStringView text);
+    /// A byte by its code.
+    void code(uchar byte);
 
     const QByteArray& bytes() const { return m_bytes; }
     void reserve(qsizetype size) { m_bytes.reserve(size); }

@@ -10,6 +10,45 @@ using namespace Qt::StringLiterals;
 
 namespace orvalis::rtf {
 
+namespace {
+
+/// What \levelnfc calls the kind of a label.
+int levelFormat(ListKind kind) {
+    switch (kind) {
+    case ListKind::Bullet:
+        return 23;
+    case ListKind::UpperRoman:
+        return 1;
+    case ListKind::LowerRoman:
+        return 2;
+    case ListKind::UpperLetter:
+        return 3;
+    case ListKind::LowerLetter:
+        return 4;
+    default:
+        return 0;
+    }
+}
+
+/// The label of a level: its length, then its characters, with a zero where the number goes; and
+/// the place of that.
+void levelText(RtfOutput& out, const ListLabel& label) {
+    if (label.kind == ListKind::Bullet) {
+        out.structure("{\\leveltext\\'01\\u8226?;}{\\levelnumbers;}");
+        return;
+    }
+    out.structure("{\\leveltext");
+    out.code(uchar(label.prefix.size() + 1 + label.suffix.size()));
+    out.text(label.prefix);
+    out.code(0);
+    out.text(label.suffix);
+    out.structure(";}{\\levelnumbers");
+    out.code(uchar(label.prefix.size() + 1));
+    out.structure(";}");
+}
+
+} // namespace
+
 WriterTables::WriterTables()
     : m_symbolFamily(m_names.family(u"Symbol"_s)) {}
 
@@ -38,7 +77,23 @@ int WriterTables::color(QRgb color) {
     return number;
 }
 
+int WriterTables::list(const ParagraphFormat& item) {
+    const bool isBullet = item.list.kind == ListKind::Bullet;
+    int& number = m_listNumbers[{item.list.identity, isBullet ? item.left : 0}];
+    if (number == 0) {
+        m_lists.append(item);
+        number = int(m_lists.size());
+    }
+    return number;
+}
+
 void WriterTables::write(RtfOutput& out) const {
+    writeFonts(out);
+    writeColors(out);
+    writeLists(out);
+}
+
+void WriterTables::writeFonts(RtfOutput& out) const {
     out.structure("{\\fonttbl");
     for (qsizetype number = 0; number < m_fonts.size(); ++number) {
         QString name = m_names.familyAt(m_fonts[number]);
@@ -55,6 +110,9 @@ void WriterTables::write(RtfOutput& out) const {
         out.structure(";}");
     }
     out.structure("}\r\n");
+}
+
+void WriterTables::writeColors(RtfOutput& out) const {
     if (m_colors.isEmpty())
         return;
     out.structure("{\\colortbl ;");
@@ -63,6 +121,33 @@ void WriterTables::write(RtfOutput& out) const {
         out.word("\\green", qGreen(color));
         out.word("\\blue", qBlue(color));
         out.structure(";");
+    }
+    out.structure("}\r\n");
+}
+
+void WriterTables::writeLists(RtfOutput& out) const {
+    if (m_lists.isEmpty())
+        return;
+    out.structure("{\\*\\listtable");
+    for (qsizetype index = 0; index < m_lists.size(); ++index) {
+        const ParagraphFormat& item = m_lists[index];
+        const int number = int(index) + 1;
+        out.word("{\\list\\listtemplateid", number);
+        out.word("\\listsimple{\\listlevel\\levelnfc", levelFormat(item.list.kind));
+        out.word("\\leveljc0\\levelfollow0\\levelstartat", item.list.start);
+        levelText(out, item.list);
+        // Some readers take the indents of the level, whatever the item says.
+        out.word("\\fi", item.first);
+        out.word("\\li", item.left);
+        out.structure("}");
+        out.word("\\listid", number);
+        out.structure("}");
+    }
+    out.structure("}\r\n{\\*\\listoverridetable");
+    for (qsizetype number = 1; number <= m_lists.size(); ++number) {
+        out.word("{\\listoverride\\listid", int(number));
+        out.word("\\listoverridecount0\\ls", int(number));
+        out.structure("}");
     }
     out.structure("}\r\n");
 }

@@ -4,11 +4,14 @@
 
 #include "rtf/formats.h"
 
+#include <utility>
+
 namespace orvalis::rtf {
 
 class RtfOutput;
 
-/// The fonts and colours of a file that is written, numbered in the order of their first use.
+/// The fonts, colours and lists of a file that is written, numbered in the order of their
+/// first use.
 class WriterTables {
 public:
     WriterTables();
@@ -24,17 +27,25 @@ public:
     bool isSymbolFont(int family) const;
     /// The number of a colour; 0 is the automatic one.
     int color(QRgb color);
+    /// The number of the list of an item; of several lists of bullets with one indent there is one.
+    int list(const ParagraphFormat& item);
 
     /// Appends the tables with all that was used so far.
     void write(RtfOutput& out) const;
 
 private:
+    void writeFonts(RtfOutput& out) const;
+    void writeColors(RtfOutput& out) const;
+    void writeLists(RtfOutput& out) const;
+
     Names m_names;
     int m_symbolFamily;
     QList<int> m_fonts; ///< families in the order of the font table
     QHash<int, int> m_fontNumbers;
     QList<QRgb> m_colors;
     QHash<QRgb, int> m_colorNumbers;
+    QList<ParagraphFormat> m_lists;                ///< by their first items
+    QHash<std::pair<int, int>, int> m_listNumbers; ///< by identity, and the indent of bullets
 };
 
 } // namespace orvalis::rtf

@@ -10,7 +10,10 @@
 // document is left in OTHER/files as the writer writes it: once a word processor has put its own
 // text of them into OTHER/text, OTHER measures what that program reads in what we write.
 #include "document_comparison.h"
+#include "rtf/block_formats.h"
+#include "rtf/list_number.h"
 #include "rtf/reader.h"
+#include "rtf/symbol_font.h"
 #include "rtf/writer.h"
 #include "support/test_main.h"
 
@@ -49,11 +52,21 @@ QByteArray contentOf(const QString& path) {
 
 // Runs of white space count as one blank. Marks without a width are left out: one word processor
 // keeps runs of blanks apart with U+2006, others put direction marks around them. So are pictures,
-// which a text has not, and bullets, which one reader prints and another draws.
+// which a text has not, and bullets, which one reader prints and another draws. What the Symbol
+// font shows some readers tell by its bytes, in the area for private use.
 QString folded(QString text) {
     static const QRegularExpression unseen(
         u"[\u00ad\u2006\u200b-\u200f\u202a-\u202e\ufeff\ufffc\u2022\u25e6\u25aa]"_s);
+    for (QChar& character : text)
+        if (character >= QChar(u'\uf020') && character <= QChar(u'\uf0ff'))
+            character = QChar(rtf::symbolCharacter(uchar(character.cell())));
     return text.remove(unseen).simplified();
+}
+
+QString label(const QTextBlock& item, const QTextList& list) {
+    const rtf::ListLabel label = rtf::paragraphFormat(item.blockFormat(), &list, 0).list;
+    const int number = label.start + list.itemNumber(item);
+    return label.prefix + rtf::listNumber(label.kind, number) + label.suffix;
 }
 
 // The text with the labels of numbered lists in front of their items, as other readers print them.
@@ -62,7 +75,7 @@ QString textWithLabels(const QTextDocument& document) {
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         const QTextList* list = block.textList();
         if (list && list->format().style() != QTextListFormat::ListDisc)
-            text += list->itemText(block) + u' ';
+            text += label(block, *list) + u' ';
         text += block.text() + u'\n';
     }
     return text;
@@ -86,10 +99,15 @@ void miss(const char* what, const QString& file, const QString& why) {
     std::printf("%s\t%s\t%s\n", what, qUtf8Printable(file), qUtf8Printable(why));
 }
 
-QString firstDifference(const QString& expected, const QString& found) {
-    qsizetype at = 0;
-    while (at < std::min(expected.size(), found.size()) && expected[at] == found[at])
-        ++at;
+qsizetype commonLength(const QString& a, const QString& b) {
+    const auto ends = std::mismatch(a.begin(), a.end(), b.begin(), b.end());
+    return ends.first - a.begin();
+}
+
+QString firstDifference(const QString& expected, const QString& text, const QString& labelled) {
+    const bool hasLabels = commonLength(expected, labelled) > commonLength(expected, text);
+    const QString& found = hasLabels ? labelled : text;
+    const qsizetype at = commonLength(expected, found);
     const qsizetype from = std::max<qsizetype>(at - 20, 0);
     return u"at %1: expected \"%2\", found \"%3\""_s.arg(at).arg(expected.mid(from, 60),
                                                                  found.mid(from, 60));
@@ -121,11 +139,12 @@ void measure(const QDir& root, const QString& name, const QString& other, Totals
     if (QFile::exists(textPath)) {
         ++totals.withText;
         const QString expected = folded(QString::fromUtf8(contentOf(textPath)));
-        const QString found = folded(document.toRawText());
         if (agrees(expected, document))
             ++totals.textAgrees;
         else
-            miss("TEXT", name, firstDifference(expected, found));
+            miss("TEXT", name,
+                 firstDifference(expected, folded(document.toRawText()),
+                                 folded(textWithLabels(document))));
     }
 
     const QByteArray written = rtf::writeRtf(document);

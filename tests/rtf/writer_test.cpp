@@ -20,6 +20,12 @@ private slots:
     void theTablesHoldOnlyWhatIsUsed();
     void charactersBeyondThePageAreSignedNumbers();
     void numbersKeepTheDotThatTheyShow();
+    void listsAreToldByTheListTablesToo();
+    void bulletsOfEachIndentAreAListOfTheTables();
+    void listsThatAreToldByTheListTablesAloneStayApart();
+    void whatALabelHasNoRoomForIsLeftOut();
+    void aRaisedTextEndsWithItsParagraph();
+    void unassignedCodesOfThePageAreWrittenByNumber();
     void fontNamesOfMixedCharactersStay();
     void aFontNamedLikeAScriptKeepsItsName();
     void oddFontNamesAreWrittenTheSameAgain_data();
@@ -89,6 +95,113 @@ void WriterTest::numbersKeepTheDotThatTheyShow() {
         QCOMPARE(again.begin().textList()->itemText(again.begin()), shown);
         QVERIFY(written.contains("{\\pntext " + shown.toLatin1() + "\\tab}"));
     }
+}
+
+void WriterTest::listsAreToldByTheListTablesToo() {
+    QTextDocument document;
+    QVERIFY(readRtf("{\\rtf1{\\fonttbl{\\f0 Arial;}}\\f0"
+                    "\\pard{\\*\\pn\\pnlvlblt}\\fi-360\\li720 a\\par"
+                    "\\pard{\\*\\pn\\pnlvlbody\\pnstart3\\pnlcrm{\\pntxtb(}{\\pntxta)}}b\\par"
+                    "\\pard{\\*\\pn\\pnlvlblt}\\fi-360\\li720 c\\par}",
+                    document)
+                .ok());
+    const QByteArray written = writeRtf(document);
+    const QByteArray tables =
+        "{\\*\\listtable"
+        "{\\list\\listtemplateid1\\listsimple"
+        "{\\listlevel\\levelnfc23\\leveljc0\\levelfollow0\\levelstartat1"
+        "{\\leveltext\\'01\\u8226?;}{\\levelnumbers;}\\fi-360\\li720}\\listid1}"
+        "{\\list\\listtemplateid2\\listsimple"
+        "{\\listlevel\\levelnfc2\\leveljc0\\levelfollow0\\levelstartat3"
+        "{\\leveltext\\'03(\\'00);}{\\levelnumbers\\'02;}\\fi0\\li0}\\listid2}}\r\n"
+        "{\\*\\listoverridetable"
+        "{\\listoverride\\listid1\\listoverridecount0\\ls1}"
+        "{\\listoverride\\listid2\\listoverridecount0\\ls2}}\r\n";
+    QVERIFY2(written.contains(tables), written.constData());
+    const QByteArray bullet = "{\\*\\pn\\pnlvlblt\\pnf0\\pnindent0{\\pntxtb\\'B7}}\\ls1\\ilvl0";
+    QCOMPARE(written.count(bullet), 2);
+    QVERIFY(written.contains("{\\*\\pn\\pnlvlbody\\pnindent0\\pnstart3\\pnlcrm"
+                             "{\\pntxtb(}{\\pntxta)}}\\ls2\\ilvl0"));
+}
+
+void WriterTest::bulletsOfEachIndentAreAListOfTheTables() {
+    QTextDocument document;
+    QVERIFY(readRtf("{\\rtf1\\pard{\\*\\pn\\pnlvlblt}\\fi-360\\li720 a\\par"
+                    "\\pard{\\*\\pn\\pnlvlblt}\\fi-360\\li1440 b\\par"
+                    "\\pard{\\*\\pn\\pnlvlblt}\\fi-360\\li720 c\\par}",
+                    document)
+                .ok());
+    const QByteArray written = writeRtf(document);
+    QCOMPARE(written.count("{\\list\\"), 2);
+    QVERIFY(written.contains("\\fi-360\\li720}\\listid1}"));
+    QVERIFY(written.contains("\\fi-360\\li1440}\\listid2}"));
+    QCOMPARE(written.count("}\\ls1\\ilvl0\\fi-360\\li720"), 2);
+    QCOMPARE(written.count("}\\ls2\\ilvl0\\fi-360\\li1440"), 1);
+}
+
+void WriterTest::listsThatAreToldByTheListTablesAloneStayApart() {
+    QTextDocument document;
+    QVERIFY(readRtf("{\\rtf1{\\pard{\\*\\pn\\pnlvlbody\\pnucltr{\\pntxta.}}a\\par b\\par}"
+                    "{\\pard between\\par}"
+                    "{\\pard{\\*\\pn\\pnlvlbody\\pnucltr{\\pntxta.}}c\\par d\\par}"
+                    "{\\pard{\\*\\pn\\pnlvlblt}e\\par}}",
+                    document)
+                .ok());
+    QByteArray written = writeRtf(document);
+    for (const QByteArray& head : {QByteArray("{\\pntext"), QByteArray("{\\*\\pn")}) {
+        for (qsizetype at = written.indexOf(head); at >= 0; at = written.indexOf(head, at)) {
+            qsizetype end = at;
+            int depth = 0;
+            do {
+                const char c = written[end++];
+                depth += c == '{' ? 1 : c == '}' ? -1 : 0;
+            } while (depth > 0);
+            written.remove(at, end - at);
+        }
+    }
+    QVERIFY(!written.contains("\\pn"));
+    QTextDocument again;
+    QVERIFY(readRtf(written, again).ok());
+    QStringList labels;
+    for (QTextBlock block = again.begin(); block != again.lastBlock(); block = block.next())
+        labels << (block.textList() ? block.textList()->itemText(block) : QString());
+    QCOMPARE(labels, (QStringList{QStringLiteral("A."), QStringLiteral("B."), QString(),
+                                  QStringLiteral("A."), QStringLiteral("B.")}));
+    QCOMPARE(again.lastBlock().textList()->format().style(), QTextListFormat::ListDisc);
+}
+
+void WriterTest::whatALabelHasNoRoomForIsLeftOut() {
+    QTextDocument document;
+    QTextCursor cursor(&document);
+    QTextListFormat numbers;
+    numbers.setStyle(QTextListFormat::ListDecimal);
+    numbers.setNumberPrefix(QStringLiteral("\u201ca\x01\tb\u2028c{"));
+    // The sixtieth character would be the first half of one of two.
+    numbers.setNumberSuffix(QString(59, u'd') + QString::fromUcs4(U"\U0001f4a9"));
+    cursor.createList(numbers);
+    // The first font holds where the labels are told, and its bytes mean other characters.
+    QTextCharFormat symbols;
+    symbols.setFontFamilies({QStringLiteral("Symbol")});
+    cursor.insertText(QStringLiteral("item"), symbols);
+    const QByteArray written = writeRtf(document);
+    QTextDocument again;
+    QVERIFY(readRtf(written, again).ok());
+    const QTextListFormat kept = again.begin().textList()->format();
+    QCOMPARE(kept.numberPrefix(), QStringLiteral("\u201cabc{"));
+    QCOMPARE(kept.numberSuffix(), QString(59, u'd'));
+    QCOMPARE(writeRtf(again), written);
+}
+
+void WriterTest::aRaisedTextEndsWithItsParagraph() {
+    QTextDocument document;
+    QVERIFY(readRtf("{\\rtf1{\\fonttbl{\\f0 Arial;}}\\f0 a\\super b\\par c\\par}", document).ok());
+    QVERIFY(
+        writeRtf(document).contains("a\\super b\\nosupersub\\par\r\n\\super c\\nosupersub\\par"));
+}
+
+void WriterTest::unassignedCodesOfThePageAreWrittenByNumber() {
+    const QTextDocument document(QStringLiteral("\u0081\u009d\u00a0\u2122"));
+    QVERIFY(writeRtf(document).contains("\\u129?\\u157?\\~\\'99\\par"));
 }
 
 void WriterTest::fontNamesOfMixedCharactersStay() {

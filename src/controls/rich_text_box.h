@@ -235,6 +235,7 @@ private:
     void changeScattered(const std::function<void()>& change);
     void typeParagraphEnd();
     void typeText(QKeyEvent* event);
+    bool dropsOntoItself(const QDropEvent& event) const;
     void tellChange();
     void tellSelection();
     void hold();

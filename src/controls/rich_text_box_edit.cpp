@@ -40,6 +40,11 @@ bool types(const QKeyEvent& event) {
     return !command && !event.text().isEmpty() && event.text().front().isPrint();
 }
 
+/// The toolkit knows one key for it on each desktop; people bring the other one along.
+bool redoes(const QKeyEvent& event) {
+    return event.matches(QKeySequence::Redo) || event.keyCombination() == (Qt::CTRL | Qt::Key_Y);
+}
+
 /// Where a backspace would take the bullet away, and with it the room that the bullet hangs in.
 bool atBullet(const QTextCursor& cursor) {
     return !cursor.hasSelection() && cursor.atBlockStart() && hasBullet(cursor.block());
@@ -131,9 +136,10 @@ void RichTextBox::keyPressEvent(QKeyEvent* event) {
         Copy();
     } else if (event->matches(QKeySequence::Paste)) {
         Paste();
-    } else if (event->matches(QKeySequence::Undo) || event->matches(QKeySequence::Redo)) {
-        moveThroughHistory([&] { QTextEdit::keyPressEvent(event); });
-        return;
+    } else if (event->matches(QKeySequence::Undo) && !isReadOnly()) {
+        Undo();
+    } else if (redoes(*event) && !isReadOnly()) {
+        moveThroughHistory([this] { redo(); });
     } else if (event->key() == Qt::Key_Backspace && atBullet(editCursor()) && !isReadOnly()) {
         const UndoKindScope kind(*m_undoKinds, UndoKind::Delete);
         SetSelBullet(false);
@@ -206,7 +212,21 @@ void RichTextBox::inputMethodEvent(QInputMethodEvent* event) {
     QTextEdit::inputMethodEvent(event);
 }
 
+/// Text that is put back onto itself stays as it is, in its selection.
+bool RichTextBox::dropsOntoItself(const QDropEvent& event) const {
+    const QTextCursor selection = editCursor();
+    const int place = cursorForPosition(event.position().toPoint()).position();
+    return event.source() == viewport() && event.dropAction() == Qt::MoveAction &&
+           place >= selection.selectionStart() && place <= selection.selectionEnd();
+}
+
 void RichTextBox::dropEvent(QDropEvent* event) {
+    if (dropsOntoItself(*event)) {
+        QDragLeaveEvent gone;
+        dragLeaveEvent(&gone);
+        event->ignore();
+        return;
+    }
     const UndoKindScope kind(*m_undoKinds, UndoKind::DragDrop);
     changeScattered([&] { QTextEdit::dropEvent(event); });
 }

@@ -45,6 +45,8 @@ private slots:
     void undoReachesBackOverManySteps();
     void undoKindsFollowWhatWasDone();
     void kindsSurviveUndoAndRedo();
+    void bothKeysOfRedoWork_data();
+    void bothKeysOfRedoWork();
     void kindsHaveTheirNames();
     void typedFormatsCanBeUndone();
     void whatIsTypedOverASelectionTakesTheFormatAtItsStart();
@@ -163,6 +165,31 @@ void RichTextBoxEditTest::kindsSurviveUndoAndRedo() {
     QCOMPARE(box.UndoType(), UndoKind::Typing);
     box.Undo();
     QCOMPARE(box.UndoType(), UndoKind::LastAction);
+}
+
+void RichTextBoxEditTest::bothKeysOfRedoWork_data() {
+    QTest::addColumn<QKeySequence>("keys");
+    QTest::newRow("Ctrl+Y") << QKeySequence(Qt::CTRL | Qt::Key_Y);
+    QTest::newRow("Ctrl+Shift+Z") << QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z);
+}
+
+void RichTextBoxEditTest::bothKeysOfRedoWork() {
+    QFETCH(QKeySequence, keys);
+    RichTextBox box;
+    box.SetSelText(u"one"_s);
+    box.SetSelText(u" two"_s);
+    box.Undo();
+    box.Undo();
+    QTest::keySequence(&box, keys);
+    QCOMPARE(box.Text(), u"one"_s);
+    QTest::keySequence(&box, keys);
+    QCOMPARE(box.Text(), u"one two"_s);
+    QTest::keySequence(&box, keys);
+    box.Undo();
+    box.setReadOnly(true);
+    QTest::keySequence(&box, keys);
+    QTest::keySequence(&box, QKeySequence::Undo);
+    QCOMPARE(box.Text(), u"one"_s);
 }
 
 void RichTextBoxEditTest::kindsHaveTheirNames() {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "driver/reminder_road.h"
+#include "ink.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -13,6 +14,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace orvalis::driver;
+using namespace orvalis::test;
 
 namespace {
 
@@ -108,6 +110,9 @@ void ReminderJourneyTest::aReminderGoesFromTheKeyToThePopUp() {
     QVERIFY(alarmOpens.count() > 0);
     QCOMPARE(program.control(u"xn/Text1"_s).text, u"\nREMINDER:\nFetch the can"_s);
     QCOMPARE(program.control(u"xn"_s).title, u"Sticker No1"_s);
+    const Ink reminder = inkOn(program, u"xn/Text1"_s);
+    QVERIFY(reminder.all > 0);
+    QCOMPARE(reminder.blue, reminder.all);
 
     // MS3's current row is the one behind its last fill, MS2's the message row: the header stays in
     // neither, whatever the grids keep is what the file says.
@@ -117,6 +122,13 @@ void ReminderJourneyTest::aReminderGoesFromTheKeyToThePopUp() {
     sleepMilliseconds(2500);
     QCOMPARE(alarmOpens.count(), opened);
     QVERIFY(program.isRunning());
+
+    QVERIFY(program.click(u"frmnotes1/imgNot"_s));
+    const Ink plain = plainInk(program, {QString(), u"REMINDER:"_s, u"Fetch the can"_s});
+    QVERIFY(plain.all > 0);
+    QCOMPARE(plain.blue, 0);
+    QVERIFY2(reminder.all > BoldOverPlain * plain.all,
+             qPrintable(u"%1 against %2"_s.arg(reminder.all).arg(plain.all)));
 }
 
 void ReminderJourneyTest::theProgramEndsThroughItsCloseButton() {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "driver/driven_program.h"
+#include "ink.h"
 
 #include <QDBusArgument>
 #include <QDBusConnection>
@@ -17,6 +18,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace orvalis::driver;
+using namespace orvalis::test;
 
 namespace {
 
@@ -289,6 +291,9 @@ void TrayJourneyTest::aliveInWindowTray(Stage& stage, const QString& iconName) {
     program.setClock(moment(10, 39, 57));
     QVERIFY(program.waitVisible(u"xn"_s, 15000));
     QCOMPARE(program.control(u"xn/Text1"_s).text, u"Alarm time: 10:40:00\nTea is ready"_s);
+    const Ink alarm = inkOn(program, u"xn/Text1"_s);
+    QVERIFY(alarm.all > 0);
+    QCOMPARE(alarm.red, alarm.all);
     QVERIFY(waitUntil([&] { return opened(program) == u"1\n"_s + media + u'\n'; }, 5000));
     QCOMPARE(program.control(iconName).tip, u" Orvalis - Alarm set at 10:40:00"_s);
     QVERIFY(program.point(iconName));
@@ -303,6 +308,13 @@ void TrayJourneyTest::aliveInWindowTray(Stage& stage, const QString& iconName) {
     QVERIFY2(settled(program, iconName), "a sticker is open: close goes to the tray");
     QVERIFY(openMenu(program, iconName));
     QVERIFY2(!visibleEntries(program).contains(u"Options"_s), "the pointer has passed over it");
+    QVERIFY(program.choose(u"Create Sticker"_s));
+    const Ink plain = plainInk(program, {u"Alarm time: 10:40:00"_s, u"Tea is ready"_s});
+    QVERIFY(plain.all > 0);
+    QCOMPARE(plain.red, 0);
+    QVERIFY2(alarm.all > BoldOverPlain * plain.all,
+             qPrintable(u"%1 against %2"_s.arg(alarm.all).arg(plain.all)));
+    QVERIFY(openMenu(program, iconName));
     QVERIFY(program.choose(u"Exit"_s));
     QVERIFY(waitUntil([&] { return program.messageBox().found; }, 5000));
     QCOMPARE(program.messageBox().text, u"This will close all created stickers. Continue?"_s);

@@ -39,6 +39,10 @@ void ReminderLookTest::theCalendarShowsItsWeeksAndNamesWhole() {
     PanelGround ground(QSize(width, 768));
     ground.shown();
     QApplication::processEvents();
+    // What it asks for has the longest names of days and months in it.
+    const QSize asked = ground.calendar().minimumSizeHint();
+    QVERIFY2(ground.calendar().size().expandedTo(asked) == ground.calendar().size(),
+             qPrintable(u"it asks for %1 by %2"_s.arg(asked.width()).arg(asked.height())));
     const auto* days = ground.calendar().findChild<QTableView*>();
     const QRect room = days->viewport()->rect();
     const QFontMetrics letters(ground.calendar().font());

@@ -5,13 +5,13 @@
 #include "rtf/reader.h"
 #include "rtf/writer.h"
 #include "sample_rtf.h"
+#include "support/counted_memory.h"
+#include "support/rtf_floods.h"
 #include "support/test_main.h"
 
 #include <QGuiApplication>
 #include <QTextBlock>
 #include <QTextDocument>
-
-#include <ctime>
 
 using namespace orvalis;
 using namespace orvalis::rtf;
@@ -20,11 +20,6 @@ using orvalis::test::RecordingSink;
 namespace {
 
 constexpr qsizetype largestBox = 1 << 17; // bytes
-
-/// Of the processor's time, which a busy machine does not stretch.
-double millisecondsSince(std::clock_t start) {
-    return 1000.0 * double(std::clock() - start) / CLOCKS_PER_SEC;
-}
 
 } // namespace
 
@@ -42,7 +37,7 @@ private slots:
     void picturesThatLieAreBoxes();
     void aPictureOfNoBytesIsNone();
     void aPictureOfMorePixelsThanAnyCameraMakesIsNotDecoded();
-    void garbageIsReadInLinearTime();
+    void garbageIsReadToItsEnd();
     void aFloodOfParagraphsComesInAsLinesOnceTheyCostTooMuch();
     void theFirstFaultAndItsPlaceAreTold_data();
     void theFirstFaultAndItsPlaceAreTold();
@@ -147,25 +142,30 @@ void HostileRtfTest::hugeNumbersHarmNobody() {
 
 void HostileRtfTest::picturesThatLieAreBoxes_data() {
     QTest::addColumn<QByteArray>("picture");
-    QTest::newRow("bitmap of 100000 by 100000")
-        << QByteArray("{\\pict\\dibitmap0 28000000a0860100a0860100010020000000000000}");
-    QTest::newRow("bitmap without its pixels")
-        << QByteArray("{\\pict\\dibitmap0 280000000a0000000a000000010020000000000000000000}");
+    const auto bitmap = [](const QByteArray& side) {
+        return "\\dibitmap0 28000000" + side + side + "01002000" + QByteArray(48, '0');
+    };
+    QTest::newRow("bitmap of 100000 by 100000") << bitmap("a0860100");
+    QTest::newRow("bitmap of 30000 by 30000") << bitmap("30750000");
+    QTest::newRow("bitmap without its pixels") << bitmap("0a000000");
+    QTest::newRow("half a bitmap's header") << bitmap("a0860100").chopped(30);
     QTest::newRow("rows of 30000 by 30000")
-        << QByteArray("{\\pict\\wbitmap0\\wbmbitspixel24\\picw30000\\pich30000 00}");
-    QTest::newRow("half a header") << QByteArray("{\\pict\\pngblip 89504e470d0a}");
+        << QByteArray("\\wbitmap0\\wbmbitspixel24\\picw30000\\pich30000 00");
+    QTest::newRow("half a header") << QByteArray("\\pngblip 89504e470d0a");
     QTest::newRow("png of 100000 by 100000")
-        << QByteArray("{\\pict\\pngblip 89504e470d0a1a0a0000000d49484452000186a0000186a008020000"
-                      "00}");
-    QTest::newRow("metafile of nothing") << QByteArray("{\\pict\\wmetafile8 0100}");
+        << QByteArray("\\pngblip 89504e470d0a1a0a0000000d49484452000186a0000186a0080200000027309c9f"
+                      "0000200049444154");
+    QTest::newRow("metafile of nothing") << QByteArray("\\wmetafile8 0100");
 }
 
 void HostileRtfTest::picturesThatLieAreBoxes() {
     QFETCH(QByteArray, picture);
+    constexpr qint64 muchLessThanClaimed = 4 << 20;
+    const QByteArray rtf = "{\\rtf1 a{\\pict" + picture + "}b\\par}";
     QTextDocument document;
-    const std::clock_t start = std::clock();
-    QVERIFY(readRtf("{\\rtf1 a" + picture + "b\\par}", document).ok());
-    QVERIFY(millisecondsSince(start) < 2000);
+    QVERIFY(readRtf(rtf, document).ok()); // Plugins that decode are loaded once.
+    const test::TakenMemory taken = test::memoryTakenBy([&] { readRtf(rtf, document); });
+    QVERIFY2(taken.asked < muchLessThanClaimed, qPrintable(QString::number(taken.asked)));
     QCOMPARE(document.toRawText(), QStringLiteral("a\ufffcb"));
     const QTextCharFormat format = (++document.firstBlock().begin()).fragment().charFormat();
     const QUrl name(format.toImageFormat().name());
@@ -192,23 +192,14 @@ void HostileRtfTest::aPictureOfMorePixelsThanAnyCameraMakesIsNotDecoded() {
     QVERIFY(!imageOfPicture(picture, 1 << 20, nullptr).isNull());
 }
 
-void HostileRtfTest::garbageIsReadInLinearTime() {
-    const auto milliseconds = [](qsizetype size) {
-        QByteArray rtf = "{\\rtf1 ";
-        quint32 seed = 12345;
-        while (rtf.size() < size) {
-            seed = seed * 1664525 + 1013904223;
-            rtf += char(seed >> 24);
-        }
-        NullSink sink;
-        const std::clock_t start = std::clock();
-        readRtf(rtf, sink);
-        return millisecondsSince(start);
-    };
-    const double small = milliseconds(1 << 20);
-    const double large = milliseconds(16 << 20);
-    QVERIFY2(large < small * 16 * 4 + 50,
-             qPrintable(QStringLiteral("%1 %2").arg(small).arg(large)));
+void HostileRtfTest::garbageIsReadToItsEnd() {
+    const QByteArray rtf = test::rtfNoise(1 << 20);
+    RecordingSink sink;
+    const ReadResult result = readRtf(rtf, sink);
+    QCOMPARE(result.fault, Fault::UnexpectedEnd);
+    QCOMPARE(result.position, rtf.size());
+    QVERIFY(sink.whole.startsWith(QStringLiteral("text")));
+    QVERIFY(sink.whole.size() > rtf.size() / 2);
 }
 
 void HostileRtfTest::aFloodOfParagraphsComesInAsLinesOnceTheyCostTooMuch() {

@@ -3,14 +3,13 @@
 //
 // rtf_bench: the speed of the RTF reader and writer, beside a bare cursor and beside unrtf where
 // it is installed, and how it holds as documents grow.
-// rtf_bench --hostile [NAME]: time and memory for 200 MB of whatever does most harm; with a name
-// only the files called so. Takes some minutes and 2 GB.
 #include "rtf/block_formats.h"
 #include "rtf/reader.h"
 #include "rtf/sink.h"
 #include "rtf/text_formats.h"
 #include "rtf/writer.h"
 #include "support/test_main.h"
+#include "timing.h"
 
 #include <QFile>
 #include <QGuiApplication>
@@ -18,14 +17,11 @@
 #include <QRandomGenerator>
 #include <QStandardPaths>
 #include <QTemporaryDir>
-#include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 
 #include <algorithm>
 #include <cstdio>
-#include <ctime>
-#include <functional>
 #include <limits>
 #include <vector>
 
@@ -35,6 +31,7 @@
 
 using namespace orvalis;
 using namespace orvalis::rtf;
+using bench::processorSeconds;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -45,22 +42,6 @@ constexpr double ReaderLimit = 100;  // MB/s
 constexpr double CursorLimit = 1.5;  // times the bare cursor
 constexpr double OutsideLimit = 5.0; // times faster than unrtf
 constexpr double WriterLimit = 60;   // MB/s
-constexpr qsizetype HostileSize = 200 * Megabyte;
-constexpr unsigned LongestReading = 120; // seconds
-constexpr qint64 MemoryPerByte = 40;
-constexpr qint64 MemoryGround = qint64(64) << 20;
-
-// Processor time, the least of several rounds: what else the machine does only ever adds to it.
-double seconds(const std::function<void()>& work, int rounds = Rounds) {
-    double best = std::numeric_limits<double>::max();
-    for (int round = 0; round < rounds; ++round) {
-        const std::clock_t start = std::clock();
-        work();
-        best = std::min(best, double(std::clock() - start) / CLOCKS_PER_SEC);
-    }
-    return best;
-}
-
 double rate(qsizetype bytes, double time) {
     return double(bytes) / double(Megabyte) / time;
 }
@@ -207,7 +188,7 @@ private:
 };
 
 double readingSeconds(const QByteArray& rtf) {
-    return seconds([&] {
+    return processorSeconds(Rounds, [&] {
         NullSink sink;
         readRtf(rtf, sink);
     });
@@ -227,9 +208,9 @@ void besideACursor(const QByteArray& rtf) {
     double bare = own;
     for (int round = 0; round < Rounds; ++round) {
         QTextDocument byReader;
-        own = std::min(own, seconds([&] { readRtf(rtf, byReader); }, 1));
+        own = std::min(own, processorSeconds(1, [&] { readRtf(rtf, byReader); }));
         QTextDocument byCursor;
-        bare = std::min(bare, seconds([&] { runs.insert(byCursor); }, 1));
+        bare = std::min(bare, processorSeconds(1, [&] { runs.insert(byCursor); }));
     }
     std::printf("  10 MB into a document %.3f s, its runs by a bare cursor %.3f s\n", own, bare);
     tell("reader into a document, to a bare cursor", own / bare, "x", own / bare <= CursorLimit,
@@ -255,16 +236,14 @@ void besideUnrtf(const QByteArray& rtf) {
     if (!file.open(QIODevice::WriteOnly) || file.write(rtf) != rtf.size())
         return;
     file.close();
-    const double own = seconds(
-        [&] {
-            QFile source(path);
-            QTextDocument document;
-            if (source.open(QIODevice::ReadOnly))
-                readRtf(source.readAll(), document);
-            if (document.toPlainText().isEmpty())
-                std::abort();
-        },
-        3);
+    const double own = processorSeconds(3, [&] {
+        QFile source(path);
+        QTextDocument document;
+        if (source.open(QIODevice::ReadOnly))
+            readRtf(source.readAll(), document);
+        if (document.toPlainText().isEmpty())
+            std::abort();
+    });
     double other = std::numeric_limits<double>::max();
     for (int round = 0; round < 3; ++round) {
         const double before = secondsOfChildren();
@@ -283,7 +262,7 @@ void writerAlone(const QByteArray& rtf) {
     QTextDocument document;
     readRtf(rtf, document);
     qsizetype written = 0;
-    const double time = seconds([&] { written = writeRtf(document).size(); });
+    const double time = processorSeconds(Rounds, [&] { written = writeRtf(document).size(); });
     const double speed = rate(written, time);
     tell("writer, 10 MB of mixed formatting", speed, "MB/s", speed >= WriterLimit,
          u">= %1"_s.arg(WriterLimit));
@@ -296,116 +275,11 @@ void growth() {
         const QByteArray rtf = mixedDocument(megabytes * Megabyte);
         const double reading = readingSeconds(rtf);
         QTextDocument document;
-        const double filling = seconds([&] { readRtf(rtf, document); }, 2);
+        const double filling = processorSeconds(2, [&] { readRtf(rtf, document); });
         qsizetype written = 0;
-        const double writing = seconds([&] { written = writeRtf(document).size(); }, 3);
+        const double writing = processorSeconds(3, [&] { written = writeRtf(document).size(); });
         std::printf("%8d %16.1f %22.1f %16.1f\n", megabytes, rate(rtf.size(), reading),
                     rate(rtf.size(), filling), rate(written, writing));
-    }
-}
-
-/// A file of the size that is nothing but one thing over and over.
-QByteArray repeated(const QByteArray& head, const QByteArray& piece, qsizetype size) {
-    QByteArray rtf;
-    rtf.reserve(size + piece.size());
-    rtf += head;
-    while (rtf.size() < size)
-        rtf += piece;
-    return rtf;
-}
-
-QByteArray noise(qsizetype size) {
-    QByteArray rtf(size, Qt::Uninitialized);
-    QRandomGenerator random(2);
-    std::generate(rtf.begin(), rtf.end(), [&] { return char(random.generate()); });
-    return rtf.replace(0, 12, "{\\rtf1 text ");
-}
-
-struct Hostile {
-    const char* name;
-    std::function<QByteArray(qsizetype)> make;
-};
-
-std::vector<Hostile> hostileFiles() {
-    const auto of = [](const QByteArray& head, const QByteArray& piece) {
-        return [=](qsizetype size) { return repeated(head, piece, size); };
-    };
-    return {
-        {"random bytes", noise},
-        {"opening braces", of("{\\rtf1 text ", "{")},
-        {"closing braces", of("{\\rtf1 text ", "}")},
-        {"groups within groups, each with its look", of("{\\rtf1 text ", "{\\b\\tx99 a")},
-        {"empty paragraphs", of("{\\rtf1 text ", "\\par")},
-        {"one-letter runs", of("{\\rtf1 text ", "\\b a\\b0 b")},
-        {"a size for each letter", of("{\\rtf1 text ", "\\fs8 a\\fs9\\up3 b\\fs20\\ul c")},
-        {"list items of their own", of("{\\rtf1 text ", "\\pard{\\pntext 7.}x\\par")},
-        {"colours", of("{\\rtf1 text{\\colortbl;", "\\red1;")},
-        {"fonts", of("{\\rtf1 text{\\fonttbl", "{\\f7 A;}")},
-        {"numbers with one list entry each",
-         of("{\\rtf1 text{\\*\\listtable", "{\\list{\\listlevel}\\listid1}")},
-        {"pictures of one pixel", of("{\\rtf1 text ", "{\\pict\\wbitmap0\\picw1\\pich1 00}")},
-        {"hexadecimal of one picture", of("{\\rtf1 text{\\pict\\pngblip 89504e470d0a1a0a", "00")},
-        {"codes of a page of two bytes", of("{\\rtf1\\ansicpg932 text", "\\'83\\'56")},
-        {"characters by number", of("{\\rtf1 text ", "\\u1078?")},
-        {"links", of("{\\rtf1 text ", "{\\field{\\*\\fldinst HYPERLINK u}{\\fldrslt x}}")}};
-}
-
-/// What a reading took in a process of its own.
-struct Answer {
-    double time = -1; ///< seconds, negative when the process died
-    qint64 memory = -1;
-    bool keptText = false; ///< of what stands in front of the trouble
-};
-
-Answer readInAChild(const QByteArray& rtf) {
-    int ends[2];
-    if (pipe(ends) != 0)
-        return {};
-    const pid_t child = fork();
-    if (child == 0) {
-        alarm(LongestReading);
-        const auto peak = [] {
-            rusage usage{};
-            getrusage(RUSAGE_SELF, &usage);
-            return qint64(usage.ru_maxrss) * 1024;
-        };
-        const qint64 before = peak();
-        QTextDocument document;
-        const double time = seconds([&] { readRtf(rtf, document); }, 1);
-        const Answer answer{time, peak() - before,
-                            document.firstBlock().text().startsWith(u"text"_s)};
-        const bool told = ::write(ends[1], &answer, sizeof answer) == sizeof answer;
-        _exit(told ? 0 : 1);
-    }
-    close(ends[1]);
-    Answer answer;
-    if (::read(ends[0], &answer, sizeof answer) != sizeof answer)
-        answer = {};
-    close(ends[0]);
-    waitpid(child, nullptr, 0);
-    return answer;
-}
-
-bool inBounds(const Answer& answer, qsizetype size) {
-    return answer.memory >= 0 && answer.memory <= MemoryPerByte * size + MemoryGround;
-}
-
-void hostile(const QString& wanted) {
-    std::printf("hostile files of %lld MB into a document, limit %lld x + %lld MB\n",
-                static_cast<long long>(HostileSize / Megabyte),
-                static_cast<long long>(MemoryPerByte), static_cast<long long>(MemoryGround >> 20));
-    for (const Hostile& file : hostileFiles()) {
-        if (!wanted.isEmpty() && !QString::fromLatin1(file.name).contains(wanted))
-            continue;
-        const Answer small = readInAChild(file.make(HostileSize / 10));
-        const Answer large = readInAChild(file.make(HostileSize));
-        const bool kept = large.keptText && small.keptText && inBounds(large, HostileSize) &&
-                          inBounds(small, HostileSize / 10);
-        std::printf("%-44s %6.2f s (a tenth %5.2f s) %6.1f x the file (a tenth %5.1f x) %s\n",
-                    file.name, large.time, small.time, double(large.memory) / HostileSize,
-                    double(small.memory) / (HostileSize / 10), kept ? "kept" : "MISSED");
-        std::fflush(stdout);
-        anyMissed |= !kept;
     }
 }
 
@@ -414,11 +288,6 @@ void hostile(const QString& wanted) {
 int main(int argc, char** argv) {
     test::fixedGround();
     const QGuiApplication app(argc, argv);
-    const QStringList arguments = QGuiApplication::arguments();
-    if (arguments.value(1) == u"--hostile") {
-        hostile(arguments.value(2));
-        return anyMissed ? 1 : 0;
-    }
     const QByteArray rtf = mixedDocument(10 * Megabyte);
     readerAlone(rtf);
     besideACursor(rtf);

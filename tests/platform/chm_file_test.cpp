@@ -5,7 +5,6 @@
 #include "runtime/files.h"
 #include "support/test_main.h"
 
-#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QProcess>
 #include <QRandomGenerator>
@@ -143,9 +142,9 @@ private slots:
     }
 
     void damageAnywhereEndsInAnAnswer() {
+        // Neither in a crash nor, at the end of ctest's patience, in a walk without end.
         QRandomGenerator random(20261121);
-        QElapsedTimer time;
-        time.start();
+        int opened = 0;
         for (int round = 0; round < 300; ++round) {
             QByteArray bytes = m_whole;
             // The books at the beginning and the packed pages behind them alike.
@@ -155,11 +154,12 @@ private slots:
             const auto help = open(bytes);
             if (!help)
                 continue;
+            ++opened;
             help->contents();
             for (const QString& file : help->files())
                 help->read(file);
         }
-        QVERIFY2(time.elapsed() < 60000, qPrintable(QString::number(time.elapsed())));
+        QVERIFY2(opened > 0, "no damage got as far as a reading");
     }
 
     void theSameSourcesGiveTheSameFile() {

@@ -50,10 +50,7 @@ void SoundPlayerTest::aFileThatIsNoSoundReturnsAtOnce() {
 void SoundPlayerTest::withoutTheOutputLibraryItReturnsAtOnce() {
     const TemporaryFolder folder;
     DeviceSoundPlayer player({folder.path()});
-    QElapsedTimer held;
-    held.start();
     player.playAndWait(binFolder + u"/Alarm.wav"_s);
-    QVERIFY(held.elapsed() < 1000);
     QVERIFY(!multimediaIsLoaded());
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/format_range.h"
 
+#include "controls/list_numbers.h"
 #include "controls/text_positions.h"
 #include "runtime/twips.h"
 
@@ -155,6 +156,7 @@ void RangeFormatter::draw(const FormatRange& range, const Line& first, const Lin
     context.clip = band;
     context.palette.setColor(QPalette::Text, Qt::black);
     m_copy->documentLayout()->draw(&painter, context);
+    drawListNumbers(painter, *m_copy, context);
     painter.restore();
 }
 

@@ -4,6 +4,7 @@
 
 #include "controls/control_marks.h"
 #include "controls/selection_format.h"
+#include "rtf/block_formats.h"
 #include "rtf/picture_format.h"
 
 #include <QTextBlock>
@@ -108,6 +109,7 @@ private:
     QTextBlockFormat paragraphOf(const QTextBlock& block) const {
         QTextBlockFormat format = m_ownParagraph;
         format.setObjectIndex(-1);
+        rtf::showLabel(format);
         if (block.blockFormat().hasProperty(QTextFormat::BlockAlignment))
             format.setAlignment(block.blockFormat().alignment());
         return format;

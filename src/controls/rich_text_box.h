@@ -242,7 +242,8 @@ private:
     void release();
     void beginBatch();
     void endBatch();
-    void paintNoBreakMarks(const QRect& area);
+    QTextCharFormat selectionFormat() const;
+    void drawNoBreakMarks(QPainter& painter, const QRectF& clip);
 
     QString m_tag;
     PlainFile m_plainFile = PlainFile::Notes;

@@ -6,21 +6,16 @@
 #include "controls/text_positions.h"
 #include "rtf/control_marks.h"
 
-#include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QMenu>
 #include <QMimeData>
-#include <QPainter>
 #include <QScopedValueRollback>
-#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextDocument>
-#include <QTextLayout>
 
-// What the user does to the text: keys, pointer, clipboard, undo; and the marks of blanks that do
-// not break.
+// What the user does to the text: keys, pointer, clipboard, undo.
 
 namespace orvalis {
 namespace {
@@ -286,40 +281,6 @@ void RichTextBox::contextMenuEvent(QContextMenuEvent* event) {
         [this] { selectAll(); });
     menu.exec(event->globalPos());
     event->accept();
-}
-
-void RichTextBox::paintEvent(QPaintEvent* event) {
-    QTextEdit::paintEvent(event);
-    paintNoBreakMarks(event->rect());
-}
-
-/// A blank that does not break looks like any other; a small bracket under it tells.
-void RichTextBox::paintNoBreakMarks(const QRect& area) {
-    const QPointF origin(-horizontalScrollBar()->value(), -verticalScrollBar()->value());
-    QPainter painter(viewport());
-    painter.setClipRect(area);
-    QColor ink = palette().color(QPalette::Text);
-    ink.setAlphaF(0.45F);
-    painter.setPen(QPen(ink, 1));
-    for (QTextBlock block = cursorForPosition(QPoint(0, area.top())).block(); block.isValid();
-         block = block.next()) {
-        const QTextLayout& layout = *block.layout();
-        const QPointF corner = layout.position() + origin;
-        if (corner.y() > area.bottom())
-            break;
-        const QString text = block.text();
-        for (qsizetype at = text.indexOf(QChar(QChar::Nbsp)); at >= 0;
-             at = text.indexOf(QChar(QChar::Nbsp), at + 1)) {
-            const QTextLine line = layout.lineForTextPosition(int(at));
-            if (!line.isValid())
-                continue;
-            const qreal left = corner.x() + line.cursorToX(int(at)) + 1;
-            const qreal right = corner.x() + line.cursorToX(int(at) + 1) - 1;
-            const qreal base = corner.y() + line.y() + line.ascent() + 1;
-            painter.drawPolyline(QPolygonF({QPointF(left, base - 2), QPointF(left, base),
-                                            QPointF(right, base), QPointF(right, base - 2)}));
-        }
-    }
 }
 
 } // namespace orvalis

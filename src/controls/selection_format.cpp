@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/selection_format.h"
 
+#include "rtf/block_formats.h"
 #include "rtf/format_properties.h"
 #include "runtime/colour.h"
 #include "runtime/twips.h"
@@ -254,6 +255,7 @@ void bulletParagraphs(QTextCursor& selection, bool on) {
                 bullets.setIndent(0);
                 list = qobject_cast<QTextList*>(QTextCursor(block).createList(bullets));
             }
+            rtf::showLabel(format);
             format.setObjectIndex(list->objectIndex());
             format.setProperty(rtf::ParagraphFirstIndent, -bulletTwips);
             format.setLeftMargin(twipsToPixelsF(shownIndent(indent) + bulletTwips));

@@ -3,7 +3,9 @@
 #include "rtf/block_formats.h"
 
 #include "rtf/format_properties.h"
+#include "rtf/list_number.h"
 
+#include <QTextBlock>
 #include <QTextList>
 
 #include <algorithm>
@@ -104,6 +106,24 @@ void readLineSpacing(const QTextBlockFormat& block, ParagraphFormat& format) {
     }
 }
 
+ListLabel labelOf(const QTextList& list) {
+    const QTextListFormat format = list.format();
+    ListLabel label;
+    label.kind = listKind(format.style());
+    // Bullets look alike whichever list they are of, numbers do not.
+    if (label.kind == ListKind::Bullet)
+        return label;
+    label.identity = list.objectIndex() + 1;
+    label.prefix = labelText(format.numberPrefix());
+    // A list that says nothing of it shows a dot behind its numbers.
+    label.suffix = format.hasProperty(QTextFormat::ListNumberSuffix)
+                       ? labelText(format.numberSuffix())
+                       : QStringLiteral(".");
+    if (format.hasProperty(ListStart))
+        label.start = format.intProperty(ListStart);
+    return label;
+}
+
 } // namespace
 
 QTextBlockFormat blockFormat(const ParagraphFormat& format) {
@@ -166,6 +186,34 @@ QTextListFormat listFormat(const ListLabel& label, int left) {
     return list;
 }
 
+QTextBlockFormat itemFormat(const QTextList& list) {
+    QTextBlockFormat item;
+    item.setObjectIndex(list.objectIndex());
+    if (list.format().hasProperty(ListStart))
+        item.setProperty(QTextFormat::ListStyle, int(QTextListFormat::ListStyleUndefined));
+    return item;
+}
+
+bool hidesLabel(const QTextBlockFormat& item) {
+    return item.hasProperty(QTextFormat::ListStyle) &&
+           item.intProperty(QTextFormat::ListStyle) == QTextListFormat::ListStyleUndefined;
+}
+
+void showLabel(QTextBlockFormat& item) {
+    item.clearProperty(QTextFormat::ListStyle);
+}
+
+QString listLabel(const QTextBlock& item) {
+    const QTextList* list = item.textList();
+    if (!list)
+        return {};
+    const ListLabel label = labelOf(*list);
+    if (label.kind == ListKind::Bullet)
+        return {};
+    const int number = label.start + list->itemNumber(item);
+    return label.prefix + listNumber(label.kind, number) + label.suffix;
+}
+
 ParagraphFormat paragraphFormat(const QTextBlockFormat& format, const QTextList* list,
                                 double indentWidth) {
     ParagraphFormat result;
@@ -190,19 +238,8 @@ ParagraphFormat paragraphFormat(const QTextBlockFormat& format, const QTextList*
     if (!list)
         return result;
 
+    result.list = labelOf(*list);
     const QTextListFormat listFormat = list->format();
-    result.list.kind = listKind(listFormat.style());
-    // Bullets look alike whichever list they are of, numbers do not.
-    if (result.list.kind != ListKind::Bullet) {
-        result.list.identity = list->objectIndex() + 1;
-        result.list.prefix = labelText(listFormat.numberPrefix());
-        // A list that says nothing of it shows a dot behind its numbers.
-        result.list.suffix = listFormat.hasProperty(QTextFormat::ListNumberSuffix)
-                                 ? labelText(listFormat.numberSuffix())
-                                 : QStringLiteral(".");
-        if (listFormat.hasProperty(ListStart))
-            result.list.start = listFormat.intProperty(ListStart);
-    }
     if (!listFormat.boolProperty(ListIndentIsRoom))
         result.left += twips(listFormat.indent() * indentWidth);
     if (format.hasProperty(ParagraphFirstIndent))

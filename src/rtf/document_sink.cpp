@@ -191,14 +191,14 @@ void DocumentSink::joinList(const ParagraphFormat& paragraph) {
         m_lists.interrupt();
         return;
     }
-    if (QTextList* list = m_lists.goOn(paragraph)) {
-        QTextBlockFormat member;
-        member.setObjectIndex(list->objectIndex());
-        m_cursor.mergeBlockFormat(member);
-    } else if (spend(bytesOfList)) {
-        m_lists.began(paragraph,
-                      m_cursor.createList(listFormat(m_lists.newLabel(), paragraph.left)));
+    QTextList* list = m_lists.goOn(paragraph);
+    if (!list) {
+        if (!spend(bytesOfList))
+            return;
+        list = m_cursor.createList(listFormat(m_lists.newLabel(), paragraph.left));
+        m_lists.began(paragraph, list);
     }
+    m_cursor.mergeBlockFormat(itemFormat(*list));
 }
 
 } // namespace orvalis::rtf

@@ -7,8 +7,8 @@ namespace orvalis::rtf {
 namespace {
 
 constexpr int mostItems = 256;
-// Where numbers go on in a further list they begin at 1 on the screen, so the lists of a document
-// that people wrote are left whole.
+// To a document the numbers that go on are a list of their own, so the lists that people wrote are
+// left whole.
 constexpr int mostNumbers = 2048;
 constexpr int membersOfRealDocuments = 4 * mostNumbers;
 

@@ -11,7 +11,6 @@
 // text of them into OTHER/text, OTHER measures what that program reads in what we write.
 #include "document_comparison.h"
 #include "rtf/block_formats.h"
-#include "rtf/list_number.h"
 #include "rtf/reader.h"
 #include "rtf/symbol_font.h"
 #include "rtf/writer.h"
@@ -63,19 +62,13 @@ QString folded(QString text) {
     return text.remove(unseen).simplified();
 }
 
-QString label(const QTextBlock& item, const QTextList& list) {
-    const rtf::ListLabel label = rtf::paragraphFormat(item.blockFormat(), &list, 0).list;
-    const int number = label.start + list.itemNumber(item);
-    return label.prefix + rtf::listNumber(label.kind, number) + label.suffix;
-}
-
 // The text with the labels of numbered lists in front of their items, as other readers print them.
 QString textWithLabels(const QTextDocument& document) {
     QString text;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         const QTextList* list = block.textList();
         if (list && list->format().style() != QTextListFormat::ListDisc)
-            text += label(block, *list) + u' ';
+            text += rtf::listLabel(block) + u' ';
         text += block.text() + u'\n';
     }
     return text;

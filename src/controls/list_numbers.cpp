@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "controls/list_numbers.h"
+
+#include "rtf/block_formats.h"
+
+#include <QPainter>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextLayout>
+
+namespace orvalis {
+namespace {
+
+using PaintContext = QAbstractTextDocumentLayout::PaintContext;
+
+/// How the number of a block is shown selected, which it is with the end of the paragraph before;
+/// null where it is not.
+const QTextCharFormat* selectionAt(const QTextBlock& block, const PaintContext& context) {
+    for (const auto& selection : context.selections)
+        if (block.position() > selection.cursor.selectionStart() &&
+            block.position() < selection.cursor.selectionEnd())
+            return &selection.format;
+    return nullptr;
+}
+
+void drawNumber(QPainter& painter, const QTextBlock& item, const PaintContext& context) {
+    const QTextLayout& layout = *item.layout();
+    if (layout.lineCount() == 0)
+        return;
+    QPaintDevice* const device = item.document()->documentLayout()->paintDevice();
+    const QTextCharFormat mark = item.charFormat();
+    const QFont font = device ? QFont(mark.font(), device) : mark.font();
+    const QFontMetrics metrics(font);
+    const QString label = rtf::listLabel(item);
+    const bool leftToRight = item.textDirection() == Qt::LeftToRight;
+
+    const QRectF text = layout.lineAt(0).naturalTextRect();
+    const int width = metrics.horizontalAdvance(label);
+    const int gap = metrics.horizontalAdvance(u' ');
+    const QPoint corner = layout.position().toPoint() + text.topLeft().toPoint();
+    QRectF box(corner, QSizeF(width, metrics.height()));
+    box.translate(leftToRight ? -gap - width : text.width() + gap, 0);
+
+    if (const QTextCharFormat* selection = selectionAt(item, context)) {
+        painter.fillRect(box, selection->background());
+        painter.setPen(QPen(selection->foreground(), 0));
+    } else {
+        const QBrush ink = mark.foreground();
+        painter.setPen(QPen(ink == Qt::NoBrush ? context.palette.text() : ink, 0));
+    }
+    QTextLayout line(label, font, device);
+    line.setTextOption(QTextOption(Qt::AlignLeft | Qt::AlignAbsolute));
+    line.beginLayout();
+    line.createLine().setLeadingIncluded(true);
+    line.endLayout();
+    line.draw(&painter, box.topLeft());
+}
+
+} // namespace
+
+void drawListNumbers(QPainter& painter, const QTextDocument& document,
+                     const PaintContext& context) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QAbstractTextDocumentLayout& layout = *document.documentLayout();
+    const int first = layout.hitTest(context.clip.topLeft(), Qt::FuzzyHit);
+    for (QTextBlock block = document.findBlock(first); block.isValid(); block = block.next()) {
+        if (block.layout()->position().y() > context.clip.bottom())
+            break;
+        if (rtf::hidesLabel(block.blockFormat()) && block.textList())
+            drawNumber(painter, block, context);
+    }
+    painter.restore();
+}
+
+} // namespace orvalis

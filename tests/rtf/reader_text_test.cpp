@@ -276,6 +276,9 @@ void ReaderTextTest::hyperlinksKeepTheirTargets_data() {
     QTest::newRow("escaped") << QByteArray("{\\field{\\*\\fldinst HYPERLINK \"c:\\\\\\\\x\"}"
                                            "{\\fldrslt t}}")
                              << QStringLiteral("c:\\x");
+    QTest::newRow("bare, on a server")
+        << QByteArray("{\\field{\\*\\fldinst{HYPERLINK \\\\\\\\server\\\\x.txt}}{\\fldrslt t}}")
+        << QStringLiteral("\\\\server\\x.txt");
     QTest::newRow("result marked ignorable")
         << QByteArray("{\\field{\\*\\fldinst{HYPERLINK \"u\"}}{\\*\\fldrslt t}}")
         << QStringLiteral("u");

@@ -26,6 +26,14 @@ qsizetype startOfGroup(QByteArrayView bytes) {
     return at;
 }
 
+// Buffers of other programs, and files that a crash has left longer than they were written, are
+// filled up with zeros. Where the last brace is missing they would count as text.
+QByteArrayView withoutPadding(QByteArrayView bytes) {
+    while (bytes.endsWith('\0'))
+        bytes.chop(1);
+    return bytes;
+}
+
 } // namespace
 
 bool looksLikeRtf(QByteArrayView bytes) {
@@ -41,7 +49,7 @@ ReadResult readRtf(QByteArrayView bytes, Sink& sink) {
     if (!looksLikeRtf(bytes))
         return notRtf;
     const qsizetype start = startOfGroup(bytes);
-    ReadResult result = Interpreter(bytes.sliced(start), sink).run();
+    ReadResult result = Interpreter(withoutPadding(bytes.sliced(start)), sink).run();
     if (!result.ok())
         result.position += start;
     return result;

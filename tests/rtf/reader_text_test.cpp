@@ -42,6 +42,7 @@ private slots:
     void aDeepGroupRestoresTheStateOfEachLevel();
     void theUtf8FlavourTakesItsBytesAsUtf8();
     void junkBehindTheEndIsNoText();
+    void zerosBehindACutAreNoText();
 };
 
 void ReaderTextTest::everyFormOfTextIsRead_data() {
@@ -327,6 +328,14 @@ void ReaderTextTest::junkBehindTheEndIsNoText() {
     RecordingSink sink;
     QVERIFY(readRtf("{\\rtf1 a}\r\njunk", sink).ok());
     QCOMPARE(sink.whole, QStringLiteral("a"));
+}
+
+void ReaderTextTest::zerosBehindACutAreNoText() {
+    RecordingSink sink;
+    const QByteArray zeros(4096, '\0');
+    const ReadResult result = readRtf("{\\rtf1 a" + QByteArray(1, '\0') + "b\\par" + zeros, sink);
+    QCOMPARE(result.fault, Fault::UnexpectedEnd);
+    QCOMPARE(sink.whole, QStringLiteral("a b\n"));
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, ReaderTextTest)

@@ -28,15 +28,20 @@ using namespace Qt::StringLiterals;
 /// The names under which desktops and programs know RTF.
 const QString rtfNames[] = {u"text/rtf"_s, u"application/rtf"_s, u"text/richtext"_s,
                             u"application/x-qt-windows-mime;value=\"Rich Text Format\""_s};
+/// Names that some programs use beside these or instead of them.
+const QString furtherRtfNames[] = {u"Rich Text Format"_s, u"application/x-rtf"_s, u"text/x-rtf"_s};
 const QString pictureNames[] = {u"image/png"_s, u"image/jpeg"_s};
 
 QByteArray rtfOf(const QMimeData& data) {
-    for (const QString& name : rtfNames) {
-        const QByteArray bytes = data.data(name);
-        if (rtf::looksLikeRtf(bytes))
-            return bytes;
-    }
-    return {};
+    QByteArray bytes;
+    const auto offers = [&](const QString& name) {
+        bytes = data.data(name);
+        return rtf::looksLikeRtf(bytes);
+    };
+    const bool offered =
+        std::any_of(std::begin(rtfNames), std::end(rtfNames), offers) ||
+        std::any_of(std::begin(furtherRtfNames), std::end(furtherRtfNames), offers);
+    return offered ? bytes : QByteArray();
 }
 
 /// The picture's own bytes where they can be kept, so that a photograph stays as small as it is.

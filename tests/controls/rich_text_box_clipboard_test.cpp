@@ -64,6 +64,9 @@ private slots:
     void pastedLineEndsOfOtherProgramsAreLineBreaks();
     void pastedTextTakesTheFormatAtTheSelectionsStart();
     void richTextComesBeforeHtmlAndText();
+    void richTextIsTakenUnderAllItsNames_data();
+    void richTextIsTakenUnderAllItsNames();
+    void cutAndPaddedRichTextIsTakenWhole();
     void textComesBeforeItsPicture();
     void htmlKeepsItsRuns();
     void aTableInHtmlComesAsTextWithTabs();
@@ -277,6 +280,38 @@ void RichTextBoxClipboardTest::richTextComesBeforeHtmlAndText() {
 }
 
 /// Programs offer a picture of what is copied beside it, cells of a sheet say.
+void RichTextBoxClipboardTest::richTextIsTakenUnderAllItsNames_data() {
+    QTest::addColumn<QString>("name");
+    for (const char* name : {"text/rtf", "application/rtf", "text/richtext",
+                             "application/x-qt-windows-mime;value=\"Rich Text Format\"",
+                             "Rich Text Format", "application/x-rtf", "text/x-rtf"})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+void RichTextBoxClipboardTest::richTextIsTakenUnderAllItsNames() {
+    QFETCH(QString, name);
+    auto* data = new QMimeData;
+    data->setData(name, "{\\rtf1 from {\\b rtf}\\par}");
+    data->setText(u"from text"_s);
+    QCOMPARE(pasted(data), u"from rtf"_s);
+    auto* alone = new QMimeData;
+    alone->setData(name, "{\\rtf1 x}");
+    QApplication::clipboard()->setMimeData(alone);
+    QVERIFY(RichTextBox().CanPaste());
+}
+
+void RichTextBoxClipboardTest::cutAndPaddedRichTextIsTakenWhole() {
+    const QByteArray whole = "{\\rtf1 one\\par two";
+    for (const QByteArray& end :
+         {QByteArray("\\par}"), QByteArray("\\par}\0", 6), QByteArray("\\par}\r\n\0\0\0", 10),
+          QByteArray("\\par"), QByteArray("\\par\r\n"), QByteArray("\\par\0\0", 6), QByteArray("}"),
+          QByteArray()}) {
+        auto* data = new QMimeData;
+        data->setData(u"text/rtf"_s, whole + end);
+        QCOMPARE(pasted(data), u"one\r\ntwo"_s);
+    }
+}
+
 void RichTextBoxClipboardTest::textComesBeforeItsPicture() {
     const auto withPicture = [] {
         auto* data = new QMimeData;

@@ -138,10 +138,10 @@ void BodyWriter::text(QStringView text, const CharFormat& format) {
 }
 
 void BodyWriter::picture(const Picture& picture, const CharFormat& format) {
-    // Hidden text is only not drawn, a hidden picture is skipped by readers.
-    CharFormat shown = format;
-    shown.hidden = false;
-    change(shown);
+    // Text around it may be hidden where the picture shows.
+    CharFormat own = format;
+    own.hidden = picture.hidden;
+    change(own);
     if (!picture.bytes.isEmpty())
         m_out.structure(pictureGroups(picture));
 }

@@ -106,7 +106,7 @@ bool DocumentSink::picture(const Picture& picture, const CharFormat& format) {
     m_pixelBytesLeft -= bounds.spentPixels * bytesOfPixel;
     const int index = formatIndex(format);
     QTextCharFormat merged = m_formats[size_t(index)];
-    merged.merge(image);
+    merged.merge(format.hidden ? hiddenPicture(image) : image);
     m_images.push_back(merged.toImageFormat());
     m_runs.push_back(Run{1, index, int(m_images.size()) - 1});
     m_text.append(QChar::ObjectReplacementCharacter);

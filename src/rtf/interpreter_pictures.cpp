@@ -64,7 +64,7 @@ void Interpreter::pictureBytes(QByteArrayView run) {
 }
 
 void Interpreter::deliverPicture() {
-    if (m_picture.bytes.isEmpty() || m_state.deleted || m_state.chars.hidden)
+    if (m_picture.bytes.isEmpty() || m_state.deleted)
         return;
     m_shapePictureShown = true;
     cellTabs(m_cellTabs);

@@ -45,6 +45,7 @@ struct Picture {
     int scaleY = 100;   ///< per cent
     int mapMode = 8;    ///< of a metafile of either system
     DeviceBitmap bitmap;
+    bool hidden = false; ///< of one that a document holds: it does not show
     QByteArray bytes;
 };
 

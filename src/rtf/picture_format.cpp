@@ -124,6 +124,13 @@ QTextImageFormat pictureFormat(QTextDocument& document, const Picture& picture,
     return format;
 }
 
+QTextImageFormat hiddenPicture(QTextImageFormat format) {
+    format.setProperty(HiddenPictureSize, QSizeF(format.width(), format.height()));
+    format.setWidth(0);
+    format.setHeight(0);
+    return format;
+}
+
 Picture pictureOfFormat(const QTextDocument& document, const QTextImageFormat& format) {
     Picture picture;
     const QVariant resource = document.resource(QTextDocument::ImageResource, QUrl(format.name()));
@@ -157,13 +164,15 @@ Picture pictureOfFormat(const QTextDocument& document, const QTextImageFormat& f
             picture.height = image.height();
         }
     }
-    const QSizeF shown(format.width(), format.height());
+    picture.hidden = format.hasProperty(HiddenPictureSize);
+    const QSizeF shown = picture.hidden ? format.property(HiddenPictureSize).toSizeF()
+                                        : QSizeF(format.width(), format.height());
     const bool unnamed = !isMetafile(picture.kind) && wantedTwips(picture).isEmpty();
     if (isBox && unnamed && shown == boxTwips(picture) / twipsPerPixel)
         return picture;
     const QSize own = picture.bytes.isEmpty() ? QSize() : pixelSize(picture);
-    picture.goalWidth = goalTwips(format.width(), own.width());
-    picture.goalHeight = goalTwips(format.height(), own.height());
+    picture.goalWidth = goalTwips(shown.width(), own.width());
+    picture.goalHeight = goalTwips(shown.height(), own.height());
     return picture;
 }
 

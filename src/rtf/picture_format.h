@@ -25,6 +25,9 @@ struct PictureBounds {
 QTextImageFormat pictureFormat(QTextDocument& document, const Picture& picture,
                                MetafileConverter* converter, PictureBounds& bounds);
 
+/// The format of a picture as it is when the picture is hidden.
+QTextImageFormat hiddenPicture(QTextImageFormat format);
+
 /// The picture behind a format: its own bytes where they are known, otherwise the document's image
 /// as a PNG. Its goal is the size at which the format shows it, but for an empty box of a size
 /// that nobody named, which has none. Without bytes when there is none.

@@ -188,6 +188,7 @@ private slots:
     void whatWasReadIsWrittenTheSameAgain();
     void neighbouringListsOfBulletsAreWrittenTheSameAgain();
     void aPictureAmongHiddenTextStays();
+    void aHiddenPictureStaysHidden();
     void aPictureTooSmallToSeeStays();
     void everyPartOfADocumentCanBeWritten();
     void onlyAsciiIsWritten();
@@ -257,6 +258,33 @@ void RoundTripTest::aPictureAmongHiddenTextStays() {
     QVERIFY(readRtf(writeRtf(document), again).ok());
     QCOMPARE(again.toRawText(), QStringLiteral("hid\ufffcden"));
     QVERIFY(again.firstBlock().begin().fragment().charFormat().hasProperty(HiddenText));
+}
+
+void RoundTripTest::aHiddenPictureStaysHidden() {
+    QTextDocument document;
+    const QByteArray png = test::encoded(test::sampleImage(), "PNG");
+    QVERIFY(readRtf("{\\rtf1 a{\\v{\\pict\\pngblip\\picwgoal600\\pichgoal300 " + png.toHex() +
+                        "}}b\\par}",
+                    document)
+                .ok());
+    QCOMPARE(document.toRawText(), QStringLiteral("a\ufffcb"));
+    const QTextImageFormat format =
+        (++document.firstBlock().begin()).fragment().charFormat().toImageFormat();
+    QCOMPARE(format.width(), 0.0);
+    QCOMPARE(format.height(), 0.0);
+    document.setTextWidth(1000);
+    const double width = document.idealWidth();
+    QTextDocument without;
+    readRtf("{\\rtf1 ab\\par}", without);
+    without.setTextWidth(1000);
+    QVERIFY(std::abs(width - without.idealWidth()) < 1);
+    const QByteArray written = writeRtf(document);
+    QVERIFY(written.contains(
+        "\\v{\\*\\shppict{\\pict\\pngblip\\picw4\\pich3\\picwgoal600\\pichgoal300"));
+    QTextDocument again;
+    QVERIFY(readRtf(written, again).ok());
+    QCOMPARE(test::firstDifference(document, again), QString());
+    QCOMPARE(writeRtf(again), written);
 }
 
 void RoundTripTest::aPictureTooSmallToSeeStays() {

@@ -49,6 +49,36 @@ int romanValue(const QString& text) {
     return value;
 }
 
+// The label whose number is a word of it; kind None where the word is no number.
+ListLabel labelOfWord(const QString& label, qsizetype start, qsizetype end, ListKind previous) {
+    const QString word = label.mid(start, end - start);
+    ListLabel result;
+    result.prefix = label.first(start);
+    result.suffix = label.mid(end);
+    bool isNumber = false;
+    const int number = word.toInt(&isNumber);
+    if (isNumber && number >= 0 && number <= largestListStart) {
+        result.kind = ListKind::Decimal;
+        result.start = number;
+        return result;
+    }
+    // A word alone is a bullet that happens to be a letter.
+    if (word.isEmpty() || word.size() == label.size())
+        return result;
+    const bool upper = word.front().isUpper();
+    const int roman = romanValue(word);
+    const bool wasRoman = previous == ListKind::LowerRoman || previous == ListKind::UpperRoman;
+    const char16_t letter = word.front().toLower().unicode();
+    if (roman > 0 && roman <= largestListStart && (word.size() > 1 || roman == 1 || wasRoman)) {
+        result.kind = upper ? ListKind::UpperRoman : ListKind::LowerRoman;
+        result.start = roman;
+    } else if (word.size() == 1 && letter >= u'a' && letter <= u'z') {
+        result.kind = upper ? ListKind::UpperLetter : ListKind::LowerLetter;
+        result.start = letter - u'a' + 1;
+    }
+    return result;
+}
+
 } // namespace
 
 void ListTables::beginList() {
@@ -150,39 +180,20 @@ std::optional<ListLabel> ListTables::label(int overrideNumber, int level) const 
 
 ListLabel labelFromText(const QString& text, ListKind previous) {
     const QString label = text.trimmed();
-    ListLabel result;
     if (label.isEmpty())
-        return result;
-    qsizetype start = 0;
-    while (start < label.size() && !label[start].isLetterOrNumber())
-        ++start;
-    qsizetype end = start;
-    while (end < label.size() && label[end].isLetterOrNumber())
-        ++end;
-    const QString middle = label.mid(start, end - start);
-    result.prefix = label.first(start);
-    result.suffix = label.mid(end);
-    bool isNumber = false;
-    const int number = middle.toInt(&isNumber);
-    const bool wrapped = start > 0 || end < label.size();
-    const bool upper = !middle.isEmpty() && middle.front().isUpper();
-    if (isNumber && number >= 0 && number <= largestListStart) {
-        result.kind = ListKind::Decimal;
-        result.start = number;
-        return result;
-    }
-    const int roman = wrapped ? romanValue(middle) : 0;
-    const bool wasRoman = previous == ListKind::LowerRoman || previous == ListKind::UpperRoman;
-    if (roman > 0 && roman <= largestListStart && (middle.size() > 1 || roman == 1 || wasRoman)) {
-        result.kind = upper ? ListKind::UpperRoman : ListKind::LowerRoman;
-        result.start = roman;
-        return result;
-    }
-    const char16_t letter = middle.isEmpty() ? u' ' : middle.front().toLower().unicode();
-    if (wrapped && middle.size() == 1 && letter >= u'a' && letter <= u'z') {
-        result.kind = upper ? ListKind::UpperLetter : ListKind::LowerLetter;
-        result.start = letter - u'a' + 1;
-        return result;
+        return {};
+    const auto isSign = [](QChar c) { return !c.isLetterOrNumber(); };
+    // The number is nearly always the first word, but that of "Chapter 1" or "Step a)" is the last.
+    const auto first = std::find_if_not(label.begin(), label.end(), isSign);
+    const auto firstEnd = std::find_if(first, label.end(), isSign);
+    const auto lastEnd = std::find_if_not(label.rbegin(), label.rend(), isSign).base();
+    const auto last =
+        std::find_if(std::make_reverse_iterator(lastEnd), label.rend(), isSign).base();
+    for (const auto& [start, end] : {std::pair(first, firstEnd), std::pair(last, lastEnd)}) {
+        const ListLabel numbered =
+            labelOfWord(label, start - label.begin(), end - label.begin(), previous);
+        if (start < end && numbered.kind != ListKind::None)
+            return numbered;
     }
     return {ListKind::Bullet, 0, 0, 1, 0, {}, {}};
 }

@@ -310,6 +310,16 @@ void ReaderFormatTest::listsOfAllKindsAreKnown_data() {
         QStringLiteral("."));
     row("label of a roman number alone", "{\\pntext IV.\\tab}", ListKind::UpperRoman, 4, {},
         QStringLiteral("."));
+    row("label of a number behind a word", "{\\pntext Chapter 2:\\tab}", ListKind::Decimal, 2,
+        QStringLiteral("Chapter "), QStringLiteral(":"));
+    row("label of a letter behind words", "{\\listtext Step no. b)\\tab}", ListKind::LowerLetter, 2,
+        QStringLiteral("Step no. "), QStringLiteral(")"));
+    row("label of a roman number behind a word", "{\\listtext Part IV\\tab}", ListKind::UpperRoman,
+        4, QStringLiteral("Part "));
+    row("label of two numbers", "{\\listtext 2.1.\\tab}", ListKind::Decimal, 2, {},
+        QStringLiteral(".1."));
+    row("label of words", "{\\listtext Note well:\\tab}", ListKind::Bullet);
+    row("label of a letter that is a bullet", "{\\pntext o\\tab}", ListKind::Bullet);
     const QByteArray tables =
         "{\\*\\listtable{\\list{\\listlevel\\levelnfc0\\levelstartat5{\\leveltext\\'03(\\'00);}"
         "{\\levelnumbers\\'02;}}{\\listlevel\\levelnfc23{\\leveltext\\'01\\u-3913 ?;}}\\listid77}}"

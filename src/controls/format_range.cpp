@@ -4,6 +4,7 @@
 
 #include "controls/list_numbers.h"
 #include "controls/text_positions.h"
+#include "rtf/format_properties.h"
 #include "runtime/twips.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -105,6 +106,8 @@ void RangeFormatter::shrinkPictures(const QSizeF& page) {
             if (!fragment.charFormat().isImageFormat())
                 continue;
             QTextImageFormat format = fragment.charFormat().toImageFormat();
+            if (format.hasProperty(rtf::HiddenPictureSize))
+                continue;
             const QSizeF size = pictureSize(*m_copy, format);
             // Below the picture the line still has room for letters that reach under it.
             const qreal descent = QFontMetricsF(format.font()).descent() + 1;

@@ -102,6 +102,7 @@ private slots:
     void aDocumentOfExactlyOnePageHasNoSecond();
     void aPictureLargerThanThePageShrinks();
     void aPictureThatFitsKeepsItsSize();
+    void aHiddenPictureIsNotPrinted();
     void aLineTallerThanThePageStillAdvances();
     void aPageBreakBeginsAPage();
     void aRangeEndsWhereItIsTold();
@@ -226,6 +227,21 @@ void FormatRangeTest::aPictureLargerThanThePageShrinks() {
         const double shape = double(size.width()) / size.height();
         QVERIFY(std::abs(ink.width() - ink.height() * shape) <= 1.5 * qMax(1.0, shape));
     }
+}
+
+void FormatRangeTest::aHiddenPictureIsNotPrinted() {
+    QImage picture(900, 900, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QIODevice::WriteOnly);
+    picture.save(&buffer, "PNG");
+    RichTextBox box;
+    box.SetTextRTF("{\\rtf1{\\v{\\pict\\pngblip " + png.toHex() + "}}\\par}");
+    QCOMPARE(box.Text(), u" "_s);
+    const QList<Page> pages = pagesOf(box);
+    QCOMPARE(pages.size(), 1);
+    QVERIFY(!hasInk(pages.first().image, pages.first().image.rect()));
 }
 
 void FormatRangeTest::aPictureThatFitsKeepsItsSize() {

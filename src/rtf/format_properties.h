@@ -18,7 +18,8 @@ enum FormatProperty : int {
     PictureSourceSize,
     /// Of an image format: true where the image only stands for a picture that cannot be drawn.
     PictureIsBox,
-    /// Of an image format: the picture is hidden, and this the size in pixels at which it would show
+    /// Of an image format: the picture is hidden, and this the size in pixels at which it would
+    /// show
     /// (QSizeF). It takes no room.
     HiddenPictureSize,
     /// Of a character format: an Underline that Qt shows as a single line (int).

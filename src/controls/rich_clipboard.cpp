@@ -4,6 +4,7 @@
 
 #include "controls/control_marks.h"
 #include "controls/document_reading.h"
+#include "controls/dropped_files.h"
 #include "controls/html_import.h"
 #include "rtf/picture_format.h"
 #include "rtf/reader.h"
@@ -133,6 +134,8 @@ bool takeBest(const QMimeData& data, QTextCursor& selection, const QTextCharForm
         return true;
     // A browser offers a picture as a page that only points to it.
     if (offersPicture(data) && data.text().trimmed().isEmpty() && takePicture(data, selection))
+        return true;
+    if (takeFiles(data, selection, plain))
         return true;
     if (data.hasHtml() && insertHtml(selection, data.html(), plain))
         return true;

@@ -18,8 +18,8 @@ std::unique_ptr<QMimeData> clipboardData(const QTextCursor& selection, const QSt
 
 bool canTake(const QMimeData& data);
 
-/// Replaces the selection by the best of what is offered: RTF, a picture that comes alone, HTML,
-/// plain text (in the format given), a picture. \returns whether there was anything to take.
+/// Replaces the selection by the best of what is offered: RTF, a picture that comes alone, files,
+/// HTML, plain text (in the format given), a picture. \returns whether there was anything to take.
 bool takeClipboard(const QMimeData& data, QTextCursor& selection, const QTextCharFormat& plain);
 
 } // namespace orvalis

@@ -224,6 +224,9 @@ void RichTextBox::dropEvent(QDropEvent* event) {
     }
     const UndoKindScope kind(*m_undoKinds, UndoKind::DragDrop);
     changeScattered([&] { QTextEdit::dropEvent(event); });
+    // A file that was dropped stays where it is; whoever offered it is to leave it there.
+    if (event->isAccepted() && event->mimeData()->hasUrls())
+        event->setDropAction(Qt::CopyAction);
 }
 
 void RichTextBox::mousePressEvent(QMouseEvent* event) {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
-#include "controls/rich_text_box.h"
+#include "selecting.h"
+#include "support/temporary_folder.h"
 #include "support/test_main.h"
 
 #include <QApplication>
@@ -9,8 +10,10 @@
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QTextBlock>
+#include <QUrl>
 
 using namespace orvalis;
+using namespace orvalis::test;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -77,6 +80,9 @@ private slots:
     void aPicturesOwnBytesAreKept();
     void aPictureThatComesWithAPageAroundItIsAPicture();
     void pastingAPictureReplacesTheSelection();
+    void filesBringPicturesAndPaths();
+    void addressesOfOtherComputersAreText();
+    void aFileThatIsDroppedIsNotMoved();
     void richTextThatShowsNothingLeavesThePlaceToThePicture();
     void aPictureAloneIsOfferedAsAPicture();
     void whateverIsPastedIsOneStepOfUndo();
@@ -418,6 +424,54 @@ void RichTextBoxClipboardTest::pastingAPictureReplacesTheSelection() {
     box.Paste();
     QCOMPARE(box.Text(), u"a   b"_s);
     QCOMPARE(box.SelStart(), 3);
+}
+
+void RichTextBoxClipboardTest::filesBringPicturesAndPaths() {
+    const TemporaryFolder folder;
+    const QUrl red = QUrl::fromLocalFile(folder.write(u"a red one.png"_s, pngOf(Qt::red)));
+    const QUrl words = QUrl::fromLocalFile(folder.write(u"words.txt"_s, "plain words"));
+    const QUrl gone = QUrl::fromLocalFile(folder.file(u"gone.png"_s));
+    const QUrl zero = QUrl::fromLocalFile(u"/dev/zero"_s);
+    auto* data = new QMimeData;
+    data->setUrls({red, words, red, gone, zero});
+    QApplication::clipboard()->setMimeData(data);
+    RichTextBox box;
+    box.SetText(u"a word b"_s);
+    select(box, 2, 4);
+    box.Paste();
+    QCOMPARE(box.Text(), u"a  \r\n"_s + words.toLocalFile() + u"\r\n \r\n"_s + gone.toLocalFile() +
+                             u"\r\n/dev/zero b"_s);
+    QCOMPARE(pictureCount(box), 2);
+    QVERIFY(box.TextRTF().replace("\r\n", "").contains(pngOf(Qt::red).toHex()));
+    box.Undo();
+    QCOMPARE(box.Text(), u"a word b"_s);
+    QVERIFY(!box.CanUndo());
+}
+
+void RichTextBoxClipboardTest::addressesOfOtherComputersAreText() {
+    auto* data = new QMimeData;
+    data->setUrls({QUrl(u"https://example.org/cat.png"_s)});
+    QCOMPARE(pasted(data), u"https://example.org/cat.png"_s);
+    data = new QMimeData;
+    data->setUrls({QUrl(u"file://elsewhere.example/share/cat.png"_s)});
+    data->setText(u"a cat"_s);
+    QCOMPARE(pasted(data), u"a cat"_s);
+}
+
+void RichTextBoxClipboardTest::aFileThatIsDroppedIsNotMoved() {
+    const TemporaryFolder folder;
+    QMimeData dragged;
+    dragged.setUrls({QUrl::fromLocalFile(folder.write(u"a.png"_s, pngOf(Qt::red)))});
+    RichTextBox box;
+    const Qt::DropActions either = Qt::CopyAction | Qt::MoveAction;
+    QDragEnterEvent enter({5, 5}, either, &dragged, Qt::LeftButton, Qt::ShiftModifier);
+    QDropEvent drop({5, 5}, either, &dragged, Qt::LeftButton, Qt::ShiftModifier);
+    QCOMPARE(drop.proposedAction(), Qt::MoveAction);
+    QApplication::sendEvent(box.viewport(), &enter);
+    QApplication::sendEvent(box.viewport(), &drop);
+    QCOMPARE(pictureCount(box), 1);
+    QVERIFY(drop.isAccepted());
+    QCOMPARE(drop.dropAction(), Qt::CopyAction);
 }
 
 void RichTextBoxClipboardTest::keysOfTheClipboardWork() {

@@ -6,6 +6,7 @@
 #include "controls/document_reading.h"
 #include "controls/dropped_files.h"
 #include "controls/html_import.h"
+#include "rtf/format_properties.h"
 #include "rtf/picture_format.h"
 #include "rtf/reader.h"
 #include "rtf/writer.h"
@@ -68,20 +69,46 @@ bool offersPicture(const QMimeData& data) {
                        [&](const QString& name) { return data.hasFormat(name); });
 }
 
+bool takePicture(const QMimeData& data, QTextCursor& selection) {
+    const QByteArray bytes = pictureOf(data);
+    return !bytes.isEmpty() && rtf::insertPicture(selection, bytes);
+}
+
+/// Whether a part of a document holds nothing to see but boxes that stand for pictures.
+bool holdsOnlyBoxes(const QTextDocument& document, int from, int to) {
+    bool any = false;
+    QTextBlock block = document.findBlock(from);
+    for (; block.isValid() && block.position() < to; block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextFragment run = it.fragment();
+            if (run.position() >= to || run.position() + run.length() <= from)
+                continue;
+            const bool box = run.charFormat().boolProperty(rtf::PictureIsBox);
+            any |= box;
+            if (!box && !run.text().trimmed().isEmpty())
+                return false;
+        }
+    }
+    return any;
+}
+
 /// RTF that holds nothing we can show leaves the place to what comes beside it: some programs put
-/// an object into it and its picture next to it.
+/// an object into it, or a picture of their own kind, and a common picture next to it.
 bool takeRtf(const QMimeData& data, QTextCursor& selection) {
     const QByteArray rtf = rtfOf(data);
     if (rtf.isEmpty())
         return false;
     const int from = selection.selectionStart();
     rtf::insertRtf(rtf, selection, readOptions());
-    return selection.position() > from;
-}
-
-bool takePicture(const QMimeData& data, QTextCursor& selection) {
-    const QByteArray bytes = pictureOf(data);
-    return !bytes.isEmpty() && rtf::insertPicture(selection, bytes);
+    const int to = selection.position();
+    if (offersPicture(data) && holdsOnlyBoxes(*selection.document(), from, to)) {
+        QTextCursor boxes(selection);
+        boxes.setPosition(from);
+        boxes.setPosition(to, QTextCursor::KeepAnchor);
+        if (takePicture(data, boxes))
+            selection = boxes;
+    }
+    return to > from;
 }
 
 /// HTML in which each picture carries its bytes along: the name it has here means nothing

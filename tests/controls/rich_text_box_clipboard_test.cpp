@@ -84,6 +84,8 @@ private slots:
     void addressesOfOtherComputersAreText();
     void aFileThatIsDroppedIsNotMoved();
     void richTextThatShowsNothingLeavesThePlaceToThePicture();
+    void richTextOfNothingButBoxesLeavesThePlaceToThePicture_data();
+    void richTextOfNothingButBoxesLeavesThePlaceToThePicture();
     void aPictureAloneIsOfferedAsAPicture();
     void whateverIsPastedIsOneStepOfUndo();
     void keysOfTheClipboardWork();
@@ -502,6 +504,44 @@ void RichTextBoxClipboardTest::richTextThatShowsNothingLeavesThePlaceToThePictur
     box.Undo();
     QCOMPARE(box.Text(), u"a word b"_s);
     QVERIFY(!box.CanUndo());
+}
+
+void RichTextBoxClipboardTest::richTextOfNothingButBoxesLeavesThePlaceToThePicture_data() {
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<QByteArray>("beside");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("box");
+    const QByteArray pict = "{\\pict\\macpict 0011}";
+    const QByteArray png = pngOf(Qt::red);
+    QTest::newRow("a picture") << pict + "\\par" << png << u"a   b"_s << false;
+    QTest::newRow("text beside it") << pict + "x" << png << u"a  x b"_s << true;
+    QTest::newRow("text before it") << "x" + pict << png << u"a x  b"_s << true;
+    QTest::newRow("no picture next to it") << pict << QByteArray() << u"a   b"_s << true;
+    QTest::newRow("a broken picture next to it") << pict << png.first(20) << u"a   b"_s << true;
+}
+
+void RichTextBoxClipboardTest::richTextOfNothingButBoxesLeavesThePlaceToThePicture() {
+    QFETCH(QByteArray, body);
+    QFETCH(QByteArray, beside);
+    QFETCH(QString, text);
+    QFETCH(bool, box);
+    auto* data = new QMimeData;
+    data->setData(u"text/rtf"_s, "{\\rtf1 " + body + "}");
+    if (!beside.isEmpty())
+        data->setData(u"image/png"_s, beside);
+    QApplication::clipboard()->setMimeData(data);
+    RichTextBox target;
+    target.SetText(u"a word b"_s);
+    target.SetSelStart(2);
+    target.SetSelLength(4);
+    target.Paste();
+    QCOMPARE(target.Text(), text);
+    QCOMPARE(pictureCount(target), 1);
+    QCOMPARE(target.TextRTF().contains("\\macpict"), box);
+    QCOMPARE(target.TextRTF().contains("\\pngblip"), !box);
+    target.Undo();
+    QCOMPARE(target.Text(), u"a word b"_s);
+    QVERIFY(!target.CanUndo());
 }
 
 void RichTextBoxClipboardTest::aPictureAloneIsOfferedAsAPicture() {

@@ -73,6 +73,15 @@ inline std::vector<RtfFlood> rtfFloods() {
                                "{\\*\\listoverridetable\\listid%\\ls%}\\ls% x\\par"),
         floodOf("lists of one table", "{\\list{\\listlevel}\\listid1}",
                 "{\\rtf1 text{\\*\\listtable"),
+        floodOf(
+            "overrides with starts of their own",
+            "{\\*\\listoverridetable{\\listoverride\\listid%{\\lfolevel\\levelstartat%}\\ls%}}"),
+        floodOf("overrides with labels of their own",
+                "{\\*\\listoverridetable{\\listoverride{\\lfolevel{\\listlevel{\\leveltext\\'02\\'"
+                "00)}}}\\ls%}}"),
+        floodOf("shapes within shapes", "{\\shp{\\*\\shpinst{\\sp{\\sn pib}"),
+        floodOf("labels of words", "\\pard{\\pntext Chapter %.}x\\par"),
+        floodOf("hidden pictures", "{\\v{\\pict\\pngblip %00}}"),
         floodOf("pictures of one pixel", "{\\pict\\wbitmap0\\picw1\\pich1 %000000}"),
         floodOf("pictures that claim",
                 "{\\pict\\pngblip\\picwgoal99999\\pichgoal99999 89504e470d0a1a0a"

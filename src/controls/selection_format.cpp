@@ -109,7 +109,8 @@ QTextCharFormat formatAtStart(const QTextCursor& selection) {
           int(QTextFormat::ImageWidth), int(QTextFormat::ImageHeight), int(QTextFormat::ImageTitle),
           int(QTextFormat::ImageAltText), int(QTextFormat::IsAnchor), int(QTextFormat::AnchorHref),
           int(QTextFormat::AnchorName), int(rtf::PictureSource), int(rtf::PictureSourceKind),
-          int(rtf::PictureSourceSize), int(rtf::PictureIsBox), int(rtf::HiddenPictureSize)})
+          int(rtf::PictureSourceSize), int(rtf::PictureIsBox), int(rtf::PictureFallback),
+          int(rtf::HiddenPictureSize)})
         format.clearProperty(property);
     return format;
 }

@@ -3,7 +3,7 @@
 #include "rtf/document_sink.h"
 
 #include "rtf/block_formats.h"
-#include "rtf/picture_format.h"
+#include "rtf/format_properties.h"
 #include "rtf/text_formats.h"
 
 #include <QTextBlock>
@@ -95,10 +95,14 @@ void DocumentSink::text(QStringView text, const CharFormat& format) {
     m_runs.push_back(Run{text.size(), index});
 }
 
+PictureBounds DocumentSink::pictureBounds() const {
+    return {std::min(mostPixelsOfOne, m_pixelBytesLeft / bytesOfPixel)};
+}
+
 bool DocumentSink::picture(const Picture& picture, const CharFormat& format) {
     if (!spend(bytesOfPicture))
         return false;
-    PictureBounds bounds{std::min(mostPixelsOfOne, m_pixelBytesLeft / bytesOfPixel)};
+    PictureBounds bounds = pictureBounds();
     const QTextImageFormat image =
         pictureFormat(*m_cursor.document(), picture, m_options.metafiles, bounds);
     if (!image.isValid() || image.name().isEmpty())
@@ -111,6 +115,20 @@ bool DocumentSink::picture(const Picture& picture, const CharFormat& format) {
     m_runs.push_back(Run{1, index, int(m_images.size()) - 1});
     m_text.append(QChar::ObjectReplacementCharacter);
     return true;
+}
+
+bool DocumentSink::wantsFallback() const {
+    if (m_runs.empty() || m_runs.back().image == noName)
+        return false;
+    const QTextImageFormat& last = m_images.back();
+    return last.boolProperty(PictureIsBox) && !last.hasProperty(HiddenPictureSize) &&
+           !last.hasProperty(PictureFallback);
+}
+
+void DocumentSink::fallbackPicture(const Picture& picture) {
+    PictureBounds bounds = pictureBounds();
+    showFallback(*m_cursor.document(), picture, m_options.metafiles, bounds, m_images.back());
+    m_pixelBytesLeft -= bounds.spentPixels * bytesOfPixel;
 }
 
 void DocumentSink::paragraphEnd(const ParagraphFormat& paragraph, const CharFormat& mark) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "rtf/list_keeper.h"
+#include "rtf/picture_format.h"
 #include "rtf/reader.h"
 #include "rtf/sink.h"
 
@@ -27,6 +28,8 @@ public:
     void begin(const Names& names) override;
     void text(QStringView text, const CharFormat& format) override;
     bool picture(const Picture& picture, const CharFormat& format) override;
+    bool wantsFallback() const override;
+    void fallbackPicture(const Picture& picture) override;
     void paragraphEnd(const ParagraphFormat& paragraph, const CharFormat& mark) override;
     void end(const ParagraphFormat& paragraph, const CharFormat& mark) override;
     void defaultTab(int twips) override { m_defaultTab = twips; }
@@ -43,6 +46,7 @@ private:
     };
 
     int formatIndex(const CharFormat& format);
+    PictureBounds pictureBounds() const;
     void insertParagraph(const ParagraphFormat& paragraph, const CharFormat& mark);
     void shapeFirst();
     void insertRuns();

@@ -18,6 +18,10 @@ enum FormatProperty : int {
     PictureSourceSize,
     /// Of an image format: true where the image only stands for a picture that cannot be drawn.
     PictureIsBox,
+    /// Of an image format: the metafile that the file has for readers which cannot draw the
+    /// picture,
+    /// as this one cannot (QByteArray).
+    PictureFallback,
     /// Of an image format: the picture is hidden, and this the size in pixels at which it would
     /// show
     /// (QSizeF). It takes no room.

@@ -59,6 +59,7 @@ private:
         Destination destination = Destination::Body;
         bool ownsDestination = false;
         bool deleted = false;
+        bool fallback = false; ///< pictures are other forms of the one that came last
         bool hasContent =
             false; ///< text or groups, so that it cannot become a destination any more
     };

@@ -67,8 +67,12 @@ bool Interpreter::destinationWord(const Token& token) {
         return true;
     case Action::NoShapePicture:
         // The same picture once more, for readers that do not know the first form.
-        if (std::exchange(m_shapePictureShown, false))
-            skipGroup();
+        if (std::exchange(m_shapePictureShown, false)) {
+            if (m_sink.wantsFallback())
+                m_state.fallback = true;
+            else
+                skipGroup();
+        }
         return true;
     case Action::FieldInstruction:
         openInBody(Destination::FieldInstruction);

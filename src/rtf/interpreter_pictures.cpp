@@ -66,6 +66,11 @@ void Interpreter::pictureBytes(QByteArrayView run) {
 void Interpreter::deliverPicture() {
     if (m_picture.bytes.isEmpty() || m_state.deleted)
         return;
+    if (m_state.fallback) {
+        if (m_sink.wantsFallback())
+            m_sink.fallbackPicture(std::exchange(m_picture, {}));
+        return;
+    }
     m_shapePictureShown = true;
     cellTabs(m_cellTabs);
     flushText();

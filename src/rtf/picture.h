@@ -47,6 +47,8 @@ struct Picture {
     DeviceBitmap bitmap;
     bool hidden = false; ///< of one that a document holds: it does not show
     QByteArray bytes;
+    QByteArray
+        fallback; ///< of one that a document holds: a metafile for readers that cannot draw it
 };
 
 /// A size of which no side is longer than what a document can hold, in the shape it had.

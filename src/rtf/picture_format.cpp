@@ -102,6 +102,34 @@ bool isWritable(PictureKind kind) {
     return isMetafile(kind) || kind == PictureKind::Png || kind == PictureKind::Jpeg;
 }
 
+// The picture as the format keeps it, without the size at which it shows.
+Picture sourceOf(const QTextImageFormat& format) {
+    Picture picture;
+    picture.bytes = format.property(PictureSource).toByteArray();
+    picture.kind = static_cast<PictureKind>(format.intProperty(PictureSourceKind));
+    const QVariantList size = format.property(PictureSourceSize).toList();
+    if (size.size() == SourceSizeCount) {
+        picture.width = size[Width].toInt();
+        picture.height = size[Height].toInt();
+        picture.mapMode = size[MapMode].toInt();
+        picture.bitmap = {size[BitsPerPixel].toInt(), size[Planes].toInt(),
+                          size[BytesPerRow].toInt()};
+    }
+    picture.fallback = format.property(PictureFallback).toByteArray();
+    picture.hidden = format.hasProperty(HiddenPictureSize);
+    return picture;
+}
+
+QSizeF shownSize(const QTextImageFormat& format) {
+    return format.hasProperty(HiddenPictureSize) ? format.property(HiddenPictureSize).toSizeF()
+                                                 : QSizeF(format.width(), format.height());
+}
+
+// Whether a box has the size that it has where nobody names one.
+bool isDefaultSize(const QTextImageFormat& format, const Picture& picture) {
+    return shownSize(format) == boxTwips(picture) / twipsPerPixel;
+}
+
 } // namespace
 
 QTextImageFormat pictureFormat(QTextDocument& document, const Picture& picture,
@@ -124,6 +152,23 @@ QTextImageFormat pictureFormat(QTextDocument& document, const Picture& picture,
     return format;
 }
 
+void showFallback(QTextDocument& document, const Picture& fallback, MetafileConverter* converter,
+                  PictureBounds& bounds, QTextImageFormat& box) {
+    if (kindOfBytes(fallback.bytes) != PictureKind::Wmf)
+        return;
+    box.setProperty(PictureFallback, fallback.bytes);
+    const QTextImageFormat drawn = pictureFormat(document, fallback, converter, bounds);
+    if (drawn.boolProperty(PictureIsBox))
+        return;
+    const Picture own = sourceOf(box);
+    if (wantedTwips(own).isEmpty() && isDefaultSize(box, own)) {
+        box.setWidth(drawn.width());
+        box.setHeight(drawn.height());
+    }
+    box.setName(drawn.name());
+    box.clearProperty(PictureIsBox);
+}
+
 QTextImageFormat hiddenPicture(QTextImageFormat format) {
     format.setProperty(HiddenPictureSize, QSizeF(format.width(), format.height()));
     format.setWidth(0);
@@ -132,25 +177,16 @@ QTextImageFormat hiddenPicture(QTextImageFormat format) {
 }
 
 Picture pictureOfFormat(const QTextDocument& document, const QTextImageFormat& format) {
-    Picture picture;
     const QVariant resource = document.resource(QTextDocument::ImageResource, QUrl(format.name()));
-    picture.bytes = format.property(PictureSource).toByteArray();
-    picture.kind = static_cast<PictureKind>(format.intProperty(PictureSourceKind));
-    const QVariantList size = format.property(PictureSourceSize).toList();
-    if (size.size() == SourceSizeCount) {
-        picture.width = size[Width].toInt();
-        picture.height = size[Height].toInt();
-        picture.mapMode = size[MapMode].toInt();
-        picture.bitmap = {size[BitsPerPixel].toInt(), size[Planes].toInt(),
-                          size[BytesPerRow].toInt()};
-    }
+    Picture picture = sourceOf(format);
     if (picture.bytes.isEmpty() && resource.typeId() == QMetaType::QByteArray) {
         picture.bytes = resource.toByteArray();
         picture.kind = kindOfBytes(picture.bytes);
     }
     QImage image = imageOfResource(resource);
     const bool isBox = format.boolProperty(PictureIsBox) && !picture.bytes.isEmpty();
-    if (!isBox && (!isWritable(picture.kind) || picture.bytes.isEmpty())) {
+    if (!isBox && picture.fallback.isEmpty() &&
+        (!isWritable(picture.kind) || picture.bytes.isEmpty())) {
         if (image.isNull() && !picture.bytes.isEmpty())
             image = imageOfPicture(picture, PictureBounds().mostPixels, nullptr);
         if (!image.isNull()) {
@@ -164,12 +200,10 @@ Picture pictureOfFormat(const QTextDocument& document, const QTextImageFormat& f
             picture.height = image.height();
         }
     }
-    picture.hidden = format.hasProperty(HiddenPictureSize);
-    const QSizeF shown = picture.hidden ? format.property(HiddenPictureSize).toSizeF()
-                                        : QSizeF(format.width(), format.height());
     const bool unnamed = !isMetafile(picture.kind) && wantedTwips(picture).isEmpty();
-    if (isBox && unnamed && shown == boxTwips(picture) / twipsPerPixel)
+    if (isBox && unnamed && isDefaultSize(format, picture))
         return picture;
+    const QSizeF shown = shownSize(format);
     const QSize own = picture.bytes.isEmpty() ? QSize() : pixelSize(picture);
     picture.goalWidth = goalTwips(shown.width(), own.width());
     picture.goalHeight = goalTwips(shown.height(), own.height());

@@ -25,6 +25,13 @@ struct PictureBounds {
 QTextImageFormat pictureFormat(QTextDocument& document, const Picture& picture,
                                MetafileConverter* converter, PictureBounds& bounds);
 
+/// Draws a metafile in the place of a picture that cannot be drawn. The format keeps the bytes of
+/// both.
+/// \param box the format of the picture, which stays a box where the metafile cannot be drawn
+/// either.
+void showFallback(QTextDocument& document, const Picture& fallback, MetafileConverter* converter,
+                  PictureBounds& bounds, QTextImageFormat& box);
+
 /// The format of a picture as it is when the picture is hidden.
 QTextImageFormat hiddenPicture(QTextImageFormat format);
 

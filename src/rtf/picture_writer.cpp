@@ -79,38 +79,54 @@ QSize metafileSize(const Picture& picture) {
     return {picture.goalWidth * 254 / 144, picture.goalHeight * 254 / 144};
 }
 
-} // namespace
+// The same picture twice: in a form of today, and in one that every reader knows.
+QByteArray withFallback(const QByteArray& group, const QByteArray& fallback) {
+    return "{\\*\\shppict" + group + "}{\\nonshppict" + fallback + '}';
+}
 
-QByteArray pictureGroups(const Picture& picture) {
+QByteArray ownGroup(const Picture& picture) {
     QByteArray rtf;
     switch (picture.kind) {
     case PictureKind::Wmf:
     case PictureKind::Emf:
         appendGroup(rtf, kindWords(picture), metafileSize(picture), picture, picture.bytes);
-        return rtf;
+        break;
     case PictureKind::Png:
     case PictureKind::Jpeg:
-        break;
+        // What names no size must not get one by its pixels, which may be nothing but a claim.
+        if (picture.goalWidth > 0) {
+            appendGroup(rtf, kindWords(picture), pixelSize(picture), picture, picture.bytes);
+            break;
+        }
+        [[fallthrough]];
     default:
         appendGroup(rtf, kindWords(picture), {picture.width, picture.height}, picture,
                     picture.bytes);
-        return rtf;
     }
-    // What names no size must not get one by its pixels, which may be nothing but a claim.
-    const QSize size =
-        picture.goalWidth > 0 ? pixelSize(picture) : QSize(picture.width, picture.height);
+    return rtf;
+}
+
+QByteArray metafileGroup(const Picture& picture, const QByteArray& metafile) {
+    QByteArray rtf;
+    appendGroup(rtf, "\\wmetafile8", metafileSize(picture), picture, metafile);
+    return rtf;
+}
+
+} // namespace
+
+QByteArray pictureGroups(const Picture& picture) {
+    const QByteArray own = ownGroup(picture);
+    if (!picture.fallback.isEmpty())
+        return withFallback(own, metafileGroup(picture, picture.fallback));
+    if (picture.kind != PictureKind::Png && picture.kind != PictureKind::Jpeg)
+        return own;
+    const QSize size = pixelSize(picture);
     const bool twin = !size.isEmpty() && qint64(size.width()) * size.height() <= mostTwinPixels;
     const QImage image = twin ? imageOfPicture(picture, mostTwinPixels, nullptr) : QImage();
-    rtf.append("{\\*\\shppict");
-    appendGroup(rtf, kindWords(picture), size, picture, picture.bytes);
-    rtf.append('}');
     if (image.isNull())
-        return rtf;
-    rtf.append("{\\nonshppict");
-    appendGroup(rtf, "\\wmetafile8", metafileSize(picture), picture,
-                metafileOfDib(dibOfImage(image), image.size()));
-    rtf.append('}');
-    return rtf;
+        return "{\\*\\shppict" + own + '}';
+    return withFallback(own,
+                        metafileGroup(picture, metafileOfDib(dibOfImage(image), image.size())));
 }
 
 } // namespace orvalis::rtf

@@ -22,6 +22,10 @@ public:
     virtual void text(QStringView text, const CharFormat& format) = 0;
     /// \returns whether the picture could be used; one that could not is a fault of the file.
     virtual bool picture(const Picture& picture, const CharFormat& format) = 0;
+    /// Whether the picture that came last could not be shown, so that another form of it may be.
+    virtual bool wantsFallback() const { return false; }
+    /// Another form of the picture that came last. Comes only where it is wanted.
+    virtual void fallbackPicture(const Picture& /*picture*/) {}
     virtual void paragraphEnd(const ParagraphFormat& paragraph, const CharFormat& mark) = 0;
     /// Comes once, last: the shape of what came behind the last paragraph end.
     virtual void end(const ParagraphFormat& paragraph, const CharFormat& mark) = 0;

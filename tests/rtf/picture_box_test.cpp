@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
+#include "rtf/device_bitmap.h"
 #include "rtf/format_properties.h"
 #include "rtf/picture_box.h"
 #include "rtf/picture_format.h"
@@ -52,6 +53,10 @@ private slots:
     void theSameBytesAreTriedOnce();
     void aBoxIsFramedAndCrossed_data();
     void aBoxIsFramedAndCrossed();
+    void anotherFormOfThePictureIsShownInItsPlace_data();
+    void anotherFormOfThePictureIsShownInItsPlace();
+    void aDrawingThatCannotBeDrawnEitherIsKept_data();
+    void aDrawingThatCannotBeDrawnEitherIsKept();
     void aWholeBitmapFileBehindTheWordForABareOneIsShown();
     void whatIsNoPictureIsNotInserted();
 };
@@ -177,6 +182,83 @@ void PictureBoxTest::aBoxIsFramedAndCrossed() {
     QCOMPARE(emptyBox(size, 0).isNull(), false);
     QVERIFY(emptyBox(size, 0).sizeInBytes() < 64);
     QVERIFY(!emptyBox(QSizeF(0.01, 300), 1 << 20).isNull());
+}
+
+void PictureBoxTest::anotherFormOfThePictureIsShownInItsPlace_data() {
+    QTest::addColumn<QByteArray>("words");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QSizeF>("pixels");
+    QTest::newRow("drawing with a goal")
+        << QByteArray("\\emfblip\\picwgoal600\\pichgoal300")
+        << test::vectorEnhancedMetafile({0, 0, 2540, 2540}) << QSizeF(40, 20);
+    QTest::newRow("drawing with a frame")
+        << QByteArray("\\emfblip") << test::vectorEnhancedMetafile({0, 0, 2540, 1270})
+        << QSizeF(96, 48);
+    QTest::newRow("drawing without a frame")
+        << QByteArray("\\emfblip") << test::vectorEnhancedMetafile({0, 0, 0, 0}) << QSizeF(4, 3);
+    QTest::newRow("broken PNG without a size")
+        << QByteArray("\\pngblip") << QByteArray("no PNG") << QSizeF(4, 3);
+    QTest::newRow("picture of a Macintosh")
+        << QByteArray("\\macpict\\picw40\\pich30") << QByteArray("QuickDraw") << QSizeF(40, 30);
+}
+
+void PictureBoxTest::anotherFormOfThePictureIsShownInItsPlace() {
+    QFETCH(QByteArray, words);
+    QFETCH(QByteArray, bytes);
+    QFETCH(QSizeF, pixels);
+    const QByteArray metafile = metafileOfDib(dibOfImage(test::sampleImage()), {4, 3});
+    QTextDocument document;
+    QVERIFY(readRtf("{\\rtf1 a{\\*\\shppict{\\pict" + words + "\r\n" + bytes.toHex() +
+                        "}}\r\n{\\nonshppict{\\pict\\wmetafile8 " + metafile.toHex() + "}}b\\par}",
+                    document)
+                .ok());
+    QCOMPARE(document.toRawText(), QStringLiteral("a\ufffcb"));
+    QCOMPARE(shown(document).convertToFormat(QImage::Format_RGB32), test::sampleImage());
+    const QTextImageFormat format = pictureOf(document);
+    QVERIFY(std::abs(format.width() - pixels.width()) < 0.01);
+    QVERIFY(std::abs(format.height() - pixels.height()) < 0.01);
+    QVERIFY(!format.boolProperty(PictureIsBox));
+    const QByteArray once = writeRtf(document);
+    const QByteArray flat = withoutLineEnds(once);
+    QVERIFY(flat.contains("{\\*\\shppict{\\pict" + words.left(words.indexOf("\\pic"))));
+    QVERIFY(flat.contains(bytes.toHex() + "}}{\\nonshppict{\\pict\\wmetafile8"));
+    QVERIFY(flat.contains(metafile.toHex() + "}}"));
+    QTextDocument again;
+    QVERIFY(readRtf(once, again).ok());
+    QCOMPARE(shown(again).convertToFormat(QImage::Format_RGB32), test::sampleImage());
+    QCOMPARE(writeRtf(again), once);
+}
+
+void PictureBoxTest::aDrawingThatCannotBeDrawnEitherIsKept_data() {
+    QTest::addColumn<QByteArray>("other");
+    QTest::addColumn<bool>("kept");
+    const QByteArray drawing = "{\\pict\\wmetafile8 " + test::vectorMetafile().toHex() + "}";
+    QTest::newRow("drawing") << drawing << true;
+    QTest::newRow("drawing, twice") << drawing + drawing << true;
+    QTest::newRow("another kind") << QByteArray("{\\pict\\macpict 00}") << false;
+    QTest::newRow("nothing") << QByteArray("{\\pict\\wmetafile8}") << false;
+}
+
+void PictureBoxTest::aDrawingThatCannotBeDrawnEitherIsKept() {
+    QFETCH(QByteArray, other);
+    QFETCH(bool, kept);
+    QTextDocument document;
+    QVERIFY(readRtf("{\\rtf1{\\*\\shppict{\\pict\\emfblip\\picwgoal600\\pichgoal300 00}}"
+                    "{\\nonshppict" +
+                        other + "}{\\nonshppict{\\pict\\wmetafile8 0100}}\\par}",
+                    document)
+                .ok());
+    QVERIFY(document.toRawText().startsWith(QStringLiteral("\ufffc")));
+    QVERIFY(pictureOf(document).boolProperty(PictureIsBox));
+    QCOMPARE(pictureOf(document).width(), 40.0);
+    const QByteArray once = writeRtf(document);
+    QCOMPARE(withoutLineEnds(once).contains(
+                 "{\\nonshppict{\\pict\\wmetafile8\\picw1058\\pich529\\picwgoal600\\pichgoal300" +
+                 test::vectorMetafile().toHex() + "}}"),
+             kept);
+    QTextDocument again;
+    QVERIFY(readRtf(once, again).ok());
+    QCOMPARE(writeRtf(again), once);
 }
 
 void PictureBoxTest::aWholeBitmapFileBehindTheWordForABareOneIsShown() {

@@ -81,6 +81,9 @@ inline std::vector<RtfFlood> rtfFloods() {
                 "00)}}}\\ls%}}"),
         floodOf("shapes within shapes", "{\\shp{\\*\\shpinst{\\sp{\\sn pib}"),
         floodOf("labels of words", "\\pard{\\pntext Chapter %.}x\\par"),
+        floodOf("pictures in two forms that nothing can draw",
+                "{\\*\\shppict{\\pict\\emfblip\\picwgoal99999\\pichgoal99999 %00}}"
+                "{\\nonshppict{\\pict\\wmetafile8\\picwgoal99999\\pichgoal99999 01000900%00}}"),
         floodOf("hidden pictures", "{\\v{\\pict\\pngblip %00}}"),
         floodOf("pictures of one pixel", "{\\pict\\wbitmap0\\picw1\\pich1 %000000}"),
         floodOf("pictures that claim",

@@ -8,6 +8,7 @@
 #include "controls/month_view.h"
 #include "controls/ms_flex_grid.h"
 #include "controls/rich_text_box.h"
+#include "controls/title_line.h"
 #include "core/button_look.h"
 #include "core/skin_picture.h"
 #include "skin/type.h"
@@ -150,6 +151,7 @@ void ReminderControls::makeCommands(QWidget& panel) {
     txt1 = line(panel, u"txt1"_s, {26, 251, 296, 23});
     txt1->setText(u"Title"_s);
     txt1->setAccessibleName(u"Title"_s);
+    showBeginningWhenLeft(*txt1);
 }
 
 void ReminderControls::makeMessageFrame(QWidget& panel) {

@@ -6,6 +6,7 @@
 #include "controls/mouse_numbers.h"
 #include "controls/rich_text_box.h"
 #include "controls/selection_font.h"
+#include "controls/title_line.h"
 #include "controls/window_drag.h"
 #include "core/button_look.h"
 #include "core/clock_label.h"
@@ -114,10 +115,7 @@ void StickerForm::makeTitle() {
     m_txtLabel1->setAccessibleName(u"Title"_s);
     setInk(*m_txtLabel1, QPalette::Text, skin::colour::StickerInk);
     connect(m_txtLabel1, &QLineEdit::textChanged, this, &StickerForm::setWindowTitle);
-    // A title that does not fit is read from its beginning. The line edit is held itself: it tells
-    // of a lost focus when the window that had it is gone but for the toolkit's part.
-    connect(m_txtLabel1, &QLineEdit::editingFinished, m_txtLabel1,
-            [title = m_txtLabel1] { title->setCursorPosition(0); });
+    showBeginningWhenLeft(*m_txtLabel1);
 }
 
 void StickerForm::makeText() {

@@ -43,6 +43,7 @@ private slots:
     void newAsksForAChangedMessage_data();
     void newAsksForAChangedMessage();
     void newStartsOver();
+    void aTitleThatDoesNotFitIsReadFromItsBeginning();
     void newSetsSizeEightWhateverTheSettingHolds();
     void exitAsksForAChangedMessage_data();
     void exitAsksForAChangedMessage();
@@ -351,6 +352,20 @@ void ReminderEntryTest::newAsksForAChangedMessage() {
     ground.press(u"imgNew"_s);
     QCOMPARE(ground.rt1a().Text().contains(u"message"_s), save);
     QCOMPARE(ground.rt1().Text(), QString());
+}
+
+void ReminderEntryTest::aTitleThatDoesNotFitIsReadFromItsBeginning() {
+    PanelGround ground;
+    ground.shown();
+    QApplication::setActiveWindow(&ground.panel());
+    auto& title = ground.control<QLineEdit>(u"txt1"_s);
+    title.setFocus();
+    title.selectAll();
+    QTest::keyClicks(&title, QString(100, u'w'));
+    QTest::keyClick(&title, Qt::Key_Return);
+    QCOMPARE(title.cursorPosition(), 100);
+    ground.rt1().setFocus();
+    QCOMPARE(title.cursorPosition(), 0);
 }
 
 void ReminderEntryTest::newStartsOver() {

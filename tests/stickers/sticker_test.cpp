@@ -163,7 +163,10 @@ void StickerTest::aTitleThatDoesNotFitIsReadFromItsBeginning() {
     title.setFocus();
     title.selectAll();
     QTest::keyClicks(&title, u"Milk, bread, butter, eggs and whatever else is due"_s);
-    QVERIFY(title.cursorPosition() > 0);
+    const int end = title.cursorPosition();
+    QVERIFY(end > 0);
+    QTest::keyClick(&title, Qt::Key_Return);
+    QCOMPARE(title.cursorPosition(), end);
     sticker.Text1().setFocus();
     QCOMPARE(title.cursorPosition(), 0);
 }

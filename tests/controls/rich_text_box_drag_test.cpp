@@ -9,6 +9,7 @@
 #include <QSignalSpy>
 #include <QTextBlock>
 #include <QTextList>
+#include <QThread>
 #include <QTimer>
 #include <QWindow>
 
@@ -70,18 +71,23 @@ void RichTextBoxDragTest::drag(int start, int length, int to, Qt::KeyboardModifi
     select(*m_box, start, length);
     QWindow* const window = m_box->windowHandle();
     // The drag has an event loop of its own, in which the pointer goes on.
+    const auto loops = [] { return QThread::currentThread()->loopLevel(); };
     QTimer goesOn;
-    connect(&goesOn, &QTimer::timeout, this, [&] {
-        if (!m_box->viewport()->findChild<QDrag*>())
+    connect(&goesOn, &QTimer::timeout, this, [&, before = loops()] {
+        if (loops() == before)
             return;
         goesOn.stop();
         QTest::mouseMove(window, target + QPoint(0, 1));
         QTest::mouseMove(window, target);
         QTest::mouseRelease(window, Qt::LeftButton, held, target);
     });
-    goesOn.start(1);
+    QTimer ends;
+    connect(&ends, &QTimer::timeout, this, &QDrag::cancel);
+    ends.start(20000);
     QTest::mousePress(window, Qt::LeftButton, held, from);
+    goesOn.start(1);
     QTest::mouseMove(window, from + QPoint(2 * QApplication::startDragDistance(), 0));
+    QVERIFY2(!goesOn.isActive(), "no drag began");
 }
 
 void RichTextBoxDragTest::selectedTextMovesToWhereItIsDropped_data() {

@@ -4,9 +4,12 @@
 
 #include <QFocusEvent>
 #include <QLineEdit>
+#include <QRegularExpression>
 
 namespace orvalis {
 namespace {
+
+using namespace Qt::StringLiterals;
 
 class FocusWatch final : public QObject {
 public:
@@ -29,9 +32,19 @@ private:
     }
 };
 
+void keepToOneLine(QLineEdit& line) {
+    static const QRegularExpression breaks(QStringLiteral("\\R"));
+    if (!line.text().contains(breaks))
+        return;
+    const QString behind = line.text().mid(line.cursorPosition()).replace(breaks, u" "_s);
+    line.setText(line.text().replace(breaks, u" "_s));
+    line.setCursorPosition(static_cast<int>(line.text().size() - behind.size()));
+}
+
 } // namespace
 
-void showBeginningWhenLeft(QLineEdit& line) {
+void makeTitleLine(QLineEdit& line) {
+    QObject::connect(&line, &QLineEdit::textChanged, &line, [&line] { keepToOneLine(line); });
     line.installEventFilter(new FocusWatch(&line));
 }
 

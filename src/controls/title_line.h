@@ -6,8 +6,8 @@ class QLineEdit;
 
 namespace orvalis {
 
-/// From now on a text that does not fit into the line shows its beginning once the user has left
-/// it.
-void showBeginningWhenLeft(QLineEdit& line);
+/// Makes a line hold a title: line breaks that are pasted or dropped into it become blanks, and a
+/// text that does not fit shows its beginning once the user has left it.
+void makeTitleLine(QLineEdit& line);
 
 } // namespace orvalis

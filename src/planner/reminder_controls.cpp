@@ -151,7 +151,7 @@ void ReminderControls::makeCommands(QWidget& panel) {
     txt1 = line(panel, u"txt1"_s, {26, 251, 296, 23});
     txt1->setText(u"Title"_s);
     txt1->setAccessibleName(u"Title"_s);
-    showBeginningWhenLeft(*txt1);
+    makeTitleLine(*txt1);
 }
 
 void ReminderControls::makeMessageFrame(QWidget& panel) {

@@ -115,7 +115,7 @@ void StickerForm::makeTitle() {
     m_txtLabel1->setAccessibleName(u"Title"_s);
     setInk(*m_txtLabel1, QPalette::Text, skin::colour::StickerInk);
     connect(m_txtLabel1, &QLineEdit::textChanged, this, &StickerForm::setWindowTitle);
-    showBeginningWhenLeft(*m_txtLabel1);
+    makeTitleLine(*m_txtLabel1);
 }
 
 void StickerForm::makeText() {

@@ -7,7 +7,7 @@
 namespace orvalis {
 
 /// Says who draws the vector metafiles in documents, for every rich text box of the program. It
-/// outlives them; without one such pictures are left out.
+/// outlives them; without one such pictures show as boxes.
 void setMetafileConverter(rtf::MetafileConverter* converter);
 
 /// How the rich text boxes read RTF.

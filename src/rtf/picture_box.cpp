@@ -5,6 +5,7 @@
 #include "rtf/picture_image.h"
 
 #include <QPainter>
+#include <QtMath>
 
 #include <algorithm>
 #include <cmath>
@@ -52,13 +53,17 @@ QImage emptyBox(QSizeF shown, qint64 mostPixels) {
     box.fill(paper);
     {
         QPainter painter(&box);
-        const double width = std::max(1.0, size.width() / std::max(shown.width(), 1.0));
-        painter.setPen(QPen(QColor(ink), width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
-        const QRectF frame =
-            QRectF(box.rect()).adjusted(width / 2, width / 2, -width / 2, -width / 2);
-        painter.drawRect(frame);
-        painter.drawLine(frame.topLeft(), frame.bottomRight());
-        painter.drawLine(frame.bottomLeft(), frame.topRight());
+        // A line as wide as one pixel that is shown may fall between the pixels of the screen.
+        const double ratio = size.width() / std::max(shown.width(), 1.0);
+        const int width = ratio > 1 ? qCeil(ratio) + 1 : 1;
+        painter.setPen(QPen(QColor(ink), width));
+        painter.drawLine(QLineF(0, 0, size.width(), size.height()));
+        painter.drawLine(QLineF(0, size.height(), size.width(), 0));
+        for (const QRect& side :
+             {QRect(0, 0, size.width(), width), QRect(0, 0, width, size.height()),
+              QRect(0, size.height() - width, size.width(), width),
+              QRect(size.width() - width, 0, width, size.height())})
+            painter.fillRect(side, QColor(ink));
     }
     return box.convertToFormat(QImage::Format_Mono, QList<QRgb>{paper, ink}, Qt::ThresholdDither);
 }

@@ -157,6 +157,7 @@ void PictureBoxTest::theSameBytesAreTriedOnce() {
 void PictureBoxTest::aBoxIsFramedAndCrossed_data() {
     QTest::addColumn<QSizeF>("size");
     QTest::newRow("square") << QSizeF(96, 96);
+    QTest::newRow("of a length that is not whole") << QSizeF(191.999999, 96.000001);
     QTest::newRow("wide") << QSizeF(400, 100);
     QTest::newRow("larger than its raster") << QSizeF(6000, 3000);
 }
@@ -176,6 +177,15 @@ void PictureBoxTest::aBoxIsFramedAndCrossed() {
           QPoint(right / 2, bottom / 2), QPoint(right / 4, bottom / 4),
           QPoint(right / 4, bottom - bottom / 4)})
         QCOMPARE(box.pixelColor(inked), ink);
+    // More than a pixel that is shown, wherever that begins.
+    const double ratio = box.width() / size.width();
+    const int line = ratio > 1 ? int(ratio) + 1 : 1;
+    for (int beside = 0; beside < line; ++beside) {
+        QCOMPARE(box.pixelColor(beside, bottom / 3), ink);
+        QCOMPARE(box.pixelColor(right - beside, bottom / 3), ink);
+        QCOMPARE(box.pixelColor(right / 3, beside), ink);
+        QCOMPARE(box.pixelColor(right / 3, bottom - beside), ink);
+    }
     QCOMPARE(box.pixelColor(right / 2, bottom / 4), QColor(Qt::white));
     QCOMPARE(box.pixelColor(right / 4, bottom / 2), QColor(Qt::white));
     // One that may have no room at all is still an image.

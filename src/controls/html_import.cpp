@@ -4,7 +4,7 @@
 
 #include "controls/control_marks.h"
 #include "controls/selection_format.h"
-#include "rtf/block_formats.h"
+#include "rtf/list_formats.h"
 #include "rtf/picture_format.h"
 
 #include <QTextBlock>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/list_numbers.h"
 
-#include "rtf/block_formats.h"
+#include "rtf/list_formats.h"
 
 #include <QPainter>
 #include <QTextBlock>

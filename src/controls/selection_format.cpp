@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "controls/selection_format.h"
 
-#include "rtf/block_formats.h"
 #include "rtf/format_properties.h"
+#include "rtf/list_formats.h"
 #include "runtime/colour.h"
 #include "runtime/twips.h"
 

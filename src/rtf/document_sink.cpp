@@ -4,6 +4,7 @@
 
 #include "rtf/block_formats.h"
 #include "rtf/format_properties.h"
+#include "rtf/list_formats.h"
 #include "rtf/text_formats.h"
 
 #include <QTextBlock>

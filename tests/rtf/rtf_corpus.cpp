@@ -10,7 +10,7 @@
 // document is left in OTHER/files as the writer writes it: once a word processor has put its own
 // text of them into OTHER/text, OTHER measures what that program reads in what we write.
 #include "document_comparison.h"
-#include "rtf/block_formats.h"
+#include "rtf/list_formats.h"
 #include "rtf/reader.h"
 #include "rtf/symbol_font.h"
 #include "rtf/writer.h"

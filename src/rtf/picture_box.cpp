@@ -49,23 +49,21 @@ QSizeF boxTwips(const Picture& picture) {
 
 QImage emptyBox(QSizeF shown, qint64 mostPixels) {
     const QSize size = rasterSize(shown, mostPixels);
-    QImage box(size, QImage::Format_RGB32);
-    box.fill(paper);
-    {
-        QPainter painter(&box);
-        // A line as wide as one pixel that is shown may fall between the pixels of the screen.
-        const double ratio = size.width() / std::max(shown.width(), 1.0);
-        const int width = ratio > 1 ? qCeil(ratio) + 1 : 1;
-        painter.setPen(QPen(QColor(ink), width));
-        painter.drawLine(QLineF(0, 0, size.width(), size.height()));
-        painter.drawLine(QLineF(0, size.height(), size.width(), 0));
-        for (const QRect& side :
-             {QRect(0, 0, size.width(), width), QRect(0, 0, width, size.height()),
-              QRect(0, size.height() - width, size.width(), width),
-              QRect(size.width() - width, 0, width, size.height())})
-            painter.fillRect(side, QColor(ink));
-    }
-    return box.convertToFormat(QImage::Format_Mono, QList<QRgb>{paper, ink}, Qt::ThresholdDither);
+    QImage box(size, QImage::Format_Mono);
+    box.setColorTable({paper, ink});
+    box.fill(0);
+    QPainter painter(&box);
+    // A line as wide as one pixel that is shown may fall between the pixels of the screen.
+    const double ratio = size.width() / std::max(shown.width(), 1.0);
+    const int width = ratio > 1 ? qCeil(ratio) + 1 : 1;
+    painter.setPen(QPen(QColor(ink), width));
+    painter.drawLine(QLineF(0, 0, size.width(), size.height()));
+    painter.drawLine(QLineF(0, size.height(), size.width(), 0));
+    for (const QRect& side : {QRect(0, 0, size.width(), width), QRect(0, 0, width, size.height()),
+                              QRect(0, size.height() - width, size.width(), width),
+                              QRect(size.width() - width, 0, width, size.height())})
+        painter.fillRect(side, QColor(ink));
+    return box;
 }
 
 } // namespace orvalis::rtf

@@ -7,6 +7,7 @@
 #include "rtf/reader.h"
 #include "rtf/writer.h"
 #include "sample_metafile.h"
+#include "sample_pictures.h"
 #include "sample_rtf.h"
 #include "support/test_main.h"
 
@@ -16,6 +17,7 @@
 
 using namespace orvalis;
 using namespace orvalis::rtf;
+using namespace orvalis::test;
 
 namespace {
 
@@ -33,26 +35,6 @@ public:
         return image;
     }
 };
-
-QByteArray rtfOf(const QByteArray& words, const QByteArray& bytes) {
-    return "{\\rtf1 a{\\pict" + words + "\r\n" + bytes.toHex() + "}b\\par}";
-}
-
-QTextImageFormat pictureOf(const QTextDocument& document) {
-    for (auto run = document.firstBlock().begin(); !run.atEnd(); ++run)
-        if (run.fragment().charFormat().isImageFormat())
-            return run.fragment().charFormat().toImageFormat();
-    return {};
-}
-
-QImage shown(const QTextDocument& document) {
-    return document.resource(QTextDocument::ImageResource, QUrl(pictureOf(document).name()))
-        .value<QImage>();
-}
-
-QByteArray withoutLineEnds(QByteArray bytes) {
-    return bytes.replace("\r\n", "");
-}
 
 constexpr quint32 copy = 0x00cc0020; // the operation that takes pixels over as they are
 
@@ -75,43 +57,42 @@ private slots:
 void MetafileTest::aBitmapInsideAMetafileIsShown_data() {
     QTest::addColumn<QByteArray>("words");
     QTest::addColumn<QByteArray>("bytes");
-    const QByteArray dib = dibOfImage(test::sampleImage());
+    const QByteArray dib = dibOfImage(sampleImage());
     const auto dibSize = quint32(dib.size());
     constexpr quint32 headSize = 40;
     const auto row = [](const char* name, const char* words, const QByteArray& bytes) {
         QTest::newRow(name) << QByteArray(words) << bytes;
     };
     const auto drawn = [](const QByteArray& record) {
-        return test::metafile(test::metafileRecord(0x0103, {8}) + record);
+        return metafile(metafileRecord(0x0103, {8}) + record);
     };
     const int low = copy & 0xffff;
     const int high = copy >> 16;
-    row("blit", "\\wmetafile8",
-        drawn(test::metafileRecord(0x0940, {low, high, 0, 0, 3, 4, 0, 0}, dib)));
+    row("blit", "\\wmetafile8", drawn(metafileRecord(0x0940, {low, high, 0, 0, 3, 4, 0, 0}, dib)));
     row("stretched blit", "\\wmetafile8",
-        drawn(test::metafileRecord(0x0b41, {low, high, 3, 4, 0, 0, 30, 40, 0, 0}, dib)));
+        drawn(metafileRecord(0x0b41, {low, high, 3, 4, 0, 0, 30, 40, 0, 0}, dib)));
     row("stretched bits", "\\wmetafile8",
-        drawn(test::metafileRecord(0x0f43, {low, high, 0, 3, 4, 0, 0, 30, 40, 0, 0}, dib)));
+        drawn(metafileRecord(0x0f43, {low, high, 0, 3, 4, 0, 0, 30, 40, 0, 0}, dib)));
     row("bits to the device", "\\wmetafile8",
-        drawn(test::metafileRecord(0x0d33, {0, 3, 0, 0, 0, 3, 4, 0, 0}, dib)));
+        drawn(metafileRecord(0x0d33, {0, 3, 0, 0, 0, 3, 4, 0, 0}, dib)));
     row("behind a placeable header", "\\wmetafile8",
-        test::placeable({0, 0, 4, 3}, 96,
-                        drawn(test::metafileRecord(0x0940, {low, high, 0, 0, 3, 4, 0, 0}, dib))));
+        placeable({0, 0, 4, 3}, 96,
+                  drawn(metafileRecord(0x0940, {low, high, 0, 0, 3, 4, 0, 0}, dib))));
     row("named the other kind", "\\emfblip",
-        drawn(test::metafileRecord(0x0940, {low, high, 0, 0, 3, 4, 0, 0}, dib)));
+        drawn(metafileRecord(0x0940, {low, high, 0, 0, 3, 4, 0, 0}, dib)));
     const auto enhanced = [](const QByteArray& record) {
-        return test::enhancedMetafile({0, 0, 106, 79}, test::enhancedRecord(17, {8}) + record);
+        return enhancedMetafile({0, 0, 106, 79}, enhancedRecord(17, {8}) + record);
     };
     row("enhanced, stretched bits", "\\emfblip",
-        enhanced(test::enhancedRecord(81,
-                                      {0, 0, 3, 2, 0, 0, 0, 0, 4, 3, 80, headSize, 80 + headSize,
-                                       dibSize - headSize, 0, copy, 4, 3},
-                                      dib)));
+        enhanced(enhancedRecord(81,
+                                {0, 0, 3, 2, 0, 0, 0, 0, 4, 3, 80, headSize, 80 + headSize,
+                                 dibSize - headSize, 0, copy, 4, 3},
+                                dib)));
     row("enhanced, bits to the device", "\\emfblip",
-        enhanced(test::enhancedRecord(80,
-                                      {0, 0, 3, 2, 0, 0, 0, 0, 4, 3, 76, headSize, 76 + headSize,
-                                       dibSize - headSize, 0, 0, 3},
-                                      dib)));
+        enhanced(enhancedRecord(80,
+                                {0, 0, 3, 2, 0, 0, 0, 0, 4, 3, 76, headSize, 76 + headSize,
+                                 dibSize - headSize, 0, 0, 3},
+                                dib)));
     for (const quint32 type : {76u, 77u}) {
         QList<quint32> words{0, 0, 3, 2, 0, 0, 4, 3, copy, 0, 0};
         words += {0x3f800000, 0, 0, 0x3f800000, 0, 0, 0, 0}; // a matrix, a colour, a usage
@@ -120,7 +101,7 @@ void MetafileTest::aBitmapInsideAMetafileIsShown_data() {
         if (type == 77)
             words += {4, 3};
         row(type == 77 ? "enhanced, stretched blit" : "enhanced, blit", "\\emfblip",
-            enhanced(test::enhancedRecord(type, words, dib)));
+            enhanced(enhancedRecord(type, words, dib)));
     }
 }
 
@@ -130,7 +111,7 @@ void MetafileTest::aBitmapInsideAMetafileIsShown() {
     QTextDocument document;
     QVERIFY(readRtf(rtfOf(words + "\\picwgoal600\\pichgoal300", bytes), document).ok());
     QCOMPARE(document.toRawText(), QStringLiteral("a\ufffcb"));
-    QCOMPARE(shown(document).convertToFormat(QImage::Format_RGB32), test::sampleImage());
+    QCOMPARE(shown(document).convertToFormat(QImage::Format_RGB32), sampleImage());
     QCOMPARE(pictureOf(document).width(), 40.0);
     QCOMPARE(pictureOf(document).height(), 20.0);
     QVERIFY(withoutLineEnds(writeRtf(document)).contains(bytes.toHex()));
@@ -144,20 +125,19 @@ void MetafileTest::aDrawingWithoutSizeIsKept_data() {
                         const QSizeF& pixels) {
         QTest::newRow(name) << QByteArray(words) << bytes << pixels;
     };
-    row("enhanced, sized by its frame", "\\emfblip",
-        test::vectorEnhancedMetafile({100, 100, 5080, 2540}), {192, 96});
-    row("enhanced, of no frame", "\\emfblip", test::vectorEnhancedMetafile({0, 0, 0, 0}), {96, 96});
-    row("sized by its box", "\\wmetafile8",
-        test::placeable({-50, 0, 300, 150}, 150, test::vectorMetafile()), {192, 96});
+    row("enhanced, sized by its frame", "\\emfblip", vectorEnhancedMetafile({100, 100, 5080, 2540}),
+        {192, 96});
+    row("enhanced, of no frame", "\\emfblip", vectorEnhancedMetafile({0, 0, 0, 0}), {96, 96});
+    row("sized by its box", "\\wmetafile8", placeable({-50, 0, 300, 150}, 150, vectorMetafile()),
+        {192, 96});
     row("of a box on its head", "\\wmetafile8",
-        test::placeable({0, 150, 300, -150}, 150, test::vectorMetafile()), {192, 96});
-    row("of a box in no unit", "\\wmetafile8",
-        test::placeable({0, 0, 300, 150}, 0, test::vectorMetafile()), {96, 96});
-    row("bare", "\\wmetafile8", test::vectorMetafile(), {96, 96});
+        placeable({0, 150, 300, -150}, 150, vectorMetafile()), {192, 96});
+    row("of a box in no unit", "\\wmetafile8", placeable({0, 0, 300, 150}, 0, vectorMetafile()),
+        {96, 96});
+    row("bare", "\\wmetafile8", vectorMetafile(), {96, 96});
     const auto window = [](int mode, int width, int height) {
-        return test::metafile(test::metafileRecord(0x0103, {mode}) +
-                              test::metafileRecord(0x020c, {height, width}) +
-                              test::metafileRecord(0x041b, {90, 90, 10, 10}));
+        return metafile(metafileRecord(0x0103, {mode}) + metafileRecord(0x020c, {height, width}) +
+                        metafileRecord(0x041b, {90, 90, 10, 10}));
     };
     row("sized by its window, in pixels", "\\wmetafile8", window(8, 200, 50), {200, 50});
     row("of a window on its head", "\\wmetafile8", window(8, 200, -50), {200, 50});
@@ -169,7 +149,7 @@ void MetafileTest::aDrawingWithoutSizeIsKept_data() {
     row("in twips", "\\wmetafile8", window(6, 1440, 720), {96, 48});
     row("of a window without height", "\\wmetafile8", window(8, 200, 0), {96, 96});
     row("half as wide as its box", "\\wmetafile8\\picscalex50",
-        test::placeable({0, 0, 300, 150}, 150, test::vectorMetafile()), {96, 96});
+        placeable({0, 0, 300, 150}, 150, vectorMetafile()), {96, 96});
 }
 
 void MetafileTest::aDrawingWithoutSizeIsKept() {
@@ -204,7 +184,7 @@ void MetafileTest::aDrawingIsDrawnAtItsSize() {
     PlainConverter converter;
     ReadOptions options;
     options.metafiles = &converter;
-    const QByteArray bytes = test::vectorMetafile();
+    const QByteArray bytes = vectorMetafile();
     QTextDocument document;
     QVERIFY(readRtf(rtfOf("\\wmetafile8" + words, bytes), document, options).ok());
     QCOMPARE(converter.asked, bytes);
@@ -220,7 +200,7 @@ void MetafileTest::anEnhancedDrawingIsABoxWithItsBytes() {
     PlainConverter converter;
     ReadOptions options;
     options.metafiles = &converter;
-    const QByteArray bytes = test::vectorEnhancedMetafile({0, 0, 2540, 2540});
+    const QByteArray bytes = vectorEnhancedMetafile({0, 0, 2540, 2540});
     QTextDocument document;
     QVERIFY(readRtf(rtfOf("\\emfblip\\picwgoal600\\pichgoal300", bytes), document, options).ok());
     QVERIFY(converter.asked.isEmpty());
@@ -233,17 +213,16 @@ void MetafileTest::anEnhancedDrawingIsABoxWithItsBytes() {
 
 void MetafileTest::theWordsWinOverTheHead() {
     QTextDocument document;
-    const QByteArray bytes = test::vectorEnhancedMetafile({0, 0, 2540, 2540});
+    const QByteArray bytes = vectorEnhancedMetafile({0, 0, 2540, 2540});
     QVERIFY(readRtf(rtfOf("\\emfblip\\picw508\\pich254", bytes), document).ok());
     QVERIFY(std::abs(pictureOf(document).width() - 19.2) < 0.01);
     QVERIFY(std::abs(pictureOf(document).height() - 9.6) < 0.01);
 }
 
 void MetafileTest::aBitmapThatClaimsTooMuchIsADrawing() {
-    QByteArray dib = dibOfImage(test::sampleImage());
+    QByteArray dib = dibOfImage(sampleImage());
     dib[6] = 100; // more than six million pixels wide
-    const QByteArray bytes =
-        test::metafile(test::metafileRecord(0x0940, {0x20, 0xcc, 0, 0, 3, 4, 0, 0}, dib));
+    const QByteArray bytes = metafile(metafileRecord(0x0940, {0x20, 0xcc, 0, 0, 3, 4, 0, 0}, dib));
     QTextDocument document;
     const QByteArray group = "{\\pict\\wmetafile8 " + bytes.toHex() + "}";
     QVERIFY(readRtf("{\\rtf1" + group + "and" + group + "\\par}", document).ok());

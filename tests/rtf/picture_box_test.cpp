@@ -7,6 +7,7 @@
 #include "rtf/reader.h"
 #include "rtf/writer.h"
 #include "sample_metafile.h"
+#include "sample_pictures.h"
 #include "sample_rtf.h"
 #include "support/test_main.h"
 
@@ -16,28 +17,9 @@
 
 using namespace orvalis;
 using namespace orvalis::rtf;
+using namespace orvalis::test;
 
 namespace {
-
-QTextImageFormat pictureOf(const QTextDocument& document) {
-    for (auto run = document.firstBlock().begin(); !run.atEnd(); ++run)
-        if (run.fragment().charFormat().isImageFormat())
-            return run.fragment().charFormat().toImageFormat();
-    return {};
-}
-
-QImage shown(const QTextDocument& document) {
-    return document.resource(QTextDocument::ImageResource, QUrl(pictureOf(document).name()))
-        .value<QImage>();
-}
-
-QByteArray withoutLineEnds(QByteArray bytes) {
-    return bytes.replace("\r\n", "");
-}
-
-QByteArray rtfOf(const QByteArray& words, const QByteArray& bytes) {
-    return "{\\rtf1 a{\\pict" + words + "\r\n" + bytes.toHex() + "}b\\par}";
-}
 
 constexpr int paperOrInk = 2; // colours of a box
 
@@ -72,11 +54,11 @@ void PictureBoxTest::whatCannotBeDrawnKeepsItsBytes_data() {
                             << "{\\pict" + (written.isEmpty() ? words : written) + bytes.toHex();
     };
     const QSizeF unknown(96, 96);
-    const QByteArray png = test::encoded(test::sampleImage(120, 60), "PNG");
-    const QByteArray jpeg = test::encoded(test::sampleImage(120, 60), "JPG");
+    const QByteArray png = encoded(sampleImage(120, 60), "PNG");
+    const QByteArray jpeg = encoded(sampleImage(120, 60), "JPG");
     row("PNG cut in its head", "\\pngblip", png.first(6), unknown);
     row("PNG cut in its pixels", "\\pngblip", png.chopped(png.size() / 2), {120, 60});
-    const QByteArray large = test::encoded(test::sampleImage(1200, 600), "PNG");
+    const QByteArray large = encoded(sampleImage(1200, 600), "PNG");
     row("large PNG cut in its pixels", "\\pngblip", large.chopped(large.size() / 2), {192, 96});
     row("PNG with a goal", "\\pngblip\\picwgoal600\\pichgoal300", png.first(6), {40, 20});
     row("PNG with the size of its pixels", "\\pngblip\\picw4\\pich3", png.first(6), {4, 3},
@@ -200,12 +182,11 @@ void PictureBoxTest::anotherFormOfThePictureIsShownInItsPlace_data() {
     QTest::addColumn<QSizeF>("pixels");
     QTest::newRow("drawing with a goal")
         << QByteArray("\\emfblip\\picwgoal600\\pichgoal300")
-        << test::vectorEnhancedMetafile({0, 0, 2540, 2540}) << QSizeF(40, 20);
+        << vectorEnhancedMetafile({0, 0, 2540, 2540}) << QSizeF(40, 20);
     QTest::newRow("drawing with a frame")
-        << QByteArray("\\emfblip") << test::vectorEnhancedMetafile({0, 0, 2540, 1270})
-        << QSizeF(96, 48);
+        << QByteArray("\\emfblip") << vectorEnhancedMetafile({0, 0, 2540, 1270}) << QSizeF(96, 48);
     QTest::newRow("drawing without a frame")
-        << QByteArray("\\emfblip") << test::vectorEnhancedMetafile({0, 0, 0, 0}) << QSizeF(4, 3);
+        << QByteArray("\\emfblip") << vectorEnhancedMetafile({0, 0, 0, 0}) << QSizeF(4, 3);
     QTest::newRow("broken PNG without a size")
         << QByteArray("\\pngblip") << QByteArray("no PNG") << QSizeF(4, 3);
     QTest::newRow("picture of a Macintosh")
@@ -216,14 +197,14 @@ void PictureBoxTest::anotherFormOfThePictureIsShownInItsPlace() {
     QFETCH(QByteArray, words);
     QFETCH(QByteArray, bytes);
     QFETCH(QSizeF, pixels);
-    const QByteArray metafile = metafileOfDib(dibOfImage(test::sampleImage()), {4, 3});
+    const QByteArray metafile = metafileOfDib(dibOfImage(sampleImage()), {4, 3});
     QTextDocument document;
     QVERIFY(readRtf("{\\rtf1 a{\\*\\shppict{\\pict" + words + "\r\n" + bytes.toHex() +
                         "}}\r\n{\\nonshppict{\\pict\\wmetafile8 " + metafile.toHex() + "}}b\\par}",
                     document)
                 .ok());
     QCOMPARE(document.toRawText(), QStringLiteral("a\ufffcb"));
-    QCOMPARE(shown(document).convertToFormat(QImage::Format_RGB32), test::sampleImage());
+    QCOMPARE(shown(document).convertToFormat(QImage::Format_RGB32), sampleImage());
     const QTextImageFormat format = pictureOf(document);
     QVERIFY(std::abs(format.width() - pixels.width()) < 0.01);
     QVERIFY(std::abs(format.height() - pixels.height()) < 0.01);
@@ -235,14 +216,14 @@ void PictureBoxTest::anotherFormOfThePictureIsShownInItsPlace() {
     QVERIFY(flat.contains(metafile.toHex() + "}}"));
     QTextDocument again;
     QVERIFY(readRtf(once, again).ok());
-    QCOMPARE(shown(again).convertToFormat(QImage::Format_RGB32), test::sampleImage());
+    QCOMPARE(shown(again).convertToFormat(QImage::Format_RGB32), sampleImage());
     QCOMPARE(writeRtf(again), once);
 }
 
 void PictureBoxTest::aDrawingThatCannotBeDrawnEitherIsKept_data() {
     QTest::addColumn<QByteArray>("other");
     QTest::addColumn<bool>("kept");
-    const QByteArray drawing = "{\\pict\\wmetafile8 " + test::vectorMetafile().toHex() + "}";
+    const QByteArray drawing = "{\\pict\\wmetafile8 " + vectorMetafile().toHex() + "}";
     QTest::newRow("drawing") << drawing << true;
     QTest::newRow("drawing, twice") << drawing + drawing << true;
     QTest::newRow("another kind") << QByteArray("{\\pict\\macpict 00}") << false;
@@ -264,7 +245,7 @@ void PictureBoxTest::aDrawingThatCannotBeDrawnEitherIsKept() {
     const QByteArray once = writeRtf(document);
     QCOMPARE(withoutLineEnds(once).contains(
                  "{\\nonshppict{\\pict\\wmetafile8\\picw1058\\pich529\\picwgoal600\\pichgoal300" +
-                 test::vectorMetafile().toHex() + "}}"),
+                 vectorMetafile().toHex() + "}}"),
              kept);
     QTextDocument again;
     QVERIFY(readRtf(once, again).ok());
@@ -273,9 +254,8 @@ void PictureBoxTest::aDrawingThatCannotBeDrawnEitherIsKept() {
 
 void PictureBoxTest::aWholeBitmapFileBehindTheWordForABareOneIsShown() {
     QTextDocument document;
-    QVERIFY(
-        readRtf(rtfOf("\\dibitmap0", test::encoded(test::sampleImage(), "BMP")), document).ok());
-    QCOMPARE(shown(document).convertToFormat(QImage::Format_RGB32), test::sampleImage());
+    QVERIFY(readRtf(rtfOf("\\dibitmap0", encoded(sampleImage(), "BMP")), document).ok());
+    QCOMPARE(shown(document).convertToFormat(QImage::Format_RGB32), sampleImage());
     QCOMPARE(pictureOf(document).width(), 4.0);
 }
 
@@ -283,7 +263,7 @@ void PictureBoxTest::whatIsNoPictureIsNotInserted() {
     QTextDocument document;
     QTextCursor cursor(&document);
     for (const QByteArray& bytes :
-         {QByteArray(), QByteArray("text"), test::encoded(test::sampleImage(), "PNG").first(10)})
+         {QByteArray(), QByteArray("text"), encoded(sampleImage(), "PNG").first(10)})
         QVERIFY(!insertPicture(cursor, bytes));
     QVERIFY(document.isEmpty());
 }

@@ -30,7 +30,8 @@ double scaled(double twips, int scale) {
 QSizeF boundedTwips(QSizeF size) {
     if (size.isEmpty())
         return {};
-    return size * std::min(1.0, largestTwips / std::max(size.width(), size.height()));
+    size *= std::min(1.0, largestTwips / std::max(size.width(), size.height()));
+    return size.boundedTo({largestTwips, largestTwips}); // what the product rounds up included
 }
 
 QSizeF wantedTwips(const Picture& picture) {

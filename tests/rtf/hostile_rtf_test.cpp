@@ -36,6 +36,7 @@ private slots:
     void picturesThatLieAreBoxes_data();
     void picturesThatLieAreBoxes();
     void aPictureOfNoBytesIsNone();
+    void noPictureIsLongerThanADocumentCanHold();
     void aPictureOfMorePixelsThanAnyCameraMakesIsNotDecoded();
     void garbageIsReadToItsEnd();
     void aFloodOfParagraphsComesInAsLinesOnceTheyCostTooMuch();
@@ -178,6 +179,16 @@ void HostileRtfTest::aPictureOfNoBytesIsNone() {
     QVERIFY(readRtf("{\\rtf1 a{\\pict\\pngblip xyz!}b}", sink).ok());
     QCOMPARE(sink.whole, QStringLiteral("ab"));
     QVERIFY(sink.pictures.isEmpty());
+}
+
+void HostileRtfTest::noPictureIsLongerThanADocumentCanHold() {
+    Picture picture;
+    picture.height = 10;
+    for (picture.width = 1; picture.width < 20000; ++picture.width) {
+        const QSizeF wanted = wantedTwips(picture);
+        QVERIFY2(wanted.width() <= 100000, qPrintable(QString::number(picture.width)));
+        QVERIFY(wanted.height() > 0);
+    }
 }
 
 void HostileRtfTest::aPictureOfMorePixelsThanAnyCameraMakesIsNotDecoded() {

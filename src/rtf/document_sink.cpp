@@ -49,6 +49,7 @@ DocumentSink::DocumentSink(QTextCursor& cursor, const ReadOptions& options, qsiz
     , m_options(options)
     , m_structureLeft(structureShare * fileSize + ground)
     , m_pixelBytesLeft(pixelShare * fileSize + ground)
+    , m_intoNothing(cursor.document()->isEmpty())
     , m_textBefore(!cursor.atBlockStart())
     , m_textBehind(!cursor.atBlockEnd())
     , m_targetFormat(cursor.blockFormat()) {
@@ -154,7 +155,7 @@ void DocumentSink::end(const ParagraphFormat& paragraph, const CharFormat& mark)
     if (!m_runs.empty())
         insertParagraph(paragraph, mark);
     // The paragraph that follows the insertion keeps the shape it had.
-    if (m_paragraphs > 1 && m_textBehind)
+    if (m_paragraphs > 1 && m_targetStands)
         m_cursor.setBlockFormat(m_targetFormat);
 }
 
@@ -167,6 +168,7 @@ void DocumentSink::insertParagraph(const ParagraphFormat& paragraph, const CharF
     const int start = m_runs.empty() ? formatIndex(mark) : m_runs.front().format;
     const QTextCharFormat& startFormat = m_formats[size_t(start)];
     const bool first = m_paragraphs++ == 0;
+    m_targetStands = m_textBehind || (m_runs.empty() && !m_intoNothing);
     if (first) {
         // A block that holds text of its own keeps its shape; an empty one takes what comes, and
         // one with text behind the cursor does when its start is cut off by a further paragraph.

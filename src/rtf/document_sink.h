@@ -78,8 +78,10 @@ private:
     ListKeeper m_lists;
 
     int m_paragraphs = 0;
-    bool m_textBefore = false; ///< the block held text before the cursor
+    bool m_intoNothing = false; ///< the document was empty
+    bool m_textBefore = false;  ///< the block held text before the cursor
     bool m_textBehind = false;
+    bool m_targetStands = false; ///< what follows the insertion is a paragraph of its own
     bool m_firstShaped = false;
     ParagraphFormat m_firstParagraph;
     QTextBlockFormat m_targetFormat;

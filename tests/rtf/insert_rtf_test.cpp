@@ -43,6 +43,7 @@ private slots:
     void theSelectionIsReplacedInOneStepOfUndo();
     void aBlockWithTextKeepsItsShapeAndAnEmptyOneTakesTheNew();
     void whatFollowsTheInsertionKeepsItsShape();
+    void anEmptyParagraphBehindWholeOnesKeepsItsShape();
     void whatIsNotRtfChangesNothing();
     void readingReplacesTheContentAndItsHistory();
     void everyRunCarriesItsLook();
@@ -111,6 +112,23 @@ void InsertRtfTest::whatFollowsTheInsertionKeepsItsShape() {
     QCOMPARE(document.toPlainText(), QStringLiteral("abx\nycd"));
     QVERIFY(document.firstBlock().blockFormat().alignment() & Qt::AlignRight);
     QVERIFY(document.lastBlock().blockFormat().alignment() & Qt::AlignRight);
+}
+
+void InsertRtfTest::anEmptyParagraphBehindWholeOnesKeepsItsShape() {
+    // As it is copied with its end: the empty start of the paragraph behind comes along.
+    const QByteArray item = "{\\rtf1\\pard{\\*\\pn\\pnlvlblt}item\\par\\par}";
+    QTextDocument document(QStringLiteral("above\n\nbelow"));
+    QTextCursor cursor = cursorAt(document, 6, 6);
+    insertRtf(item, cursor);
+    QCOMPARE(document.toPlainText(), QStringLiteral("above\nitem\n\nbelow"));
+    QVERIFY(document.findBlockByNumber(1).textList());
+    QVERIFY(!document.findBlockByNumber(2).textList());
+    // An empty document has no shape to keep.
+    QTextDocument empty;
+    cursor = QTextCursor(&empty);
+    insertRtf(item, cursor);
+    QCOMPARE(empty.blockCount(), 2);
+    QVERIFY(empty.lastBlock().textList());
 }
 
 void InsertRtfTest::whatIsNotRtfChangesNothing() {

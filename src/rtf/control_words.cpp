@@ -199,6 +199,7 @@ constexpr ControlWord words[] = {
     {"listoverridetable", Action::ListOverrideTable, 0},
     {"pict", Action::PictureGroup, 0},
     {"shppict", Action::ShapePicture, 0},
+    {"orvpict", Action::ShapePicture, 0}, // this program's own
     {"nonshppict", Action::NoShapePicture, 0},
     {"field", Action::PassThrough, 0},
     {"fldinst", Action::FieldInstruction, 0},

@@ -79,9 +79,21 @@ QSize metafileSize(const Picture& picture) {
     return {picture.goalWidth * 254 / 144, picture.goalHeight * 254 / 144};
 }
 
-// The same picture twice: in a form of today, and in one that every reader knows.
-QByteArray withFallback(const QByteArray& group, const QByteArray& fallback) {
-    return "{\\*\\shppict" + group + "}{\\nonshppict" + fallback + '}';
+// Some programs refuse a whole file for one picture whose bytes they know nothing of.
+bool isStrange(const Picture& picture) {
+    const PictureKind found = kindOfBytes(picture.bytes);
+    return (found == PictureKind::Unknown || found == PictureKind::Other) &&
+           picture.kind != PictureKind::DeviceIndependent;
+}
+
+// A form of today or, for what is strange, a form that only this program looks into.
+QByteArray firstForm(const Picture& picture, const QByteArray& group) {
+    return (isStrange(picture) ? "{\\*\\orvpict" : "{\\*\\shppict") + group + '}';
+}
+
+// The second form is one that every reader knows.
+QByteArray withFallback(const QByteArray& first, const QByteArray& fallback) {
+    return first + "{\\nonshppict" + fallback + '}';
 }
 
 QByteArray ownGroup(const Picture& picture) {
@@ -116,16 +128,19 @@ QByteArray metafileGroup(const Picture& picture, const QByteArray& metafile) {
 
 QByteArray pictureGroups(const Picture& picture) {
     const QByteArray own = ownGroup(picture);
+    const QByteArray first = firstForm(picture, own);
     if (!picture.fallback.isEmpty())
-        return withFallback(own, metafileGroup(picture, picture.fallback));
+        return withFallback(first, metafileGroup(picture, picture.fallback));
+    if (isStrange(picture))
+        return first;
     if (picture.kind != PictureKind::Png && picture.kind != PictureKind::Jpeg)
         return own;
     const QSize size = pixelSize(picture);
     const bool twin = !size.isEmpty() && qint64(size.width()) * size.height() <= mostTwinPixels;
     const QImage image = twin ? imageOfPicture(picture, mostTwinPixels, nullptr) : QImage();
     if (image.isNull())
-        return "{\\*\\shppict" + own + '}';
-    return withFallback(own,
+        return first;
+    return withFallback(first,
                         metafileGroup(picture, metafileOfDib(dibOfImage(image), image.size())));
 }
 

@@ -37,6 +37,8 @@ private slots:
     void aBoxIsFramedAndCrossed();
     void anotherFormOfThePictureIsShownInItsPlace_data();
     void anotherFormOfThePictureIsShownInItsPlace();
+    void whatNoReaderKnowsIsWrittenWhereTheyDoNotLook_data();
+    void whatNoReaderKnowsIsWrittenWhereTheyDoNotLook();
     void aDrawingThatCannotBeDrawnEitherIsKept_data();
     void aDrawingThatCannotBeDrawnEitherIsKept();
     void aWholeBitmapFileBehindTheWordForABareOneIsShown();
@@ -211,12 +213,49 @@ void PictureBoxTest::anotherFormOfThePictureIsShownInItsPlace() {
     QVERIFY(!format.boolProperty(PictureIsBox));
     const QByteArray once = writeRtf(document);
     const QByteArray flat = withoutLineEnds(once);
-    QVERIFY(flat.contains("{\\*\\shppict{\\pict" + words.left(words.indexOf("\\pic"))));
+    const QByteArray group = words.startsWith("\\emfblip") ? "{\\*\\shppict" : "{\\*\\orvpict";
+    QVERIFY(flat.contains(group + "{\\pict" + words.left(words.indexOf("\\pic"))));
     QVERIFY(flat.contains(bytes.toHex() + "}}{\\nonshppict{\\pict\\wmetafile8"));
     QVERIFY(flat.contains(metafile.toHex() + "}}"));
     QTextDocument again;
     QVERIFY(readRtf(once, again).ok());
     QCOMPARE(shown(again).convertToFormat(QImage::Format_RGB32), sampleImage());
+    QCOMPARE(writeRtf(again), once);
+}
+
+void PictureBoxTest::whatNoReaderKnowsIsWrittenWhereTheyDoNotLook_data() {
+    QTest::addColumn<QByteArray>("words");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QByteArray>("group");
+    const auto row = [](const char* name, const QByteArray& words, const QByteArray& bytes,
+                        const QByteArray& group) {
+        QTest::newRow(name) << words << bytes << group;
+    };
+    const QByteArray own = "{\\*\\orvpict{\\pict";
+    row("no PNG", "\\pngblip", "no PNG", own);
+    row("no JPEG", "\\jpegblip", "no JPEG", own);
+    row("no drawing", "\\emfblip", "no drawing", own);
+    row("rows that are no picture", "\\wbitmap0", "rows", own);
+    row("no kind", "", "anything", own);
+    row("no GIF", "", "GIF89a", own);
+    row("picture of a Macintosh", "\\macpict", "QuickDraw", own);
+    row("cut PNG", "\\pngblip", "\x89PNG\r\n\x1a\n", "{\\*\\shppict{\\pict");
+    row("cut JPEG", "\\jpegblip", "\xff\xd8\xff\xe0", "{\\*\\shppict{\\pict");
+    row("bitmap that is none", "\\dibitmap0", "no bitmap", "a{\\pict");
+    row("vectors", "\\emfblip", vectorEnhancedMetafile({0, 0, 2540, 2540}), "a{\\pict");
+}
+
+void PictureBoxTest::whatNoReaderKnowsIsWrittenWhereTheyDoNotLook() {
+    QFETCH(QByteArray, words);
+    QFETCH(QByteArray, bytes);
+    QFETCH(QByteArray, group);
+    QTextDocument document;
+    QVERIFY(readRtf(rtfOf(words, bytes), document).ok());
+    const QByteArray once = writeRtf(document);
+    QVERIFY2(once.contains(group + words), once.constData());
+    QTextDocument again;
+    QVERIFY(readRtf(once, again).ok());
+    QCOMPARE(pictureOf(again).property(PictureSource).toByteArray(), bytes);
     QCOMPARE(writeRtf(again), once);
 }
 

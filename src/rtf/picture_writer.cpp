@@ -106,8 +106,8 @@ QByteArray ownGroup(const Picture& picture) {
     case PictureKind::Png:
     case PictureKind::Jpeg:
         // What names no size must not get one by its pixels, which may be nothing but a claim.
-        if (picture.goalWidth > 0) {
-            appendGroup(rtf, kindWords(picture), pixelSize(picture), picture, picture.bytes);
+        if (const QSize pixels = pixelSize(picture); picture.goalWidth > 0 && !pixels.isEmpty()) {
+            appendGroup(rtf, kindWords(picture), pixels, picture, picture.bytes);
             break;
         }
         [[fallthrough]];

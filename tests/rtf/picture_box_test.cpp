@@ -32,6 +32,7 @@ private slots:
     void whatCannotBeDrawnKeepsItsBytes_data();
     void whatCannotBeDrawnKeepsItsBytes();
     void aBoxOfASizeSomebodyGaveKeepsIt();
+    void theSizeThatACutPictureClaimsIsWrittenToo();
     void theSameBytesAreTriedOnce();
     void aBoxIsFramedAndCrossed_data();
     void aBoxIsFramedAndCrossed();
@@ -64,7 +65,7 @@ void PictureBoxTest::whatCannotBeDrawnKeepsItsBytes_data() {
     row("large PNG cut in its pixels", "\\pngblip", large.chopped(large.size() / 2), {192, 96});
     row("PNG with a goal", "\\pngblip\\picwgoal600\\pichgoal300", png.first(6), {40, 20});
     row("PNG with the size of its pixels", "\\pngblip\\picw4\\pich3", png.first(6), {4, 3},
-        "\\pngblip\\picwgoal60\\pichgoal45");
+        "\\pngblip\\picw4\\pich3\\picwgoal60\\pichgoal45");
     row("PNG that claims too much", "\\pngblip",
         QByteArray::fromHex("89504e470d0a1a0a0000000d49484452000186a0000186a00802000000"), unknown);
     row("JPEG cut in its head", "\\jpegblip", jpeg.first(8), unknown);
@@ -125,6 +126,20 @@ void PictureBoxTest::aBoxOfASizeSomebodyGaveKeepsIt() {
     cursor.setPosition(2, QTextCursor::KeepAnchor);
     cursor.setCharFormat(format);
     QVERIFY(writeRtf(document).contains("\\pngblip\\picwgoal750\\pichgoal1440"));
+}
+
+void PictureBoxTest::theSizeThatACutPictureClaimsIsWrittenToo() {
+    // An inch is also what a box gets that nobody gave a size: the claim tells the two apart.
+    QTextDocument document;
+    QVERIFY(readRtf(rtfOf("\\jpegblip\\picw700\\pich600\\picwgoal1440\\pichgoal1440",
+                          "\xff\xd8\xff\xe0"),
+                    document)
+                .ok());
+    const QByteArray once = writeRtf(document);
+    QVERIFY(once.contains("\\jpegblip\\picw700\\pich600\\picwgoal1440\\pichgoal1440"));
+    QTextDocument again;
+    QVERIFY(readRtf(once, again).ok());
+    QCOMPARE(writeRtf(again), once);
 }
 
 void PictureBoxTest::theSameBytesAreTriedOnce() {

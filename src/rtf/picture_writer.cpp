@@ -96,25 +96,19 @@ QByteArray withFallback(const QByteArray& first, const QByteArray& fallback) {
     return first + "{\\nonshppict" + fallback + '}';
 }
 
+// In pixels, or in the unit of a metafile.
+QSize sourceSize(const Picture& picture) {
+    if (picture.kind == PictureKind::Wmf || picture.kind == PictureKind::Emf)
+        return metafileSize(picture);
+    const bool encoded = picture.kind == PictureKind::Png || picture.kind == PictureKind::Jpeg;
+    // What names no size must not get one by its pixels, which may be nothing but a claim.
+    const QSize pixels = encoded && picture.goalWidth > 0 ? pixelSize(picture) : QSize();
+    return pixels.isEmpty() ? QSize(picture.width, picture.height) : pixels;
+}
+
 QByteArray ownGroup(const Picture& picture) {
     QByteArray rtf;
-    switch (picture.kind) {
-    case PictureKind::Wmf:
-    case PictureKind::Emf:
-        appendGroup(rtf, kindWords(picture), metafileSize(picture), picture, picture.bytes);
-        break;
-    case PictureKind::Png:
-    case PictureKind::Jpeg:
-        // What names no size must not get one by its pixels, which may be nothing but a claim.
-        if (const QSize pixels = pixelSize(picture); picture.goalWidth > 0 && !pixels.isEmpty()) {
-            appendGroup(rtf, kindWords(picture), pixels, picture, picture.bytes);
-            break;
-        }
-        [[fallthrough]];
-    default:
-        appendGroup(rtf, kindWords(picture), {picture.width, picture.height}, picture,
-                    picture.bytes);
-    }
+    appendGroup(rtf, kindWords(picture), sourceSize(picture), picture, picture.bytes);
     return rtf;
 }
 

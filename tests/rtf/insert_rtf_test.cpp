@@ -49,6 +49,7 @@ private slots:
     void everyRunCarriesItsLook();
     void lengthsBecomePixels();
     void bulletsAndNumbersBecomeLists();
+    void bulletsOfTheTablesHangByTheirOwnIndents();
     void aPictureKeepsItsBytesAndItsWantedSize_data();
     void aPictureKeepsItsBytesAndItsWantedSize();
     void aPictureComesOnceOfTheTwoForms();
@@ -201,6 +202,20 @@ void InsertRtfTest::bulletsAndNumbersBecomeLists() {
     const QTextBlock d = document.lastBlock();
     QVERIFY(d.textList());
     QCOMPARE(d.textList()->itemText(d), QStringLiteral("2."));
+}
+
+void InsertRtfTest::bulletsOfTheTablesHangByTheirOwnIndents() {
+    QTextDocument document;
+    readRtf("{\\rtf1{\\*\\listtable{\\list{\\listlevel\\levelnfc23}\\listid7}}"
+            "{\\*\\listoverridetable{\\listoverride\\listid7\\ls1}}"
+            "\\pard\\ls1 a\\par\\pard\\ls1\\li720 b\\par}",
+            document);
+    // The first needs room for its bullet, which the second has: one list can't give it to both.
+    const QTextList* outer = document.firstBlock().textList();
+    const QTextList* inner = document.lastBlock().textList();
+    QVERIFY(outer && inner);
+    QCOMPARE(outer->format().indent(), 1);
+    QCOMPARE(inner->format().indent(), 0);
 }
 
 void InsertRtfTest::aPictureKeepsItsBytesAndItsWantedSize_data() {

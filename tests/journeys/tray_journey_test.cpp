@@ -81,6 +81,8 @@ public:
 
     bool isUp() const { return m_up; }
     bool hasItem() const { return !m_watcher.items().isEmpty(); }
+    /// Whether the item that came last is up; it goes with the tray and comes again.
+    bool itemAnswers() { return !menuPath().isEmpty(); }
 
     QVariant property(const QString& name) {
         QDBusMessage ask = call(u"/StatusNotifierItem"_s, u"org.freedesktop.DBus.Properties"_s,
@@ -407,6 +409,7 @@ void TrayJourneyTest::anAlarmLivesInAStatusNotifierTray() {
     QVERIFY2(settled(program, u"frmnotes"_s), "two quick activations are a double click");
     QVERIFY(program.click(u"frmnotes/imgExit"_s));
     QVERIFY(waitUntil([&] { return !program.control(u"frmnotes"_s).visible; }, 5000));
+    QVERIFY(waitUntil([&] { return host.itemAnswers(); }, 5000));
     QCOMPARE(host.openMenu(),
              (QStringList{u"Show Orvalis"_s, u"-"_s, u"Create Sticker"_s, u"-"_s, u"Exit"_s}));
     host.askForMenu();

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/hyperlink.h"
 
-#include "rtf/field_words.h"
-
 using namespace Qt::StringLiterals;
 
 namespace orvalis::rtf {
@@ -11,6 +9,29 @@ namespace orvalis::rtf {
 namespace {
 
 constexpr QStringView keyword = u"HYPERLINK";
+
+// Takes one word off the front: what stands in quotes, or up to the next blank. Inside quotes a
+// backslash stands before a quote or another backslash.
+QString takeWord(QStringView& text) {
+    text = text.trimmed();
+    QString word;
+    if (!text.startsWith(u'"')) {
+        qsizetype end = 0;
+        while (end < text.size() && !text[end].isSpace())
+            ++end;
+        word = text.first(end).toString();
+        text = text.sliced(end);
+        return word;
+    }
+    qsizetype at = 1;
+    for (; at < text.size() && text[at] != u'"'; ++at) {
+        const bool escape = text[at] == u'\\' && at + 1 < text.size() &&
+                            (text[at + 1] == u'\\' || text[at + 1] == u'"');
+        word += text[escape ? ++at : at];
+    }
+    text = text.sliced(std::min(at + 1, text.size()));
+    return word;
+}
 
 } // namespace
 
@@ -23,15 +44,15 @@ QString hyperlinkTarget(QStringView instruction) {
     QString place;
     while (!instruction.trimmed().isEmpty()) {
         const bool quoted = instruction.trimmed().startsWith(u'"');
-        const QString word = takeFieldWord(instruction);
+        const QString word = takeWord(instruction);
         // One backslash begins a switch, two the name of a server.
         if (quoted || !word.startsWith(u'\\') || word.startsWith(u"\\\\")) {
             if (target.isEmpty())
                 target = word;
         } else if (word == u"\\l") {
-            place = takeFieldWord(instruction);
+            place = takeWord(instruction);
         } else if (word == u"\\o" || word == u"\\t") {
-            takeFieldWord(instruction);
+            takeWord(instruction);
         }
     }
     return place.isEmpty() ? target : target + u'#' + place;

@@ -17,8 +17,7 @@ constexpr double largestTwips = 100000;
 double namedLength(const Picture& picture, int goal, int own) {
     if (goal > 0)
         return goal;
-    const bool metafile = picture.kind == PictureKind::Wmf || picture.kind == PictureKind::Emf;
-    return own * (metafile ? twipsPerHundredthMillimetre : twipsPerBitmapPixel);
+    return own * (isMetafile(picture.kind) ? twipsPerHundredthMillimetre : twipsPerBitmapPixel);
 }
 
 double scaled(double twips, int scale) {

@@ -25,6 +25,10 @@ enum class PictureKind : int {
     Other,             ///< an image file of another kind, which Qt may know
 };
 
+inline constexpr bool isMetafile(PictureKind kind) {
+    return kind == PictureKind::Wmf || kind == PictureKind::Emf;
+}
+
 /// The layout of the rows of a device dependent bitmap.
 struct DeviceBitmap {
     int bitsPerPixel = 1;

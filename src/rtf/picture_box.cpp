@@ -40,9 +40,7 @@ QSizeF boxTwips(const Picture& picture) {
     const QSizeF shown = shownTwips(picture);
     if (shown.isEmpty())
         return {unknownTwips, unknownTwips};
-    const PictureKind kind = kindOfBytes(picture.bytes);
-    const bool drawing = kind == PictureKind::Wmf || kind == PictureKind::Emf;
-    if (drawing || !wantedTwips(picture).isEmpty())
+    if (isMetafile(kindOfBytes(picture.bytes)) || !wantedTwips(picture).isEmpty())
         return shown;
     return shown * std::min(1.0, largestRasterTwips / std::max(shown.width(), shown.height()));
 }

@@ -17,7 +17,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -92,10 +91,6 @@ Shown shownAs(QTextDocument& document, const Picture& picture, MetafileConverter
 PictureKind keptKind(const Picture& picture) {
     const PictureKind found = kindOfBytes(picture.bytes);
     return found == PictureKind::Unknown || found == PictureKind::Other ? picture.kind : found;
-}
-
-bool isMetafile(PictureKind kind) {
-    return kind == PictureKind::Wmf || kind == PictureKind::Emf;
 }
 
 bool isWritable(PictureKind kind) {

@@ -25,11 +25,6 @@ constexpr qint64 mostClaimedPixels = qint64(1) << 27;
 // An inch either way: enough to be seen, too little to be in the way.
 constexpr QSizeF unnamedTwips(twipsPerInch, twipsPerInch);
 
-bool isMetafile(const Picture& picture) {
-    const PictureKind kind = kindOfBytes(picture.bytes);
-    return kind == PictureKind::Wmf || kind == PictureKind::Emf;
-}
-
 // Whether Qt may know the kind, or is to be asked whether it does.
 bool isEncoded(PictureKind kind) {
     return kind == PictureKind::Png || kind == PictureKind::Jpeg || kind == PictureKind::Other ||
@@ -112,7 +107,7 @@ QSizeF shownTwips(const Picture& picture) {
     const QSize pixels = pixelSize(picture);
     if (!pixels.isEmpty())
         return boundedTwips(QSizeF(pixels) * twipsPerPixel);
-    if (!isMetafile(picture))
+    if (!isMetafile(kindOfBytes(picture.bytes)))
         return {};
     const QSizeF window = metafileWindowTwips(picture.bytes);
     return window.isEmpty() ? unnamedTwips : boundedTwips(window);

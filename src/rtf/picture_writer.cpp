@@ -98,7 +98,7 @@ QByteArray withFallback(const QByteArray& first, const QByteArray& fallback) {
 
 // In pixels, or in the unit of a metafile.
 QSize sourceSize(const Picture& picture) {
-    if (picture.kind == PictureKind::Wmf || picture.kind == PictureKind::Emf)
+    if (isMetafile(picture.kind))
         return metafileSize(picture);
     const bool encoded = picture.kind == PictureKind::Png || picture.kind == PictureKind::Jpeg;
     // What names no size must not get one by its pixels, which may be nothing but a claim.

@@ -37,7 +37,8 @@ int main(int argc, char** argv) {
     }
     QApplication::processEvents();
 
-    const double save = medianMilliseconds(Rounds, [&] { SaveGridFile(path, grid.grid()); });
+    const double save = medianMilliseconds(
+        Rounds, [&] { SaveGridFile(path, grid.grid()); });
     const double load = medianMilliseconds(Rounds, [&] { LoadRemindGrid(path, grid.grid()); });
     const double lines = medianMilliseconds(Rounds, [&] {
         QFile file(path);

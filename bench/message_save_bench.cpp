@@ -20,7 +20,8 @@ constexpr int Rounds = 9;
 
 template <class Work>
 double median(Work&& work) {
-    return bench::medianMilliseconds(Rounds, work, [] { QApplication::processEvents(); });
+    return bench::medianMilliseconds(
+        Rounds, work, [] { QApplication::processEvents(); });
 }
 
 QString message(int number) {

@@ -37,8 +37,8 @@ int main(int argc, char** argv) {
         plain << text;
     }
     int found = 0;
-    const double scan =
-        medianMilliseconds(Rounds, [&] { found += seekReminder(grid, reminderKey(now)) ? 1 : 0; });
+    const double scan = medianMilliseconds(
+        Rounds, [&] { found += seekReminder(grid, reminderKey(now)) ? 1 : 0; });
     const double walk =
         medianMilliseconds(Rounds, [&] { found += plain.contains(reminderKey(now)) ? 1 : 0; });
     std::printf("scan of %d rows: %.4f ms, a plain list %.4f ms (limit %.1f ms)\n", Rows, scan,

@@ -67,24 +67,26 @@ void pressKey(QTextEdit& edit) {
 }
 
 void keys(RichTextBox& box, QTextEdit& bare) {
-    constexpr int count = 200;
+    constexpr int Count = 200;
     box.SetSelStart(Characters / 2);
     QTextCursor middle(bare.document());
     middle.setPosition(bare.document()->characterCount() / 2);
     bare.setTextCursor(middle);
     (void)box.Text();
     qint64 sum = 0;
-    const double asked = medianMilliseconds(count, [&] {
-        pressKey(box);
-        sum += box.SelStart() + box.Text().size();
-    });
-    const double plain = medianMilliseconds(count, [&] { pressKey(bare); });
+    const double asked = medianMilliseconds(
+        Count,
+        [&] {
+            pressKey(box);
+            sum += box.SelStart() + box.Text().size();
+        });
+    const double plain = medianMilliseconds(Count, [&] { pressKey(bare); });
     tell("a key in 1 MB, with SelStart and Text read behind it", asked, 0, "bare editor, a key",
          plain);
-    const double rebuilt =
-        medianMilliseconds(count, [&] { sum += bare.document()->toPlainText().size(); });
+    const double rebuilt = medianMilliseconds(
+        Count, [&] { sum += bare.document()->toPlainText().size(); });
     const double read =
-        medianMilliseconds(count, [&] { sum += box.SelStart() + box.Text().size(); });
+        medianMilliseconds(Count, [&] { sum += box.SelStart() + box.Text().size(); });
     tell("SelStart and Text of 1 MB", read, 0, "a rebuilt text", rebuilt);
     if (sum == 0)
         std::printf("nothing was read\n");
@@ -177,24 +179,26 @@ void appending() {
     layOut(list);
     RichTextBox message;
     message.SetText(u"buy milk"_s);
-    const double time = medianMilliseconds(9, [&] {
-        list.SetSelStart(int(list.Text().size()));
-        list.SetSelText(u"\r\nTitle\r\n___________________\r\n"_s);
-        list.SetSelText(u"\r\n"_s);
-        list.SetSelRTF(message.TextRTF());
-        list.SetSelFontName(u"Arial"_s);
-        list.SetSelFontSize(8);
-        list.SetSelBold(false);
-        list.SetSelItalic(false);
-        list.SetSelStrikeThru(false);
-        list.SetSelUnderline(false);
-        list.SetSelColor(255);
-        list.SetSelText(u"\r\n\r\n    To do: Saturday, June 01, 2002"_s);
-        list.SetSelColor(0);
-        list.SetSelText(u"\r\n    Saved: 6/1/2002 10:24:36 AM\r\n___________________\r\n"_s);
-        list.SaveFile(folder.filePath(u"Vazno.rtf"_s), 0);
-        list.SetSelStart(int(list.Text().size()));
-    });
+    const double time = medianMilliseconds(
+        9,
+        [&] {
+            list.SetSelStart(int(list.Text().size()));
+            list.SetSelText(u"\r\nTitle\r\n___________________\r\n"_s);
+            list.SetSelText(u"\r\n"_s);
+            list.SetSelRTF(message.TextRTF());
+            list.SetSelFontName(u"Arial"_s);
+            list.SetSelFontSize(8);
+            list.SetSelBold(false);
+            list.SetSelItalic(false);
+            list.SetSelStrikeThru(false);
+            list.SetSelUnderline(false);
+            list.SetSelColor(255);
+            list.SetSelText(u"\r\n\r\n    To do: Saturday, June 01, 2002"_s);
+            list.SetSelColor(0);
+            list.SetSelText(u"\r\n    Saved: 6/1/2002 10:24:36 AM\r\n___________________\r\n"_s);
+            list.SaveFile(folder.filePath(u"Vazno.rtf"_s), 0);
+            list.SetSelStart(int(list.Text().size()));
+        });
     const double writing = medianMilliseconds(9, [&] { (void)list.TextRTF(); });
     std::printf("%lld characters: ", static_cast<long long>(list.Text().size()));
     tell("an entry appended to 5,000 and saved", time, 150, "writing the RTF alone", writing);

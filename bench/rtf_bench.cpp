@@ -80,15 +80,15 @@ private:
     int below(int limit) { return int(m_random.bounded(limit)); }
 
     void words(int count) {
-        static constexpr const char* known[] = {
+        static constexpr const char* Known[] = {
             "letter", "the",      "of",      "morning", "a",   "price",   "calls", "and",
             "to",     "Saturday", "dentist", "garden",  "key", "because", "seven", "caf\\'e9"};
         for (; count > 0; --count)
-            m_rtf.append(known[below(int(std::size(known)))]).append(' ');
+            m_rtf.append(Known[below(int(std::size(Known)))]).append(' ');
     }
 
     void terseParagraph() {
-        static constexpr std::pair<const char*, const char*> looks[] = {
+        static constexpr std::pair<const char*, const char*> Looks[] = {
             {"\\b ", "\\b0 "},          {"\\i ", "\\i0 "},  {"{\\ul ", "}"},
             {"\\cf1 ", "\\cf0 "},       {"{\\super ", "}"}, {"\\f1\\fs28 ", "\\f0\\fs20 "},
             {"\\strike ", "\\strike0 "}};
@@ -104,7 +104,7 @@ private:
             m_rtf += "\\pard\\sa100 ";
         for (int sentence = 1 + below(3); sentence > 0; --sentence) {
             words(8 + below(20));
-            const auto& [on, off] = looks[below(int(std::size(looks)))];
+            const auto& [on, off] = Looks[below(int(std::size(Looks)))];
             m_rtf += on;
             words(1 + below(4));
             m_rtf += off;
@@ -119,7 +119,7 @@ private:
     }
 
     void wordyParagraph() {
-        static constexpr const char* looks[] = {"\\b",   "\\i",    "\\ul",
+        static constexpr const char* Looks[] = {"\\b",   "\\i",    "\\ul",
                                                 "\\cf2", "\\fs28", "\\highlight1"};
         m_rtf +=
             "\\pard\\plain \\ltrpar\\qj\\fi284\\li0\\ri0\\sa160\\sl259\\slmult1\\widctlpar"
@@ -129,7 +129,7 @@ private:
             m_rtf += "{\\rtlch\\fcs1 \\af0 \\ltrch\\fcs0 \\insrsid4738105 ";
             words(8 + below(20));
             m_rtf += "}{\\rtlch\\fcs1 \\af0 \\ltrch\\fcs0 ";
-            m_rtf += looks[below(int(std::size(looks)))];
+            m_rtf += Looks[below(int(std::size(Looks)))];
             m_rtf += "\\insrsid13261 ";
             words(1 + below(4));
             m_rtf += "}";
@@ -188,10 +188,12 @@ private:
 };
 
 double readingSeconds(const QByteArray& rtf) {
-    return processorSeconds(Rounds, [&] {
-        NullSink sink;
-        readRtf(rtf, sink);
-    });
+    return processorSeconds(
+        Rounds,
+        [&] {
+            NullSink sink;
+            readRtf(rtf, sink);
+        });
 }
 
 void readerAlone(const QByteArray& rtf) {

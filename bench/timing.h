@@ -39,7 +39,8 @@ double medianMilliseconds(int rounds, Work&& work, Between&& between) {
 
 template <class Work>
 double medianMilliseconds(int rounds, Work&& work) {
-    return medianMilliseconds(rounds, work, [] {});
+    return medianMilliseconds(
+        rounds, work, [] {});
 }
 
 /// Processor time of the work in seconds, the least of some rounds: what else the machine does only

@@ -31,7 +31,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const QByteArrayView bytes(data, static_cast<qsizetype>(size));
     const QString text = decodeText(bytes);
     for (const GridColours* colours :
-         {static_cast<const GridColours*>(nullptr), &remindColours, &priorityColours}) {
+         {static_cast<const GridColours*>(nullptr), &RemindColours, &PriorityColours}) {
         GridModel grid;
         const GridModel::Batch batch(grid);
         endSilently([&] { fillGrid(grid, text, colours); });

@@ -27,10 +27,9 @@ IniDocument writtenAndRead(const IniDocument& document) {
 void requireStable(const IniDocument& document) {
     const IniDocument again = writtenAndRead(document);
     require(again.sections() == document.sections());
-    for (const QString& section : document.sections()) {
+    for (const QString& section : document.sections())
         for (const auto& name : {u"Start"_s, u"1st"_s, u"FN"_s, QString()})
             require(again.value(section, name) == document.value(section, name));
-    }
 }
 
 /// Any section, name and text can be set in any document, read back and removed.

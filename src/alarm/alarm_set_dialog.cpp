@@ -79,9 +79,11 @@ void frmAlSet::makeTimeControls(QWidget& frame) {
     m_Label5 = caption(frame, u"Label5"_s, u"00:00:00"_s, {150, 33, 96, 26});
     m_Label5->setAlignment(Qt::AlignCenter);
     m_Label5->setFont(skin::font(ChoicePoints, true));
-    connect(m_Label5, &Label::Change, this,
-            [this] { setWindowTitle(u"Alarm Time Set:  "_s + m_Label5->Caption()); });
-    connect(m_Combo1, &ComboBox::Change, this, [this] { timeTyped(*m_Combo1, LastHour); });
+    connect(
+        m_Label5, &Label::Change, this,
+        [this] { setWindowTitle(u"Alarm Time Set:  "_s + m_Label5->Caption()); });
+    connect(
+        m_Combo1, &ComboBox::Change, this, [this] { timeTyped(*m_Combo1, LastHour); });
     connect(m_Combo2, &ComboBox::Change, this, [this] { timeTyped(*m_Combo2, LastMinute); });
     connect(m_Combo1, &ComboBox::Click, this, &frmAlSet::showChoice);
     connect(m_Combo2, &ComboBox::Click, this, &frmAlSet::showChoice);

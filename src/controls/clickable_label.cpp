@@ -18,20 +18,17 @@ ClickableLabel::ClickableLabel(QWidget* parent)
 }
 
 void ClickableLabel::press() {
-    if (!isEnabled()) {
+    if (!isEnabled())
         return;
-    }
     const QPointer<ClickableLabel> self(this);
     const QPointF middle = QRectF(rect()).center();
     const auto x = static_cast<float>(middle.x());
     const auto y = static_cast<float>(middle.y());
     emit MouseDown(1, 0, x, y);
-    if (self) {
+    if (self)
         emit Click();
-    }
-    if (self) {
+    if (self)
         emit MouseUp(1, 0, x, y);
-    }
 }
 
 bool ClickableLabel::isPressable() const {
@@ -51,9 +48,8 @@ void ClickableLabel::leaveEvent(QEvent* event) {
 
 void ClickableLabel::mousePressEvent(QMouseEvent* event) {
     event->accept();
-    if (event->button() == Qt::LeftButton) {
+    if (event->button() == Qt::LeftButton)
         m_leftHeld = true;
-    }
     emit MouseDown(buttonNumber(event->button()), shiftNumber(event->modifiers()),
                    static_cast<float>(event->position().x()),
                    static_cast<float>(event->position().y()));
@@ -62,9 +58,8 @@ void ClickableLabel::mousePressEvent(QMouseEvent* event) {
 void ClickableLabel::mouseDoubleClickEvent(QMouseEvent* event) {
     const QPointer<ClickableLabel> self(this);
     mousePressEvent(event);
-    if (self) {
+    if (self)
         emit DblClick();
-    }
 }
 
 void ClickableLabel::mouseMoveEvent(QMouseEvent* event) {
@@ -81,12 +76,10 @@ void ClickableLabel::mouseReleaseEvent(QMouseEvent* event) {
     const QPointF point = event->position();
     const QPointer<ClickableLabel> self(this);
     if (event->button() == Qt::LeftButton && std::exchange(m_leftHeld, false) &&
-        rect().contains(point.toPoint())) {
+        rect().contains(point.toPoint()))
         emit Click();
-    }
-    if (self) {
+    if (self)
         emit MouseUp(button, shift, static_cast<float>(point.x()), static_cast<float>(point.y()));
-    }
 }
 
 } // namespace orvalis

@@ -21,7 +21,8 @@ ComboBox::ComboBox(QWidget* parent, Style style)
         emit Click();
     });
     // The list's own first entry becomes the text of an empty box: that is filling, not a change.
-    connect(model(), &QAbstractItemModel::rowsAboutToBeInserted, this, [this] { ++m_filling; });
+    connect(
+        model(), &QAbstractItemModel::rowsAboutToBeInserted, this, [this] { ++m_filling; });
     connect(model(), &QAbstractItemModel::rowsInserted, this, [this] { --m_filling; });
     if (style == Style::DropDown) {
         setEditable(true);
@@ -43,20 +44,17 @@ void ComboBox::AddItem(const QString& text) {
     const QString before = Text();
     const int index = currentIndex();
     addItem(text);
-    if (currentIndex() != index) {
+    if (currentIndex() != index)
         setCurrentIndex(index);
-    }
-    if (lineEdit() && lineEdit()->text() != before) {
+    if (lineEdit() && lineEdit()->text() != before)
         lineEdit()->setText(before);
-    }
 }
 
 void ComboBox::Clear() {
     const QScopedValueRollback filling(m_filling, m_filling + 1);
     clear();
-    if (lineEdit()) {
+    if (lineEdit())
         lineEdit()->clear();
-    }
 }
 
 int ComboBox::ListIndex() const {
@@ -69,13 +67,11 @@ void ComboBox::setText(const QString& text) {
         return;
     }
     // Two entries may read the same: the one that stands there stays.
-    if (text == Text()) {
+    if (text == Text())
         return;
-    }
     const int index = findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    if (index >= 0) {
+    if (index >= 0)
         setCurrentIndex(index);
-    }
 }
 
 void ComboBox::hidePopup() {
@@ -94,9 +90,8 @@ void ComboBox::keyPressEvent(QKeyEvent* event) {
                  key == Qt::Key_PageDown;
     const QPointer<ComboBox> self(this);
     QComboBox::keyPressEvent(event);
-    if (self) {
+    if (self)
         m_choosing = false;
-    }
 }
 
 void ComboBox::wheelEvent(QWheelEvent* event) {
@@ -107,15 +102,13 @@ void ComboBox::wheelEvent(QWheelEvent* event) {
     m_choosing = true;
     const QPointer<ComboBox> self(this);
     QComboBox::wheelEvent(event);
-    if (self) {
+    if (self)
         m_choosing = false;
-    }
 }
 
 void ComboBox::textChanged() {
-    if (m_filling == 0 && !m_choosing) {
+    if (m_filling == 0 && !m_choosing)
         emit Change();
-    }
 }
 
 } // namespace orvalis

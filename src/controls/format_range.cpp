@@ -19,7 +19,7 @@
 namespace orvalis {
 namespace {
 
-constexpr qreal twipsPerInch = 1440;
+constexpr qreal TwipsPerInch = 1440;
 
 /// The size of a picture in logical pixels as the layout will take it.
 QSizeF pictureSize(const QTextDocument& document, const QTextImageFormat& format) {
@@ -57,7 +57,7 @@ int RangeFormatter::format(const QTextDocument& document, const TextPositions& p
     auto first = std::upper_bound(m_lines.begin(), m_lines.end(), firstPosition, behind);
     if (first != m_lines.begin())
         --first;
-    const qreal height = range.rect.height() * range.device->logicalDpiY() / twipsPerInch;
+    const qreal height = range.rect.height() * range.device->logicalDpiY() / TwipsPerInch;
     auto line = first + 1;
     while (line != m_lines.end() && line->bottom - first->top <= height && !line->startsPage &&
            (line->position < stopPosition || stop == length))
@@ -85,9 +85,9 @@ void RangeFormatter::prepare(const QTextDocument& document, const FormatRange& r
     QTextOption option = m_copy->defaultTextOption();
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     m_copy->setDefaultTextOption(option);
-    shrinkPictures(page / twipsPerPixel);
+    shrinkPictures(page / TwipsPerPixel);
     m_copy->documentLayout()->setPaintDevice(range.device);
-    m_copy->setTextWidth(page.width() * range.device->logicalDpiX() / twipsPerInch);
+    m_copy->setTextWidth(page.width() * range.device->logicalDpiX() / TwipsPerInch);
     collectLines();
 }
 
@@ -148,8 +148,8 @@ void RangeFormatter::collectLines() {
 
 void RangeFormatter::draw(const FormatRange& range, const Line& first, const Line& last) {
     QPainter& painter = *range.painter;
-    const qreal unitsX = range.device->logicalDpiX() / twipsPerInch;
-    const qreal unitsY = range.device->logicalDpiY() / twipsPerInch;
+    const qreal unitsX = range.device->logicalDpiX() / TwipsPerInch;
+    const qreal unitsY = range.device->logicalDpiY() / TwipsPerInch;
     const QRectF band(-range.rect.left() * unitsX, first.top,
                       (range.rect.right() + range.rect.left()) * unitsX, last.bottom - first.top);
     painter.save();

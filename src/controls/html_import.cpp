@@ -39,8 +39,8 @@ protected:
 
 /// How much larger than ordinary text a step of HTML's sizes is, from -2 to 4.
 qreal stepFactor(int step) {
-    constexpr qreal factors[] = {0.7, 0.8, 1.0, 1.2, 1.5, 2.0, 2.4};
-    return factors[qBound(-2, step, 4) + 2];
+    constexpr qreal Factors[] = {0.7, 0.8, 1.0, 1.2, 1.5, 2.0, 2.4};
+    return Factors[qBound(-2, step, 4) + 2];
 }
 
 class HtmlInserter {
@@ -54,10 +54,9 @@ public:
         m_target.beginEditBlock();
         m_target.removeSelectedText();
         m_ownParagraph = m_target.blockFormat();
-        for (QTextBlock block = m_page.begin(); block.isValid(); block = block.next()) {
+        for (QTextBlock block = m_page.begin(); block.isValid(); block = block.next())
             if (!isFiller(block))
                 insertBlock(block);
-        }
         m_target.endEditBlock();
     }
 
@@ -124,9 +123,9 @@ private:
         } else {
             m_list->add(m_target.block());
         }
-        constexpr qreal room = 24;
+        constexpr qreal Room = 24;
         QTextBlockFormat paragraph = m_target.blockFormat();
-        paragraph.setLeftMargin(room * list.format().indent());
+        paragraph.setLeftMargin(Room * list.format().indent());
         m_target.setBlockFormat(paragraph);
     }
 

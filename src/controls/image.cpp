@@ -18,13 +18,11 @@ Image::Image(const QString& name, QWidget* parent)
 }
 
 void Image::setPicture(const PictureSource& picture) {
-    if (m_picture == picture) {
+    if (m_picture == picture)
         return;
-    }
     m_picture = picture;
-    if (!testAttribute(Qt::WA_Resized) && !picture.isNull()) {
+    if (!testAttribute(Qt::WA_Resized) && !picture.isNull())
         resize(picture.size());
-    }
     render();
 }
 
@@ -48,13 +46,11 @@ QString Image::spokenName() const {
 }
 
 void Image::setHovered(bool hovered) {
-    if (m_hovered == hovered) {
+    if (m_hovered == hovered)
         return;
-    }
     m_hovered = hovered;
-    if (!m_hoverPicture.isNull()) {
+    if (!m_hoverPicture.isNull())
         render();
-    }
 }
 
 const PictureSource& Image::pictureOnShow() const {
@@ -66,18 +62,16 @@ void Image::render() {
 }
 
 QPixmap Image::disabledPixmap() const {
-    if (!m_disabledPicture.isNull()) {
+    if (!m_disabledPicture.isNull())
         return m_disabledPicture.pixmap(size(), devicePixelRatioF());
-    }
     QStyleOption option;
     option.initFrom(this);
     return style()->generatedIconPixmap(QIcon::Disabled, pixmap(), &option);
 }
 
 bool Image::event(QEvent* event) {
-    if (event->type() == QEvent::ToolTipChange) {
+    if (event->type() == QEvent::ToolTipChange)
         setAccessibleName(toolTip().trimmed());
-    }
     return ClickableLabel::event(event);
 }
 
@@ -100,12 +94,10 @@ void Image::hideEvent(QHideEvent* event) {
 
 void Image::paintEvent(QPaintEvent*) {
     // The window may have come to a screen of another ratio since the picture was drawn.
-    if (!pictureOnShow().isNull() && pixmap().devicePixelRatio() != devicePixelRatioF()) {
+    if (!pictureOnShow().isNull() && pixmap().devicePixelRatio() != devicePixelRatioF())
         render();
-    }
-    if (pixmap().isNull()) {
+    if (pixmap().isNull())
         return;
-    }
     QPainter painter(this);
     painter.drawPixmap(rect(), isEnabled() ? pixmap() : disabledPixmap());
 }

@@ -16,9 +16,8 @@ Label::Label(const QString& name, const QString& caption, QWidget* parent)
 }
 
 void Label::setCaption(const QString& caption) {
-    if (caption == text()) {
+    if (caption == text())
         return;
-    }
     QLabel::setText(caption);
     emit Change();
 }

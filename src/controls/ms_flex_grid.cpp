@@ -103,10 +103,12 @@ private:
 };
 
 bool isPrintable(const QString& text) {
-    return !text.isEmpty() && std::all_of(text.cbegin(), text.cend(), [](QChar character) {
-        return character.isPrint() || character.isSurrogate() ||
-               character.category() == QChar::Other_Format;
-    });
+    return !text.isEmpty() && std::all_of(
+                                  text.cbegin(), text.cend(),
+                                  [](QChar character) {
+                                      return character.isPrint() || character.isSurrogate() ||
+                                             character.category() == QChar::Other_Format;
+                                  });
 }
 
 /// Control alone makes a command; together with Alt it is AltGr, which writes on some platforms.

@@ -11,7 +11,7 @@ namespace orvalis {
 
 namespace {
 // A picture is on show at few sizes at a time: its own, a scaled one, and those of a screen left.
-constexpr std::size_t keptRenderings = 6;
+constexpr std::size_t KeptRenderings = 6;
 } // namespace
 
 struct PictureSource::Shared {
@@ -27,15 +27,13 @@ struct PictureSource::Shared {
 };
 
 PictureSource::PictureSource(const QPixmap& pixmap) {
-    if (pixmap.isNull()) {
+    if (pixmap.isNull())
         return;
-    }
     const QSize own = pixmap.deviceIndependentSize().toSize();
     *this = PictureSource(own, [pixmap](const QSize& size, qreal ratio) {
         const QSize pixels = (QSizeF(size) * ratio).toSize();
-        if (pixels == pixmap.size() && pixmap.devicePixelRatio() == ratio) {
+        if (pixels == pixmap.size() && pixmap.devicePixelRatio() == ratio)
             return pixmap;
-        }
         return pixmap.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     });
 }
@@ -48,23 +46,19 @@ QSize PictureSource::size() const {
 }
 
 QPixmap PictureSource::pixmap(const QSize& size, qreal ratio) const {
-    if (!m_picture || size.isEmpty()) {
+    if (!m_picture || size.isEmpty())
         return {};
-    }
     auto& kept = m_picture->renderings;
     const auto found = std::find_if(kept.cbegin(), kept.cend(), [&](const auto& rendering) {
         return rendering.size == size && rendering.ratio == ratio;
     });
-    if (found != kept.cend()) {
+    if (found != kept.cend())
         return found->pixmap;
-    }
     QPixmap made = m_picture->renderer(size, ratio);
-    if (made.devicePixelRatio() != ratio) {
+    if (made.devicePixelRatio() != ratio)
         made.setDevicePixelRatio(ratio);
-    }
-    if (kept.size() == keptRenderings) {
+    if (kept.size() == KeptRenderings)
         kept.erase(kept.begin());
-    }
     kept.push_back({size, ratio, made});
     return made;
 }

@@ -18,34 +18,30 @@ public:
         , m_pressable(pressable) {}
 
     QAccessible::Role role() const override {
-        if (isButton()) {
+        if (isButton())
             return QAccessible::Button;
-        }
         const auto* label = qobject_cast<const QLabel*>(widget());
         return label && label->text().isEmpty() ? QAccessible::Graphic : QAccessible::StaticText;
     }
 
     QString text(QAccessible::Text kind) const override {
-        if (kind == QAccessible::Name && isValid()) {
+        if (kind == QAccessible::Name && isValid())
             return m_pressable->spokenName();
-        }
         return QAccessibleWidget::text(kind);
     }
 
     QStringList actionNames() const override {
         QStringList names;
-        if (isButton() && widget()->isEnabled()) {
+        if (isButton() && widget()->isEnabled())
             names << pressAction();
-        }
         return names + QAccessibleWidget::actionNames();
     }
 
     void doAction(const QString& name) override {
-        if (name != pressAction()) {
+        if (name != pressAction())
             QAccessibleWidget::doAction(name);
-        } else if (isButton() && widget()->isEnabled()) {
+        else if (isButton() && widget()->isEnabled())
             m_pressable->press();
-        }
     }
 
 private:

@@ -28,11 +28,11 @@ namespace {
 using namespace Qt::StringLiterals;
 
 /// The names under which desktops and programs know RTF.
-const QString rtfNames[] = {u"text/rtf"_s, u"application/rtf"_s, u"text/richtext"_s,
+const QString RtfNames[] = {u"text/rtf"_s, u"application/rtf"_s, u"text/richtext"_s,
                             u"application/x-qt-windows-mime;value=\"Rich Text Format\""_s};
 /// Names that some programs use beside these or instead of them.
-const QString furtherRtfNames[] = {u"Rich Text Format"_s, u"application/x-rtf"_s, u"text/x-rtf"_s};
-const QString pictureNames[] = {u"image/png"_s, u"image/jpeg"_s};
+const QString FurtherRtfNames[] = {u"Rich Text Format"_s, u"application/x-rtf"_s, u"text/x-rtf"_s};
+const QString PictureNames[] = {u"image/png"_s, u"image/jpeg"_s};
 
 QByteArray rtfOf(const QMimeData& data) {
     QByteArray bytes;
@@ -41,14 +41,14 @@ QByteArray rtfOf(const QMimeData& data) {
         return rtf::looksLikeRtf(bytes);
     };
     const bool offered =
-        std::any_of(std::begin(rtfNames), std::end(rtfNames), offers) ||
-        std::any_of(std::begin(furtherRtfNames), std::end(furtherRtfNames), offers);
+        std::any_of(std::begin(RtfNames), std::end(RtfNames), offers) ||
+        std::any_of(std::begin(FurtherRtfNames), std::end(FurtherRtfNames), offers);
     return offered ? bytes : QByteArray();
 }
 
 /// The picture's own bytes where they can be kept, so that a photograph stays as small as it is.
 QByteArray pictureOf(const QMimeData& data) {
-    for (const QString& name : pictureNames) {
+    for (const QString& name : PictureNames) {
         const QByteArray bytes = data.data(name);
         if (!bytes.isEmpty())
             return bytes;
@@ -64,9 +64,9 @@ QByteArray pictureOf(const QMimeData& data) {
 }
 
 bool offersPicture(const QMimeData& data) {
-    return data.hasImage() ||
-           std::any_of(std::begin(pictureNames), std::end(pictureNames),
-                       [&](const QString& name) { return data.hasFormat(name); });
+    return data.hasImage() || std::any_of(
+                                  std::begin(PictureNames), std::end(PictureNames),
+                                  [&](const QString& name) { return data.hasFormat(name); });
 }
 
 bool takePicture(const QMimeData& data, QTextCursor& selection) {
@@ -182,7 +182,7 @@ std::unique_ptr<QMimeData> clipboardData(const QTextCursor& selection, const QSt
     auto data = std::make_unique<QMimeData>();
     const QByteArray rtf =
         rtf::writeRtf(*selection.document(), selection.selectionStart(), selection.selectionEnd());
-    for (const QString& name : rtfNames)
+    for (const QString& name : RtfNames)
         data->setData(name, rtf);
     data->setHtml(htmlOf(selection));
     data->setText(QString(plain).replace(u"\r\n"_s, u"\n"_s));

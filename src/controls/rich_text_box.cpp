@@ -32,12 +32,11 @@ void require(bool valid) {
 QByteArray bytesOfRtf(const QString& rtf) {
     QByteArray bytes;
     bytes.reserve(rtf.size());
-    for (const QChar c : rtf) {
+    for (const QChar c : rtf)
         if (c.unicode() < 0x80)
             bytes += char(c.unicode());
         else
             bytes += "{\\uc0\\u" + QByteArray::number(qint16(c.unicode())) + " }";
-    }
     return bytes;
 }
 

@@ -21,12 +21,11 @@ namespace orvalis {
 namespace {
 
 bool deletes(const QKeyEvent& event) {
-    for (const auto key : {QKeySequence::Delete, QKeySequence::DeleteStartOfWord,
-                           QKeySequence::DeleteEndOfWord, QKeySequence::DeleteEndOfLine,
-                           QKeySequence::DeleteCompleteLine, QKeySequence::Backspace}) {
+    for (const auto key :
+         {QKeySequence::Delete, QKeySequence::DeleteStartOfWord, QKeySequence::DeleteEndOfWord,
+          QKeySequence::DeleteEndOfLine, QKeySequence::DeleteCompleteLine, QKeySequence::Backspace})
         if (event.matches(key))
             return true;
-    }
     return event.key() == Qt::Key_Backspace || event.key() == Qt::Key_Delete;
 }
 
@@ -272,8 +271,10 @@ void RichTextBox::contextMenuEvent(QContextMenuEvent* event) {
     const bool selected = editCursor().hasSelection();
     add(tr("&Undo"), QStringLiteral("editUndo"), writable && CanUndo(), [this] { Undo(); });
     menu.addSeparator();
-    add(tr("Cu&t"), QStringLiteral("editCut"), writable && selected, [this] { Cut(); });
-    add(tr("&Copy"), QStringLiteral("editCopy"), selected, [this] { Copy(); });
+    add(
+        tr("Cu&t"), QStringLiteral("editCut"), writable && selected, [this] { Cut(); });
+    add(
+        tr("&Copy"), QStringLiteral("editCopy"), selected, [this] { Copy(); });
     add(tr("&Paste"), QStringLiteral("editPaste"), CanPaste(), [this] { Paste(); });
     add(tr("&Delete"), QStringLiteral("editDelete"), writable && selected, [this] {
         const UndoKindScope kind(*m_undoKinds, UndoKind::Delete);

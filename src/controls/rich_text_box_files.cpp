@@ -21,9 +21,12 @@ namespace {
 /// Whether a text was written where lines end with LF alone. Scrambled text, which may hold an LF
 /// as a code like any other, holds other control characters too.
 bool endsLinesWithLf(QStringView text) {
-    return text.contains(u'\n') && std::none_of(text.begin(), text.end(), [](QChar c) {
-               return (c < u' ' && c != u'\n' && c != u'\t' && c != u'\f') || c == u'\x7F';
-           });
+    return text.contains(u'\n') &&
+           std::none_of(
+               text.begin(), text.end(),
+               [](QChar c) {
+                   return (c < u' ' && c != u'\n' && c != u'\t' && c != u'\f') || c == u'\x7F';
+               });
 }
 
 QString plainTextOf(QByteArrayView bytes, RichTextBox::PlainFile kind) {

@@ -56,8 +56,8 @@ void RichTextBox::SetSelItalic(bool on) {
 }
 
 std::optional<bool> RichTextBox::SelUnderline() const {
-    return commonOfRuns<bool>(editCursor(),
-                              [](const QTextCharFormat& format) { return format.fontUnderline(); });
+    return commonOfRuns<bool>(
+        editCursor(), [](const QTextCharFormat& format) { return format.fontUnderline(); });
 }
 
 void RichTextBox::SetSelUnderline(bool on) {
@@ -67,8 +67,8 @@ void RichTextBox::SetSelUnderline(bool on) {
 }
 
 std::optional<bool> RichTextBox::SelStrikeThru() const {
-    return commonOfRuns<bool>(editCursor(),
-                              [](const QTextCharFormat& format) { return format.fontStrikeOut(); });
+    return commonOfRuns<bool>(
+        editCursor(), [](const QTextCharFormat& format) { return format.fontStrikeOut(); });
 }
 
 void RichTextBox::SetSelStrikeThru(bool on) {

@@ -8,7 +8,7 @@ class CommonDialog;
 class RichTextBox;
 
 /// Flags of every font dialog of the program: screen and printer fonts, with the effects.
-constexpr int fontDialogFlags = 259;
+constexpr int FontDialogFlags = 259;
 
 /// Loads the dialog from the box's selection: italic, bold, name, size, strikethrough, underline,
 /// colour, in this order.

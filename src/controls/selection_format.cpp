@@ -19,15 +19,15 @@ namespace {
 /// An indent that the paragraph's margin does not follow.
 constexpr int RequestedIndent = QTextFormat::UserProperty + 0x5190;
 /// How far a bullet hangs left of its text.
-constexpr int bulletTwips = 360;
+constexpr int BulletTwips = 360;
 /// The furthest that an indent shows, far outside any window and any page.
-constexpr int mostShownIndent = 1'000'000;
+constexpr int MostShownIndent = 1'000'000;
 
 int shownIndent(int twips) {
-    return qBound(0, twips, mostShownIndent);
+    return qBound(0, twips, MostShownIndent);
 }
 
-constexpr Qt::Alignment alignments[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter,
+constexpr Qt::Alignment Alignments[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter,
                                         Qt::AlignJustify};
 
 struct Run {
@@ -176,13 +176,13 @@ QString familyOf(const QTextCharFormat& format, const QFont& defaultFont) {
 }
 
 qreal pointsOf(const QTextCharFormat& format, const QFont& defaultFont) {
-    constexpr qreal pointsPerPixel = 0.75;
+    constexpr qreal PointsPerPixel = 0.75;
     if (format.hasProperty(QTextFormat::FontPointSize))
         return format.fontPointSize();
     if (format.hasProperty(QTextFormat::FontPixelSize))
-        return format.intProperty(QTextFormat::FontPixelSize) * pointsPerPixel;
+        return format.intProperty(QTextFormat::FontPixelSize) * PointsPerPixel;
     return defaultFont.pointSizeF() > 0 ? defaultFont.pointSizeF()
-                                        : defaultFont.pixelSize() * pointsPerPixel;
+                                        : defaultFont.pixelSize() * PointsPerPixel;
 }
 
 bool isBold(const QTextCharFormat& format, const QFont& defaultFont) {
@@ -208,10 +208,12 @@ int alignmentOf(const QTextBlock& block) {
 }
 
 void alignParagraphs(QTextCursor& selection, int alignment) {
-    changeParagraphs(selection, [&](const QTextBlock& block, QTextBlockFormat& format) {
-        if (alignmentOf(block) != alignment)
-            format.setAlignment(alignments[alignment]);
-    });
+    changeParagraphs(
+        selection,
+        [&](const QTextBlock& block, QTextBlockFormat& format) {
+            if (alignmentOf(block) != alignment)
+                format.setAlignment(Alignments[alignment]);
+        });
 }
 
 int indentOf(const QTextBlock& block) {
@@ -222,16 +224,18 @@ int indentOf(const QTextBlock& block) {
 }
 
 void indentParagraphs(QTextCursor& selection, int twips) {
-    changeParagraphs(selection, [&](const QTextBlock& block, QTextBlockFormat& format) {
-        if (indentOf(block) == twips)
-            return;
-        if (twips != shownIndent(twips))
-            format.setProperty(RequestedIndent, twips);
-        else
-            format.clearProperty(RequestedIndent);
-        const qreal margin = twipsToPixelsF(shownIndent(twips) - firstIndentOf(format));
-        format.setLeftMargin(margin - steppedMargin(block));
-    });
+    changeParagraphs(
+        selection,
+        [&](const QTextBlock& block, QTextBlockFormat& format) {
+            if (indentOf(block) == twips)
+                return;
+            if (twips != shownIndent(twips))
+                format.setProperty(RequestedIndent, twips);
+            else
+                format.clearProperty(RequestedIndent);
+            const qreal margin = twipsToPixelsF(shownIndent(twips) - firstIndentOf(format));
+            format.setLeftMargin(margin - steppedMargin(block));
+        });
 }
 
 bool hasBullet(const QTextBlock& block) {
@@ -258,8 +262,8 @@ void bulletParagraphs(QTextCursor& selection, bool on) {
             }
             rtf::showLabel(format);
             format.setObjectIndex(list->objectIndex());
-            format.setProperty(rtf::ParagraphFirstIndent, -bulletTwips);
-            format.setLeftMargin(twipsToPixelsF(shownIndent(indent) + bulletTwips));
+            format.setProperty(rtf::ParagraphFirstIndent, -BulletTwips);
+            format.setLeftMargin(twipsToPixelsF(shownIndent(indent) + BulletTwips));
         } else {
             format.setObjectIndex(-1);
             format.clearProperty(rtf::ParagraphFirstIndent);

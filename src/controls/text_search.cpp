@@ -41,10 +41,9 @@ qsizetype findInText(QStringView plain, const TextSearch& search, qsizetype star
         return -1;
     const QStringView within = plain.left(end);
     for (qsizetype at = within.indexOf(search.text, start, sensitivity); at >= 0;
-         at = within.indexOf(search.text, at + 1, sensitivity)) {
+         at = within.indexOf(search.text, at + 1, sensitivity))
         if (!search.wholeWord || (wordBeginsAt(plain, at) && wordEndsAt(plain, at + size)))
             return at;
-    }
     return -1;
 }
 
@@ -58,11 +57,11 @@ int findText(const TextPositions& positions, const TextSearch& search, int start
 
     // In the middle of many edits the whole text is not at hand, and the next match is near: it is
     // looked for in pieces that grow.
-    constexpr int beside = 2; // what a word's ends are judged by
+    constexpr int Beside = 2; // what a word's ends are judged by
     int piece = 4096 + 2 * size;
     for (int at = start; at <= end - size;) {
-        const int from = positions.positionOf(at - beside);
-        const int to = positions.positionOf(std::min(at + piece, end) + beside);
+        const int from = positions.positionOf(at - Beside);
+        const int to = positions.positionOf(std::min(at + piece, end) + Beside);
         const QString plain = positions.between(from, to);
         const int base = positions.indexOf(from);
         const int limit = std::min(at + piece, end);

@@ -9,23 +9,22 @@
 namespace orvalis {
 
 namespace {
-constexpr char twipsProperty[] = "twipsGeometry";
-constexpr char pixelsProperty[] = "twipsGeometryPixels";
+constexpr char TwipsProperty[] = "twipsGeometry";
+constexpr char PixelsProperty[] = "twipsGeometryPixels";
 } // namespace
 
 QRectF twipsGeometry(const QWidget& widget) {
     const QRect pixels = widget.geometry();
-    if (widget.property(pixelsProperty).toRect() == pixels) {
-        return widget.property(twipsProperty).toRectF();
-    }
-    return QRectF(QPointF(pixels.topLeft()) * twipsPerPixel, QSizeF(pixels.size()) * twipsPerPixel);
+    if (widget.property(PixelsProperty).toRect() == pixels)
+        return widget.property(TwipsProperty).toRectF();
+    return QRectF(QPointF(pixels.topLeft()) * TwipsPerPixel, QSizeF(pixels.size()) * TwipsPerPixel);
 }
 
 void setTwipsGeometry(QWidget& widget, const QRectF& twips) {
     widget.setGeometry(twipsToPixels(twips.left()), twipsToPixels(twips.top()),
                        twipsToPixels(twips.width()), twipsToPixels(twips.height()));
-    widget.setProperty(twipsProperty, twips);
-    widget.setProperty(pixelsProperty, widget.geometry());
+    widget.setProperty(TwipsProperty, twips);
+    widget.setProperty(PixelsProperty, widget.geometry());
 }
 
 } // namespace orvalis

@@ -101,19 +101,20 @@ void ChromeWindow::makePanelLabels() {
     lblRem->setAttribute(Qt::WA_TransparentForMouseEvents);
     setInk(lblRem, skin::colour::TitleInk);
 
-    static constexpr std::array<QRect, 3> places{QRect(146, 14, 70, 22), QRect(218, 14, 70, 22),
+    static constexpr std::array<QRect, 3> Places{QRect(146, 14, 70, 22), QRect(218, 14, 70, 22),
                                                  QRect(290, 14, 72, 22)};
     for (std::size_t i = 0; i < m_row.labels.size(); ++i) {
         const PanelLabel& entry = m_row.labels.at(i);
         auto* label = new Label(entry.name, entry.caption, this);
-        label->setGeometry(places.at(i));
+        label->setGeometry(Places.at(i));
         label->setAlignment(Qt::AlignCenter);
         label->setFont(skin::font(10));
         label->setCursor(Qt::PointingHandCursor);
         setInk(label, skin::colour::LabelInk);
-        connect(label, &Label::MouseEnter, label, [label] { setInk(label, skin::colour::Teal); });
-        connect(label, &Label::MouseExit, label,
-                [label] { setInk(label, skin::colour::LabelInk); });
+        connect(
+            label, &Label::MouseEnter, label, [label] { setInk(label, skin::colour::Teal); });
+        connect(
+            label, &Label::MouseExit, label, [label] { setInk(label, skin::colour::LabelInk); });
         const auto lead = [this, target = entry.target] { openPanel(target); };
         if (m_row.labelEvent == LabelEvent::MouseDown)
             connect(label, &Label::MouseDown, this, lead);

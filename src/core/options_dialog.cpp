@@ -134,7 +134,7 @@ void frmOptions::makeTimeFrame() {
     m_lstvreme = new ComboBox(u"lstvreme"_s, frame, ComboBox::Style::DropDownList);
     m_lstvreme->setGeometry(12, 19, 206, 23);
     m_lstvreme->setAccessibleName(frame->title());
-    m_lstvreme->setMaxVisibleItems(clockFormatCount);
+    m_lstvreme->setMaxVisibleItems(ClockFormatCount);
     connect(m_lstvreme, &ComboBox::Click, this, &frmOptions::lstvremeClick);
 }
 

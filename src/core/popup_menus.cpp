@@ -34,11 +34,14 @@ QMenu* frmdel1::makeHelpMenu() {
         action->setObjectName(name);
         connect(action, &QAction::triggered, this, handler);
     };
-    entry(u"mnuh1"_s, u"&Contents..."_s, [this] {
-        ShowHelpFile(m_help, m_program.services.app.companion(u"orvalis.chm"_s), winId(), 0);
-    });
-    entry(u"mnuh2"_s, u"&Options..."_s,
-          [this] { m_program.windows.get<OptionsWindow>().form().Show(); });
+    entry(
+        u"mnuh1"_s, u"&Contents..."_s,
+        [this] {
+            ShowHelpFile(m_help, m_program.services.app.companion(u"orvalis.chm"_s), winId(), 0);
+        });
+    entry(
+        u"mnuh2"_s, u"&Options..."_s,
+        [this] { m_program.windows.get<OptionsWindow>().form().Show(); });
     entry(u"mnuabout"_s, u"&About..."_s, [this] { m_program.windows.get<AboutBox>().showModal(); });
     return menu;
 }

@@ -82,11 +82,9 @@ Kind kindOf(const QWidget& widget) {
         {Kind::PictureBox, isPlain(widget, QWidget::staticMetaObject)},
         {Kind::Image, isImage},
     }};
-    for (const auto& [kind, fits] : table) {
-        if (fits) {
+    for (const auto& [kind, fits] : table)
+        if (fits)
             return kind;
-        }
-    }
     return Kind::Other;
 }
 
@@ -105,16 +103,13 @@ double pointSizeOf(const QFont& font) {
 void collect(const QWidget& container, std::vector<Control>& controls) {
     for (QObject* child : container.children()) {
         auto* widget = qobject_cast<QWidget*>(child);
-        if (!widget || widget->isWindow()) {
+        if (!widget || widget->isWindow())
             continue;
-        }
         const Kind kind = kindOf(*widget);
-        if (!widget->objectName().isEmpty()) {
+        if (!widget->objectName().isEmpty())
             controls.push_back({widget, kind, pointSizeOf(widget->font())});
-        }
-        if (kind == Kind::Frame || kind == Kind::PictureBox) {
+        if (kind == Kind::Frame || kind == Kind::PictureBox)
             collect(*widget, controls);
-        }
     }
 }
 
@@ -160,9 +155,8 @@ public:
 
     void font(const Control& control) const {
         const int size = scaledFontSize(control.pointSize, m_factor);
-        if (size < 1) {
+        if (size < 1)
             return;
-        }
         // What stands in a rich text box has sizes of its own, which belong to the document.
         auto* rich = qobject_cast<RichTextBox*>(control.widget);
         if (rich && rich->document()->isEmpty()) {
@@ -171,19 +165,17 @@ public:
         }
         QFont font = control.widget->font();
         font.setPointSize(size);
-        if (auto* button = qobject_cast<orvalis::GGCommand*>(control.widget)) {
+        if (auto* button = qobject_cast<orvalis::GGCommand*>(control.widget))
             button->setFont(font);
-        } else {
+        else
             control.widget->setFont(font);
-        }
     }
 
 private:
     /// Without a ratio not even the pixels are touched.
     void set(QWidget& widget, const QRectF& twips) const {
-        if (m_ratio != 0.0F) {
+        if (m_ratio != 0.0F)
             setTwipsGeometry(widget, twips);
-        }
     }
 
     float m_ratio;
@@ -228,11 +220,10 @@ void scale(const Control& control, const Scaling& scaling, const QStringList& ke
         scaling.place(widget);
         break;
     case Kind::Image:
-        if (kept.contains(nameOf(widget))) {
+        if (kept.contains(nameOf(widget)))
             scaling.move(widget);
-        } else {
+        else
             scaling.place(widget);
-        }
         break;
     case Kind::Other:
         break;
@@ -244,17 +235,14 @@ void scale(const Control& control, const Scaling& scaling, const QStringList& ke
 void clsResize::ResizeForm(QWidget& frm, int designWidth, int currentWidth, const Image* keepA,
                            const Image* keepB, const Image* keepC) const {
     QStringList kept;
-    for (const Image* image : {keepA, keepB, keepC}) {
-        if (image) {
+    for (const Image* image : {keepA, keepB, keepC})
+        if (image)
             kept << nameOf(*image);
-        }
-    }
     std::vector<Control> controls;
     collect(frm, controls);
     const Scaling scaling(layoutRatio(designWidth, currentWidth), fontFactor(m_screenWidth));
-    for (const Control& control : controls) {
+    for (const Control& control : controls)
         scale(control, scaling, kept);
-    }
 }
 
 } // namespace orvalis

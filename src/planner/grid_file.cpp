@@ -88,7 +88,7 @@ void load(const QString& path, GridModel& grid, const GridColours* colours) {
         grid.setRows(1);
         grid.setCols(1);
         grid.Clear();
-        fillGrid(grid, decodeText(readWhole(path, largestGridFile)), colours);
+        fillGrid(grid, decodeText(readWhole(path, LargestGridFile)), colours);
     });
 }
 
@@ -166,11 +166,11 @@ void LoadGridPlain(const QString& path, GridModel& grid) {
 }
 
 void LoadRemindGrid(const QString& path, GridModel& grid) {
-    load(path, grid, &remindColours);
+    load(path, grid, &RemindColours);
 }
 
 void LoadPriorityGrid(const QString& path, GridModel& grid) {
-    load(path, grid, &priorityColours);
+    load(path, grid, &PriorityColours);
 }
 
 bool IsOddRow(int row, QChar decimalSign) {

@@ -37,7 +37,7 @@ void GridToArray(GridArray& array, const GridModel& grid);
 void CopyGridArray(const GridArray& source, GridArray& target);
 
 /// The largest grid file that is read, in bytes.
-constexpr qint64 largestGridFile = qint64{64} * 1024 * 1024;
+constexpr qint64 LargestGridFile = qint64{64} * 1024 * 1024;
 
 /// What a grid file holds, before its encoding: the numbers of rows and columns on a line, each
 /// with a blank ahead and behind, then a line for each cell, row by row.
@@ -58,8 +58,8 @@ struct GridColours {
     ColourValue bodyFore;
 };
 
-constexpr GridColours remindColours{0xA0C8B0, 0, 0xFFFFFF, 0};
-constexpr GridColours priorityColours{255, 0xFFFFFF, 0xFFFFFF, 0};
+constexpr GridColours RemindColours{0xA0C8B0, 0, 0xFFFFFF, 0};
+constexpr GridColours PriorityColours{255, 0xFFFFFF, 0xFFFFFF, 0};
 
 /// Fills the grid with the text of a grid file. \a colours may be null for none.
 /// \throws RuntimeError at the first thing that cannot be (a size that no grid has, a missing

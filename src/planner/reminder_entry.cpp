@@ -35,7 +35,8 @@ QString changedTag() {
 void frmnotes1::connectEntryArea() {
     connect(ui.rt1, &RichTextBox::Change, this, [this] { ui.rt1->SetTag(changedTag()); });
     connect(ui.chkRemind, &QCheckBox::toggled, this, &frmnotes1::chkRemind_Click);
-    connect(ui.Combo1, &ComboBox::Change, this, [this] { Combo_Change(*ui.Combo1, LastHour); });
+    connect(
+        ui.Combo1, &ComboBox::Change, this, [this] { Combo_Change(*ui.Combo1, LastHour); });
     connect(ui.Combo2, &ComboBox::Change, this, [this] { Combo_Change(*ui.Combo2, LastMinute); });
     connect(ui.Combo1, &ComboBox::Click, this, &frmnotes1::showTime);
     connect(ui.Combo2, &ComboBox::Click, this, &frmnotes1::showTime);
@@ -115,7 +116,7 @@ void frmnotes1::Command2_Click() {
     CommonDialog1.CancelError = true;
     const auto failure = firstFailure([this] {
         loadFontFromSelection(CommonDialog1, *ui.rt1);
-        CommonDialog1.Flags = fontDialogFlags;
+        CommonDialog1.Flags = FontDialogFlags;
         CommonDialog1.ShowFont();
         applyFontToSelection(CommonDialog1, *ui.rt1);
         ui.rt1a->SetSelFontName(CommonDialog1.FontName);
@@ -126,7 +127,7 @@ void frmnotes1::Command2_Click() {
     // there is not applied.
     if (failure && failure->number() == ErrorNumber::InvalidUseOfNull)
         endSilently([this] {
-            CommonDialog1.Flags = fontDialogFlags;
+            CommonDialog1.Flags = FontDialogFlags;
             CommonDialog1.ShowFont();
         });
 }

@@ -19,8 +19,9 @@ using namespace Qt::StringLiterals;
 
 void frmnotes1::connectLists() {
     for (std::size_t index = 0; index < ui.cmdmenu.size(); ++index)
-        connect(ui.cmdmenu.at(index), &GGCommand::Click, this,
-                [this, index] { selectSubPanel(index); });
+        connect(
+            ui.cmdmenu.at(index), &GGCommand::Click, this,
+            [this, index] { selectSubPanel(index); });
     connect(ui.MS1, &MSFlexGrid::KeyPress, this, [this](const QString& key) {
         endSilently([&] { typeIntoGrid(ui.MS1->grid(), key); });
     });
@@ -43,7 +44,7 @@ void frmnotes1::selectSubPanel(std::size_t index) {
 }
 
 void frmnotes1::MS3_KeyPress(const QString& key) {
-    if (ui.MS3->CellBackColor() == remindColours.headerBack) {
+    if (ui.MS3->CellBackColor() == RemindColours.headerBack) {
         program().boxes().MsgBox(u"Can't edit this field."_s, MsgFlags::StopIcon, u"Remind List"_s);
         return;
     }

@@ -39,12 +39,15 @@ frmnotes1::frmnotes1(Program& program)
     connectEntryArea();
     connectFind();
     connectLists();
-    connect(ui.MonthView1, &MonthView::DateClick, this, [this](QDate date) {
-        ui.Label9->setCaption(shortDate(date));
-        HoverReset();
-    });
-    connect(lblVreme, &Label::Change, this,
-            [this] { ui.MonthView1->setToday(this->program().services.clock.date()); });
+    connect(
+        ui.MonthView1, &MonthView::DateClick, this,
+        [this](QDate date) {
+            ui.Label9->setCaption(shortDate(date));
+            HoverReset();
+        });
+    connect(
+        lblVreme, &Label::Change, this,
+        [this] { ui.MonthView1->setToday(this->program().services.clock.date()); });
     connect(ui.imgNot, &Image::Click, this, [this] {
         if (StickerMaker* stickers = this->program().stickers)
             stickers->newFrmstick().form().Show();

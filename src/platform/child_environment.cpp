@@ -8,7 +8,7 @@ namespace orvalis {
 
 QProcessEnvironment childEnvironment() {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    const QString variable = QString::fromLatin1(scaleVariable);
+    const QString variable = QString::fromLatin1(ScaleVariable);
     const QByteArray users = userScaleFactor();
     if (users.isEmpty())
         environment.remove(variable);

@@ -33,7 +33,7 @@ double desktopFactor(const DisplayScreen& screen) {
 } // namespace
 
 double userFactor() {
-    return positive(qgetenv(scaleVariable)).value_or(1);
+    return positive(qgetenv(ScaleVariable)).value_or(1);
 }
 
 DisplayServer displayServer() {

@@ -81,12 +81,11 @@ QByteArray IniDocument::bytes() const {
 
 QStringList IniDocument::sections() const {
     QStringList names;
-    for (const Line& line : m_lines) {
+    for (const Line& line : m_lines)
         if (line.kind == Line::Kind::Section)
             names << line.name;
         else if (line.kind == Line::Kind::Value && names.isEmpty())
             names << QString();
-    }
     return names;
 }
 
@@ -95,10 +94,9 @@ bool IniDocument::hasSection(QStringView section) const {
 }
 
 qsizetype IniDocument::findSection(QStringView section) const {
-    for (qsizetype i = 0; i < m_lines.size(); ++i) {
+    for (qsizetype i = 0; i < m_lines.size(); ++i)
         if (m_lines[i].kind == Line::Kind::Section && same(m_lines[i].name, section))
             return i;
-    }
     return -1;
 }
 

@@ -20,10 +20,10 @@ namespace orvalis {
 namespace {
 
 /// Far more than all settings take; a larger file is none of ours.
-constexpr qint64 largestSettings = qint64{1024} * 1024;
+constexpr qint64 LargestSettings = qint64{1024} * 1024;
 
 /// How long a write waits for another program's, in milliseconds.
-constexpr int patience = 500;
+constexpr int Patience = 500;
 
 QStringList keysOf(const QString& path) {
     return path.split(u'\\', Qt::SkipEmptyParts);
@@ -44,7 +44,7 @@ QString sectionOf(Hive hive, const QString& path) {
 /// What stands in the file; nothing where it can't be read as settings.
 std::optional<IniDocument> readDocument(const QString& filePath) {
     std::optional<IniDocument> document;
-    endSilently([&] { document = IniDocument::parse(readWhole(filePath, largestSettings)); });
+    endSilently([&] { document = IniDocument::parse(readWhole(filePath, LargestSettings)); });
     return document;
 }
 
@@ -98,7 +98,7 @@ bool IniSettingsStore::removeValue(Hive hive, const QString& path, const QString
 bool IniSettingsStore::change(const std::function<void(IniDocument&)>& edit) {
     QDir().mkpath(QFileInfo(m_filePath).absolutePath());
     QLockFile lock(m_filePath + u".lock"_s);
-    lock.tryLock(patience); // where no lock can be made, the write itself tells whether it may be
+    lock.tryLock(Patience); // where no lock can be made, the write itself tells whether it may be
     return endSilently([&] {
         std::optional<IniDocument> document = readDocument(m_filePath);
         if (!document && !keepUnreadable(m_filePath))

@@ -12,9 +12,9 @@ namespace orvalis {
 
 namespace {
 
-constexpr QStringView numberPrefix = u"dword:";
-constexpr QStringView expandPrefix = u"expand:";
-constexpr QStringView bytesPrefix = u"hex(";
+constexpr QStringView NumberPrefix = u"dword:";
+constexpr QStringView ExpandPrefix = u"expand:";
+constexpr QStringView BytesPrefix = u"hex(";
 
 /// What no editor shows as it stands; the byte-order mark would be dropped at a file's start.
 bool isControl(QChar c) {
@@ -30,7 +30,7 @@ QString quoted(const QString& text) {
     // Halves of a character that stand alone can't be told in UTF-8.
     const bool escapeSurrogates = !text.isValidUtf16();
     QString written = u"\""_s;
-    for (const QChar c : text) {
+    for (const QChar c : text)
         if (c == u'"' || c == u'\\')
             written += u'\\' + QString(c);
         else if (c == u'\n')
@@ -43,7 +43,6 @@ QString quoted(const QString& text) {
             written += u"\\u%1"_s.arg(c.unicode(), 4, 16, QChar(u'0'));
         else
             written += c;
-    }
     return written + u'"';
 }
 
@@ -102,8 +101,8 @@ bool hasPrefix(QStringView text, QStringView prefix) {
 
 QString writtenText(const QString& text) {
     const bool plain = text == text.trimmed() && !text.startsWith(u'"') && !holdsControls(text) &&
-                       text.isValidUtf16() && !hasPrefix(text, numberPrefix) &&
-                       !hasPrefix(text, expandPrefix) && !hasPrefix(text, bytesPrefix);
+                       text.isValidUtf16() && !hasPrefix(text, NumberPrefix) &&
+                       !hasPrefix(text, ExpandPrefix) && !hasPrefix(text, BytesPrefix);
     return plain ? text : quoted(text);
 }
 
@@ -157,21 +156,21 @@ QString writtenIniValue(const StoredValue& value) {
     case REG_SZ:
         return writtenText(value.text);
     case REG_EXPAND_SZ:
-        return expandPrefix.toString() + quoted(value.text);
+        return ExpandPrefix.toString() + quoted(value.text);
     case REG_DWORD:
-        return numberPrefix.toString() + u"%1"_s.arg(value.number, 8, 16, QChar(u'0'));
+        return NumberPrefix.toString() + u"%1"_s.arg(value.number, 8, 16, QChar(u'0'));
     default:
         return u"hex(%1):"_s.arg(value.type, 0, 16) + QString::fromLatin1(value.bytes.toHex(','));
     }
 }
 
 std::optional<StoredValue> readIniValue(QStringView written) {
-    if (hasPrefix(written, numberPrefix))
-        return readNumber(written.sliced(numberPrefix.size()));
-    if (hasPrefix(written, bytesPrefix))
-        return readBytes(written.sliced(bytesPrefix.size()));
-    const bool expand = hasPrefix(written, expandPrefix);
-    const QStringView rest = expand ? written.sliced(expandPrefix.size()) : written;
+    if (hasPrefix(written, NumberPrefix))
+        return readNumber(written.sliced(NumberPrefix.size()));
+    if (hasPrefix(written, BytesPrefix))
+        return readBytes(written.sliced(BytesPrefix.size()));
+    const bool expand = hasPrefix(written, ExpandPrefix);
+    const QStringView rest = expand ? written.sliced(ExpandPrefix.size()) : written;
     std::optional<QString> text;
     if (expand || rest.startsWith(u'"'))
         text = unquoted(rest);

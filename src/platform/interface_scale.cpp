@@ -12,11 +12,11 @@ namespace orvalis {
 
 namespace {
 
-constexpr double drawnWidth = 900;
-constexpr double drawnHeight = 600;
-constexpr double stepsToOne = 8;
+constexpr double DrawnWidth = 900;
+constexpr double DrawnHeight = 600;
+constexpr double StepsToOne = 8;
 /// A screen that fits exactly must not lose a step to a quotient's last digit.
-constexpr double slack = 1e-6;
+constexpr double Slack = 1e-6;
 
 /// The user's scale factor while ours stands in its place.
 std::optional<QByteArray>& replacedFactor() {
@@ -27,16 +27,16 @@ std::optional<QByteArray>& replacedFactor() {
 } // namespace
 
 double interfaceScale(double width, double height) {
-    const double fitting = std::min(width / drawnWidth, height / drawnHeight);
-    return std::max(1.0, std::floor(fitting * stepsToOne + slack) / stepsToOne);
+    const double fitting = std::min(width / DrawnWidth, height / DrawnHeight);
+    return std::max(1.0, std::floor(fitting * StepsToOne + Slack) / StepsToOne);
 }
 
 double applyInterfaceScale() {
     const std::optional<QSizeF> screen = primaryScreenSize();
     const double scale = screen ? interfaceScale(screen->width(), screen->height()) : 1.0;
     if (scale > 1.0 && !replacedFactor()) {
-        replacedFactor() = qgetenv(scaleVariable);
-        qputenv(scaleVariable, QByteArray::number(userFactor() * scale));
+        replacedFactor() = qgetenv(ScaleVariable);
+        qputenv(ScaleVariable, QByteArray::number(userFactor() * scale));
     }
     return scale;
 }
@@ -46,14 +46,14 @@ void withdrawInterfaceScale() {
     if (!replacedFactor())
         return;
     if (replacedFactor()->isEmpty())
-        qunsetenv(scaleVariable);
+        qunsetenv(ScaleVariable);
     else
-        qputenv(scaleVariable, *replacedFactor());
+        qputenv(ScaleVariable, *replacedFactor());
     replacedFactor().reset();
 }
 
 QByteArray userScaleFactor() {
-    return replacedFactor().value_or(qgetenv(scaleVariable));
+    return replacedFactor().value_or(qgetenv(ScaleVariable));
 }
 
 } // namespace orvalis

@@ -7,7 +7,7 @@
 namespace orvalis {
 
 /// The environment's variable by which the user scales programs, and by which Qt is told here.
-constexpr const char* scaleVariable = "QT_SCALE_FACTOR";
+constexpr const char* ScaleVariable = "QT_SCALE_FACTOR";
 
 /// How much larger than drawn the windows are on a screen of that size, in the desktop's own units:
 /// the largest multiple of an eighth at which a desktop of 900 by 600 fits, at least 1.

@@ -17,7 +17,7 @@ namespace {
 /// A text as the value of a key of a desktop entry.
 QString escapedValue(const QString& text) {
     QString escaped;
-    for (const QChar c : text) {
+    for (const QChar c : text)
         if (c == u'\\')
             escaped += u"\\\\"_s;
         else if (c == u'\n')
@@ -28,7 +28,6 @@ QString escapedValue(const QString& text) {
             escaped += u"\\t"_s;
         else
             escaped += c;
-    }
     return escaped;
 }
 

@@ -20,14 +20,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int pictureMilliseconds = 1500;
+constexpr int PictureMilliseconds = 1500;
 /// A document may hold thousands of metafiles, each of which takes its time: all of them together
 /// get this much of each stretch.
-constexpr qint64 stretchMilliseconds = 30'000;
-constexpr qint64 budgetMilliseconds = 3'000;
+constexpr qint64 StretchMilliseconds = 30'000;
+constexpr qint64 BudgetMilliseconds = 3'000;
 
-constexpr qsizetype largestMetafile = 16 * 1024 * 1024;
-constexpr int largestSide = 4096;
+constexpr qsizetype LargestMetafile = 16 * 1024 * 1024;
+constexpr int LargestSide = 4096;
 
 #ifdef Q_OS_UNIX
 void limitChild() {
@@ -43,15 +43,15 @@ void limitChild() {
 } // namespace
 
 bool MetafileProcess::mayRun() {
-    if (!m_sinceFirst.isValid() || m_sinceFirst.elapsed() > stretchMilliseconds) {
+    if (!m_sinceFirst.isValid() || m_sinceFirst.elapsed() > StretchMilliseconds) {
         m_sinceFirst.start();
         m_spent = 0;
     }
-    return m_spent < budgetMilliseconds;
+    return m_spent < BudgetMilliseconds;
 }
 
 QImage MetafileProcess::convert(QByteArrayView metafile, QSize pixels) {
-    if (metafile.size() > largestMetafile || pixels.isEmpty() || !mayRun())
+    if (metafile.size() > LargestMetafile || pixels.isEmpty() || !mayRun())
         return {};
     const QTemporaryDir folder;
     QFile source(folder.filePath(u"picture.wmf"_s));
@@ -71,13 +71,13 @@ QImage MetafileProcess::convert(QByteArrayView metafile, QSize pixels) {
     QElapsedTimer timer;
     timer.start();
     process.start(u"wmf2gd"_s, {u"-t"_s, u"png"_s, u"--maxsize"_s,
-                                u"--maxwidth=%1"_s.arg(std::min(pixels.width(), largestSide)),
-                                u"--maxheight=%1"_s.arg(std::min(pixels.height(), largestSide)),
+                                u"--maxwidth=%1"_s.arg(std::min(pixels.width(), LargestSide)),
+                                u"--maxheight=%1"_s.arg(std::min(pixels.height(), LargestSide)),
                                 u"-o"_s, target, source.fileName()});
-    const bool finished = process.waitForFinished(pictureMilliseconds);
+    const bool finished = process.waitForFinished(PictureMilliseconds);
     if (!finished) {
         process.kill();
-        process.waitForFinished(pictureMilliseconds);
+        process.waitForFinished(PictureMilliseconds);
     }
     m_spent += timer.elapsed();
     return finished ? QImage(target, "PNG") : QImage();

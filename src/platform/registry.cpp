@@ -14,12 +14,12 @@ namespace orvalis {
 
 namespace {
 
-constexpr int success = 0;
-constexpr int unknownType = -1;
-constexpr int accessDenied = 5;
+constexpr int Success = 0;
+constexpr int UnknownType = -1;
+constexpr int AccessDenied = 5;
 
-constexpr QStringView productKey = u"Orvalis";
-constexpr QStringView runKey = u"Software\\Microsoft\\Windows\\CurrentVersion\\Run";
+constexpr QStringView ProductKey = u"Orvalis";
+constexpr QStringView RunKey = u"Software\\Microsoft\\Windows\\CurrentVersion\\Run";
 
 QString joined(const QString& rootPath, const QString& product, const QString& section) {
     QStringList parts{rootPath, product, section};
@@ -29,7 +29,7 @@ QString joined(const QString& rootPath, const QString& product, const QString& s
 
 bool isRunKey(Hive hive, const QString& subKey) {
     const QString plain = subKey.split(u'\\', Qt::SkipEmptyParts).join(u'\\');
-    return hive == Hive::LocalMachine && plain.compare(runKey, Qt::CaseInsensitive) == 0;
+    return hive == Hive::LocalMachine && plain.compare(RunKey, Qt::CaseInsensitive) == 0;
 }
 
 /// The text of a value: a flag as a word, a number with "." as its decimal sign.
@@ -87,12 +87,12 @@ int Registry::RegQueryVariant(const RegistryKey& key, const QString& valueName,
     case REG_SZ:
     case REG_EXPAND_SZ:
         value = stored->text;
-        return success;
+        return Success;
     case REG_DWORD:
         value = static_cast<int>(stored->number);
-        return success;
+        return Success;
     default:
-        return unknownType;
+        return UnknownType;
     }
 }
 
@@ -104,8 +104,8 @@ int Registry::RegSetVariant(const RegistryKey& key, const QString& valueName, qu
     else if (type == REG_DWORD)
         stored = StoredValue::doubleWord(static_cast<quint32>(value.toInt()));
     else
-        return success;
-    return m_store.setValue(key.hive, key.path, valueName, stored) ? success : accessDenied;
+        return Success;
+    return m_store.setValue(key.hive, key.path, valueName, stored) ? Success : AccessDenied;
 }
 
 void Registry::RunKeySet(Hive hive, const QString& subKey, const QString& valueName,
@@ -122,11 +122,11 @@ void Registry::RunKeyDelete(const QString& valueName) {
 
 QVariant Registry::setting(const QString& section, const QString& valueName,
                            const QVariant& defaultValue) const {
-    return RegGetSetting(productKey.toString(), section, valueName, defaultValue);
+    return RegGetSetting(ProductKey.toString(), section, valueName, defaultValue);
 }
 
 bool Registry::putSetting(const QString& section, const QString& valueName, const QVariant& value) {
-    return RegPutSetting(productKey.toString(), section, valueName, value);
+    return RegPutSetting(ProductKey.toString(), section, valueName, value);
 }
 
 bool settingEquals(const QVariant& setting, double number) {

@@ -11,8 +11,8 @@ namespace orvalis {
 
 namespace {
 
-constexpr int screenWidthIndex = 0;
-constexpr int screenHeightIndex = 1;
+constexpr int ScreenWidthIndex = 0;
+constexpr int ScreenHeightIndex = 1;
 
 /// Where a length that begins at \a start has to begin to lie between \a low and \a high.
 int inside(int start, int length, int low, int high) {
@@ -22,9 +22,9 @@ int inside(int start, int length, int low, int high) {
 } // namespace
 
 int Screen::GetSystemMetrics(int index) const {
-    if (index == screenWidthIndex)
+    if (index == ScreenWidthIndex)
         return size().width();
-    return index == screenHeightIndex ? size().height() : 0;
+    return index == ScreenHeightIndex ? size().height() : 0;
 }
 
 QSize DesktopScreen::size() const {

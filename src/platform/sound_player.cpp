@@ -26,7 +26,7 @@ std::optional<WaveSound> loadWave(const QString& path) {
 PlayAndWait loadOutput(const QStringList& folders) {
     for (const QString& folder : folders) {
         const QFunctionPointer function =
-            QLibrary::resolve(QDir(folder).filePath(u"orvalis_sound"_s), playAndWaitName);
+            QLibrary::resolve(QDir(folder).filePath(u"orvalis_sound"_s), PlayAndWaitName);
         if (function)
             return reinterpret_cast<PlayAndWait>(function);
     }

@@ -17,10 +17,9 @@ using namespace Qt::StringLiterals;
 /// QSystemTrayIcon does not tell.
 QWidget* embeddedWindow() {
     const auto windows = QApplication::topLevelWidgets();
-    for (QWidget* window : windows) {
+    for (QWidget* window : windows)
         if (window->objectName() == u"QSystemTrayIconSys"_s)
             return window;
-    }
     return nullptr;
 }
 

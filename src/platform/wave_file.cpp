@@ -10,10 +10,10 @@ namespace orvalis {
 
 namespace {
 
-constexpr int mostChannels = 8;
-constexpr quint32 highestRate = 192000;
-constexpr qsizetype chunkHeader = 8;
-constexpr qsizetype shortestFormat = 16;
+constexpr int MostChannels = 8;
+constexpr quint32 HighestRate = 192000;
+constexpr qsizetype ChunkHeader = 8;
+constexpr qsizetype ShortestFormat = 16;
 
 enum Encoding : quint16 { PlainNumbers = 1, PlainFloating = 3, Extensible = 0xFFFE };
 
@@ -41,16 +41,16 @@ std::optional<WaveSound::Sample> sampleOf(quint16 encoding, quint16 bits) {
 
 /// The format that a "fmt " chunk tells, still without samples.
 std::optional<WaveSound> formatOf(QByteArrayView chunk) {
-    if (chunk.size() < shortestFormat)
+    if (chunk.size() < ShortestFormat)
         return std::nullopt;
-    constexpr qsizetype subFormat = 24;
+    constexpr qsizetype SubFormat = 24;
     quint16 encoding = at<quint16>(chunk, 0);
-    if (encoding == Extensible && chunk.size() >= subFormat + 2)
-        encoding = at<quint16>(chunk, subFormat);
+    if (encoding == Extensible && chunk.size() >= SubFormat + 2)
+        encoding = at<quint16>(chunk, SubFormat);
     const auto channels = at<quint16>(chunk, 2);
     const auto rate = at<quint32>(chunk, 4);
     const auto sample = sampleOf(encoding, at<quint16>(chunk, 14));
-    if (!sample || channels < 1 || channels > mostChannels || rate < 1 || rate > highestRate)
+    if (!sample || channels < 1 || channels > MostChannels || rate < 1 || rate > HighestRate)
         return std::nullopt;
     return WaveSound{static_cast<int>(rate), channels, *sample, {}};
 }
@@ -75,15 +75,15 @@ qint64 WaveSound::milliseconds() const {
 }
 
 std::optional<WaveSound> readWave(QByteArrayView bytes) {
-    constexpr qsizetype firstChunk = 12;
-    if (bytes.size() < firstChunk || bytes.first(4) != "RIFF" || bytes.sliced(8, 4) != "WAVE")
+    constexpr qsizetype FirstChunk = 12;
+    if (bytes.size() < FirstChunk || bytes.first(4) != "RIFF" || bytes.sliced(8, 4) != "WAVE")
         return std::nullopt;
     std::optional<WaveSound> sound;
-    QByteArrayView rest = bytes.sliced(firstChunk);
-    while (rest.size() >= chunkHeader) {
+    QByteArrayView rest = bytes.sliced(FirstChunk);
+    while (rest.size() >= ChunkHeader) {
         const QByteArrayView name = rest.first(4);
         const auto told = static_cast<qsizetype>(at<quint32>(rest, 4));
-        rest = rest.sliced(chunkHeader);
+        rest = rest.sliced(ChunkHeader);
         const QByteArrayView chunk = rest.first(std::min(told, rest.size()));
         if (name == "fmt ")
             sound = formatOf(chunk);

@@ -31,9 +31,9 @@ Output& outputOf(void* data) {
     return *static_cast<Output*>(data);
 }
 
-constexpr uint32_t outputVersionWithName = 4;
+constexpr uint32_t OutputVersionWithName = 4;
 
-const wl_output_listener outputListener{
+const wl_output_listener OutputListener{
     .geometry =
         [](void* data, wl_output*, int32_t, int32_t, int32_t, int32_t, int32_t, const char*,
            const char*, int32_t transform) {
@@ -55,7 +55,7 @@ const wl_output_listener outputListener{
     .description = [](void*, wl_output*, const char*) {},
 };
 
-const wl_registry_listener registryListener{
+const wl_registry_listener RegistryListener{
     .global =
         [](void* data, wl_registry* registry, uint32_t id, const char* interface,
            uint32_t version) {
@@ -63,8 +63,8 @@ const wl_registry_listener registryListener{
             if (output.proxy || std::strcmp(interface, wl_output_interface.name) != 0)
                 return;
             output.proxy = static_cast<wl_output*>(wl_registry_bind(
-                registry, id, &wl_output_interface, std::min(version, outputVersionWithName)));
-            wl_output_add_listener(output.proxy, &outputListener, data);
+                registry, id, &wl_output_interface, std::min(version, OutputVersionWithName)));
+            wl_output_add_listener(output.proxy, &OutputListener, data);
         },
     .global_remove = [](void*, wl_registry*, uint32_t) {},
 };
@@ -77,7 +77,7 @@ std::optional<DisplayScreen> waylandScreen() {
         return std::nullopt;
     Output output;
     wl_registry* registry = wl_display_get_registry(display.get());
-    wl_registry_add_listener(registry, &registryListener, &output);
+    wl_registry_add_listener(registry, &RegistryListener, &output);
     // Once for the list of what there is, once for what the screen tells of itself.
     const bool answered =
         wl_display_roundtrip(display.get()) >= 0 && wl_display_roundtrip(display.get()) >= 0;

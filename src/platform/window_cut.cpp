@@ -14,7 +14,7 @@ namespace orvalis {
 
 namespace {
 
-constexpr int halfOpaque = 127;
+constexpr int HalfOpaque = 127;
 
 bool knowsShapes(xcb_connection_t* connection) {
     const xcb_query_extension_reply_t* shapes = xcb_get_extension_data(connection, &xcb_shape_id);
@@ -30,9 +30,9 @@ QList<QRect> opaqueRows(const QImage& picture) {
         const uchar* line = alpha.constScanLine(y);
         int left = 0;
         int right = alpha.width() - 1;
-        while (left <= right && line[left] <= halfOpaque)
+        while (left <= right && line[left] <= HalfOpaque)
             ++left;
-        while (right >= left && line[right] <= halfOpaque)
+        while (right >= left && line[right] <= HalfOpaque)
             --right;
         if (left > right)
             continue;

@@ -15,9 +15,9 @@ namespace orvalis {
 
 namespace {
 
-constexpr double plainResolution = 96;          // dots to the inch at which nothing is scaled
-constexpr double settingsUnit = 1024;           // to a dot to the inch, in the desktop's settings
-constexpr quint32 longestProperty = 256 * 1024; // in units of four bytes
+constexpr double PlainResolution = 96;          // dots to the inch at which nothing is scaled
+constexpr double SettingsUnit = 1024;           // to a dot to the inch, in the desktop's settings
+constexpr quint32 LongestProperty = 256 * 1024; // in units of four bytes
 
 struct Disconnect {
     void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
@@ -31,10 +31,9 @@ using Held = std::unique_ptr<Reply, Free>;
 
 xcb_screen_t* screenOf(xcb_connection_t* connection, int number) {
     xcb_screen_iterator_t screens = xcb_setup_roots_iterator(xcb_get_setup(connection));
-    for (; screens.rem > 0; xcb_screen_next(&screens), --number) {
+    for (; screens.rem > 0; xcb_screen_next(&screens), --number)
         if (number == 0)
             return screens.data;
-    }
     return nullptr;
 }
 
@@ -45,7 +44,7 @@ xcb_intern_atom_cookie_t askAtom(xcb_connection_t* connection, const QByteArray&
 xcb_get_property_cookie_t askProperty(xcb_connection_t* connection, xcb_window_t window,
                                       xcb_atom_t name) {
     return xcb_get_property(connection, 0, window, name, XCB_GET_PROPERTY_TYPE_ANY, 0,
-                            longestProperty);
+                            LongestProperty);
 }
 
 /// The answer to a question that was asked before; empty where the server could not tell.
@@ -80,10 +79,9 @@ const xcb_randr_monitor_info_t* primaryOf(const xcb_randr_get_monitors_reply_t* 
     if (!reply)
         return chosen;
     for (auto monitors = xcb_randr_get_monitors_monitors_iterator(reply); monitors.rem > 0;
-         xcb_randr_monitor_info_next(&monitors)) {
+         xcb_randr_monitor_info_next(&monitors))
         if (!chosen || (monitors.data->primary && !chosen->primary))
             chosen = monitors.data;
-    }
     return chosen;
 }
 
@@ -105,7 +103,7 @@ DisplayScreen ask(xcb_connection_t* connection, int number, const xcb_screen_t& 
     const auto owner = xcb_get_selection_owner(connection, atomOf(connection, selectionName));
     const xcb_atom_t settings = atomOf(connection, settingsName);
     double resolution =
-        resolutionOfResources(bytesOf(connection, resources)).value_or(plainResolution);
+        resolutionOfResources(bytesOf(connection, resources)).value_or(PlainResolution);
     Held<xcb_randr_get_monitors_reply_t> monitorsReply;
     if (monitorsKnown)
         monitorsReply = answer(xcb_randr_get_monitors_reply, connection, monitors);
@@ -127,7 +125,7 @@ DisplayScreen ask(xcb_connection_t* connection, int number, const xcb_screen_t& 
     // What the desktop publishes goes before the resource database.
     if (published)
         resolution = resolutionOfSettings(bytesOf(connection, settingsValue)).value_or(resolution);
-    screen.factor = resolution / plainResolution;
+    screen.factor = resolution / PlainResolution;
     return screen;
 }
 
@@ -196,7 +194,7 @@ std::optional<double> resolutionOfSettings(QByteArrayView settings) {
         if (type == Integer) {
             const auto value = reader.number<qint32>();
             if (name == "Xft/DPI" && value > 0 && !reader.failed())
-                return value / settingsUnit;
+                return value / SettingsUnit;
         } else if (type == Text) {
             reader.paddedText(reader.number<quint32>());
         } else if (type == Colour) {

@@ -14,22 +14,22 @@ namespace orvalis::rtf {
 
 namespace {
 
-constexpr double singleLine = 240.0; // of \sl with \slmult1
+constexpr double SingleLine = 240.0; // of \sl with \slmult1
 // The hanging indent of a list item that was made on the screen.
-constexpr int labelIndent = 360; // twips
+constexpr int LabelIndent = 360; // twips
 
 double pixels(int twips) {
-    return twips / twipsPerPixel;
+    return twips / TwipsPerPixel;
 }
 int twips(double pixels) {
-    return int(std::lround(pixels * twipsPerPixel));
+    return int(std::lround(pixels * TwipsPerPixel));
 }
 
 void setLineSpacing(QTextBlockFormat& block, const ParagraphFormat& format) {
     if (format.lineSpacing == 0)
         return;
     if (format.lineMultiple)
-        block.setLineHeight(std::abs(format.lineSpacing) * 100 / singleLine,
+        block.setLineHeight(std::abs(format.lineSpacing) * 100 / SingleLine,
                             QTextBlockFormat::ProportionalHeight);
     else if (format.lineSpacing > 0)
         block.setLineHeight(pixels(format.lineSpacing), QTextBlockFormat::MinimumHeight);
@@ -40,7 +40,7 @@ void setLineSpacing(QTextBlockFormat& block, const ParagraphFormat& format) {
 void readLineSpacing(const QTextBlockFormat& block, ParagraphFormat& format) {
     switch (block.lineHeightType()) {
     case QTextBlockFormat::ProportionalHeight:
-        format.lineSpacing = int(std::lround(block.lineHeight() * singleLine / 100));
+        format.lineSpacing = int(std::lround(block.lineHeight() * SingleLine / 100));
         format.lineMultiple = true;
         break;
     case QTextBlockFormat::MinimumHeight:
@@ -131,7 +131,7 @@ ParagraphFormat paragraphFormat(const QTextBlockFormat& format, const QTextList*
     if (format.hasProperty(ParagraphFirstIndent))
         result.first += format.intProperty(ParagraphFirstIndent);
     else if (result.first == 0)
-        result.first = -std::min(labelIndent, result.left);
+        result.first = -std::min(LabelIndent, result.left);
     return result;
 }
 

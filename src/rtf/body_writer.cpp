@@ -11,7 +11,7 @@ namespace orvalis::rtf {
 
 namespace {
 
-constexpr int factoryTab = 720; // twips, what every reader assumes
+constexpr int FactoryTab = 720; // twips, what every reader assumes
 
 const char* underlineWord(Underline underline) {
     switch (underline) {
@@ -113,13 +113,13 @@ void BodyWriter::changeCapitals(Capitals capitals) {
 void BodyWriter::changeLink(int link) {
     if (link == m_format.link)
         return;
-    if (m_format.link != noName) {
+    if (m_format.link != NoName) {
         // The closing braces bring back what held before the link.
         m_out.structure("}}");
         m_format = m_formatBeforeLink;
         m_fontIsSymbol = m_tables.isSymbolFont(m_format.family);
     }
-    if (link == noName)
+    if (link == NoName)
         return;
     m_formatBeforeLink = m_format;
     m_out.structure("{\\field{\\*\\fldinst{");
@@ -149,7 +149,7 @@ void BodyWriter::picture(const Picture& picture, const CharFormat& format) {
 void BodyWriter::endParagraph(const CharFormat* mark) {
     // A link ends with its paragraph: fields that span paragraphs confuse many readers.
     CharFormat atEnd = mark ? *mark : m_format;
-    atEnd.link = noName;
+    atEnd.link = NoName;
     // A raised text that goes on beyond its paragraph some readers lose, end of paragraph and all.
     if (!mark)
         atEnd.script = Script::Normal;
@@ -161,7 +161,7 @@ QByteArray BodyWriter::file(int defaultTab) const {
     RtfOutput out;
     out.reserve(m_out.bytes().size() + 1024);
     out.structure("{\\rtf1\\ansi\\ansicpg1252\\deff0\\deflang1033");
-    if (defaultTab != factoryTab && defaultTab > 0)
+    if (defaultTab != FactoryTab && defaultTab > 0)
         out.word("\\deftab", defaultTab);
     m_tables.write(out);
     out.structure("{\\*\\generator Orvalis;}\\viewkind4\\uc1");

@@ -10,10 +10,10 @@
 
 namespace orvalis::rtf {
 
-inline constexpr int latin1Page = 1252;
-inline constexpr int utf8Page = 65001;
+inline constexpr int Latin1Page = 1252;
+inline constexpr int Utf8Page = 65001;
 /// Not a page of Windows' own: the codes of its Symbol font.
-inline constexpr int symbolPage = 42;
+inline constexpr int SymbolPage = 42;
 
 /// Turns bytes of one code page into text.
 ///

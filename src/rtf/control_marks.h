@@ -14,8 +14,8 @@ inline constexpr int ControlMarks = QTextFormat::UserProperty + 0x5180;
 namespace marks {
 /// The mark of a code is the Braille cell that shows its bits; of code 0, whose cell would be
 /// empty, the full one.
-inline constexpr char16_t cells = 0x2800;
-inline constexpr char16_t zero = 0x28FF;
+inline constexpr char16_t Cells = 0x2800;
+inline constexpr char16_t Zero = 0x28FF;
 } // namespace marks
 
 /// Whether a document can hold the character only through a mark. A tab is no such character; CR
@@ -25,18 +25,18 @@ constexpr bool needsMark(char16_t c) {
 }
 
 constexpr bool isMark(char16_t c) {
-    return c == marks::zero || (c > marks::cells && c < marks::zero &&
-                                needsMark(static_cast<char16_t>(c - marks::cells)));
+    return c == marks::Zero || (c > marks::Cells && c < marks::Zero &&
+                                needsMark(static_cast<char16_t>(c - marks::Cells)));
 }
 
 /// The mark of a character that needs one.
 constexpr char16_t markOf(char16_t code) {
-    return code == 0 ? marks::zero : static_cast<char16_t>(marks::cells + code);
+    return code == 0 ? marks::Zero : static_cast<char16_t>(marks::Cells + code);
 }
 
 /// The character that a mark stands for.
 constexpr char16_t codeOf(char16_t mark) {
-    return mark == marks::zero ? u'\0' : static_cast<char16_t>(mark - marks::cells);
+    return mark == marks::Zero ? u'\0' : static_cast<char16_t>(mark - marks::Cells);
 }
 
 } // namespace orvalis::rtf

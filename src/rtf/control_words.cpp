@@ -17,7 +17,7 @@ constexpr int as(Value value) {
     return static_cast<int>(value);
 }
 
-constexpr ControlWord words[] = {
+constexpr ControlWord Words[] = {
     {"rtf", Action::Version, 0},
     {"urtf", Action::Utf8Version, 0},
     {"ansi", Action::FixedCodePage, 1252},
@@ -270,24 +270,24 @@ constexpr ControlWord words[] = {
     {"wbmwidthbytes", Action::BitmapRow, 0},
 };
 
-constexpr quint32 slotCount = 1024;
-constexpr qint16 emptySlot = -1;
-static_assert(std::size(words) < slotCount / 2, "the search ends at an empty slot");
+constexpr quint32 SlotCount = 1024;
+constexpr qint16 EmptySlot = -1;
+static_assert(std::size(Words) < SlotCount / 2, "the search ends at an empty slot");
 
 constexpr quint32 slotOf(quint32 hash) {
-    return (hash ^ hash >> 15) & (slotCount - 1);
+    return (hash ^ hash >> 15) & (SlotCount - 1);
 }
 
-constexpr auto slotTable = [] {
-    std::array<qint16, slotCount> table{};
-    table.fill(emptySlot);
-    for (size_t i = 0; i < std::size(words); ++i) {
-        quint32 hash = controlWordHashStart;
-        for (const char* letter = words[i].name; *letter; ++letter)
+constexpr auto SlotTable = [] {
+    std::array<qint16, SlotCount> table{};
+    table.fill(EmptySlot);
+    for (size_t i = 0; i < std::size(Words); ++i) {
+        quint32 hash = ControlWordHashStart;
+        for (const char* letter = Words[i].name; *letter; ++letter)
             hash = controlWordHash(hash, uchar(*letter));
         quint32 slot = slotOf(hash);
-        while (table[slot] != emptySlot)
-            slot = (slot + 1) & (slotCount - 1);
+        while (table[slot] != EmptySlot)
+            slot = (slot + 1) & (SlotCount - 1);
         table[slot] = qint16(i);
     }
     return table;
@@ -297,9 +297,9 @@ constexpr auto slotTable = [] {
 
 const ControlWord* findControlWord(QByteArrayView name, quint32 hash) {
     const std::string_view wanted(name.data(), size_t(name.size()));
-    for (quint32 slot = slotOf(hash); slotTable[slot] != emptySlot;
-         slot = (slot + 1) & (slotCount - 1)) {
-        const ControlWord& word = words[slotTable[slot]];
+    for (quint32 slot = slotOf(hash); SlotTable[slot] != EmptySlot;
+         slot = (slot + 1) & (SlotCount - 1)) {
+        const ControlWord& word = Words[SlotTable[slot]];
         if (wanted == word.name)
             return &word;
     }

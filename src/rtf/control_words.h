@@ -122,7 +122,7 @@ struct ControlWord {
     int value;
 };
 
-inline constexpr quint32 controlWordHashStart = 2166136261u;
+inline constexpr quint32 ControlWordHashStart = 2166136261u;
 
 /// Adds a letter to the hash of a word.
 constexpr quint32 controlWordHash(quint32 hash, uchar letter) {

@@ -12,15 +12,15 @@ namespace orvalis::rtf {
 
 namespace {
 
-constexpr quint32 coreHeaderSize = 12;
-constexpr quint32 infoHeaderSize = 40;
-constexpr quint32 fileHeaderSize = 14;
-constexpr qint64 largestSide = 32767;
+constexpr quint32 CoreHeaderSize = 12;
+constexpr quint32 InfoHeaderSize = 40;
+constexpr quint32 FileHeaderSize = 14;
+constexpr qint64 LargestSide = 32767;
 
-constexpr quint32 compressionNone = 0;
-constexpr quint32 compressionRle8 = 1;
-constexpr quint32 compressionRle4 = 2;
-constexpr quint32 compressionBitFields = 3;
+constexpr quint32 CompressionNone = 0;
+constexpr quint32 CompressionRle8 = 1;
+constexpr quint32 CompressionRle4 = 2;
+constexpr quint32 CompressionBitFields = 3;
 
 struct DibHeader {
     quint32 headerSize = 0;
@@ -34,17 +34,17 @@ struct DibHeader {
 
 bool readHeader(QByteArrayView dib, DibHeader& header) {
     header.headerSize = readU32(dib, 0);
-    const bool core = header.headerSize == coreHeaderSize;
-    if (!core && (header.headerSize < infoHeaderSize || header.headerSize > 256))
+    const bool core = header.headerSize == CoreHeaderSize;
+    if (!core && (header.headerSize < InfoHeaderSize || header.headerSize > 256))
         return false;
     if (dib.size() < qsizetype(header.headerSize))
         return false;
     header.width = core ? readU16(dib, 4) : qint32(readU32(dib, 4));
     header.height = core ? readU16(dib, 6) : qAbs(qint64(qint32(readU32(dib, 8))));
     header.bits = readU16(dib, core ? 10 : 14);
-    header.compression = core ? compressionNone : readU32(dib, 16);
-    if (header.width <= 0 || header.height <= 0 || header.width > largestSide ||
-        header.height > largestSide)
+    header.compression = core ? CompressionNone : readU32(dib, 16);
+    if (header.width <= 0 || header.height <= 0 || header.width > LargestSide ||
+        header.height > LargestSide)
         return false;
     switch (header.bits) {
     case 1:
@@ -63,7 +63,7 @@ bool readHeader(QByteArrayView dib, DibHeader& header) {
     if (colors > 256)
         return false;
     header.paletteBytes = colors * (core ? 3 : 4);
-    if (header.compression == compressionBitFields && header.headerSize == infoHeaderSize)
+    if (header.compression == CompressionBitFields && header.headerSize == InfoHeaderSize)
         header.paletteBytes += 12;
     return true;
 }
@@ -77,9 +77,9 @@ QImage imageOfDib(QByteArrayView dib) {
     const qint64 available = dib.size() - header.pixelOffset();
     const qint64 rowBytes = (header.width * header.bits + 31) / 32 * 4;
     const bool packedRows =
-        header.compression == compressionNone || header.compression == compressionBitFields;
+        header.compression == CompressionNone || header.compression == CompressionBitFields;
     const bool runLength =
-        header.compression == compressionRle8 || header.compression == compressionRle4;
+        header.compression == CompressionRle8 || header.compression == CompressionRle4;
     if (packedRows && rowBytes * header.height > available)
         return {};
     // Each pair of bytes of the run-length forms draws 255 pixels at most.
@@ -89,11 +89,11 @@ QImage imageOfDib(QByteArrayView dib) {
         return {};
 
     QByteArray file;
-    file.reserve(dib.size() + fileHeaderSize);
+    file.reserve(dib.size() + FileHeaderSize);
     file.append("BM", 2);
-    appendU32(file, quint32(dib.size() + fileHeaderSize));
+    appendU32(file, quint32(dib.size() + FileHeaderSize));
     appendU32(file, 0);
-    appendU32(file, quint32(header.pixelOffset() + fileHeaderSize));
+    appendU32(file, quint32(header.pixelOffset() + FileHeaderSize));
     file.append(dib);
     return QImage::fromData(file, "BMP");
 }
@@ -101,7 +101,7 @@ QImage imageOfDib(QByteArrayView dib) {
 QImage imageOfRows(QByteArrayView rows, QSize size, const DeviceBitmap& bitmap) {
     const qint64 width = size.width();
     const qint64 height = size.height();
-    if (width <= 0 || height <= 0 || width > largestSide || height > largestSide ||
+    if (width <= 0 || height <= 0 || width > LargestSide || height > LargestSide ||
         bitmap.planes != 1)
         return {};
     QImage::Format format = QImage::Format_Invalid;
@@ -141,13 +141,13 @@ QByteArray dibOfImage(const QImage& image) {
     }
     const int rowBytes = (opaque.width() * 3 + 3) / 4 * 4;
     QByteArray dib;
-    dib.reserve(infoHeaderSize + qsizetype(rowBytes) * opaque.height());
-    appendU32(dib, infoHeaderSize);
+    dib.reserve(InfoHeaderSize + qsizetype(rowBytes) * opaque.height());
+    appendU32(dib, InfoHeaderSize);
     appendU32(dib, quint32(opaque.width()));
     appendU32(dib, quint32(opaque.height()));
     appendU16(dib, 1);
     appendU16(dib, 24);
-    appendU32(dib, compressionNone);
+    appendU32(dib, CompressionNone);
     appendU32(dib, quint32(rowBytes * opaque.height()));
     for (int unset = 0; unset < 4; ++unset)
         appendU32(dib, 0);

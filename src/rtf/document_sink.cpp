@@ -17,38 +17,38 @@ namespace orvalis::rtf {
 namespace {
 
 // What a document keeps for each of them, undo included, rounded up.
-constexpr qint64 bytesOfRun = 160;
-constexpr qint64 bytesOfParagraph = 400;
-constexpr qint64 bytesOfList = 1200;
-constexpr qint64 bytesOfFormat = 1500;
-constexpr qint64 bytesOfPicture = 3000;
-constexpr int bytesOfPixel = 4;
+constexpr qint64 BytesOfRun = 160;
+constexpr qint64 BytesOfParagraph = 400;
+constexpr qint64 BytesOfList = 1200;
+constexpr qint64 BytesOfFormat = 1500;
+constexpr qint64 BytesOfPicture = 3000;
+constexpr int BytesOfPixel = 4;
 
 // The share of the memory allowed, 40 times the file and 64 MB, that structure and pixels get.
-constexpr qint64 structureShare = 20;
-constexpr qint64 pixelShare = 8;
-constexpr qint64 ground = qint64(24) << 20;
+constexpr qint64 StructureShare = 20;
+constexpr qint64 PixelShare = 8;
+constexpr qint64 Ground = qint64(24) << 20;
 
 // A document searches all formats that differ only in their family, or in their tab stops, for each
 // run and paragraph that it takes. So many are searched before it is felt; each further one costs
 // the time in which so many bytes are filled.
-constexpr qint64 formatsSearchedAtOnce = 64;
-constexpr qint64 bytesOfSearch = 4;
+constexpr qint64 FormatsSearchedAtOnce = 64;
+constexpr qint64 BytesOfSearch = 4;
 
 qint64 searchAmong(qint64 formats) {
-    return std::max<qint64>(formats - formatsSearchedAtOnce, 0) * bytesOfSearch;
+    return std::max<qint64>(formats - FormatsSearchedAtOnce, 0) * BytesOfSearch;
 }
 
-constexpr qint64 mostPixelsOfOne = qint64(1) << 23;
-constexpr size_t mostFormats = 16384;
+constexpr qint64 MostPixelsOfOne = qint64(1) << 23;
+constexpr size_t MostFormats = 16384;
 
 } // namespace
 
 DocumentSink::DocumentSink(QTextCursor& cursor, const ReadOptions& options, qsizetype fileSize)
     : m_cursor(cursor)
     , m_options(options)
-    , m_structureLeft(structureShare * fileSize + ground)
-    , m_pixelBytesLeft(pixelShare * fileSize + ground)
+    , m_structureLeft(StructureShare * fileSize + Ground)
+    , m_pixelBytesLeft(PixelShare * fileSize + Ground)
     , m_intoNothing(cursor.document()->isEmpty())
     , m_textBefore(!cursor.atBlockStart())
     , m_textBehind(!cursor.atBlockEnd())
@@ -67,18 +67,18 @@ bool DocumentSink::spend(qint64 bytes) {
 }
 
 int DocumentSink::formatIndex(const CharFormat& format) {
-    if (m_lastIndex != noName && (format == m_lastFormat || m_structureLeft <= 0))
+    if (m_lastIndex != NoName && (format == m_lastFormat || m_structureLeft <= 0))
         return m_lastIndex;
     m_lastFormat = format;
     const auto found = m_formatIndex.constFind(format);
     if (found != m_formatIndex.constEnd()) {
         m_lastIndex = *found;
-    } else if (m_formats.size() < mostFormats) {
-        spend(bytesOfFormat);
+    } else if (m_formats.size() < MostFormats) {
+        spend(BytesOfFormat);
         m_families.insert(format.family);
         m_formats.push_back(textFormat(format, *m_names));
         // A file that names no font means that of whoever shows it.
-        if (format.family == noName)
+        if (format.family == NoName)
             m_formats.back().setFontFamilies({m_cursor.document()->defaultFont().family()});
         m_lastIndex = int(m_formats.size()) - 1;
         m_formatIndex.insert(format, m_lastIndex);
@@ -89,27 +89,27 @@ int DocumentSink::formatIndex(const CharFormat& format) {
 void DocumentSink::text(QStringView text, const CharFormat& format) {
     const int index = formatIndex(format);
     m_text.append(text);
-    if (!m_runs.empty() && m_runs.back().format == index && m_runs.back().image == noName) {
+    if (!m_runs.empty() && m_runs.back().format == index && m_runs.back().image == NoName) {
         m_runs.back().length += text.size();
         return;
     }
-    spend(bytesOfRun + searchAmong(m_families.size()));
+    spend(BytesOfRun + searchAmong(m_families.size()));
     m_runs.push_back(Run{text.size(), index});
 }
 
 PictureBounds DocumentSink::pictureBounds() const {
-    return {std::min(mostPixelsOfOne, m_pixelBytesLeft / bytesOfPixel)};
+    return {std::min(MostPixelsOfOne, m_pixelBytesLeft / BytesOfPixel)};
 }
 
 bool DocumentSink::picture(const Picture& picture, const CharFormat& format) {
-    if (!spend(bytesOfPicture))
+    if (!spend(BytesOfPicture))
         return false;
     PictureBounds bounds = pictureBounds();
     const QTextImageFormat image =
         pictureFormat(*m_cursor.document(), picture, m_options.metafiles, bounds);
     if (!image.isValid() || image.name().isEmpty())
         return false;
-    m_pixelBytesLeft -= bounds.spentPixels * bytesOfPixel;
+    m_pixelBytesLeft -= bounds.spentPixels * BytesOfPixel;
     const int index = formatIndex(format);
     QTextCharFormat merged = m_formats[size_t(index)];
     merged.merge(format.hidden ? hiddenPicture(image) : image);
@@ -120,7 +120,7 @@ bool DocumentSink::picture(const Picture& picture, const CharFormat& format) {
 }
 
 bool DocumentSink::wantsFallback() const {
-    if (m_runs.empty() || m_runs.back().image == noName)
+    if (m_runs.empty() || m_runs.back().image == NoName)
         return false;
     const QTextImageFormat& last = m_images.back();
     return last.boolProperty(PictureIsBox) && !last.hasProperty(HiddenPictureSize) &&
@@ -130,12 +130,12 @@ bool DocumentSink::wantsFallback() const {
 void DocumentSink::fallbackPicture(const Picture& picture) {
     PictureBounds bounds = pictureBounds();
     showFallback(*m_cursor.document(), picture, m_options.metafiles, bounds, m_images.back());
-    m_pixelBytesLeft -= bounds.spentPixels * bytesOfPixel;
+    m_pixelBytesLeft -= bounds.spentPixels * BytesOfPixel;
 }
 
 void DocumentSink::paragraphEnd(const ParagraphFormat& paragraph, const CharFormat& mark) {
     countTabs(paragraph);
-    if (!spend(bytesOfParagraph + searchAmong(m_families.size()) + searchAmong(m_tabRows.size()))) {
+    if (!spend(BytesOfParagraph + searchAmong(m_families.size()) + searchAmong(m_tabRows.size()))) {
         text(QStringView(u"\u2028"), mark);
         return;
     }
@@ -196,7 +196,7 @@ void DocumentSink::insertRuns() {
     qsizetype at = 0;
     for (const Run& run : m_runs) {
         const QTextCharFormat& format =
-            run.image == noName ? m_formats[size_t(run.format)] : m_images[size_t(run.image)];
+            run.image == NoName ? m_formats[size_t(run.format)] : m_images[size_t(run.image)];
         // A paragraph of one run, which most are, is handed over as it is.
         m_cursor.insertText(m_runs.size() == 1 ? m_text : m_text.mid(at, run.length), format);
         at += run.length;
@@ -214,7 +214,7 @@ void DocumentSink::joinList(const ParagraphFormat& paragraph) {
     }
     QTextList* list = m_lists.goOn(paragraph);
     if (!list) {
-        if (!spend(bytesOfList))
+        if (!spend(BytesOfList))
             return;
         list = m_cursor.createList(listFormat(m_lists.newLabel(), paragraph.left));
         m_lists.began(paragraph, list);

@@ -42,7 +42,7 @@ private:
     struct Run {
         qsizetype length = 0;
         int format = 0;
-        int image = noName;
+        int image = NoName;
     };
 
     int formatIndex(const CharFormat& format);
@@ -64,7 +64,7 @@ private:
     std::vector<QTextCharFormat> m_formats;
     QHash<CharFormat, int> m_formatIndex;
     CharFormat m_lastFormat;
-    int m_lastIndex = noName;
+    int m_lastIndex = NoName;
     QSet<int> m_families;
     QSet<size_t> m_tabRows; ///< hashes of the tab stops of paragraphs
 

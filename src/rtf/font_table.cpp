@@ -11,24 +11,24 @@ namespace orvalis::rtf {
 namespace {
 
 // Numbers come from outside, so they are keys and never sizes; and no document needs more fonts.
-constexpr qsizetype mostFonts = 32768;
-constexpr qsizetype longestName = 256;
+constexpr qsizetype MostFonts = 32768;
+constexpr qsizetype LongestName = 256;
 
 // No face is named with what ends an entry of the table, stands for a picture or cannot be seen.
 QString cleanName(QString name) {
     name.removeIf([](QChar c) {
         return c.unicode() < u' ' || c == u';' || c == QChar(QChar::ObjectReplacementCharacter);
     });
-    name.truncate(longestName);
+    name.truncate(LongestName);
     return name.trimmed();
 }
 
 } // namespace
 
 QString withoutScript(const QString& name) {
-    static constexpr QLatin1StringView scripts[] = {" CE"_L1,  " CYR"_L1, " Cyr"_L1,   " Greek"_L1,
+    static constexpr QLatin1StringView Scripts[] = {" CE"_L1,  " CYR"_L1, " Cyr"_L1,   " Greek"_L1,
                                                     " Tur"_L1, " TUR"_L1, " Baltic"_L1};
-    for (const auto& script : scripts)
+    for (const auto& script : Scripts)
         if (name.size() > script.size() && name.endsWith(script))
             return name.chopped(script.size()).trimmed();
     return name;
@@ -54,13 +54,13 @@ void FontTable::setPage(int number) {
 }
 
 void FontTable::addName(QByteArrayView bytes) {
-    m_bytes.append(bytes.first(std::min(bytes.size(), longestName - m_bytes.size())));
+    m_bytes.append(bytes.first(std::min(bytes.size(), LongestName - m_bytes.size())));
 }
 
 void FontTable::addName(char16_t character) {
-    if (m_name.size() < longestName) {
-        const bool own = m_entry.page && m_entry.page->number() != symbolPage;
-        (own ? *m_entry.page : CodePage::forNumber(latin1Page)).decode(m_bytes, m_name);
+    if (m_name.size() < LongestName) {
+        const bool own = m_entry.page && m_entry.page->number() != SymbolPage;
+        (own ? *m_entry.page : CodePage::forNumber(Latin1Page)).decode(m_bytes, m_name);
         m_bytes.clear();
         m_name += QChar(character);
     }
@@ -71,8 +71,8 @@ void FontTable::commit(Names& names, const CodePage& documentPage) {
         return;
     m_open = false;
     // A symbol font's name is plain text all the same.
-    const bool symbols = m_entry.page && m_entry.page->number() == symbolPage;
-    const CodePage& latin = CodePage::forNumber(latin1Page);
+    const bool symbols = m_entry.page && m_entry.page->number() == SymbolPage;
+    const CodePage& latin = CodePage::forNumber(Latin1Page);
     const CodePage& own = symbols ? latin : m_entry.page ? *m_entry.page : documentPage;
     own.decode(m_bytes, m_name);
     const QString plain = cleanName(m_plainName);
@@ -82,7 +82,7 @@ void FontTable::commit(Names& names, const CodePage& documentPage) {
         m_entry.page = &latin;
     if (!name.isEmpty())
         m_entry.family = names.family(name);
-    if (m_fonts.size() >= mostFonts && !m_fonts.contains(m_number))
+    if (m_fonts.size() >= MostFonts && !m_fonts.contains(m_number))
         return;
     m_fonts.insert(m_number, m_entry);
     ++m_version;

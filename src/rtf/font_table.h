@@ -17,7 +17,7 @@ QString withoutScript(const QString& name);
 class FontTable {
 public:
     struct Font {
-        int family = noName;
+        int family = NoName;
         const CodePage* page = nullptr; ///< null: the document's own
     };
 

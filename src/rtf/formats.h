@@ -12,13 +12,13 @@
 namespace orvalis::rtf {
 
 /// Twips to a pixel of a document: RTF counts 1440 to the inch, Qt's documents 96.
-inline constexpr double twipsPerPixel = 15.0;
+inline constexpr double TwipsPerPixel = 15.0;
 /// Size of a text that names none, in half points.
-inline constexpr int defaultHalfPoints = 24;
+inline constexpr int DefaultHalfPoints = 24;
 /// A colour that the file leaves to whoever shows the text.
-inline constexpr QRgb automaticColor = 0;
+inline constexpr QRgb AutomaticColor = 0;
 /// Index of a family or link that there is none of.
-inline constexpr int noName = -1;
+inline constexpr int NoName = -1;
 
 enum class Underline : quint8 { None, Single, Words, Double, Dotted, Dash, DashDot, Wave, Thick };
 enum class Script : quint8 { Normal, Super, Sub };
@@ -36,12 +36,12 @@ enum class ListKind : quint8 {
 
 /// How a run of characters looks. Family and link are indexes into the Names of the reading.
 struct CharFormat {
-    int family = noName;
-    int link = noName;
-    int halfPoints = defaultHalfPoints;
+    int family = NoName;
+    int link = NoName;
+    int halfPoints = DefaultHalfPoints;
     int raise = 0; ///< half points above the base line
-    QRgb color = automaticColor;
-    QRgb highlight = automaticColor;
+    QRgb color = AutomaticColor;
+    QRgb highlight = AutomaticColor;
     Underline underline = Underline::None;
     Script script = Script::Normal;
     Capitals capitals = Capitals::AsTyped;
@@ -65,7 +65,7 @@ struct TabStop {
 };
 
 /// The largest number that a list begins with: what follows it stays far from overflow.
-inline constexpr int largestListStart = 1'000'000;
+inline constexpr int LargestListStart = 1'000'000;
 
 /// The label of a list item. Items of one list of the list tables share the identity; 0 stands for
 /// a list that is held together only by its paragraphs following each other.

@@ -8,7 +8,7 @@
 
 namespace orvalis::rtf {
 
-inline constexpr std::array<qint8, 256> hexDigits = [] {
+inline constexpr std::array<qint8, 256> HexDigits = [] {
     std::array<qint8, 256> digits{};
     digits.fill(-1);
     for (int i = 0; i < 10; ++i)
@@ -20,7 +20,7 @@ inline constexpr std::array<qint8, 256> hexDigits = [] {
 
 /// The value of a hexadecimal digit, -1 for any other byte.
 constexpr int hexDigit(uchar byte) {
-    return hexDigits[byte];
+    return HexDigits[byte];
 }
 
 } // namespace orvalis::rtf

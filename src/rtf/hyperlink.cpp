@@ -8,7 +8,7 @@ namespace orvalis::rtf {
 
 namespace {
 
-constexpr QStringView keyword = u"HYPERLINK";
+constexpr QStringView Keyword = u"HYPERLINK";
 
 // Takes one word off the front: what stands in quotes, or up to the next blank. Inside quotes a
 // backslash stands before a quote or another backslash.
@@ -37,9 +37,9 @@ QString takeWord(QStringView& text) {
 
 QString hyperlinkTarget(QStringView instruction) {
     instruction = instruction.trimmed();
-    if (!instruction.startsWith(keyword, Qt::CaseInsensitive))
+    if (!instruction.startsWith(Keyword, Qt::CaseInsensitive))
         return {};
-    instruction = instruction.sliced(keyword.size());
+    instruction = instruction.sliced(Keyword.size());
     QString target;
     QString place;
     while (!instruction.trimmed().isEmpty()) {

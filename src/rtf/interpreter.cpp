@@ -8,14 +8,14 @@ namespace {
 
 // Real documents nest some tens of groups. Deeper ones are counted, so that their braces match,
 // and share the state of the deepest one that is kept.
-constexpr size_t mostGroups = 4096;
+constexpr size_t MostGroups = 4096;
 
 } // namespace
 
 Interpreter::Interpreter(QByteArrayView bytes, Sink& sink)
     : m_tokenizer(bytes)
     , m_sink(sink)
-    , m_documentPage(&CodePage::forNumber(latin1Page)) {
+    , m_documentPage(&CodePage::forNumber(Latin1Page)) {
     m_state.page = m_documentPage;
 }
 
@@ -72,7 +72,7 @@ void Interpreter::openGroup() {
     m_fallbackToSkip = 0;
     m_ignorable = false;
     m_state.hasContent = true;
-    if (m_groups.size() >= mostGroups) {
+    if (m_groups.size() >= MostGroups) {
         fault(Fault::TooDeep);
         ++m_unstoredGroups;
         return;

@@ -50,7 +50,7 @@ private:
         CharFormat chars;
         ParagraphFormat paragraph;
         const CodePage* page = nullptr;
-        int font = noName; ///< number in the font table; none stands for the default font
+        int font = NoName; ///< number in the font table; none stands for the default font
         int fontsVersion = 0;
         int unicodeSkip = 1;
         int listOverride = 0;
@@ -125,7 +125,7 @@ private:
     FontTable m_fonts;
     int m_defaultFont = 0;
     QList<QRgb> m_colors;
-    QRgb m_color = automaticColor;
+    QRgb m_color = AutomaticColor;
     ListTables m_lists;
 
     QString m_text;

@@ -9,9 +9,9 @@ namespace orvalis::rtf {
 
 namespace {
 
-constexpr qsizetype mostColors = 65536;
+constexpr qsizetype MostColors = 65536;
 
-constexpr QRgb opaqueBlack = 0xff000000;
+constexpr QRgb OpaqueBlack = 0xff000000;
 
 } // namespace
 
@@ -44,7 +44,7 @@ bool Interpreter::destinationWord(const Token& token) {
         return true;
     case Action::ColorTable:
         m_colors.clear();
-        m_color = automaticColor;
+        m_color = AutomaticColor;
         openInBody(Destination::ColorTable);
         return true;
     case Action::ListTable:
@@ -158,7 +158,7 @@ void Interpreter::closeDestination(Destination destination) {
         return;
     case Destination::ColorTable:
         // The last entry may lack its semicolon.
-        if (m_color != automaticColor)
+        if (m_color != AutomaticColor)
             colorBytes(";");
         return;
     case Destination::PlainFontName:
@@ -207,7 +207,7 @@ bool Interpreter::tableWord(const Token& token) {
         return true;
     }
     case Action::Utf8Version:
-        m_documentPage = &CodePage::forNumber(utf8Page);
+        m_documentPage = &CodePage::forNumber(Utf8Page);
         selectFont();
         return true;
     case Action::DefaultFont:
@@ -225,13 +225,13 @@ bool Interpreter::tableWord(const Token& token) {
         m_fonts.setPage(number);
         return true;
     case Action::Red:
-        m_color = opaqueBlack | (m_color & 0x00ffffu) | QRgb(std::clamp(number, 0, 255)) << 16;
+        m_color = OpaqueBlack | (m_color & 0x00ffffu) | QRgb(std::clamp(number, 0, 255)) << 16;
         return true;
     case Action::Green:
-        m_color = opaqueBlack | (m_color & 0xff00ffu) | QRgb(std::clamp(number, 0, 255)) << 8;
+        m_color = OpaqueBlack | (m_color & 0xff00ffu) | QRgb(std::clamp(number, 0, 255)) << 8;
         return true;
     case Action::Blue:
-        m_color = opaqueBlack | (m_color & 0xffff00u) | QRgb(std::clamp(number, 0, 255));
+        m_color = OpaqueBlack | (m_color & 0xffff00u) | QRgb(std::clamp(number, 0, 255));
         return true;
     case Action::List:
         m_lists.beginList();
@@ -271,7 +271,7 @@ bool Interpreter::tableWord(const Token& token) {
             m_numbering.kind = static_cast<ListKind>(token.word->value);
         return true;
     case Action::NumberingStart:
-        m_numbering.start = std::clamp(number, 0, largestListStart);
+        m_numbering.start = std::clamp(number, 0, LargestListStart);
         return true;
     default:
         return false;
@@ -281,8 +281,8 @@ bool Interpreter::tableWord(const Token& token) {
 void Interpreter::colorBytes(QByteArrayView run) {
     // An entry that names no part of a colour is the automatic one.
     const qsizetype ends = std::count(run.begin(), run.end(), ';');
-    for (qsizetype i = 0; i < ends && m_colors.size() < mostColors; ++i)
-        m_colors.append(std::exchange(m_color, automaticColor));
+    for (qsizetype i = 0; i < ends && m_colors.size() < MostColors; ++i)
+        m_colors.append(std::exchange(m_color, AutomaticColor));
 }
 
 void Interpreter::fontBytes(QByteArrayView run) {

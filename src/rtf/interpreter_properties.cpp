@@ -9,14 +9,14 @@ namespace orvalis::rtf {
 namespace {
 
 // Limits that no page reaches, so that sums and products of lengths stay far from overflow.
-constexpr int longestLength = 100000; // twips
-constexpr int largestHalfPoints = 3276;
-constexpr int largestRaise = 2000; // half points
-constexpr int mostUnicodeSkip = 255;
-constexpr qsizetype mostTabs = 32;
+constexpr int LongestLength = 100000; // twips
+constexpr int LargestHalfPoints = 3276;
+constexpr int LargestRaise = 2000; // half points
+constexpr int MostUnicodeSkip = 255;
+constexpr qsizetype MostTabs = 32;
 
 int length(int twips) {
-    return std::clamp(twips, -longestLength, longestLength);
+    return std::clamp(twips, -LongestLength, LongestLength);
 }
 
 // "\b" and "\b1" switch on, "\b0" off.
@@ -43,8 +43,8 @@ bool Interpreter::characterWord(const Token& token) {
         return true;
     case Action::FontSize:
         chars.halfPoints = token.hasParameter && token.parameter > 0
-                               ? std::min(token.parameter, largestHalfPoints)
-                               : defaultHalfPoints;
+                               ? std::min(token.parameter, LargestHalfPoints)
+                               : DefaultHalfPoints;
         return true;
     case Action::Color:
         chars.color = color(token.parameter);
@@ -82,7 +82,7 @@ bool Interpreter::characterWord(const Token& token) {
     case Action::Raise:
         // Without a number the words mean six half points.
         chars.raise = token.word->value *
-                      (token.hasParameter ? std::clamp(token.parameter, 0, largestRaise) : 6);
+                      (token.hasParameter ? std::clamp(token.parameter, 0, LargestRaise) : 6);
         return true;
     case Action::CapitalsKind:
         // Switched off, the one kind leaves the other alone.
@@ -93,7 +93,7 @@ bool Interpreter::characterWord(const Token& token) {
         return true;
     case Action::UnicodeSkip:
         m_state.unicodeSkip =
-            std::clamp(token.hasParameter ? token.parameter : 1, 0, mostUnicodeSkip);
+            std::clamp(token.hasParameter ? token.parameter : 1, 0, MostUnicodeSkip);
         return true;
     default:
         return false;
@@ -138,7 +138,7 @@ bool Interpreter::paragraphWord(const Token& token) {
         m_state.tabType = static_cast<QTextOption::TabType>(token.word->value);
         return true;
     case Action::TabPosition:
-        if (paragraph.tabs.size() < mostTabs)
+        if (paragraph.tabs.size() < MostTabs)
             paragraph.tabs.append(TabStop{length(token.parameter), m_state.tabType});
         m_state.tabType = QTextOption::LeftTab;
         return true;
@@ -190,7 +190,7 @@ void Interpreter::selectFont() {
     const FontTable::Font* font = m_fonts.find(m_state.font);
     if (!font)
         font = m_fonts.find(m_defaultFont);
-    m_state.chars.family = font ? font->family : noName;
+    m_state.chars.family = font ? font->family : NoName;
     m_state.page = font && font->page ? font->page : m_documentPage;
 }
 
@@ -199,12 +199,12 @@ void Interpreter::plainCharacters() {
     m_state.chars = {};
     m_state.chars.link = link;
     m_state.deleted = false;
-    m_state.font = noName;
+    m_state.font = NoName;
     selectFont();
 }
 
 QRgb Interpreter::color(int index) const {
-    return index >= 0 && index < m_colors.size() ? m_colors[index] : automaticColor;
+    return index >= 0 && index < m_colors.size() ? m_colors[index] : AutomaticColor;
 }
 
 } // namespace orvalis::rtf

@@ -8,8 +8,8 @@ namespace orvalis::rtf {
 
 namespace {
 
-constexpr qsizetype longestRun = 32768;
-constexpr qsizetype longestCapture = 8192;
+constexpr qsizetype LongestRun = 32768;
+constexpr qsizetype LongestCapture = 8192;
 
 // Characters that a text document takes for structure of its own.
 char16_t harmless(char16_t character) {
@@ -92,7 +92,7 @@ void Interpreter::decode(QByteArrayView run) {
         const auto isAscii = [](char byte) { return uchar(byte) < 0x80; };
         if (!m_pending.isEmpty() || !std::all_of(run.begin(), run.end(), isAscii)) {
             m_pending.append(run);
-            if (m_pending.size() > longestRun) {
+            if (m_pending.size() > LongestRun) {
                 QString text;
                 const qsizetype taken = m_state.page->decode(m_pending, text);
                 m_pending.remove(0, taken);
@@ -100,18 +100,18 @@ void Interpreter::decode(QByteArrayView run) {
             }
             return;
         }
-        table = CodePage::forNumber(latin1Page).table();
+        table = CodePage::forNumber(Latin1Page).table();
     }
     const bool toBody = m_state.destination == Destination::Body;
     // An instruction or a label is no text of the font that holds around it.
-    if (!toBody && m_state.page->number() == symbolPage && m_documentPage->table())
+    if (!toBody && m_state.page->number() == SymbolPage && m_documentPage->table())
         table = m_documentPage->table();
     if (toBody)
         prepareText();
     QString& target = toBody ? m_text : m_capture;
     if (!toBody)
         run = run.first(
-            std::min(run.size(), longestCapture - std::min(target.size(), longestCapture)));
+            std::min(run.size(), LongestCapture - std::min(target.size(), LongestCapture)));
     const qsizetype start = target.size();
     target.resize(start + run.size());
     QChar* out = target.data() + start;
@@ -136,7 +136,7 @@ void Interpreter::flushPending() {
 void Interpreter::append(QStringView text) {
     if (m_state.destination != Destination::Body) {
         m_capture.append(text.first(
-            std::min(text.size(), longestCapture - std::min(m_capture.size(), longestCapture))));
+            std::min(text.size(), LongestCapture - std::min(m_capture.size(), LongestCapture))));
         return;
     }
     prepareText();
@@ -187,7 +187,7 @@ void Interpreter::unicode(int code) {
 void Interpreter::prepareText() {
     if (m_cellTabs > 0)
         cellTabs(std::exchange(m_cellTabs, 0));
-    if (!m_text.isEmpty() && (m_textFormat != m_state.chars || m_text.size() > longestRun))
+    if (!m_text.isEmpty() && (m_textFormat != m_state.chars || m_text.size() > LongestRun))
         flushText();
     if (m_text.isEmpty())
         m_textFormat = m_state.chars;

@@ -13,10 +13,10 @@ namespace orvalis::rtf {
 namespace {
 
 // What a label and the gap behind it take; Qt draws them left of the text.
-constexpr int labelRoom = 240; // twips
+constexpr int LabelRoom = 240; // twips
 
 // A level of the list tables counts the characters of its label in one byte.
-constexpr qsizetype longestLabelText = 60;
+constexpr qsizetype LongestLabelText = 60;
 
 QTextListFormat::Style listStyle(ListKind kind) {
     switch (kind) {
@@ -58,7 +58,7 @@ QString labelText(QString text) {
     text.removeIf([](QChar c) {
         return c < u' ' || c == QChar::LineSeparator || c == QChar::ObjectReplacementCharacter;
     });
-    text.truncate(longestLabelText);
+    text.truncate(LongestLabelText);
     if (!text.isEmpty() && text.back().isHighSurrogate())
         text.chop(1);
     return text;
@@ -69,7 +69,7 @@ QString labelText(QString text) {
 QTextListFormat listFormat(const ListLabel& label, int left) {
     QTextListFormat list;
     list.setStyle(listStyle(label.kind));
-    const bool needsRoom = left < labelRoom;
+    const bool needsRoom = left < LabelRoom;
     list.setIndent(needsRoom ? 1 : 0);
     if (needsRoom)
         list.setProperty(ListIndentIsRoom, true);

@@ -6,11 +6,11 @@ namespace orvalis::rtf {
 
 namespace {
 
-constexpr int mostItems = 256;
+constexpr int MostItems = 256;
 // To a document the numbers that go on are a list of their own, so the lists that people wrote are
 // left whole.
-constexpr int mostNumbers = 2048;
-constexpr int membersOfRealDocuments = 4 * mostNumbers;
+constexpr int MostNumbers = 2048;
+constexpr int MembersOfRealDocuments = 4 * MostNumbers;
 
 bool sameLabel(const ListLabel& a, const ListLabel& b) {
     return a.kind == b.kind && a.identity == b.identity && a.level == b.level &&
@@ -55,8 +55,8 @@ bool ListKeeper::goesOn(const Entry& entry, const ParagraphFormat& item, bool ad
 }
 
 bool ListKeeper::isFull(const Entry& entry) const {
-    const bool whole = entry.label.kind != ListKind::Bullet && m_members < membersOfRealDocuments;
-    return entry.items >= (whole ? mostNumbers : mostItems);
+    const bool whole = entry.label.kind != ListKind::Bullet && m_members < MembersOfRealDocuments;
+    return entry.items >= (whole ? MostNumbers : MostItems);
 }
 
 QTextList* ListKeeper::goOn(const ParagraphFormat& item) {

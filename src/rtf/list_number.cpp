@@ -8,16 +8,16 @@ namespace orvalis::rtf {
 
 namespace {
 
-constexpr int largestRoman = 4999;
-constexpr int letters = 26;
+constexpr int LargestRoman = 4999;
+constexpr int Letters = 26;
 
 QString romanNumber(int number) {
-    static constexpr std::pair<int, QLatin1StringView> digits[] = {
+    static constexpr std::pair<int, QLatin1StringView> Digits[] = {
         {1000, "m"_L1}, {900, "cm"_L1}, {500, "d"_L1}, {400, "cd"_L1}, {100, "c"_L1},
         {90, "xc"_L1},  {50, "l"_L1},   {40, "xl"_L1}, {10, "x"_L1},   {9, "ix"_L1},
         {5, "v"_L1},    {4, "iv"_L1},   {1, "i"_L1}};
     QString text;
-    for (const auto& [value, digit] : digits)
+    for (const auto& [value, digit] : Digits)
         for (; number >= value; number -= value)
             text += digit;
     return text;
@@ -25,15 +25,15 @@ QString romanNumber(int number) {
 
 QString letterNumber(int number) {
     QString text;
-    for (; number > 0; number = (number - 1) / letters)
-        text.prepend(QChar(u'a' + (number - 1) % letters));
+    for (; number > 0; number = (number - 1) / Letters)
+        text.prepend(QChar(u'a' + (number - 1) % Letters));
     return text;
 }
 
 } // namespace
 
 QString listNumber(ListKind kind, int number) {
-    const bool roman = number > 0 && number <= largestRoman;
+    const bool roman = number > 0 && number <= LargestRoman;
     switch (kind) {
     case ListKind::LowerLetter:
         return number > 0 ? letterNumber(number) : QString::number(number);

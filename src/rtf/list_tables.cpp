@@ -8,10 +8,10 @@ namespace orvalis::rtf {
 
 namespace {
 
-constexpr qsizetype mostLevels = 9;
-constexpr qsizetype mostLists = 32768;
-constexpr int levelFormatBullet = 23;
-constexpr int levelFormatNone = 255;
+constexpr qsizetype MostLevels = 9;
+constexpr qsizetype MostLists = 32768;
+constexpr int LevelFormatBullet = 23;
+constexpr int LevelFormatNone = 255;
 
 ListKind kindOfFormat(int format) {
     switch (format) {
@@ -23,9 +23,9 @@ ListKind kindOfFormat(int format) {
         return ListKind::UpperLetter;
     case 4:
         return ListKind::LowerLetter;
-    case levelFormatBullet:
+    case LevelFormatBullet:
         return ListKind::Bullet;
-    case levelFormatNone:
+    case LevelFormatNone:
         return ListKind::None;
     default:
         return ListKind::Decimal;
@@ -33,15 +33,15 @@ ListKind kindOfFormat(int format) {
 }
 
 int romanValue(const QString& text) {
-    static constexpr std::pair<char16_t, int> digits[] = {
+    static constexpr std::pair<char16_t, int> Digits[] = {
         {u'm', 1000}, {u'd', 500}, {u'c', 100}, {u'l', 50}, {u'x', 10}, {u'v', 5}, {u'i', 1}};
     int value = 0;
     int largest = 0;
     for (qsizetype i = text.size() - 1; i >= 0; --i) {
         const char16_t letter = text[i].toLower().unicode();
-        const auto* digit = std::find_if(std::begin(digits), std::end(digits),
+        const auto* digit = std::find_if(std::begin(Digits), std::end(Digits),
                                          [&](const auto& known) { return known.first == letter; });
-        if (digit == std::end(digits))
+        if (digit == std::end(Digits))
             return 0;
         value += digit->second < largest ? -digit->second : digit->second;
         largest = std::max(largest, digit->second);
@@ -57,7 +57,7 @@ ListLabel labelOfWord(const QString& label, qsizetype start, qsizetype end, List
     result.suffix = label.mid(end);
     bool isNumber = false;
     const int number = word.toInt(&isNumber);
-    if (isNumber && number >= 0 && number <= largestListStart) {
+    if (isNumber && number >= 0 && number <= LargestListStart) {
         result.kind = ListKind::Decimal;
         result.start = number;
         return result;
@@ -69,7 +69,7 @@ ListLabel labelOfWord(const QString& label, qsizetype start, qsizetype end, List
     const int roman = romanValue(word);
     const bool wasRoman = previous == ListKind::LowerRoman || previous == ListKind::UpperRoman;
     const char16_t letter = word.front().toLower().unicode();
-    if (roman > 0 && roman <= largestListStart && (word.size() > 1 || roman == 1 || wasRoman)) {
+    if (roman > 0 && roman <= LargestListStart && (word.size() > 1 || roman == 1 || wasRoman)) {
         result.kind = upper ? ListKind::UpperRoman : ListKind::LowerRoman;
         result.start = roman;
     } else if (word.size() == 1 && letter >= u'a' && letter <= u'z') {
@@ -84,7 +84,7 @@ ListLabel labelOfWord(const QString& label, qsizetype start, qsizetype end, List
 void ListTables::beginList() {
     m_levels.clear();
     m_identity = 0;
-    m_overrideLevel = noLevel;
+    m_overrideLevel = NoLevel;
 }
 
 void ListTables::beginOverride() {
@@ -93,24 +93,24 @@ void ListTables::beginOverride() {
 }
 
 void ListTables::beginOverrideLevel() {
-    m_overrideLevel = std::min<int>(m_overrideLevel + 1, mostLevels);
+    m_overrideLevel = std::min<int>(m_overrideLevel + 1, MostLevels);
 }
 
 void ListTables::beginLevel() {
-    const int level = m_overrideLevel == noLevel ? int(m_levels.size()) : m_overrideLevel;
-    if (m_levels.size() < mostLevels)
+    const int level = m_overrideLevel == NoLevel ? int(m_levels.size()) : m_overrideLevel;
+    if (m_levels.size() < MostLevels)
         m_levels.append(ListLabel{ListKind::Decimal, 0, level, 1, 0, {}, {}});
 }
 
 ListLabel* ListTables::openLevel() {
     const bool open = !m_levels.isEmpty() &&
-                      (m_overrideLevel == noLevel || m_levels.last().level == m_overrideLevel);
+                      (m_overrideLevel == NoLevel || m_levels.last().level == m_overrideLevel);
     return open ? &m_levels.last() : nullptr;
 }
 
 void ListTables::setIdentity(int identity) {
     m_identity = identity;
-    if (!m_levels.isEmpty() && m_lists.size() < mostLists)
+    if (!m_levels.isEmpty() && m_lists.size() < MostLists)
         m_lists.insert(identity, std::exchange(m_levels, {}));
 }
 
@@ -120,10 +120,10 @@ void ListTables::setLevelKind(int format) {
 }
 
 void ListTables::setLevelStart(int start) {
-    start = std::clamp(start, 0, largestListStart);
+    start = std::clamp(start, 0, LargestListStart);
     if (ListLabel* level = openLevel())
         level->start = start;
-    else if (m_overrideLevel != noLevel)
+    else if (m_overrideLevel != NoLevel)
         m_starts.insert(m_overrideLevel, start);
 }
 
@@ -137,7 +137,7 @@ void ListTables::setLevelText(const QString& text) {
     const qsizetype number = label.indexOf(QChar(own));
     if (level->kind == ListKind::Bullet || number < 0)
         return;
-    const auto isPlaceholder = [](QChar c) { return c.unicode() < mostLevels; };
+    const auto isPlaceholder = [](QChar c) { return c.unicode() < MostLevels; };
     const QString before = label.first(number);
     if (std::none_of(before.begin(), before.end(), isPlaceholder))
         level->prefix = before;
@@ -147,14 +147,14 @@ void ListTables::setLevelText(const QString& text) {
 }
 
 void ListTables::addOverride(int number) {
-    if (m_overrides.size() < mostLists) {
+    if (m_overrides.size() < MostLists) {
         m_overrides.insert(number, Override{m_identity, m_starts, m_levels});
         if (m_starts.isEmpty() && m_levels.isEmpty() && !m_plainOverrides.contains(m_identity))
             m_plainOverrides.insert(m_identity, number);
     }
     m_starts.clear();
     m_levels.clear();
-    m_overrideLevel = noLevel;
+    m_overrideLevel = NoLevel;
 }
 
 std::optional<ListLabel> ListTables::label(int overrideNumber, int level) const {

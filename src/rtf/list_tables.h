@@ -11,7 +11,7 @@
 
 namespace orvalis::rtf {
 
-inline constexpr int noLevel = -1;
+inline constexpr int NoLevel = -1;
 
 /// The list table and the override table, by which a paragraph's \ls and \ilvl name its label.
 class ListTables {
@@ -49,7 +49,7 @@ private:
     Levels m_levels;
     QHash<int, int> m_starts;
     int m_identity = 0;
-    int m_overrideLevel = noLevel;
+    int m_overrideLevel = NoLevel;
 };
 
 /// What a literal label, as \pntext has it, says about the list; kind None for no label at all.

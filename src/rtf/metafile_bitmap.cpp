@@ -25,20 +25,20 @@ qsizetype dibOffset(MetafileFunction function) {
     }
 }
 
-constexpr quint32 enhancedEndOfFile = 14;
-constexpr quint32 enhancedBitBlt = 76;
-constexpr quint32 enhancedStretchBlt = 77;
-constexpr quint32 enhancedSetDiBitsToDevice = 80;
-constexpr quint32 enhancedStretchDiBits = 81;
+constexpr quint32 EnhancedEndOfFile = 14;
+constexpr quint32 EnhancedBitBlt = 76;
+constexpr quint32 EnhancedStretchBlt = 77;
+constexpr quint32 EnhancedSetDiBitsToDevice = 80;
+constexpr quint32 EnhancedStretchDiBits = 81;
 
 // Where a record of an enhanced metafile tells the place of its DIB's header.
 qsizetype enhancedDibField(quint32 type) {
     switch (type) {
-    case enhancedBitBlt:
-    case enhancedStretchBlt:
+    case EnhancedBitBlt:
+    case EnhancedStretchBlt:
         return 84;
-    case enhancedSetDiBitsToDevice:
-    case enhancedStretchDiBits:
+    case EnhancedSetDiBitsToDevice:
+    case EnhancedStretchDiBits:
         return 48;
     default:
         return -1;
@@ -62,7 +62,7 @@ QByteArrayView dibOfEnhancedMetafile(QByteArrayView metafile) {
     while (at + 8 <= metafile.size()) {
         const quint32 type = readU32(metafile, at);
         const qint64 size = readU32(metafile, at + 4);
-        if (size < 8 || type == enhancedEndOfFile)
+        if (size < 8 || type == EnhancedEndOfFile)
             break;
         const qsizetype end = qsizetype(std::min<qint64>(at + size, metafile.size()));
         const qsizetype field = enhancedDibField(type);
@@ -81,7 +81,7 @@ QByteArrayView dibOfEnhancedMetafile(QByteArrayView metafile) {
 
 QByteArray metafileOfDib(QByteArrayView dib, QSize size) {
     const qsizetype drawWords = 3 + 10 + (dib.size() + 1) / 2;
-    const qsizetype totalWords = metafileHeaderWords + 4 + 5 + 5 + 4 + drawWords + 3;
+    const qsizetype totalWords = MetafileHeaderWords + 4 + 5 + 5 + 4 + drawWords + 3;
     const auto width = quint16(size.width());
     const auto height = quint16(size.height());
     QByteArray file;
@@ -91,7 +91,7 @@ QByteArray metafileOfDib(QByteArrayView dib, QSize size) {
         appendU16(file, quint16(function));
     };
     appendU16(file, 1);
-    appendU16(file, metafileHeaderWords);
+    appendU16(file, MetafileHeaderWords);
     appendU16(file, 0x0300);
     appendU32(file, quint32(totalWords));
     appendU16(file, 0);

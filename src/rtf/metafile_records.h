@@ -7,7 +7,7 @@
 namespace orvalis::rtf {
 
 /// Size of a metafile's own head, in words of two bytes.
-inline constexpr quint16 metafileHeaderWords = 9;
+inline constexpr quint16 MetafileHeaderWords = 9;
 
 enum class MetafileFunction : quint16 {
     EndOfFile = 0x0000,

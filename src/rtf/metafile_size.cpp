@@ -14,42 +14,42 @@ namespace orvalis::rtf {
 
 namespace {
 
-constexpr qsizetype frameLeft = 24; // and top, right, bottom, of four bytes each
-constexpr qsizetype boxLeft = 6;    // and top, right, bottom, of two bytes each
-constexpr qsizetype unitsPerInch = 14;
+constexpr qsizetype FrameLeft = 24; // and top, right, bottom, of four bytes each
+constexpr qsizetype BoxLeft = 6;    // and top, right, bottom, of two bytes each
+constexpr qsizetype UnitsPerInch = 14;
 
-constexpr double widestOnPage = 6 * twipsPerInch;
+constexpr double WidestOnPage = 6 * TwipsPerInch;
 
 QSizeF frameTwips(QByteArrayView metafile) {
     const auto edge = [metafile](int index) {
-        return double(qint32(readU32(metafile, frameLeft + 4 * index)));
+        return double(qint32(readU32(metafile, FrameLeft + 4 * index)));
     };
-    return QSizeF(edge(2) - edge(0), edge(3) - edge(1)) * twipsPerHundredthMillimetre;
+    return QSizeF(edge(2) - edge(0), edge(3) - edge(1)) * TwipsPerHundredthMillimetre;
 }
 
 QSizeF boxTwips(QByteArrayView metafile) {
-    const int units = readU16(metafile, unitsPerInch);
+    const int units = readU16(metafile, UnitsPerInch);
     if (!hasPlaceableHeader(metafile) || units == 0)
         return {};
     const auto edge = [metafile](int index) {
-        return double(qint16(readU16(metafile, boxLeft + 2 * index)));
+        return double(qint16(readU16(metafile, BoxLeft + 2 * index)));
     };
     // A box may stand on its head.
     return QSizeF(std::abs(edge(2) - edge(0)), std::abs(edge(3) - edge(1))) *
-           (twipsPerInch / units);
+           (TwipsPerInch / units);
 }
 
 // The map modes in which a unit is always as long.
 double twipsOfUnit(int mapMode) {
     switch (mapMode) {
     case 2:
-        return twipsPerInch / 254;
+        return TwipsPerInch / 254;
     case 3:
-        return twipsPerInch / 2540;
+        return TwipsPerInch / 2540;
     case 4:
-        return twipsPerInch / 100;
+        return TwipsPerInch / 100;
     case 5:
-        return twipsPerInch / 1000;
+        return TwipsPerInch / 1000;
     case 6:
         return 1;
     default:
@@ -88,8 +88,8 @@ QSizeF metafileWindowTwips(QByteArrayView metafile) {
         return {};
     if (unit > 0)
         return window * unit;
-    window *= twipsPerPixel;
-    return window * std::min(1.0, widestOnPage / std::max(window.width(), window.height()));
+    window *= TwipsPerPixel;
+    return window * std::min(1.0, WidestOnPage / std::max(window.width(), window.height()));
 }
 
 } // namespace orvalis::rtf

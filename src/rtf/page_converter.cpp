@@ -51,7 +51,7 @@ const char* converterName(int page) {
         int number;
         const char* name;
     };
-    static constexpr Page pages[] = {
+    static constexpr Page Pages[] = {
         {437, "CP437"},        {737, "CP737"},        {775, "CP775"},
         {850, "CP850"},        {852, "CP852"},        {855, "CP855"},
         {857, "CP857"},        {858, "CP858"},        {860, "CP860"},
@@ -72,13 +72,13 @@ const char* converterName(int page) {
         {51932, "EUC-JP"},     {51949, "EUC-KR"},     {52936, "GBK"},
         {54936, "GB18030"},    {65001, "UTF-8"},
     };
-    for (const Page& known : pages)
+    for (const Page& known : Pages)
         if (known.number == page)
             return known.name;
     return nullptr;
 }
 
-constexpr const char* utf16 = Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? "UTF-16LE" : "UTF-16BE";
+constexpr const char* Utf16 = Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? "UTF-16LE" : "UTF-16BE";
 
 } // namespace
 
@@ -87,7 +87,7 @@ bool PageConverter::knows(int page) {
 }
 
 PageConverter::PageConverter(int page)
-    : m_handle(iconv_open(utf16, converterName(page))) {}
+    : m_handle(iconv_open(Utf16, converterName(page))) {}
 
 PageConverter::~PageConverter() {
     if (m_handle != iconv_t(-1))

@@ -10,7 +10,7 @@ namespace orvalis::rtf {
 
 namespace {
 
-constexpr const char* bulletByte = "\\'B7";
+constexpr const char* BulletByte = "\\'B7";
 
 const char* kindWord(ListKind kind) {
     switch (kind) {
@@ -61,7 +61,7 @@ void ParagraphWriter::label(const ListLabel& label) {
     m_out.word("{\\pntext");
     if (label.kind == ListKind::Bullet) {
         m_out.word("\\f", m_tables.symbolFont());
-        m_out.structure(bulletByte);
+        m_out.structure(BulletByte);
     } else {
         m_out.text(label.prefix + listNumber(label.kind, label.start) + label.suffix);
     }
@@ -74,7 +74,7 @@ void ParagraphWriter::numbering(const ListLabel& label) {
         m_out.word("\\pnlvlblt");
         m_out.word("\\pnf", m_tables.symbolFont());
         m_out.structure("\\pnindent0{\\pntxtb");
-        m_out.structure(bulletByte);
+        m_out.structure(BulletByte);
         m_out.structure("}}");
         return;
     }

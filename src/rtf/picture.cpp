@@ -11,13 +11,13 @@ namespace orvalis::rtf {
 
 namespace {
 
-constexpr double twipsPerBitmapPixel = 15.0;
-constexpr double largestTwips = 100000;
+constexpr double TwipsPerBitmapPixel = 15.0;
+constexpr double LargestTwips = 100000;
 
 double namedLength(const Picture& picture, int goal, int own) {
     if (goal > 0)
         return goal;
-    return own * (isMetafile(picture.kind) ? twipsPerHundredthMillimetre : twipsPerBitmapPixel);
+    return own * (isMetafile(picture.kind) ? TwipsPerHundredthMillimetre : TwipsPerBitmapPixel);
 }
 
 double scaled(double twips, int scale) {
@@ -29,8 +29,8 @@ double scaled(double twips, int scale) {
 QSizeF boundedTwips(QSizeF size) {
     if (size.isEmpty())
         return {};
-    size *= std::min(1.0, largestTwips / std::max(size.width(), size.height()));
-    return size.boundedTo({largestTwips, largestTwips}); // what the product rounds up included
+    size *= std::min(1.0, LargestTwips / std::max(size.width(), size.height()));
+    return size.boundedTo({LargestTwips, LargestTwips}); // what the product rounds up included
 }
 
 QSizeF wantedTwips(const Picture& picture) {
@@ -43,19 +43,19 @@ QSizeF wantedTwips(const Picture& picture) {
 }
 
 bool hasPlaceableHeader(QByteArrayView bytes) {
-    constexpr quint32 key = 0x9ac6cdd7;
-    return readU32(bytes, 0) == key;
+    constexpr quint32 Key = 0x9ac6cdd7;
+    return readU32(bytes, 0) == Key;
 }
 
 PictureKind kindOfBytes(QByteArrayView bytes) {
-    constexpr quint32 enhancedSignature = 0x464d4520;
+    constexpr quint32 EnhancedSignature = 0x464d4520;
     if (bytes.startsWith("\x89PNG\r\n\x1a\n"))
         return PictureKind::Png;
     if (bytes.startsWith("\xff\xd8\xff"))
         return PictureKind::Jpeg;
     if (hasPlaceableHeader(bytes))
         return PictureKind::Wmf;
-    if (readU32(bytes, 0) == 1 && readU32(bytes, 40) == enhancedSignature)
+    if (readU32(bytes, 0) == 1 && readU32(bytes, 40) == EnhancedSignature)
         return PictureKind::Emf;
     if ((readU16(bytes, 0) == 1 || readU16(bytes, 0) == 2) && readU16(bytes, 2) == 9)
         return PictureKind::Wmf;

@@ -7,9 +7,9 @@
 
 namespace orvalis::rtf {
 
-constexpr double twipsPerInch = 1440;
+constexpr double TwipsPerInch = 1440;
 /// Metafiles are measured in hundredths of a millimetre, 2540 to the inch.
-constexpr double twipsPerHundredthMillimetre = twipsPerInch / 2540;
+constexpr double TwipsPerHundredthMillimetre = TwipsPerInch / 2540;
 
 /// What the bytes of a picture are.
 enum class PictureKind : int {

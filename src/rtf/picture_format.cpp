@@ -26,7 +26,7 @@ namespace {
 
 enum SourceSize { Width, Height, MapMode, BitsPerPixel, Planes, BytesPerRow, SourceSizeCount };
 
-constexpr int bytesOfPixel = 4; // of the rasters that are bounded
+constexpr int BytesOfPixel = 4; // of the rasters that are bounded
 
 QVariantList sourceSize(const Picture& picture) {
     return {picture.width,         picture.height,
@@ -57,8 +57,8 @@ QImage imageOfResource(const QVariant& resource) {
 
 // What shows at all is at least a twip long: none would mean the picture's own length.
 int goalTwips(double shown, int own) {
-    return shown > 0 ? std::max(1, int(std::lround(shown * twipsPerPixel)))
-                     : int(std::lround(own * twipsPerPixel));
+    return shown > 0 ? std::max(1, int(std::lround(shown * TwipsPerPixel)))
+                     : int(std::lround(own * TwipsPerPixel));
 }
 
 /// What the document shows for a picture.
@@ -80,9 +80,9 @@ Shown shownAs(QTextDocument& document, const Picture& picture, MetafileConverter
     }
     Shown made{"picture:"_L1 + key, imageOfPicture(picture, bounds.mostPixels, converter)};
     if (made.image.isNull())
-        made = {"box:"_L1 + key, emptyBox(boxTwips(picture) / twipsPerPixel, bounds.mostPixels),
+        made = {"box:"_L1 + key, emptyBox(boxTwips(picture) / TwipsPerPixel, bounds.mostPixels),
                 true};
-    bounds.spentPixels = made.image.sizeInBytes() / bytesOfPixel;
+    bounds.spentPixels = made.image.sizeInBytes() / BytesOfPixel;
     document.addResource(QTextDocument::ImageResource, QUrl(made.name), made.image);
     return made;
 }
@@ -122,7 +122,7 @@ QSizeF shownSize(const QTextImageFormat& format) {
 
 // Whether a box has the size that it has where nobody names one.
 bool isDefaultSize(const QTextImageFormat& format, const Picture& picture) {
-    return shownSize(format) == boxTwips(picture) / twipsPerPixel;
+    return shownSize(format) == boxTwips(picture) / TwipsPerPixel;
 }
 
 } // namespace
@@ -132,7 +132,7 @@ QTextImageFormat pictureFormat(QTextDocument& document, const Picture& picture,
     if (picture.bytes.isEmpty())
         return {};
     const Shown shown = shownAs(document, picture, converter, bounds);
-    QSizeF size = (shown.isBox ? boxTwips(picture) : shownTwips(picture)) / twipsPerPixel;
+    QSizeF size = (shown.isBox ? boxTwips(picture) : shownTwips(picture)) / TwipsPerPixel;
     if (size.isEmpty())
         size = shown.image.size();
     QTextImageFormat format;

@@ -20,10 +20,10 @@ namespace {
 
 // No file of this many pixels comes from a camera or a screen; its decoder would be busy with
 // nothing but the claim.
-constexpr qint64 mostClaimedPixels = qint64(1) << 27;
+constexpr qint64 MostClaimedPixels = qint64(1) << 27;
 
 // An inch either way: enough to be seen, too little to be in the way.
-constexpr QSizeF unnamedTwips(twipsPerInch, twipsPerInch);
+constexpr QSizeF unnamedTwips(TwipsPerInch, TwipsPerInch);
 
 // Whether Qt may know the kind, or is to be asked whether it does.
 bool isEncoded(PictureKind kind) {
@@ -54,7 +54,7 @@ QImage decoded(const QByteArray& bytes, qint64 mostPixels) {
     QImageReader reader(&buffer);
     reader.setDecideFormatFromContent(true);
     const QSize size = reader.size();
-    if (size.isEmpty() || qint64(size.width()) * size.height() > mostClaimedPixels)
+    if (size.isEmpty() || qint64(size.width()) * size.height() > MostClaimedPixels)
         return {};
     const QSize wanted = fitted(size, mostPixels);
     if (wanted != size)
@@ -106,7 +106,7 @@ QSizeF shownTwips(const Picture& picture) {
         return wanted;
     const QSize pixels = pixelSize(picture);
     if (!pixels.isEmpty())
-        return boundedTwips(QSizeF(pixels) * twipsPerPixel);
+        return boundedTwips(QSizeF(pixels) * TwipsPerPixel);
     if (!isMetafile(kindOfBytes(picture.bytes)))
         return {};
     const QSizeF window = metafileWindowTwips(picture.bytes);
@@ -129,7 +129,7 @@ QImage imageOfPicture(const Picture& picture, qint64 mostPixels, MetafileConvert
         if (!converter || trueKind(picture) == PictureKind::Emf)
             return {};
         const QSizeF twips = shownTwips(picture);
-        const QSize pixels = fitted((twips / twipsPerPixel).toSize(), mostPixels);
+        const QSize pixels = fitted((twips / TwipsPerPixel).toSize(), mostPixels);
         return pixels.isEmpty() ? QImage() : converter->convert(picture.bytes, pixels);
     }
     default:

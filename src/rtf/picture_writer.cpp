@@ -9,25 +9,25 @@ namespace orvalis::rtf {
 
 namespace {
 
-constexpr qsizetype bytesPerLine = 39;
+constexpr qsizetype BytesPerLine = 39;
 // A metafile of 24-bit pixels in hexadecimal takes six bytes a pixel; larger pictures would swell
 // the file for the sake of readers that are hardly in use any more.
-constexpr qint64 mostTwinPixels = 65536;
+constexpr qint64 MostTwinPixels = 65536;
 
 void appendHex(QByteArray& out, QByteArrayView bytes) {
-    static constexpr char digits[] = "0123456789abcdef";
-    const qsizetype lines = (bytes.size() + bytesPerLine - 1) / bytesPerLine;
+    static constexpr char Digits[] = "0123456789abcdef";
+    const qsizetype lines = (bytes.size() + BytesPerLine - 1) / BytesPerLine;
     const qsizetype start = out.size();
     out.resize(start + bytes.size() * 2 + lines * 2);
     char* at = out.data() + start;
     for (qsizetype i = 0; i < bytes.size(); ++i) {
-        if (i % bytesPerLine == 0) {
+        if (i % BytesPerLine == 0) {
             *at++ = '\r';
             *at++ = '\n';
         }
         const uchar byte = uchar(bytes[i]);
-        *at++ = digits[byte >> 4];
-        *at++ = digits[byte & 15];
+        *at++ = Digits[byte >> 4];
+        *at++ = Digits[byte & 15];
     }
 }
 
@@ -130,8 +130,8 @@ QByteArray pictureGroups(const Picture& picture) {
     if (picture.kind != PictureKind::Png && picture.kind != PictureKind::Jpeg)
         return own;
     const QSize size = pixelSize(picture);
-    const bool twin = !size.isEmpty() && qint64(size.width()) * size.height() <= mostTwinPixels;
-    const QImage image = twin ? imageOfPicture(picture, mostTwinPixels, nullptr) : QImage();
+    const bool twin = !size.isEmpty() && qint64(size.width()) * size.height() <= MostTwinPixels;
+    const QImage image = twin ? imageOfPicture(picture, MostTwinPixels, nullptr) : QImage();
     if (image.isNull())
         return first;
     return withFallback(first,

@@ -12,7 +12,7 @@ namespace orvalis::rtf {
 
 namespace {
 
-constexpr ReadResult notRtf{Fault::NotRtf, 0};
+constexpr ReadResult NotRtf{Fault::NotRtf, 0};
 
 // What stands behind the blanks that may be in front of a file and inside its first brace.
 qsizetype startOfGroup(QByteArrayView bytes) {
@@ -47,7 +47,7 @@ bool looksLikeRtf(QByteArrayView bytes) {
 
 ReadResult readRtf(QByteArrayView bytes, Sink& sink) {
     if (!looksLikeRtf(bytes))
-        return notRtf;
+        return NotRtf;
     const qsizetype start = startOfGroup(bytes);
     ReadResult result = Interpreter(withoutPadding(bytes.sliced(start)), sink).run();
     if (!result.ok())
@@ -57,7 +57,7 @@ ReadResult readRtf(QByteArrayView bytes, Sink& sink) {
 
 ReadResult readRtf(QByteArrayView bytes, QTextDocument& document, const ReadOptions& options) {
     if (!looksLikeRtf(bytes))
-        return notRtf;
+        return NotRtf;
     const bool undo = document.isUndoRedoEnabled();
     document.setUndoRedoEnabled(false);
     document.clear();
@@ -66,7 +66,7 @@ ReadResult readRtf(QByteArrayView bytes, QTextDocument& document, const ReadOpti
     DocumentSink sink(cursor, options, bytes.size());
     const ReadResult result = readRtf(bytes, sink);
     QTextOption option = document.defaultTextOption();
-    option.setTabStopDistance(sink.defaultTabTwips() / twipsPerPixel);
+    option.setTabStopDistance(sink.defaultTabTwips() / TwipsPerPixel);
     document.setDefaultTextOption(option);
     cursor.endEditBlock();
     document.setUndoRedoEnabled(undo);
@@ -75,7 +75,7 @@ ReadResult readRtf(QByteArrayView bytes, QTextDocument& document, const ReadOpti
 
 ReadResult insertRtf(QByteArrayView bytes, QTextCursor& cursor, const ReadOptions& options) {
     if (!looksLikeRtf(bytes))
-        return notRtf;
+        return NotRtf;
     cursor.beginEditBlock();
     cursor.removeSelectedText();
     DocumentSink sink(cursor, options, bytes.size());

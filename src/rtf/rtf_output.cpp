@@ -12,7 +12,7 @@ namespace orvalis::rtf {
 
 namespace {
 
-constexpr char16_t nonBreakingHyphen = 0x2011;
+constexpr char16_t NonBreakingHyphen = 0x2011;
 
 constexpr bool canJoinWord(char16_t c) {
     return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || (c >= u'0' && c <= u'9') ||
@@ -20,7 +20,7 @@ constexpr bool canJoinWord(char16_t c) {
 }
 
 // What stands for itself in the file.
-constexpr auto plainCharacters = [] {
+constexpr auto PlainCharacters = [] {
     std::array<bool, 128> plain{};
     for (size_t c = 0x20; c < 0x7f; ++c)
         plain[c] = c != '\\' && c != '{' && c != '}';
@@ -29,7 +29,7 @@ constexpr auto plainCharacters = [] {
 
 bool isPlain(QChar character) {
     const char16_t c = character.unicode();
-    return c < plainCharacters.size() && plainCharacters[c];
+    return c < PlainCharacters.size() && PlainCharacters[c];
 }
 
 void appendNumber(QByteArray& out, int number) {
@@ -39,8 +39,8 @@ void appendNumber(QByteArray& out, int number) {
 }
 
 void appendCode(QByteArray& out, uchar byte) {
-    static constexpr char digits[] = "0123456789abcdef";
-    const char code[] = {'\\', '\'', digits[byte >> 4], digits[byte & 15]};
+    static constexpr char Digits[] = "0123456789abcdef";
+    const char code[] = {'\\', '\'', Digits[byte >> 4], Digits[byte & 15]};
     out.append(code, sizeof code);
 }
 
@@ -101,7 +101,7 @@ void RtfOutput::special(char16_t character) {
     case QChar::SoftHyphen:
         m_bytes.append("\\-");
         return;
-    case nonBreakingHyphen:
+    case NonBreakingHyphen:
         m_bytes.append("\\_");
         return;
     case QChar::ObjectReplacementCharacter:

@@ -12,16 +12,16 @@ namespace orvalis::rtf {
 namespace {
 
 // Codes without a glyph that Unicode knows stay apart from all text.
-constexpr char16_t privateArea = 0xf000;
+constexpr char16_t PrivateArea = 0xf000;
 
-constexpr char16_t lower[] = u" !\u2200#\u2203%&\u220b()\u2217+,\u2212./0123456789:;<=>?"
+constexpr char16_t Lower[] = u" !\u2200#\u2203%&\u220b()\u2217+,\u2212./0123456789:;<=>?"
                              u"\u2245\u0391\u0392\u03a7\u0394\u0395\u03a6\u0393\u0397\u0399"
                              u"\u03d1\u039a\u039b\u039c\u039d\u039f\u03a0\u0398\u03a1\u03a3"
                              u"\u03a4\u03a5\u03c2\u03a9\u039e\u03a8\u0396[\u2234]\u22a5_"
                              u"\uf8e5\u03b1\u03b2\u03c7\u03b4\u03b5\u03c6\u03b3\u03b7\u03b9"
                              u"\u03d5\u03ba\u03bb\u03bc\u03bd\u03bf\u03c0\u03b8\u03c1\u03c3"
                              u"\u03c4\u03c5\u03d6\u03c9\u03be\u03c8\u03b6{|}\u223c";
-constexpr char16_t upper[] = u"\u20ac\u03d2\u2032\u2264\u2044\u221e\u0192\u2663\u2666\u2665"
+constexpr char16_t Upper[] = u"\u20ac\u03d2\u2032\u2264\u2044\u221e\u0192\u2663\u2666\u2665"
                              u"\u2660\u2194\u2190\u2191\u2192\u2193\u00b0\u00b1\u2033\u2265"
                              u"\u00d7\u221d\u2202\u2022\u00f7\u2260\u2261\u2248\u2026\u23d0"
                              u"\u23af\u21b5\u2135\u2111\u211c\u2118\u2297\u2295\u2205\u2229"
@@ -31,29 +31,29 @@ constexpr char16_t upper[] = u"\u20ac\u03d2\u2032\u2264\u2044\u221e\u0192\u2663\
                              u"\u239b\u239c\u239d\u23a1\u23a2\u23a3\u23a7\u23a8\u23a9\u23aa"
                              u"\uf8ff\u232a\u222b\u2320\u23ae\u2321\u239e\u239f\u23a0\u23a4"
                              u"\u23a5\u23a6\u23ab\u23ac\u23ad";
-constexpr int lowerStart = 0x20;
-constexpr int upperStart = 0xa0;
-static_assert(std::size(lower) - 1 == 0x7f - lowerStart);
-static_assert(std::size(upper) - 1 == 0xff - upperStart);
+constexpr int LowerStart = 0x20;
+constexpr int UpperStart = 0xa0;
+static_assert(std::size(Lower) - 1 == 0x7f - LowerStart);
+static_assert(std::size(Upper) - 1 == 0xff - UpperStart);
 
-constexpr std::array<char16_t, 256> characters = [] {
+constexpr std::array<char16_t, 256> Characters = [] {
     std::array<char16_t, 256> table{};
     for (size_t code = 0; code < table.size(); ++code)
-        table[code] = char16_t(code < lowerStart ? code : privateArea + code);
-    for (size_t i = 0; i + 1 < std::size(lower); ++i)
-        table[lowerStart + i] = lower[i];
-    for (size_t i = 0; i + 1 < std::size(upper); ++i)
-        table[upperStart + i] = upper[i];
+        table[code] = char16_t(code < LowerStart ? code : PrivateArea + code);
+    for (size_t i = 0; i + 1 < std::size(Lower); ++i)
+        table[LowerStart + i] = Lower[i];
+    for (size_t i = 0; i + 1 < std::size(Upper); ++i)
+        table[UpperStart + i] = Upper[i];
     return table;
 }();
 
 } // namespace
 
 bool isSymbolFamily(const QString& family) {
-    static constexpr QLatin1StringView families[] = {"Symbol"_L1,      "Wingdings"_L1,
+    static constexpr QLatin1StringView Families[] = {"Symbol"_L1,      "Wingdings"_L1,
                                                      "Wingdings 2"_L1, "Wingdings 3"_L1,
                                                      "Webdings"_L1,    "Marlett"_L1};
-    return std::any_of(std::begin(families), std::end(families), [&](QLatin1StringView known) {
+    return std::any_of(std::begin(Families), std::end(Families), [&](QLatin1StringView known) {
         return family.compare(known, Qt::CaseInsensitive) == 0;
     });
 }
@@ -63,12 +63,12 @@ bool isSymbolFont(const QString& family) {
 }
 
 char16_t symbolCharacter(uchar byte) {
-    return characters[byte];
+    return Characters[byte];
 }
 
 uchar symbolByte(char16_t character) {
-    const auto* found = std::find(characters.begin() + lowerStart, characters.end(), character);
-    return found == characters.end() ? uchar(0) : uchar(found - characters.begin());
+    const auto* found = std::find(Characters.begin() + LowerStart, Characters.end(), character);
+    return found == Characters.end() ? uchar(0) : uchar(found - Characters.begin());
 }
 
 } // namespace orvalis::rtf

@@ -15,10 +15,10 @@ namespace orvalis::rtf {
 
 namespace {
 
-constexpr double halfPointsPerPoint = 2.0;
-constexpr double pointsPerPixel = 0.75;
+constexpr double HalfPointsPerPoint = 2.0;
+constexpr double PointsPerPixel = 0.75;
 // Per cent of the usual distance; 0 would mean the usual one.
-constexpr double narrowestSpacing = 1;
+constexpr double NarrowestSpacing = 1;
 
 QTextCharFormat::UnderlineStyle shownUnderline(Underline underline) {
     switch (underline) {
@@ -61,7 +61,7 @@ Underline underlineOf(const QTextCharFormat& format) {
 }
 
 QRgb colorOf(const QBrush& brush) {
-    return brush.style() == Qt::NoBrush ? automaticColor : brush.color().rgb();
+    return brush.style() == Qt::NoBrush ? AutomaticColor : brush.color().rgb();
 }
 
 QString familyOf(const QTextCharFormat& format, const QFont& defaultFont) {
@@ -74,16 +74,16 @@ QString familyOf(const QTextCharFormat& format, const QFont& defaultFont) {
 
 double pointSizeOf(const QTextCharFormat& format, const QFont& defaultFont) {
     double size = defaultFont.pointSizeF() > 0 ? defaultFont.pointSizeF()
-                                               : defaultFont.pixelSize() * pointsPerPixel;
+                                               : defaultFont.pixelSize() * PointsPerPixel;
     if (format.fontPointSize() > 0)
         size = format.fontPointSize();
     else if (format.hasProperty(QTextFormat::FontPixelSize))
-        size = format.intProperty(QTextFormat::FontPixelSize) * pointsPerPixel;
+        size = format.intProperty(QTextFormat::FontPixelSize) * PointsPerPixel;
     if (format.hasProperty(QTextFormat::FontSizeAdjustment)) {
         // The steps in which documents that came from HTML grow and shrink their text.
-        static constexpr double steps[] = {0.7, 0.8, 1.0, 1.2, 1.5, 2.0, 2.4};
+        static constexpr double Steps[] = {0.7, 0.8, 1.0, 1.2, 1.5, 2.0, 2.4};
         const int step = format.intProperty(QTextFormat::FontSizeAdjustment) + 2;
-        size *= steps[std::clamp(step, 0, int(std::size(steps)) - 1)];
+        size *= Steps[std::clamp(step, 0, int(std::size(Steps)) - 1)];
     }
     return size;
 }
@@ -92,9 +92,9 @@ double pointSizeOf(const QTextCharFormat& format, const QFont& defaultFont) {
 
 QTextCharFormat textFormat(const CharFormat& format, const Names& names) {
     QTextCharFormat text;
-    if (format.family != noName)
+    if (format.family != NoName)
         text.setFontFamilies({names.familyAt(format.family)});
-    text.setFontPointSize(format.halfPoints / halfPointsPerPoint);
+    text.setFontPointSize(format.halfPoints / HalfPointsPerPoint);
     text.setFontWeight(format.bold ? QFont::Bold : QFont::Normal);
     text.setFontItalic(format.italic);
     text.setFontStrikeOut(format.strike);
@@ -104,9 +104,9 @@ QTextCharFormat textFormat(const CharFormat& format, const Names& names) {
     if (format.underline == Underline::Words || format.underline == Underline::Double ||
         format.underline == Underline::Thick)
         text.setProperty(UnderlineKind, int(format.underline));
-    if (format.color != automaticColor)
+    if (format.color != AutomaticColor)
         text.setForeground(QColor::fromRgb(format.color));
-    if (format.highlight != automaticColor)
+    if (format.highlight != AutomaticColor)
         text.setBackground(QColor::fromRgb(format.highlight));
     if (format.script != Script::Normal)
         text.setVerticalAlignment(format.script == Script::Super ? QTextCharFormat::AlignSuperScript
@@ -120,9 +120,9 @@ QTextCharFormat textFormat(const CharFormat& format, const Names& names) {
         text.setProperty(HiddenText, int(format.color));
         text.setForeground(QColor(Qt::transparent));
         text.setFontLetterSpacingType(QFont::PercentageSpacing);
-        text.setFontLetterSpacing(narrowestSpacing);
+        text.setFontLetterSpacing(NarrowestSpacing);
     }
-    if (format.link != noName) {
+    if (format.link != NoName) {
         text.setAnchor(true);
         text.setAnchorHref(names.linkAt(format.link));
     }
@@ -133,7 +133,7 @@ CharFormat charFormat(const QTextCharFormat& format, Names& names, const QFont& 
     CharFormat result;
     result.family = names.family(familyOf(format, defaultFont));
     result.halfPoints =
-        std::max(1, int(std::lround(pointSizeOf(format, defaultFont) * halfPointsPerPoint)));
+        std::max(1, int(std::lround(pointSizeOf(format, defaultFont) * HalfPointsPerPoint)));
     const bool saysWeight = format.hasProperty(QTextFormat::FontWeight);
     result.bold = (saysWeight ? format.fontWeight() : int(defaultFont.weight())) > QFont::Medium;
     result.italic =

@@ -14,7 +14,7 @@ namespace {
 
 enum ByteClass : uchar { Plain, Structure, LineEnd, Nothing };
 
-constexpr std::array<uchar, 256> byteClasses = [] {
+constexpr std::array<uchar, 256> ByteClasses = [] {
     std::array<uchar, 256> classes{};
     classes['{'] = classes['}'] = classes['\\'] = Structure;
     classes['\r'] = classes['\n'] = LineEnd;
@@ -30,14 +30,14 @@ constexpr bool isDigit(uchar c) {
 }
 
 // A longer run of letters is still one word, but no known one.
-constexpr int longestWord = 32;
+constexpr int LongestWord = 32;
 
 } // namespace
 
 void Tokenizer::next(Token& token) {
     while (m_at != m_end) {
         const uchar c = *m_at;
-        switch (byteClasses[c]) {
+        switch (ByteClasses[c]) {
         case Structure:
             ++m_at;
             if (c == '\\')
@@ -56,7 +56,7 @@ void Tokenizer::next(Token& token) {
             const uchar* start = m_at;
             do
                 ++m_at;
-            while (m_at != m_end && byteClasses[*m_at] == Plain);
+            while (m_at != m_end && ByteClasses[*m_at] == Plain);
             token.kind = TokenKind::Text;
             token.bytes = QByteArrayView(start, m_at - start);
             return;
@@ -112,7 +112,7 @@ void Tokenizer::backslash(Token& token) {
 
 void Tokenizer::word(Token& token) {
     const uchar* start = m_at;
-    quint32 hash = controlWordHashStart;
+    quint32 hash = ControlWordHashStart;
     do
         hash = controlWordHash(hash, *m_at++);
     while (m_at != m_end && isLetter(*m_at));
@@ -122,7 +122,7 @@ void Tokenizer::word(Token& token) {
     token.hasParameter = false;
     token.parameter = 0;
     token.word =
-        length <= longestWord ? findControlWord(QByteArrayView(start, length), hash) : nullptr;
+        length <= LongestWord ? findControlWord(QByteArrayView(start, length), hash) : nullptr;
 
     if (m_at == m_end)
         return;
@@ -157,14 +157,15 @@ void Tokenizer::binary(Token& token, int claimed) {
 }
 
 bool Tokenizer::hasStructureAhead() const {
-    return std::any_of(m_at, m_end, [](uchar c) { return byteClasses[c] == Structure; });
+    return std::any_of(
+        m_at, m_end, [](uchar c) { return ByteClasses[c] == Structure; });
 }
 
 bool Tokenizer::skipGroup() {
     qsizetype depth = 1;
     while (m_at != m_end) {
         const uchar c = *m_at++;
-        if (byteClasses[c] != Structure)
+        if (ByteClasses[c] != Structure)
             continue;
         if (c == '{') {
             ++depth;

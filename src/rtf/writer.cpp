@@ -25,7 +25,7 @@ public:
         : m_document(document)
         , m_from(from)
         , m_to(to)
-        , m_defaultTab(int(document.defaultTextOption().tabStopDistance() * twipsPerPixel)) {}
+        , m_defaultTab(int(document.defaultTextOption().tabStopDistance() * TwipsPerPixel)) {}
 
     QByteArray rtf() {
         QTextBlock block = m_document.findBlock(m_from);

@@ -67,7 +67,7 @@ bool WriterTables::isSymbolFont(int family) const {
 }
 
 int WriterTables::color(QRgb color) {
-    if (color == automaticColor)
+    if (color == AutomaticColor)
         return 0;
     int& number = m_colorNumbers[color];
     if (number == 0) {

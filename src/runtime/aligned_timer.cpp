@@ -12,7 +12,7 @@ namespace {
 
 /// How far behind the full second a tick aims, in milliseconds: far enough that a timer that runs
 /// out a little early still meets the new second, near enough to stay in its first tenth.
-constexpr int behindTheSecond = 30;
+constexpr int BehindTheSecond = 30;
 
 class PreciseSingleShot final : public SingleShot {
 public:
@@ -47,7 +47,7 @@ AlignedTimer::AlignedTimer(const Clock& clock, std::unique_ptr<SingleShot> shot,
     , m_clock(clock)
     , m_shot(std::move(shot))
     , m_interval(interval) {
-    Q_ASSERT(interval > behindTheSecond && 1000 % interval == 0);
+    Q_ASSERT(interval > BehindTheSecond && 1000 % interval == 0);
 }
 
 AlignedTimer::~AlignedTimer() = default;
@@ -64,7 +64,7 @@ void AlignedTimer::stop() {
 
 void AlignedTimer::arm(const QDateTime& now) {
     const int past = now.time().msec() % m_interval;
-    const int wait = m_interval - past + behindTheSecond;
+    const int wait = m_interval - past + BehindTheSecond;
     m_target = now.addMSecs(wait);
     m_shot->start(wait, [this] { expire(); });
 }
@@ -74,7 +74,7 @@ void AlignedTimer::expire() {
     const qint64 early = now.msecsTo(m_target);
     // Run out before its second began: waits for the rest, lest one second be told twice. A larger
     // difference is a clock that was set back, and tells nothing about the timer.
-    if (early > behindTheSecond && early <= m_interval + behindTheSecond) {
+    if (early > BehindTheSecond && early <= m_interval + BehindTheSecond) {
         m_shot->start(static_cast<int>(early), [this] { expire(); });
         return;
     }

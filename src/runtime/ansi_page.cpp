@@ -14,7 +14,7 @@ namespace orvalis {
 
 namespace {
 
-constexpr int westernPage = 1252;
+constexpr int WesternPage = 1252;
 
 int pageOfLatinLanguage(QLocale::Language language) {
     switch (language) {
@@ -41,7 +41,7 @@ int pageOfLatinLanguage(QLocale::Language language) {
     case QLocale::Vietnamese:
         return 1258;
     default:
-        return westernPage;
+        return WesternPage;
     }
 }
 
@@ -60,11 +60,11 @@ int pageOfLocale(const QLocale& locale) {
     case QLocale::LatinScript:
         return pageOfLatinLanguage(locale.language());
     default:
-        return westernPage;
+        return WesternPage;
     }
 }
 
-constexpr char outsideThePage = '?';
+constexpr char OutsideThePage = '?';
 
 } // namespace
 
@@ -80,8 +80,8 @@ AnsiPage::AnsiPage(int number, const std::array<char16_t, 128>& upper)
 const AnsiPage& AnsiPage::of(int number) {
     static const auto pages = [] {
         std::vector<AnsiPage> made;
-        made.reserve(ansiPageTables.size());
-        for (const AnsiPageTable& table : ansiPageTables)
+        made.reserve(AnsiPageTables.size());
+        for (const AnsiPageTable& table : AnsiPageTables)
             made.push_back(AnsiPage(table.number, table.upper));
         return made;
     }();
@@ -90,7 +90,7 @@ const AnsiPage& AnsiPage::of(int number) {
                             [wanted](const AnsiPage& page) { return page.number() == wanted; });
     };
     const auto found = find(number);
-    return found == pages.end() ? *find(westernPage) : *found;
+    return found == pages.end() ? *find(WesternPage) : *found;
 }
 
 const AnsiPage& AnsiPage::forLocale(const QLocale& locale) {
@@ -113,14 +113,15 @@ std::optional<quint8> AnsiPage::code(char16_t character) const {
 }
 
 bool AnsiPage::holds(QStringView text) const {
-    return std::all_of(text.utf16(), text.utf16() + text.size(),
-                       [this](char16_t c) { return code(c).has_value(); });
+    return std::all_of(
+        text.utf16(), text.utf16() + text.size(),
+        [this](char16_t c) { return code(c).has_value(); });
 }
 
 QByteArray AnsiPage::encode(QStringView text) const {
     QByteArray bytes(text.size(), Qt::Uninitialized);
     std::transform(text.utf16(), text.utf16() + text.size(), bytes.begin(), [this](char16_t c) {
-        return static_cast<char>(code(c).value_or(outsideThePage));
+        return static_cast<char>(code(c).value_or(OutsideThePage));
     });
     return bytes;
 }
@@ -135,7 +136,7 @@ QString AnsiPage::decode(QByteArrayView bytes) const {
 int Asc(QStringView text, const AnsiPage& page) {
     if (text.isEmpty())
         throw RuntimeError(ErrorNumber::InvalidProcedureCall);
-    return page.code(text.front().unicode()).value_or(outsideThePage);
+    return page.code(text.front().unicode()).value_or(OutsideThePage);
 }
 
 QString Chr(int code, const AnsiPage& page) {

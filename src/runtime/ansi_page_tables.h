@@ -15,7 +15,7 @@ struct AnsiPageTable {
 // clang-format off
 /// Codes that a page leaves unassigned hold their stand-ins: the control character of the same
 /// number below 160, U+F700 plus the code above.
-constexpr std::array<AnsiPageTable, 10> ansiPageTables{{
+constexpr std::array<AnsiPageTable, 10> AnsiPageTables{{
     {874, {{
         0x20AC, 0x0081, 0x0082, 0x0083, 0x0084, 0x2026, 0x0086, 0x0087,
         0x0088, 0x0089, 0x008A, 0x008B, 0x008C, 0x008D, 0x008E, 0x008F,

@@ -18,13 +18,13 @@ namespace orvalis {
 
 namespace {
 
-constexpr std::array dataFiles{u"Vazno.rtf",    u"weekly.rtf",      u"tmp1.brf", u"tmp2.brf",
+constexpr std::array DataFiles{u"Vazno.rtf",    u"weekly.rtf",      u"tmp1.brf", u"tmp2.brf",
                                u"address1.dat", u"address1tmp.dat", u"Msg.txt"};
 
 bool holdsData(const QDir& folder) {
-    return std::any_of(dataFiles.begin(), dataFiles.end(), [&folder](const char16_t* name) {
-        return folder.exists(QString::fromUtf16(name));
-    });
+    return std::any_of(
+        DataFiles.begin(), DataFiles.end(),
+        [&folder](const char16_t* name) { return folder.exists(QString::fromUtf16(name)); });
 }
 
 QString dataFolder(const QString& executableFolder, const QString& userDataFolder) {

@@ -17,7 +17,7 @@ struct ClockFormat {
     Source source;
 };
 
-constexpr std::array<ClockFormat, clockFormatCount> clockFormats{{
+constexpr std::array<ClockFormat, ClockFormatCount> ClockFormats{{
     {u"hh : mm : ss", Source::Long},
     {u"h : m : s", Source::Long},
     {u"hh : mm : ss AMPM", Source::Long},
@@ -41,9 +41,9 @@ QTime told(QTime now, Source source) {
 } // namespace
 
 QString ClockText(int index, QTime now) {
-    if (index < 0 || index >= clockFormatCount)
+    if (index < 0 || index >= ClockFormatCount)
         return {};
-    const ClockFormat& format = clockFormats[static_cast<std::size_t>(index)];
+    const ClockFormat& format = ClockFormats[static_cast<std::size_t>(index)];
     return Format(told(now, format.source), format.pattern);
 }
 

@@ -8,7 +8,7 @@
 namespace orvalis {
 
 /// How many clock formats there are; their indexes run from 0.
-constexpr int clockFormatCount = 13;
+constexpr int ClockFormatCount = 13;
 
 /// The text of a clock at the time \a now in the format \a index, "" for an index outside 0 to 12.
 ///

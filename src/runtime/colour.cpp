@@ -9,7 +9,7 @@ namespace orvalis {
 
 namespace {
 
-constexpr ColourValue systemBit = 0x80000000U;
+constexpr ColourValue SystemBit = 0x80000000U;
 
 /// The palette's role for each of the system's colour indexes.
 QPalette::ColorRole roleOf(quint32 index) {
@@ -61,8 +61,8 @@ QPalette::ColorRole roleOf(quint32 index) {
 } // namespace
 
 QColor toQColor(ColourValue value, const QPalette& palette) {
-    if (value & systemBit) {
-        const QPalette::ColorRole role = roleOf(value & ~systemBit);
+    if (value & SystemBit) {
+        const QPalette::ColorRole role = roleOf(value & ~SystemBit);
         return role == QPalette::NoRole ? QColor(Qt::black) : palette.color(QPalette::Active, role);
     }
     return QColor(static_cast<int>(value & 0xFF), static_cast<int>(value >> 8 & 0xFF),

@@ -16,12 +16,12 @@ constexpr ColourValue systemColour(quint32 index) {
     return 0x80000000U | index;
 }
 
-constexpr ColourValue buttonShadowColour = systemColour(0x10);
-constexpr ColourValue buttonFaceColour = systemColour(0x0F);
-constexpr ColourValue buttonTextColour = systemColour(0x12);
-constexpr ColourValue highlight3DColour = systemColour(0x14);
-constexpr ColourValue toolTipTextColour = systemColour(0x17);
-constexpr ColourValue toolTipBackgroundColour = systemColour(0x18);
+constexpr ColourValue ButtonShadowColour = systemColour(0x10);
+constexpr ColourValue ButtonFaceColour = systemColour(0x0F);
+constexpr ColourValue ButtonTextColour = systemColour(0x12);
+constexpr ColourValue Highlight3DColour = systemColour(0x14);
+constexpr ColourValue ToolTipTextColour = systemColour(0x17);
+constexpr ColourValue ToolTipBackgroundColour = systemColour(0x18);
 
 /// The colour to paint with; the system's colours come from the palette. An index that names no
 /// colour is black. Bits between the top one and the three bytes of a plain colour are ignored.

@@ -19,12 +19,12 @@ namespace orvalis {
 namespace {
 
 #ifdef Q_OS_WIN
-constexpr Qt::CaseSensitivity fileNameCase = Qt::CaseInsensitive;
+constexpr Qt::CaseSensitivity FileNameCase = Qt::CaseInsensitive;
 #else
-constexpr Qt::CaseSensitivity fileNameCase = Qt::CaseSensitive;
+constexpr Qt::CaseSensitivity FileNameCase = Qt::CaseSensitive;
 #endif
 
-constexpr int mostKeptAside = 99;
+constexpr int MostKeptAside = 99;
 
 bool isWildcard(QChar c) {
     return c == u'*' || c == u'?';
@@ -47,7 +47,7 @@ bool matches(QStringView name, QStringView pattern) {
             resumed = n;
         } else if (p < pattern.size() &&
                    (pattern[p] == u'?' ||
-                    name.sliced(n, 1).compare(pattern.sliced(p, 1), fileNameCase) == 0)) {
+                    name.sliced(n, 1).compare(pattern.sliced(p, 1), FileNameCase) == 0)) {
             ++n;
             ++p;
         } else if (star >= 0) {
@@ -68,10 +68,10 @@ bool sameBytes(const QString& a, const QString& b) {
     if (!first.open(QIODevice::ReadOnly) || !second.open(QIODevice::ReadOnly) ||
         first.size() != second.size())
         return false;
-    constexpr qint64 chunk = 65536;
+    constexpr qint64 Chunk = 65536;
     while (!first.atEnd()) {
-        const QByteArray bytes = first.read(chunk);
-        if (bytes.isEmpty() || bytes != second.read(chunk))
+        const QByteArray bytes = first.read(Chunk);
+        if (bytes.isEmpty() || bytes != second.read(Chunk))
             return false;
     }
     return true;
@@ -191,7 +191,7 @@ QByteArray readWhole(const QString& path, qint64 maximum) {
 bool keepUnreadable(const QString& path) {
     if (!QFileInfo(path).isFile())
         return !QFileInfo::exists(path);
-    for (int count = 1; count <= mostKeptAside; ++count) {
+    for (int count = 1; count <= MostKeptAside; ++count) {
         const QString aside =
             path + u".unreadable"_s + (count == 1 ? QString() : QString::number(count));
         if (sameBytes(path, aside))

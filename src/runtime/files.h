@@ -33,12 +33,12 @@ void saveWhole(const QString& path, QByteArrayView bytes);
 void saveWholeTwice(const QString& path, QByteArrayView first, QByteArrayView second);
 
 /// The largest file that is read unless a caller says otherwise, in bytes.
-constexpr qint64 largestFile = qint64{256} * 1024 * 1024;
+constexpr qint64 LargestFile = qint64{256} * 1024 * 1024;
 
 /// The bytes of a plain file.
 /// \throws RuntimeError FileNotFound, PathNotFound (no such folder), PermissionDenied,
 /// PathFileAccessError (no plain file, larger than \a maximum, or unreadable for another reason).
-QByteArray readWhole(const QString& path, qint64 maximum = largestFile);
+QByteArray readWhole(const QString& path, qint64 maximum = LargestFile);
 
 /// Keeps a file aside that could not be read as what it should be, under its name with
 /// ".unreadable" added (or ".unreadable2" and on, where other bytes are kept there already), for

@@ -81,14 +81,13 @@ private:
 
     static bool hasDayHalf(QStringView pattern) {
         bool quoted = false;
-        for (qsizetype i = 0; i < pattern.size(); ++i) {
+        for (qsizetype i = 0; i < pattern.size(); ++i)
             if (pattern[i] == u'"')
                 quoted = !quoted;
             else if (pattern[i] == u'\\' && !quoted)
                 ++i;
             else if (!quoted && isDayHalf(pattern.mid(i)))
                 return true;
-        }
         return false;
     }
 

@@ -9,7 +9,7 @@ namespace orvalis {
 
 Integer16 Integer16::fromNumber(double number) {
     const double rounded = roundHalfEven(number);
-    if (!(rounded >= lowest && rounded <= highest))
+    if (!(rounded >= Lowest && rounded <= Highest))
         overflow();
     return Integer16(static_cast<int>(rounded));
 }

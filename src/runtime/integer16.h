@@ -13,8 +13,8 @@ namespace orvalis {
 /// kind, and several limits of the program are nothing but its overflow.
 class Integer16 {
 public:
-    static constexpr int lowest = -32768;
-    static constexpr int highest = 32767;
+    static constexpr int Lowest = -32768;
+    static constexpr int Highest = 32767;
 
     constexpr Integer16() = default;
     /// \throws RuntimeError Overflow outside -32768 to 32767. Not explicit, so that a plain number
@@ -85,7 +85,7 @@ public:
 
 private:
     static constexpr qint16 checked(qint64 number) {
-        if (number < lowest || number > highest)
+        if (number < Lowest || number > Highest)
             overflow();
         return static_cast<qint16>(number);
     }

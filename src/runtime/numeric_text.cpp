@@ -12,10 +12,12 @@ namespace {
 /// The texts that count as numbers are told by their letters, so that what a conversion might
 /// accept beyond them (hexadecimal, "inf", "nan") does not slip in.
 bool looksNumeric(QStringView text) {
-    return std::all_of(text.begin(), text.end(), [](QChar c) {
-        return (c >= u'0' && c <= u'9') || c == u'.' || c == u'+' || c == u'-' || c == u'e' ||
-               c == u'E';
-    });
+    return std::all_of(
+        text.begin(), text.end(),
+        [](QChar c) {
+            return (c >= u'0' && c <= u'9') || c == u'.' || c == u'+' || c == u'-' || c == u'e' ||
+                   c == u'E';
+        });
 }
 
 QString told(double number, int digits, QChar decimalSign) {

@@ -15,8 +15,8 @@ bool takenForUtf8(QByteArrayView bytes) {
 }
 
 bool isAscii(QByteArrayView bytes) {
-    return std::all_of(bytes.begin(), bytes.end(),
-                       [](char byte) { return static_cast<quint8>(byte) < 128; });
+    return std::all_of(
+        bytes.begin(), bytes.end(), [](char byte) { return static_cast<quint8>(byte) < 128; });
 }
 
 } // namespace

@@ -7,10 +7,10 @@
 namespace orvalis {
 
 /// Layout is told in twips, 1440 to the inch; a logical pixel is always 15 of them.
-constexpr int twipsPerPixel = 15;
+constexpr int TwipsPerPixel = 15;
 
 constexpr double twipsToPixelsF(double twips) {
-    return twips / twipsPerPixel;
+    return twips / TwipsPerPixel;
 }
 
 /// To the nearest pixel.
@@ -20,7 +20,7 @@ inline int twipsToPixels(double twips) {
 
 /// To the nearest twip.
 inline int pixelsToTwips(double pixels) {
-    return static_cast<int>(std::lround(pixels * twipsPerPixel));
+    return static_cast<int>(std::lround(pixels * TwipsPerPixel));
 }
 
 } // namespace orvalis

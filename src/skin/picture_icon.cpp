@@ -13,8 +13,8 @@ namespace orvalis::skin {
 
 namespace {
 
-constexpr int kTinyUpTo = 20;
-constexpr qreal kDisabledOpacity = 0.4;
+constexpr int TinyUpTo = 20;
+constexpr qreal DisabledOpacity = 0.4;
 
 } // namespace
 
@@ -23,7 +23,7 @@ PictureIconEngine::PictureIconEngine(QString name)
 
 QString PictureIconEngine::nameFor(int devicePixels) const {
     const QString tiny = m_name + u"_tiny"_s;
-    return devicePixels <= kTinyUpTo && skin::exists(tiny) ? tiny : m_name;
+    return devicePixels <= TinyUpTo && skin::exists(tiny) ? tiny : m_name;
 }
 
 void PictureIconEngine::paint(QPainter* painter, const QRect& rect, QIcon::Mode mode,
@@ -31,7 +31,7 @@ void PictureIconEngine::paint(QPainter* painter, const QRect& rect, QIcon::Mode 
     const qreal ratio = painter->device()->devicePixelRatio();
     painter->save();
     if (mode == QIcon::Disabled)
-        painter->setOpacity(painter->opacity() * kDisabledOpacity);
+        painter->setOpacity(painter->opacity() * DisabledOpacity);
     skin::paint(*painter, nameFor(qRound(rect.width() * ratio)), rect);
     painter->restore();
 }

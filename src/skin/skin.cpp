@@ -27,11 +27,11 @@ namespace orvalis::skin {
 
 namespace {
 
-constexpr auto kFolder = ":/skin/"_L1;
-constexpr auto kSuffix = ".pic"_L1;
+constexpr auto Folder = ":/skin/"_L1;
+constexpr auto Suffix = ".pic"_L1;
 
 QString pathOf(QStringView name) {
-    return kFolder + name.toString() + kSuffix;
+    return Folder + name.toString() + Suffix;
 }
 
 void ensurePictures() {
@@ -86,8 +86,8 @@ using PixmapKey = std::tuple<QString, int, int, qreal>;
 QStringList names() {
     ensurePictures();
     QStringList found;
-    for (const QString& file : QDir(kFolder).entryList(QDir::Files, QDir::Name))
-        found.append(file.chopped(kSuffix.size()));
+    for (const QString& file : QDir(Folder).entryList(QDir::Files, QDir::Name))
+        found.append(file.chopped(Suffix.size()));
     return found;
 }
 

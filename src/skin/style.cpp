@@ -218,12 +218,12 @@ QIcon Style::standardIcon(StandardPixmap picture, const QStyleOption* option,
 }
 
 void dress(QApplication& application) {
-    constexpr int kDialogPoints = 9;
+    constexpr int DialogPoints = 9;
     QApplication::setStyle(new Style);
     QApplication::setPalette(windowPalette());
-    QApplication::setFont(font(kDialogPoints));
+    QApplication::setFont(font(DialogPoints));
     QToolTip::setPalette(windowPalette());
-    QToolTip::setFont(font(kDialogPoints));
+    QToolTip::setFont(font(DialogPoints));
     application.setWindowIcon(icon(u"orvalis"));
 }
 

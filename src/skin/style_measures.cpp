@@ -10,12 +10,12 @@ namespace orvalis::skin {
 
 namespace {
 
-constexpr int kScrollBar = 12;
-constexpr int kShortestSlider = 24;
-constexpr int kComboArrow = 19;
-constexpr int kFieldFrame = 2;
-constexpr int kCaptionInset = 9;
-constexpr int kMark = 14;
+constexpr int ScrollBar = 12;
+constexpr int ShortestSlider = 24;
+constexpr int ComboArrow = 19;
+constexpr int FieldFrame = 2;
+constexpr int CaptionInset = 9;
+constexpr int Mark = 14;
 
 QRect scrollBarRect(const QStyleOptionSlider& bar, QStyle::SubControl part) {
     const bool upright = bar.orientation == Qt::Vertical;
@@ -24,7 +24,7 @@ QRect scrollBarRect(const QStyleOptionSlider& bar, QStyle::SubControl part) {
     int slider = length;
     if (range > 0) {
         const qint64 page = qMax(1, bar.pageStep);
-        slider = int(qMax<qint64>(length * page / (range + page), kShortestSlider));
+        slider = int(qMax<qint64>(length * page / (range + page), ShortestSlider));
         slider = qMin(slider, length);
     }
     const int start = QStyle::sliderPositionFromValue(bar.minimum, bar.maximum, bar.sliderPosition,
@@ -62,18 +62,18 @@ QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* o
         return scrollBarRect(*bar, part);
     if (control == CC_ComboBox) {
         const QRect whole = option->rect;
-        const QRect arrow = whole.adjusted(whole.width() - kComboArrow, 0, 0, 0);
+        const QRect arrow = whole.adjusted(whole.width() - ComboArrow, 0, 0, 0);
         if (part == SC_ComboBoxArrow)
             return visualRect(option->direction, whole, arrow);
         if (part == SC_ComboBoxEditField)
             return visualRect(option->direction, whole,
-                              whole.adjusted(kFieldFrame, kFieldFrame, -kComboArrow, -kFieldFrame));
+                              whole.adjusted(FieldFrame, FieldFrame, -ComboArrow, -FieldFrame));
     }
     if (const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
         group && control == CC_GroupBox && part == SC_GroupBoxLabel) {
         const QSize text = group->fontMetrics.size(Qt::TextShowMnemonic, group->text) + QSize(2, 0);
         return visualRect(group->direction, group->rect,
-                          QRect(group->rect.topLeft() + QPoint(kCaptionInset, 0), text));
+                          QRect(group->rect.topLeft() + QPoint(CaptionInset, 0), text));
     }
     return QProxyStyle::subControlRect(control, option, part, widget);
 }
@@ -82,18 +82,18 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
                        const QWidget* widget) const {
     switch (metric) {
     case PM_ScrollBarExtent:
-        return kScrollBar;
+        return ScrollBar;
     case PM_ScrollBarSliderMin:
-        return kShortestSlider;
+        return ShortestSlider;
     case PM_ScrollView_ScrollBarSpacing:
         return 0;
     case PM_DefaultFrameWidth:
-        return kFieldFrame;
+        return FieldFrame;
     case PM_IndicatorWidth:
     case PM_IndicatorHeight:
     case PM_ExclusiveIndicatorWidth:
     case PM_ExclusiveIndicatorHeight:
-        return kMark;
+        return Mark;
     case PM_ButtonShiftHorizontal:
     case PM_ButtonShiftVertical:
         return 0;

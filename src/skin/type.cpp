@@ -11,8 +11,8 @@ namespace orvalis::skin {
 
 namespace {
 
-constexpr qreal kSmallest = 5;
-constexpr qreal kStep = 0.5;
+constexpr qreal Smallest = 5;
+constexpr qreal Step = 0.5;
 
 } // namespace
 
@@ -30,8 +30,8 @@ QFont fitted(const QFont& font, const QString& text, QSizeF box) {
         const QFontMetricsF metrics(smaller);
         return metrics.horizontalAdvance(text) <= box.width() && metrics.height() <= box.height();
     };
-    while (!fits() && smaller.pointSizeF() - kStep >= kSmallest)
-        smaller.setPointSizeF(smaller.pointSizeF() - kStep);
+    while (!fits() && smaller.pointSizeF() - Step >= Smallest)
+        smaller.setPointSizeF(smaller.pointSizeF() - Step);
     return smaller;
 }
 

@@ -35,13 +35,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int clientWidth = 2910; // twips
+constexpr int ClientWidth = 2910; // twips
 /// The width that stands for the sticker's own in its layout, on both sides of the ratio: so the
 /// geometry stays and only the fonts follow the screen.
-constexpr int layoutWidth = 3060;
+constexpr int LayoutWidth = 3060;
 /// New stickers lie fanned out, so that one that pops up leaves the head of the one before in
 /// sight; with this many the fan begins anew.
-constexpr int fan = 8;
+constexpr int Fan = 8;
 constexpr QPoint fanStep(24, 28);
 
 void setInk(QWidget& widget, QPalette::ColorRole role, QRgb ink) {
@@ -60,12 +60,13 @@ StickerForm::StickerForm(Program& program, const QString& name, const QString& d
     , m_drag(new WindowDrag(*this)) {
     setWindowTitle(designCaption);
     setAttribute(Qt::WA_TranslucentBackground);
-    setFixedSize(twipsToPixels(clientWidth), twipsToPixels(height));
+    setFixedSize(twipsToPixels(ClientWidth), twipsToPixels(height));
 
     m_imgOff = makePin(u"imgOff"_s, u"pin_on"_s, u"Let other windows cover this sticker"_s);
     m_imgOn = makePin(u"imgOn"_s, u"pin_off"_s, u"Keep this sticker on top"_s);
     m_imgOn->hide();
-    connect(m_imgOff, &Image::Click, this, [this] { pin(false); });
+    connect(
+        m_imgOff, &Image::Click, this, [this] { pin(false); });
     connect(m_imgOn, &Image::Click, this, [this] { pin(true); });
 
     makeTitle();
@@ -134,9 +135,11 @@ void StickerForm::makeClock() {
     m_lblVreme->setFont(skin::font(10));
     m_lblVreme->setCursor(Qt::SizeAllCursor);
     setInk(*m_lblVreme, QPalette::WindowText, skin::colour::StickerQuiet);
-    connect(m_lblVreme, &ClockLabel::MouseDown, this, [this](int button, int, float x, float y) {
-        m_drag->start(mouseButton(button), m_lblVreme->mapToGlobal(QPointF(x, y).toPoint()));
-    });
+    connect(
+        m_lblVreme, &ClockLabel::MouseDown, this,
+        [this](int button, int, float x, float y) {
+            m_drag->start(mouseButton(button), m_lblVreme->mapToGlobal(QPointF(x, y).toPoint()));
+        });
     connect(m_lblVreme, &ClockLabel::MouseMove, this, [this] {
         m_lblVreme->setToolTip(Format(m_program.services.clock.now(), u"dddd, mmmm dd, yyyy"));
     });
@@ -148,13 +151,13 @@ void StickerForm::makeClock() {
 void StickerForm::onLoad() {
     SetTopMost(*this);
     clsResize(m_program.services.screen.GetSystemMetrics(0))
-        .ResizeForm(*this, layoutWidth, layoutWidth);
+        .ResizeForm(*this, LayoutWidth, LayoutWidth);
     m_CommonDialog1.Color = 0xFFFFFF;
     ++m_program.state.StickerNo;
     ++m_program.state.StickerCount;
     setWindowTitle(u"Sticker No"_s + QString::number(m_program.state.StickerNo));
     m_txtLabel1->setText(windowTitle());
-    setFirstPlaceOff(fanStep * ((m_program.state.StickerNo - 1) % fan));
+    setFirstPlaceOff(fanStep * ((m_program.state.StickerNo - 1) % Fan));
     // What is typed into a new sticker is its note.
     m_Text1->setFocus();
 }
@@ -183,7 +186,7 @@ void StickerForm::chooseFont() {
     dialog.CancelError = true;
     const auto failure = firstFailure([&] {
         loadFontFromSelection(dialog, *m_Text1);
-        dialog.Flags = fontDialogFlags;
+        dialog.Flags = FontDialogFlags;
         dialog.ShowFont();
         applyFontToSelection(dialog, *m_Text1);
         m_Text1->setFocus();
@@ -192,7 +195,7 @@ void StickerForm::chooseFont() {
         return;
     // A mixed selection has no font to start from; what is chosen now is not applied.
     endSilently([&] {
-        dialog.Flags = fontDialogFlags;
+        dialog.Flags = FontDialogFlags;
         dialog.ShowFont();
     });
 }

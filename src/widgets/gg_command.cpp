@@ -42,9 +42,8 @@ GGCommand::~GGCommand() {
 
 QFont GGCommand::lookFont(bool hoverLook) const {
     QFont look = font();
-    if (hoverLook) {
+    if (hoverLook)
         look.setBold(m_fontBoldOnHover);
-    }
     return look;
 }
 
@@ -54,16 +53,16 @@ void GGCommand::applyBorder3DStyle() {
         m_exStyle = 0;
         break;
     case 1:
-        m_exStyle = clientEdgeStyle;
+        m_exStyle = ClientEdgeStyle;
         break;
     case 2:
-        m_exStyle = dialogFrameStyle;
+        m_exStyle = DialogFrameStyle;
         break;
     case 3:
-        m_exStyle = staticEdgeStyle;
+        m_exStyle = StaticEdgeStyle;
         break;
     case 4:
-        m_exStyle = clientEdgeStyle | dialogFrameStyle;
+        m_exStyle = ClientEdgeStyle | DialogFrameStyle;
         break;
     default: // any other leaves the frame that is there
         break;
@@ -89,9 +88,8 @@ void GGCommand::PaintFace(int Offset, bool Inverse, bool hoverLook) {
     m_face.orientation = m_gradientOrientation;
     m_face.from = m_gradientFromColor;
     m_face.to = m_gradientToColor;
-    if (Inverse) {
+    if (Inverse)
         std::swap(m_face.from, m_face.to);
-    }
     m_imgPicture->setVisible(!m_picture.isNull());
     if (!m_picture.isNull()) {
         const QPoint frame(frameWidth(), frameWidth());
@@ -108,9 +106,8 @@ void GGCommand::PaintFace(int Offset, bool Inverse, bool hoverLook) {
     m_inverse = Inverse;
     m_hoverLook = hoverLook;
     m_edge.reset();
-    if (m_alwaysShowBorder) {
+    if (m_alwaysShowBorder)
         PaintBorder(1);
-    }
     m_ownPaint = true;
     update();
 }
@@ -126,30 +123,26 @@ void GGCommand::repaintLook() {
     const int state = m_BorderState;
     CalcLayout(m_hoverLook);
     PaintFace(m_Offset, m_inverse, m_hoverLook);
-    if (state != 0) {
+    if (state != 0)
         PaintBorder(state);
-    }
 }
 
 void GGCommand::paintEvent(QPaintEvent*) {
-    if (!std::exchange(m_ownPaint, false) && m_BorderState != 0) {
+    if (!std::exchange(m_ownPaint, false) && m_BorderState != 0)
         m_edge = edgeOfState(m_BorderState, m_backColor, m_alwaysShowBorder);
-    }
     QPainter painter(this);
     paintFrame(painter, size(), m_exStyle);
     painter.translate(frameWidth(), frameWidth());
     painter.setClipRect(QRect(QPoint(), m_face.size));
     paintFace(painter, m_face);
-    if (m_edge) {
+    if (m_edge)
         paintEdge(painter, m_face.size, *m_edge);
-    }
 }
 
 void GGCommand::resizeEvent(QResizeEvent*) {
     // A button that was never shown is told its size again and again, which is no resize.
-    if (m_face.size != QSize(ScaleWidth(), ScaleHeight())) {
+    if (m_face.size != QSize(ScaleWidth(), ScaleHeight()))
         repaintLook();
-    }
 }
 
 void GGCommand::showEvent(QShowEvent*) {

@@ -34,23 +34,20 @@ QPointF GGCommand::facePoint(const QPointF& point) const {
 bool GGCommand::isOver(const QPointF& facePoint) const {
     const bool inside = facePoint.x() >= 0 && facePoint.y() >= 0 && facePoint.x() < ScaleWidth() &&
                         facePoint.y() < ScaleHeight();
-    if (!inside || !isVisible()) {
+    if (!inside || !isVisible())
         return inside;
-    }
     const QPoint point = (facePoint + QPointF(frameWidth(), frameWidth())).toPoint();
     const QWidget* under = window()->childAt(mapTo(window(), point));
     return under == nullptr ? isWindow() : under == this || isAncestorOf(under);
 }
 
 void GGCommand::beginHover() {
-    if (!ToolTip().isEmpty()) {
+    if (!ToolTip().isEmpty())
         createToolTip();
-    }
     const QPointer<GGCommand> self(this);
     emit MouseEnter();
-    if (!self) {
+    if (!self)
         return;
-    }
     m_Hover = true;
     if (!m_pointerInside) {
         endHover();
@@ -67,9 +64,8 @@ void GGCommand::endHover() {
     m_Hover = false;
     const QPointer<GGCommand> self(this);
     emit MouseExit();
-    if (!self) {
+    if (!self)
         return;
-    }
     endToolTip();
     m_Pressed = false;
     CalcLayout(false);
@@ -79,9 +75,8 @@ void GGCommand::endHover() {
 
 void GGCommand::pointerLeft() {
     m_pointerInside = false;
-    if (m_Hover) {
+    if (m_Hover)
         endHover();
-    }
 }
 
 void GGCommand::handleMouseMove(int Button, int Shift, const QPointF& point,
@@ -96,16 +91,13 @@ void GGCommand::handleMouseMove(int Button, int Shift, const QPointF& point,
         pointerLeft();
     } else if (over) {
         m_pointerInside = true;
-        if (!m_Hover) {
+        if (!m_Hover)
             beginHover();
-        }
     }
-    if (!self) {
+    if (!self)
         return;
-    }
-    if (m_ToolTipWnd) {
+    if (m_ToolTipWnd)
         m_ToolTipWnd->pointerMoved();
-    }
     emit MouseMove(Button, Shift, number(point.x()), number(point.y()));
 }
 
@@ -113,14 +105,12 @@ void GGCommand::handleMouseDown(int Button, int Shift, const QPointF& point) {
     m_pointerInside = true;
     m_MouseDown = true;
     m_Pressed = true;
-    if (m_ToolTipWnd) {
+    if (m_ToolTipWnd)
         m_ToolTipWnd->dismiss();
-    }
     const QPointer<GGCommand> self(this);
     emit MouseDown(Button, Shift, number(point.x()), number(point.y()));
-    if (!self) {
+    if (!self)
         return;
-    }
     if (!m_pointerInside) {
         m_MouseDown = false;
         m_Pressed = false;
@@ -144,15 +134,13 @@ void GGCommand::handleMouseUp(int Button, int Shift, const QPointF& point) {
     const QPointer<GGCommand> self(this);
     if (Button == 1 && m_Pressed) {
         emit Click();
-        if (!self) {
+        if (!self)
             return;
-        }
     }
     m_Pressed = false;
     emit MouseUp(Button, Shift, number(point.x()), number(point.y()));
-    if (!self || !m_pointerInside) {
+    if (!self || !m_pointerInside)
         return;
-    }
     if (Button == 1) {
         CalcLayout(m_useHoverProperties);
         PaintFace(0, false, m_useHoverProperties);
@@ -163,35 +151,29 @@ void GGCommand::handleMouseUp(int Button, int Shift, const QPointF& point) {
 }
 
 void GGCommand::press() {
-    if (!isEnabled()) {
+    if (!isEnabled())
         return;
-    }
     const bool wasInside = m_pointerInside;
     const QPointF middle(ScaleWidth() / 2.0, ScaleHeight() / 2.0);
     const QPointer<GGCommand> self(this);
     handleMouseDown(1, 0, middle);
-    if (self) {
+    if (self)
         handleMouseUp(1, 0, middle);
-    }
-    if (self && !wasInside) {
+    if (self && !wasInside)
         pointerLeft();
-    }
 }
 
 void GGCommand::enterEvent(QEnterEvent*) {
-    if (!isEnabled()) {
+    if (!isEnabled())
         return;
-    }
     m_pointerInside = true;
-    if (!m_Hover) {
+    if (!m_Hover)
         beginHover();
-    }
 }
 
 void GGCommand::leaveEvent(QEvent*) {
-    if (!m_dontReleaseCapture) {
+    if (!m_dontReleaseCapture)
         pointerLeft();
-    }
 }
 
 void GGCommand::hideEvent(QHideEvent*) {
@@ -208,9 +190,8 @@ void GGCommand::mousePressEvent(QMouseEvent* event) {
 void GGCommand::mouseDoubleClickEvent(QMouseEvent* event) {
     const QPointer<GGCommand> self(this);
     mousePressEvent(event);
-    if (self) {
+    if (self)
         emit DblClick();
-    }
 }
 
 void GGCommand::mouseMoveEvent(QMouseEvent* event) {
@@ -226,9 +207,8 @@ void GGCommand::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 bool GGCommand::eventFilter(QObject* watched, QEvent* event) {
-    if (watched != m_imgPicture) {
+    if (watched != m_imgPicture)
         return QWidget::eventFilter(watched, event);
-    }
     // The picture behaves like the face; a point on it is told from its own corner.
     switch (event->type()) {
     case QEvent::MouseButtonPress:
@@ -255,18 +235,16 @@ bool GGCommand::eventFilter(QObject* watched, QEvent* event) {
         break;
     default:
         handleMouseDown(button, shift, point);
-        if (self && event->type() == QEvent::MouseButtonDblClick) {
+        if (self && event->type() == QEvent::MouseButtonDblClick)
             emit DblClick();
-        }
         break;
     }
     return true;
 }
 
 void GGCommand::focusInEvent(QFocusEvent* event) {
-    if (comesFromOutside(*event)) {
+    if (comesFromOutside(*event))
         return;
-    }
     if (m_MouseDown) {
         m_MouseDown = false;
         return;
@@ -277,9 +255,8 @@ void GGCommand::focusInEvent(QFocusEvent* event) {
 }
 
 void GGCommand::focusOutEvent(QFocusEvent* event) {
-    if (comesFromOutside(*event)) {
+    if (comesFromOutside(*event))
         return;
-    }
     CalcLayout(false);
     PaintFace(0, false, false);
 }
@@ -292,9 +269,8 @@ bool GGCommand::event(QEvent* event) {
         return true;
     case QEvent::ToolTipChange:
         nameForAssistivePrograms();
-        if (m_ToolTipWnd) {
+        if (m_ToolTipWnd)
             m_ToolTipWnd->updateText(toolTip());
-        }
         break;
     default:
         break;
@@ -331,15 +307,13 @@ ToolTipWindow* GGCommand::toolTipWindow() const {
 
 void GGCommand::setDontReleaseCapture(bool dont) {
     m_dontReleaseCapture = dont;
-    if (!dont && m_Hover && !underMouse()) {
+    if (!dont && m_Hover && !underMouse())
         pointerLeft();
-    }
 }
 
 void GGCommand::setValue(bool value) {
-    if (value) {
+    if (value)
         emit Click();
-    }
 }
 
 } // namespace orvalis

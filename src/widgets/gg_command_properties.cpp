@@ -208,11 +208,10 @@ void GGCommand::setMousePointer(qint16 pointer) {
 
 void GGCommand::takeMousePointer(qint16 pointer) {
     m_mousePointer = pointer;
-    if (pointer == 0) {
+    if (pointer == 0)
         unsetCursor();
-    } else {
+    else
         setCursor(cursorOf(pointer));
-    }
 }
 
 void GGCommand::setEnabled(bool enabled) {
@@ -230,8 +229,8 @@ void GGCommand::WriteProperties(PropertyBag& bag) const {
     bag.WriteProperty(u"UseHoverProperties"_s, m_useHoverProperties, true);
     bag.WriteProperty(u"FontBoldOnHover"_s, m_fontBoldOnHover, false);
     bag.WriteProperty(u"FontColorOnHover"_s, m_fontColorOnHover, 0xFF0000U);
-    bag.WriteProperty(u"BackColor"_s, m_backColor, buttonFaceColour);
-    bag.WriteProperty(u"ForeColor"_s, m_foreColor, buttonTextColour);
+    bag.WriteProperty(u"BackColor"_s, m_backColor, ButtonFaceColour);
+    bag.WriteProperty(u"ForeColor"_s, m_foreColor, ButtonTextColour);
     bag.WriteProperty(u"Font"_s, font(), ambient);
     bag.WriteProperty(u"Picture"_s, QVariant::fromValue(m_picture),
                       QVariant::fromValue(PictureSource()));
@@ -241,15 +240,15 @@ void GGCommand::WriteProperties(PropertyBag& bag) const {
     bag.WriteProperty(u"AlwaysShowBorder"_s, m_alwaysShowBorder, false);
     bag.WriteProperty(u"ToolTip"_s, ToolTip(), QString());
     bag.WriteProperty(u"ToolTipTitle"_s, m_toolTipTitle, QString());
-    bag.WriteProperty(u"ToolTipBackColor"_s, m_toolTipBackColor, toolTipBackgroundColour);
-    bag.WriteProperty(u"ToolTipForeColor"_s, m_toolTipForeColor, toolTipTextColour);
+    bag.WriteProperty(u"ToolTipBackColor"_s, m_toolTipBackColor, ToolTipBackgroundColour);
+    bag.WriteProperty(u"ToolTipForeColor"_s, m_toolTipForeColor, ToolTipTextColour);
     bag.WriteProperty(u"ToolTipIcon"_s, m_toolTipIcon, 0);
     bag.WriteProperty(u"ToolTipStyle"_s, m_toolTipStyle, 0);
     bag.WriteProperty(u"Border3DStyle"_s, m_border3DStyle, 0);
     bag.WriteProperty(u"GradientOrientation"_s, m_gradientOrientation, 0);
     bag.WriteProperty(u"UseGradientFill"_s, m_useGradientFill, true);
-    bag.WriteProperty(u"GradientFromColor"_s, m_gradientFromColor, highlight3DColour);
-    bag.WriteProperty(u"GradientToColor"_s, m_gradientToColor, buttonShadowColour);
+    bag.WriteProperty(u"GradientFromColor"_s, m_gradientFromColor, Highlight3DColour);
+    bag.WriteProperty(u"GradientToColor"_s, m_gradientToColor, ButtonShadowColour);
     bag.WriteProperty(u"GradientInverseOnPress"_s, m_gradientInverseOnPress, true);
     bag.WriteProperty(u"MousePointer"_s, QVariant::fromValue(m_mousePointer),
                       QVariant::fromValue(qint16(0)));
@@ -276,8 +275,8 @@ void GGCommand::ReadProperties(const PropertyBag& bag) {
     m_useHoverProperties = flag(u"UseHoverProperties"_s, true);
     m_fontBoldOnHover = flag(u"FontBoldOnHover"_s, false);
     m_fontColorOnHover = colour(u"FontColorOnHover"_s, 0xFF0000);
-    m_backColor = colour(u"BackColor"_s, buttonFaceColour);
-    m_foreColor = colour(u"ForeColor"_s, buttonTextColour);
+    m_backColor = colour(u"BackColor"_s, ButtonFaceColour);
+    m_foreColor = colour(u"ForeColor"_s, ButtonTextColour);
     QWidget::setFont(bag.ReadProperty(u"Font"_s, QFont()).value<QFont>());
     m_picture = bag.ReadProperty(u"Picture"_s, {}).value<PictureSource>();
     m_pictureAlignment = number(u"PictureAlignment"_s, 1);
@@ -286,15 +285,15 @@ void GGCommand::ReadProperties(const PropertyBag& bag) {
     m_alwaysShowBorder = flag(u"AlwaysShowBorder"_s, false);
     QWidget::setToolTip(text(u"ToolTip"_s));
     m_toolTipTitle = text(u"ToolTipTitle"_s);
-    m_toolTipBackColor = colour(u"ToolTipBackColor"_s, toolTipBackgroundColour);
-    m_toolTipForeColor = colour(u"ToolTipForeColor"_s, toolTipTextColour);
+    m_toolTipBackColor = colour(u"ToolTipBackColor"_s, ToolTipBackgroundColour);
+    m_toolTipForeColor = colour(u"ToolTipForeColor"_s, ToolTipTextColour);
     m_toolTipIcon = number(u"ToolTipIcon"_s, 0);
     m_toolTipStyle = number(u"ToolTipStyle"_s, 0);
     m_border3DStyle = number(u"Border3DStyle"_s, 0);
     m_gradientOrientation = number(u"GradientOrientation"_s, 0);
     m_useGradientFill = flag(u"UseGradientFill"_s, true);
-    m_gradientFromColor = colour(u"GradientFromColor"_s, highlight3DColour);
-    m_gradientToColor = colour(u"GradientToColor"_s, buttonShadowColour);
+    m_gradientFromColor = colour(u"GradientFromColor"_s, Highlight3DColour);
+    m_gradientToColor = colour(u"GradientToColor"_s, ButtonShadowColour);
     m_gradientInverseOnPress = flag(u"GradientInverseOnPress"_s, true);
     takeMousePointer(bag.ReadProperty(u"MousePointer"_s, 0).value<qint16>());
     QWidget::setEnabled(flag(u"Enabled"_s, true));

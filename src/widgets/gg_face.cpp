@@ -11,10 +11,10 @@ namespace orvalis {
 
 namespace {
 
-constexpr ColourValue white = 0xFFFFFF;
-constexpr ColourValue darkShadow3DColour = systemColour(0x15);
-constexpr ColourValue light3DColour = systemColour(0x16);
-constexpr qreal disabledOpacity = 0.45;
+constexpr ColourValue White = 0xFFFFFF;
+constexpr ColourValue DarkShadow3DColour = systemColour(0x15);
+constexpr ColourValue Light3DColour = systemColour(0x16);
+constexpr qreal DisabledOpacity = 0.45;
 
 Shade shadeOf(ColourValue value) {
     const QColor colour = toQColor(value);
@@ -29,9 +29,8 @@ void paintGradient(QPainter& painter, const GGFace& face) {
     const int width = face.size.width();
     const int height = face.size.height();
     const bool rows = face.orientation == 0;
-    if (!face.gradient || (!rows && face.orientation != 1)) {
+    if (!face.gradient || (!rows && face.orientation != 1))
         return;
-    }
     const auto shades = gradientShades(shadeOf(face.from), shadeOf(face.to), rows ? height : width);
     int at = 1;
     for (const Shade& shade : shades) {
@@ -51,12 +50,10 @@ void paintRing(QPainter& painter, const QRect& area, ColourValue topLeft, Colour
 } // namespace
 
 GGEdge edgeOfState(int state, ColourValue backColor, bool alwaysShowBorder) {
-    if (state == 2) {
-        return {buttonShadowColour, white};
-    }
-    if (state == 1 || alwaysShowBorder) {
-        return {white, buttonShadowColour};
-    }
+    if (state == 2)
+        return {ButtonShadowColour, White};
+    if (state == 1 || alwaysShowBorder)
+        return {White, ButtonShadowColour};
     return {backColor, backColor};
 }
 
@@ -66,9 +63,8 @@ void paintFace(QPainter& painter, const GGFace& face) {
     painter.save();
     painter.setFont(face.font);
     painter.setPen(toQColor(face.foreColor));
-    if (!face.enabled) {
-        painter.setOpacity(disabledOpacity);
-    }
+    if (!face.enabled)
+        painter.setOpacity(DisabledOpacity);
     const QRect box(face.captionAt, QFontMetrics(face.font).size(0, face.caption));
     painter.drawText(box, Qt::AlignLeft | Qt::AlignTop | Qt::TextDontClip, face.caption);
     painter.restore();
@@ -86,8 +82,8 @@ void paintEdge(QPainter& painter, const QSize& face, const GGEdge& edge) {
 }
 
 int frameWidthOf(quint32 exStyle) {
-    return (exStyle & dialogFrameStyle ? 3 : 0) + (exStyle & clientEdgeStyle ? 2 : 0) +
-           (exStyle & staticEdgeStyle ? 1 : 0);
+    return (exStyle & DialogFrameStyle ? 3 : 0) + (exStyle & ClientEdgeStyle ? 2 : 0) +
+           (exStyle & StaticEdgeStyle ? 1 : 0);
 }
 
 void paintFrame(QPainter& painter, const QSize& whole, quint32 exStyle) {
@@ -96,18 +92,17 @@ void paintFrame(QPainter& painter, const QSize& whole, quint32 exStyle) {
         paintRing(painter, area, topLeft, bottomRight);
         area.adjust(1, 1, -1, -1);
     };
-    if (exStyle & dialogFrameStyle) {
-        ring(light3DColour, darkShadow3DColour);
-        ring(highlight3DColour, buttonShadowColour);
-        ring(buttonFaceColour, buttonFaceColour);
+    if (exStyle & DialogFrameStyle) {
+        ring(Light3DColour, DarkShadow3DColour);
+        ring(Highlight3DColour, ButtonShadowColour);
+        ring(ButtonFaceColour, ButtonFaceColour);
     }
-    if (exStyle & clientEdgeStyle) {
-        ring(buttonShadowColour, highlight3DColour);
-        ring(darkShadow3DColour, light3DColour);
+    if (exStyle & ClientEdgeStyle) {
+        ring(ButtonShadowColour, Highlight3DColour);
+        ring(DarkShadow3DColour, Light3DColour);
     }
-    if (exStyle & staticEdgeStyle) {
-        ring(buttonShadowColour, highlight3DColour);
-    }
+    if (exStyle & StaticEdgeStyle)
+        ring(ButtonShadowColour, Highlight3DColour);
 }
 
 } // namespace orvalis

@@ -16,7 +16,7 @@ namespace orvalis {
 /// What a button's face shows: all that one painting of it needs, as it was when it was painted.
 struct GGFace {
     QSize size;
-    ColourValue backColor = buttonFaceColour;
+    ColourValue backColor = ButtonFaceColour;
     bool gradient = false;
     /// 0 from top to bottom, 1 from left to right; any other draws none.
     int orientation = 0;
@@ -25,7 +25,7 @@ struct GGFace {
     QString caption;
     QPoint captionAt;
     QFont font;
-    ColourValue foreColor = buttonTextColour;
+    ColourValue foreColor = ButtonTextColour;
     bool enabled = true;
 };
 
@@ -54,8 +54,8 @@ int frameWidthOf(quint32 exStyle);
 void paintFrame(QPainter& painter, const QSize& whole, quint32 exStyle);
 
 /// Extended window styles that draw a frame.
-constexpr quint32 dialogFrameStyle = 0x1;
-constexpr quint32 clientEdgeStyle = 0x200;
-constexpr quint32 staticEdgeStyle = 0x20000;
+constexpr quint32 DialogFrameStyle = 0x1;
+constexpr quint32 ClientEdgeStyle = 0x200;
+constexpr quint32 StaticEdgeStyle = 0x20000;
 
 } // namespace orvalis

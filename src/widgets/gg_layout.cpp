@@ -10,9 +10,9 @@ namespace orvalis {
 
 namespace {
 
-constexpr float picturePixelConstant = 1.75F;
-constexpr int pictureUnitsPerInch = 2540;
-constexpr int pixelsPerInch = 96;
+constexpr float PicturePixelConstant = 1.75F;
+constexpr int PictureUnitsPerInch = 2540;
+constexpr int PixelsPerInch = 96;
 
 int withOffset(float position, int offset) {
     return static_cast<int>(std::trunc(position + static_cast<float>(offset)));
@@ -44,9 +44,8 @@ int rounded(float value) {
 
 QPoint alignedPosition(Placed what, int alignment, const QSize& face, float width, float height,
                        int xOffset, int yOffset) {
-    if (alignment < 0 || alignment > 8) {
+    if (alignment < 0 || alignment > 8)
         return {xOffset, yOffset};
-    }
     const float keptAtRight = what == Placed::Caption ? 2 : 1;
     const float x = along(alignment / 3, face.width(), width, keptAtRight);
     const float y = along(alignment % 3, face.height(), height, 1);
@@ -55,15 +54,14 @@ QPoint alignedPosition(Placed what, int alignment, const QSize& face, float widt
 
 float pictureExtent(int pixels) {
     const auto units = static_cast<float>(
-        std::nearbyint(static_cast<double>(pixels) * pictureUnitsPerInch / pixelsPerInch));
-    return units / static_cast<float>(twipsPerPixel) / picturePixelConstant;
+        std::nearbyint(static_cast<double>(pixels) * PictureUnitsPerInch / PixelsPerInch));
+    return units / static_cast<float>(TwipsPerPixel) / PicturePixelConstant;
 }
 
 std::vector<Shade> gradientShades(const Shade& from, const Shade& to, int steps) {
     std::vector<Shade> shades;
-    if (steps < 1) {
+    if (steps < 1)
         return shades;
-    }
     const auto count = static_cast<float>(steps);
     const float redStep = (channel(to.red) - channel(from.red)) / count;
     const float greenStep = (channel(to.green) - channel(from.green)) / count;

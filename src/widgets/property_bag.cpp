@@ -11,9 +11,8 @@ namespace orvalis {
 void PropertyBag::WriteProperty(const QString& name, const QVariant& value,
                                 const QVariant& defaultValue) {
     m_properties.removeIf([&](const auto& property) { return property.first == name; });
-    if (value != defaultValue) {
+    if (value != defaultValue)
         m_properties.append({name, value});
-    }
 }
 
 QVariant PropertyBag::ReadProperty(const QString& name, const QVariant& defaultValue) const {
@@ -24,9 +23,8 @@ QVariant PropertyBag::ReadProperty(const QString& name, const QVariant& defaultV
 
 QStringList PropertyBag::names() const {
     QStringList names;
-    for (const auto& property : m_properties) {
+    for (const auto& property : m_properties)
         names << property.first;
-    }
     return names;
 }
 

@@ -16,11 +16,10 @@ ToolTipPlace placeToolTip(const ToolTipRequest& request) {
     const int middle =
         request.centered ? request.tool.left() + request.tool.width() / 2 : request.pointer.x();
     int x = middle;
-    if (request.centered) {
+    if (request.centered)
         x = middle - width / 2;
-    } else if (request.balloon) {
-        x = middle - balloonStemInset;
-    }
+    else if (request.balloon)
+        x = middle - BalloonStemInset;
     x = std::max(screen.left(), std::min(x, screenRight - width));
 
     const int below = request.centered ? request.tool.top() + request.tool.height()
@@ -34,8 +33,8 @@ ToolTipPlace placeToolTip(const ToolTipRequest& request) {
     place.above = prefersAbove ? roomAbove || !roomBelow : !roomBelow && roomAbove;
     const int y = place.above ? above : below;
     place.position = {x, std::max(screen.top(), std::min(y, screenBottom - height))};
-    place.stemX = std::clamp(middle - x, std::min(balloonStemInset, width / 2),
-                             std::max(width - balloonStemInset, width / 2));
+    place.stemX = std::clamp(middle - x, std::min(BalloonStemInset, width / 2),
+                             std::max(width - BalloonStemInset, width / 2));
     return place;
 }
 

@@ -34,7 +34,7 @@ struct ToolTipPlace {
 };
 
 /// How far from a balloon's side its stem stands at least.
-constexpr int balloonStemInset = 16;
+constexpr int BalloonStemInset = 16;
 
 /// A rectangle stands below the pointer or, centred, below its tool, and above it where there is no
 /// room. A balloon stands above the pointer, its stem on it, and below where there is no room;

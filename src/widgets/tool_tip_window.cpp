@@ -18,15 +18,15 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto initialDelay = 500ms;
-constexpr auto timeOnShow = 5s;
-constexpr int marginX = 7;
-constexpr int marginY = 4;
-constexpr int iconSize = 16;
-constexpr int gap = 5;
-constexpr int stemHeight = 11;
-constexpr int stemWidth = 12;
-constexpr qreal balloonRadius = 6;
+constexpr auto InitialDelay = 500ms;
+constexpr auto TimeOnShow = 5s;
+constexpr int MarginX = 7;
+constexpr int MarginY = 4;
+constexpr int IconSize = 16;
+constexpr int Gap = 5;
+constexpr int StemHeight = 11;
+constexpr int StemWidth = 12;
+constexpr qreal BalloonRadius = 6;
 
 QFont titleFont(QFont font) {
     font.setBold(true);
@@ -74,7 +74,7 @@ ToolTipWindow::ToolTipWindow(QWidget& tool, const Content& content)
     m_goes.setSingleShot(true);
     connect(&m_comes, &QTimer::timeout, this, &ToolTipWindow::popUp);
     connect(&m_goes, &QTimer::timeout, this, &ToolTipWindow::dismiss);
-    m_comes.start(initialDelay);
+    m_comes.start(InitialDelay);
 }
 
 void ToolTipWindow::updateText(const QString& text) {
@@ -89,9 +89,8 @@ void ToolTipWindow::updateText(const QString& text) {
 }
 
 void ToolTipWindow::pointerMoved() {
-    if (!isVisible() && !m_done) {
-        m_comes.start(initialDelay);
-    }
+    if (!isVisible() && !m_done)
+        m_comes.start(InitialDelay);
 }
 
 void ToolTipWindow::dismiss() {
@@ -102,7 +101,7 @@ void ToolTipWindow::dismiss() {
 }
 
 QSize ToolTipWindow::bodySize() const {
-    const int widest = std::max(screen()->availableGeometry().width() - 4 * marginX, 1);
+    const int widest = std::max(screen()->availableGeometry().width() - 4 * MarginX, 1);
     const QRect limits(0, 0, widest, QWIDGETSIZE_MAX);
     const QSize text =
         QFontMetrics(font()).boundingRect(limits, Qt::TextWordWrap, m_content.text).size();
@@ -111,21 +110,20 @@ QSize ToolTipWindow::bodySize() const {
         const QFontMetrics metrics(titleFont(font()));
         heading = {metrics.horizontalAdvance(m_content.title), metrics.height()};
         if (m_content.icon != 0) {
-            heading.rwidth() += iconSize + gap;
-            heading.setHeight(std::max(heading.height(), iconSize));
+            heading.rwidth() += IconSize + Gap;
+            heading.setHeight(std::max(heading.height(), IconSize));
         }
-        heading.rheight() += gap;
+        heading.rheight() += Gap;
     }
-    return {std::max(text.width(), std::min(heading.width(), widest)) + 2 * marginX,
-            text.height() + heading.height() + 2 * marginY};
+    return {std::max(text.width(), std::min(heading.width(), widest)) + 2 * MarginX,
+            text.height() + heading.height() + 2 * MarginY};
 }
 
 void ToolTipWindow::popUp() {
-    if (m_content.text.isEmpty()) {
+    if (m_content.text.isEmpty())
         return;
-    }
     ToolTipRequest request;
-    request.size = bodySize() + QSize(0, m_content.balloon ? stemHeight : 0);
+    request.size = bodySize() + QSize(0, m_content.balloon ? StemHeight : 0);
     request.balloon = m_content.balloon;
     request.centered = m_content.centered;
     request.pointer = QCursor::pos();
@@ -133,29 +131,27 @@ void ToolTipWindow::popUp() {
     request.screen = m_tool.screen()->availableGeometry();
     m_place = placeToolTip(request);
     setGeometry(QRect(m_place.position, request.size));
-    if (m_content.balloon) {
+    if (m_content.balloon)
         setMask(QRegion(outline().toFillPolygon().toPolygon()));
-    }
     show();
-    m_goes.start(timeOnShow);
+    m_goes.start(TimeOnShow);
 }
 
 QRect ToolTipWindow::bodyRect() const {
-    if (!m_content.balloon) {
+    if (!m_content.balloon)
         return rect();
-    }
-    return m_place.above ? rect().adjusted(0, 0, 0, -stemHeight)
-                         : rect().adjusted(0, stemHeight, 0, 0);
+    return m_place.above ? rect().adjusted(0, 0, 0, -StemHeight)
+                         : rect().adjusted(0, StemHeight, 0, 0);
 }
 
 QPainterPath ToolTipWindow::outline() const {
     const QRectF body(bodyRect());
     QPainterPath path;
-    path.addRoundedRect(body, balloonRadius, balloonRadius);
+    path.addRoundedRect(body, BalloonRadius, BalloonRadius);
     const qreal base = m_place.above ? body.bottom() - 1 : body.top() + 1;
     const qreal tip = m_place.above ? height() : 0;
     // The stem leans: one side stands upright over the spot it points at.
-    const qreal lean = m_place.stemX + stemWidth > width() - balloonRadius ? -stemWidth : stemWidth;
+    const qreal lean = m_place.stemX + StemWidth > width() - BalloonRadius ? -StemWidth : StemWidth;
     QPainterPath stem;
     stem.addPolygon(QPolygonF({QPointF(m_place.stemX, base), QPointF(m_place.stemX, tip),
                                QPointF(m_place.stemX + lean, base)}));
@@ -180,20 +176,20 @@ void ToolTipWindow::paintEvent(QPaintEvent*) {
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
     painter.setRenderHint(QPainter::Antialiasing);
-    QRect inside = bodyRect().adjusted(marginX, marginY, -marginX, -marginY);
+    QRect inside = bodyRect().adjusted(MarginX, MarginY, -MarginX, -MarginY);
     if (hasHeading()) {
         const int height =
-            std::max(QFontMetrics(titleFont(font())).height(), m_content.icon != 0 ? iconSize : 0);
+            std::max(QFontMetrics(titleFont(font())).height(), m_content.icon != 0 ? IconSize : 0);
         QRect heading(inside.topLeft(), QSize(inside.width(), height));
-        inside.setTop(inside.top() + height + gap);
+        inside.setTop(inside.top() + height + Gap);
         if (m_content.icon != 0) {
             painter.save();
             paintIcon(
                 painter,
-                QRect(heading.left(), heading.top() + (height - iconSize) / 2, iconSize, iconSize),
+                QRect(heading.left(), heading.top() + (height - IconSize) / 2, IconSize, IconSize),
                 m_content.icon);
             painter.restore();
-            heading.setLeft(heading.left() + iconSize + gap);
+            heading.setLeft(heading.left() + IconSize + Gap);
         }
         painter.setFont(titleFont(font()));
         painter.setPen(fore);

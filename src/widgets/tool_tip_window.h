@@ -25,8 +25,8 @@ public:
         int icon = 0;
         bool balloon = false;
         bool centered = false;
-        ColourValue backColor = toolTipBackgroundColour;
-        ColourValue foreColor = toolTipTextColour;
+        ColourValue backColor = ToolTipBackgroundColour;
+        ColourValue foreColor = ToolTipTextColour;
     };
 
     /// \param tool the control it belongs to.

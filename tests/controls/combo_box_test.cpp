@@ -59,9 +59,8 @@ void ComboBoxTest::init() {
     m_box = new ComboBox(u"Combo1"_s, m_window);
     layout->addWidget(m_box);
     layout->addWidget(new QLineEdit(m_window));
-    for (const auto& text : {u"00"_s, u"01"_s, u"02"_s, u"07"_s}) {
+    for (const auto& text : {u"00"_s, u"01"_s, u"02"_s, u"07"_s})
         m_box->AddItem(text);
-    }
     m_box->lineEdit()->setText(u"00"_s);
     m_changes = new QSignalSpy(m_box, &ComboBox::Change);
     m_clicks = new QSignalSpy(m_box, &ComboBox::Click);

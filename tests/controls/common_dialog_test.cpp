@@ -37,14 +37,16 @@ const FontChoice Present{.italic = true,
 
 template <class Dialog>
 void whenOpen(const std::function<void(Dialog&)>& use) {
-    QTimer::singleShot(0, qApp, [use] {
-        auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-        if (dialog == nullptr) {
-            QTest::qFail("No such dialog is open", __FILE__, __LINE__);
-            return;
-        }
-        use(*dialog);
-    });
+    QTimer::singleShot(
+        0, qApp,
+        [use] {
+            auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+            if (dialog == nullptr) {
+                QTest::qFail("No such dialog is open", __FILE__, __LINE__);
+                return;
+            }
+            use(*dialog);
+        });
 }
 
 std::optional<quint32> noColour(quint32) {

@@ -24,7 +24,7 @@ public:
 };
 
 /// A metafile of one rectangle: nothing but vectors in it.
-const QByteArray vectorPicture =
+const QByteArray VectorPicture =
     "{\\rtf1 a{\\pict\\wmetafile8\\picw1000\\pich1000\\picwgoal600\\pichgoal600 "
     "0100090000031300000000000700000000000700000 01b0464006400000000000300000000 00}b\\par}";
 
@@ -42,14 +42,14 @@ void DocumentReadingTest::theBoxHasVectorMetafilesDrawnByWhomTheProgramNames() {
     CountingConverter converter;
     setMetafileConverter(&converter);
     RichTextBox box;
-    box.SetTextRTF(vectorPicture);
+    box.SetTextRTF(VectorPicture);
     QCOMPARE(converter.asked, 1);
     QCOMPARE(box.Text(), QStringLiteral("a b"));
 }
 
 void DocumentReadingTest::withoutAnybodyTheTextStillComes() {
     RichTextBox box;
-    box.SetTextRTF(vectorPicture);
+    box.SetTextRTF(VectorPicture);
     QVERIFY(box.Text().startsWith(u'a'));
     QVERIFY(box.Text().endsWith(u'b'));
 }

@@ -17,14 +17,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int inch = 1440;
-constexpr int dotsPerMeter = 3780; // 96 to the inch
-constexpr QRectF wholePage(inch, inch, 4 * inch, 4 * inch);
+constexpr int Inch = 1440;
+constexpr int DotsPerMeter = 3780; // 96 to the inch
+constexpr QRectF wholePage(Inch, Inch, 4 * Inch, 4 * Inch);
 
 QImage sheet() {
     QImage image(6 * 96, 6 * 96, QImage::Format_RGB32);
-    image.setDotsPerMeterX(dotsPerMeter);
-    image.setDotsPerMeterY(dotsPerMeter);
+    image.setDotsPerMeterX(DotsPerMeter);
+    image.setDotsPerMeterY(DotsPerMeter);
     image.fill(Qt::white);
     return image;
 }
@@ -53,10 +53,9 @@ QList<Page> pagesOf(RichTextBox& box, const QRectF& rect = wholePage) {
 
 bool hasInk(const QImage& image, const QRect& area) {
     for (int y = area.top(); y <= area.bottom(); ++y) {
-        for (int x = area.left(); x <= area.right(); ++x) {
+        for (int x = area.left(); x <= area.right(); ++x)
             if (image.pixel(x, y) != qRgb(255, 255, 255))
                 return true;
-        }
     }
     return false;
 }
@@ -79,10 +78,9 @@ void paste(RichTextBox& box, const QSize& size) {
 QRect inkBounds(const QImage& image) {
     QRect bounds;
     for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
+        for (int x = 0; x < image.width(); ++x)
             if (image.pixel(x, y) != qRgb(255, 255, 255))
                 bounds |= QRect(x, y, 1, 1);
-        }
     }
     return bounds;
 }
@@ -181,7 +179,7 @@ void FormatRangeTest::noLineIsCutInTwo() {
     box.SetText(manyLines(3));
     const QList<Page> whole = pagesOf(box);
     const int lineHeight = inkBounds(whole.first().image).height() / 3;
-    const QRectF short2(inch, inch, 4 * inch, (lineHeight * 2.5) * 15);
+    const QRectF short2(Inch, Inch, 4 * Inch, (lineHeight * 2.5) * 15);
     const QList<Page> pages = pagesOf(box, short2);
     QCOMPARE(pages.size(), 2);
     QCOMPARE(pages.first().next, 16);
@@ -255,7 +253,7 @@ void FormatRangeTest::aLineTallerThanThePageStillAdvances() {
     box.SetText(u"A\r\nB\r\nC"_s);
     box.selectAll();
     box.SetSelFontSize(200);
-    const QList<Page> pages = pagesOf(box, QRectF(0, 0, 4 * inch, inch));
+    const QList<Page> pages = pagesOf(box, QRectF(0, 0, 4 * Inch, Inch));
     QCOMPARE(pages.size(), 3);
     QCOMPARE(pages.at(0).next, 3);
     QCOMPARE(pages.at(1).next, 6);
@@ -333,10 +331,10 @@ void FormatRangeTest::aChangedFormatIsFormattedAnew_data() {
         box.SetSelFontSize(30);
     });
     QTest::newRow("size of the box") << Change([](RichTextBox& box) { box.SetFontSize(30); });
-    QTest::newRow("indent") << Change([](RichTextBox& box) { box.SetSelIndent(3 * inch); });
+    QTest::newRow("indent") << Change([](RichTextBox& box) { box.SetSelIndent(3 * Inch); });
     QTest::newRow("bullets") << Change([](RichTextBox& box) {
         box.SetSelBullet(true);
-        box.SetSelIndent(3 * inch);
+        box.SetSelIndent(3 * Inch);
     });
     QTest::newRow("undo") << Change([](RichTextBox& box) {
         box.Undo(); // back to the large size that the words had
@@ -365,13 +363,13 @@ void FormatRangeTest::anotherRectangleOrDeviceIsFormattedAnew() {
     box.SetText(u"words that fill their line and then the next ones too, "_s.repeated(60));
     QImage image = sheet();
     const int before = box.FormatPage({nullptr, &image, wholePage, 0, -1});
-    const QRectF narrow(inch, inch, 2 * inch, 4 * inch);
+    const QRectF narrow(Inch, Inch, 2 * Inch, 4 * Inch);
     QVERIFY(box.FormatPage({nullptr, &image, narrow, 0, -1}) < before * 2 / 3);
 
     QCOMPARE(box.FormatPage({nullptr, &image, wholePage, 0, -1}), before);
     // The same device prints finer than before: a page holds as much, though not as many dots.
-    image.setDotsPerMeterX(4 * dotsPerMeter);
-    image.setDotsPerMeterY(4 * dotsPerMeter);
+    image.setDotsPerMeterX(4 * DotsPerMeter);
+    image.setDotsPerMeterY(4 * DotsPerMeter);
     const int finer = box.FormatPage({nullptr, &image, wholePage, 0, -1});
     QVERIFY2(std::abs(finer - before) < before / 4, qPrintable(u"%1, %2"_s.arg(before).arg(finer)));
 }

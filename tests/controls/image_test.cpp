@@ -23,12 +23,13 @@ QPixmap filled(const QSize& size, const QColor& colour, qreal ratio = 1) {
 }
 
 PictureSource drawn(const QSize& size, const QColor& colour, int* renderings = nullptr) {
-    return PictureSource(size, [=](const QSize& wanted, qreal ratio) {
-        if (renderings) {
-            ++*renderings;
-        }
-        return filled(wanted, colour, ratio);
-    });
+    return PictureSource(
+        size,
+        [=](const QSize& wanted, qreal ratio) {
+            if (renderings)
+                ++*renderings;
+            return filled(wanted, colour, ratio);
+        });
 }
 
 QColor middleOf(QWidget& widget) {
@@ -230,8 +231,10 @@ void ImageTest::theRightButtonClicksNothing() {
 void ImageTest::theClickComesBeforeTheMouseUp() {
     Image image;
     QStringList order;
-    connect(&image, &Image::MouseDown, this, [&] { order << u"down"_s; });
-    connect(&image, &Image::MouseUp, this, [&] { order << u"up"_s; });
+    connect(
+        &image, &Image::MouseDown, this, [&] { order << u"down"_s; });
+    connect(
+        &image, &Image::MouseUp, this, [&] { order << u"up"_s; });
     connect(&image, &Image::Click, this, [&] { order << u"click"_s; });
     QTest::mouseClick(&image, Qt::LeftButton);
     QCOMPARE(order, (QStringList{u"down"_s, u"click"_s, u"up"_s}));
@@ -330,10 +333,13 @@ void ImageTest::theAccessiblePressIsMouseDownThenClick() {
     Image image;
     image.resize(30, 20);
     QStringList order;
-    connect(&image, &Image::MouseDown, this, [&](int button, int shift, float x, float y) {
-        order << u"down %1 %2 %3 %4"_s.arg(button).arg(shift).arg(x).arg(y);
-    });
-    connect(&image, &Image::Click, this, [&] { order << u"click"_s; });
+    connect(
+        &image, &Image::MouseDown, this,
+        [&](int button, int shift, float x, float y) {
+            order << u"down %1 %2 %3 %4"_s.arg(button).arg(shift).arg(x).arg(y);
+        });
+    connect(
+        &image, &Image::Click, this, [&] { order << u"click"_s; });
     connect(&image, &Image::MouseUp, this, [&] { order << u"up"_s; });
     QAccessible::queryAccessibleInterface(&image)->actionInterface()->doAction(
         QAccessibleActionInterface::pressAction());

@@ -65,9 +65,8 @@ void LabelTest::aPressOfAnyButtonIsTold() {
     Label label(u"lblNot"_s, u"Notes"_s);
     label.resize(40, 20);
     QSignalSpy downs(&label, &Label::MouseDown);
-    for (const auto button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
+    for (const auto button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton})
         QTest::mousePress(&label, button, {}, {3, 4});
-    }
     QCOMPARE(downs.count(), 3);
     QCOMPARE(downs.at(0), (QVariantList{1, 0, 3.0F, 4.0F}));
     QCOMPARE(downs.at(1).first().toInt(), 2);

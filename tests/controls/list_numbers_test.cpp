@@ -48,10 +48,10 @@ QImage itemPicture(RichTextBox& box, int item) {
 }
 
 QImage printedItem(RichTextBox& box, int item) {
-    constexpr int dotsPerMeter = 3780; // 96 to the inch
+    constexpr int DotsPerMeter = 3780; // 96 to the inch
     QImage sheet(576, 576, QImage::Format_RGB32);
-    sheet.setDotsPerMeterX(dotsPerMeter);
-    sheet.setDotsPerMeterY(dotsPerMeter);
+    sheet.setDotsPerMeterX(DotsPerMeter);
+    sheet.setDotsPerMeterY(DotsPerMeter);
     sheet.fill(Qt::white);
     QPainter painter(&sheet);
     box.FormatPage({&painter, &sheet, QRectF(720, 720, 7200, 7200), 6 * item, -1});

@@ -117,7 +117,7 @@ void MsgBoxTest::theTitleIsTheProgramsUnlessOneIsGiven() {
 
 void MsgBoxTest::aBoxOfFewWordsIsWideEnoughForItsTitle() {
     // A title bar has an icon and three buttons beside its title, each about as wide as it is high.
-    constexpr int partsOfATitleBar = 4 * 24;
+    constexpr int PartsOfATitleBar = 4 * 24;
     for (const QString& title : {QString(), QStringLiteral("A title of more words than the box")}) {
         int width = 0;
         int needed = 0;
@@ -126,7 +126,7 @@ void MsgBoxTest::aBoxOfFewWordsIsWideEnoughForItsTitle() {
             [&](QMessageBox& box) {
                 QFont font = box.font();
                 font.setBold(true);
-                needed = QFontMetrics(font).horizontalAdvance(box.windowTitle()) + partsOfATitleBar;
+                needed = QFontMetrics(font).horizontalAdvance(box.windowTitle()) + PartsOfATitleBar;
                 width = box.width();
                 box.accept();
             },
@@ -136,11 +136,14 @@ void MsgBoxTest::aBoxOfFewWordsIsWideEnoughForItsTitle() {
 }
 
 void MsgBoxTest::escapeAnswersOkWhereThereIsOkAlone() {
-    QCOMPARE(ask(48, [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }), Answer::Ok);
+    QCOMPARE(ask(
+                 48, [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }),
+             Answer::Ok);
 }
 
 void MsgBoxTest::escapeAnswersCancelWhereThereIsCancel() {
-    QCOMPARE(ask(49, [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }),
+    QCOMPARE(ask(
+                 49, [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }),
              Answer::Cancel);
 }
 
@@ -156,18 +159,26 @@ void MsgBoxTest::escapeAndTheCloseButtonLeaveAYesNoBoxOpen() {
 }
 
 void MsgBoxTest::aPressedButtonIsTheAnswer() {
-    QCOMPARE(ask(4, [](QMessageBox& box) { box.button(QMessageBox::No)->click(); }), Answer::No);
-    QCOMPARE(ask(4, [](QMessageBox& box) { box.button(QMessageBox::Yes)->click(); }), Answer::Yes);
-    QCOMPARE(ask(1, [](QMessageBox& box) { box.button(QMessageBox::Ok)->click(); }), Answer::Ok);
+    QCOMPARE(ask(
+                 4, [](QMessageBox& box) { box.button(QMessageBox::No)->click(); }),
+             Answer::No);
+    QCOMPARE(ask(
+                 4, [](QMessageBox& box) { box.button(QMessageBox::Yes)->click(); }),
+             Answer::Yes);
+    QCOMPARE(ask(
+                 1, [](QMessageBox& box) { box.button(QMessageBox::Ok)->click(); }),
+             Answer::Ok);
     QCOMPARE(ask(1, [](QMessageBox& box) { box.button(QMessageBox::Cancel)->click(); }),
              Answer::Cancel);
 }
 
 void MsgBoxTest::textIsNoMarkup() {
-    ask(0, [](QMessageBox& box) {
-        QCOMPARE(box.textFormat(), Qt::PlainText);
-        box.accept();
-    });
+    ask(
+        0,
+        [](QMessageBox& box) {
+            QCOMPARE(box.textFormat(), Qt::PlainText);
+            box.accept();
+        });
 }
 
 void MsgBoxTest::timersGoOnWhileABoxIsOpen() {

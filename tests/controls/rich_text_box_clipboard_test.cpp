@@ -39,10 +39,9 @@ QString pasted(QMimeData* data) {
 int pictureCount(const RichTextBox& box) {
     int count = 0;
     for (QTextBlock block = box.document()->begin(); block.isValid(); block = block.next()) {
-        for (auto it = block.begin(); !it.atEnd(); ++it) {
+        for (auto it = block.begin(); !it.atEnd(); ++it)
             if (it.fragment().charFormat().isImageFormat())
                 count += it.fragment().length();
-        }
     }
     return count;
 }

@@ -88,21 +88,21 @@ void RichTextBoxEditTest::undoTakesBackStepByStep() {
 }
 
 void RichTextBoxEditTest::undoReachesBackOverManySteps() {
-    constexpr int steps = 300;
+    constexpr int Steps = 300;
     RichTextBox box;
     QStringList texts{QString()};
-    for (int i = 0; i < steps; ++i) {
+    for (int i = 0; i < Steps; ++i) {
         box.SetSelStart(0);
         box.SetSelText(QString::number(i) + u' ');
         texts << box.Text();
     }
-    for (int i = steps; i > 0; --i) {
+    for (int i = Steps; i > 0; --i) {
         QVERIFY(box.CanUndo());
         box.Undo();
         QCOMPARE(box.Text(), texts.at(i - 1));
     }
     QVERIFY(!box.CanUndo());
-    for (int i = 1; i <= steps; ++i)
+    for (int i = 1; i <= Steps; ++i)
         QTest::keySequence(&box, QKeySequence::Redo);
     QCOMPARE(box.Text(), texts.last());
 }
@@ -287,10 +287,9 @@ void RichTextBoxEditTest::theEditMenuEnablesWhatCanBeDone() {
         QStringList names;
         QTimer::singleShot(0, &box, [&] {
             QWidget* const popup = QApplication::activePopupWidget();
-            for (const QAction* action : popup->actions()) {
+            for (const QAction* action : popup->actions())
                 if (action->isEnabled() && !action->isSeparator())
                     names << action->objectName();
-            }
             popup->close();
         });
         QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), QPoint(5, 5));

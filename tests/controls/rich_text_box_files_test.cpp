@@ -159,10 +159,9 @@ void RichTextBoxFilesTest::everyPairOfCodesIsSavedAndLoaded() {
     // Scrambled text can hold any two codes beside each other, CR and LF among them.
     QByteArray bytes;
     bytes.reserve(256 * 256 * 2);
-    for (int first = 0; first < 256; ++first) {
+    for (int first = 0; first < 256; ++first)
         for (int second = 0; second < 256; ++second)
             bytes.append(char(first)).append(char(second));
-    }
     write(u"pairs.txt"_s, bytes);
     RichTextBox box;
     box.setPlainFile(RichTextBox::PlainFile::Ansi);

@@ -12,8 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int wholeWord = 2;
-constexpr int matchCase = 4;
+constexpr int WholeWord = 2;
+constexpr int MatchCase = 4;
 
 } // namespace
 
@@ -94,8 +94,8 @@ void RichTextBoxFindTest::capitalsCountOnlyWhenAsked() {
     RichTextBox box;
     box.SetText(u"Äpfel, äpfel"_s);
     QCOMPARE(box.Find(u"äPFEL"_s), 0);
-    QCOMPARE(box.Find(u"äpfel"_s, 0, -1, matchCase), 7);
-    QCOMPARE(box.Find(u"ÄPFEL"_s, 0, -1, matchCase), -1);
+    QCOMPARE(box.Find(u"äpfel"_s, 0, -1, MatchCase), 7);
+    QCOMPARE(box.Find(u"ÄPFEL"_s, 0, -1, MatchCase), -1);
 }
 
 void RichTextBoxFindTest::wholeWords_data() {
@@ -118,13 +118,13 @@ void RichTextBoxFindTest::wholeWords() {
     QFETCH(int, found);
     RichTextBox box;
     box.SetText(text);
-    QCOMPARE(box.Find(u"cat"_s, 0, -1, wholeWord), found);
+    QCOMPARE(box.Find(u"cat"_s, 0, -1, WholeWord), found);
 }
 
 void RichTextBoxFindTest::lettersOutsideTheBasicPlaneCountAsLetters() {
     RichTextBox box;
     box.SetText(u"\U00010400cat cat\U00010400 \U0001F600cat\U0001F600"_s);
-    QCOMPARE(box.Find(u"cat"_s, 0, -1, wholeWord), 14);
+    QCOMPARE(box.Find(u"cat"_s, 0, -1, WholeWord), 14);
 }
 
 void RichTextBoxFindTest::positionsCountLineBreaksTwice() {
@@ -178,9 +178,9 @@ void RichTextBoxFindTest::insideABatchTheSearchFindsTheSame() {
     const RichTextBox::Batch batch(box);
     box.SetSelText(u"!"_s); // from here on the text is not at hand as a whole
     text.prepend(u'!');
-    for (int options : {0, wholeWord, matchCase}) {
+    for (int options : {0, WholeWord, MatchCase}) {
         for (const QString& needle : {u"cat"_s, u"words cat"_s, u"x\r\ncat"_s, u"nowhere"_s}) {
-            const TextSearch search{needle, options == wholeWord, options == matchCase};
+            const TextSearch search{needle, options == WholeWord, options == MatchCase};
             qsizetype expected = findInText(text, search, 0, text.size());
             int hits = 0;
             for (int at = box.Find(needle, 0, -1, options); at >= 0 && hits < 300;
@@ -213,10 +213,10 @@ void RichTextBoxFindTest::insideABatchTheSearchFindsAMatchWhereverItLies() {
 void RichTextBoxFindTest::wholeWordsAndCapitalsCountTogether() {
     RichTextBox box;
     box.SetText(u"cats Cats cat Cat"_s);
-    QCOMPARE(box.Find(u"Cat"_s, 0, -1, wholeWord), 10);
-    QCOMPARE(box.Find(u"Cat"_s, 0, -1, matchCase), 5);
-    QCOMPARE(box.Find(u"Cat"_s, 0, -1, wholeWord + matchCase), 14);
-    QCOMPARE(box.Find(u"CAT"_s, 0, -1, wholeWord + matchCase), -1);
+    QCOMPARE(box.Find(u"Cat"_s, 0, -1, WholeWord), 10);
+    QCOMPARE(box.Find(u"Cat"_s, 0, -1, MatchCase), 5);
+    QCOMPARE(box.Find(u"Cat"_s, 0, -1, WholeWord + MatchCase), 14);
+    QCOMPARE(box.Find(u"CAT"_s, 0, -1, WholeWord + MatchCase), -1);
 }
 
 ORVALIS_TEST_MAIN_WITH(QApplication, RichTextBoxFindTest)

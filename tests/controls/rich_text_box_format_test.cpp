@@ -212,16 +212,16 @@ void RichTextBoxFormatTest::indentsAreTwips() {
 }
 
 void RichTextBoxFormatTest::anIndentGoesUpAndDownByMillimetres() {
-    constexpr int eightMillimetres = 454; // twips
+    constexpr int EightMillimetres = 454; // twips
     RichTextBox box;
     box.SetText(u"one"_s);
     for (int step = 1; step <= 3; ++step) {
-        box.SetSelIndent(*box.SelIndent() + eightMillimetres);
-        QCOMPARE(box.SelIndent(), std::optional(step * eightMillimetres));
+        box.SetSelIndent(*box.SelIndent() + EightMillimetres);
+        QCOMPARE(box.SelIndent(), std::optional(step * EightMillimetres));
     }
     for (int step = 2; step >= 0; --step) {
-        box.SetSelIndent(*box.SelIndent() - eightMillimetres);
-        QCOMPARE(box.SelIndent(), std::optional(step * eightMillimetres));
+        box.SetSelIndent(*box.SelIndent() - EightMillimetres);
+        QCOMPARE(box.SelIndent(), std::optional(step * EightMillimetres));
     }
 }
 
@@ -351,14 +351,14 @@ void RichTextBoxFormatTest::wordWrapCanBeTurnedOff() {
 }
 
 void RichTextBoxFormatTest::anIndentBeyondEverythingIsRememberedAndShowsFarAway() {
-    constexpr int most = std::numeric_limits<int>::max();
+    constexpr int Most = std::numeric_limits<int>::max();
     RichTextBox box;
     box.SetText(u"one"_s);
-    box.SetSelIndent(most);
-    QCOMPARE(box.SelIndent(), std::optional(most));
+    box.SetSelIndent(Most);
+    QCOMPARE(box.SelIndent(), std::optional(Most));
     QVERIFY(box.document()->begin().blockFormat().leftMargin() < 100000);
     box.SetSelBullet(true);
-    QCOMPARE(box.SelIndent(), std::optional(most));
+    QCOMPARE(box.SelIndent(), std::optional(Most));
     QVERIFY(box.document()->begin().blockFormat().leftMargin() < 100000);
     RichTextBox other;
     other.SetTextRTF(box.TextRTF());

@@ -53,7 +53,8 @@ void ApplicationTest::aFailureThatLeavesAHandlerIsToldAndEndsTheProgram() {
 void ApplicationTest::aSecondFailureBehindTheBoxOpensNoOther() {
     m_boxes->expect(u"Run-time error '6':\n\nOverflow"_s, 16, Answer::Ok);
     m_boxes->meanwhile([this] {
-        QTimer::singleShot(0, this, [] { throw RuntimeError(ErrorNumber::FileNotFound); });
+        QTimer::singleShot(
+            0, this, [] { throw RuntimeError(ErrorNumber::FileNotFound); });
         QCoreApplication::processEvents();
     });
     QTimer::singleShot(0, this, [] { throw RuntimeError(ErrorNumber::Overflow); });
@@ -77,7 +78,8 @@ void ApplicationTest::theEndOfTheProgramLeavesEveryEventLoop() {
 
 void ApplicationTest::anEntryRoutineThatEndsTheProgramRunsNoEventLoop() {
     bool ran = false;
-    QTimer::singleShot(0, this, [&] { ran = true; });
+    QTimer::singleShot(
+        0, this, [&] { ran = true; });
     QCOMPARE(application().run([] { throw ProgramEnded(); }), 0);
     QVERIFY(!ran);
 }

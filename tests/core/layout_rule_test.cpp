@@ -70,9 +70,8 @@ void LayoutRuleTest::aFontSizeIsReadAndStoredAsAWholeNumber() {
 void LayoutRuleTest::aSizeSurvivesRunsOnAnyScreen() {
     for (int width = 800; width <= 2560; ++width) {
         const double factor = fontFactor(width);
-        for (int size = 1; size <= 120; ++size) {
+        for (int size = 1; size <= 120; ++size)
             QCOMPARE(scaledFontSize(unscaledFontSize(size, factor), factor), size);
-        }
     }
     QCOMPARE(unscaledFontSize(11, 1.0), 11);
     QCOMPARE(unscaledFontSize(8, 1.37), 11);

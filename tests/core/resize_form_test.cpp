@@ -47,8 +47,8 @@ Maker named() {
 }
 
 constexpr QRect designed(20, 30, 200, 100);
-constexpr int narrowScreen = 800; // font factor 1
-constexpr int wideScreen = 1024;  // font factor 1.28
+constexpr int NarrowScreen = 800; // font factor 1
+constexpr int WideScreen = 1024;  // font factor 1.28
 
 QFont points(int size) {
     QFont font = QApplication::font();
@@ -69,7 +69,7 @@ struct OneControlForm {
         control->setGeometry(designed);
     }
 
-    void resize(int designWidth, int currentWidth, int screen = narrowScreen) {
+    void resize(int designWidth, int currentWidth, int screen = NarrowScreen) {
         clsResize(screen).ResizeForm(form, designWidth, currentWidth);
     }
 };
@@ -109,7 +109,7 @@ private slots:
 
 void ResizeFormTest::atTheDesignWidthGeometryStaysAndFontsChange() {
     OneControlForm one(new Label);
-    one.resize(4800, 4800, wideScreen);
+    one.resize(4800, 4800, WideScreen);
     QCOMPARE(one.control->geometry(), designed);
     QCOMPARE(one.control->font().pointSize(), 8);
 }
@@ -165,7 +165,7 @@ void ResizeFormTest::fontsFollowTheScreenWhereTheTableSaysSo() {
     QFETCH(Maker, make);
     QFETCH(int, size);
     OneControlForm one(make());
-    one.resize(4800, 4800, wideScreen);
+    one.resize(4800, 4800, WideScreen);
     QCOMPARE(one.control->font().pointSize(), size);
 }
 
@@ -187,7 +187,7 @@ void ResizeFormTest::anEmptyRichTextBoxIsTypedIntoInTheScaledSize() {
     auto* box = new RichTextBox;
     OneControlForm one(box, u"rt1"_s);
     box->SetFontSize(10);
-    one.resize(4800, 4800, wideScreen);
+    one.resize(4800, 4800, WideScreen);
     QCOMPARE(box->FontSize(), 8.0);
     QCOMPARE(box->SelFontSize().value(), 8.0);
 }
@@ -197,7 +197,7 @@ void ResizeFormTest::theSizesOfADocumentBelongToIt() {
     OneControlForm one(box, u"rt1a"_s);
     box->SetTextRTF(
         QByteArrayLiteral(R"({\rtf1\ansi{\fonttbl{\f0 Arial;}}\fs48 large \fs24 small})"));
-    one.resize(4800, 4800, wideScreen);
+    one.resize(4800, 4800, WideScreen);
     box->SetSelStart(1);
     QCOMPARE(box->SelFontSize().value(), 24.0);
     box->SetSelStart(8);
@@ -227,7 +227,7 @@ void ResizeFormTest::aComboBoxTakesTheHeightOfItsFont() {
     auto* combo = new ComboBox;
     OneControlForm one(combo);
     combo->setFont(points(20));
-    one.resize(3000, 4500, wideScreen);
+    one.resize(3000, 4500, WideScreen);
     QCOMPARE(combo->geometry().topLeft(), QPoint(30, 45));
     QCOMPARE(combo->width(), 300);
     QCOMPARE(combo->font().pointSize(), 16);
@@ -242,10 +242,9 @@ void ResizeFormTest::aKeptImageOnlyMoves() {
         images << new Image(name, &form);
         images.last()->setGeometry(designed);
     }
-    clsResize(narrowScreen).ResizeForm(form, 3000, 4500, images[0], images[1], images[2]);
-    for (int i = 0; i < 3; ++i) {
+    clsResize(NarrowScreen).ResizeForm(form, 3000, 4500, images[0], images[1], images[2]);
+    for (int i = 0; i < 3; ++i)
         QCOMPARE(images[i]->geometry(), QRect(30, 45, 200, 100));
-    }
     QCOMPARE(images[3]->geometry(), QRect(30, 45, 300, 150));
 }
 
@@ -254,10 +253,9 @@ void ResizeFormTest::keptImagesAreToldByTheNameOfTheirArray() {
     Image first(u"imgIcon(0)"_s, &form);
     Image second(u"imgIcon(1)"_s, &form);
     Image other(u"imgIcons"_s, &form);
-    for (Image* image : {&first, &second, &other}) {
+    for (Image* image : {&first, &second, &other})
         image->setGeometry(designed);
-    }
-    clsResize(narrowScreen).ResizeForm(form, 3000, 4500, &first, nullptr, nullptr);
+    clsResize(NarrowScreen).ResizeForm(form, 3000, 4500, &first, nullptr, nullptr);
     QCOMPARE(second.size(), designed.size());
     QCOMPARE(other.size(), QSize(300, 150));
 }
@@ -270,14 +268,14 @@ void ResizeFormTest::everyOtherImageIsScaled() {
 
 void ResizeFormTest::aGridKeepsItsDesignSizeAndFont() {
     OneControlForm one(new MSFlexGrid, u"MS1"_s);
-    one.resize(3000, 4500, wideScreen);
+    one.resize(3000, 4500, WideScreen);
     QCOMPARE(one.control->geometry(), designed);
     QCOMPARE(one.control->font().pointSize(), 10);
 }
 
 void ResizeFormTest::aTreeKeepsItsDesignSizeAndFont() {
     OneControlForm one(new QTreeView, u"TreeView1"_s);
-    one.resize(3000, 4500, wideScreen);
+    one.resize(3000, 4500, WideScreen);
     QCOMPARE(one.control->geometry(), designed);
     QCOMPARE(one.control->font().pointSize(), 10);
 }
@@ -307,7 +305,7 @@ void ResizeFormTest::whatLiesInsideACompositeControlIsNotScaled() {
     box->setObjectName(u"inBar"_s);
     box->setFont(points(10));
     bar->addWidget(box);
-    one.resize(4800, 4800, wideScreen);
+    one.resize(4800, 4800, WideScreen);
     QCOMPARE(box->font().pointSize(), 10);
 
     auto* command = new GGCommand;
@@ -321,7 +319,7 @@ void ResizeFormTest::whatLiesInsideACompositeControlIsNotScaled() {
 
 void ResizeFormTest::whatHasNoNameIsPassedOver() {
     OneControlForm one(new Label, QString());
-    one.resize(3000, 4500, wideScreen);
+    one.resize(3000, 4500, WideScreen);
     QCOMPARE(one.control->geometry(), designed);
     QCOMPARE(one.control->font().pointSize(), 10);
 }
@@ -335,7 +333,7 @@ void ResizeFormTest::aFontTakenFromTheContainerIsScaledOnce() {
     frame->setObjectName(u"Frame1"_s);
     frame->setFont(points(20));
     Label inherits(u"Label3"_s, QString(), frame);
-    clsResize(wideScreen).ResizeForm(form, 4800, 4800);
+    clsResize(WideScreen).ResizeForm(form, 4800, 4800);
     QCOMPARE(outer->font().pointSize(), 16);
     QCOMPARE(inherits.font().pointSize(), 16);
 }
@@ -360,7 +358,7 @@ void ResizeFormTest::callingItTwiceScalesTwice() {
 
 void ResizeFormTest::withoutAPictureWidthOnlyFontsChange() {
     OneControlForm one(new Label);
-    one.resize(4800, 0, wideScreen);
+    one.resize(4800, 0, WideScreen);
     QCOMPARE(one.control->geometry(), designed);
     QCOMPARE(one.control->font().pointSize(), 8);
 }
@@ -377,7 +375,7 @@ void ResizeFormTest::windowsOfTheFormAreNotItsControls() {
     auto* window = new QWidget(&form, Qt::Tool);
     window->setObjectName(u"tool"_s);
     window->setGeometry(designed);
-    clsResize(narrowScreen).ResizeForm(form, 3000, 4500);
+    clsResize(NarrowScreen).ResizeForm(form, 3000, 4500);
     QCOMPARE(window->geometry(), designed);
 }
 

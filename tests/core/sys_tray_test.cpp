@@ -31,13 +31,17 @@ struct Tray {
     Tray()
         : form(std::make_unique<frmSysTray>(outside.program, icons, own)) {
         outside.program.tick = &tick;
-        QObject::connect(form.get(), &frmSysTray::SysTrayMouseDown,
-                         [this](int button) { told << u"down %1"_s.arg(button); });
-        QObject::connect(form.get(), &frmSysTray::SysTrayMouseUp,
-                         [this](int button) { told << u"up %1"_s.arg(button); });
-        QObject::connect(form.get(), &frmSysTray::SysTrayMouseMove, [this] { told << u"move"_s; });
-        QObject::connect(form.get(), &frmSysTray::SysTrayDoubleClick,
-                         [this](int button) { told << u"double %1"_s.arg(button); });
+        QObject::connect(
+            form.get(), &frmSysTray::SysTrayMouseDown,
+            [this](int button) { told << u"down %1"_s.arg(button); });
+        QObject::connect(
+            form.get(), &frmSysTray::SysTrayMouseUp,
+            [this](int button) { told << u"up %1"_s.arg(button); });
+        QObject::connect(
+            form.get(), &frmSysTray::SysTrayMouseMove, [this] { told << u"move"_s; });
+        QObject::connect(
+            form.get(), &frmSysTray::SysTrayDoubleClick,
+            [this](int button) { told << u"double %1"_s.arg(button); });
         QObject::connect(form.get(), &frmSysTray::MenuClick, [this](int index, const QString& key) {
             told << u"menu %1 %2"_s.arg(index).arg(key);
         });

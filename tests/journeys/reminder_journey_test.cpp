@@ -161,12 +161,12 @@ void ReminderJourneyTest::aSecondStartIsRefusedAndLeavesTheFirstAlone() {
 }
 
 void ReminderJourneyTest::thirtyStartsAtOnceLeaveOneProcess() {
-    constexpr int starts = 30;
+    constexpr int Starts = 30;
     Stage stage({});
     QVERIFY2(stage.trouble().isEmpty(), qPrintable(stage.trouble()));
     std::vector<std::unique_ptr<DrivenProgram>> programs;
     programs.push_back(std::make_unique<DrivenProgram>(stage, QStringLiteral(ORVALIS_EXECUTABLE)));
-    for (int i = 1; i < starts; ++i)
+    for (int i = 1; i < Starts; ++i)
         programs.push_back(std::make_unique<DrivenProgram>(*programs.front(), i));
     for (const auto& program : programs)
         QVERIFY(program->launch());
@@ -174,14 +174,14 @@ void ReminderJourneyTest::thirtyStartsAtOnceLeaveOneProcess() {
         QVERIFY(program->connectProbe());
 
     const auto count = [&](auto&& holds) {
-        return std::count_if(programs.begin(), programs.end(), [&](const auto& program) {
-            return program->isRunning() && holds(*program);
-        });
+        return std::count_if(
+            programs.begin(), programs.end(),
+            [&](const auto& program) { return program->isRunning() && holds(*program); });
     };
     QVERIFY(waitUntil(
         [&] {
             return count([](DrivenProgram& program) { return program.messageBox().found; }) ==
-                   starts - 1;
+                   Starts - 1;
         },
         60000));
     const auto mainWindows = [&] {

@@ -509,15 +509,15 @@ void TrayJourneyTest::inTheTrayTheProgramSleeps() {
         const qsizetype place = status.indexOf("\nvoluntary_ctxt_switches:");
         return status.mid(place + 25).trimmed().split('\n').first().trimmed().toLongLong();
     };
-    constexpr int seconds = 60;
+    constexpr int Seconds = 60;
     sleepMilliseconds(3000);
     const qint64 ticksBefore = processorTicks();
     const qint64 wakeUpsBefore = wakeUps();
-    sleepMilliseconds(seconds * 1000);
+    sleepMilliseconds(Seconds * 1000);
     const qint64 ticks = processorTicks() - ticksBefore;
-    const double perSecond = static_cast<double>(wakeUps() - wakeUpsBefore) / seconds;
+    const double perSecond = static_cast<double>(wakeUps() - wakeUpsBefore) / Seconds;
     // A tick of the processor's clock is 10 ms.
-    const double share = static_cast<double>(ticks) / seconds;
+    const double share = static_cast<double>(ticks) / Seconds;
     qInfo("idle in the tray: %.2f %% of a core, %.2f wake-ups a second", share, perSecond);
     QVERIFY2(share <= 0.2, qPrintable(QString::number(share)));
     QVERIFY2(perSecond <= 3, qPrintable(QString::number(perSecond)));

@@ -36,9 +36,9 @@ QStringList colours(const GridModel& grid) {
     return all;
 }
 
-const QString plain = u"ffffff/000000"_s;
-const QString sage = u"a0c8b0/000000"_s;
-const QString red = u"0000ff/ffffff"_s;
+const QString Plain = u"ffffff/000000"_s;
+const QString Sage = u"a0c8b0/000000"_s;
+const QString Red = u"0000ff/ffffff"_s;
 
 } // namespace
 
@@ -189,7 +189,7 @@ void GridFileTest::withoutAFileTheGridHasOneEmptyRowAndTheFirstItemLandsOnRowsOn
     LoadPriorityGrid(path(), grid);
     QCOMPARE(grid.Cols(), 1);
     QCOMPARE(texts(grid), QStringList{QString()});
-    QCOMPARE(colours(grid), QStringList{plain});
+    QCOMPARE(colours(grid), QStringList{Plain});
     grid.AddItem(u"header"_s);
     grid.AddItem(u"body"_s);
     QCOMPARE(grid.TextMatrix(1, 0), u"header"_s);
@@ -201,7 +201,7 @@ void GridFileTest::aFileWhoseFirstNumberIsOneHoldsNoCells() {
     GridModel grid;
     LoadRemindGrid(path(), grid);
     QCOMPARE(texts(grid), QStringList{QString()});
-    QCOMPARE(colours(grid), QStringList{plain});
+    QCOMPARE(colours(grid), QStringList{Plain});
 }
 
 void GridFileTest::aLoadForgetsWhatTheGridHeld() {
@@ -213,21 +213,21 @@ void GridFileTest::aLoadForgetsWhatTheGridHeld() {
     write(" 2  1 \r\n\r\nnew\r\n");
     LoadGridPlain(path(), grid);
     QCOMPARE(texts(grid), (QStringList{QString(), u"new"_s}));
-    QCOMPARE(colours(grid), (QStringList{plain, plain}));
+    QCOMPARE(colours(grid), (QStringList{Plain, Plain}));
 }
 
 void GridFileTest::headerRowsOfTheRemindListAreSage() {
     write(" 5  1 \r\n\r\nh1\r\nb1\r\nh2\r\nb2\r\n");
     GridModel grid;
     LoadRemindGrid(path(), grid);
-    QCOMPARE(colours(grid), (QStringList{plain, sage, plain, sage, plain}));
+    QCOMPARE(colours(grid), (QStringList{Plain, Sage, Plain, Sage, Plain}));
 }
 
 void GridFileTest::headerRowsOfThePriorityListAreRedWithWhiteText() {
     write(" 5  1 \r\n\r\nh1\r\nb1\r\nh2\r\nb2\r\n");
     GridModel grid;
     LoadPriorityGrid(path(), grid);
-    QCOMPARE(colours(grid), (QStringList{plain, red, plain, red, plain}));
+    QCOMPARE(colours(grid), (QStringList{Plain, Red, Plain, Red, Plain}));
 }
 
 void GridFileTest::aPlainLoadGivesNoColours() {
@@ -235,21 +235,21 @@ void GridFileTest::aPlainLoadGivesNoColours() {
     GridModel grid;
     LoadGridPlain(path(), grid);
     QCOMPARE(texts(grid), (QStringList{QString(), u"h1"_s, u"b1"_s}));
-    QCOMPARE(colours(grid), (QStringList{plain, plain, plain}));
+    QCOMPARE(colours(grid), (QStringList{Plain, Plain, Plain}));
 }
 
 void GridFileTest::anEvenRowCountLeavesTheLastHeaderUncoloured() {
     write(" 4  1 \r\n\r\nh1\r\nb1\r\nh2\r\n");
     GridModel grid;
     LoadRemindGrid(path(), grid);
-    QCOMPARE(colours(grid), (QStringList{plain, sage, plain, plain}));
+    QCOMPARE(colours(grid), (QStringList{Plain, Sage, Plain, Plain}));
 }
 
 void GridFileTest::onlyTheLastColumnIsColoured() {
     write(" 3  2 \r\n\r\n\r\nh\r\nh\r\nb\r\nb\r\n");
     GridModel grid;
     LoadRemindGrid(path(), grid);
-    QCOMPARE(colours(grid), (QStringList{sage, plain, plain, sage, plain, plain}));
+    QCOMPARE(colours(grid), (QStringList{Sage, Plain, Plain, Sage, Plain, Plain}));
 }
 
 void GridFileTest::theLastCellIsCurrentAfterALoad() {
@@ -345,14 +345,14 @@ void GridFileTest::aHostileFileEndsSilently() {
 }
 
 void GridFileTest::fiftyMegabytesOfOneLineAreReadOnce() {
-    constexpr qint64 size = 50 * 1024 * 1024;
-    write(" 3  1 \r\n\r\n" + QByteArray(size, 'x'));
+    constexpr qint64 Size = 50 * 1024 * 1024;
+    write(" 3  1 \r\n\r\n" + QByteArray(Size, 'x'));
     GridModel grid;
     const test::TakenMemory taken = test::memoryTakenBy([&] { LoadRemindGrid(path(), grid); });
     // Room for the largest file, this one's text and the cell; another copy would be too much.
-    QVERIFY2(taken.asked < 8 * size, "the line was copied over and over");
+    QVERIFY2(taken.asked < 8 * Size, "the line was copied over and over");
     QCOMPARE(grid.Rows(), 3);
-    QCOMPARE(grid.TextMatrix(1, 0).size(), size);
+    QCOMPARE(grid.TextMatrix(1, 0).size(), Size);
     QCOMPARE(grid.TextMatrix(2, 0), QString());
 }
 
@@ -360,7 +360,7 @@ void GridFileTest::aFileBeyondTheLimitIsNotRead() {
     QFile file(path());
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(" 2  1 \r\na\r\nb\r\n");
-    QVERIFY(file.resize(largestGridFile + 1));
+    QVERIFY(file.resize(LargestGridFile + 1));
     file.close();
     GridModel grid;
     grid.AddItem(u"old"_s);

@@ -12,13 +12,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString rule(19, u'_');
+const QString Rule(19, u'_');
 
 /// The entry that the ground's clock and calendar give a message.
 QString entry(const QString& title, const QString& message) {
-    return u"\r\n"_s + title + u"\r\n"_s + rule + u"\r\n\r\n"_s + message +
+    return u"\r\n"_s + title + u"\r\n"_s + Rule + u"\r\n\r\n"_s + message +
            u"\r\n\r\n    To do: Saturday, March 14, 2026\r\n    Saved: 3/14/26 10:24:36 AM\r\n"_s +
-           rule + u"\r\n"_s;
+           Rule + u"\r\n"_s;
 }
 
 /// The format of the first place where the text stands.

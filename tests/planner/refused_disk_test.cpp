@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QStringList dataFiles{u"tmp1.brf"_s, u"tmp2.brf"_s, u"Vazno.rtf"_s};
+const QStringList DataFiles{u"tmp1.brf"_s, u"tmp2.brf"_s, u"Vazno.rtf"_s};
 
 /// A document and two lists of a former run, large enough that a disk can run full over each.
 void writeFormerRun(PanelGround& ground) {
@@ -25,7 +25,7 @@ void writeFormerRun(PanelGround& ground) {
 
 QList<QByteArray> contents(PanelGround& ground) {
     QList<QByteArray> all;
-    for (const QString& name : dataFiles)
+    for (const QString& name : DataFiles)
         all << ground.folder.read(name);
     return all;
 }
@@ -66,7 +66,7 @@ void RefusedDiskTest::aReadOnlyFolderKeepsItsFilesAndNothingIsReported() {
     writeFormerRun(ground);
     const QList<QByteArray> before = contents(ground);
     ground.shown();
-    for (const QString& name : dataFiles)
+    for (const QString& name : DataFiles)
         QVERIFY(QFile::setPermissions(ground.folder.file(name), QFile::ReadOwner));
     ground.folder.setWritable(false);
     saveAMessage(ground);
@@ -74,7 +74,7 @@ void RefusedDiskTest::aReadOnlyFolderKeepsItsFilesAndNothingIsReported() {
     ground.folder.setWritable(true);
     QVERIFY(ground.boxes.asked.isEmpty());
     QCOMPARE(contents(ground), before);
-    QCOMPARE(ground.folder.names(), dataFiles);
+    QCOMPARE(ground.folder.names(), DataFiles);
     QVERIFY(ground.rt1a().Text().contains(u"Call Ann"_s));
 }
 
@@ -89,7 +89,7 @@ void RefusedDiskTest::aReadOnlyFolderWhoseFilesMayBeWrittenTakesTheMessage() {
     QVERIFY(ground.folder.read(u"Vazno.rtf"_s).contains("Call Ann"));
     QVERIFY(ground.folder.read(u"tmp1.brf"_s).endsWith("\r\nCall Ann\r\n"));
     QVERIFY(ground.folder.read(u"tmp2.brf"_s).endsWith("\r\nAnn\r\n"));
-    QCOMPARE(ground.folder.names(), dataFiles);
+    QCOMPARE(ground.folder.names(), DataFiles);
 }
 
 void RefusedDiskTest::aFullDiskKeepsTheOldFilesAndNothingIsReported() {
@@ -104,7 +104,7 @@ void RefusedDiskTest::aFullDiskKeepsTheOldFilesAndNothingIsReported() {
     }
     QVERIFY(ground.boxes.asked.isEmpty());
     QCOMPARE(contents(ground), before);
-    QCOMPARE(ground.folder.names(), dataFiles);
+    QCOMPARE(ground.folder.names(), DataFiles);
     QVERIFY(ground.rt1a().Text().contains(u"Call Ann"_s));
 }
 

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const ScriptedBoxes::Asked invalidTime{u"Invalid input for time."_s, 16, {}};
+const ScriptedBoxes::Asked InvalidTime{u"Invalid input for time."_s, 16, {}};
 
 } // namespace
 
@@ -264,7 +264,7 @@ void ReminderEntryTest::aTimeThatIsNoneIsReportedAndStays() {
     QFETCH(QString, text);
     PanelGround ground;
     ground.combo(combo).lineEdit()->selectAll();
-    ground.boxes.expect(invalidTime.text, invalidTime.flags, Answer::Ok);
+    ground.boxes.expect(InvalidTime.text, InvalidTime.flags, Answer::Ok);
     ground.combo(combo).setText(text);
     QCOMPARE(ground.combo(combo).Text(), text);
     QCOMPARE(ground.caption(u"Label5"_s), u"00 : 00 : 00"_s);
@@ -283,7 +283,7 @@ void ReminderEntryTest::typingSevenAndOkPutsTheHourInTwoDigits() {
 void ReminderEntryTest::typingTwentyFourIsReportedAndOkTakesItAsItStands() {
     PanelGround ground;
     ground.tick(u"chkRemind"_s);
-    ground.boxes.expect(invalidTime.text, invalidTime.flags, Answer::Ok);
+    ground.boxes.expect(InvalidTime.text, InvalidTime.flags, Answer::Ok);
     ground.type(ground.combo(1), u"24"_s);
     ground.press(u"Button1"_s);
     QCOMPARE(ground.combo(1).Text(), u"24"_s);
@@ -292,7 +292,7 @@ void ReminderEntryTest::typingTwentyFourIsReportedAndOkTakesItAsItStands() {
 
 void ReminderEntryTest::aChoiceIsNotTestedEvenBesideATextThatIsNone() {
     PanelGround ground;
-    ground.boxes.expect(invalidTime.text, invalidTime.flags, Answer::Ok);
+    ground.boxes.expect(InvalidTime.text, InvalidTime.flags, Answer::Ok);
     ground.type(ground.combo(2), u"x"_s);
     ground.combo(1).setCurrentIndex(7);
     emit ground.combo(1).activated(7);
@@ -302,7 +302,7 @@ void ReminderEntryTest::aChoiceIsNotTestedEvenBesideATextThatIsNone() {
 
 void ReminderEntryTest::aChangeIsTestedInItsOwnFieldAlone() {
     PanelGround ground;
-    ground.boxes.expect(invalidTime.text, invalidTime.flags, Answer::Ok);
+    ground.boxes.expect(InvalidTime.text, InvalidTime.flags, Answer::Ok);
     ground.combo(1).setText(u"24"_s);
     ground.combo(2).setText(u"45"_s);
     QCOMPARE(ground.caption(u"Label5"_s), u"24:45:00"_s);

@@ -30,7 +30,7 @@ public:
     int runs = 0;
 };
 
-const QByteArray plainDocument = "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\f0\\fs16 Call Ann\\par}";
+const QByteArray PlainDocument = "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\f0\\fs16 Call Ann\\par}";
 
 } // namespace
 
@@ -292,7 +292,7 @@ void ReminderPanelTest::noControlIsCutOffOrLiesOnAnother() {
 
 void ReminderPanelTest::loadReadsBothDocuments() {
     PanelGround ground;
-    ground.folder.write(u"Vazno.rtf"_s, plainDocument);
+    ground.folder.write(u"Vazno.rtf"_s, PlainDocument);
     ground.folder.write(u"weekly.rtf"_s, "{\\rtf1\\ansi Monday\\par}");
     QVERIFY(ground.rt1a().Text().startsWith(u"Call Ann"_s));
     QVERIFY(ground.control<RichTextBox>(u"rt2"_s).Text().startsWith(u"Monday"_s));
@@ -656,7 +656,7 @@ void ReminderPanelTest::aDocumentThatIsNotRtfLeavesTheBoxEmptyAndIsKeptAside() {
 void ReminderPanelTest::aDocumentThatCannotBeReadIsKeptAside() {
     const WithoutRoot ordinaryUser;
     PanelGround ground;
-    const QString path = ground.folder.write(u"Vazno.rtf"_s, plainDocument);
+    const QString path = ground.folder.write(u"Vazno.rtf"_s, PlainDocument);
     QVERIFY(QFile::setPermissions(path, QFile::WriteOwner));
     QCOMPARE(ground.rt1a().Text(), QString());
     ground.rt1().SetText(u"message"_s);
@@ -665,18 +665,18 @@ void ReminderPanelTest::aDocumentThatCannotBeReadIsKeptAside() {
     QVERIFY(ground.folder.read(u"Vazno.rtf"_s).contains("message"));
     const QString aside = ground.folder.file(u"Vazno.rtf.unreadable"_s);
     QVERIFY(QFile::setPermissions(aside, QFile::ReadOwner));
-    QCOMPARE(ground.folder.read(u"Vazno.rtf.unreadable"_s), plainDocument);
+    QCOMPARE(ground.folder.read(u"Vazno.rtf.unreadable"_s), PlainDocument);
 }
 
 void ReminderPanelTest::aTruncatedDocumentOpensWithWhatCouldBeRead() {
-    for (qsizetype length = 1; length < plainDocument.size(); ++length) {
+    for (qsizetype length = 1; length < PlainDocument.size(); ++length) {
         PanelGround ground;
-        ground.folder.write(u"Vazno.rtf"_s, plainDocument.first(length));
+        ground.folder.write(u"Vazno.rtf"_s, PlainDocument.first(length));
         const QString read = ground.rt1a().Text();
         const QString whole = u"Call Ann"_s;
-        const qsizetype begin = plainDocument.indexOf("Call Ann");
+        const qsizetype begin = PlainDocument.indexOf("Call Ann");
         const qsizetype there = std::clamp<qsizetype>(length - begin, 0, whole.size());
-        QVERIFY2(read.left(there) == whole.left(there), plainDocument.first(length).constData());
+        QVERIFY2(read.left(there) == whole.left(there), PlainDocument.first(length).constData());
     }
 }
 
@@ -741,10 +741,10 @@ void ReminderPanelTest::hostileListsLeaveThePanelInUse() {
 void ReminderPanelTest::rubbishInsideADocumentLeavesTheTextAroundIt() {
     const QByteArray rubbish("\x00\xFF\x81\x0C\x1A\\'\x7F{\\*\\\xF0", 13);
     const QString whole = u"Call Ann"_s;
-    const qsizetype begin = plainDocument.indexOf("Call Ann");
-    for (qsizetype place = 6; place <= plainDocument.size(); ++place) {
+    const qsizetype begin = PlainDocument.indexOf("Call Ann");
+    for (qsizetype place = 6; place <= PlainDocument.size(); ++place) {
         PanelGround ground;
-        QByteArray bytes = plainDocument;
+        QByteArray bytes = PlainDocument;
         bytes.insert(place, rubbish);
         ground.folder.write(u"Vazno.rtf"_s, bytes);
         const QString read = ground.rt1a().Text();

@@ -15,8 +15,8 @@ using namespace orvalis::test;
 
 namespace {
 
-const QString regPath = u"SOFTWARE\\Orvalis\\Reg"_s;
-const QString fileName = u"orvalis.ini"_s;
+const QString RegPath = u"SOFTWARE\\Orvalis\\Reg"_s;
+const QString FileName = u"orvalis.ini"_s;
 
 StoredValue text(const QString& value) {
     return StoredValue::string(value);
@@ -50,58 +50,58 @@ private slots:
 void IniSettingsStoreTest::nothingIsMadeByReading() {
     const TemporaryFolder folder;
     const IniSettingsStore store(folder.file(u"config/orvalis.ini"_s));
-    QVERIFY(!store.value(Hive::CurrentUser, regPath, u"Start"_s).has_value());
-    QVERIFY(!store.hasKey(Hive::CurrentUser, regPath));
+    QVERIFY(!store.value(Hive::CurrentUser, RegPath, u"Start"_s).has_value());
+    QVERIFY(!store.hasKey(Hive::CurrentUser, RegPath));
     QVERIFY(folder.names().isEmpty());
 }
 
 void IniSettingsStoreTest::theFirstWriteMakesTheFile() {
     const TemporaryFolder folder;
-    IniSettingsStore store(folder.file(fileName));
-    QVERIFY(store.setValue(Hive::CurrentUser, regPath, u"Start"_s, text(u"1"_s)));
-    QCOMPARE(folder.names(), QStringList{fileName});
-    QCOMPARE(folder.read(fileName), QByteArray("[Reg]\nStart=1\n"));
+    IniSettingsStore store(folder.file(FileName));
+    QVERIFY(store.setValue(Hive::CurrentUser, RegPath, u"Start"_s, text(u"1"_s)));
+    QCOMPARE(folder.names(), QStringList{FileName});
+    QCOMPARE(folder.read(FileName), QByteArray("[Reg]\nStart=1\n"));
 }
 
 void IniSettingsStoreTest::sectionsAndValuesHaveTheirOwnNames() {
     const TemporaryFolder folder;
-    IniSettingsStore store(folder.file(fileName));
+    IniSettingsStore store(folder.file(FileName));
     store.setValue(Hive::CurrentUser, u"SOFTWARE\\Orvalis\\Media"_s, u"Player1"_s,
                    text(u"False"_s));
     store.setValue(Hive::CurrentUser, u"Software\\Orvalis\\Slova"_s, u"Imslova"_s,
                    text(u"Arial, @bold"_s));
     store.setValue(Hive::CurrentUser, u"SOFTWARE\\Orvalis"_s, u"own"_s, text(u"x"_s));
-    QCOMPARE(folder.read(fileName),
+    QCOMPARE(folder.read(FileName),
              QByteArray("own=x\n[Media]\nPlayer1=False\n\n[Slova]\nImslova=Arial, @bold\n"));
 }
 
 void IniSettingsStoreTest::otherKeysHaveTheirFullPath() {
     const TemporaryFolder folder;
-    IniSettingsStore store(folder.file(fileName));
-    store.setValue(Hive::LocalMachine, regPath, u"Start"_s, text(u"1"_s));
+    IniSettingsStore store(folder.file(FileName));
+    store.setValue(Hive::LocalMachine, RegPath, u"Start"_s, text(u"1"_s));
     store.setValue(Hive::CurrentUser, u"SOFTWARE\\Other"_s, u"x"_s, text(u"2"_s));
-    QCOMPARE(folder.read(fileName),
+    QCOMPARE(folder.read(FileName),
              QByteArray("[HKEY_LOCAL_MACHINE\\SOFTWARE\\Orvalis\\Reg]\nStart=1\n\n"
                         "[HKEY_CURRENT_USER\\SOFTWARE\\Other]\nx=2\n"));
-    QVERIFY(!store.value(Hive::CurrentUser, regPath, u"Start"_s).has_value());
-    QCOMPARE(store.value(Hive::LocalMachine, regPath, u"Start"_s), std::optional(text(u"1"_s)));
+    QVERIFY(!store.value(Hive::CurrentUser, RegPath, u"Start"_s).has_value());
+    QCOMPARE(store.value(Hive::LocalMachine, RegPath, u"Start"_s), std::optional(text(u"1"_s)));
 }
 
 void IniSettingsStoreTest::pathsAreComparedWithoutCaseAndEndSeparator() {
     const TemporaryFolder folder;
-    folder.write(fileName, "[Reg]\nStart=1\n");
-    const IniSettingsStore store(folder.file(fileName));
+    folder.write(FileName, "[Reg]\nStart=1\n");
+    const IniSettingsStore store(folder.file(FileName));
     for (const auto& path : {u"software\\orvalis\\reg"_s, u"SOFTWARE\\ORVALIS\\REG\\"_s})
         QCOMPARE(store.value(Hive::CurrentUser, path, u"START"_s), std::optional(text(u"1"_s)));
 }
 
 void IniSettingsStoreTest::keysAreKnownByTheirSections() {
     const TemporaryFolder folder;
-    IniSettingsStore store(folder.file(fileName));
+    IniSettingsStore store(folder.file(FileName));
     QVERIFY(store.hasKey(Hive::CurrentUser, QString()));
     QVERIFY(!store.hasKey(Hive::CurrentUser, u"SOFTWARE\\Orvalis"_s));
-    QVERIFY(store.createKey(Hive::CurrentUser, regPath));
-    QVERIFY(store.hasKey(Hive::CurrentUser, regPath));
+    QVERIFY(store.createKey(Hive::CurrentUser, RegPath));
+    QVERIFY(store.hasKey(Hive::CurrentUser, RegPath));
     QVERIFY(store.hasKey(Hive::CurrentUser, u"SOFTWARE\\Orvalis"_s));
     QVERIFY(!store.hasKey(Hive::CurrentUser, u"SOFTWARE\\Orvalis\\Media"_s));
     QVERIFY(store.createKey(Hive::LocalMachine, u"A\\B"_s));
@@ -111,96 +111,96 @@ void IniSettingsStoreTest::keysAreKnownByTheirSections() {
 
 void IniSettingsStoreTest::aValueIsRemoved() {
     const TemporaryFolder folder;
-    folder.write(fileName, "[Reg]\nStart=1\n1st=True\n");
-    IniSettingsStore store(folder.file(fileName));
-    QVERIFY(store.removeValue(Hive::CurrentUser, regPath, u"start"_s));
-    QCOMPARE(folder.read(fileName), QByteArray("[Reg]\n1st=True\n"));
+    folder.write(FileName, "[Reg]\nStart=1\n1st=True\n");
+    IniSettingsStore store(folder.file(FileName));
+    QVERIFY(store.removeValue(Hive::CurrentUser, RegPath, u"start"_s));
+    QCOMPARE(folder.read(FileName), QByteArray("[Reg]\n1st=True\n"));
 }
 
 void IniSettingsStoreTest::removingFromNothingMakesNothing() {
     const TemporaryFolder folder;
-    IniSettingsStore store(folder.file(fileName));
-    QVERIFY(store.removeValue(Hive::CurrentUser, regPath, u"Start"_s));
+    IniSettingsStore store(folder.file(FileName));
+    QVERIFY(store.removeValue(Hive::CurrentUser, RegPath, u"Start"_s));
     QVERIFY(folder.names().isEmpty());
 }
 
 void IniSettingsStoreTest::anEditByHandCountsAtOnce() {
     const TemporaryFolder folder;
-    IniSettingsStore store(folder.file(fileName));
-    store.setValue(Hive::CurrentUser, regPath, u"Start"_s, text(u"1"_s));
-    folder.write(fileName, "[Reg]\nStart=0\n");
-    QCOMPARE(store.value(Hive::CurrentUser, regPath, u"Start"_s), std::optional(text(u"0"_s)));
+    IniSettingsStore store(folder.file(FileName));
+    store.setValue(Hive::CurrentUser, RegPath, u"Start"_s, text(u"1"_s));
+    folder.write(FileName, "[Reg]\nStart=0\n");
+    QCOMPARE(store.value(Hive::CurrentUser, RegPath, u"Start"_s), std::optional(text(u"0"_s)));
 }
 
 void IniSettingsStoreTest::aFileThatIsNoTextGivesNothingAndIsKeptAside() {
     const TemporaryFolder folder;
     const QByteArray damaged("[Reg]\nStart=1\n\xFF\xFE");
-    folder.write(fileName, damaged);
-    IniSettingsStore store(folder.file(fileName));
-    QVERIFY(!store.value(Hive::CurrentUser, regPath, u"Start"_s).has_value());
-    QCOMPARE(folder.names(), QStringList{fileName});
-    QVERIFY(store.setValue(Hive::CurrentUser, regPath, u"Start"_s, text(u"0"_s)));
-    QCOMPARE(folder.read(fileName), QByteArray("[Reg]\nStart=0\n"));
-    QCOMPARE(folder.read(fileName + u".unreadable"_s), damaged);
+    folder.write(FileName, damaged);
+    IniSettingsStore store(folder.file(FileName));
+    QVERIFY(!store.value(Hive::CurrentUser, RegPath, u"Start"_s).has_value());
+    QCOMPARE(folder.names(), QStringList{FileName});
+    QVERIFY(store.setValue(Hive::CurrentUser, RegPath, u"Start"_s, text(u"0"_s)));
+    QCOMPARE(folder.read(FileName), QByteArray("[Reg]\nStart=0\n"));
+    QCOMPARE(folder.read(FileName + u".unreadable"_s), damaged);
 }
 
 void IniSettingsStoreTest::aFolderInItsPlaceGivesNothing() {
     const TemporaryFolder folder;
-    QVERIFY(QDir(folder.path()).mkdir(fileName));
-    IniSettingsStore store(folder.file(fileName));
-    QVERIFY(!store.value(Hive::CurrentUser, regPath, u"Start"_s).has_value());
-    QVERIFY(!store.setValue(Hive::CurrentUser, regPath, u"Start"_s, text(u"1"_s)));
-    QVERIFY(!store.removeValue(Hive::CurrentUser, regPath, u"Start"_s));
-    QCOMPARE(folder.names(), QStringList{fileName});
+    QVERIFY(QDir(folder.path()).mkdir(FileName));
+    IniSettingsStore store(folder.file(FileName));
+    QVERIFY(!store.value(Hive::CurrentUser, RegPath, u"Start"_s).has_value());
+    QVERIFY(!store.setValue(Hive::CurrentUser, RegPath, u"Start"_s, text(u"1"_s)));
+    QVERIFY(!store.removeValue(Hive::CurrentUser, RegPath, u"Start"_s));
+    QCOMPARE(folder.names(), QStringList{FileName});
 }
 
 void IniSettingsStoreTest::anUnreadableFileGivesNothingAndIsKeptAside() {
     const WithoutRoot ordinaryUser;
     const TemporaryFolder folder;
     QVERIFY(
-        QFile::setPermissions(folder.write(fileName, "[Reg]\nStart=1\n"), QFile::Permissions()));
-    IniSettingsStore store(folder.file(fileName));
-    QVERIFY(!store.value(Hive::CurrentUser, regPath, u"Start"_s).has_value());
-    QVERIFY(store.setValue(Hive::CurrentUser, regPath, u"Start"_s, text(u"0"_s)));
-    QVERIFY(folder.names().contains(fileName + u".unreadable"_s));
-    QCOMPARE(store.value(Hive::CurrentUser, regPath, u"Start"_s), std::optional(text(u"0"_s)));
+        QFile::setPermissions(folder.write(FileName, "[Reg]\nStart=1\n"), QFile::Permissions()));
+    IniSettingsStore store(folder.file(FileName));
+    QVERIFY(!store.value(Hive::CurrentUser, RegPath, u"Start"_s).has_value());
+    QVERIFY(store.setValue(Hive::CurrentUser, RegPath, u"Start"_s, text(u"0"_s)));
+    QVERIFY(folder.names().contains(FileName + u".unreadable"_s));
+    QCOMPARE(store.value(Hive::CurrentUser, RegPath, u"Start"_s), std::optional(text(u"0"_s)));
 }
 
 void IniSettingsStoreTest::aFileOfAnotherSizeClassGivesNothing() {
     const TemporaryFolder folder;
-    folder.write(fileName, "[Reg]\nStart=1\n" + QByteArray(2 * 1024 * 1024, ';'));
-    const IniSettingsStore store(folder.file(fileName));
-    QVERIFY(!store.value(Hive::CurrentUser, regPath, u"Start"_s).has_value());
+    folder.write(FileName, "[Reg]\nStart=1\n" + QByteArray(2 * 1024 * 1024, ';'));
+    const IniSettingsStore store(folder.file(FileName));
+    QVERIFY(!store.value(Hive::CurrentUser, RegPath, u"Start"_s).has_value());
 }
 
 void IniSettingsStoreTest::aReadOnlyFolderKeepsTheOldValues() {
     const WithoutRoot ordinaryUser;
     const TemporaryFolder folder;
-    QVERIFY(QFile::setPermissions(folder.write(fileName, "[Reg]\nStart=1\n"), QFile::ReadOwner));
+    QVERIFY(QFile::setPermissions(folder.write(FileName, "[Reg]\nStart=1\n"), QFile::ReadOwner));
     folder.setWritable(false);
-    IniSettingsStore store(folder.file(fileName));
-    QVERIFY(!store.setValue(Hive::CurrentUser, regPath, u"Start"_s, text(u"0"_s)));
-    QCOMPARE(store.value(Hive::CurrentUser, regPath, u"Start"_s), std::optional(text(u"1"_s)));
+    IniSettingsStore store(folder.file(FileName));
+    QVERIFY(!store.setValue(Hive::CurrentUser, RegPath, u"Start"_s, text(u"0"_s)));
+    QCOMPARE(store.value(Hive::CurrentUser, RegPath, u"Start"_s), std::optional(text(u"1"_s)));
     folder.setWritable(true);
-    QCOMPARE(folder.names(), QStringList{fileName});
+    QCOMPARE(folder.names(), QStringList{FileName});
 }
 
 void IniSettingsStoreTest::aFullDiskKeepsTheOldValues() {
     const TemporaryFolder folder;
-    folder.write(fileName, "[Reg]\nStart=1\n");
-    IniSettingsStore store(folder.file(fileName));
+    folder.write(FileName, "[Reg]\nStart=1\n");
+    IniSettingsStore store(folder.file(FileName));
     {
         const SmallDisk disk(500);
-        QVERIFY(!store.setValue(Hive::CurrentUser, regPath, u"1st"_s, text(QString(10000, u'x'))));
+        QVERIFY(!store.setValue(Hive::CurrentUser, RegPath, u"1st"_s, text(QString(10000, u'x'))));
     }
-    QCOMPARE(folder.read(fileName), QByteArray("[Reg]\nStart=1\n"));
-    QCOMPARE(folder.names(), QStringList{fileName});
+    QCOMPARE(folder.read(FileName), QByteArray("[Reg]\nStart=1\n"));
+    QCOMPARE(folder.names(), QStringList{FileName});
 }
 
 void IniSettingsStoreTest::aMissingFolderIsMade() {
     const TemporaryFolder folder;
     IniSettingsStore store(folder.file(u"a/b/orvalis.ini"_s));
-    QVERIFY(store.setValue(Hive::CurrentUser, regPath, u"Start"_s, text(u"1"_s)));
+    QVERIFY(store.setValue(Hive::CurrentUser, RegPath, u"Start"_s, text(u"1"_s)));
     QCOMPARE(folder.read(u"a/b/orvalis.ini"_s), QByteArray("[Reg]\nStart=1\n"));
 }
 
@@ -213,10 +213,10 @@ void IniSettingsStoreTest::theDefaultFileLiesInTheConfigurationFolder() {
 
 void IniSettingsStoreTest::anEqualValueIsNotWrittenAgain() {
     const TemporaryFolder folder;
-    IniSettingsStore store(folder.file(fileName));
-    store.setValue(Hive::CurrentUser, regPath, u"Start"_s, text(u"1"_s));
+    IniSettingsStore store(folder.file(FileName));
+    store.setValue(Hive::CurrentUser, RegPath, u"Start"_s, text(u"1"_s));
     const SmallDisk disk(0); // any write would fail
-    QVERIFY(store.setValue(Hive::CurrentUser, regPath, u"Start"_s, text(u"1"_s)));
+    QVERIFY(store.setValue(Hive::CurrentUser, RegPath, u"Start"_s, text(u"1"_s)));
 }
 
 ORVALIS_TEST_MAIN_WITH(QCoreApplication, IniSettingsStoreTest)

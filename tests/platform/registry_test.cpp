@@ -21,9 +21,9 @@ using namespace orvalis::test;
 
 namespace {
 
-const QString product = u"Orvalis"_s;
-const QString regPath = u"SOFTWARE\\Orvalis\\Reg"_s;
-const QString runPath = u"Software\\Microsoft\\Windows\\CurrentVersion\\Run"_s;
+const QString Product = u"Orvalis"_s;
+const QString RegPath = u"SOFTWARE\\Orvalis\\Reg"_s;
+const QString RunPath = u"Software\\Microsoft\\Windows\\CurrentVersion\\Run"_s;
 
 struct Setting {
     const char16_t* section;
@@ -31,7 +31,7 @@ struct Setting {
     const char16_t* defaultValue;
 };
 
-const QList<Setting> everySetting{
+const QList<Setting> EverySetting{
     {u"Reg", u"Start", u"0"},         {u"Reg", u"1st", u"True"},
     {u"Reg", u"2nd", u"False"},       {u"Reg", u"Vreme", u"0"},
     {u"Media", u"Player1", u"False"}, {u"Media", u"Player2", u"True"},
@@ -93,7 +93,7 @@ void RegistryTest::aFreshProfileGivesEveryDefaultAndCreatesNoKey() {
     const TemporaryFolder folder;
     IniSettingsStore file(folder.file(u"config/orvalis.ini"_s));
     Registry overFile(file, *m_logon);
-    for (const Setting& setting : everySetting) {
+    for (const Setting& setting : EverySetting) {
         const QString section = QString::fromUtf16(setting.section);
         const QString name = QString::fromUtf16(setting.name);
         const QString defaultValue = QString::fromUtf16(setting.defaultValue);
@@ -105,14 +105,14 @@ void RegistryTest::aFreshProfileGivesEveryDefaultAndCreatesNoKey() {
 }
 
 void RegistryTest::aDoubleWordStartOfOneStillEqualsOne() {
-    m_store->setValue(Hive::CurrentUser, regPath, u"Start"_s, StoredValue::doubleWord(1));
+    m_store->setValue(Hive::CurrentUser, RegPath, u"Start"_s, StoredValue::doubleWord(1));
     const QVariant start = m_registry->setting(u"Reg"_s, u"Start"_s, u"0"_s);
     QCOMPARE(start.typeId(), int(QMetaType::Int));
     QVERIFY(settingEquals(start, 1));
 }
 
 void RegistryTest::anEmptyTextIsAValueAndNotTheDefault() {
-    m_store->setValue(Hive::CurrentUser, regPath, u"Start"_s, StoredValue::string(u""_s));
+    m_store->setValue(Hive::CurrentUser, RegPath, u"Start"_s, StoredValue::string(u""_s));
     const QVariant start = m_registry->setting(u"Reg"_s, u"Start"_s, u"0"_s);
     QCOMPARE(start.typeId(), int(QMetaType::QString));
     QCOMPARE(start.toString(), u""_s);
@@ -161,37 +161,37 @@ void RegistryTest::thePathIsJoinedOfItsPartsThatAreNotEmpty_data() {
 
 void RegistryTest::thePathIsJoinedOfItsPartsThatAreNotEmpty() {
     QFETCH(QString, root);
-    QFETCH(QString, product);
+    QFETCH(QString, Product);
     QFETCH(QString, section);
     QFETCH(QString, path);
-    QVERIFY(m_registry->RegPutSetting(product, section, u"x"_s, u"1"_s, Hive::LocalMachine, root));
+    QVERIFY(m_registry->RegPutSetting(Product, section, u"x"_s, u"1"_s, Hive::LocalMachine, root));
     QCOMPARE(m_store->value(Hive::LocalMachine, path, u"x"_s), StoredValue::string(u"1"_s));
-    QCOMPARE(m_registry->RegGetSetting(product, section, u"x"_s, u"0"_s, Hive::LocalMachine, root),
+    QCOMPARE(m_registry->RegGetSetting(Product, section, u"x"_s, u"0"_s, Hive::LocalMachine, root),
              QVariant(u"1"_s));
 }
 
 void RegistryTest::bothSpellingsOfTheRootReachTheSameKey() {
-    m_registry->RegPutSetting(product, u"Slova"_s, u"Vslova"_s, u"12"_s, Hive::CurrentUser,
+    m_registry->RegPutSetting(Product, u"Slova"_s, u"Vslova"_s, u"12"_s, Hive::CurrentUser,
                               u"Software"_s);
-    QCOMPARE(m_registry->RegGetSetting(product, u"Slova"_s, u"Vslova"_s, u"10"_s),
+    QCOMPARE(m_registry->RegGetSetting(Product, u"Slova"_s, u"Vslova"_s, u"10"_s),
              QVariant(u"12"_s));
 }
 
 void RegistryTest::anExpandableTextIsReadAsItStands() {
-    m_store->setValue(Hive::CurrentUser, regPath, u"Start"_s,
+    m_store->setValue(Hive::CurrentUser, RegPath, u"Start"_s,
                       StoredValue{REG_EXPAND_SZ, u"%PATH%"_s, 0, {}});
     QCOMPARE(m_registry->setting(u"Reg"_s, u"Start"_s, u"0"_s), QVariant(u"%PATH%"_s));
 }
 
 void RegistryTest::anotherTypeGivesTheDefault() {
-    m_store->setValue(Hive::CurrentUser, regPath, u"Start"_s, StoredValue{REG_BINARY, {}, 0, "1"});
+    m_store->setValue(Hive::CurrentUser, RegPath, u"Start"_s, StoredValue{REG_BINARY, {}, 0, "1"});
     QCOMPARE(m_registry->setting(u"Reg"_s, u"Start"_s, u"0"_s), QVariant(u"0"_s));
 }
 
 void RegistryTest::queryingAMissingValueIsAnInvalidCall() {
     QVariant value(u"before"_s);
     const auto failure = firstFailure([&] {
-        m_registry->RegQueryVariant({Hive::CurrentUser, regPath}, u"Start"_s, value);
+        m_registry->RegQueryVariant({Hive::CurrentUser, RegPath}, u"Start"_s, value);
     });
     QVERIFY(failure.has_value());
     QCOMPARE(failure->number(), ErrorNumber::InvalidProcedureCall);
@@ -199,7 +199,7 @@ void RegistryTest::queryingAMissingValueIsAnInvalidCall() {
 }
 
 void RegistryTest::queryingTellsTheStatusAndTheValue() {
-    const RegistryKey key{Hive::CurrentUser, regPath};
+    const RegistryKey key{Hive::CurrentUser, RegPath};
     m_store->setValue(key.hive, key.path, u"number"_s, StoredValue::doubleWord(0xFFFFFFFF));
     m_store->setValue(key.hive, key.path, u"text"_s, StoredValue::string(u"x"_s));
     m_store->setValue(key.hive, key.path, u"other"_s, StoredValue{7, {}, 0, "x"});
@@ -235,14 +235,14 @@ void RegistryTest::settingsAreWrittenAsTextsWhateverTheyAre() {
 }
 
 void RegistryTest::typesThatAreNotWrittenDoNothing() {
-    QCOMPARE(m_registry->RegSetVariant({Hive::CurrentUser, regPath}, u"x"_s, REG_BINARY, 1), 0);
-    QCOMPARE(m_registry->RegSetVariant({Hive::CurrentUser, regPath}, u"x"_s, REG_EXPAND_SZ, 1), 0);
+    QCOMPARE(m_registry->RegSetVariant({Hive::CurrentUser, RegPath}, u"x"_s, REG_BINARY, 1), 0);
+    QCOMPARE(m_registry->RegSetVariant({Hive::CurrentUser, RegPath}, u"x"_s, REG_EXPAND_SZ, 1), 0);
     QCOMPARE(m_store->keyCount(), 0);
 }
 
 void RegistryTest::numbersAreWrittenAsDoubleWords() {
-    QCOMPARE(m_registry->RegSetVariant({Hive::CurrentUser, regPath}, u"x"_s, REG_DWORD, -1), 0);
-    QCOMPARE(m_store->value(Hive::CurrentUser, regPath, u"x"_s),
+    QCOMPARE(m_registry->RegSetVariant({Hive::CurrentUser, RegPath}, u"x"_s, REG_DWORD, -1), 0);
+    QCOMPARE(m_store->value(Hive::CurrentUser, RegPath, u"x"_s),
              StoredValue::doubleWord(0xFFFFFFFF));
 }
 
@@ -259,7 +259,7 @@ void RegistryTest::aValueWithoutATextCutsTheWriteShort() {
 
 void RegistryTest::theRunKeyIsTheLogonEntry_data() {
     QTest::addColumn<QString>("subKey");
-    QTest::newRow("as written") << runPath;
+    QTest::newRow("as written") << RunPath;
     QTest::newRow("as removed") << u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run\\"_s;
 }
 
@@ -273,12 +273,12 @@ void RegistryTest::theRunKeyIsTheLogonEntry() {
 }
 
 void RegistryTest::anotherRunKeyIsWrittenOnlyWhereItIs() {
-    m_registry->RunKeySet(Hive::CurrentUser, runPath, u"Orvalis"_s, u"x"_s);
+    m_registry->RunKeySet(Hive::CurrentUser, RunPath, u"Orvalis"_s, u"x"_s);
     QVERIFY(m_logon->entries.isEmpty());
     QCOMPARE(m_store->keyCount(), 0);
-    m_store->createKey(Hive::CurrentUser, runPath);
-    m_registry->RunKeySet(Hive::CurrentUser, runPath, u"Orvalis"_s, u"x"_s);
-    QCOMPARE(m_store->value(Hive::CurrentUser, runPath, u"Orvalis"_s), StoredValue::string(u"x"_s));
+    m_store->createKey(Hive::CurrentUser, RunPath);
+    m_registry->RunKeySet(Hive::CurrentUser, RunPath, u"Orvalis"_s, u"x"_s);
+    QCOMPARE(m_store->value(Hive::CurrentUser, RunPath, u"Orvalis"_s), StoredValue::string(u"x"_s));
 }
 
 void RegistryTest::withoutTheRightToWriteTheLogonEntryNothingShows() {
@@ -287,7 +287,7 @@ void RegistryTest::withoutTheRightToWriteTheLogonEntryNothingShows() {
     folder.setWritable(false);
     XdgLogonEntry entry(folder.file(u"autostart"_s));
     Registry registry(*m_store, entry);
-    registry.RunKeySet(Hive::LocalMachine, runPath, u"Orvalis"_s, u"/opt/orvalis"_s);
+    registry.RunKeySet(Hive::LocalMachine, RunPath, u"Orvalis"_s, u"/opt/orvalis"_s);
     QVERIFY(registry.putSetting(u"Reg"_s, u"Start"_s, 1)); // goes its own way
     folder.setWritable(true);
     QVERIFY(folder.names().isEmpty());

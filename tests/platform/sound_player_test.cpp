@@ -14,7 +14,7 @@ using namespace orvalis::test;
 
 namespace {
 
-const QString binFolder = QStringLiteral(ORVALIS_BIN_FOLDER);
+const QString BinFolder = QStringLiteral(ORVALIS_BIN_FOLDER);
 
 bool multimediaIsLoaded() {
     QFile maps(u"/proc/self/maps"_s);
@@ -33,7 +33,7 @@ private slots:
 };
 
 void SoundPlayerTest::nothingOfMultimediaIsLoadedBeforeASoundIsThere() {
-    DeviceSoundPlayer player({binFolder});
+    DeviceSoundPlayer player({BinFolder});
     player.playAndWait(QString());
     player.playAndWait(u"/missing/Alarm.wav"_s);
     QVERIFY(!multimediaIsLoaded());
@@ -41,7 +41,7 @@ void SoundPlayerTest::nothingOfMultimediaIsLoadedBeforeASoundIsThere() {
 
 void SoundPlayerTest::aFileThatIsNoSoundReturnsAtOnce() {
     const TemporaryFolder folder;
-    DeviceSoundPlayer player({binFolder});
+    DeviceSoundPlayer player({BinFolder});
     player.playAndWait(folder.write(u"Alarm.wav"_s, "no sound"));
     player.playAndWait(folder.path());
     QVERIFY(!multimediaIsLoaded());
@@ -50,18 +50,18 @@ void SoundPlayerTest::aFileThatIsNoSoundReturnsAtOnce() {
 void SoundPlayerTest::withoutTheOutputLibraryItReturnsAtOnce() {
     const TemporaryFolder folder;
     DeviceSoundPlayer player({folder.path()});
-    player.playAndWait(binFolder + u"/Alarm.wav"_s);
+    player.playAndWait(BinFolder + u"/Alarm.wav"_s);
     QVERIFY(!multimediaIsLoaded());
 }
 
 void SoundPlayerTest::playingHoldsTheThreadAtMostForTheLengthOfTheFile() {
-    constexpr qint64 length = 1400;
-    constexpr qint64 loading = 5000; // of the library and its connection, on a busy machine
-    DeviceSoundPlayer player({binFolder});
+    constexpr qint64 Length = 1400;
+    constexpr qint64 Loading = 5000; // of the library and its connection, on a busy machine
+    DeviceSoundPlayer player({BinFolder});
     QElapsedTimer held;
     held.start();
-    player.playAndWait(binFolder + u"/Alarm.wav"_s);
-    QVERIFY(held.elapsed() < length + loading);
+    player.playAndWait(BinFolder + u"/Alarm.wav"_s);
+    QVERIFY(held.elapsed() < Length + Loading);
     QVERIFY(multimediaIsLoaded());
 }
 

@@ -22,9 +22,9 @@ using orvalis::test::TakenMemory;
 
 namespace {
 
-constexpr qint64 memoryPerByte = 40;
-constexpr qint64 memoryGround = qint64(64) << 20;
-constexpr qint64 stepsPerByte = 64;
+constexpr qint64 MemoryPerByte = 40;
+constexpr qint64 MemoryGround = qint64(64) << 20;
+constexpr qint64 StepsPerByte = 64;
 
 size_t hashOfTabs(const QTextBlockFormat& format) {
     size_t hash = 0;
@@ -68,15 +68,15 @@ private slots:
 };
 
 void HostileCostTest::whatQtAsksForIsCounted() {
-    if (!test::countsMemory)
+    if (!test::CountsMemory)
         QSKIP("The memory of this build is not counted.");
-    constexpr qint64 size = 1 << 20;
+    constexpr qint64 Size = 1 << 20;
     const TakenMemory taken = memoryTakenBy([] {
         for (int time = 0; time < 2; ++time)
-            QByteArray(size, 'x').detach();
+            QByteArray(Size, 'x').detach();
     });
-    QVERIFY(taken.asked >= 2 * size);
-    QVERIFY(taken.peak >= size && taken.peak < 2 * size);
+    QVERIFY(taken.asked >= 2 * Size);
+    QVERIFY(taken.peak >= Size && taken.peak < 2 * Size);
 }
 
 void HostileCostTest::aFloodCostsInProportionToItsSize_data() {
@@ -87,12 +87,12 @@ void HostileCostTest::aFloodCostsInProportionToItsSize_data() {
 
 void HostileCostTest::aFloodCostsInProportionToItsSize() {
     QFETCH(RtfFlood, flood);
-    constexpr qsizetype size = 500'000;
-    constexpr int times = 4;
-    constexpr double leeway = 1.25;
-    constexpr qint64 ground = 64 << 10;
-    const QByteArray large = flood.ofSize(size);
-    const QByteArray small = flood.ofSize(size / times);
+    constexpr qsizetype Size = 500'000;
+    constexpr int Times = 4;
+    constexpr double Leeway = 1.25;
+    constexpr qint64 Ground = 64 << 10;
+    const QByteArray large = flood.ofSize(Size);
+    const QByteArray small = flood.ofSize(Size / Times);
     QTextDocument document;
     readRtf(small, document); // Plugins and tables that are loaded once cost once.
     document.clear();
@@ -101,19 +101,19 @@ void HostileCostTest::aFloodCostsInProportionToItsSize() {
     const TakenMemory forLarge = memoryTakenBy([&] { readRtf(large, document); });
     QVERIFY(document.firstBlock().text().startsWith(QStringLiteral("text")));
     const qint64 steps = stepsOfFilling(document);
-    QVERIFY2(steps <= stepsPerByte * large.size(), qPrintable(QString::number(steps)));
-    if (!test::countsMemory)
+    QVERIFY2(steps <= StepsPerByte * large.size(), qPrintable(QString::number(steps)));
+    if (!test::CountsMemory)
         return;
-    QVERIFY2(double(forLarge.asked) <= leeway * times * double(forSmall.asked) + ground,
+    QVERIFY2(double(forLarge.asked) <= Leeway * Times * double(forSmall.asked) + Ground,
              qPrintable(QStringLiteral("%1, then %2").arg(forSmall.asked).arg(forLarge.asked)));
-    QVERIFY2(forLarge.peak <= memoryPerByte * large.size() + memoryGround,
+    QVERIFY2(forLarge.peak <= MemoryPerByte * large.size() + MemoryGround,
              qPrintable(QString::number(forLarge.peak)));
 }
 
 void HostileCostTest::aLongListGoesOnInFurtherOnes() {
-    constexpr int items = 2000;
+    constexpr int Items = 2000;
     QByteArray rtf = "{\\rtf1\\pard{\\pntext\\bullet}{\\*\\pn\\pnlvlblt}";
-    for (int i = 0; i < items; ++i)
+    for (int i = 0; i < Items; ++i)
         rtf += "x\\par ";
     QTextDocument document;
     QVERIFY(readRtf(rtf + "}", document).ok());
@@ -123,8 +123,8 @@ void HostileCostTest::aLongListGoesOnInFurtherOnes() {
         QCOMPARE(block.textList()->format().style(), QTextListFormat::ListDisc);
         longest = std::max(longest, block.textList()->count());
     }
-    QCOMPARE(document.blockCount(), items);
-    QVERIFY(longest < items);
+    QCOMPARE(document.blockCount(), Items);
+    QVERIFY(longest < Items);
 }
 
 void HostileCostTest::aLongNumberedListGoesOnWithItsNumber() {
@@ -145,20 +145,20 @@ void HostileCostTest::aLongNumberedListGoesOnWithItsNumber() {
 
 void HostileCostTest::documentsWithManyFontsAndTabsAreKeptWhole() {
     // More than any word processor's document has of both.
-    constexpr int fonts = 200;
+    constexpr int Fonts = 200;
     QByteArray rtf = "{\\rtf1{\\fonttbl";
-    for (int i = 0; i < fonts; ++i)
+    for (int i = 0; i < Fonts; ++i)
         rtf += "{\\f" + QByteArray::number(i) + " Family " + QByteArray::number(i) + ";}";
     rtf += '}';
     for (int i = 0; i < 5000; ++i)
-        rtf += "\\pard\\tx" + QByteArray::number(i % fonts) + "\\f" +
-               QByteArray::number(i % fonts) + " words\\par";
+        rtf += "\\pard\\tx" + QByteArray::number(i % Fonts) + "\\f" +
+               QByteArray::number(i % Fonts) + " words\\par";
     QTextDocument document;
     QVERIFY(readRtf(rtf + "}", document).ok());
     QCOMPARE(document.blockCount(), 5000);
     const QTextBlock last = document.lastBlock();
     QCOMPARE(last.begin().fragment().charFormat().fontFamilies().toStringList().value(0),
-             QStringLiteral("Family %1").arg(4999 % fonts));
+             QStringLiteral("Family %1").arg(4999 % Fonts));
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, HostileCostTest)

@@ -19,7 +19,7 @@ using orvalis::test::RecordingSink;
 
 namespace {
 
-constexpr qsizetype largestBox = 1 << 17; // bytes
+constexpr qsizetype LargestBox = 1 << 17; // bytes
 
 } // namespace
 
@@ -161,17 +161,17 @@ void HostileRtfTest::picturesThatLieAreBoxes_data() {
 
 void HostileRtfTest::picturesThatLieAreBoxes() {
     QFETCH(QByteArray, picture);
-    constexpr qint64 muchLessThanClaimed = 4 << 20;
+    constexpr qint64 MuchLessThanClaimed = 4 << 20;
     const QByteArray rtf = "{\\rtf1 a{\\pict" + picture + "}b\\par}";
     QTextDocument document;
     QVERIFY(readRtf(rtf, document).ok()); // Plugins that decode are loaded once.
     const test::TakenMemory taken = test::memoryTakenBy([&] { readRtf(rtf, document); });
-    QVERIFY2(taken.asked < muchLessThanClaimed, qPrintable(QString::number(taken.asked)));
+    QVERIFY2(taken.asked < MuchLessThanClaimed, qPrintable(QString::number(taken.asked)));
     QCOMPARE(document.toRawText(), QStringLiteral("a\ufffcb"));
     const QTextCharFormat format = (++document.firstBlock().begin()).fragment().charFormat();
     const QUrl name(format.toImageFormat().name());
     const auto box = document.resource(QTextDocument::ImageResource, name).value<QImage>();
-    QVERIFY(!box.isNull() && box.sizeInBytes() <= largestBox);
+    QVERIFY(!box.isNull() && box.sizeInBytes() <= LargestBox);
 }
 
 void HostileRtfTest::aPictureOfNoBytesIsNone() {
@@ -214,15 +214,15 @@ void HostileRtfTest::garbageIsReadToItsEnd() {
 }
 
 void HostileRtfTest::aFloodOfParagraphsComesInAsLinesOnceTheyCostTooMuch() {
-    constexpr int paragraphs = 200000;
+    constexpr int Paragraphs = 200000;
     QByteArray rtf = "{\\rtf1 ";
-    for (int i = 0; i < paragraphs; ++i)
+    for (int i = 0; i < Paragraphs; ++i)
         rtf += "\\\n";
     QTextDocument document;
     QVERIFY(readRtf(rtf + "end}", document).ok());
-    QVERIFY(document.blockCount() < paragraphs);
+    QVERIFY(document.blockCount() < Paragraphs);
     QVERIFY(document.toRawText().endsWith(QStringLiteral("end")));
-    QCOMPARE(document.characterCount(), paragraphs + 4);
+    QCOMPARE(document.characterCount(), Paragraphs + 4);
 }
 
 void HostileRtfTest::theFirstFaultAndItsPlaceAreTold_data() {

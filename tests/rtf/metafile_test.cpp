@@ -36,7 +36,7 @@ public:
     }
 };
 
-constexpr quint32 copy = 0x00cc0020; // the operation that takes pixels over as they are
+constexpr quint32 Copy = 0x00cc0020; // the operation that takes pixels over as they are
 
 } // namespace
 
@@ -59,15 +59,15 @@ void MetafileTest::aBitmapInsideAMetafileIsShown_data() {
     QTest::addColumn<QByteArray>("bytes");
     const QByteArray dib = dibOfImage(sampleImage());
     const auto dibSize = quint32(dib.size());
-    constexpr quint32 headSize = 40;
+    constexpr quint32 HeadSize = 40;
     const auto row = [](const char* name, const char* words, const QByteArray& bytes) {
         QTest::newRow(name) << QByteArray(words) << bytes;
     };
     const auto drawn = [](const QByteArray& record) {
         return metafile(metafileRecord(0x0103, {8}) + record);
     };
-    const int low = copy & 0xffff;
-    const int high = copy >> 16;
+    const int low = Copy & 0xffff;
+    const int high = Copy >> 16;
     row("blit", "\\wmetafile8", drawn(metafileRecord(0x0940, {low, high, 0, 0, 3, 4, 0, 0}, dib)));
     row("stretched blit", "\\wmetafile8",
         drawn(metafileRecord(0x0b41, {low, high, 3, 4, 0, 0, 30, 40, 0, 0}, dib)));
@@ -85,19 +85,19 @@ void MetafileTest::aBitmapInsideAMetafileIsShown_data() {
     };
     row("enhanced, stretched bits", "\\emfblip",
         enhanced(enhancedRecord(81,
-                                {0, 0, 3, 2, 0, 0, 0, 0, 4, 3, 80, headSize, 80 + headSize,
-                                 dibSize - headSize, 0, copy, 4, 3},
+                                {0, 0, 3, 2, 0, 0, 0, 0, 4, 3, 80, HeadSize, 80 + HeadSize,
+                                 dibSize - HeadSize, 0, Copy, 4, 3},
                                 dib)));
     row("enhanced, bits to the device", "\\emfblip",
         enhanced(enhancedRecord(80,
-                                {0, 0, 3, 2, 0, 0, 0, 0, 4, 3, 76, headSize, 76 + headSize,
-                                 dibSize - headSize, 0, 0, 3},
+                                {0, 0, 3, 2, 0, 0, 0, 0, 4, 3, 76, HeadSize, 76 + HeadSize,
+                                 dibSize - HeadSize, 0, 0, 3},
                                 dib)));
     for (const quint32 type : {76u, 77u}) {
-        QList<quint32> words{0, 0, 3, 2, 0, 0, 4, 3, copy, 0, 0};
+        QList<quint32> words{0, 0, 3, 2, 0, 0, 4, 3, Copy, 0, 0};
         words += {0x3f800000, 0, 0, 0x3f800000, 0, 0, 0, 0}; // a matrix, a colour, a usage
         const quint32 start = 8 + 4 * quint32(words.size()) + (type == 77 ? 24 : 16);
-        words += {start, headSize, start + headSize, dibSize - headSize};
+        words += {start, HeadSize, start + HeadSize, dibSize - HeadSize};
         if (type == 77)
             words += {4, 3};
         row(type == 77 ? "enhanced, stretched blit" : "enhanced, blit", "\\emfblip",

@@ -21,7 +21,7 @@ using namespace orvalis::test;
 
 namespace {
 
-constexpr int paperOrInk = 2; // colours of a box
+constexpr int PaperOrInk = 2; // colours of a box
 
 } // namespace
 
@@ -106,7 +106,7 @@ void PictureBoxTest::whatCannotBeDrawnKeepsItsBytes() {
              qPrintable(QString::number(format.width())));
     QVERIFY2(std::abs(format.height() - pixels.height()) < 0.01,
              qPrintable(QString::number(format.height())));
-    QCOMPARE(shown(document).colorCount(), paperOrInk);
+    QCOMPARE(shown(document).colorCount(), PaperOrInk);
     const QByteArray once = writeRtf(document);
     QVERIFY2(withoutLineEnds(once).contains(written), once);
     QTextDocument again;

@@ -63,45 +63,71 @@ void ReaderFormatTest::everyCharacterWordChangesWhatItNames_data() {
     const auto row = [](const char* words, const CharSetter& change) {
         QTest::newRow(words) << QByteArray(words) << change;
     };
-    row("\\b", [](CharFormat& f) { f.bold = true; });
+    row(
+        "\\b", [](CharFormat& f) { f.bold = true; });
     row("\\b1", [](CharFormat& f) { f.bold = true; });
-    row("\\b\\b0", [](CharFormat&) {});
+    row(
+        "\\b\\b0", [](CharFormat&) {});
     row("\\i", [](CharFormat& f) { f.italic = true; });
-    row("\\i\\i0", [](CharFormat&) {});
+    row(
+        "\\i\\i0", [](CharFormat&) {});
     row("\\strike", [](CharFormat& f) { f.strike = true; });
-    row("\\strike\\strike0", [](CharFormat&) {});
-    row("\\striked1", [](CharFormat& f) { f.strike = true; });
-    row("\\v", [](CharFormat& f) { f.hidden = true; });
-    row("\\ul", [](CharFormat& f) { f.underline = Underline::Single; });
-    row("\\uld", [](CharFormat& f) { f.underline = Underline::Dotted; });
-    row("\\uldb", [](CharFormat& f) { f.underline = Underline::Double; });
-    row("\\ulw", [](CharFormat& f) { f.underline = Underline::Words; });
-    row("\\ulwave", [](CharFormat& f) { f.underline = Underline::Wave; });
-    row("\\uldash", [](CharFormat& f) { f.underline = Underline::Dash; });
-    row("\\uldashd", [](CharFormat& f) { f.underline = Underline::DashDot; });
+    row(
+        "\\strike\\strike0", [](CharFormat&) {});
+    row(
+        "\\striked1", [](CharFormat& f) { f.strike = true; });
+    row(
+        "\\v", [](CharFormat& f) { f.hidden = true; });
+    row(
+        "\\ul", [](CharFormat& f) { f.underline = Underline::Single; });
+    row(
+        "\\uld", [](CharFormat& f) { f.underline = Underline::Dotted; });
+    row(
+        "\\uldb", [](CharFormat& f) { f.underline = Underline::Double; });
+    row(
+        "\\ulw", [](CharFormat& f) { f.underline = Underline::Words; });
+    row(
+        "\\ulwave", [](CharFormat& f) { f.underline = Underline::Wave; });
+    row(
+        "\\uldash", [](CharFormat& f) { f.underline = Underline::Dash; });
+    row(
+        "\\uldashd", [](CharFormat& f) { f.underline = Underline::DashDot; });
     row("\\ulth", [](CharFormat& f) { f.underline = Underline::Thick; });
     row("\\ul\\ulnone", [](CharFormat&) {});
-    row("\\ul\\ul0", [](CharFormat&) {});
-    row("\\super", [](CharFormat& f) { f.script = Script::Super; });
+    row(
+        "\\ul\\ul0", [](CharFormat&) {});
+    row(
+        "\\super", [](CharFormat& f) { f.script = Script::Super; });
     row("\\sub", [](CharFormat& f) { f.script = Script::Sub; });
-    row("\\super\\nosupersub", [](CharFormat&) {});
-    row("\\up8", [](CharFormat& f) { f.raise = 8; });
-    row("\\dn8", [](CharFormat& f) { f.raise = -8; });
-    row("\\up", [](CharFormat& f) { f.raise = 6; });
-    row("\\caps", [](CharFormat& f) { f.capitals = Capitals::All; });
+    row(
+        "\\super\\nosupersub", [](CharFormat&) {});
+    row(
+        "\\up8", [](CharFormat& f) { f.raise = 8; });
+    row(
+        "\\dn8", [](CharFormat& f) { f.raise = -8; });
+    row(
+        "\\up", [](CharFormat& f) { f.raise = 6; });
+    row(
+        "\\caps", [](CharFormat& f) { f.capitals = Capitals::All; });
     row("\\scaps", [](CharFormat& f) { f.capitals = Capitals::Small; });
-    row("\\scaps\\scaps0", [](CharFormat&) {});
-    row("\\scaps\\caps0", [](CharFormat& f) { f.capitals = Capitals::Small; });
+    row(
+        "\\scaps\\scaps0", [](CharFormat&) {});
+    row(
+        "\\scaps\\caps0", [](CharFormat& f) { f.capitals = Capitals::Small; });
     row("\\fs36", [](CharFormat& f) { f.halfPoints = 36; });
     row("\\fs0", [](CharFormat&) {});
-    row("\\fs-4", [](CharFormat&) {});
-    row("\\fs99999999", [](CharFormat& f) { f.halfPoints = 3276; });
-    row("\\cf1", [](CharFormat& f) { f.color = 0xffff0000; });
+    row(
+        "\\fs-4", [](CharFormat&) {});
+    row(
+        "\\fs99999999", [](CharFormat& f) { f.halfPoints = 3276; });
+    row(
+        "\\cf1", [](CharFormat& f) { f.color = 0xffff0000; });
     row("\\cf2", [](CharFormat& f) { f.color = 0xff008000; });
     row("\\cf1\\cf0", [](CharFormat&) {});
     row("\\cf3", [](CharFormat&) {});
     row("\\cf-1", [](CharFormat&) {});
-    row("\\cf2147483647", [](CharFormat&) {});
+    row(
+        "\\cf2147483647", [](CharFormat&) {});
     row("\\highlight2", [](CharFormat& f) { f.highlight = 0xff008000; });
     row("\\cf2\\highlight1", [](CharFormat& f) {
         f.color = 0xff008000;
@@ -127,25 +153,39 @@ void ReaderFormatTest::everyParagraphWordChangesWhatItNames_data() {
     const auto row = [](const char* words, const ParagraphSetter& change) {
         QTest::newRow(words) << QByteArray(words) << change;
     };
-    row("\\ql", [](ParagraphFormat&) {});
-    row("\\qr", [](ParagraphFormat& p) { p.alignment = Alignment::Right; });
-    row("\\qc", [](ParagraphFormat& p) { p.alignment = Alignment::Center; });
-    row("\\qj", [](ParagraphFormat& p) { p.alignment = Alignment::Justify; });
-    row("\\li720", [](ParagraphFormat& p) { p.left = 720; });
-    row("\\fi-360", [](ParagraphFormat& p) { p.first = -360; });
-    row("\\ri100", [](ParagraphFormat& p) { p.right = 100; });
-    row("\\sb120", [](ParagraphFormat& p) { p.before = 120; });
+    row(
+        "\\ql", [](ParagraphFormat&) {});
+    row(
+        "\\qr", [](ParagraphFormat& p) { p.alignment = Alignment::Right; });
+    row(
+        "\\qc", [](ParagraphFormat& p) { p.alignment = Alignment::Center; });
+    row(
+        "\\qj", [](ParagraphFormat& p) { p.alignment = Alignment::Justify; });
+    row(
+        "\\li720", [](ParagraphFormat& p) { p.left = 720; });
+    row(
+        "\\fi-360", [](ParagraphFormat& p) { p.first = -360; });
+    row(
+        "\\ri100", [](ParagraphFormat& p) { p.right = 100; });
+    row(
+        "\\sb120", [](ParagraphFormat& p) { p.before = 120; });
     row("\\sa200", [](ParagraphFormat& p) { p.after = 200; });
-    row("\\sb-5", [](ParagraphFormat&) {});
+    row(
+        "\\sb-5", [](ParagraphFormat&) {});
     row("\\li2147483647", [](ParagraphFormat& p) { p.left = 100000; });
-    row("\\sl276\\slmult1", [](ParagraphFormat& p) {
-        p.lineSpacing = 276;
-        p.lineMultiple = true;
-    });
-    row("\\sl-300\\slmult0", [](ParagraphFormat& p) { p.lineSpacing = -300; });
+    row(
+        "\\sl276\\slmult1",
+        [](ParagraphFormat& p) {
+            p.lineSpacing = 276;
+            p.lineMultiple = true;
+        });
+    row(
+        "\\sl-300\\slmult0", [](ParagraphFormat& p) { p.lineSpacing = -300; });
     row("\\rtlpar", [](ParagraphFormat& p) { p.rightToLeft = true; });
-    row("\\rtlpar\\ltrpar", [](ParagraphFormat&) {});
-    row("\\pagebb", [](ParagraphFormat& p) { p.pageBreakBefore = true; });
+    row(
+        "\\rtlpar\\ltrpar", [](ParagraphFormat&) {});
+    row(
+        "\\pagebb", [](ParagraphFormat& p) { p.pageBreakBefore = true; });
     row("\\tx720\\tqr\\tx1440\\tqc\\tx2000\\tqdec\\tx3000\\tx3500", [](ParagraphFormat& p) {
         p.tabs = {{720, QTextOption::LeftTab},
                   {1440, QTextOption::RightTab},
@@ -208,9 +248,9 @@ void ReaderFormatTest::anEntryWithoutPartsIsTheAutomaticColour() {
     RecordingSink sink;
     readRtf("{\\rtf1{\\colortbl;\\red1\\green2\\blue3;;}\\cf0 a\\cf1 b\\cf2 c}", sink);
     QCOMPARE(sink.runs.size(), 3);
-    QCOMPARE(sink.runs[0].format.color, automaticColor);
+    QCOMPARE(sink.runs[0].format.color, AutomaticColor);
     QCOMPARE(sink.runs[1].format.color, qRgb(1, 2, 3));
-    QCOMPARE(sink.runs[2].format.color, automaticColor);
+    QCOMPARE(sink.runs[2].format.color, AutomaticColor);
 }
 
 void ReaderFormatTest::aTableWithoutAutomaticEntryBeginsWithAColour() {
@@ -228,7 +268,7 @@ void ReaderFormatTest::theLastColourMayLackItsEnd() {
     QCOMPARE(sink.runs.size(), 3);
     QCOMPARE(sink.runs[0].format.color, qRgb(1, 2, 3));
     QCOMPARE(sink.runs[1].format.color, qRgb(4, 5, 6));
-    QCOMPARE(sink.runs[2].format.color, automaticColor);
+    QCOMPARE(sink.runs[2].format.color, AutomaticColor);
 }
 
 void ReaderFormatTest::whatHoldsAtTheMarkShapesTheWholeParagraph() {

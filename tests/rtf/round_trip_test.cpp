@@ -38,12 +38,11 @@ public:
             if (below(4) == 0)
                 list(cursor);
             const int runs = below(5);
-            for (int run = 0; run < runs; ++run) {
+            for (int run = 0; run < runs; ++run)
                 if (below(8) == 0)
                     picture(cursor);
                 else
                     cursor.insertText(text(), below(6) == 0 ? hidden(look()) : look());
-            }
         }
     }
 
@@ -77,9 +76,9 @@ private:
         format.setUnderlineStyle(
             static_cast<QTextCharFormat::UnderlineStyle>(below(3) == 0 ? 1 + below(4) : 0));
         if (format.underlineStyle() == QTextCharFormat::SingleUnderline && below(2) == 0) {
-            static constexpr Underline kinds[] = {Underline::Words, Underline::Double,
+            static constexpr Underline Kinds[] = {Underline::Words, Underline::Double,
                                                   Underline::Thick};
-            format.setProperty(UnderlineKind, int(kinds[below(3)]));
+            format.setProperty(UnderlineKind, int(Kinds[below(3)]));
         }
         if (below(3) == 0)
             format.setForeground(QColor(below(256), below(256), below(256)));
@@ -102,7 +101,7 @@ private:
     static QTextCharFormat hidden(QTextCharFormat format) {
         const bool automatic = format.foreground().style() == Qt::NoBrush;
         format.setProperty(HiddenText,
-                           int(automatic ? automaticColor : format.foreground().color().rgb()));
+                           int(automatic ? AutomaticColor : format.foreground().color().rgb()));
         format.setForeground(QColor(Qt::transparent));
         format.setFontLetterSpacingType(QFont::PercentageSpacing);
         format.setFontLetterSpacing(1);
@@ -140,10 +139,10 @@ private:
     }
 
     QTextBlockFormat shape() {
-        static constexpr Qt::Alignment alignments[] = {Qt::AlignLeft, Qt::AlignRight,
+        static constexpr Qt::Alignment Alignments[] = {Qt::AlignLeft, Qt::AlignRight,
                                                        Qt::AlignHCenter, Qt::AlignJustify};
         QTextBlockFormat format;
-        format.setAlignment(alignments[below(4)]);
+        format.setAlignment(Alignments[below(4)]);
         format.setLeftMargin(below(3) * 24);
         format.setTextIndent(below(3) * 10);
         format.setRightMargin(below(2) * 16);

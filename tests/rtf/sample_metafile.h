@@ -70,9 +70,9 @@ inline QByteArray enhancedRecord(quint32 type, const QList<quint32>& words,
 /// An enhanced metafile of these records.
 /// \param frame what it covers, in hundredths of a millimetre.
 inline QByteArray enhancedMetafile(const QRect& frame, const QByteArray& records) {
-    constexpr quint32 headerSize = 88;
+    constexpr quint32 HeaderSize = 88;
     const QByteArray end = enhancedRecord(14, {0, 16, 20});
-    const auto size = quint32(headerSize + records.size() + end.size());
+    const auto size = quint32(HeaderSize + records.size() + end.size());
     const QByteArray header = enhancedRecord(1, {0,
                                                  0,
                                                  99,

@@ -101,14 +101,14 @@ void AlignedTimerTest::eachTickAimsAtTheFirstTenthOfTheNextSecond() {
 }
 
 void AlignedTimerTest::aDayOfLateTicksSkipsNoSecond() {
-    constexpr int secondsOfADay = 24 * 60 * 60;
-    constexpr int latest = 940; // milliseconds: any second's tick still comes within its second
+    constexpr int SecondsOfADay = 24 * 60 * 60;
+    constexpr int Latest = 940; // milliseconds: any second's tick still comes within its second
     std::mt19937 random(1);
-    std::uniform_int_distribution<int> delay(-25, latest);
+    std::uniform_int_distribution<int> delay(-25, Latest);
     Simulation simulation(at(0, 0, 0, 0));
     simulation.timer->start();
     qint64 second = simulation.clock.now().toSecsSinceEpoch();
-    for (int i = 0; i < secondsOfADay; ++i) {
+    for (int i = 0; i < SecondsOfADay; ++i) {
         simulation.shot->run(delay(random));
         QCOMPARE(simulation.ticks.size(), 1);
         QCOMPARE(simulation.ticks.takeFirst().toSecsSinceEpoch(), ++second);

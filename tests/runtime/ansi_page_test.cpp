@@ -13,7 +13,7 @@ using namespace orvalis;
 
 namespace {
 
-const QList<int> everyPage{874, 1250, 1251, 1252, 1253, 1254, 1255, 1256, 1257, 1258};
+const QList<int> EveryPage{874, 1250, 1251, 1252, 1253, 1254, 1255, 1256, 1257, 1258};
 
 QByteArray everyCode() {
     QByteArray bytes;
@@ -86,7 +86,7 @@ void AnsiPageTest::thePageOfTheUserIsThatOfTheDefaultLocale() {
 }
 
 void AnsiPageTest::codesAndCharactersAreABijection() {
-    for (const int number : everyPage) {
+    for (const int number : EveryPage) {
         const AnsiPage& page = AnsiPage::of(number);
         QCOMPARE(page.number(), number);
         QSet<QString> characters;
@@ -166,7 +166,7 @@ void AnsiPageTest::chrOutsideAByteIsAnInvalidCall() {
 
 void AnsiPageTest::wholeTextsSurviveTheRoundTrip() {
     const QByteArray bytes = everyCode().repeated(4096);
-    for (const int number : everyPage) {
+    for (const int number : EveryPage) {
         const AnsiPage& page = AnsiPage::of(number);
         const QString text = page.decode(bytes);
         QCOMPARE(text.size(), bytes.size());

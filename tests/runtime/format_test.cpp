@@ -12,7 +12,7 @@ using namespace orvalis;
 
 namespace {
 
-const QDateTime moment(QDate(2002, 6, 1), QTime(7, 5, 9));
+const QDateTime Moment(QDate(2002, 6, 1), QTime(7, 5, 9));
 
 } // namespace
 
@@ -83,7 +83,7 @@ void FormatTest::everyPatternHasItsText_data() {
 void FormatTest::everyPatternHasItsText() {
     QFETCH(QString, pattern);
     QFETCH(QString, text);
-    QCOMPARE(Format(moment, pattern), text);
+    QCOMPARE(Format(Moment, pattern), text);
 }
 
 void FormatTest::hoursRunFromOneToTwelveBesideDayHalves_data() {
@@ -119,7 +119,7 @@ void FormatTest::namesFollowTheLocale() {
     QFETCH(QLocale, locale);
     QFETCH(QString, text);
     QLocale::setDefault(locale);
-    QCOMPARE(Format(moment, u"dddd, MMMM dd, yyyy"), text);
+    QCOMPARE(Format(Moment, u"dddd, MMMM dd, yyyy"), text);
     QCOMPARE(Format(QTime(15, 0), u"AMPM"), locale.pmText());
     QCOMPARE(Format(QTime(3, 0), u"AMPM"), locale.amText());
 }
@@ -130,8 +130,8 @@ void FormatTest::digitsAndSeparatorsStayPlainInEveryLocale() {
     QVERIFY(locales.size() > 100);
     for (const QLocale& locale : locales) {
         QLocale::setDefault(locale);
-        QCOMPARE(Format(moment.time(), u"hh:mm:ss"), u"07:05:09"_s);
-        QCOMPARE(Format(moment.date(), u"mm:dd:yyyy"), u"06:01:2002"_s);
+        QCOMPARE(Format(Moment.time(), u"hh:mm:ss"), u"07:05:09"_s);
+        QCOMPARE(Format(Moment.date(), u"mm:dd:yyyy"), u"06:01:2002"_s);
     }
 }
 
@@ -172,9 +172,9 @@ void FormatTest::theDefaultTextIsTheShortDateABlankAndTheTimeWithSeconds() {
     QFETCH(QLocale, locale);
     QFETCH(QString, text);
     QLocale::setDefault(locale);
-    QCOMPARE(generalDate(moment), text);
-    QVERIFY(text.startsWith(shortDate(moment.date()) + u' '));
-    QCOMPARE(Format(moment, u"Short Date"), shortDate(moment.date()));
+    QCOMPARE(generalDate(Moment), text);
+    QVERIFY(text.startsWith(shortDate(Moment.date()) + u' '));
+    QCOMPARE(Format(Moment, u"Short Date"), shortDate(Moment.date()));
 }
 
 void FormatTest::anInvalidMomentIsATypeMismatch() {

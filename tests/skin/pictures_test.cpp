@@ -18,10 +18,10 @@ using skin::recorder::SvgRecorder;
 
 namespace {
 
-const QString kSources = QStringLiteral(ORVALIS_SKIN_SOURCES);
+const QString Sources = QStringLiteral(ORVALIS_SKIN_SOURCES);
 
 QString listOfPictures() {
-    QFile file(kSources + u"/pictures.list"_s);
+    QFile file(Sources + u"/pictures.list"_s);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
@@ -72,7 +72,7 @@ private:
 };
 
 void PicturesTest::initTestCase() {
-    m_recorder = std::make_unique<SvgRecorder>(kSources + u"/svg"_s,
+    m_recorder = std::make_unique<SvgRecorder>(Sources + u"/svg"_s,
                                                skin::recorder::readRecipes(listOfPictures()));
     QVERIFY(m_recorder->recipes().size() > 50);
 }
@@ -113,10 +113,9 @@ void PicturesTest::aPictureReplaysAsItsDrawingsAtEveryScale() {
 
 void PicturesTest::aPictureReplaysAsItsDrawingsAtAnotherSize() {
     const Recipe* recipe = nullptr;
-    for (const Recipe& candidate : m_recorder->recipes()) {
+    for (const Recipe& candidate : m_recorder->recipes())
         if (candidate.name == u"sticker_background"_s)
             recipe = &candidate;
-    }
     QVERIFY(recipe);
     const QSize stretched(recipe->size.width(), recipe->size.height() + 1);
     QImage drawn = blank(stretched, 2);

@@ -85,10 +85,9 @@ void TypeTest::aDisabledIconIsFaint() {
     const auto ink = [&](QIcon::Mode mode) {
         const QImage image = icon.pixmap(QSize(16, 16), 1.0, mode).toImage();
         int sum = 0;
-        for (int y = 0; y < 16; ++y) {
+        for (int y = 0; y < 16; ++y)
             for (int x = 0; x < 16; ++x)
                 sum += qAlpha(image.pixel(x, y));
-        }
         return sum;
     };
     QVERIFY(ink(QIcon::Normal) > 0);

@@ -25,7 +25,7 @@ struct TakenMemory {
 
 #ifdef ORVALIS_COUNTS_MEMORY
 
-constexpr bool countsMemory = true;
+constexpr bool CountsMemory = true;
 
 inline std::atomic<qint64> askedMemory = 0;
 inline std::atomic<qint64> heldMemory = 0;
@@ -55,7 +55,7 @@ TakenMemory memoryTakenBy(Work&& work) {
 
 #else
 
-constexpr bool countsMemory = false;
+constexpr bool CountsMemory = false;
 
 /// Does the work and counts nothing.
 template <class Work>

@@ -38,8 +38,8 @@ public:
     const QList<Entry>& entries() const { return m_entries; }
     void forget() { m_entries.clear(); }
     int count(Call call) const {
-        return static_cast<int>(std::count_if(m_entries.begin(), m_entries.end(),
-                                              [call](const Entry& e) { return e.call == call; }));
+        return static_cast<int>(std::count_if(
+            m_entries.begin(), m_entries.end(), [call](const Entry& e) { return e.call == call; }));
     }
     QMenu* menu() const { return m_menu; }
     /// The record as it last came.

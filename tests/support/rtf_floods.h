@@ -20,7 +20,8 @@ struct RtfFlood {
 /// Pieces one after the other behind the start; "%" in a piece stands for its number.
 inline RtfFlood floodOf(const char* name, const QByteArray& piece,
                         const QByteArray& start = "{\\rtf1 text ") {
-    return {name, [=](qsizetype size) {
+    return {name,
+            [=](qsizetype size) {
                 QByteArray rtf = start;
                 rtf.reserve(size + 256);
                 for (int number = 1; rtf.size() < size; ++number)

@@ -13,7 +13,7 @@ namespace orvalis::test {
 class WithoutRoot {
 public:
     WithoutRoot()
-        : m_changed(geteuid() == 0 && setresuid(ordinaryUser, ordinaryUser, 0) == 0) {}
+        : m_changed(geteuid() == 0 && setresuid(OrdinaryUser, OrdinaryUser, 0) == 0) {}
     ~WithoutRoot() {
         if (m_changed && setresuid(0, 0, 0) != 0)
             qFatal("root could not be taken back");
@@ -22,7 +22,7 @@ public:
     WithoutRoot& operator=(const WithoutRoot&) = delete;
 
 private:
-    static constexpr uid_t ordinaryUser = 65534;
+    static constexpr uid_t OrdinaryUser = 65534;
 
     bool m_changed;
 };

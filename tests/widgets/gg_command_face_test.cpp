@@ -20,10 +20,10 @@ using orvalis::test::square;
 
 namespace {
 
-constexpr ColourValue red = 0x0000FF;
-constexpr ColourValue blue = 0xFF0000;
-constexpr ColourValue grey = 0x808080;
-constexpr QRgb white = 0xFFFFFFFF;
+constexpr ColourValue Red = 0x0000FF;
+constexpr ColourValue Blue = 0xFF0000;
+constexpr ColourValue Grey = 0x808080;
+constexpr QRgb White = 0xFFFFFFFF;
 
 QRgb rgb(ColourValue value) {
     return toQColor(value).rgb();
@@ -35,9 +35,9 @@ public:
     Button() {
         resize(40, 20);
         setCaption(QString());
-        setBackColor(grey);
-        setGradientFromColor(red);
-        setGradientToColor(blue);
+        setBackColor(Grey);
+        setGradientFromColor(Red);
+        setGradientToColor(Blue);
         setFont(QFont(u"Arial"_s, 9));
     }
 
@@ -52,9 +52,8 @@ QRgb shade(ColourValue from, ColourValue to, int at, int steps) {
         auto value = static_cast<float>(begin);
         const float step =
             (static_cast<float>(end) - static_cast<float>(begin)) / static_cast<float>(steps);
-        for (int i = 1; i < at; ++i) {
+        for (int i = 1; i < at; ++i)
             value += step;
-        }
         return static_cast<int>(std::nearbyint(value));
     };
     return qRgb(channel(first.red(), last.red()), channel(first.green(), last.green()),
@@ -64,40 +63,32 @@ QRgb shade(ColourValue from, ColourValue to, int at, int steps) {
 /// The face of a 40 by 20 button as it should be, gradient and all, without an edge.
 QImage expectedFace(ColourValue from, ColourValue to) {
     QImage face(40, 20, QImage::Format_RGB32);
-    for (int y = 0; y < 20; ++y) {
-        for (int x = 0; x < 40; ++x) {
-            face.setPixel(x, y, y == 0 ? rgb(grey) : shade(from, to, y, 20));
-        }
-    }
+    for (int y = 0; y < 20; ++y)
+        for (int x = 0; x < 40; ++x)
+            face.setPixel(x, y, y == 0 ? rgb(Grey) : shade(from, to, y, 20));
     return face;
 }
 
 void drawExpectedEdge(QImage& face, QRgb light, QRgb dark) {
     const int right = face.width() - 1;
     const int bottom = face.height() - 1;
-    for (int y = bottom; y > 0; --y) {
+    for (int y = bottom; y > 0; --y)
         face.setPixel(0, y, light);
-    }
-    for (int x = 0; x < right; ++x) {
+    for (int x = 0; x < right; ++x)
         face.setPixel(x, 0, light);
-    }
-    for (int y = 0; y < bottom; ++y) {
+    for (int y = 0; y < bottom; ++y)
         face.setPixel(right, y, dark);
-    }
-    for (int x = right; x >= 0; --x) {
+    for (int x = right; x >= 0; --x)
         face.setPixel(x, bottom, dark);
-    }
 }
 
 /// Where pixels of exactly this colour lie.
 QRect extentOf(const QImage& image, QRgb colour) {
     QRect extent;
     for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (image.pixel(x, y) == colour) {
+        for (int x = 0; x < image.width(); ++x)
+            if (image.pixel(x, y) == colour)
                 extent |= QRect(x, y, 1, 1);
-            }
-        }
     }
     return extent;
 }
@@ -105,7 +96,7 @@ QRect extentOf(const QImage& image, QRgb colour) {
 /// The text of a button drawn by itself in the place given, in black on white.
 QImage text(const QString& caption, const QFont& font, const QPoint& at, const QSize& size) {
     QImage image(size, QImage::Format_RGB32);
-    image.fill(Qt::white);
+    image.fill(Qt::White);
     QPainter painter(&image);
     painter.setFont(font);
     painter.setPen(Qt::black);
@@ -164,16 +155,15 @@ private slots:
 void GGCommandFaceTest::theFirstRowOfAGradientStaysInTheBackColour() {
     Button button;
     const QImage look = button.look();
-    for (int x = 0; x < 40; ++x) {
-        QCOMPARE(look.pixel(x, 0), rgb(grey));
-    }
+    for (int x = 0; x < 40; ++x)
+        QCOMPARE(look.pixel(x, 0), rgb(Grey));
 }
 
 void GGCommandFaceTest::eachFurtherRowHasItsShade() {
     Button button;
     const QImage look = button.look();
-    QCOMPARE(look.pixel(0, 1), rgb(red));
-    QCOMPARE(look, expectedFace(red, blue));
+    QCOMPARE(look.pixel(0, 1), rgb(Red));
+    QCOMPARE(look, expectedFace(Red, Blue));
 }
 
 void GGCommandFaceTest::aGradientFromLeftToRightRunsInColumns() {
@@ -181,25 +171,24 @@ void GGCommandFaceTest::aGradientFromLeftToRightRunsInColumns() {
     button.setGradientOrientation(1);
     const QImage look = button.look();
     for (int y = 0; y < 20; ++y) {
-        QCOMPARE(look.pixel(0, y), rgb(grey));
-        for (int x = 1; x < 40; ++x) {
-            QCOMPARE(look.pixel(x, y), shade(red, blue, x, 40));
-        }
+        QCOMPARE(look.pixel(0, y), rgb(Grey));
+        for (int x = 1; x < 40; ++x)
+            QCOMPARE(look.pixel(x, y), shade(Red, Blue, x, 40));
     }
 }
 
 void GGCommandFaceTest::anOrientationThatIsNoneDrawsNoGradient() {
     Button button;
     button.setGradientOrientation(2);
-    QCOMPARE(extentOf(button.look(), rgb(grey)), QRect(0, 0, 40, 20));
-    QCOMPARE(button.look().pixel(20, 10), rgb(grey));
+    QCOMPARE(extentOf(button.look(), rgb(Grey)), QRect(0, 0, 40, 20));
+    QCOMPARE(button.look().pixel(20, 10), rgb(Grey));
 }
 
 void GGCommandFaceTest::withoutGradientTheFaceIsThePlainBackColour() {
     Button button;
     button.setUseGradientFill(false);
     QImage plain(40, 20, QImage::Format_RGB32);
-    plain.fill(rgb(grey));
+    plain.fill(rgb(Grey));
     QCOMPARE(button.look(), plain);
 }
 
@@ -217,9 +206,8 @@ void GGCommandFaceTest::aTallButtonHasAShadeForEveryRow() {
     Button button;
     button.resize(10, 300);
     const QImage look = button.look();
-    for (int y = 1; y < 300; ++y) {
-        QCOMPARE(look.pixel(5, y), shade(red, blue, y, 300));
-    }
+    for (int y = 1; y < 300; ++y)
+        QCOMPARE(look.pixel(5, y), shade(Red, Blue, y, 300));
 }
 
 void GGCommandFaceTest::theCaptionIsPrintedAtItsPlaceInTheForeColour() {
@@ -259,13 +247,13 @@ void GGCommandFaceTest::anAmpersandInACaptionIsPrinted() {
     QVERIFY(with.look() != without.look());
     Button alone;
     alone.setCaption(u"&"_s);
-    QVERIFY(alone.look() != expectedFace(red, blue));
+    QVERIFY(alone.look() != expectedFace(Red, Blue));
 }
 
 void GGCommandFaceTest::anEmptyCaptionPrintsNothing() {
     Button button;
     QCOMPARE(button.Caption(), QString());
-    QCOMPARE(button.look(), expectedFace(red, blue));
+    QCOMPARE(button.look(), expectedFace(Red, Blue));
 }
 
 void GGCommandFaceTest::thePictureStandsAtItsPlace() {
@@ -299,16 +287,15 @@ void GGCommandFaceTest::thePictureLiesOverTheCaption() {
     const QRect extent = extentOf(button.look(), qRgb(0, 255, 0));
     QCOMPARE(extent.width(), 20);
     const QImage look = button.look();
-    for (int x = extent.left(); x <= extent.right(); ++x) {
+    for (int x = extent.left(); x <= extent.right(); ++x)
         QCOMPARE(look.pixel(x, 10), qRgb(0, 255, 0));
-    }
 }
 
 void GGCommandFaceTest::aRaisedEdgeIsWhiteOnTheLeftAndTopAndDarkBelow() {
     Button button;
     Pointer(button).enter();
-    QImage expected = expectedFace(red, blue);
-    drawExpectedEdge(expected, white, rgb(0x80000010));
+    QImage expected = expectedFace(Red, Blue);
+    drawExpectedEdge(expected, White, rgb(0x80000010));
     QCOMPARE(button.look(), expected);
     QCOMPARE(button.look().pixel(39, 0), rgb(0x80000010));
     QCOMPARE(button.look().pixel(0, 19), rgb(0x80000010));
@@ -320,13 +307,13 @@ void GGCommandFaceTest::aPressedFaceIsInvertedAndItsEdgeSunken() {
     Pointer pointer(button);
     pointer.enter();
     pointer.press();
-    QImage expected = expectedFace(blue, red);
-    drawExpectedEdge(expected, rgb(0x80000010), white);
+    QImage expected = expectedFace(Blue, Red);
+    drawExpectedEdge(expected, rgb(0x80000010), White);
     QCOMPARE(button.look(), expected);
     QCOMPARE(button.borderState(), 2);
     pointer.release();
-    QImage released = expectedFace(red, blue);
-    drawExpectedEdge(released, white, rgb(0x80000010));
+    QImage released = expectedFace(Red, Blue);
+    drawExpectedEdge(released, White, rgb(0x80000010));
     QCOMPARE(button.look(), released);
     QCOMPARE(button.borderState(), 1);
 }
@@ -341,9 +328,8 @@ void GGCommandFaceTest::withoutInverseOnPressThePressedFaceOnlyMoves() {
     pointer.press();
     const QImage look = button.look();
     QCOMPARE(extentOf(look, qRgb(0, 255, 0)), before.translated(1, 1));
-    for (int y = 1; y < 19; ++y) {
-        QCOMPARE(look.pixel(30, y), shade(red, blue, y, 20));
-    }
+    for (int y = 1; y < 19; ++y)
+        QCOMPARE(look.pixel(30, y), shade(Red, Blue, y, 20));
 }
 
 void GGCommandFaceTest::withoutGradientAPressedFaceIsPlainToo() {
@@ -353,8 +339,8 @@ void GGCommandFaceTest::withoutGradientAPressedFaceIsPlainToo() {
     pointer.enter();
     pointer.press();
     QImage expected(40, 20, QImage::Format_RGB32);
-    expected.fill(rgb(grey));
-    drawExpectedEdge(expected, rgb(0x80000010), white);
+    expected.fill(rgb(Grey));
+    drawExpectedEdge(expected, rgb(0x80000010), White);
     QCOMPARE(button.look(), expected);
 }
 
@@ -388,8 +374,8 @@ void GGCommandFaceTest::leavingWipesTheEdgeWithTheBackColour() {
     Pointer pointer(button);
     pointer.enter();
     pointer.leave();
-    QImage expected = expectedFace(red, blue);
-    drawExpectedEdge(expected, rgb(grey), rgb(grey));
+    QImage expected = expectedFace(Red, Blue);
+    drawExpectedEdge(expected, rgb(Grey), rgb(Grey));
     QCOMPARE(button.look(), expected);
     QCOMPARE(button.borderState(), 0);
 }
@@ -398,8 +384,8 @@ void GGCommandFaceTest::withAlwaysShowBorderTheEdgeIsRaisedAtRest() {
     Button button;
     button.setAlwaysShowBorder(true);
     button.setForeColor(0);
-    QImage expected = expectedFace(red, blue);
-    drawExpectedEdge(expected, white, rgb(0x80000010));
+    QImage expected = expectedFace(Red, Blue);
+    drawExpectedEdge(expected, White, rgb(0x80000010));
     QCOMPARE(button.look(), expected);
 }
 
@@ -410,8 +396,8 @@ void GGCommandFaceTest::withAlwaysShowBorderLeavingDrawsTheRaisedEdge() {
     pointer.enter();
     pointer.press();
     pointer.leave();
-    QImage expected = expectedFace(red, blue);
-    drawExpectedEdge(expected, white, rgb(0x80000010));
+    QImage expected = expectedFace(Red, Blue);
+    drawExpectedEdge(expected, White, rgb(0x80000010));
     QCOMPARE(button.look(), expected);
     QCOMPARE(button.borderState(), 0);
 }
@@ -420,9 +406,9 @@ void GGCommandFaceTest::settingAlwaysShowBorderDrawsTheEdgeAtOnce() {
     Button button;
     button.look();
     button.setAlwaysShowBorder(true);
-    QCOMPARE(button.look().pixel(0, 0), white);
+    QCOMPARE(button.look().pixel(0, 0), White);
     button.setAlwaysShowBorder(false);
-    QCOMPARE(button.look().pixel(0, 0), rgb(grey));
+    QCOMPARE(button.look().pixel(0, 0), rgb(Grey));
 }
 
 void GGCommandFaceTest::theEdgeLiesOverTheCaption() {
@@ -433,7 +419,7 @@ void GGCommandFaceTest::theEdgeLiesOverTheCaption() {
     Pointer(button).enter();
     const QImage look = button.look();
     for (int y = 0; y < 19; ++y) {
-        QCOMPARE(look.pixel(0, y), white);
+        QCOMPARE(look.pixel(0, y), White);
         QCOMPARE(look.pixel(39, y), rgb(0x80000010));
     }
 }
@@ -499,7 +485,7 @@ void GGCommandFaceTest::withoutHoverPropertiesHoveringOnlyRaisesTheEdge() {
     Pointer pointer(button);
     pointer.enter();
     QCOMPARE(button.look().copy(inner), atRest.copy(inner));
-    QCOMPARE(button.look().pixel(0, 5), white);
+    QCOMPARE(button.look().pixel(0, 5), White);
 }
 
 void GGCommandFaceTest::anOwnEdgeStyleIsInsetByItsWidth_data() {
@@ -523,7 +509,7 @@ void GGCommandFaceTest::anOwnEdgeStyleIsInsetByItsWidth() {
     QCOMPARE(button.exStyle(), exStyle);
     QCOMPARE(button.ScaleWidth(), 40);
     QCOMPARE(button.ScaleHeight(), 20);
-    QCOMPARE(button.look().copy(width, width, 40, 20), expectedFace(red, blue));
+    QCOMPARE(button.look().copy(width, width, 40, 20), expectedFace(Red, Blue));
 }
 
 void GGCommandFaceTest::anEdgeStyleAboveFourLeavesTheFrame() {
@@ -549,7 +535,7 @@ void GGCommandFaceTest::resizingLaysTheFaceOutAnew() {
     Button button;
     button.resize(60, 20);
     button.resize(40, 20);
-    QCOMPARE(button.look(), expectedFace(red, blue));
+    QCOMPARE(button.look(), expectedFace(Red, Blue));
     button.setPicture(square(8, Qt::green));
     button.setPictureAlignment(6);
     const int right = extentOf(button.look(), qRgb(0, 255, 0)).right();
@@ -569,11 +555,9 @@ void GGCommandFaceTest::aDisabledButtonLooksDisabled() {
     const QImage disabled = button.look();
     const auto darkest = [](const QImage& image) {
         int dark = 255;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
                 dark = qMin(dark, qGray(image.pixel(x, y)));
-            }
-        }
         return dark;
     };
     QVERIFY(darkest(disabled) > darkest(enabled) + 80);
@@ -584,28 +568,25 @@ void GGCommandFaceTest::aDisabledButtonLooksDisabled() {
 void GGCommandFaceTest::atTwiceTheScaleEveryLogicalPixelIsFourPixels() {
     Button button;
     button.setAlwaysShowBorder(true);
-    QImage expected = expectedFace(red, blue);
-    drawExpectedEdge(expected, white, rgb(0x80000010));
+    QImage expected = expectedFace(Red, Blue);
+    drawExpectedEdge(expected, White, rgb(0x80000010));
     QImage sharp(80, 40, QImage::Format_RGB32);
     sharp.setDevicePixelRatio(2);
     button.render(&sharp);
-    for (int y = 0; y < 40; ++y) {
-        for (int x = 0; x < 80; ++x) {
+    for (int y = 0; y < 40; ++y)
+        for (int x = 0; x < 80; ++x)
             QCOMPARE(sharp.pixel(x, y), expected.pixel(x / 2, y / 2));
-        }
-    }
 }
 
 void GGCommandFaceTest::atAFractionalScaleNoGapShowsBetweenRows() {
     Button button;
     button.setBackColor(0x00FF00);
-    button.setGradientToColor(red);
+    button.setGradientToColor(Red);
     QImage sharp(70, 35, QImage::Format_RGB32);
     sharp.setDevicePixelRatio(1.75);
     button.render(&sharp);
-    for (int y = 2; y < 35; ++y) {
-        QCOMPARE(sharp.pixel(20, y), rgb(red));
-    }
+    for (int y = 2; y < 35; ++y)
+        QCOMPARE(sharp.pixel(20, y), rgb(Red));
 }
 
 void GGCommandFaceTest::gettingTheFocusRaisesTheEdge() {
@@ -613,8 +594,8 @@ void GGCommandFaceTest::gettingTheFocusRaisesTheEdge() {
     QFocusEvent event(QEvent::FocusIn);
     QApplication::sendEvent(&button, &event);
     QCOMPARE(button.borderState(), 1);
-    QImage expected = expectedFace(red, blue);
-    drawExpectedEdge(expected, white, rgb(0x80000010));
+    QImage expected = expectedFace(Red, Blue);
+    drawExpectedEdge(expected, White, rgb(0x80000010));
     QCOMPARE(button.look(), expected);
 }
 
@@ -625,7 +606,7 @@ void GGCommandFaceTest::losingTheFocusPaintsTheFaceWithoutIt() {
     button.look();
     QFocusEvent out(QEvent::FocusOut);
     QApplication::sendEvent(&button, &out);
-    QCOMPARE(button.look(), expectedFace(red, blue));
+    QCOMPARE(button.look(), expectedFace(Red, Blue));
 }
 
 void GGCommandFaceTest::anotherPaintDrawsTheEdgeThatStands() {
@@ -635,8 +616,8 @@ void GGCommandFaceTest::anotherPaintDrawsTheEdgeThatStands() {
     QFocusEvent out(QEvent::FocusOut);
     QApplication::sendEvent(&button, &out);
     QCOMPARE(button.borderState(), 1);
-    QCOMPARE(button.look().pixel(0, 0), rgb(grey));
-    QCOMPARE(button.look().pixel(0, 0), white);
+    QCOMPARE(button.look().pixel(0, 0), rgb(Grey));
+    QCOMPARE(button.look().pixel(0, 0), White);
 }
 
 void GGCommandFaceTest::gettingTheFocusWithAButtonHeldDrawsNothing() {

@@ -454,9 +454,8 @@ void GGCommandMouseTest::noKeyGivesAClick() {
     button.setFocus();
     QVERIFY(button.hasFocus());
     Diary diary(button);
-    for (const auto key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter, Qt::Key_A, Qt::Key_F4}) {
+    for (const auto key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter, Qt::Key_A, Qt::Key_F4})
         QTest::keyClick(&button, key);
-    }
     QCOMPARE(diary.lines(), QStringList());
 }
 
@@ -547,9 +546,8 @@ void GGCommandMouseTest::aBoxThatMouseEnterOpensLeavesTheButtonAtRest() {
 void GGCommandMouseTest::aHandlerMayDeleteItsButton_data() {
     QTest::addColumn<QString>("event");
     for (const char* event : {"Click", "DblClick", "MouseEnter", "MouseExit", "MouseDown",
-                              "MouseMove", "MouseUp", "Click by press", "PropertyChanged"}) {
+                              "MouseMove", "MouseUp", "Click by press", "PropertyChanged"})
         QTest::newRow(event) << QString::fromLatin1(event);
-    }
 }
 
 void GGCommandMouseTest::aHandlerMayDeleteItsButton() {

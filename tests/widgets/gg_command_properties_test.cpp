@@ -36,9 +36,8 @@ public:
         return std::exchange(m_count, 0);
     }
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (watched == m_widget && event->type() == QEvent::Paint) {
+        if (watched == m_widget && event->type() == QEvent::Paint)
             ++m_count;
-        }
         return false;
     }
 
@@ -205,11 +204,9 @@ void GGCommandPropertiesTest::theFontStartsAsThatOfTheContainer() {
 
 void GGCommandPropertiesTest::everyPropertyCanBeReachedByItsName() {
     GGCommand button;
-    for (const QString& name : allNames()) {
-        if (name != u"Picture"_s) {
+    for (const QString& name : allNames())
+        if (name != u"Picture"_s)
             QVERIFY2(button.metaObject()->indexOfProperty(name.toLatin1()) >= 0, qPrintable(name));
-        }
-    }
     QVERIFY(button.setProperty("ForeColor", 0xC00000U));
     QCOMPARE(button.ForeColor(), 0xC00000U);
 }
@@ -347,9 +344,8 @@ void GGCommandPropertiesTest::itsHandleIsThatOfTheWindowItIsDrawnIn() {
 
 void GGCommandPropertiesTest::settingAPropertyMarksItForStoring_data() {
     QTest::addColumn<QString>("name");
-    for (const QString& name : allNames()) {
+    for (const QString& name : allNames())
         QTest::newRow(qPrintable(name)) << name;
-    }
 }
 
 void GGCommandPropertiesTest::settingAPropertyMarksItForStoring() {
@@ -358,33 +354,50 @@ void GGCommandPropertiesTest::settingAPropertyMarksItForStoring() {
     QSignalSpy marks(&button, &GGCommand::PropertyChanged);
     changeAll(button);
     int count = 0;
-    for (const QVariantList& mark : marks) {
+    for (const QVariantList& mark : marks)
         count += mark.first().toString() == name ? 1 : 0;
-    }
     QCOMPARE(count, 1);
 }
 
 void GGCommandPropertiesTest::settingAPropertyThatShowsRepaints_data() {
     QTest::addColumn<Setter>("set");
     const auto row = [](const char* name, const Setter& set) { QTest::newRow(name) << set; };
-    row("Caption", [](GGCommand& b) { b.setCaption(b.Caption()); });
-    row("CaptionAlignment", [](GGCommand& b) { b.setCaptionAlignment(4); });
-    row("CaptionXOffset", [](GGCommand& b) { b.setCaptionXOffset(0); });
-    row("CaptionYOffset", [](GGCommand& b) { b.setCaptionYOffset(0); });
-    row("UseHoverProperties", [](GGCommand& b) { b.setUseHoverProperties(true); });
-    row("BackColor", [](GGCommand& b) { b.setBackColor(b.BackColor()); });
-    row("ForeColor", [](GGCommand& b) { b.setForeColor(b.ForeColor()); });
-    row("Font", [](GGCommand& b) { b.setFont(b.font()); });
-    row("Picture", [](GGCommand& b) { b.setPicture({}); });
-    row("PictureAlignment", [](GGCommand& b) { b.setPictureAlignment(1); });
-    row("PictureXOffset", [](GGCommand& b) { b.setPictureXOffset(0); });
-    row("PictureYOffset", [](GGCommand& b) { b.setPictureYOffset(0); });
-    row("AlwaysShowBorder", [](GGCommand& b) { b.setAlwaysShowBorder(false); });
-    row("Border3DStyle", [](GGCommand& b) { b.setBorder3DStyle(0); });
-    row("GradientOrientation", [](GGCommand& b) { b.setGradientOrientation(1); });
-    row("UseGradientFill", [](GGCommand& b) { b.setUseGradientFill(true); });
-    row("GradientFromColor", [](GGCommand& b) { b.setGradientFromColor(1); });
-    row("GradientToColor", [](GGCommand& b) { b.setGradientToColor(b.GradientToColor()); });
+    row(
+        "Caption", [](GGCommand& b) { b.setCaption(b.Caption()); });
+    row(
+        "CaptionAlignment", [](GGCommand& b) { b.setCaptionAlignment(4); });
+    row(
+        "CaptionXOffset", [](GGCommand& b) { b.setCaptionXOffset(0); });
+    row(
+        "CaptionYOffset", [](GGCommand& b) { b.setCaptionYOffset(0); });
+    row(
+        "UseHoverProperties", [](GGCommand& b) { b.setUseHoverProperties(true); });
+    row(
+        "BackColor", [](GGCommand& b) { b.setBackColor(b.BackColor()); });
+    row(
+        "ForeColor", [](GGCommand& b) { b.setForeColor(b.ForeColor()); });
+    row(
+        "Font", [](GGCommand& b) { b.setFont(b.font()); });
+    row(
+        "Picture", [](GGCommand& b) { b.setPicture({}); });
+    row(
+        "PictureAlignment", [](GGCommand& b) { b.setPictureAlignment(1); });
+    row(
+        "PictureXOffset", [](GGCommand& b) { b.setPictureXOffset(0); });
+    row(
+        "PictureYOffset", [](GGCommand& b) { b.setPictureYOffset(0); });
+    row(
+        "AlwaysShowBorder", [](GGCommand& b) { b.setAlwaysShowBorder(false); });
+    row(
+        "Border3DStyle", [](GGCommand& b) { b.setBorder3DStyle(0); });
+    row(
+        "GradientOrientation", [](GGCommand& b) { b.setGradientOrientation(1); });
+    row(
+        "UseGradientFill", [](GGCommand& b) { b.setUseGradientFill(true); });
+    row(
+        "GradientFromColor", [](GGCommand& b) { b.setGradientFromColor(1); });
+    row(
+        "GradientToColor", [](GGCommand& b) { b.setGradientToColor(b.GradientToColor()); });
     row("GradientInverseOnPress", [](GGCommand& b) { b.setGradientInverseOnPress(true); });
 }
 
@@ -402,10 +415,14 @@ void GGCommandPropertiesTest::settingAPropertyThatShowsRepaints() {
 void GGCommandPropertiesTest::settingAPropertyThatDoesNotShowDoesNotRepaint_data() {
     QTest::addColumn<Setter>("set");
     const auto row = [](const char* name, const Setter& set) { QTest::newRow(name) << set; };
-    row("ToolTipBackColor", [](GGCommand& b) { b.setToolTipBackColor(1); });
-    row("ToolTipForeColor", [](GGCommand& b) { b.setToolTipForeColor(1); });
-    row("ToolTipCentered", [](GGCommand& b) { b.setToolTipCentered(true); });
-    row("FontBoldOnHover", [](GGCommand& b) { b.setFontBoldOnHover(true); });
+    row(
+        "ToolTipBackColor", [](GGCommand& b) { b.setToolTipBackColor(1); });
+    row(
+        "ToolTipForeColor", [](GGCommand& b) { b.setToolTipForeColor(1); });
+    row(
+        "ToolTipCentered", [](GGCommand& b) { b.setToolTipCentered(true); });
+    row(
+        "FontBoldOnHover", [](GGCommand& b) { b.setFontBoldOnHover(true); });
     row("FontColorOnHover", [](GGCommand& b) { b.setFontColorOnHover(1); });
 }
 

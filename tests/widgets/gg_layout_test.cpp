@@ -131,9 +131,8 @@ void GGLayoutTest::tiesInAGradientRoundToTheEvenNumber() {
     // Steps of one half: 0, 0.5, 1, 1.5, 2, 2.5.
     const auto shades = gradientShades({0, 0, 0}, {3, 3, 3}, 6);
     QList<int> reds;
-    for (const Shade& shade : shades) {
+    for (const Shade& shade : shades)
         reds << shade.red;
-    }
     QCOMPARE(reds, (QList<int>{0, 0, 1, 2, 2, 2}));
 }
 
@@ -148,9 +147,8 @@ void GGLayoutTest::theStepsOfAGradientAreSinglePrecision() {
 }
 
 void GGLayoutTest::aGradientOfOneColourHasOneShade() {
-    for (const Shade& shade : gradientShades({7, 8, 9}, {7, 8, 9}, 50)) {
+    for (const Shade& shade : gradientShades({7, 8, 9}, {7, 8, 9}, 50))
         QCOMPARE(shade, (Shade{7, 8, 9}));
-    }
 }
 
 void GGLayoutTest::aGradientWithoutStepsHasNoShade() {

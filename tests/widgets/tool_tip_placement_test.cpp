@@ -73,7 +73,7 @@ void ToolTipPlacementTest::aBalloonStandsAboveThePointerWithItsStemOnIt() {
     asked.balloon = true;
     const ToolTipPlace place = placeToolTip(asked);
     QVERIFY(place.above);
-    QCOMPARE(place.position, QPoint(300 - balloonStemInset, 170));
+    QCOMPARE(place.position, QPoint(300 - BalloonStemInset, 170));
     QCOMPARE(place.position.x() + place.stemX, 300);
     QCOMPARE(place.position.y() + asked.size.height(), asked.pointer.y());
 }
@@ -84,7 +84,7 @@ void ToolTipPlacementTest::aBalloonWithoutRoomAboveStandsBelowThePointer() {
     asked.pointer = {300, 29};
     const ToolTipPlace place = placeToolTip(asked);
     QVERIFY(!place.above);
-    QCOMPARE(place.position, QPoint(300 - balloonStemInset, 49));
+    QCOMPARE(place.position, QPoint(300 - BalloonStemInset, 49));
     QCOMPARE(place.position.x() + place.stemX, 300);
 }
 

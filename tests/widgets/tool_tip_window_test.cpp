@@ -261,9 +261,8 @@ void ToolTipWindowTest::theColoursAreThoseOfTheButton() {
     const QImage look = tip.grab().toImage();
     QCOMPARE(look.pixelColor(2, 2), QColor(255, 0, 0));
     bool dark = false;
-    for (int x = 5; x < look.width() - 5; ++x) {
+    for (int x = 5; x < look.width() - 5; ++x)
         dark = dark || look.pixelColor(x, look.height() / 2).red() < 100;
-    }
     QVERIFY(dark);
 }
 
@@ -330,9 +329,8 @@ void ToolTipWindowTest::anAmpersandIsPrinted() {
         int columns = 0;
         for (int x = 2; x < look.width() - 2; ++x) {
             bool ink = false;
-            for (int y = 3; y < look.height() - 3; ++y) {
+            for (int y = 3; y < look.height() - 3; ++y)
                 ink = ink || look.pixel(x, y) != look.pixel(2, 3);
-            }
             columns += ink ? 1 : 0;
         }
         return columns;
@@ -361,9 +359,8 @@ void ToolTipWindowTest::theToolkitsOwnToolTipNeverShows() {
     QHelpEvent event(QEvent::ToolTip, QPoint(1, 1), QPoint(1, 1));
     QVERIFY(QApplication::sendEvent(&button, &event));
     QVERIFY(event.isAccepted());
-    for (const QWidget* widget : QApplication::topLevelWidgets()) {
+    for (const QWidget* widget : QApplication::topLevelWidgets())
         QVERIFY(!widget->inherits("QTipLabel"));
-    }
 }
 
 ORVALIS_TEST_MAIN_WITH(QApplication, ToolTipWindowTest)

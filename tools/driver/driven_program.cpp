@@ -23,7 +23,7 @@ namespace orvalis::driver {
 
 namespace {
 
-constexpr int answerWithinMilliseconds = 8000;
+constexpr int AnswerWithinMilliseconds = 8000;
 
 QRect rectOf(const QJsonObject& object) {
     return {qRound(object[u"x"_s].toDouble()), qRound(object[u"y"_s].toDouble()),
@@ -219,7 +219,7 @@ QJsonObject DrivenProgram::ask(const QString& what, const QString& name) {
     m_received.clear();
     while (!m_received.endsWith('\n')) {
         pollfd readable{m_socket, POLLIN, 0};
-        if (::poll(&readable, 1, answerWithinMilliseconds) <= 0)
+        if (::poll(&readable, 1, AnswerWithinMilliseconds) <= 0)
             return {};
         char buffer[65536];
         const ssize_t length = ::read(m_socket, buffer, sizeof(buffer));
@@ -290,12 +290,12 @@ Control DrivenProgram::waitAtRest(const QString& name) {
 }
 
 Control DrivenProgram::waitAtRest(const std::function<Control()>& look) {
-    constexpr int restMilliseconds = 100;
+    constexpr int RestMilliseconds = 100;
     Control seen;
     const bool rests = waitUntil(
         [&] {
             const Control earlier = std::exchange(seen, look());
-            sleepMilliseconds(restMilliseconds);
+            sleepMilliseconds(RestMilliseconds);
             return seen.visible && seen.enabled && seen.rect == earlier.rect &&
                    seen.window == earlier.window && seen.buttonRects == earlier.buttonRects;
         },
@@ -354,11 +354,11 @@ bool DrivenProgram::drag(const QString& name, QPoint by) {
     const QPoint from = target.rect.center();
     QStringList steps{u"mousemove"_s, QString::number(from.x()), QString::number(from.y()),
                       u"mousedown"_s, u"1"_s};
-    constexpr int parts = 8;
-    for (int i = 1; i <= parts; ++i)
+    constexpr int Parts = 8;
+    for (int i = 1; i <= Parts; ++i)
         steps << u"sleep"_s << u"0.03"_s << u"mousemove"_s
-              << QString::number(from.x() + by.x() * i / parts)
-              << QString::number(from.y() + by.y() * i / parts);
+              << QString::number(from.x() + by.x() * i / Parts)
+              << QString::number(from.y() + by.y() * i / Parts);
     steps << u"sleep"_s << u"0.05"_s << u"mouseup"_s << u"1"_s;
     return xdotool(steps);
 }

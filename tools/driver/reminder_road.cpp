@@ -19,44 +19,53 @@ void ReminderRoad::step(const QString& words, const std::function<bool()>& actio
 }
 
 void ReminderRoad::openPanel() {
-    step(u"open the Reminder panel from the main window"_s, [this] {
-        return m_program.waitVisible(u"frmnotes"_s) && m_program.click(u"frmnotes/imgopen1"_s) &&
-               m_program.waitVisible(u"frmnotes1/rt1"_s);
-    });
+    step(
+        u"open the Reminder panel from the main window"_s,
+        [this] {
+            return m_program.waitVisible(u"frmnotes"_s) &&
+                   m_program.click(u"frmnotes/imgopen1"_s) &&
+                   m_program.waitVisible(u"frmnotes1/rt1"_s);
+        });
 }
 
 void ReminderRoad::typeMessage(const QString& title, const QString& message) {
-    step(u"type the title \"%1\" and the message \"%2\""_s.arg(title, message), [&] {
-        if (!m_program.click(u"frmnotes1/txt1"_s))
-            return false;
-        m_program.key(u"ctrl+a"_s);
-        m_program.type(title);
-        if (!m_program.click(u"frmnotes1/rt1"_s))
-            return false;
-        m_program.type(message);
-        return m_program.waitText(u"frmnotes1/txt1"_s, title) &&
-               m_program.waitText(u"frmnotes1/rt1"_s, message);
-    });
+    step(
+        u"type the title \"%1\" and the message \"%2\""_s.arg(title, message),
+        [&] {
+            if (!m_program.click(u"frmnotes1/txt1"_s))
+                return false;
+            m_program.key(u"ctrl+a"_s);
+            m_program.type(title);
+            if (!m_program.click(u"frmnotes1/rt1"_s))
+                return false;
+            m_program.type(message);
+            return m_program.waitText(u"frmnotes1/txt1"_s, title) &&
+                   m_program.waitText(u"frmnotes1/rt1"_s, message);
+        });
 }
 
 void ReminderRoad::tickRemind() {
-    step(u"tick \"Remind Me\""_s, [this] {
-        return m_program.click(u"frmnotes1/chkRemind"_s) &&
-               m_program.waitVisible(u"frmnotes1/Frame3"_s);
-    });
+    step(
+        u"tick \"Remind Me\""_s,
+        [this] {
+            return m_program.click(u"frmnotes1/chkRemind"_s) &&
+                   m_program.waitVisible(u"frmnotes1/Frame3"_s);
+        });
 }
 
 void ReminderRoad::pickDate(QDate date) {
-    step(u"pick %1 on the calendar"_s.arg(date.toString(Qt::ISODate)), [&] {
-        // The calendar's sheet: a row of day names, then six weeks from Sunday on, of which the
-        // first always begins in the month before.
-        const QRect sheet = m_program.control(u"frmnotes1/qt_calendar_calendarview"_s).rect;
-        const int lead = QDate(date.year(), date.month(), 1).dayOfWeek() % 7;
-        const int cell = (lead == 0 ? 7 : lead) + date.day() - 1;
-        const QPoint place(sheet.x() + (2 * (cell % 7) + 1) * sheet.width() / 14,
-                           sheet.y() + (2 * (cell / 7 + 1) + 1) * sheet.height() / 14);
-        return sheet.isValid() && m_program.clickAt(place);
-    });
+    step(
+        u"pick %1 on the calendar"_s.arg(date.toString(Qt::ISODate)),
+        [&] {
+            // The calendar's sheet: a row of day names, then six weeks from Sunday on, of which the
+            // first always begins in the month before.
+            const QRect sheet = m_program.control(u"frmnotes1/qt_calendar_calendarview"_s).rect;
+            const int lead = QDate(date.year(), date.month(), 1).dayOfWeek() % 7;
+            const int cell = (lead == 0 ? 7 : lead) + date.day() - 1;
+            const QPoint place(sheet.x() + (2 * (cell % 7) + 1) * sheet.width() / 14,
+                               sheet.y() + (2 * (cell / 7 + 1) + 1) * sheet.height() / 14);
+            return sheet.isValid() && m_program.clickAt(place);
+        });
 }
 
 void ReminderRoad::pickTime(int hour, int minute) {
@@ -77,26 +86,33 @@ void ReminderRoad::pickTime(int hour, int minute) {
 }
 
 void ReminderRoad::typeEventMessage(const QString& message) {
-    step(u"type the event message \"%1\""_s.arg(message), [&] {
-        if (!m_program.click(u"frmnotes1/rtMs2"_s))
-            return false;
-        m_program.type(message);
-        return m_program.waitText(u"frmnotes1/rtMs2"_s, message);
-    });
+    step(
+        u"type the event message \"%1\""_s.arg(message),
+        [&] {
+            if (!m_program.click(u"frmnotes1/rtMs2"_s))
+                return false;
+            m_program.type(message);
+            return m_program.waitText(u"frmnotes1/rtMs2"_s, message);
+        });
 }
 
 void ReminderRoad::pressOk() {
-    step(u"press OK"_s, [this] {
-        return m_program.click(u"frmnotes1/Button1"_s) &&
-               m_program.waitVisible(u"frmnotes1/Frame2"_s);
-    });
+    step(
+        u"press OK"_s,
+        [this] {
+            return m_program.click(u"frmnotes1/Button1"_s) &&
+                   m_program.waitVisible(u"frmnotes1/Frame2"_s);
+        });
 }
 
 void ReminderRoad::pressSave() {
-    step(u"save the message"_s, [this] {
-        return m_program.click(u"frmnotes1/imgSave"_s) &&
-               waitUntil([this] { return m_program.fileBytes(u"tmp2.brf"_s).size() > 10; }, 10000);
-    });
+    step(
+        u"save the message"_s,
+        [this] {
+            return m_program.click(u"frmnotes1/imgSave"_s) &&
+                   waitUntil([this] { return m_program.fileBytes(u"tmp2.brf"_s).size() > 10; },
+                             10000);
+        });
 }
 
 bool ReminderRoad::waitForSticker(int milliseconds) {

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 namespace orvalis::driver {
 
 namespace {
-constexpr int comesUpWithinMilliseconds = 20000;
+constexpr int ComesUpWithinMilliseconds = 20000;
 } // namespace
 
 Stage::Stage(const Plan& plan)
@@ -77,16 +77,16 @@ void Stage::startWindowManager() {
     // comes again under the pointer.
     if (!start(u"openbox"_s, {u"--sm-disable"_s}))
         return;
-    if (!waitUntil([this] { return m_display.hasWindowManager(); }, comesUpWithinMilliseconds)) {
+    if (!waitUntil([this] { return m_display.hasWindowManager(); }, ComesUpWithinMilliseconds)) {
         m_trouble = u"openbox does not come up"_s;
         return;
     }
     // What reaches it while it comes up it may leave lying until the next event: windows of our own
     // go first, until one is shown.
-    constexpr int tries = 40;
-    constexpr int tryMilliseconds = 250;
-    for (int i = 0; i < tries; ++i)
-        if (m_display.showsWindows(tryMilliseconds))
+    constexpr int Tries = 40;
+    constexpr int TryMilliseconds = 250;
+    for (int i = 0; i < Tries; ++i)
+        if (m_display.showsWindows(TryMilliseconds))
             return;
     m_trouble = u"openbox shows no window"_s;
 }
@@ -107,7 +107,7 @@ void Stage::startSessionBus() {
 void Stage::startTray() {
     m_tray = start(u"trayer"_s, {u"--edge"_s, u"top"_s, u"--align"_s, u"right"_s, u"--widthtype"_s,
                                  u"request"_s, u"--height"_s, u"28"_s});
-    if (m_tray && !waitUntil([this] { return m_display.hasTray(); }, comesUpWithinMilliseconds))
+    if (m_tray && !waitUntil([this] { return m_display.hasTray(); }, ComesUpWithinMilliseconds))
         m_trouble = u"trayer does not come up"_s;
 }
 

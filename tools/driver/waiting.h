@@ -13,11 +13,11 @@ void sleepMilliseconds(int milliseconds);
 
 template <class Condition>
 bool waitUntil(Condition&& condition, int milliseconds) {
-    constexpr int step = 20;
-    for (int waited = 0; waited <= milliseconds; waited += step) {
+    constexpr int Step = 20;
+    for (int waited = 0; waited <= milliseconds; waited += Step) {
         if (condition())
             return true;
-        sleepMilliseconds(step);
+        sleepMilliseconds(Step);
     }
     return condition();
 }

@@ -16,10 +16,10 @@ using namespace orvalis;
 
 namespace {
 
-constexpr int kWidth = 1100;
-constexpr int kGap = 14;
-constexpr int kCaption = 14;
-constexpr int kNarrowest = 96;
+constexpr int Width = 1100;
+constexpr int Gap = 14;
+constexpr int Caption = 14;
+constexpr int Narrowest = 96;
 
 struct Place {
     QString name;
@@ -28,24 +28,24 @@ struct Place {
 
 QList<Place> layOut(const QRegularExpression& pattern, int& height) {
     QList<Place> places;
-    int x = kGap;
-    int y = kGap;
+    int x = Gap;
+    int y = Gap;
     int row = 0;
     for (const QString& name : skin::names()) {
         if (!pattern.match(name).hasMatch())
             continue;
         const QSize size = skin::size(name);
-        const int width = qMax(size.width(), kNarrowest);
-        if (x > kGap && x + width + kGap > kWidth) {
-            x = kGap;
-            y += row + kCaption + kGap;
+        const int width = qMax(size.width(), Narrowest);
+        if (x > Gap && x + width + Gap > Width) {
+            x = Gap;
+            y += row + Caption + Gap;
             row = 0;
         }
         places.append({name, QRect(QPoint(x, y), size)});
-        x += width + kGap;
+        x += width + Gap;
         row = qMax(row, size.height());
     }
-    height = y + row + kCaption + kGap;
+    height = y + row + Caption + Gap;
     return places;
 }
 
@@ -63,7 +63,7 @@ int main(int argc, char** argv) {
     const qreal scale = arguments.size() > 2 ? arguments[2].toDouble() : 1;
     int height = 0;
     const QList<Place> places = layOut(QRegularExpression(arguments.value(3)), height);
-    QImage sheet((QSizeF(kWidth, height) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+    QImage sheet((QSizeF(Width, height) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
     sheet.setDevicePixelRatio(scale);
     sheet.fill(QColor(0xD6, 0xD8, 0xD9));
     QPainter painter(&sheet);
@@ -73,7 +73,7 @@ int main(int argc, char** argv) {
     for (const Place& place : places) {
         painter.drawPixmap(place.rect.topLeft(),
                            skin::pixmap(place.name, place.rect.size(), scale));
-        painter.drawText(place.rect.left(), place.rect.bottom() + kCaption - 2, place.name);
+        painter.drawText(place.rect.left(), place.rect.bottom() + Caption - 2, place.name);
     }
     painter.end();
     return sheet.save(arguments[1]) ? 0 : 1;

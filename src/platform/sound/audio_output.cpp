@@ -18,13 +18,13 @@ namespace orvalis {
 namespace {
 
 /// How often the device is looked after, in milliseconds.
-constexpr unsigned long rest = 5;
+constexpr unsigned long Rest = 5;
 
 /// In bytes; a minute of the common kinds of sound.
-constexpr qsizetype largestBuffer = qsizetype{16} * 1024 * 1024;
+constexpr qsizetype LargestBuffer = qsizetype{16} * 1024 * 1024;
 
 /// How long a device may be late, in milliseconds.
-constexpr int ringingOut = 600;
+constexpr int RingingOut = 600;
 
 QAudioFormat formatOf(const WaveSound& sound) {
     QAudioFormat format;
@@ -64,7 +64,7 @@ extern "C" Q_DECL_EXPORT void orvalisPlayAndWait(const orvalis::WaveSound& sound
         return;
     // The device takes the whole sound at once where it can, so that nothing has to come in time.
     auto* const sink = new QAudioSink(device, format);
-    sink->setBufferSize(std::min(sound.samples.size(), largestBuffer));
+    sink->setBufferSize(std::min(sound.samples.size(), LargestBuffer));
     const qint64 length = sound.milliseconds();
     QElapsedTimer played;
     played.start();
@@ -76,8 +76,8 @@ extern "C" Q_DECL_EXPORT void orvalisPlayAndWait(const orvalis::WaveSound& sound
         if (piece > 0)
             written +=
                 std::max<qint64>(output->write(sound.samples.constData() + written, piece), 0);
-        QThread::msleep(rest);
+        QThread::msleep(Rest);
     }
     // A device is late by what it holds: the last of the sound rings out while the program goes on.
-    QTimer::singleShot(ringingOut, sink, &QObject::deleteLater);
+    QTimer::singleShot(RingingOut, sink, &QObject::deleteLater);
 }

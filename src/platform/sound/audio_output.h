@@ -9,6 +9,6 @@ struct WaveSound;
 /// The one function of the library that talks to the sound device: plays on the default device and
 /// returns when the sound has ended, or at once when there is no device for it.
 using PlayAndWait = void (*)(const WaveSound& sound);
-constexpr const char* playAndWaitName = "orvalisPlayAndWait";
+constexpr const char* PlayAndWaitName = "orvalisPlayAndWait";
 
 } // namespace orvalis

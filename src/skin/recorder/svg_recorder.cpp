@@ -53,10 +53,9 @@ QByteArray SvgRecorder::drawing(const Layer& layer) const {
 }
 
 void SvgRecorder::draw(QPainter& painter, const Recipe& recipe) const {
-    for (const Recipe& other : m_book.recipes) {
+    for (const Recipe& other : m_book.recipes)
         if (!recipe.base.isEmpty() && other.name == recipe.base)
             drawLayers(painter, other);
-    }
     drawLayers(painter, recipe);
 }
 

@@ -96,7 +96,7 @@ QRect extentOf(const QImage& image, QRgb colour) {
 /// The text of a button drawn by itself in the place given, in black on white.
 QImage text(const QString& caption, const QFont& font, const QPoint& at, const QSize& size) {
     QImage image(size, QImage::Format_RGB32);
-    image.fill(Qt::White);
+    image.fill(Qt::white);
     QPainter painter(&image);
     painter.setFont(font);
     painter.setPen(Qt::black);

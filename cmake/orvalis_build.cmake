@@ -5,6 +5,10 @@
 # library a folder. The LINKS of a folder are its layering rule: what is not named there cannot
 # be linked, and tests/house checks that it is not included either.
 
+# The folders of src, each after those that it may know; the subsystems know no one another.
+set(ORVALIS_SUBSYSTEMS alarm planner stickers notes password address letters)
+set(ORVALIS_FOLDERS runtime rtf controls platform widgets skin core ${ORVALIS_SUBSYSTEMS})
+
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)

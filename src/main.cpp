@@ -20,6 +20,7 @@
 #include "platform/ini_settings_store.h"
 #include "platform/interface_scale.h"
 #include "platform/logon_entry.h"
+#include "platform/mail.h"
 #include "platform/metafile_process.h"
 #include "platform/registry.h"
 #include "platform/screen.h"
@@ -98,6 +99,7 @@ int main(int argc, char** argv) {
     QtMessageBoxes boxes;
     QtDialogs dialogs;
     DesktopShell shell;
+    DesktopMail mail;
     DeviceSoundPlayer sound;
     DesktopScreen screen;
     DesktopTray tray;
@@ -112,6 +114,7 @@ int main(int argc, char** argv) {
                      .boxes = boxes,
                      .dialogs = dialogs,
                      .shell = shell,
+                     .mail = mail,
                      .sound = sound,
                      .screen = screen});
     AlarmTick tick(program);

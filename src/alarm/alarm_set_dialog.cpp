@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "alarm/alarm_set_dialog.h"
 
-#include "alarm/alarm_set_rules.h"
 #include "controls/combo_box.h"
 #include "controls/common_dialog.h"
 #include "controls/label.h"
@@ -15,6 +14,7 @@
 #include "runtime/failure.h"
 #include "runtime/files.h"
 #include "runtime/format.h"
+#include "runtime/time_parts.h"
 #include "skin/type.h"
 #include "widgets/gg_command.h"
 
@@ -27,14 +27,12 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int LastHour = 23;
-constexpr int LastMinute = 59;
 constexpr int ChoicePoints = 12;
 constexpr int PlainText = 1;
 
 void fillWithTwoDigits(ComboBox& box, int last) {
-    for (int i = 0; i <= last; ++i)
-        box.AddItem(twoDigits(QString::number(i)));
+    for (const QString& number : twoDigitNumbers(last))
+        box.AddItem(number);
 }
 
 ComboBox* timeBox(QWidget& frame, const QString& name, const QString& spokenName,
@@ -119,7 +117,7 @@ void frmAlSet::timeTyped(const ComboBox& box, int limit) {
 }
 
 void frmAlSet::showChoice() {
-    m_Label5->setCaption(shownTime(m_Combo1->Text(), m_Combo2->Text()));
+    m_Label5->setCaption(spacedTime(m_Combo1->Text(), m_Combo2->Text()));
 }
 
 void frmAlSet::chooseMedia() {

@@ -5,9 +5,9 @@
 #include "controls/font_dialog.h"
 #include "controls/form.h"
 #include "controls/ordinary_pointer.h"
-#include "controls/program_end.h"
 #include "runtime/colour.h"
 #include "runtime/format.h"
+#include "runtime/program_end.h"
 
 #include <QApplication>
 #include <QColorDialog>

@@ -8,6 +8,7 @@
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QTimer>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -70,6 +71,14 @@ void Form::Show() {
     }
     raise();
     activateWindow();
+}
+
+void Form::ShowOver(Form& owner) {
+    // Both get their native windows now, if they have none yet.
+    winId();
+    owner.winId();
+    windowHandle()->setTransientParent(owner.windowHandle());
+    Show();
 }
 
 void Form::showWithoutFocus() {

@@ -29,6 +29,8 @@ public:
     void Show();
     /// The same, but above all windows and without taking the focus or counting as an activation.
     void showWithoutFocus();
+    /// The same as Show(), as a window of another one: it stays above that one alone.
+    void ShowOver(Form& owner);
     void Hide();
 
     /// Moves the first place away from the middle of the screen. Once the window has been shown or

@@ -4,7 +4,7 @@
 
 #include "controls/form.h"
 #include "controls/ordinary_pointer.h"
-#include "controls/program_end.h"
+#include "runtime/program_end.h"
 
 #include <QApplication>
 #include <QCloseEvent>

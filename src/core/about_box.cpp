@@ -13,6 +13,7 @@
 #include "runtime/app.h"
 #include "runtime/failure.h"
 #include "runtime/twips.h"
+#include "skin/ink.h"
 #include "skin/palette.h"
 #include "skin/type.h"
 
@@ -27,10 +28,10 @@ using namespace Qt::StringLiterals;
 
 constexpr int DesignWidth = 6000; // twips
 
-void setInk(Label& label, QRgb ink) {
-    QPalette palette = label.palette();
-    palette.setColor(QPalette::WindowText, QColor(ink));
-    label.setPalette(palette);
+/// A line of the picture: a click on it is one on the box.
+void write(Label& label, int points, QRgb ink) {
+    label.setFont(skin::font(points));
+    skin::setInk(label, ink);
     label.setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
@@ -49,10 +50,8 @@ frmAbout::frmAbout(Program& program)
     m_Image1->setAccessibleName(windowTitle());
     setTwipsGeometry(*m_Label1, QRectF(2387, 1209, 3422, 287));
     setTwipsGeometry(*m_Label3, QRectF(2387, 1528, 3422, 287));
-    m_Label1->setFont(skin::font(10));
-    m_Label3->setFont(skin::font(9));
-    setInk(*m_Label1, skin::colour::Ink);
-    setInk(*m_Label3, skin::colour::LabelInk);
+    write(*m_Label1, 10, skin::colour::Ink);
+    write(*m_Label3, 9, skin::colour::LabelInk);
     connect(m_Image1, &Image::Click, this, &Form::unloadRequested);
 }
 

@@ -3,8 +3,8 @@
 #include "core/application.h"
 
 #include "controls/message_boxes.h"
-#include "controls/program_end.h"
 #include "runtime/failure.h"
+#include "runtime/program_end.h"
 
 #include <QScopedValueRollback>
 

@@ -9,22 +9,13 @@
 #include "core/program.h"
 #include "core/skin_picture.h"
 #include "runtime/aligned_timer.h"
+#include "skin/ink.h"
 #include "skin/palette.h"
 #include "skin/type.h"
 
 namespace orvalis {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-void setInk(QWidget* label, QRgb ink) {
-    QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, QColor(ink));
-    label->setPalette(palette);
-}
-
-} // namespace
 
 void ChromeWindow::makeTriple(Triple& triple, const QString& name, const QString& picture,
                               const QString& toolTip, const QRect& place) {
@@ -54,7 +45,7 @@ void ChromeWindow::makeClock() {
     lblVreme->setGeometry(layout.clock);
     lblVreme->setAlignment(layout.clockAlignment);
     lblVreme->setFont(skin::font(16));
-    setInk(lblVreme, skin::colour::GlassText);
+    skin::setInk(*lblVreme, skin::colour::GlassText);
     connect(lblVreme, &Label::MouseMove, this, &ChromeWindow::showDateInClock);
     m_clockTimer = new AlignedTimer(m_program.services.clock, this, m_row.clockInterval);
     m_clockTimer->setObjectName(m_row.clockTimer);
@@ -67,7 +58,7 @@ void ChromeWindow::makeAlarmDisplay() {
     lblAlarm->setGeometry(layout.alarm);
     lblAlarm->setAlignment(layout.alarmAlignment);
     lblAlarm->setFont(skin::font(10));
-    setInk(lblAlarm, skin::colour::GlassAlarm);
+    skin::setInk(*lblAlarm, skin::colour::GlassAlarm);
     connect(lblAlarm, &Label::Change, this, &ChromeWindow::alarmCaptionChanged);
 
     imgSet = new Image(u"imgSet"_s, this);
@@ -99,7 +90,7 @@ void ChromeWindow::makePanelLabels() {
     titleFont.setLetterSpacing(QFont::AbsoluteSpacing, 2);
     lblRem->setFont(titleFont);
     lblRem->setAttribute(Qt::WA_TransparentForMouseEvents);
-    setInk(lblRem, skin::colour::TitleInk);
+    skin::setInk(*lblRem, skin::colour::TitleInk);
 
     static constexpr std::array<QRect, 3> Places{QRect(146, 14, 70, 22), QRect(218, 14, 70, 22),
                                                  QRect(290, 14, 72, 22)};
@@ -110,11 +101,13 @@ void ChromeWindow::makePanelLabels() {
         label->setAlignment(Qt::AlignCenter);
         label->setFont(skin::font(10));
         label->setCursor(Qt::PointingHandCursor);
-        setInk(label, skin::colour::LabelInk);
+        skin::setInk(*label, skin::colour::LabelInk);
         connect(
-            label, &Label::MouseEnter, label, [label] { setInk(label, skin::colour::Teal); });
+            label, &Label::MouseEnter, label,
+            [label] { skin::setInk(*label, skin::colour::Teal); });
         connect(
-            label, &Label::MouseExit, label, [label] { setInk(label, skin::colour::LabelInk); });
+            label, &Label::MouseExit, label,
+            [label] { skin::setInk(*label, skin::colour::LabelInk); });
         const auto lead = [this, target = entry.target] { openPanel(target); };
         if (m_row.labelEvent == LabelEvent::MouseDown)
             connect(label, &Label::MouseDown, this, lead);

@@ -10,6 +10,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int MainDesignWidth = 4800;   // twips
+constexpr int PanelDesignWidth = 10530; // twips
+
 PanelLabel label(const QString& name, const QString& caption, ChromeKind target) {
     return {name, caption, target};
 }
@@ -21,6 +24,7 @@ const std::array<ChromeRow, 5>& rows() {
          .title = {},
          .background = u"Image5"_s,
          .backgroundPicture = u"main_background"_s,
+         .designWidth = MainDesignWidth,
          .clockTimer = u"Timer23"_s,
          .clockInterval = 1000,
          .setToolTip = u" Set Alarm "_s,
@@ -38,6 +42,7 @@ const std::array<ChromeRow, 5>& rows() {
          .title = u"REMINDER"_s,
          .background = u"Image21"_s,
          .backgroundPicture = u"panel_background"_s,
+         .designWidth = PanelDesignWidth,
          .clockTimer = u"Timer2"_s,
          .clockInterval = 1000,
          .setToolTip = u" Set alarm "_s,
@@ -56,6 +61,7 @@ const std::array<ChromeRow, 5>& rows() {
          .title = u"NOTES"_s,
          .background = u"Image34"_s,
          .backgroundPicture = u"book_background"_s,
+         .designWidth = PanelDesignWidth,
          .clockTimer = u"Timer3"_s,
          .clockInterval = 500,
          .setToolTip = u" Set alarm "_s,
@@ -75,6 +81,7 @@ const std::array<ChromeRow, 5>& rows() {
          .title = u"ADDRESS"_s,
          .background = u"Image5"_s,
          .backgroundPicture = u"panel_background"_s,
+         .designWidth = PanelDesignWidth,
          .clockTimer = u"Timer4"_s,
          .clockInterval = 1000,
          .setToolTip = u" Set alarm "_s,
@@ -94,6 +101,7 @@ const std::array<ChromeRow, 5>& rows() {
          .title = u"PASSWORD"_s,
          .background = u"Image26"_s,
          .backgroundPicture = u"panel_background_small"_s,
+         .designWidth = PanelDesignWidth,
          .clockTimer = u"Timer5"_s,
          .clockInterval = 1000,
          .setToolTip = u" Set alarm "_s,

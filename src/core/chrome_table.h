@@ -54,6 +54,7 @@ struct ChromeRow {
     QString title; ///< of the panel, in `lblRem`; empty on the main window
     QString background;
     QString backgroundPicture;
+    int designWidth; ///< twips: where the window's controls have their design places
     QString clockTimer;
     int clockInterval; ///< milliseconds
     QString setToolTip;

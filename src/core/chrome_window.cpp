@@ -8,13 +8,16 @@
 #include "controls/window_drag.h"
 #include "core/clock_label.h"
 #include "core/program.h"
+#include "core/resize_form.h"
 #include "core/skin_picture.h"
 #include "core/window_shape.h"
 #include "platform/registry.h"
+#include "platform/screen.h"
 #include "runtime/aligned_timer.h"
 #include "runtime/clock_text.h"
 #include "runtime/failure.h"
 #include "runtime/format.h"
+#include "runtime/twips.h"
 
 #include <QMouseEvent>
 
@@ -25,6 +28,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int LeftButton = 1;
+constexpr int ClockPoints = 16;
 
 } // namespace
 
@@ -130,6 +134,14 @@ void ChromeWindow::resizeEvent(QResizeEvent* event) {
     Form::resizeEvent(event);
     if (!isMinimized())
         takeSizeOfBackground();
+}
+
+void ChromeWindow::layOut() {
+    lblVreme->useClockFont(ClockPoints);
+    clsResize(m_program.services.screen.GetSystemMetrics(0))
+        .ResizeForm(*this, m_row.designWidth, pixelsToTwips(background->width()), background,
+                    imgStop, imgSet);
+    takeSizeOfBackground();
 }
 
 void ChromeWindow::takeSizeOfBackground() {

@@ -50,6 +50,9 @@ protected:
     /// Leads to another window, which comes up where this one stands. Nothing happens while nobody
     /// makes such a window.
     void openPanel(ChromeKind target);
+    /// What every window's load has in common: the clock gets its font, the controls the layout of
+    /// the screen, the window the size of its background picture. Once, in the load handler.
+    void layOut();
     /// Gives the window the size of its background picture.
     void takeSizeOfBackground();
     /// Gives the normal picture back to an image button that the pointer has left.

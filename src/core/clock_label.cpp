@@ -19,9 +19,9 @@ constexpr int SideRoom = 2; // pixels
 ClockLabel::ClockLabel(const QString& name, QWidget* parent)
     : Label(name, {}, parent) {}
 
-void ClockLabel::useClockFont() {
+void ClockLabel::useClockFont(int points) {
     const QString clockFamily = QStringLiteral("Digital SF");
-    QFont clockFont = skin::font(font().pointSize(), font().bold());
+    QFont clockFont = skin::font(points, font().bold());
     if (QFontDatabase::hasFamily(clockFamily))
         clockFont.setFamilies(QStringList{clockFamily} + clockFont.families());
     setFont(clockFont);

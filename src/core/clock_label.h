@@ -13,9 +13,9 @@ class ClockLabel final : public Label {
 public:
     ClockLabel(const QString& name, QWidget* parent);
 
-    /// Takes the clock font "Digital SF" where the machine has it, and otherwise Arial, in the size
-    /// and weight that the label has.
-    void useClockFont();
+    /// Takes the clock font "Digital SF" where the machine has it, and otherwise Arial, in the
+    /// weight that the label has.
+    void useClockFont(int points);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -4,22 +4,12 @@
 
 #include "controls/image.h"
 #include "controls/label.h"
-#include "core/clock_label.h"
 #include "core/program.h"
-#include "core/resize_form.h"
 #include "core/skin_picture.h"
-#include "platform/screen.h"
-#include "runtime/twips.h"
 
 namespace orvalis {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr int DesignWidth = 4800;
-
-} // namespace
 
 frmnotes::frmnotes(Program& program)
     : ChromePanel(program, chromeRow(ChromeKind::Main)) {
@@ -33,14 +23,7 @@ frmnotes::frmnotes(Program& program)
 }
 
 void frmnotes::onLoad() {
-    lblVreme->useClockFont();
-    QFont clockFont = lblVreme->font();
-    clockFont.setPointSize(16);
-    lblVreme->setFont(clockFont);
-    clsResize(program().services.screen.GetSystemMetrics(0))
-        .ResizeForm(*this, DesignWidth, pixelsToTwips(background->width()), background, imgStop,
-                    imgSet);
-    takeSizeOfBackground();
+    layOut();
 }
 
 void frmnotes::makeOpener(int number, const QString& picture, const QString& name,

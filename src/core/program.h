@@ -2,18 +2,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "controls/program_end.h"
 #include "core/roles.h"
 #include "core/state.h"
 #include "core/tick.h"
 #include "core/tray_owner.h"
 #include "core/windows.h"
 #include "runtime/clock.h"
+#include "runtime/program_end.h"
 
 namespace orvalis {
 
 class App;
 class Dialogs;
+class Mail;
 class MessageBoxes;
 class Registry;
 class Screen;
@@ -29,6 +30,7 @@ struct Services {
     MessageBoxes& boxes;
     Dialogs& dialogs;
     Shell& shell;
+    Mail& mail;
     SoundPlayer& sound;
     Screen& screen;
 };

@@ -6,6 +6,7 @@
 
 namespace orvalis {
 
+class Label;
 class MSFlexGrid;
 class RichTextBox;
 
@@ -46,7 +47,16 @@ public:
 };
 
 /// `frmnotes2`
-class NotesPanel : public ChromeRole {};
+class NotesPanel : public ChromeRole {
+public:
+    /// The left page, on which notes are written.
+    virtual RichTextBox& rt1() = 0;
+    /// The label on the panel's upper edge below which the letters come up.
+    virtual const Label& lblNot() const = 0;
+    /// Prints a box in pages. The margins are in twips.
+    virtual void PrintRTF(RichTextBox& RTF, int LeftMarginWidth, int TopMarginHeight,
+                          int RightMarginWidth, int BottomMarginHeight) = 0;
+};
 
 /// `frmnotes3`
 class AddressPanel : public ChromeRole {};
@@ -76,9 +86,25 @@ public:
 };
 
 /// `frmPrint`
-class PrintWindow : public WindowRole {};
+class PrintWindow : public WindowRole {
+public:
+    /// The page that is written, found in and printed.
+    virtual RichTextBox& rtb() = 0;
+    /// Appends the contact that the address panel shows, and shows the window.
+    virtual void stampa() = 0;
+    /// Appends all contacts, and shows the window.
+    virtual void stampaAll() = 0;
+};
 
-/// `frmpisma`
+/// `frmFind`, which finds and replaces on the page of `frmPrint`. It is shown over that window,
+/// which unloads it with itself.
+class FindWindow : public WindowRole {
+public:
+    /// Does what a click on `FindNextButton` does.
+    virtual void FindNext() = 0;
+};
+
+/// `frmpisma`, the letter templates. It is shown over the notes, and writes into their `rt1`.
 class LettersWindow : public WindowRole {};
 
 /// `frmdel1`: the hidden form that owns the popup menus.

@@ -9,6 +9,7 @@
 #include "controls/rich_text_box.h"
 #include "controls/selection_font.h"
 #include "core/program.h"
+#include "runtime/time_parts.h"
 #include "widgets/gg_command.h"
 
 #include <QCheckBox>
@@ -21,8 +22,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int LastHour = 23;
-constexpr int LastMinute = 59;
 constexpr double NewMessageFontSize = 8;
 
 /// Kept with the message once its text has changed.
@@ -83,8 +82,8 @@ void frmnotes1::showTime() {
 void frmnotes1::Button1_Click() {
     if (ui.rtMs2->Text().isEmpty())
         ui.rtMs2->SetText(u"Message not set"_s);
-    ui.Combo1->setText(withLeadingZero(ui.Combo1->Text()));
-    ui.Combo2->setText(withLeadingZero(ui.Combo2->Text()));
+    ui.Combo1->setText(twoDigits(ui.Combo1->Text()));
+    ui.Combo2->setText(twoDigits(ui.Combo2->Text()));
     endReminderFrame();
 }
 
@@ -113,23 +112,13 @@ void frmnotes1::imgNew_Click() {
 }
 
 void frmnotes1::Command2_Click() {
-    CommonDialog1.CancelError = true;
-    const auto failure = firstFailure([this] {
-        loadFontFromSelection(CommonDialog1, *ui.rt1);
-        CommonDialog1.Flags = FontDialogFlags;
-        CommonDialog1.ShowFont();
-        applyFontToSelection(CommonDialog1, *ui.rt1);
+    if (!chooseFontOfSelection(CommonDialog1, *ui.rt1))
+        return;
+    endSilently([this] {
         ui.rt1a->SetSelFontName(CommonDialog1.FontName);
         ui.rt1a->SetSelFontSize(CommonDialog1.FontSize);
         ui.rt1->setFocus();
     });
-    // A mixed selection cannot be loaded. The dialog comes up all the same, and what is chosen
-    // there is not applied.
-    if (failure && failure->number() == ErrorNumber::InvalidUseOfNull)
-        endSilently([this] {
-            CommonDialog1.Flags = FontDialogFlags;
-            CommonDialog1.ShowFont();
-        });
 }
 
 } // namespace orvalis

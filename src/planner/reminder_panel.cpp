@@ -11,12 +11,12 @@
 #include "core/clock_label.h"
 #include "core/layout_rule.h"
 #include "core/program.h"
-#include "core/resize_form.h"
 #include "platform/registry.h"
 #include "platform/screen.h"
 #include "runtime/app.h"
 #include "runtime/format.h"
 #include "runtime/numeric_text.h"
+#include "runtime/time_parts.h"
 #include "runtime/twips.h"
 
 #include <QGroupBox>
@@ -27,7 +27,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int DesignWidth = 10530;
 constexpr double LargestFontSize = 2160;
 
 } // namespace
@@ -58,12 +57,13 @@ void frmnotes1::onLoad() {
     loadDocuments();
     loadFont();
     loadDateAndLists();
-    layOut();
-    for (const QString& hour : timeEntries(23))
+    layOutPages();
+    for (const QString& hour : twoDigitNumbers(LastHour))
         ui.Combo1->AddItem(hour);
-    for (const QString& minute : timeEntries(59))
+    for (const QString& minute : twoDigitNumbers(LastMinute))
         ui.Combo2->AddItem(minute);
-    ui.Label5->setCaption(timeLabelAtLoad(ui.Combo1->Text(), ui.Combo2->Text()));
+    // With blanks, so that a reminder whose time was never touched does not fire.
+    ui.Label5->setCaption(spacedTime(ui.Combo1->Text(), ui.Combo2->Text()));
     ui.Label9->setCaption(shortDate(ui.MonthView1->Value()));
     selectSubPanel(2);
     // Its font was set on the way, which is no change of the message.
@@ -97,18 +97,11 @@ void frmnotes1::loadDateAndLists() {
                [this] { LoadTmp1(ui.MS1->grid()); }, [this] { LoadTmp2(ui.MS3->grid()); });
 }
 
-void frmnotes1::layOut() {
-    lblVreme->useClockFont();
-    QFont clockFont = lblVreme->font();
-    clockFont.setPointSize(16);
-    lblVreme->setFont(clockFont);
-    clsResize(program().services.screen.GetSystemMetrics(0))
-        .ResizeForm(*this, DesignWidth, pixelsToTwips(background->width()), background, imgStop,
-                    imgSet);
+void frmnotes1::layOutPages() {
+    layOut();
     // The layout scales the font of a box; what is typed into these two is to follow it.
     for (RichTextBox* box : {ui.rt1, ui.rtMs2})
         box->SetFontSize(box->font().pointSizeF());
-    takeSizeOfBackground();
     placeByPicture();
 }
 

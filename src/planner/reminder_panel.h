@@ -40,7 +40,7 @@ private:
     void loadDocuments();
     void loadFont();
     void loadDateAndLists();
-    void layOut();
+    void layOutPages();
     void placeByPicture();
     void goToToday();
     int fontSizeToKeep(double pointSize) const;

@@ -4,7 +4,7 @@
 
 #include "controls/grid_model.h"
 #include "runtime/format.h"
-#include "runtime/numeric_text.h"
+#include "runtime/time_parts.h"
 
 namespace orvalis {
 
@@ -34,31 +34,12 @@ QString dateText(QDate date) {
     return Format(date, u"dddd, MMMM dd, yyyy");
 }
 
-QString timeLabelAtLoad(const QString& hour, const QString& minute) {
-    return hour + u" : "_s + minute + u" : 00"_s;
-}
-
 QString timeLabel(const QString& hour, const QString& minute) {
     return hour + u':' + minute + u":00"_s;
 }
 
 bool fitsTimeLabel(const QString& text, int limit) {
-    if (text.isEmpty())
-        return true;
-    const auto value = numericValue(text);
-    return value && *value >= 0 && *value <= limit;
-}
-
-QString withLeadingZero(const QString& text) {
-    const auto value = numericValue(text);
-    return value && *value < 10 ? u'0' + numberText(*value) : text;
-}
-
-QStringList timeEntries(int limit) {
-    QStringList entries;
-    for (int number = 0; number <= limit; ++number)
-        entries << withLeadingZero(QString::number(number));
-    return entries;
+    return text.isEmpty() || isTimePart(text, limit);
 }
 
 QString remindHeader(QDate date, const QString& timeLabel) {

@@ -14,22 +14,12 @@ class GridModel;
 /// A date as entries and list headers tell it: "Saturday, June 01, 2002" in the user's language.
 QString dateText(QDate date);
 
-/// The time label as it stands after load, "00 : 00 : 00": its blanks keep it from ever equalling a
-/// present time, so that a reminder whose time was never touched does not fire.
-QString timeLabelAtLoad(const QString& hour, const QString& minute);
-
 /// The time label as the combos set it, "07:30:00".
 QString timeLabel(const QString& hour, const QString& minute);
 
 /// Whether a combo's text may stand in the time label: nothing at all, or a number of 0 to \a
 /// limit.
 bool fitsTimeLabel(const QString& text, int limit);
-
-/// A number below 10 with a "0" ahead, as "07"; any other text as it stands.
-QString withLeadingZero(const QString& text);
-
-/// The entries of a time combo: the numbers 0 to \a limit, those below 10 with a leading "0".
-QStringList timeEntries(int limit);
 
 /// Header of a reminder: its date, "/" and the time label.
 QString remindHeader(QDate date, const QString& timeLabel);

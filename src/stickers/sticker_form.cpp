@@ -20,6 +20,7 @@
 #include "runtime/clock_text.h"
 #include "runtime/format.h"
 #include "runtime/twips.h"
+#include "skin/ink.h"
 #include "skin/palette.h"
 #include "skin/skin.h"
 #include "skin/type.h"
@@ -43,12 +44,6 @@ constexpr int LayoutWidth = 3060;
 /// sight; with this many the fan begins anew.
 constexpr int Fan = 8;
 constexpr QPoint fanStep(24, 28);
-
-void setInk(QWidget& widget, QPalette::ColorRole role, QRgb ink) {
-    QPalette palette = widget.palette();
-    palette.setColor(role, QColor(ink));
-    widget.setPalette(palette);
-}
 
 } // namespace
 
@@ -114,7 +109,7 @@ void StickerForm::makeTitle() {
     m_txtLabel1->setProperty("skinSurface", u"paper"_s);
     m_txtLabel1->setFont(skin::font(10, true));
     m_txtLabel1->setAccessibleName(u"Title"_s);
-    setInk(*m_txtLabel1, QPalette::Text, skin::colour::StickerInk);
+    skin::setInk(*m_txtLabel1, skin::colour::StickerInk, QPalette::Text);
     connect(m_txtLabel1, &QLineEdit::textChanged, this, &StickerForm::setWindowTitle);
     makeTitleLine(*m_txtLabel1);
 }
@@ -134,7 +129,7 @@ void StickerForm::makeClock() {
     m_lblVreme->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_lblVreme->setFont(skin::font(10));
     m_lblVreme->setCursor(Qt::SizeAllCursor);
-    setInk(*m_lblVreme, QPalette::WindowText, skin::colour::StickerQuiet);
+    skin::setInk(*m_lblVreme, skin::colour::StickerQuiet);
     connect(
         m_lblVreme, &ClockLabel::MouseDown, this,
         [this](int button, int, float x, float y) {
@@ -182,22 +177,8 @@ void StickerForm::updateClock() {
 }
 
 void StickerForm::chooseFont() {
-    CommonDialog& dialog = m_CommonDialog1;
-    dialog.CancelError = true;
-    const auto failure = firstFailure([&] {
-        loadFontFromSelection(dialog, *m_Text1);
-        dialog.Flags = FontDialogFlags;
-        dialog.ShowFont();
-        applyFontToSelection(dialog, *m_Text1);
+    if (chooseFontOfSelection(m_CommonDialog1, *m_Text1))
         m_Text1->setFocus();
-    });
-    if (!failure || failure->number() != ErrorNumber::InvalidUseOfNull)
-        return;
-    // A mixed selection has no font to start from; what is chosen now is not applied.
-    endSilently([&] {
-        dialog.Flags = FontDialogFlags;
-        dialog.ShowFont();
-    });
 }
 
 void StickerForm::paintEvent(QPaintEvent*) {

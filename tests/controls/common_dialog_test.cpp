@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/common_dialog.h"
 #include "controls/font_dialog.h"
-#include "controls/program_end.h"
+#include "runtime/program_end.h"
 #include "support/scripted_dialogs.h"
 #include "support/test_main.h"
 

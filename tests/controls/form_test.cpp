@@ -8,6 +8,7 @@
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTimer>
+#include <QWindow>
 
 using namespace orvalis;
 
@@ -59,6 +60,7 @@ private slots:
     void theFirstWindowOpensInTheMiddleOfTheScreen();
     void aWindowThatTakesAPlaceHasTheSameCentre();
     void aWindowNeverOpensOutsideTheScreen();
+    void aWindowShownOverAnotherBelongsToIt();
     void theWindowManagersCloseAsksAndDoesNotClose();
     void anUnloadedFormIsDeafAndStaysHidden();
 };
@@ -228,6 +230,19 @@ void FormTest::aWindowNeverOpensOutsideTheScreen() {
     form.setFixedSize(room.width() + 100, room.height() + 100);
     form.Show();
     QCOMPARE(form.pos(), room.topLeft());
+}
+
+void FormTest::aWindowShownOverAnotherBelongsToIt() {
+    LoggingForm owner(QStringLiteral("a"));
+    LoggingForm form(QStringLiteral("b"));
+    owner.load();
+    form.load();
+    owner.Show();
+    form.ShowOver(owner);
+    QVERIFY(form.isVisible());
+    QCOMPARE(form.windowModality(), Qt::NonModal);
+    QCOMPARE(form.windowHandle()->transientParent(), owner.windowHandle());
+    QCOMPARE(form.log, words({"load", "activate"}));
 }
 
 void FormTest::theWindowManagersCloseAsksAndDoesNotClose() {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "controls/msg_box.h"
-#include "controls/program_end.h"
+#include "runtime/program_end.h"
 #include "support/test_main.h"
 
 #include <QAbstractButton>

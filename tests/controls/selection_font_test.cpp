@@ -4,6 +4,7 @@
 #include "controls/rich_text_box.h"
 #include "controls/selecting.h"
 #include "controls/selection_font.h"
+#include "support/scripted_dialogs.h"
 #include "support/test_main.h"
 
 #include <QApplication>
@@ -19,6 +20,11 @@ private slots:
     void theDialogTakesTheSelectionsFont();
     void aMixedSelectionStopsAtTheFirstThatIsMixed();
     void theSelectionTakesTheDialogsFontInOneStep();
+    void theCommandStartsFromTheSelectionAndGivesItWhatIsChosen();
+    void aCancelledCommandLeavesTheSelectionAndSaysSo();
+    void overAMixedSelectionTheDialogComesUpAndItsChoiceIsNotApplied();
+    void aCancelThatIsPassedOverWritesBackWhatWasLoaded();
+    void whatCouldNotBeReadAndWasNotChosenStays();
 
 private:
     QtDialogs m_dialogs; // never shown
@@ -96,6 +102,111 @@ void SelectionFontTest::theSelectionTakesTheDialogsFontInOneStep() {
     QCOMPARE(box.SelBold(), std::optional(false));
     QCOMPARE(box.SelColor(), std::optional(0U));
     QVERIFY(!box.CanUndo());
+}
+
+namespace {
+
+/// "some words", "words" in another font and bold; all of it selected.
+void mixUp(RichTextBox& box) {
+    box.SetText(u"some words"_s);
+    select(box, 5, 5);
+    box.SetSelFontName(u"Liberation Mono"_s);
+    box.SetSelBold(true);
+    box.selectAll();
+}
+
+/// What is chosen in the dialog.
+const FontChoice Chosen{.italic = true,
+                        .bold = true,
+                        .name = u"Liberation Serif"_s,
+                        .size = 20,
+                        .strikethrough = true,
+                        .underline = true,
+                        .colour = 0x0000FF};
+
+} // namespace
+
+void SelectionFontTest::theCommandStartsFromTheSelectionAndGivesItWhatIsChosen() {
+    RichTextBox box;
+    box.SetText(u"some words"_s);
+    select(box, 5, 5);
+    box.SetSelFontName(u"Liberation Mono"_s);
+    ScriptedDialogs dialogs;
+    CommonDialog dialog(dialogs);
+    dialogs.answerFont(Chosen);
+    QVERIFY(chooseFontOfSelection(dialog, box));
+    QCOMPARE(dialogs.fonts.size(), 1);
+    QCOMPARE(dialogs.fonts[0].name, u"Liberation Mono"_s);
+    QCOMPARE(dialog.Flags, FontDialogFlags);
+    QCOMPARE(box.SelFontName(), std::optional(Chosen.name));
+    QCOMPARE(box.SelFontSize(), std::optional(Chosen.size));
+    QCOMPARE(box.SelColor(), std::optional(Chosen.colour));
+    QVERIFY(box.SelItalic().value() && box.SelBold().value() && box.SelUnderline().value());
+    select(box, 0, 4);
+    QVERIFY(!box.SelItalic().value());
+}
+
+void SelectionFontTest::aCancelledCommandLeavesTheSelectionAndSaysSo() {
+    RichTextBox box;
+    box.SetText(u"some words"_s);
+    box.selectAll();
+    const QByteArray before = box.TextRTF();
+    ScriptedDialogs dialogs;
+    CommonDialog dialog(dialogs);
+    dialogs.answerFont(std::nullopt);
+    QVERIFY(!chooseFontOfSelection(dialog, box));
+    QCOMPARE(box.TextRTF(), before);
+    QVERIFY(!box.CanUndo());
+}
+
+void SelectionFontTest::overAMixedSelectionTheDialogComesUpAndItsChoiceIsNotApplied() {
+    RichTextBox box;
+    mixUp(box);
+    const QByteArray before = box.TextRTF();
+    ScriptedDialogs dialogs;
+    CommonDialog dialog(dialogs);
+    dialogs.answerFont(Chosen);
+    QVERIFY(!chooseFontOfSelection(dialog, box));
+    QCOMPARE(dialogs.fonts.size(), 1);
+    QCOMPARE(dialog.Flags, FontDialogFlags);
+    QCOMPARE(box.TextRTF(), before);
+}
+
+void SelectionFontTest::aCancelThatIsPassedOverWritesBackWhatWasLoaded() {
+    RichTextBox box;
+    box.SetText(u"some words"_s);
+    box.selectAll();
+    box.SetSelItalic(true);
+    box.SetSelFontName(u"Liberation Mono"_s);
+    ScriptedDialogs dialogs;
+    CommonDialog dialog(dialogs);
+    dialogs.answerFont(std::nullopt);
+    QSignalSpy changes(&box, &RichTextBox::Change);
+    chooseFontPassingOver(dialog, box);
+    QCOMPARE(dialogs.fonts.size(), 1);
+    QCOMPARE(box.SelFontName(), std::optional(u"Liberation Mono"_s));
+    QCOMPARE(box.SelItalic(), std::optional(true));
+    QVERIFY(changes.count() <= 1);
+}
+
+void SelectionFontTest::whatCouldNotBeReadAndWasNotChosenStays() {
+    RichTextBox box;
+    mixUp(box);
+    ScriptedDialogs dialogs;
+    CommonDialog dialog(dialogs);
+    dialog.FontName = u"left by another command"_s;
+    dialog.FontBold = false;
+    FontChoice choice;
+    choice.name = dialog.FontName;
+    choice.bold = true;
+    choice.size = 20;
+    dialogs.answerFont(choice);
+    chooseFontPassingOver(dialog, box);
+    QCOMPARE(box.SelBold(), std::optional(true)); // chosen
+    QCOMPARE(box.SelFontSize(), std::optional(20.0));
+    QCOMPARE(box.SelFontName(), std::optional<QString>()); // still mixed
+    select(box, 5, 5);
+    QCOMPARE(box.SelFontName(), std::optional(u"Liberation Mono"_s));
 }
 
 ORVALIS_TEST_MAIN_WITH(QApplication, SelectionFontTest)

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
-#include "controls/program_end.h"
 #include "core/application.h"
 #include "runtime/failure.h"
+#include "runtime/program_end.h"
 #include "support/scripted_boxes.h"
 #include "support/test_main.h"
 

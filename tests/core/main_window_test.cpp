@@ -185,9 +185,9 @@ void MainWindowTest::aClockFontThatTheMachineHasIsUsed() {
 void MainWindowTest::aClockFontThatTheMachineLacksIsReplaced() {
     ClockLabel label(u"lblVreme"_s, nullptr);
     label.setFont(QFont(u"Digital SF"_s, 12, QFont::Bold));
-    label.useClockFont();
+    label.useClockFont(16);
     QCOMPARE(label.font().families().constFirst(), u"Arial"_s);
-    QCOMPARE(label.font().pointSize(), 12);
+    QCOMPARE(label.font().pointSize(), 16);
     QVERIFY(label.font().bold());
 }
 

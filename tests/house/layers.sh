@@ -2,8 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The Orvalis developers
 # SPDX-License-Identifier: MIT
 #
-# A folder of src includes only the folders below it. Headers are found from one root, so a link line
-# alone would not stop an include.
+# layers.sh ROOT SUBSYSTEM...: a folder of src includes only the folders below it. Headers are found
+# from one root, so a link line alone would not stop an include.
 set -euo pipefail
 cd "$1/src"
 
@@ -17,7 +17,7 @@ declare -A allowed=(
   [skin]="runtime"
   [core]="$base"
 )
-for subsystem in alarm planner stickers notes password address letters; do
+for subsystem in "${@:2}"; do
   allowed[$subsystem]="$base core"
 done
 

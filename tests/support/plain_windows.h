@@ -4,6 +4,7 @@
 
 #include "core/program.h"
 #include "runtime/failure.h"
+#include "support/answering_roles.h"
 
 #include <memory>
 #include <optional>
@@ -13,7 +14,7 @@ namespace orvalis::test {
 
 /// A window that is only what the others know it as.
 template <class Role>
-class PlainWindow : public Form, public Role {
+class PlainWindow : public Form, public Answering<Role> {
 public:
     explicit PlainWindow(const QString& name)
         : Form(name) {}

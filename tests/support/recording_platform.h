@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/logon_entry.h"
+#include "platform/mail.h"
 #include "platform/screen.h"
 #include "platform/shell.h"
 #include "platform/sound_player.h"
@@ -12,6 +13,8 @@
 #include <QStringList>
 
 #include <functional>
+#include <optional>
+#include <vector>
 
 namespace orvalis::test {
 
@@ -37,6 +40,19 @@ public:
             throw RuntimeError(ErrorNumber::InvalidProcedureCall);
         if (!programs.contains(program))
             throw RuntimeError(ErrorNumber::FileNotFound);
+    }
+};
+
+/// Sends nothing, and keeps what it was asked for. With a \c failure it fails so.
+class RecordingMail final : public Mail {
+public:
+    std::vector<MailMessage> composed;
+    std::optional<RuntimeError> failure;
+
+    void compose(const MailMessage& message) override {
+        composed.push_back(message);
+        if (failure)
+            throw RuntimeError(*failure);
     }
 };
 

@@ -7,6 +7,7 @@
 #include "core/chrome_window.h"
 #include "core/program.h"
 #include "core/roles.h"
+#include "support/answering_roles.h"
 
 #include <QStringList>
 
@@ -19,7 +20,7 @@ namespace orvalis::test {
 /// A window that does nothing but write its life into a log: "load", "show", "hide", "unload" and
 /// its name.
 template <class Role>
-class LoggedWindow : public Form, public Role {
+class LoggedWindow : public Form, public Answering<Role> {
 public:
     LoggedWindow(const QString& name, QStringList& log)
         : Form(name)
@@ -45,7 +46,7 @@ private:
     QStringList& m_log;
 };
 
-/// Lets a role that asks nothing of its window be a LoggedWindow.
+/// Lets a role that asks no more of its window than Answering knows be a LoggedWindow.
 template <class Role>
 void registerLogged(Program& program, const QString& name, QStringList& log) {
     program.windows.registerMaker<Role>(
@@ -54,10 +55,10 @@ void registerLogged(Program& program, const QString& name, QStringList& log) {
 
 /// A window with the chrome and nothing else, which logs when it shows and hides.
 template <class Role>
-class LoggedPanel : public ChromePanel<Role> {
+class LoggedPanel : public ChromePanel<Answering<Role>> {
 public:
     LoggedPanel(Program& program, ChromeKind kind, QStringList& log)
-        : ChromePanel<Role>(program, chromeRow(kind))
+        : ChromePanel<Answering<Role>>(program, chromeRow(kind))
         , m_log(log) {}
 
 protected:

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "controls/program_end.h"
 #include "core/application.h"
 #include "core/program.h"
 #include "platform/registry.h"
 #include "runtime/app.h"
+#include "runtime/program_end.h"
 #include "support/fake_clock.h"
 #include "support/memory_settings_store.h"
 #include "support/recording_platform.h"
@@ -42,6 +42,7 @@ public:
     ScriptedBoxes boxes;
     ScriptedDialogs dialogs;
     RecordingShell shell;
+    RecordingMail mail;
     RecordingSoundPlayer sound;
     FakeScreen screen;
     App app{folder.file(QStringLiteral("orvalis")), folder.file(QStringLiteral("data")), {}};
@@ -52,6 +53,7 @@ public:
                      .boxes = boxes,
                      .dialogs = dialogs,
                      .shell = shell,
+                     .mail = mail,
                      .sound = sound,
                      .screen = screen}};
 };

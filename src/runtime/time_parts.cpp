@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
-#include "alarm/alarm_set_rules.h"
+#include "runtime/time_parts.h"
 
 #include "runtime/numeric_text.h"
 
@@ -8,9 +8,9 @@ namespace orvalis {
 
 using namespace Qt::StringLiterals;
 
-bool isTimePart(const QString& text, int limit) {
+bool isTimePart(const QString& text, int last) {
     const auto value = numericValue(text);
-    return value.has_value() && *value >= 0 && *value <= limit;
+    return value.has_value() && *value >= 0 && *value <= last;
 }
 
 QString twoDigits(const QString& text) {
@@ -18,7 +18,14 @@ QString twoDigits(const QString& text) {
     return value.has_value() && *value < 10 ? u'0' + numberText(*value) : text;
 }
 
-QString shownTime(const QString& hour, const QString& minute) {
+QStringList twoDigitNumbers(int last) {
+    QStringList numbers;
+    for (int number = 0; number <= last; ++number)
+        numbers << twoDigits(QString::number(number));
+    return numbers;
+}
+
+QString spacedTime(const QString& hour, const QString& minute) {
     return hour + u" : "_s + minute + u" : 00"_s;
 }
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
-#include "controls/program_end.h"
+#include "runtime/program_end.h"
 
 #include <QCoreApplication>
 #include <QVariant>

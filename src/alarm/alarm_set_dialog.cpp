@@ -27,7 +27,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int ChoicePoints = 12;
 constexpr int PlainText = 1;
 
 void fillWithTwoDigits(ComboBox& box, int last) {
@@ -76,7 +75,7 @@ void frmAlSet::makeTimeControls(QWidget& frame) {
     m_Combo2 = timeBox(frame, u"Combo2"_s, u"Minute"_s, {84, 35, 60, 23});
     m_Label5 = caption(frame, u"Label5"_s, u"00:00:00"_s, {150, 33, 96, 26});
     m_Label5->setAlignment(Qt::AlignCenter);
-    m_Label5->setFont(skin::font(ChoicePoints, true));
+    m_Label5->setFont(skin::font(skin::points::ChosenTime, true));
     connect(
         m_Label5, &Label::Change, this,
         [this] { setWindowTitle(u"Alarm Time Set:  "_s + m_Label5->Caption()); });

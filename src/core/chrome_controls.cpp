@@ -44,7 +44,7 @@ void ChromeWindow::makeClock() {
     lblVreme = new ClockLabel(u"lblVreme"_s, this);
     lblVreme->setGeometry(layout.clock);
     lblVreme->setAlignment(layout.clockAlignment);
-    lblVreme->setFont(skin::font(16));
+    lblVreme->setFont(skin::font(skin::points::Clock));
     skin::setInk(*lblVreme, skin::colour::GlassText);
     connect(lblVreme, &Label::MouseMove, this, &ChromeWindow::showDateInClock);
     m_clockTimer = new AlignedTimer(m_program.services.clock, this, m_row.clockInterval);
@@ -57,7 +57,7 @@ void ChromeWindow::makeAlarmDisplay() {
     lblAlarm = new Label(u"lblAlarm"_s, {}, this);
     lblAlarm->setGeometry(layout.alarm);
     lblAlarm->setAlignment(layout.alarmAlignment);
-    lblAlarm->setFont(skin::font(10));
+    lblAlarm->setFont(skin::font(skin::points::PanelLabel));
     skin::setInk(*lblAlarm, skin::colour::GlassAlarm);
     connect(lblAlarm, &Label::Change, this, &ChromeWindow::alarmCaptionChanged);
 
@@ -86,7 +86,7 @@ void ChromeWindow::makePanelLabels() {
     lblRem = new Label(u"lblRem"_s, m_row.title, this);
     lblRem->setGeometry(24, 14, 118, 22);
     lblRem->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    QFont titleFont = skin::font(11, true);
+    QFont titleFont = skin::font(skin::points::Title, true);
     titleFont.setLetterSpacing(QFont::AbsoluteSpacing, 2);
     lblRem->setFont(titleFont);
     lblRem->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -99,7 +99,7 @@ void ChromeWindow::makePanelLabels() {
         auto* label = new Label(entry.name, entry.caption, this);
         label->setGeometry(Places.at(i));
         label->setAlignment(Qt::AlignCenter);
-        label->setFont(skin::font(10));
+        label->setFont(skin::font(skin::points::PanelLabel));
         label->setCursor(Qt::PointingHandCursor);
         skin::setInk(*label, skin::colour::LabelInk);
         connect(

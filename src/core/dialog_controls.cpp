@@ -11,14 +11,8 @@
 
 namespace orvalis {
 
-namespace {
-
-constexpr int DialogPoints = 8;
-
-} // namespace
-
 QFont dialogFont() {
-    return skin::font(DialogPoints);
+    return skin::font(skin::points::Body);
 }
 
 QGroupBox* dialogFrame(QWidget& parent, const QString& name, const QString& caption,

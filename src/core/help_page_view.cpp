@@ -13,7 +13,6 @@ using namespace Qt::StringLiterals;
 
 const QString Scheme = u"help"_s;
 constexpr int PageMargin = 18;
-constexpr int PagePoints = 10;
 /// Pictures of a page are drawn at twice the size that they are shown at.
 constexpr qreal DrawnRatio = 2;
 
@@ -47,7 +46,7 @@ HelpPageView::HelpPageView(QWidget* parent)
     setOpenLinks(false);
     setFrameShape(QFrame::NoFrame);
     document()->setDocumentMargin(PageMargin);
-    document()->setDefaultFont(skin::font(PagePoints));
+    document()->setDefaultFont(skin::font(skin::points::Reading));
 }
 
 void HelpPageView::setFile(const ChmFile* file) {

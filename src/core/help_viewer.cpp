@@ -34,7 +34,6 @@ using namespace Qt::StringLiterals;
 
 constexpr QSize FirstSize(820, 560);
 constexpr int SideWidth = 230;
-constexpr int SidePoints = 9;
 constexpr int AddressRole = Qt::UserRole;
 
 bool isPage(const QString& file) {
@@ -57,7 +56,7 @@ QToolButton* toolButton(QWidget* parent, const QString& name, const QString& pic
     button->setAutoRaise(true);
     button->setIcon(skin::icon(picture));
     button->setText(caption);
-    button->setFont(skin::font(SidePoints));
+    button->setFont(skin::font(skin::points::Body));
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     return button;
 }
@@ -96,7 +95,7 @@ HelpViewer::~HelpViewer() = default;
 
 QWidget* HelpViewer::makeSide() {
     auto* side = new QWidget(this);
-    side->setFont(skin::font(SidePoints));
+    side->setFont(skin::font(skin::points::Body));
     m_search = new QLineEdit(side);
     m_search->setObjectName(u"helpSearch"_s);
     m_search->setPlaceholderText(tr("Search"));

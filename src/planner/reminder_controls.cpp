@@ -26,15 +26,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int DesignPoints = 10;
-constexpr int TimeLabelPoints = 11;
-/// The layout leaves the font of a frame alone, so its caption has a size between those that the
-/// labels take from screen to screen.
-constexpr int FrameCaptionPoints = 9;
 constexpr QRect EntryPlace(26, 279, 296, 155);
 constexpr QRect SubPanelPlace(380, 80, 296, 354);
 constexpr QRect ListPlace(0, 0, 296, 322);
-constexpr QRect SavePlace(222, 329, 74, 25);
+constexpr QRect SavePlace(220, 329, 76, 25);
+constexpr int CommandGap = 4;
+constexpr QSize CommandSize(51, 25);
 
 /// A picture button.
 Image* command(QWidget& parent, const QString& name, const QRect& place, const QString& toolTip,
@@ -53,7 +50,7 @@ GGCommand* button(QWidget& parent, const QString& name, const QRect& place, cons
     auto* made = new GGCommand(name, &parent);
     made->setGeometry(place);
     made->setCaption(caption);
-    made->setFont(skin::font(DesignPoints));
+    made->setFont(skin::font(skin::points::Body));
     wearLook(*made, look);
     return made;
 }
@@ -68,7 +65,7 @@ GGCommand* button(QWidget& parent, const QString& name, const QRect& place, cons
 Label* label(QWidget& parent, const QString& name, const QRect& place, const QString& caption) {
     auto* made = new Label(name, caption, &parent);
     made->setGeometry(place);
-    made->setFont(skin::font(DesignPoints));
+    made->setFont(skin::font(skin::points::Body));
     return made;
 }
 
@@ -76,7 +73,7 @@ QCheckBox* check(QWidget& parent, const QString& name, const QRect& place, const
     auto* made = new QCheckBox(caption, &parent);
     made->setObjectName(name);
     made->setGeometry(place);
-    made->setFont(skin::font(DesignPoints));
+    made->setFont(skin::font(skin::points::Body));
     return made;
 }
 
@@ -84,7 +81,7 @@ QLineEdit* line(QWidget& parent, const QString& name, const QRect& place) {
     auto* made = new QLineEdit(&parent);
     made->setObjectName(name);
     made->setGeometry(place);
-    made->setFont(skin::font(DesignPoints));
+    made->setFont(skin::font(skin::points::Body));
     return made;
 }
 
@@ -94,7 +91,7 @@ RichTextBox* richText(QWidget& parent, const QString& name, const QRect& place,
     made->setObjectName(name);
     made->setAccessibleName(accessibleName);
     made->setGeometry(place);
-    made->setFont(skin::font(DesignPoints));
+    made->setFont(skin::font(skin::points::Body));
     return made;
 }
 
@@ -102,7 +99,7 @@ ComboBox* combo(QWidget& parent, const QString& name, const QRect& place,
                 const QString& accessibleName) {
     auto* made = new ComboBox(name, &parent);
     made->setGeometry(place);
-    made->setFont(skin::font(DesignPoints));
+    made->setFont(skin::font(skin::points::Body));
     made->setText(u"00"_s);
     made->setAccessibleName(accessibleName);
     return made;
@@ -112,7 +109,7 @@ QGroupBox* frame(QWidget& parent, const QString& name, const QString& caption) {
     auto* made = new QGroupBox(caption, &parent);
     made->setObjectName(name);
     made->setGeometry(EntryPlace);
-    made->setFont(skin::font(FrameCaptionPoints));
+    made->setFont(skin::font(skin::points::Body));
     return made;
 }
 
@@ -121,7 +118,7 @@ MSFlexGrid* grid(QWidget& parent, const QString& name, const QString& accessible
     made->setObjectName(name);
     made->setAccessibleName(accessibleName);
     made->setGeometry(ListPlace);
-    made->setFont(skin::font(DesignPoints));
+    made->setFont(skin::font(skin::points::Body));
     return made;
 }
 
@@ -145,8 +142,8 @@ void ReminderControls::makeCommands(QWidget& panel) {
     imgNot = command(panel, u"imgNot"_s, {290, 50, 32, 32}, u"Create Sticker"_s, u"sticker"_s);
     MonthView1 = new MonthView(&panel);
     MonthView1->setObjectName(u"MonthView1"_s);
-    MonthView1->setGeometry(50, 86, 248, 161);
-    MonthView1->setFont(skin::font(DesignPoints));
+    MonthView1->setGeometry(26, 86, 296, 161);
+    MonthView1->setFont(skin::font(skin::points::Body));
     MonthView1->setToolTip(u"Click on Calendar Item to change it"_s);
     txt1 = line(panel, u"txt1"_s, {26, 251, 296, 23});
     txt1->setText(u"Title"_s);
@@ -166,13 +163,13 @@ void ReminderControls::makeReminderFrame(QWidget& panel) {
     Frame3 = frame(panel, u"Frame3"_s, u"Click on calendar to set date"_s);
     Label8 = label(*Frame3, u"Label8"_s, {10, 17, 82, 16}, u"Date set to: "_s);
     Label9 = label(*Frame3, u"Label9"_s, {94, 17, 120, 16}, {});
-    Label9->setFont(skin::font(DesignPoints, true));
+    Label9->setFont(skin::font(skin::points::Body, true));
     Label3 = label(*Frame3, u"Label3"_s, {10, 40, 34, 16}, u"Hour"_s);
     Combo1 = combo(*Frame3, u"Combo1"_s, {46, 36, 52, 23}, u"Hour"_s);
     Label1 = label(*Frame3, u"Label1"_s, {108, 40, 26, 16}, u"Min"_s);
     Combo2 = combo(*Frame3, u"Combo2"_s, {136, 36, 52, 23}, u"Min"_s);
     Label5 = label(*Frame3, u"Label5"_s, {198, 36, 90, 23}, {});
-    Label5->setFont(skin::font(TimeLabelPoints, true));
+    Label5->setFont(skin::font(skin::points::ChosenTime, true));
     Label5->setAlignment(Qt::AlignCenter);
     Label6 = label(*Frame3, u"Label6"_s, {10, 63, 200, 16}, u"Event Message"_s);
     rtMs2 = richText(*Frame3, u"rtMs2"_s, {8, 80, 280, 41}, u"Event Message"_s);
@@ -210,11 +207,16 @@ void ReminderControls::makeSubPanels(QWidget& panel) {
     rt1a = richText(*OwnerFrame[2], u"rt1a"_s, ListPlace, u"To-Do"_s);
     imstodo = button(*OwnerFrame[2], u"imstodo"_s, SavePlace, u"Save"_s, u"save_small"_s);
     rt2 = richText(*OwnerFrame[3], u"rt2"_s, ListPlace, u"Weekly"_s);
-    Button4 = button(*OwnerFrame[3], u"Button4"_s, {0, 329, 56, 25}, u"New"_s);
-    imgOpen = button(*OwnerFrame[3], u"imgOpen"_s, {60, 329, 56, 25}, u"Open"_s);
-    imgoe = button(*OwnerFrame[3], u"imgoe"_s, {120, 329, 56, 25}, u"Save"_s);
-    Button5 = button(*OwnerFrame[3], u"Button5"_s, {180, 329, 56, 25}, u"Save As"_s);
-    Button6 = button(*OwnerFrame[3], u"Button6"_s, {240, 329, 56, 25}, u"Font"_s);
+    // Save stands where it stands on the other sheets, and looks as it does there.
+    const auto place = [](int number) {
+        return QRect(QPoint(number * (CommandSize.width() + CommandGap), SavePlace.y()),
+                     CommandSize);
+    };
+    Button4 = button(*OwnerFrame[3], u"Button4"_s, place(0), u"New"_s);
+    imgOpen = button(*OwnerFrame[3], u"imgOpen"_s, place(1), u"Open"_s);
+    Button6 = button(*OwnerFrame[3], u"Button6"_s, place(2), u"Font"_s);
+    Button5 = button(*OwnerFrame[3], u"Button5"_s, place(3), u"Save As"_s);
+    imgoe = button(*OwnerFrame[3], u"imgoe"_s, SavePlace, u"Save"_s, u"save_small"_s);
 }
 
 void ReminderControls::keepMenusAway() {
@@ -231,7 +233,7 @@ void ReminderControls::setTabOrder() {
         Check1,     Check2,     FindButton, FindNextButton, imgBack, MonthView1,
         cmdmenu[0], cmdmenu[1], cmdmenu[2], cmdmenu[3],     MS3,     imgso,
         MS1,        imgsoo,     rt1a,       imstodo,        rt2,     Button4,
-        imgOpen,    imgoe,      Button5,    Button6};
+        imgOpen,    Button6,    Button5,    imgoe};
     QWidget* before = nullptr;
     for (QWidget* control : order) {
         if (before)

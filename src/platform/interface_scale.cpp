@@ -12,7 +12,7 @@ namespace orvalis {
 
 namespace {
 
-constexpr double DrawnWidth = 900;
+constexpr double DrawnWidth = 800;
 constexpr double DrawnHeight = 600;
 constexpr double StepsToOne = 8;
 /// A screen that fits exactly must not lose a step to a quotient's last digit.
@@ -22,6 +22,12 @@ constexpr double Slack = 1e-6;
 std::optional<QByteArray>& replacedFactor() {
     static std::optional<QByteArray> factor;
     return factor;
+}
+
+/// The size of the screen that the scale was made for, in scaled units.
+QSizeF& measuredSize() {
+    static QSizeF size;
+    return size;
 }
 
 } // namespace
@@ -34,6 +40,7 @@ double interfaceScale(double width, double height) {
 double applyInterfaceScale() {
     const std::optional<QSizeF> screen = primaryScreenSize();
     const double scale = screen ? interfaceScale(screen->width(), screen->height()) : 1.0;
+    measuredSize() = screen.value_or(QSizeF()) / scale;
     if (scale > 1.0 && !replacedFactor()) {
         replacedFactor() = qgetenv(ScaleVariable);
         qputenv(ScaleVariable, QByteArray::number(userFactor() * scale));
@@ -50,6 +57,10 @@ void withdrawInterfaceScale() {
     else
         qputenv(ScaleVariable, *replacedFactor());
     replacedFactor().reset();
+}
+
+QSizeF unroundedSize(QSize told) {
+    return measuredSize().toSize() == told ? measuredSize() : QSizeF(told);
 }
 
 QByteArray userScaleFactor() {

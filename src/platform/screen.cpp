@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/screen.h"
 
+#include "platform/interface_scale.h"
+
 #include <QGuiApplication>
 #include <QScreen>
 
 #include <algorithm>
+#include <cmath>
 
 namespace orvalis {
 
@@ -13,6 +16,13 @@ namespace {
 
 constexpr int ScreenWidthIndex = 0;
 constexpr int ScreenHeightIndex = 1;
+constexpr qreal WidestToHigh = 4.0 / 3;
+/// A quotient's last digit must not cost a unit.
+constexpr qreal Slack = 1e-6;
+
+int roundedDown(qreal units) {
+    return static_cast<int>(std::floor(units + Slack));
+}
 
 /// Where a length that begins at \a start has to begin to lie between \a low and \a high.
 int inside(int start, int length, int low, int high) {
@@ -22,14 +32,15 @@ int inside(int start, int length, int low, int high) {
 } // namespace
 
 int Screen::GetSystemMetrics(int index) const {
+    const QSizeF screen = size();
     if (index == ScreenWidthIndex)
-        return size().width();
-    return index == ScreenHeightIndex ? size().height() : 0;
+        return roundedDown(std::min(screen.width(), screen.height() * WidestToHigh));
+    return index == ScreenHeightIndex ? roundedDown(screen.height()) : 0;
 }
 
-QSize DesktopScreen::size() const {
+QSizeF DesktopScreen::size() const {
     const QScreen* screen = QGuiApplication::primaryScreen();
-    return screen ? screen->size() : QSize();
+    return screen ? unroundedSize(screen->size()) : QSizeF();
 }
 
 QRect DesktopScreen::workArea() const {

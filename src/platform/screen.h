@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QRect>
+#include <QSizeF>
 
 namespace orvalis {
 
@@ -11,18 +12,21 @@ class Screen {
 public:
     virtual ~Screen() = default;
 
-    virtual QSize size() const = 0;
+    /// A scaled screen need not be a whole number of units wide or high.
+    virtual QSizeF size() const = 0;
     /// The part of the screen that windows may cover, free of panels.
     virtual QRect workArea() const = 0;
 
-    /// The screen's width for 0, its height for 1, 0 for any other index.
+    /// The width of the desktop that windows are drawn for, for 0: the screen's own, at most four
+    /// thirds of its height, since a wide screen makes no letters larger and so is to make none
+    /// smaller. The screen's height for 1, 0 for any other index. Rounded down.
     int GetSystemMetrics(int index) const;
 };
 
 /// The primary screen of the desktop. Needs the application object.
 class DesktopScreen final : public Screen {
 public:
-    QSize size() const override;
+    QSizeF size() const override;
     QRect workArea() const override;
 };
 

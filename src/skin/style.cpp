@@ -218,12 +218,11 @@ QIcon Style::standardIcon(StandardPixmap picture, const QStyleOption* option,
 }
 
 void dress(QApplication& application) {
-    constexpr int DialogPoints = 9;
     QApplication::setStyle(new Style);
     QApplication::setPalette(windowPalette());
-    QApplication::setFont(font(DialogPoints));
+    QApplication::setFont(font(points::Body));
     QToolTip::setPalette(windowPalette());
-    QToolTip::setFont(font(DialogPoints));
+    QToolTip::setFont(font(points::Body));
     application.setWindowIcon(icon(u"orvalis"));
 }
 

@@ -71,7 +71,7 @@ StickerForm::StickerForm(Program& program, const QString& name, const QString& d
     connect(font, &GGCommand::Click, this, &StickerForm::chooseFont);
     GGCommand* close = makeButton(u"Image2"_s, {}, u"Close"_s, {166, 3, 22, 18});
     close->setCaption(u"x"_s);
-    close->setFont(skin::font(10, true));
+    close->setFont(skin::font(skin::points::Body, true));
     connect(close, &GGCommand::Click, this, &StickerForm::unloadRequested);
     makeText();
     makeClock();
@@ -107,7 +107,7 @@ void StickerForm::makeTitle() {
     m_txtLabel1->setGeometry(26, 3, 88, 18);
     m_txtLabel1->setFrame(false);
     m_txtLabel1->setProperty("skinSurface", u"paper"_s);
-    m_txtLabel1->setFont(skin::font(10, true));
+    m_txtLabel1->setFont(skin::font(skin::points::Body, true));
     m_txtLabel1->setAccessibleName(u"Title"_s);
     skin::setInk(*m_txtLabel1, skin::colour::StickerInk, QPalette::Text);
     connect(m_txtLabel1, &QLineEdit::textChanged, this, &StickerForm::setWindowTitle);
@@ -119,7 +119,7 @@ void StickerForm::makeText() {
     m_Text1->setObjectName(u"Text1"_s);
     m_Text1->setGeometry(6, 27, 182, 98);
     m_Text1->setProperty("skinSurface", u"paper"_s);
-    m_Text1->setFont(skin::font(10));
+    m_Text1->setFont(skin::font(skin::points::Body));
     m_Text1->setAccessibleName(u"Note"_s);
 }
 
@@ -127,7 +127,7 @@ void StickerForm::makeClock() {
     m_lblVreme = new ClockLabel(u"lblVreme"_s, this);
     m_lblVreme->setGeometry(6, 126, 181, 17);
     m_lblVreme->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    m_lblVreme->setFont(skin::font(10));
+    m_lblVreme->setFont(skin::font(skin::points::Body));
     m_lblVreme->setCursor(Qt::SizeAllCursor);
     skin::setInk(*m_lblVreme, skin::colour::StickerQuiet);
     connect(

@@ -2,11 +2,33 @@
 // SPDX-License-Identifier: MIT
 #include "core/layout_rule.h"
 
+#include "platform/interface_scale.h"
+#include "platform/screen.h"
+#include "skin/type.h"
 #include "support/test_main.h"
 
 #include <QCoreApplication>
 
 using namespace orvalis;
+
+namespace {
+
+/// The font factor on a screen of that many pixels.
+double factorOn(QSizeF pixels) {
+    class Scaled final : public Screen {
+    public:
+        explicit Scaled(QSizeF pixels)
+            : m_size(pixels / interfaceScale(pixels.width(), pixels.height())) {}
+        QSizeF size() const override { return m_size; }
+        QRect workArea() const override { return {}; }
+
+    private:
+        QSizeF m_size;
+    };
+    return fontFactor(Scaled(pixels).GetSystemMetrics(0));
+}
+
+} // namespace
 
 class LayoutRuleTest : public QObject {
     Q_OBJECT
@@ -16,6 +38,9 @@ private slots:
     void aFontSizeIsReadAndStoredAsAWholeNumber_data();
     void aFontSizeIsReadAndStoredAsAWholeNumber();
     void aSizeSurvivesRunsOnAnyScreen();
+    void theWindowsTypeKeepsItsSizeOnUsualScreens_data();
+    void theWindowsTypeKeepsItsSizeOnUsualScreens();
+    void noScreenTakesMoreThanAPointFromWhatIsRead();
     void theRatioIsASinglePrecisionNumber();
     void aGeometryValueGrowsWithThePicture();
     void withoutARatioAGeometryValueStays();
@@ -75,6 +100,32 @@ void LayoutRuleTest::aSizeSurvivesRunsOnAnyScreen() {
     }
     QCOMPARE(unscaledFontSize(11, 1.0), 11);
     QCOMPARE(unscaledFontSize(8, 1.37), 11);
+}
+
+void LayoutRuleTest::theWindowsTypeKeepsItsSizeOnUsualScreens_data() {
+    QTest::addColumn<QSizeF>("screen");
+    for (const QSizeF& screen :
+         {QSizeF(800, 600), QSizeF(1024, 600), QSizeF(1024, 768), QSizeF(1366, 768),
+          QSizeF(1440, 900), QSizeF(1600, 900), QSizeF(1600, 1200), QSizeF(1680, 1050),
+          QSizeF(1920, 1080), QSizeF(1920, 1200), QSizeF(2560, 1440), QSizeF(3440, 1440),
+          QSizeF(3840, 2160)})
+        QTest::addRow("%gx%g", screen.width(), screen.height()) << screen;
+}
+
+void LayoutRuleTest::theWindowsTypeKeepsItsSizeOnUsualScreens() {
+    QFETCH(QSizeF, screen);
+    const double factor = factorOn(screen);
+    for (const int size : {skin::points::Body, skin::points::PanelLabel, skin::points::Reading,
+                           skin::points::ChosenTime, skin::points::Title, skin::points::Clock})
+        QCOMPARE(scaledFontSize(size, factor), size);
+}
+
+void LayoutRuleTest::noScreenTakesMoreThanAPointFromWhatIsRead() {
+    for (int width = 800; width <= 4000; width += 3)
+        for (int height = 600; height <= 3000; height += 3) {
+            const double factor = factorOn(QSizeF(width, height));
+            QVERIFY(scaledFontSize(skin::points::Body, factor) >= skin::points::Body - 1);
+        }
 }
 
 void LayoutRuleTest::theRatioIsASinglePrecisionNumber() {

@@ -208,7 +208,7 @@ void MainWindowTest::theAlarmsImagesKeepTheirSizeAndMove() {
 }
 
 void MainWindowTest::aWiderScreenGivesSmallerPointSizes() {
-    m_test->screen.screenSize = QSize(1600, 900);
+    m_test->screen.screenSize = QSize(1600, 1200);
     QCOMPARE(window().findChild<ClockLabel*>(u"lblVreme"_s)->font().pointSize(), 8);
 }
 

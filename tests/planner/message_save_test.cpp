@@ -48,6 +48,8 @@ private slots:
     void anEmptyMessageIsFiledUnderItsStandIn();
     void entriesFollowEachOtherInTheOrderOfSaving();
     void theMessageKeepsItsOwnFormats();
+    void aTypedMessageIsWrittenInTheSizeThatItShows_data();
+    void aTypedMessageIsWrittenInTheSizeThatItShows();
     void theDueLineIsPlainSmallArial();
     void theDueLineOfATopPriorityIsRed();
     void theSavedLineIsBlackAndOtherwiseAsTheDueLine();
@@ -114,6 +116,28 @@ void MessageSaveTest::theMessageKeepsItsOwnFormats() {
     QCOMPARE(loud.size, 20.0);
     QCOMPARE(loud.colour, 0x00FF00u);
     QCOMPARE(formatOf(ground.rt1a(), u"plain"_s).bold, false);
+}
+
+void MessageSaveTest::aTypedMessageIsWrittenInTheSizeThatItShows_data() {
+    QTest::addColumn<QSize>("screen");
+    QTest::addColumn<double>("points");
+    QTest::newRow("800x600") << QSize(800, 600) << 8.0;
+    QTest::newRow("1024x768 at its scale") << QSize(819, 614) << 8.0;
+    QTest::newRow("1920x1080 at its scale") << QSize(1097, 617) << 8.0;
+    QTest::newRow("a desktop that nobody scales") << QSize(1600, 1200) << 4.0;
+}
+
+void MessageSaveTest::aTypedMessageIsWrittenInTheSizeThatItShows() {
+    QFETCH(QSize, screen);
+    QFETCH(double, points);
+    PanelGround ground(screen);
+    ground.shown();
+    QTest::keyClicks(&ground.rt1(), u"Water the roses"_s);
+    QCOMPARE(formatOf(ground.rt1(), u"Water the roses"_s).size, points);
+    ground.press(u"imgSave"_s);
+    RichTextBox elsewhere;
+    elsewhere.LoadFile(ground.folder.file(u"Vazno.rtf"_s));
+    QCOMPARE(formatOf(elsewhere, u"Water the roses"_s).size, points);
 }
 
 void MessageSaveTest::theDueLineIsPlainSmallArial() {

@@ -6,6 +6,8 @@
 
 #include <QTableView>
 
+#include <array>
+
 using namespace orvalis;
 using namespace orvalis::test;
 using namespace Qt::StringLiterals;
@@ -17,6 +19,10 @@ private slots:
     void initTestCase() { skin::dress(*qApp); }
     void theCalendarShowsItsWeeksAndNamesWhole_data();
     void theCalendarShowsItsWeeksAndNamesWhole();
+    void whatIsReadAndWrittenHasOneSize_data();
+    void whatIsReadAndWrittenHasOneSize();
+    void theCalendarStandsFlushWithTitleAndMessage();
+    void saveStandsAlikeOnAllFourSheets();
     void everyCaptionHasItsRoom_data() { theCalendarShowsItsWeeksAndNamesWhole_data(); }
     void everyCaptionHasItsRoom();
     void theLongestDateAndTimeHaveTheirRoom_data() { theCalendarShowsItsWeeksAndNamesWhole_data(); }
@@ -30,13 +36,13 @@ private:
 
 void ReminderLookTest::theCalendarShowsItsWeeksAndNamesWhole_data() {
     QTest::addColumn<int>("width");
-    for (const int width : {800, 910, 1024, 1097, 1280})
+    for (const int width : {800, 822, 864, 898, 1024})
         QTest::addRow("%d", width) << width;
 }
 
 void ReminderLookTest::theCalendarShowsItsWeeksAndNamesWhole() {
     QFETCH(int, width);
-    PanelGround ground(QSize(width, 768));
+    PanelGround ground(QSize(width, width));
     ground.shown();
     QApplication::processEvents();
     // What it asks for has the longest names of days and months in it.
@@ -61,9 +67,78 @@ void ReminderLookTest::theCalendarShowsItsWeeksAndNamesWhole() {
     }
 }
 
+void ReminderLookTest::whatIsReadAndWrittenHasOneSize_data() {
+    QTest::addColumn<QSize>("screen");
+    QTest::newRow("800x600") << QSize(800, 600);
+    QTest::newRow("1024x768 at its scale") << QSize(819, 614);
+    QTest::newRow("1920x1080 at its scale") << QSize(1097, 617);
+}
+
+void ReminderLookTest::whatIsReadAndWrittenHasOneSize() {
+    QFETCH(QSize, screen);
+    PanelGround ground(screen);
+    ground.shown();
+    const frmnotes1& panel = ground.panel();
+    QWidgetList controls{&ground.calendar()};
+    const auto add = [&controls](const auto& found) {
+        for (QWidget* widget : found)
+            controls << widget;
+    };
+    add(panel.findChildren<QGroupBox*>());
+    add(panel.findChildren<GGCommand*>());
+    add(panel.findChildren<QCheckBox*>());
+    add(panel.findChildren<QLineEdit*>());
+    add(panel.findChildren<ComboBox*>());
+    add(panel.findChildren<RichTextBox*>());
+    add(panel.findChildren<MSFlexGrid*>());
+    for (const QGroupBox* frame : panel.findChildren<QGroupBox*>())
+        add(frame->findChildren<Label*>());
+    QVERIFY(controls.size() > 40);
+    // The time that a reminder is set for is what its frame is about.
+    controls.removeOne(&ground.control<Label>(u"Label5"_s));
+    for (const QWidget* widget : std::as_const(controls))
+        QVERIFY2(widget->font().pointSizeF() == 8.0, qPrintable(widget->objectName()));
+    for (RichTextBox* box : {&ground.rt1(), &ground.rtMs2(), &ground.rt1a()})
+        QVERIFY2(box->SelFontSize() == 8.0, qPrintable(box->objectName()));
+}
+
+void ReminderLookTest::theCalendarStandsFlushWithTitleAndMessage() {
+    PanelGround ground;
+    ground.shown();
+    const QRect calendar = ground.calendar().geometry();
+    for (const char* name : {"txt1", "Frame2"}) {
+        const QRect other = ground.control<QWidget>(QString::fromLatin1(name)).geometry();
+        QCOMPARE(calendar.left(), other.left());
+        QCOMPARE(calendar.right(), other.right());
+    }
+}
+
+void ReminderLookTest::saveStandsAlikeOnAllFourSheets() {
+    PanelGround ground;
+    const GGCommand& first = ground.control<GGCommand>(u"imgso"_s);
+    const auto drawn = [](const GGCommand& button) {
+        return button.Picture().pixmap(button.Picture().size(), 1).toImage();
+    };
+    QVERIFY(!drawn(first).isNull());
+    for (const char* name : {"imgsoo", "imstodo", "imgoe"}) {
+        const GGCommand& save = ground.control<GGCommand>(QString::fromLatin1(name));
+        QCOMPARE(save.geometry(), first.geometry());
+        QCOMPARE(drawn(save), drawn(first));
+        QCOMPARE(save.Caption(), first.Caption());
+    }
+    const std::array row{u"Button4"_s, u"imgOpen"_s, u"Button6"_s, u"Button5"_s, u"imgoe"_s};
+    for (std::size_t i = 1; i < row.size(); ++i) {
+        const QRect left = ground.control<QWidget>(row[i - 1]).geometry();
+        const QRect right = ground.control<QWidget>(row[i]).geometry();
+        QCOMPARE(right.left() - left.right() - 1, 4);
+        QCOMPARE(right.top(), left.top());
+        QCOMPARE(right.height(), left.height());
+    }
+}
+
 void ReminderLookTest::everyCaptionHasItsRoom() {
     QFETCH(int, width);
-    PanelGround ground(QSize(width, 768));
+    PanelGround ground(QSize(width, width));
     ground.shown();
     for (const Label* label : ground.panel().findChildren<Label*>())
         QVERIFY2(wide(*label, label->Caption()) <= label->width(), qPrintable(label->objectName()));
@@ -82,7 +157,7 @@ void ReminderLookTest::everyCaptionHasItsRoom() {
 
 void ReminderLookTest::theLongestDateAndTimeHaveTheirRoom() {
     QFETCH(int, width);
-    PanelGround ground(QSize(width, 768));
+    PanelGround ground(QSize(width, width));
     ground.shown();
     for (const auto& [name, text] :
          {std::pair(u"Label9"_s, u"30/12/2026"_s), std::pair(u"Label9"_s, u"28 Nov 2026"_s),

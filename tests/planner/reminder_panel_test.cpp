@@ -580,7 +580,7 @@ void ReminderPanelTest::fontsAndSettingsStayOverManyRuns_data() {
 void ReminderPanelTest::fontsAndSettingsStayOverManyRuns() {
     QFETCH(int, width);
     QFETCH(QString, size);
-    PanelGround ground(QSize(width, 768));
+    PanelGround ground(QSize(width, width));
     ground.settings.putSetting(u"RT1"_s, u"FN"_s, u"Arial"_s);
     ground.settings.putSetting(u"RT1"_s, u"FS"_s, size);
     const auto shownSize = ground.rt1().SelFontSize();

@@ -91,16 +91,17 @@ void InterfaceScaleTest::theScaleIsAnEighthThatFits_data() {
     row(800, 600, 1);
     row(900, 600, 1);
     row(1024, 600, 1);
-    row(1024, 768, 1.125);
+    row(1024, 768, 1.25);
     row(1366, 768, 1.25);
-    row(1280, 1024, 1.375);
+    row(1280, 1024, 1.5);
     row(1920, 1080, 1.75);
     row(1920, 1200, 2);
-    row(1080, 1920, 1.125);
+    row(1080, 1920, 1.25);
     row(2560, 1440, 2.375);
     row(3840, 2160, 3.5);
-    row(1012.5, 675, 1.125);
-    row(1012.4, 675, 1);
+    row(900, 675, 1.125);
+    row(899.9, 675, 1);
+    row(3440, 1440, 2.375);
     row(2700 / 1.5, 1800 / 1.5, 2);
     row(0, 0, 1);
 }
@@ -146,11 +147,14 @@ void InterfaceScaleTest::windowsAreScaledAndChildrenAreNot_data() {
     QTest::addColumn<QSize>("screen");
     QTest::addColumn<QByteArray>("usersFactor");
     QTest::addColumn<QByteArray>("told");
-    QTest::newRow("small") << QSize(1024, 600) << QByteArray() << QByteArray("1 1024 [] []");
-    QTest::newRow("usual") << QSize(1920, 1080) << QByteArray() << QByteArray("1.75 1097 [] []");
-    QTest::newRow("large") << QSize(3840, 2160) << QByteArray() << QByteArray("3.5 1097 [] []");
+    QTest::newRow("small") << QSize(1024, 600) << QByteArray() << QByteArray("1 800 [] []");
+    // Qt tells 819 by 614, and four thirds of that are less.
+    QTest::newRow("a part of a unit")
+        << QSize(1024, 768) << QByteArray() << QByteArray("1.25 819 [] []");
+    QTest::newRow("usual") << QSize(1920, 1080) << QByteArray() << QByteArray("1.75 822 [] []");
+    QTest::newRow("large") << QSize(3840, 2160) << QByteArray() << QByteArray("3.5 822 [] []");
     QTest::newRow("with a factor of the user's")
-        << QSize(3840, 2160) << QByteArray("2") << QByteArray("1.75 1097 [2] [2]");
+        << QSize(3840, 2160) << QByteArray("2") << QByteArray("1.75 822 [2] [2]");
 }
 
 void InterfaceScaleTest::windowsAreScaledAndChildrenAreNot() {

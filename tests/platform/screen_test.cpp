@@ -15,22 +15,58 @@ class ScreenTest : public QObject {
     Q_OBJECT
 private slots:
     void metricsAreWidthAndHeightAndNothingElse();
+    void theWidthIsAtMostFourThirdsOfTheHeight_data();
+    void theWidthIsAtMostFourThirdsOfTheHeight();
     void theDesktopScreenIsThePrimaryOne();
     void aWindowIsKeptInsideTheArea_data();
     void aWindowIsKeptInsideTheArea();
 };
 
 void ScreenTest::metricsAreWidthAndHeightAndNothingElse() {
-    const FakeScreen screen(QSize(1097, 617));
-    QCOMPARE(screen.GetSystemMetrics(0), 1097);
+    const FakeScreen screen(QSize(819, 617));
+    QCOMPARE(screen.GetSystemMetrics(0), 819);
     QCOMPARE(screen.GetSystemMetrics(1), 617);
     QCOMPARE(screen.GetSystemMetrics(2), 0);
     QCOMPARE(screen.GetSystemMetrics(-1), 0);
 }
 
+void ScreenTest::theWidthIsAtMostFourThirdsOfTheHeight_data() {
+    QTest::addColumn<QSizeF>("size");
+    QTest::addColumn<int>("width");
+    const auto row = [](qreal pixelsWide, qreal pixelsHigh, qreal scale, int width) {
+        QTest::addRow("%gx%g", pixelsWide, pixelsHigh)
+            << QSizeF(pixelsWide, pixelsHigh) / scale << width;
+    };
+    row(800, 600, 1, 800);
+    row(1024, 600, 1, 800);
+    row(1024, 768, 1.25, 819);
+    row(1366, 768, 1.25, 819);
+    row(1920, 1080, 1.75, 822);
+    row(3840, 2160, 3.5, 822);
+    row(3440, 1440, 2.375, 808);
+    row(1080, 1920, 1.25, 864);
+    row(640, 480, 1, 640);
+}
+
+void ScreenTest::theWidthIsAtMostFourThirdsOfTheHeight() {
+    QFETCH(QSizeF, size);
+    QFETCH(int, width);
+    class Sized final : public Screen {
+    public:
+        explicit Sized(QSizeF size)
+            : m_size(size) {}
+        QSizeF size() const override { return m_size; }
+        QRect workArea() const override { return {}; }
+
+    private:
+        QSizeF m_size;
+    };
+    QCOMPARE(Sized(size).GetSystemMetrics(0), width);
+}
+
 void ScreenTest::theDesktopScreenIsThePrimaryOne() {
     const DesktopScreen screen;
-    QCOMPARE(screen.size(), QGuiApplication::primaryScreen()->size());
+    QCOMPARE(screen.size(), QSizeF(QGuiApplication::primaryScreen()->size()));
     QCOMPARE(screen.workArea(), QGuiApplication::primaryScreen()->availableGeometry());
     QCOMPARE(screen.GetSystemMetrics(0), QGuiApplication::primaryScreen()->size().width());
 }

@@ -100,7 +100,7 @@ public:
     QSize screenSize;
     QMargins panels;
 
-    QSize size() const override { return screenSize; }
+    QSizeF size() const override { return screenSize; }
     QRect workArea() const override {
         return QRect(QPoint(0, 0), screenSize).marginsRemoved(panels);
     }

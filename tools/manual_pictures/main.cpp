@@ -38,7 +38,7 @@ class Studio {
 public:
     explicit Studio(const QDir& folder)
         : m_folder(folder) {
-        m_outside.screen.screenSize = QSize(900, 600);
+        m_outside.screen.screenSize = QSize(800, 600);
         Program& program = m_outside.program;
         program.stickers = &m_stickers;
         program.makeTrayOwner = [this](ChromeWindow& window) {

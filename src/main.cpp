@@ -15,6 +15,8 @@
 #include "core/program.h"
 #include "core/start_window.h"
 #include "core/tray_handover.h"
+#include "password/password_panel.h"
+#include "planner/clear_menu.h"
 #include "planner/reminder_panel.h"
 #include "platform/desktop_tray.h"
 #include "platform/ini_settings_store.h"
@@ -35,9 +37,31 @@
 #include <QIcon>
 #include <QTimer>
 
+#include <vector>
+
 using namespace orvalis;
 
 namespace {
+
+/// The menus that the panels hand to the form that owns all popup menus.
+std::vector<MenuMaker> menusOfPanels(Program& program) {
+    return {
+        [&program](QWidget* parent) {
+            return makeClearMenu(
+                parent,
+                [&program]() -> ClearCommands& {
+                    return static_cast<frmnotes1&>(program.windows.get<ReminderPanel>());
+                });
+        },
+        [&program](QWidget* parent) {
+            return makeSaveMenu(
+                parent, program.services.dialogs,
+                [&program]() -> PasswordTexts& {
+                    return static_cast<frmnotes4&>(program.windows.get<PasswordPanel>());
+                });
+        },
+    };
+}
 
 /// Which class stands behind which role.
 void registerWindows(Program& program, bool previousInstance, HelpDisplay& help) {
@@ -46,11 +70,13 @@ void registerWindows(Program& program, bool previousInstance, HelpDisplay& help)
     program.windows.registerMaker<MainWindow>([&] { return std::make_unique<frmnotes>(program); });
     program.windows.registerMaker<ReminderPanel>(
         [&] { return std::make_unique<frmnotes1>(program); });
+    program.windows.registerMaker<PasswordPanel>(
+        [&] { return std::make_unique<frmnotes4>(program); });
     program.windows.registerMaker<OptionsWindow>(
         [&] { return std::make_unique<frmOptions>(program); });
     program.windows.registerMaker<AboutBox>([&] { return std::make_unique<frmAbout>(program); });
     program.windows.registerMaker<PopupMenus>(
-        [&] { return std::make_unique<frmdel1>(program, help); });
+        [&] { return std::make_unique<frmdel1>(program, help, menusOfPanels(program)); });
     program.windows.registerMaker<AlarmSetDialog>(
         [&] { return std::make_unique<frmAlSet>(program); });
     program.windows.registerMaker<AlarmWindow>([] { return std::make_unique<frmAlarm>(); });

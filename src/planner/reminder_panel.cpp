@@ -38,6 +38,8 @@ frmnotes1::frmnotes1(Program& program)
     connectEntryArea();
     connectFind();
     connectLists();
+    connectPlanner();
+    connectClearMenu();
     connect(
         ui.MonthView1, &MonthView::DateClick, this,
         [this](QDate date) {

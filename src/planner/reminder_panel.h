@@ -4,7 +4,9 @@
 
 #include "controls/common_dialog.h"
 #include "core/chrome_window.h"
+#include "planner/clear_menu.h"
 #include "planner/entry_frame.h"
+#include "planner/planner_page.h"
 #include "planner/reminder_controls.h"
 #include "planner/reminder_rules.h"
 
@@ -15,7 +17,7 @@ class GridModel;
 /// `frmnotes1`, the Reminder panel: a calendar and an entry area on the left page; the Remind and
 /// Priority lists, the to-do document and the weekly planner on the right. It reads its files at
 /// its load and writes them at its commands.
-class frmnotes1 final : public ChromePanel<ReminderPanel> {
+class frmnotes1 final : public ChromePanel<ReminderPanel>, public ClearCommands {
 public:
     explicit frmnotes1(Program& program);
 
@@ -26,6 +28,29 @@ public:
 
     /// Writes a grid to the Priority list's file.
     void MatSave1(const GridModel& grid);
+
+    // The commands of the weekly planner.
+    /// Asks, then writes the page of the calendar's week.
+    void todo1();
+    /// Loads another planner.
+    void todo2();
+    /// Saves the planner.
+    void todo3();
+    /// Saves the planner under another name.
+    void todo4();
+    /// The font of the planner's selection.
+    void todo5();
+    /// Write the page of the calendar's week and save it.
+    void NewPlannerSundayFirst();
+    void NewPlannerMondayFirst();
+
+    // The clear commands; each refuses while its sub-panel is not the selected one.
+    void mnusamo() override;
+    void mnusve() override;
+    void mnuclpr1() override;
+    void mnuclpr2() override;
+    void mnuclr1() override;
+    void mnuclr2() override;
 
 protected:
     void onLoad() override;
@@ -85,6 +110,21 @@ private:
     void LoadTmp1(GridModel& grid);
     void LoadTmp2(GridModel& grid);
     GridModel& hiddenReminders() const;
+
+    // weekly_planner.cpp
+    void connectPlanner();
+    void newPlanner(FirstDay firstDay);
+    QString plannerFile() const;
+    QString askPlannerName();
+
+    // clear_commands.cpp
+    void connectClearMenu();
+    void showClearMenu();
+    bool isSelected(std::size_t subPanel, const QString& otherwise);
+    bool isToDoSelected();
+    bool isPrioritySelected();
+    bool isReminderSelected();
+    bool isHeader(int row, const QString& otherwise);
 
     ReminderControls ui;
     CommonDialog CommonDialog1;

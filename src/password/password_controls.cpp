@@ -1,0 +1,133 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "password/password_controls.h"
+
+#include "controls/image.h"
+#include "controls/label.h"
+#include "controls/progress_bar.h"
+#include "controls/rich_text_box.h"
+#include "controls/twips_geometry.h"
+#include "core/button_look.h"
+#include "core/skin_picture.h"
+#include "skin/type.h"
+#include "widgets/gg_command.h"
+
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QRadioButton>
+
+namespace orvalis {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int TextPoints = 10;
+constexpr int SmallPoints = 8;
+constexpr QRgb FieldPaper = 0xFF86BDCB;
+/// The right page's lower edge, where the picture buttons stand.
+constexpr int CommandsTop = 5850;
+constexpr int CommandsLeft = 5940;
+constexpr int CommandSize = 480;
+constexpr int CommandStep = 866;
+
+/// The two buttons that scramble and bring back.
+constexpr skin::ButtonLook CryptButton{skin::PageButton.backColor, 0xFFFCF8, 0xCBBD86,
+                                       skin::PageButton.foreColor, 0x808000, true};
+
+RichTextBox* textArea(QWidget& panel, const QString& name, const QRectF& twips,
+                      const QString& accessibleName) {
+    auto* made = new RichTextBox(&panel);
+    made->setObjectName(name);
+    made->setAccessibleName(accessibleName);
+    made->setFont(skin::font(TextPoints));
+    made->setPlainFile(RichTextBox::PlainFile::Ansi);
+    made->setTabChangesFocus(true);
+    setTwipsGeometry(*made, twips);
+    return made;
+}
+
+} // namespace
+
+PasswordControls::PasswordControls(QWidget& panel) {
+    makeTexts(panel);
+    makeFrame(panel);
+    makeCommands(panel);
+    makeMethods(panel);
+    setTabOrder();
+}
+
+void PasswordControls::makeTexts(QWidget& panel) {
+    txtrt1 = textArea(panel, u"txtrt1"_s, {480, 840, 3945, 5325}, u"Text on the left"_s);
+    txtText = textArea(panel, u"txtText"_s, {5940, 840, 3945, 3225}, u"Text on the right"_s);
+    PB1 = new ProgressBar(u"PB1"_s, &panel);
+    setTwipsGeometry(*PB1, {840, 6240, 2895, 135});
+    PB1->hide();
+}
+
+void PasswordControls::makeFrame(QWidget& panel) {
+    Frame4 = new QGroupBox(u"Encrypt/Decrypt text "_s, &panel);
+    Frame4->setObjectName(u"Frame4"_s);
+    Frame4->setFont(skin::font(SmallPoints));
+    setTwipsGeometry(*Frame4, {5940, 4110, 3945, 1575});
+    Label6 = new Label(u"Label6"_s, u"Password"_s, Frame4);
+    Label6->setFont(skin::font(SmallPoints));
+    Label6->setAlignment(Qt::AlignCenter);
+    setTwipsGeometry(*Label6, {1605, 240, 750, 210});
+    txtPW = new QLineEdit(Frame4);
+    txtPW->setObjectName(u"txtPW"_s);
+    txtPW->setAccessibleName(u"Password"_s);
+    txtPW->setEchoMode(QLineEdit::Password);
+    txtPW->setFont(skin::font(SmallPoints));
+    QPalette palette = txtPW->palette();
+    palette.setColor(QPalette::Base, QColor(FieldPaper));
+    txtPW->setPalette(palette);
+    setTwipsGeometry(*txtPW, {585, 630, 2775, 255});
+    const std::array captions{u"Encrypt"_s, u"Decrypt"_s};
+    const std::array lefts{600, 2520};
+    for (std::size_t index = 0; index < cmdCrypt.size(); ++index) {
+        auto* button = new GGCommand(u"cmdCrypt(%1)"_s.arg(index), Frame4);
+        button->setCaption(captions.at(index));
+        button->setFont(QFont(u"MS Sans Serif"_s, SmallPoints));
+        wearLook(*button, CryptButton);
+        setTwipsGeometry(*button, {static_cast<qreal>(lefts.at(index)), 1140, 855, 255});
+        cmdCrypt.at(index) = button;
+    }
+}
+
+void PasswordControls::makeCommands(QWidget& panel) {
+    int left = CommandsLeft;
+    const auto command = [&](const QString& name, const QString& toolTip, const QString& picture) {
+        auto* image = new Image(name, &panel);
+        image->setToolTip(toolTip);
+        image->setPicture(skinPicture(picture));
+        image->setHoverPicture(skinPicture(picture + u"_hover"_s));
+        setTwipsGeometry(*image, QRectF(left, CommandsTop, CommandSize, CommandSize));
+        left += CommandStep;
+        return image;
+    };
+    imgNew = command(u"imgNew"_s, u"New"_s, u"new"_s);
+    imgOpen = command(u"imgOpen"_s, u"Open"_s, u"open_file"_s);
+    imgSave = command(u"imgSave"_s, u"Save"_s, u"save"_s);
+    imgMail = command(u"imgMail"_s, u"Sand Email"_s, u"mail"_s);
+    imgBack = command(u"imgBack"_s, u"Encrypt/Decrypt"_s, u"carry_over"_s);
+}
+
+void PasswordControls::makeMethods(QWidget& panel) {
+    const std::array places{QRectF(5475, 7035, 375, 195), QRectF(6300, 6900, 375, 255)};
+    for (std::size_t index = 0; index < optMethod.size(); ++index) {
+        auto* option = new QRadioButton(QString::number(index + 1), &panel);
+        option->setObjectName(u"optMethod(%1)"_s.arg(index));
+        option->setFocusPolicy(Qt::NoFocus);
+        setTwipsGeometry(*option, places.at(index));
+        optMethod.at(index) = option;
+    }
+    optMethod[1]->setChecked(true);
+}
+
+void PasswordControls::setTabOrder() {
+    QWidget::setTabOrder(txtrt1, txtText);
+    QWidget::setTabOrder(txtText, txtPW);
+}
+
+} // namespace orvalis

@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "controls/image.h"
+#include "controls/progress_bar.h"
+#include "controls/rich_text_box.h"
+#include "password/password_panel.h"
+#include "support/test_main.h"
+#include "support/test_program.h"
+#include "widgets/gg_command.h"
+
+#include <QApplication>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QRadioButton>
+
+namespace orvalis::test {
+
+/// The owner of the popup menus: holds the save menu, and writes down which menus were asked for.
+class SaveMenuOwner final : public Form, public PopupMenus {
+public:
+    SaveMenuOwner(Program& program, QStringList& shown)
+        : Form(QStringLiteral("frmdel1"))
+        , m_shown(shown) {
+        makeSaveMenu(
+            this, program.services.dialogs,
+            [&program]() -> PasswordTexts& {
+                return static_cast<frmnotes4&>(program.windows.get<PasswordPanel>());
+            });
+    }
+    Form& form() override { return *this; }
+    void PopupMenu(const QString& name) override { m_shown << name; }
+
+private:
+    QStringList& m_shown;
+};
+
+/// A Password panel in a program over doubles.
+class PasswordGround : public TestProgram {
+public:
+    PasswordGround() {
+        program.windows.registerMaker<PasswordPanel>(
+            [this] { return std::make_unique<frmnotes4>(program); });
+        program.windows.registerMaker<PopupMenus>(
+            [this] { return std::make_unique<SaveMenuOwner>(program, menus); });
+    }
+
+    frmnotes4& panel() { return static_cast<frmnotes4&>(program.windows.get<PasswordPanel>()); }
+    frmnotes4& shown() {
+        frmnotes4& form = panel();
+        form.Show();
+        QApplication::setActiveWindow(&form);
+        return form;
+    }
+
+    template <class Control>
+    Control& control(const QString& name) {
+        auto* found = panel().findChild<Control*>(name);
+        if (!found)
+            qFatal("no control %s", qPrintable(name));
+        return *found;
+    }
+    RichTextBox& left() { return control<RichTextBox>(QStringLiteral("txtrt1")); }
+    RichTextBox& right() { return control<RichTextBox>(QStringLiteral("txtText")); }
+    QLineEdit& password() { return control<QLineEdit>(QStringLiteral("txtPW")); }
+    ProgressBar& bar() { return control<ProgressBar>(QStringLiteral("PB1")); }
+
+    void press(const QString& name) {
+        QWidget& widget = control<QWidget>(name);
+        if (auto* button = qobject_cast<GGCommand*>(&widget))
+            button->setValue(true);
+        else
+            emit static_cast<Image&>(widget).Click();
+    }
+    void encrypt() { press(QStringLiteral("cmdCrypt(0)")); }
+    void decrypt() { press(QStringLiteral("cmdCrypt(1)")); }
+    /// Chooses an entry of the save menu.
+    void choose(const QString& entry) {
+        auto* action = program.windows.get<PopupMenus>().form().findChild<QAction*>(entry);
+        if (!action)
+            qFatal("no entry %s", qPrintable(entry));
+        action->trigger();
+    }
+
+    QStringList menus;
+};
+
+} // namespace orvalis::test

@@ -10,11 +10,19 @@
 
 #include <QApplication>
 
+#include <algorithm>
+#include <cstdio>
+
 using namespace orvalis;
+using bench::medianMilliseconds;
 using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int Longest = 32766;
+constexpr int Rounds = 21;
+
+/// Shows the progress as the panel does.
 class OnBar final : public CipherProgress {
 public:
     explicit OnBar(ProgressBar& bar)
@@ -30,8 +38,8 @@ private:
 } // namespace
 
 int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    constexpr int Longest = 32766;
     QWidget window;
     window.resize(700, 450);
     ProgressBar bar(u"PB1"_s, &window);
@@ -40,6 +48,7 @@ int main(int argc, char** argv) {
     QString text;
     for (int i = 0; i < Longest; ++i)
         text += QChar(u' ' + i % 90);
+    double slowest = 0;
     const CipherGround ground{.page = AnsiPage::ofUser()};
     for (const int method : {1, 2}) {
         for (const bool encrypt : {true, false}) {
@@ -47,14 +56,14 @@ int main(int argc, char** argv) {
             if (!encrypt)
                 source = EncryptString(text.left(Longest / 2), u"secret"_s, true, method, ground,
                                        progress);
-            report(u"%1 of 32766 characters, method %2"_s.arg(
-                       encrypt ? u"scramble"_s : u"bring back"_s, QString::number(method)),
-                   bestOf(20,
-                          [&] {
-                              EncryptString(source, u"secret"_s, encrypt, method, ground, progress);
-                          }),
-                   u"5 ms"_s);
+            const double time = medianMilliseconds(Rounds, [&] {
+                EncryptString(source, u"secret"_s, encrypt, method, ground, progress);
+            });
+            std::printf("%s, method %d: %.2f ms (aim: below 5)\n",
+                        encrypt ? "scramble 32,766 characters" : "bring back 32,766 characters",
+                        method, time);
+            slowest = std::max(slowest, time);
         }
     }
-    return 0;
+    return slowest < 5 ? 0 : 1;
 }

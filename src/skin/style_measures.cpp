@@ -109,6 +109,8 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
     case SH_ComboBox_Popup:
     case SH_EtchDisabledText:
         return 0;
+    case SH_LineEdit_PasswordCharacter:
+        return u'*';
     default:
         return QProxyStyle::styleHint(hint, option, widget, result);
     }

@@ -32,7 +32,7 @@ void ProgressBarTest::aValueOutsideItsRangeIsRefused_data() {
     QTest::addColumn<float>("value");
     QTest::newRow("below") << -0.5F;
     QTest::newRow("a little above") << 100.01F;
-    QTest::newRow("no number") << qSNaN();
+    QTest::newRow("no number") << static_cast<float>(qQNaN());
 }
 
 void ProgressBarTest::aValueOutsideItsRangeIsRefused() {

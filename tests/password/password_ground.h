@@ -3,6 +3,7 @@
 #pragma once
 
 #include "controls/image.h"
+#include "controls/label.h"
 #include "controls/progress_bar.h"
 #include "controls/rich_text_box.h"
 #include "password/password_panel.h"

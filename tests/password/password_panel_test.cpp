@@ -95,7 +95,8 @@ void PasswordPanelTest::thePasswordIsHiddenOnItsOwnPaper() {
     QLineEdit& field = m_ground->password();
     QCOMPARE(field.echoMode(), QLineEdit::Password);
     field.setText(u"rose"_s);
-    QCOMPARE(field.displayText(), u"****"_s);
+    QCOMPARE(field.displayText().size(), 4);
+    QVERIFY(!field.displayText().contains(u'r'));
     QCOMPARE(field.palette().color(QPalette::Base), QColor(0x86, 0xBD, 0xCB));
 }
 

@@ -125,6 +125,7 @@ private slots:
     void aChosenMenuEntryIsTeal();
     void theCalendarHasAnEdgeAndAQuietHead();
     void theMonthOfTheCalendarHasNoArrowInItsCorner();
+    void aPasswordShowsAStarForEachCharacter();
 };
 
 void StyleTest::initTestCase() {
@@ -404,6 +405,13 @@ void StyleTest::theMonthOfTheCalendarHasNoArrowInItsCorner() {
     };
     QCOMPARE(picture(with, month), picture(without, month));
     QVERIFY(picture(with, nullptr) != picture(without, nullptr));
+}
+
+void StyleTest::aPasswordShowsAStarForEachCharacter() {
+    QLineEdit field;
+    field.setEchoMode(QLineEdit::Password);
+    field.setText(QStringLiteral("rose"));
+    QCOMPARE(field.displayText(), QStringLiteral("****"));
 }
 
 ORVALIS_TEST_MAIN_WITH(QApplication, StyleTest)

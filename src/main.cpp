@@ -15,6 +15,7 @@
 #include "core/program.h"
 #include "core/start_window.h"
 #include "core/tray_handover.h"
+#include "letters/letters_window.h"
 #include "password/password_panel.h"
 #include "planner/clear_menu.h"
 #include "planner/reminder_panel.h"
@@ -79,6 +80,8 @@ void registerWindows(Program& program, bool previousInstance, HelpDisplay& help)
         [&] { return std::make_unique<frmdel1>(program, help, menusOfPanels(program)); });
     program.windows.registerMaker<AlarmSetDialog>(
         [&] { return std::make_unique<frmAlSet>(program); });
+    program.windows.registerMaker<LettersWindow>(
+        [&] { return std::make_unique<frmpisma>(program); });
     program.windows.registerMaker<AlarmWindow>([] { return std::make_unique<frmAlarm>(); });
 }
 

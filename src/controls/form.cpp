@@ -105,6 +105,11 @@ void Form::takePlaceOf(const Form& other) {
     m_placed = true;
 }
 
+void Form::standAt(const QPoint& corner) {
+    move(corner);
+    m_placed = true;
+}
+
 Form* Form::lastActive() {
     const auto& shown = trail().shown;
     return shown.isEmpty() ? nullptr : shown.last().data();

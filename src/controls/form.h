@@ -40,6 +40,10 @@ public:
     /// Puts the window where another stands: both have the same centre.
     void takePlaceOf(const Form& other);
 
+    /// Puts the window's upper left corner at a place of the desktop, in place of the middle of the
+    /// screen.
+    void standAt(const QPoint& corner);
+
     /// Of the forms on the screen the one that the user was in last, or none.
     static Form* lastActive();
 

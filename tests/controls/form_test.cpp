@@ -59,6 +59,7 @@ private slots:
     void aFormShownWithoutFocusDoesNotActivate();
     void theFirstWindowOpensInTheMiddleOfTheScreen();
     void aWindowThatTakesAPlaceHasTheSameCentre();
+    void aWindowGivenAPlaceOpensThere();
     void aWindowNeverOpensOutsideTheScreen();
     void aWindowShownOverAnotherBelongsToIt();
     void theWindowManagersCloseAsksAndDoesNotClose();
@@ -209,6 +210,14 @@ void FormTest::aWindowThatTakesAPlaceHasTheSameCentre() {
         panel.takePlaceOf(form);
     }
     QCOMPARE(panel.pos(), before);
+}
+
+void FormTest::aWindowGivenAPlaceOpensThere() {
+    LoggingForm form(QStringLiteral("a"));
+    form.load();
+    form.standAt({31, 47});
+    form.Show();
+    QCOMPARE(form.pos(), QPoint(31, 47));
 }
 
 void FormTest::aWindowNeverOpensOutsideTheScreen() {

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "alarm/alarm_set_dialog.h"
-#include "controls/common_dialog.h"
 #include "controls/msg_box.h"
+#include "controls/qt_dialogs.h"
 #include "core/main_window.h"
 #include "core/options_dialog.h"
 #include "core/program.h"
@@ -11,6 +11,7 @@
 #include "platform/desktop_tray.h"
 #include "platform/ini_settings_store.h"
 #include "platform/logon_entry.h"
+#include "platform/printer.h"
 #include "platform/registry.h"
 #include "platform/screen.h"
 #include "platform/shell.h"
@@ -90,7 +91,8 @@ int main(int argc, char** argv) {
     XdgLogonEntry logonEntry(folder.filePath(u"autostart"_s));
     Registry settings(store, logonEntry);
     QtMessageBoxes boxes;
-    QtDialogs dialogs;
+    DesktopPrinter printer;
+    QtDialogs dialogs([&printer]() -> QPrinter& { return printer.device(); });
     DesktopShell shell;
     DeviceSoundPlayer sound;
     DesktopScreen screen;
@@ -102,7 +104,8 @@ int main(int argc, char** argv) {
                      .dialogs = dialogs,
                      .shell = shell,
                      .sound = sound,
-                     .screen = screen});
+                     .screen = screen,
+                     .printer = printer});
     Windows& windows = program.windows;
     program.makeTrayOwner = [&tray](ChromeWindow& window) {
         return std::make_unique<TrayHandover>(window, tray);

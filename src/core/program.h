@@ -16,6 +16,7 @@ class App;
 class Dialogs;
 class Mail;
 class MessageBoxes;
+class Printer;
 class Registry;
 class Screen;
 class Shell;
@@ -33,6 +34,7 @@ struct Services {
     Mail& mail;
     SoundPlayer& sound;
     Screen& screen;
+    Printer& printer;
 };
 
 /// The running program as every window is given it: the outside world, the shared state, the

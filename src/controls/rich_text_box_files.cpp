@@ -10,6 +10,7 @@
 
 #include <QFileInfo>
 #include <QTextBlockFormat>
+#include <QTextCharFormat>
 
 #include <algorithm>
 
@@ -58,8 +59,8 @@ void RichTextBox::LoadFile(const QString& path, int flags) {
         throw *failure;
     }
     if (flags == rtfText) {
-        // Indents, bullets and alignment are nothing that a plain file could mean.
-        replaceEverything(plainTextOf(bytes, m_plainFile), QTextBlockFormat());
+        // Fonts, colours, indents, bullets and alignment are nothing that a plain file could mean.
+        replaceEverything(plainTextOf(bytes, m_plainFile), QTextCharFormat(), QTextBlockFormat());
         return;
     }
     if (!rtf::looksLikeRtf(bytes)) {

@@ -11,6 +11,7 @@
 #include "platform/desktop_tray.h"
 #include "platform/ini_settings_store.h"
 #include "platform/logon_entry.h"
+#include "platform/mail.h"
 #include "platform/printer.h"
 #include "platform/registry.h"
 #include "platform/screen.h"
@@ -94,6 +95,7 @@ int main(int argc, char** argv) {
     DesktopPrinter printer;
     QtDialogs dialogs([&printer]() -> QPrinter& { return printer.device(); });
     DesktopShell shell;
+    DesktopMail mail;
     DeviceSoundPlayer sound;
     DesktopScreen screen;
     DesktopTray tray;
@@ -103,6 +105,7 @@ int main(int argc, char** argv) {
                      .boxes = boxes,
                      .dialogs = dialogs,
                      .shell = shell,
+                     .mail = mail,
                      .sound = sound,
                      .screen = screen,
                      .printer = printer});

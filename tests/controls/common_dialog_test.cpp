@@ -2,10 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "controls/common_dialog.h"
 #include "controls/font_dialog.h"
-<<<<<<< HEAD
-#include "runtime/program_end.h"
-=======
->>>>>>> 2ad9f5a (Give the program a printer behind an interface, and its dialogs what print and picture commands ask)
 #include "support/scripted_dialogs.h"
 #include "support/test_main.h"
 

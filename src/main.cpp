@@ -25,6 +25,7 @@
 #include "platform/logon_entry.h"
 #include "platform/mail.h"
 #include "platform/metafile_process.h"
+#include "platform/outside_end.h"
 #include "platform/printer.h"
 #include "platform/registry.h"
 #include "platform/screen.h"
@@ -157,5 +158,8 @@ int main(int argc, char** argv) {
         return std::make_unique<TrayHandover>(window, tray);
     };
     registerWindows(program, instance.PrevInstance(), help);
+    application.setRecovery(&program.recovery);
+    const OutsideEnd outsideEnd([&program] { program.recovery.keep(); },
+                                [&application] { application.endFromOutside(); });
     return application.run([&program] { program.windows.get<StartWindow>().form().Show(); });
 }

@@ -5,7 +5,6 @@
 #include "controls/undo_kind.h"
 
 #include <QByteArray>
-#include <QSet>
 #include <QString>
 #include <QTextCursor>
 #include <QTextEdit>
@@ -135,9 +134,9 @@ public:
     /// \throws RuntimeError InvalidFileFormat when flags are 0 and the file is not RTF, those of
     /// readWhole() when it cannot be read, InvalidProcedureCall for other flags.
     void LoadFile(const QString& path, int flags = rtfRTF);
-    /// Writes the document whole. A file that LoadFile() could not read, or not all of, is kept
-    /// aside first, under its name with ".unreadable" added.
-    /// \throws RuntimeError those of saveWhole(), InvalidProcedureCall for other flags.
+    /// Writes the document whole. A file that could not be read, or not all of it, in whichever
+    /// box, is kept aside first, under its name with ".unreadable" added. \throws RuntimeError
+    /// those of saveWhole(), InvalidProcedureCall for other flags.
     void SaveFile(const QString& path, int flags = rtfRTF);
 
     // --- search
@@ -291,7 +290,6 @@ private:
     int m_toldPosition = 0;
     QTextCursor m_batchCursor;
     mutable std::optional<bool> m_clipboardFits; ///< unknown until it is asked
-    QSet<QString> m_unreadable;
     std::unique_ptr<TextPositions> m_positions;
     std::unique_ptr<UndoKinds> m_undoKinds;
     std::unique_ptr<RangeFormatter> m_formatter;

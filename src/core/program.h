@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/recovery.h"
 #include "core/roles.h"
 #include "core/state.h"
 #include "core/tick.h"
@@ -42,10 +43,13 @@ struct Services {
 class Program {
 public:
     explicit Program(const Services& outside)
-        : services(outside) {}
+        : services(outside)
+        , recovery(outside.app, outside.clock) {}
 
     Services services;
     SharedState state;
+    /// What the windows hold that no file has.
+    Recovery recovery;
     Windows windows;
     /// Set by main.cpp once the sticker windows are there.
     StickerMaker* stickers = nullptr;

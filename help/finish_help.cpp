@@ -7,7 +7,6 @@
 #include "platform/chm_directory.h"
 #include "platform/chm_file.h"
 #include "runtime/failure.h"
-#include "runtime/file_saving.h"
 #include "runtime/files.h"
 
 #include <QFileInfo>

@@ -58,12 +58,12 @@ frmAlSet::frmAlSet(Program& program)
     setFixedSize(271, 278);
     setFont(dialogFont());
     QGroupBox* frame =
-        dialogFrame(*this, u"Frame1"_s, u"Set alarm time, sound or message"_s, {8, 5, 255, 232});
+        dialogFrame(*this, u"Frame1"_s, u"Set alarm time, sound or message"_s, {8, 8, 255, 229});
     makeTimeControls(*frame);
     makeMessageControls(*frame);
-    GGCommand* ok = dialogButton(*this, u"imgOK"_s, u"OK"_s, u"ok"_s, {100, 244, 76, 26});
+    GGCommand* ok = dialogButton(*this, u"imgOK"_s, u"OK"_s, u"ok"_s, {104, 244, 76, 26});
     GGCommand* cancel =
-        dialogButton(*this, u"imgCanc"_s, u"Cancel"_s, u"cancel"_s, {186, 244, 76, 26});
+        dialogButton(*this, u"imgCanc"_s, u"Cancel"_s, u"cancel"_s, {187, 244, 76, 26});
     connect(ok, &GGCommand::Click, this, &frmAlSet::okClick);
     connect(cancel, &GGCommand::Click, this, &Form::unloadRequested);
 }
@@ -94,7 +94,7 @@ void frmAlSet::makeMessageControls(QWidget& frame) {
     caption(frame, u"Label4"_s, u"Alarm message"_s, {14, 117, 228, 15});
     m_rt1 = new RichTextBox(&frame);
     m_rt1->setObjectName(u"rt1"_s);
-    m_rt1->setGeometry(14, 133, 228, 88);
+    m_rt1->setGeometry(14, 133, 227, 84);
     m_rt1->setAccessibleName(u"Alarm message"_s);
     m_rt1->setTabChangesFocus(true);
 }

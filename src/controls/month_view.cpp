@@ -125,8 +125,10 @@ bool MonthView::eventFilter(QObject* watched, QEvent* event) {
 }
 
 QColor MonthView::ink(const QDate& date, bool pointedAt) const {
-    if (!isEnabled() || date.month() != monthShown())
+    if (!isEnabled())
         return palette().color(QPalette::Disabled, QPalette::Text);
+    if (date.month() != monthShown())
+        return palette().color(QPalette::PlaceholderText);
     if (date == Value())
         return palette().color(QPalette::HighlightedText);
     if (pointedAt)

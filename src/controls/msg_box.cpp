@@ -11,7 +11,11 @@
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMessageBox>
+#include <QScreen>
+
+#include <algorithm>
 
 namespace orvalis {
 
@@ -54,6 +58,15 @@ public:
         , m_mustBeAnswered((flags & ButtonsMask) == MsgFlags::YesNo) {}
 
 protected:
+    void showEvent(QShowEvent* event) override {
+        QMessageBox::showEvent(event);
+        // Qt reckons with a size that the box had before it was laid out, and places it higher.
+        if (const QWidget* owner = parentWidget()) {
+            const QRect room = owner->screen()->availableGeometry();
+            const QPoint frame = geometry().topLeft() - pos();
+            move(inside(owner->geometry().center() - rect().center() - frame, room));
+        }
+    }
     void keyPressEvent(QKeyEvent* event) override {
         if (m_mustBeAnswered && event->matches(QKeySequence::Cancel)) {
             event->accept();
@@ -70,6 +83,11 @@ protected:
     }
 
 private:
+    QPoint inside(QPoint place, const QRect& room) const {
+        return {std::clamp(place.x(), room.left(), std::max(room.left(), room.right() - width())),
+                std::clamp(place.y(), room.top(), std::max(room.top(), room.bottom() - height()))};
+    }
+
     bool m_mustBeAnswered;
 };
 
@@ -85,6 +103,19 @@ void makeRoomForTitle(QMessageBox& box) {
     const int width = QFontMetrics(font).horizontalAdvance(box.windowTitle()) + TitleBarParts;
     if (auto* grid = qobject_cast<QGridLayout*>(box.layout()))
         grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
+/// A line of words stands beside the middle of the picture, or where the buttons' row begins.
+void alignText(QMessageBox& box) {
+    auto* words = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    if (words == nullptr)
+        return;
+    words->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    // The picture reaches into the row below, so the words' own is to be as high as it.
+    if (const auto* picture = box.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label")))
+        words->setMinimumHeight(picture->sizeHint().height());
+    if (box.icon() == QMessageBox::NoIcon)
+        words->setContentsMargins(0, 0, 0, 0);
 }
 
 Answer answerOf(int button) {
@@ -119,6 +150,7 @@ Answer QtMessageBoxes::MsgBox(const QString& text, int flags, const QString& tit
     else
         box.setDefaultButton(defaultButton == 0 || buttons.size() == 1 ? QMessageBox::Ok
                                                                        : QMessageBox::Cancel);
+    alignText(box);
     makeRoomForTitle(box);
     // Stickers may lie on top of everything, the question must not hide below them.
     box.setWindowFlag(Qt::WindowStaysOnTopHint);

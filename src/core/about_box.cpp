@@ -51,7 +51,7 @@ frmAbout::frmAbout(Program& program)
     setTwipsGeometry(*m_Label1, QRectF(2387, 1209, 3422, 287));
     setTwipsGeometry(*m_Label3, QRectF(2387, 1528, 3422, 287));
     write(*m_Label1, skin::points::PanelLabel, skin::colour::Ink);
-    write(*m_Label3, skin::points::Body, skin::colour::LabelInk);
+    write(*m_Label3, skin::points::Body, skin::colour::Ink);
     connect(m_Image1, &Image::Click, this, &Form::unloadRequested);
 }
 

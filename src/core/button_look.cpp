@@ -5,6 +5,8 @@
 #include "core/skin_picture.h"
 #include "widgets/gg_command.h"
 
+#include <QFontMetrics>
+
 namespace orvalis {
 
 void wearLook(GGCommand& button, const skin::ButtonLook& look) {
@@ -17,13 +19,15 @@ void wearLook(GGCommand& button, const skin::ButtonLook& look) {
 }
 
 void wearPicture(GGCommand& button, const QString& picture) {
-    constexpr int LeftMiddle = 1;
-    constexpr int PictureInset = 5;
-    constexpr int CaptionInset = 8;
+    constexpr int Middle = 4;
+    constexpr int Gap = 5;
     button.setPicture(skinPicture(picture));
-    button.setPictureAlignment(LeftMiddle);
-    button.setPictureXOffset(PictureInset);
-    button.setCaptionXOffset(CaptionInset);
+    // Both stand in the middle, each moved aside by half of what the other one takes.
+    const int words = QFontMetrics(button.font()).horizontalAdvance(button.Caption());
+    button.setPictureAlignment(Middle);
+    button.setPictureXOffset(-(words + Gap) / 2);
+    button.setCaptionAlignment(Middle);
+    button.setCaptionXOffset((button.Picture().size().width() + Gap) / 2);
 }
 
 } // namespace orvalis

@@ -4,6 +4,7 @@
 // How a window with the chrome makes the controls of it.
 #include "controls/image.h"
 #include "controls/label.h"
+#include "core/alarm_label.h"
 #include "core/chrome_window.h"
 #include "core/clock_label.h"
 #include "core/program.h"
@@ -44,7 +45,9 @@ void ChromeWindow::makeClock() {
     lblVreme = new ClockLabel(u"lblVreme"_s, this);
     lblVreme->setGeometry(layout.clock);
     lblVreme->setAlignment(layout.clockAlignment);
-    lblVreme->setFont(skin::font(skin::points::Clock));
+    QFont clockFont = skin::font(skin::points::Clock);
+    clockFont.setLetterSpacing(QFont::AbsoluteSpacing, layout.clockSpacing);
+    lblVreme->setFont(clockFont);
     skin::setInk(*lblVreme, skin::colour::GlassText);
     connect(lblVreme, &Label::MouseMove, this, &ChromeWindow::showDateInClock);
     m_clockTimer = new AlignedTimer(m_program.services.clock, this, m_row.clockInterval);
@@ -54,11 +57,12 @@ void ChromeWindow::makeClock() {
 
 void ChromeWindow::makeAlarmDisplay() {
     const ChromeLayout& layout = chromeLayout(m_row.kind);
-    lblAlarm = new Label(u"lblAlarm"_s, {}, this);
+    lblAlarm = new AlarmLabel(u"lblAlarm"_s, this);
+    lblAlarm->setLead(layout.alarmLead);
     lblAlarm->setGeometry(layout.alarm);
     lblAlarm->setAlignment(layout.alarmAlignment);
-    lblAlarm->setFont(skin::font(skin::points::PanelLabel));
-    skin::setInk(*lblAlarm, skin::colour::GlassAlarm);
+    lblAlarm->setFont(skin::font(layout.alarmPoints));
+    skin::setInk(*lblAlarm, skin::colour::GlassText);
     connect(lblAlarm, &Label::Change, this, &ChromeWindow::alarmCaptionChanged);
 
     imgSet = new Image(u"imgSet"_s, this);
@@ -100,11 +104,10 @@ void ChromeWindow::makePanelLabels() {
         label->setGeometry(Places.at(i));
         label->setAlignment(Qt::AlignCenter);
         label->setFont(skin::font(skin::points::PanelLabel));
-        label->setCursor(Qt::PointingHandCursor);
         skin::setInk(*label, skin::colour::LabelInk);
         connect(
             label, &Label::MouseEnter, label,
-            [label] { skin::setInk(*label, skin::colour::Teal); });
+            [label] { skin::setInk(*label, skin::colour::TealInk); });
         connect(
             label, &Label::MouseExit, label,
             [label] { skin::setInk(*label, skin::colour::LabelInk); });

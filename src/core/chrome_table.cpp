@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "core/chrome_table.h"
 
+#include "skin/type.h"
+
 #include <array>
 
 namespace orvalis {
@@ -130,14 +132,17 @@ const ChromeLayout& chromeLayout(ChromeKind kind) {
         .mini = {226, 18, 22, 22},
         .help = {252, 18, 22, 22},
         .exit = {278, 18, 22, 22},
-        .set = {248, 78, 32, 32},
-        .stop = {248, 61, 32, 32},
-        .clock = {28, 62, 194, 62},
-        .alarm = {230, 97, 68, 22},
+        .set = {244, 71, 40, 40},
+        .stop = {244, 71, 40, 40},
+        .clock = {26, 60, 198, 62},
+        .alarm = {26, 98, 198, 24},
         .clockAlignment = Qt::AlignCenter,
         .alarmAlignment = Qt::AlignCenter,
         .setPicture = u"alarm_set"_s,
         .stopPicture = u"alarm_stop"_s,
+        .clockSpacing = 2,
+        .alarmPoints = skin::points::Title,
+        .alarmLead = u"Alarm"_s,
     };
     static const ChromeLayout panel{
         .mini = {615, 13, 22, 22},
@@ -151,6 +156,9 @@ const ChromeLayout& chromeLayout(ChromeKind kind) {
         .alarmAlignment = Qt::AlignRight | Qt::AlignVCenter,
         .setPicture = u"alarm_set_small"_s,
         .stopPicture = u"alarm_stop_small"_s,
+        .clockSpacing = 0,
+        .alarmPoints = skin::points::PanelLabel,
+        .alarmLead = {},
     };
     return kind == ChromeKind::Main ? main : panel;
 }

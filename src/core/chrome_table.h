@@ -45,6 +45,9 @@ struct ChromeLayout {
     Qt::Alignment alarmAlignment;
     QString setPicture;
     QString stopPicture;
+    qreal clockSpacing; ///< between the clock's signs, in pixels at scale 1
+    int alarmPoints;
+    QString alarmLead; ///< the word ahead of the alarm's time
 };
 
 /// What differs between the five windows in the chrome that they share.

@@ -6,6 +6,7 @@
 #include "controls/label.h"
 #include "controls/message_boxes.h"
 #include "controls/window_drag.h"
+#include "core/alarm_label.h"
 #include "core/clock_label.h"
 #include "core/program.h"
 #include "core/resize_form.h"
@@ -195,6 +196,9 @@ void ChromeWindow::alarmCaptionChanged() {
     m_program.state.alarmCaptionMirror = caption;
     imgSet->setVisible(caption.isEmpty());
     imgStop->setVisible(!caption.isEmpty());
+    // Where the alarm stands on the clock's own glass, the clock makes room for it.
+    const QRect shared = lblVreme->geometry() & lblAlarm->geometry();
+    lblVreme->setContentsMargins(0, 0, 0, caption.isEmpty() ? 0 : shared.height());
 }
 
 QString ChromeWindow::alarmShown() const {

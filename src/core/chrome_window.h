@@ -11,6 +11,7 @@
 
 namespace orvalis {
 
+class AlarmLabel;
 class AlignedTimer;
 class ClockLabel;
 class Image;
@@ -76,7 +77,7 @@ protected:
     Image* imgSet = nullptr;
     Image* imgStop = nullptr;
     ClockLabel* lblVreme = nullptr;
-    Label* lblAlarm = nullptr;
+    AlarmLabel* lblAlarm = nullptr;
     Label* lblRem = nullptr;                ///< none on the main window
     std::array<Label*, 3> panelLabels = {}; ///< `lblNot`, `lblAdd`, `lblPass`; none on the main one
 

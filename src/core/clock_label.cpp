@@ -24,6 +24,7 @@ void ClockLabel::useClockFont(int points) {
     QFont clockFont = skin::font(points, font().bold());
     if (QFontDatabase::hasFamily(clockFamily))
         clockFont.setFamilies(QStringList{clockFamily} + clockFont.families());
+    clockFont.setLetterSpacing(font().letterSpacingType(), font().letterSpacing());
     setFont(clockFont);
 }
 

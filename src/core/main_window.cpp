@@ -13,10 +13,10 @@ using namespace Qt::StringLiterals;
 
 frmnotes::frmnotes(Program& program)
     : ChromePanel(program, chromeRow(ChromeKind::Main)) {
-    makeOpener(1, u"open_reminder"_s, u"Reminder"_s, {14, 151, 146, 144}, ChromeKind::Reminder);
-    makeOpener(2, u"open_notes"_s, u"Notes"_s, {160, 151, 146, 144}, ChromeKind::Notes);
-    makeOpener(3, u"open_address"_s, u"Address"_s, {14, 295, 146, 144}, ChromeKind::Address);
-    makeOpener(4, u"open_password"_s, u"Password"_s, {160, 295, 146, 144}, ChromeKind::Password);
+    makeOpener(1, u"open_reminder"_s, u"Reminder"_s, {14, 147, 146, 144}, ChromeKind::Reminder);
+    makeOpener(2, u"open_notes"_s, u"Notes"_s, {160, 147, 146, 144}, ChromeKind::Notes);
+    makeOpener(3, u"open_address"_s, u"Address"_s, {14, 293, 146, 144}, ChromeKind::Address);
+    makeOpener(4, u"open_password"_s, u"Password"_s, {160, 293, 146, 144}, ChromeKind::Password);
     auto* label = new Label(u"Label2"_s, u"L2"_s, this);
     label->setGeometry(0, 466, 10, 10);
     label->hide();
@@ -34,7 +34,6 @@ void frmnotes::makeOpener(int number, const QString& picture, const QString& nam
     opener->setHoverPicture(skinPicture(picture + u"_hover"_s));
     // The picture carries its word, so it needs no tool tip; who cannot see it hears the word.
     opener->setAccessibleName(name);
-    opener->setCursor(Qt::PointingHandCursor);
     connect(opener, &Image::MouseMove, this, &frmnotes::HoverReset);
     connect(opener, &Image::MouseDown, this, [this, target] { openPanel(target); });
 }

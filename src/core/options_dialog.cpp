@@ -102,44 +102,44 @@ frmOptions::frmOptions(Program& program)
 }
 
 void frmOptions::makePlayerFrame() {
-    QGroupBox* frame = dialogFrame(*this, u"Frame3"_s, u"Set Media Player"_s, {8, 5, 230, 56});
+    QGroupBox* frame = dialogFrame(*this, u"Frame3"_s, u"Set Media Player"_s, {8, 8, 230, 58});
     auto* group = new QButtonGroup(frame);
     m_Option1 = {
-        dialogOption(*frame, u"Option1(0)"_s, u"Use &Orvalis Player"_s, {12, 16, 206, 17}),
-        dialogOption(*frame, u"Option1(1)"_s, u"Use &Default Player"_s, {12, 34, 206, 17})};
+        dialogOption(*frame, u"Option1(0)"_s, u"Use &Orvalis Player"_s, {12, 17, 206, 17}),
+        dialogOption(*frame, u"Option1(1)"_s, u"Use &Default Player"_s, {12, 36, 206, 17})};
     for (QRadioButton* option : m_Option1)
         group->addButton(option);
 }
 
 void frmOptions::makeStartFrame() {
-    QGroupBox* frame = dialogFrame(*this, u"Frame2"_s, u"Start Up"_s, {8, 64, 230, 40});
+    QGroupBox* frame = dialogFrame(*this, u"Frame2"_s, u"Start Up"_s, {8, 73, 230, 42});
     m_Check1 = new QCheckBox(u"&Load with Windows and stay Minimized"_s, frame);
     m_Check1->setObjectName(u"Check1"_s);
-    m_Check1->setGeometry(12, 17, 214, 17);
+    m_Check1->setGeometry(12, 18, 214, 17);
 }
 
 void frmOptions::makeSortFrame() {
-    QGroupBox* frame = dialogFrame(*this, u"Frame4"_s, u"Address Book"_s, {8, 107, 230, 41});
+    QGroupBox* frame = dialogFrame(*this, u"Frame4"_s, u"Address Book"_s, {8, 122, 230, 42});
     auto* label = new Label(u"Label1"_s, u"Sort Items:"_s, frame);
-    label->setGeometry(12, 18, 62, 16);
+    label->setGeometry(12, 19, 62, 16);
     auto* group = new QButtonGroup(frame);
-    m_optSort = {dialogOption(*frame, u"optSort(0)"_s, u"by &First"_s, {78, 17, 66, 17}),
-                 dialogOption(*frame, u"optSort(1)"_s, u"by &Second"_s, {148, 17, 76, 17})};
+    m_optSort = {dialogOption(*frame, u"optSort(0)"_s, u"by &First"_s, {78, 18, 66, 17}),
+                 dialogOption(*frame, u"optSort(1)"_s, u"by &Second"_s, {148, 18, 76, 17})};
     for (QRadioButton* option : m_optSort)
         group->addButton(option);
 }
 
 void frmOptions::makeTimeFrame() {
-    QGroupBox* frame = dialogFrame(*this, u"Frame6"_s, u"Display Time Format"_s, {8, 151, 230, 52});
+    QGroupBox* frame = dialogFrame(*this, u"Frame6"_s, u"Display Time Format"_s, {8, 171, 230, 54});
     m_lstvreme = new ComboBox(u"lstvreme"_s, frame, ComboBox::Style::DropDownList);
-    m_lstvreme->setGeometry(12, 19, 206, 23);
+    m_lstvreme->setGeometry(12, 20, 206, 23);
     m_lstvreme->setAccessibleName(frame->title());
     m_lstvreme->setMaxVisibleItems(ClockFormatCount);
     connect(m_lstvreme, &ComboBox::Click, this, &frmOptions::lstvremeClick);
 }
 
 void frmOptions::makeButtons() {
-    GGCommand* ok = dialogButton(*this, u"imgOK"_s, u"OK"_s, u"ok"_s, {76, 232, 76, 26});
+    GGCommand* ok = dialogButton(*this, u"imgOK"_s, u"OK"_s, u"ok"_s, {79, 232, 76, 26});
     GGCommand* cancel =
         dialogButton(*this, u"imgCanc"_s, u"Cancel"_s, u"cancel"_s, {162, 232, 76, 26});
     connect(ok, &GGCommand::Click, this, &frmOptions::okClick);

@@ -3,7 +3,6 @@
 #include "platform/logon_entry.h"
 
 #include "runtime/failure.h"
-#include "runtime/file_saving.h"
 #include "runtime/files.h"
 
 #include <QDir>

@@ -208,13 +208,21 @@ void group(QPainter& painter, const QStyleOptionGroupBox& group, const QRect& ca
     const Smooth smooth(painter);
     const int top = group.text.isEmpty() ? 0 : captionRect.center().y();
     const QRectF frame = outline(group.rect.adjusted(0, top, 0, 0));
+    const QRect titleRoom = captionRect.adjusted(-4, 0, 4, 0);
+    QPainterPath ground;
+    ground.addRoundedRect(frame, 5, 5);
     QRegion around(group.rect);
-    if (!group.text.isEmpty())
-        around -= captionRect.adjusted(-3, 0, 3, 0);
-    painter.setClipRegion(around);
+    if (!group.text.isEmpty()) {
+        // The title lies on the frame's own ground, which rises round it above the line.
+        QPainterPath title;
+        title.addRoundedRect(titleRoom, 4, 4);
+        ground = ground.united(title);
+        around -= titleRoom;
+    }
     painter.setBrush(QColor(255, 255, 255, 90));
     painter.setPen(Qt::NoPen);
-    painter.drawRoundedRect(frame, 5, 5);
+    painter.drawPath(ground);
+    painter.setClipRegion(around);
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(QColor(255, 255, 255, 200), 1));
     painter.drawRoundedRect(frame.adjusted(1, 1, -1, -1), 4, 4);

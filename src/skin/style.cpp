@@ -24,6 +24,9 @@ namespace orvalis::skin {
 
 namespace {
 
+/// The room that Fusion keeps beside the words of a menu for pictures and ticks, in logical pixels.
+constexpr int SignColumn = 18;
+
 QColor of(QRgb rgb) {
     return QColor::fromRgba(rgb);
 }
@@ -48,11 +51,18 @@ void layOnGlass(QWidget* widget) {
     widget->setPalette(palette);
 }
 
+/// Whether no entry of the menu has a picture or a tick.
+bool hasNoSigns(const QStyleOptionMenuItem& item) {
+    return !item.menuHasCheckableItems && item.maxIconWidth == 0 && item.icon.isNull();
+}
+
 void drawMenuItem(const QStyle* base, const QStyleOptionMenuItem& item, QPainter* painter,
                   const QWidget* widget) {
     QStyleOptionMenuItem ours(item);
     ours.palette.setColor(QPalette::Highlight, of(colour::Teal));
     ours.palette.setColor(QPalette::HighlightedText, Qt::white);
+    if (hasNoSigns(item))
+        ours.rect.adjust(-SignColumn, 0, 0, 0);
     base->drawControl(QStyle::CE_MenuItem, &ours, painter, widget);
 }
 
@@ -197,6 +207,15 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
         return;
     }
     QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                              const QWidget* widget) const {
+    QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (item && type == CT_MenuItem && hasNoSigns(*item))
+        size.rwidth() -= SignColumn;
+    return size;
 }
 
 QIcon Style::standardIcon(StandardPixmap picture, const QStyleOption* option,

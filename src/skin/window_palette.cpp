@@ -27,7 +27,7 @@ QPalette windowPalette() {
     palette.setColor(QPalette::BrightText, Qt::white);
     palette.setColor(QPalette::Highlight, of(colour::Sage));
     palette.setColor(QPalette::HighlightedText, of(0xFF14261B));
-    palette.setColor(QPalette::Link, of(0xFF00747A));
+    palette.setColor(QPalette::Link, of(0xFF005F63));
     palette.setColor(QPalette::LinkVisited, of(colour::LabelInk));
     palette.setColor(QPalette::ToolTipBase, of(0xFFFBFDF6));
     palette.setColor(QPalette::ToolTipText, of(colour::Ink));

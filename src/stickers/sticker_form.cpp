@@ -69,13 +69,13 @@ StickerForm::StickerForm(Program& program, const QString& name, const QString& d
     connect(add, &GGCommand::Click, this, [this] { m_program.stickers->newXn().form().Show(); });
     GGCommand* font = makeButton(u"Image3"_s, u"sticker_font"_s, u"Font"_s, {142, 3, 22, 18});
     connect(font, &GGCommand::Click, this, &StickerForm::chooseFont);
-    GGCommand* close = makeButton(u"Image2"_s, {}, u"Close"_s, {166, 3, 22, 18});
+    GGCommand* close = makeButton(u"Image2"_s, u"close"_s, u"Close"_s, {166, 3, 22, 18});
+    // Its cross is drawn like the signs beside it, and hides the letter that stands for it.
     close->setCaption(u"x"_s);
-    close->setFont(skin::font(skin::points::Body, true));
+    close->setCaptionYOffset(close->height());
     connect(close, &GGCommand::Click, this, &StickerForm::unloadRequested);
     makeText();
     makeClock();
-    m_unsaved = m_program.recovery.add([this] { return unsavedText(); });
 }
 
 GGCommand* StickerForm::makeButton(const QString& name, const QString& picture,
@@ -85,6 +85,10 @@ GGCommand* StickerForm::makeButton(const QString& name, const QString& picture,
     button->setCaption({});
     button->setToolTip(toolTip);
     wearLook(*button, skin::StickerButton);
+    // Under the pointer the button rises out of green paper.
+    QPalette green = button->palette();
+    green.setColor(QPalette::Dark, QColor(skin::colour::StickerEdge));
+    button->setPalette(green);
     if (!picture.isEmpty()) {
         button->setPicture(skinPicture(picture));
         button->setPictureAlignment(4);
@@ -161,12 +165,6 @@ void StickerForm::onLoad() {
 void StickerForm::onUnload() {
     emit unloadRequested();
     --m_program.state.StickerCount;
-}
-
-std::vector<UnsavedText> StickerForm::unsavedText() const {
-    if (!isLoaded() || m_Text1->Text().isEmpty())
-        return {};
-    return {{u"Sticker \"%1\""_s.arg(windowTitle()), m_Text1->TextRTF()}};
 }
 
 void StickerForm::pin(bool onTop) {

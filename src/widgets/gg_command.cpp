@@ -136,7 +136,7 @@ void GGCommand::paintEvent(QPaintEvent*) {
     painter.setClipRect(QRect(QPoint(), m_face.size));
     paintFace(painter, m_face);
     if (m_edge)
-        paintEdge(painter, m_face.size, *m_edge);
+        paintEdge(painter, m_face.size, *m_edge, palette());
 }
 
 void GGCommand::resizeEvent(QResizeEvent*) {

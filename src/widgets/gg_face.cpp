@@ -70,11 +70,11 @@ void paintFace(QPainter& painter, const GGFace& face) {
     painter.restore();
 }
 
-void paintEdge(QPainter& painter, const QSize& face, const GGEdge& edge) {
+void paintEdge(QPainter& painter, const QSize& face, const GGEdge& edge, const QPalette& palette) {
     const int right = face.width() - 1;
     const int bottom = face.height() - 1;
-    const QColor light = toQColor(edge.light);
-    const QColor dark = toQColor(edge.dark);
+    const QColor light = toQColor(edge.light, palette);
+    const QColor dark = toQColor(edge.dark, palette);
     painter.fillRect(QRect(0, 0, 1, face.height()), light);
     painter.fillRect(QRect(0, 0, face.width(), 1), light);
     painter.fillRect(QRect(right, 0, 1, face.height()), dark);

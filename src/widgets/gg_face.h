@@ -45,7 +45,7 @@ void paintFace(QPainter& painter, const GGFace& face);
 
 /// Paints the one-pixel edge of a face: left, top, right, bottom, so that the dark sides take the
 /// corners they share with the light ones.
-void paintEdge(QPainter& painter, const QSize& face, const GGEdge& edge);
+void paintEdge(QPainter& painter, const QSize& face, const GGEdge& edge, const QPalette& palette);
 
 /// The width of the frame that an extended window style draws round a control.
 int frameWidthOf(quint32 exStyle);

@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
+#include "controls/form.h"
 #include "controls/msg_box.h"
 #include "runtime/program_end.h"
 #include "support/test_main.h"
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -43,6 +45,8 @@ private slots:
     void flagsGiveIconButtonsAndDefault();
     void theTitleIsTheProgramsUnlessOneIsGiven();
     void aBoxOfFewWordsIsWideEnoughForItsTitle();
+    void aBoxStandsOverTheMiddleOfItsWindow();
+    void itsWordsStandBesideTheMiddleOfThePicture();
     void escapeAnswersOkWhereThereIsOkAlone();
     void escapeAnswersCancelWhereThereIsCancel();
     void escapeAndTheCloseButtonLeaveAYesNoBoxOpen();
@@ -133,6 +137,42 @@ void MsgBoxTest::aBoxOfFewWordsIsWideEnoughForItsTitle() {
             title);
         QVERIFY(width >= needed);
     }
+}
+
+void MsgBoxTest::aBoxStandsOverTheMiddleOfItsWindow() {
+    Form form(QStringLiteral("window"));
+    form.setFixedSize(500, 400);
+    form.load();
+    form.Show();
+    form.move(120, 130);
+    for (const int flags : {0, 16, 68}) {
+        QPoint off;
+        ask(flags, [&](QMessageBox& box) {
+            off = box.geometry().center() - form.geometry().center();
+            box.buttons().constFirst()->click();
+        });
+        QVERIFY2(off.manhattanLength() <= 2,
+                 qPrintable(QStringLiteral("%1 and %2").arg(off.x()).arg(off.y())));
+    }
+    form.Hide();
+}
+
+void MsgBoxTest::itsWordsStandBesideTheMiddleOfThePicture() {
+    QPoint words;
+    QPoint picture;
+    ask(16, [&](QMessageBox& box) {
+        const auto middle = [&box](const char* name) {
+            const auto* label = box.findChild<QLabel*>(QString::fromLatin1(name));
+            return label->geometry().center();
+        };
+        words = middle("qt_msgbox_label");
+        picture = middle("qt_msgboxex_icon_label");
+        QVERIFY(box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))
+                    ->alignment()
+                    .testFlag(Qt::AlignVCenter));
+        box.accept();
+    });
+    QVERIFY(std::abs(words.y() - picture.y()) <= 2);
 }
 
 void MsgBoxTest::escapeAnswersOkWhereThereIsOkAlone() {

@@ -11,13 +11,26 @@
 using namespace orvalis;
 using namespace Qt::StringLiterals;
 
+namespace {
+
+void focus(QLineEdit& line, QEvent::Type type, Qt::FocusReason reason) {
+    QFocusEvent event(type, reason);
+    QApplication::sendEvent(&line, &event);
+}
+
+} // namespace
+
 class TitleLineTest : public QObject {
     Q_OBJECT
 private slots:
     void breaksThatArePastedBecomeBlanks_data();
     void breaksThatArePastedBecomeBlanks();
     void theCaretStaysBehindWhatWasPasted();
-    void whatGoesOnElsewhereLeavesTheCaret();
+    void aLineThatIsLeftShowsItsBeginning_data();
+    void aLineThatIsLeftShowsItsBeginning();
+    void fromElsewhereTheUserFindsTheLineAsItWas_data();
+    void fromElsewhereTheUserFindsTheLineAsItWas();
+    void aMenuOfTheLineLeavesTheCaret();
 };
 
 void TitleLineTest::breaksThatArePastedBecomeBlanks_data() {
@@ -50,17 +63,51 @@ void TitleLineTest::theCaretStaysBehindWhatWasPasted() {
     QCOMPARE(line.cursorPosition(), 8);
 }
 
-void TitleLineTest::whatGoesOnElsewhereLeavesTheCaret() {
+void TitleLineTest::aLineThatIsLeftShowsItsBeginning_data() {
+    QTest::addColumn<Qt::FocusReason>("reason");
+    QTest::newRow("for another control") << Qt::MouseFocusReason;
+    QTest::newRow("by a key") << Qt::TabFocusReason;
+    QTest::newRow("for another window") << Qt::ActiveWindowFocusReason;
+}
+
+void TitleLineTest::aLineThatIsLeftShowsItsBeginning() {
+    QFETCH(Qt::FocusReason, reason);
+    QLineEdit line(u"a title"_s);
+    makeTitleLine(line);
+    line.setSelection(2, 5);
+    focus(line, QEvent::FocusOut, reason);
+    QCOMPARE(line.cursorPosition(), 0);
+    QVERIFY(!line.hasSelectedText());
+}
+
+void TitleLineTest::fromElsewhereTheUserFindsTheLineAsItWas_data() {
+    QTest::addColumn<int>("start");
+    QTest::addColumn<int>("length");
+    QTest::newRow("a caret") << 3 << 0;
+    QTest::newRow("a selection") << 2 << 4;
+    QTest::newRow("a selection to the left") << 6 << -4;
+}
+
+void TitleLineTest::fromElsewhereTheUserFindsTheLineAsItWas() {
+    QFETCH(int, start);
+    QFETCH(int, length);
+    QLineEdit line(u"a title"_s);
+    makeTitleLine(line);
+    line.setSelection(start, length);
+    const int caret = line.cursorPosition();
+    const QString selected = line.selectedText();
+    focus(line, QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+    focus(line, QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+    QCOMPARE(line.cursorPosition(), caret);
+    QCOMPARE(line.selectedText(), selected);
+}
+
+void TitleLineTest::aMenuOfTheLineLeavesTheCaret() {
     QLineEdit line(u"one"_s);
     makeTitleLine(line);
     line.setCursorPosition(3);
-    for (const auto& [reason, position] :
-         {std::pair(Qt::ActiveWindowFocusReason, 3), std::pair(Qt::PopupFocusReason, 3),
-          std::pair(Qt::MouseFocusReason, 0)}) {
-        QFocusEvent left(QEvent::FocusOut, reason);
-        QApplication::sendEvent(&line, &left);
-        QCOMPARE(line.cursorPosition(), position);
-    }
+    focus(line, QEvent::FocusOut, Qt::PopupFocusReason);
+    QCOMPARE(line.cursorPosition(), 3);
 }
 
 ORVALIS_TEST_MAIN_WITH(QApplication, TitleLineTest)

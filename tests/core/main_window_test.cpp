@@ -1,8 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "controls/image.h"
+#include "core/alarm_label.h"
 #include "core/clock_label.h"
 #include "core/main_window.h"
+#include "skin/skin.h"
+#include "support/contrast.h"
 #include "support/pointer_events.h"
 #include "support/role_doubles.h"
 #include "support/test_main.h"
@@ -52,6 +55,9 @@ private slots:
     void aClockFontThatTheMachineLacksIsReplaced();
     void theAlarmsImagesKeepTheirSizeAndMove();
     void aWiderScreenGivesSmallerPointSizes();
+    void wordsOfTheFourButtonsStandOut();
+    void theBellStaysWhereItIs();
+    void theArmedTimeIsLargeWithAWordBesideIt();
     void theLabelWithoutBehaviourIsThere();
     void openingPicturesTellTheirPanelsToThoseWhoCannotSeeThem();
     void aLongTextInTheClockIsNotCutOff();
@@ -210,6 +216,60 @@ void MainWindowTest::theAlarmsImagesKeepTheirSizeAndMove() {
 void MainWindowTest::aWiderScreenGivesSmallerPointSizes() {
     m_test->screen.screenSize = QSize(1600, 1200);
     QCOMPARE(window().findChild<ClockLabel*>(u"lblVreme"_s)->font().pointSize(), 8);
+}
+
+void MainWindowTest::wordsOfTheFourButtonsStandOut() {
+    constexpr int Ratio = 4;
+    constexpr QRect Words(30 * Ratio, 104 * Ratio, 86 * Ratio, 22 * Ratio);
+    for (const QString& name :
+         {u"open_reminder"_s, u"open_notes"_s, u"open_address"_s, u"open_password"_s})
+        for (const QString& picture : {name, name + u"_hover"_s}) {
+            const double ratio = textContrast(skin::pixmap(picture, Ratio).toImage().copy(Words));
+            QVERIFY2(ratio >= ReadableContrast,
+                     qPrintable(picture + u' ' + QString::number(ratio)));
+        }
+}
+
+void MainWindowTest::theBellStaysWhereItIs() {
+    frmnotes& main = window();
+    main.Show();
+    const QRect set = main.findChild<Image*>(u"imgSet"_s)->geometry();
+    m_test->program.state.alarmArmed = true;
+    m_test->program.state.alarmTimeText = u"07:30:00"_s;
+    main.SetAlarm0();
+    QCOMPARE(main.findChild<Image*>(u"imgStop"_s)->geometry(), set);
+}
+
+void MainWindowTest::theArmedTimeIsLargeWithAWordBesideIt() {
+    frmnotes& main = window();
+    main.Show();
+    auto* clock = main.findChild<ClockLabel*>(u"lblVreme"_s);
+    auto* alarm = main.findChild<AlarmLabel*>(u"lblAlarm"_s);
+    const auto ink = [&main](const QRect& part) {
+        const QImage drawn = drawnLarge(main, part);
+        QRect bounds;
+        for (int y = 0; y < drawn.height(); ++y)
+            for (int x = 0; x < drawn.width(); ++x)
+                if (qGray(drawn.pixel(x, y)) > 130)
+                    bounds |= QRect(x, y, 1, 1);
+        return bounds;
+    };
+    const QRect glass = clock->geometry() | alarm->geometry();
+    const QRect idle = ink(glass);
+    QVERIFY(std::abs(idle.center().y() - glass.height() * 4 / 2) <= 8);
+    main.SetAlarm0();
+    alarm->setCaption(u"07:30:00"_s);
+    QCOMPARE(alarm->Caption(), u"07:30:00"_s);
+    QCOMPARE(alarm->font().pointSize(), 11);
+    const QRect armed = ink(alarm->geometry());
+    // The time alone is narrower than both words.
+    const int time = QFontMetrics(alarm->font()).horizontalAdvance(u"07:30:00"_s);
+    QVERIFY2(armed.width() / 4 > time + 20, qPrintable(QString::number(armed.width() / 4)));
+    // The clock has made room above.
+    const QRect above = ink(clock->geometry().adjusted(
+        0, 0, 0, alarm->geometry().top() - clock->geometry().bottom() - 1));
+    QVERIFY(!above.isEmpty());
+    QCOMPARE(ink(glass).height() > idle.height() + 4 * 8, true);
 }
 
 void MainWindowTest::theLabelWithoutBehaviourIsThere() {

@@ -3,6 +3,8 @@
 #include "planner/panel_ground.h"
 
 #include "skin/style.h"
+#include "support/contrast.h"
+#include "support/pointer_events.h"
 
 #include <QTableView>
 
@@ -23,6 +25,10 @@ private slots:
     void whatIsReadAndWrittenHasOneSize();
     void theCalendarStandsFlushWithTitleAndMessage();
     void saveStandsAlikeOnAllFourSheets();
+    void everyWordStandsOutFromItsGround();
+    void wordsUnderThePointerStandOutFromTheirGround();
+    void daysOfOtherMonthsStandOutAndAreQuieter();
+    void signAndCaptionStandInTheMiddleAsOne();
     void everyCaptionHasItsRoom_data() { theCalendarShowsItsWeeksAndNamesWhole_data(); }
     void everyCaptionHasItsRoom();
     void theLongestDateAndTimeHaveTheirRoom_data() { theCalendarShowsItsWeeksAndNamesWhole_data(); }
@@ -133,6 +139,87 @@ void ReminderLookTest::saveStandsAlikeOnAllFourSheets() {
         QCOMPARE(right.left() - left.right() - 1, 4);
         QCOMPARE(right.top(), left.top());
         QCOMPARE(right.height(), left.height());
+    }
+}
+
+void ReminderLookTest::everyWordStandsOutFromItsGround() {
+    PanelGround ground;
+    ground.shown();
+    QWidgetList controls;
+    for (const char* name :
+         {"lblNot", "lblAdd", "lblPass", "lblVreme", "Command2", "chkRemind", "chkTop", "txt1",
+          "cmdmenu(0)", "cmdmenu(1)", "cmdmenu(2)", "cmdmenu(3)"})
+        controls << &ground.control<QWidget>(QString::fromLatin1(name));
+    for (QWidget* control : std::as_const(controls))
+        QVERIFY2(textContrast(drawnLarge(*control)) >= ReadableContrast,
+                 qPrintable(control->objectName()));
+    ground.tick(u"chkRemind"_s);
+    QApplication::processEvents();
+    for (const char* name : {"Label8", "Label9", "Label3", "Label5", "Label6", "chkSound"})
+        QVERIFY2(textContrast(drawnLarge(ground.control<QWidget>(QString::fromLatin1(name)))) >=
+                     ReadableContrast,
+                 name);
+}
+
+void ReminderLookTest::wordsUnderThePointerStandOutFromTheirGround() {
+    PanelGround ground;
+    ground.shown();
+    for (const char* name :
+         {"lblNot", "lblAdd", "lblPass", "Command2", "cmdmenu(0)", "cmdmenu(2)"}) {
+        auto& control = ground.control<QWidget>(QString::fromLatin1(name));
+        const QImage still = drawnLarge(control);
+        Pointer pointer(control);
+        pointer.enter(control.rect().center());
+        pointer.move(control.rect().center());
+        const QImage under = drawnLarge(control);
+        QVERIFY2(under != still, name);
+        QVERIFY2(textContrast(under) >= ReadableContrast,
+                 qPrintable(u"%1: %2"_s.arg(QLatin1String(name)).arg(textContrast(under))));
+        pointer.leave();
+    }
+}
+
+void ReminderLookTest::daysOfOtherMonthsStandOutAndAreQuieter() {
+    PanelGround ground;
+    ground.shown();
+    QApplication::processEvents();
+    auto* days = ground.calendar().findChild<QTableView*>();
+    const auto contrastOf = [&](int row, int column) {
+        const QRect cell = days->visualRect(days->model()->index(row, column));
+        const QPoint at = days->viewport()->mapTo(&ground.panel(), cell.topLeft());
+        return textContrast(drawnLarge(ground.panel(), QRect(at, cell.size())));
+    };
+    // March 2026 begins on a Sunday: the first row is of February, the second the month's own.
+    const double other = contrastOf(1, 3);
+    const double own = contrastOf(2, 3);
+    QVERIFY2(other >= ReadableContrast, qPrintable(QString::number(other)));
+    QVERIFY2(own > 2 * other, qPrintable(QString::number(own)));
+    QVERIFY(contrastOf(2, 0) >= ReadableContrast);
+    QVERIFY(contrastOf(0, 0) >= ReadableContrast);
+    QVERIFY(contrastOf(0, 3) >= ReadableContrast);
+}
+
+void ReminderLookTest::signAndCaptionStandInTheMiddleAsOne() {
+    PanelGround ground;
+    ground.shown();
+    ground.tick(u"chkRemind"_s);
+    for (const char* name : {"imstodo", "Button1", "Button2"}) {
+        auto& button = ground.control<GGCommand>(QString::fromLatin1(name));
+        const QImage drawn = drawnLarge(button);
+        constexpr int Edge = 8;
+        int first = drawn.width();
+        int last = 0;
+        for (int y = Edge; y < drawn.height() - Edge; ++y)
+            for (int x = Edge; x < drawn.width() - Edge; ++x)
+                // The face is of one colour along each line.
+                if (std::abs(qGray(drawn.pixel(x, y)) - qGray(drawn.pixel(Edge, y))) > 40) {
+                    first = std::min(first, x);
+                    last = std::max(last, x);
+                }
+        const int left = first;
+        const int right = drawn.width() - 1 - last;
+        QVERIFY2(std::abs(left - right) <= 3 * 4,
+                 qPrintable(u"%1: %2 and %3"_s.arg(QLatin1String(name)).arg(left).arg(right)));
     }
 }
 

@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QPainter>
 #include <QProgressBar>
 #include <QPushButton>
@@ -123,6 +124,8 @@ private slots:
     void aButtonSinksWhenItIsPressed();
     void theIconsOfMessageBoxesAreOurs();
     void aChosenMenuEntryIsTeal();
+    void aMenuOfWordsAloneHasNoEmptyColumn();
+    void aFrameTitleLiesOnOneGround();
     void theCalendarHasAnEdgeAndAQuietHead();
     void theMonthOfTheCalendarHasNoArrowInItsCorner();
     void aPasswordShowsAStarForEachCharacter();
@@ -291,7 +294,8 @@ void StyleTest::aFrameLeavesRoomForItsCaption() {
                                                                 QStyle::SC_GroupBoxLabel, &frame);
     const int edge = caption.center().y();
     QVERIFY(image.pixel(110, edge) != qRgb(255, 0, 0));
-    QCOMPARE(image.pixel(caption.left() - 2, edge), qRgb(255, 0, 0));
+    // The frame's ground, and no line on it.
+    QCOMPARE(image.pixel(caption.left() - 2, edge), image.pixel(60, 40));
     QCOMPARE(image.pixel(110, edge - 3), qRgb(255, 0, 0));
     QVERIFY(pixelsLike(image.copy(caption), colour::Ink, 60) > 10);
 }
@@ -412,6 +416,56 @@ void StyleTest::aPasswordShowsAStarForEachCharacter() {
     field.setEchoMode(QLineEdit::Password);
     field.setText(QStringLiteral("rose"));
     QCOMPARE(field.displayText(), QStringLiteral("****"));
+}
+
+void StyleTest::aMenuOfWordsAloneHasNoEmptyColumn() {
+    constexpr int WidestMargin = 12;
+    QMenu menu;
+    menu.addAction(u"HHH"_s);
+    menu.ensurePolished();
+    menu.resize(menu.sizeHint());
+    const QImage drawn = menu.grab().toImage();
+    int first = drawn.width();
+    int last = 0;
+    for (int y = 4; y < drawn.height() - 4; ++y)
+        for (int x = 3; x < drawn.width() - 3; ++x)
+            if (qGray(drawn.pixel(x, y)) < 140) {
+                first = std::min(first, x);
+                last = std::max(last, x);
+            }
+    QVERIFY(last > first);
+    QVERIFY2(first <= WidestMargin, qPrintable(QString::number(first)));
+    QVERIFY2(drawn.width() - last >= 6, qPrintable(QString::number(drawn.width() - last)));
+    // Ticks need their column.
+    menu.addAction(u"HHH"_s)->setCheckable(true);
+    QMenu plain;
+    plain.addAction(u"HHH"_s);
+    plain.addAction(u"HHH"_s);
+    QVERIFY(menu.sizeHint().width() > plain.sizeHint().width());
+}
+
+void StyleTest::aFrameTitleLiesOnOneGround() {
+    QWidget page;
+    page.setFixedSize(200, 100);
+    QPalette dark = page.palette();
+    dark.setColor(QPalette::Window, QColor(100, 120, 130));
+    page.setPalette(dark);
+    QGroupBox frame(u"Title"_s, &page);
+    frame.setGeometry(10, 10, 180, 80);
+    const QImage drawn = page.grab().toImage();
+    QStyleOptionGroupBox option;
+    option.initFrom(&frame);
+    option.text = frame.title();
+    const QRect title =
+        QApplication::style()
+            ->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, &frame)
+            .translated(frame.pos());
+    // Left of the letters: above the frame's line, on it, and below it.
+    const int x = title.left() - 1;
+    const QRgb above = drawn.pixel(x, title.top() + 3);
+    QCOMPARE(drawn.pixel(x, title.center().y()), above);
+    QCOMPARE(drawn.pixel(x, title.bottom() - 1), above);
+    QCOMPARE(drawn.pixel(100, 70), above);
 }
 
 ORVALIS_TEST_MAIN_WITH(QApplication, StyleTest)

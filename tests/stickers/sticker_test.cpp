@@ -5,7 +5,9 @@
 #include "controls/image.h"
 #include "controls/label.h"
 #include "controls/rich_text_box.h"
+#include "skin/skin.h"
 #include "stickers/sticker_form.h"
+#include "support/contrast.h"
 #include "support/test_main.h"
 #include "support/test_program.h"
 #include "widgets/gg_command.h"
@@ -31,6 +33,9 @@ private slots:
     void aNewStickerStartsOnTopWithImgOffShowing();
     void unpinningSwapsTheImagesAndLetsTheWindowSink();
     void pinningAgainBringsTheWindowBackOnTop();
+    void titleAndClockStandOutFromThePaper();
+    void thePaperIsLightEnoughForTheRedOfAlarms();
+    void theCrossIsDrawnAsTheSignsBesideIt();
     void captionAndTitleBeginWithTheNumber();
     void theCaptionFollowsTheTitle();
     void anEmptyTitleGivesAnEmptyCaption();
@@ -56,7 +61,6 @@ private slots:
     void bothClassesHaveTheSameControls();
     void onAWiderScreenTheFontsShrinkAndThePlacesStay();
     void nothingOfAStickerIsStored();
-    void anEndThatNobodyAskedForKeepsTheTextsOfOpenStickers();
 
 private:
     template <class Control>
@@ -132,6 +136,38 @@ void StickerTest::pinningAgainBringsTheWindowBackOnTop() {
     QVERIFY(sticker.form().windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     QVERIFY(!find<Image>(sticker, "imgOff").isHidden());
     QVERIFY(find<Image>(sticker, "imgOn").isHidden());
+}
+
+void StickerTest::titleAndClockStandOutFromThePaper() {
+    StickerWindow& sticker = m_stickers->newFrmstick();
+    sticker.form().Show();
+    for (const char* name : {"txtLabel1", "lblVreme"})
+        QVERIFY2(textContrast(drawnLarge(find<QWidget>(sticker, name))) >= ReadableContrast, name);
+}
+
+void StickerTest::thePaperIsLightEnoughForTheRedOfAlarms() {
+    // Pure red on white has a contrast of 4.0: paper can come near it and no more.
+    constexpr double OnWhite = 4.0;
+    StickerWindow& sticker = m_stickers->newFrmstick();
+    sticker.form().Show();
+    const QRect text = find<QWidget>(sticker, "Text1").geometry();
+    const QImage paper = skin::pixmap(u"sticker_background", 1).toImage();
+    for (const QPoint place : {text.topLeft() + QPoint(4, 8), text.center(), text.bottomRight()})
+        QVERIFY(contrast(luminance(paper.pixel(place)), luminance(qRgb(255, 0, 0))) >=
+                0.9 * OnWhite);
+}
+
+void StickerTest::theCrossIsDrawnAsTheSignsBesideIt() {
+    StickerWindow& sticker = m_stickers->newFrmstick();
+    auto& close = find<GGCommand>(sticker, "Image2");
+    QCOMPARE(close.Caption(), u"x"_s);
+    QVERIFY(!close.Picture().isNull());
+    QCOMPARE(close.Picture().size(), find<GGCommand>(sticker, "Image1").Picture().size());
+    // The letter itself is not to be seen.
+    close.setPicture({});
+    const QImage withLetter = close.grab().toImage();
+    close.setCaption({});
+    QCOMPARE(withLetter, close.grab().toImage());
 }
 
 void StickerTest::captionAndTitleBeginWithTheNumber() {
@@ -433,20 +469,6 @@ void StickerTest::nothingOfAStickerIsStored() {
     m_stickers.reset();
     QCOMPARE(m_test->folder.names(), QStringList());
     QCOMPARE(m_test->store.valueCount(), 0);
-}
-
-void StickerTest::anEndThatNobodyAskedForKeepsTheTextsOfOpenStickers() {
-    StickerWindow& closed = m_stickers->newFrmstick();
-    closed.Text1().SetText(u"was closed"_s);
-    press(closed, "Image2");
-    m_stickers->newFrmstick();
-    StickerWindow& open = m_stickers->newXn();
-    find<QLineEdit>(open, "txtLabel1").setText(u"Shop"_s);
-    open.Text1().SetText(u"milk"_s);
-    program().recovery.keep();
-    RichTextBox box;
-    box.LoadFile(m_test->folder.file(u"recovered.rtf"_s));
-    QCOMPARE(box.Text(), u"Sticker \"Shop\", Saturday, March 14, 2026, 10:24:36\r\nmilk"_s);
 }
 
 ORVALIS_TEST_MAIN_WITH(QApplication, StickerTest)

@@ -10,7 +10,6 @@
 #include "support/fake_clock.h"
 #include "support/memory_settings_store.h"
 #include "support/recording_platform.h"
-#include "support/recording_printer.h"
 #include "support/scripted_boxes.h"
 #include "support/scripted_dialogs.h"
 #include "support/temporary_folder.h"
@@ -46,7 +45,6 @@ public:
     RecordingMail mail;
     RecordingSoundPlayer sound;
     FakeScreen screen;
-    RecordingPrinter printer;
     App app{folder.file(QStringLiteral("orvalis")), folder.file(QStringLiteral("data")), {}};
     Registry settings{store, logonEntry};
     Program program{{.app = app,
@@ -57,8 +55,7 @@ public:
                      .shell = shell,
                      .mail = mail,
                      .sound = sound,
-                     .screen = screen,
-                     .printer = printer}};
+                     .screen = screen}};
 };
 
 /// Whether the block ended the program.

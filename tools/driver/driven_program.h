@@ -62,8 +62,6 @@ public:
     bool connectProbe();
     bool isRunning();
     void kill();
-    /// Asks it to end, as the system does at its own end.
-    void terminate() { m_process.terminate(); }
     bool waitForEnd(int milliseconds = 10000);
     QByteArray output();
 

@@ -38,8 +38,6 @@ public:
 
     const Display& display() const { return m_display; }
 
-    /// The display goes away under everybody who uses it.
-    void killDisplay();
     void startTray();
     void stopTray();
 
@@ -52,7 +50,6 @@ private:
     Display m_display;
     QProcessEnvironment m_environment;
     std::vector<std::unique_ptr<QProcess>> m_processes;
-    QProcess* m_server = nullptr;
     QProcess* m_tray = nullptr;
     QString m_trouble;
 };

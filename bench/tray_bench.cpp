@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "alarm/alarm_set_dialog.h"
-#include "controls/common_dialog.h"
 #include "controls/msg_box.h"
+#include "controls/qt_dialogs.h"
 #include "core/main_window.h"
 #include "core/options_dialog.h"
 #include "core/program.h"
@@ -11,6 +11,8 @@
 #include "platform/desktop_tray.h"
 #include "platform/ini_settings_store.h"
 #include "platform/logon_entry.h"
+#include "platform/mail.h"
+#include "platform/printer.h"
 #include "platform/registry.h"
 #include "platform/screen.h"
 #include "platform/shell.h"
@@ -90,8 +92,10 @@ int main(int argc, char** argv) {
     XdgLogonEntry logonEntry(folder.filePath(u"autostart"_s));
     Registry settings(store, logonEntry);
     QtMessageBoxes boxes;
-    QtDialogs dialogs;
+    DesktopPrinter printer;
+    QtDialogs dialogs([&printer]() -> QPrinter& { return printer.device(); });
     DesktopShell shell;
+    DesktopMail mail;
     DeviceSoundPlayer sound;
     DesktopScreen screen;
     DesktopTray tray;
@@ -101,8 +105,10 @@ int main(int argc, char** argv) {
                      .boxes = boxes,
                      .dialogs = dialogs,
                      .shell = shell,
+                     .mail = mail,
                      .sound = sound,
-                     .screen = screen});
+                     .screen = screen,
+                     .printer = printer});
     Windows& windows = program.windows;
     program.makeTrayOwner = [&tray](ChromeWindow& window) {
         return std::make_unique<TrayHandover>(window, tray);

@@ -7,6 +7,7 @@
 #include "platform/chm_directory.h"
 #include "platform/chm_file.h"
 #include "runtime/failure.h"
+#include "runtime/file_saving.h"
 #include "runtime/files.h"
 
 #include <QFileInfo>

@@ -3,9 +3,9 @@
 #include "alarm/alarm_set_dialog.h"
 #include "alarm/alarm_tick.h"
 #include "alarm/alarm_window.h"
-#include "controls/common_dialog.h"
 #include "controls/document_reading.h"
 #include "controls/msg_box.h"
+#include "controls/qt_dialogs.h"
 #include "core/about_box.h"
 #include "core/application.h"
 #include "core/help_viewer.h"
@@ -25,6 +25,8 @@
 #include "platform/logon_entry.h"
 #include "platform/mail.h"
 #include "platform/metafile_process.h"
+#include "platform/outside_end.h"
+#include "platform/printer.h"
 #include "platform/registry.h"
 #include "platform/screen.h"
 #include "platform/shell.h"
@@ -126,7 +128,8 @@ int main(int argc, char** argv) {
     XdgLogonEntry logonEntry;
     Registry settings(store, logonEntry);
     QtMessageBoxes boxes;
-    QtDialogs dialogs;
+    DesktopPrinter printer;
+    QtDialogs dialogs([&printer]() -> QPrinter& { return printer.device(); });
     DesktopShell shell;
     DesktopMail mail;
     DeviceSoundPlayer sound;
@@ -145,7 +148,8 @@ int main(int argc, char** argv) {
                      .shell = shell,
                      .mail = mail,
                      .sound = sound,
-                     .screen = screen});
+                     .screen = screen,
+                     .printer = printer});
     AlarmTick tick(program);
     program.tick = &tick;
     Stickers stickers(program);
@@ -154,5 +158,8 @@ int main(int argc, char** argv) {
         return std::make_unique<TrayHandover>(window, tray);
     };
     registerWindows(program, instance.PrevInstance(), help);
+    application.setRecovery(&program.recovery);
+    const OutsideEnd outsideEnd([&program] { program.recovery.keep(); },
+                                [&application] { application.endFromOutside(); });
     return application.run([&program] { program.windows.get<StartWindow>().form().Show(); });
 }

@@ -5,10 +5,6 @@
 #include "controls/dialogs.h"
 #include "runtime/failure.h"
 
-#include <QFileDialog>
-#include <QMap>
-#include <QStandardPaths>
-
 namespace orvalis {
 
 /// The value of a property of a selection.
@@ -28,10 +24,13 @@ public:
     explicit CommonDialog(Dialogs& dialogs)
         : m_dialogs(dialogs) {}
 
-    QString FileName;
-    QString Filter; ///< "Text|*.txt|All Files|*.*"
+    QString FileName;  ///< of the file accepted last, with its path; offered at the next dialog
+    QString FileTitle; ///< of the file accepted last, without its path
+    QString Filter;    ///< "Text|*.txt|All Files|*.*"
     QString InitDir;
+    /// These two are the next file dialog's alone: one control serves many commands.
     QString DialogTitle;
+    QString DefaultExt;
     int Flags = 0;
     bool CancelError = false;
 
@@ -47,37 +46,15 @@ public:
     void ShowSave();
     void ShowFont();
     void ShowColor();
+    /// Sets up the printer that documents go to.
+    void ShowPrinter();
 
 private:
     void cancelled() const;
-    FileRequest fileRequest() const;
+    FileRequest takeFileRequest();
+    void takeFile(const std::optional<QString>& chosen);
 
     Dialogs& m_dialogs;
 };
-
-/// The dialogs on the screen. File dialogs ask nothing of their own about existing files and add
-/// no extension.
-class QtDialogs final : public Dialogs {
-public:
-    // Each throws ProgramEnded when the program ended while the dialog was open.
-    std::optional<QString> openFile(const FileRequest& request) override;
-    std::optional<QString> saveFile(const FileRequest& request) override;
-    std::optional<FontChoice> chooseFont(const FontChoice& present) override;
-    std::optional<quint32> chooseColour(quint32 present) override;
-
-private:
-    std::optional<QString> chooseFile(const FileRequest& request, QFileDialog::AcceptMode mode,
-                                      const QString& title);
-
-    /// Where the last file of each kind was chosen in this run.
-    QMap<QStandardPaths::StandardLocation, QString> m_lastFolders;
-};
-
-/// The folder of the user's that holds files of a filter's kind: Music for sounds, Pictures for
-/// pictures, Documents for all others.
-QStandardPaths::StandardLocation folderOfKind(const QString& filter);
-
-/// The name filters of a file dialog from the "words|patterns" pairs of a filter text.
-QStringList nameFilters(const QString& filter);
 
 } // namespace orvalis

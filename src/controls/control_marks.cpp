@@ -85,21 +85,45 @@ private:
     Kind m_kind = Kind::Any;
 };
 
+void markToCode(QChar& c) {
+    if (rtf::isMark(c.unicode()))
+        c = QChar(rtf::codeOf(c.unicode()));
+}
+
 /// Turns the marks of a block into codes. \a plain holds the block's characters from \a from on,
 /// beginning at \a start.
 void marksToCodes(QString& plain, qsizetype start, const QTextBlock& block, int from, int to) {
+    constexpr int Short = 256;
+    if (to - from <= Short) {
+        // The runs of a block can only be had from its first one on, and there can be many.
+        QTextCursor cursor(block);
+        for (int at = from; at < to; ++at) {
+            QChar& c = plain[start + at - from];
+            if (!rtf::isMark(c.unicode()))
+                continue;
+            cursor.setPosition(block.position() + at + 1);
+            if (cursor.charFormat().boolProperty(rtf::ControlMarks))
+                markToCode(c);
+        }
+        return;
+    }
     for (auto it = block.begin(); !it.atEnd(); ++it) {
         const QTextFragment fragment = it.fragment();
         const int begin = std::max(fragment.position() - block.position(), from);
         const int end = std::min(fragment.position() - block.position() + fragment.length(), to);
         if (begin >= end || !fragment.charFormat().boolProperty(rtf::ControlMarks))
             continue;
-        for (int at = begin; at < end; ++at) {
-            QChar& c = plain[start + at - from];
-            if (rtf::isMark(c.unicode()))
-                c = QChar(rtf::codeOf(c.unicode()));
-        }
+        for (int at = begin; at < end; ++at)
+            markToCode(plain[start + at - from]);
     }
+}
+
+/// A part of a block as it stands in the document; a whole block's text is not copied for it.
+QString rawPart(const QTextBlock& block, int from, int to) {
+    QTextCursor cursor(block);
+    cursor.setPosition(block.position() + from);
+    cursor.setPosition(block.position() + to, QTextCursor::KeepAnchor);
+    return cursor.selectedText();
 }
 
 } // namespace
@@ -110,8 +134,7 @@ void insertPlain(QTextCursor& cursor, QStringView text, const QTextCharFormat& f
 
 void appendPlain(QString& plain, const QTextBlock& block, int from, int to) {
     const qsizetype start = plain.size();
-    const QString text = block.text();
-    plain += QStringView(text).mid(from, to - from);
+    plain += rawPart(block, from, to);
     bool marks = false;
     bool breaks = false;
     for (qsizetype at = start; at < plain.size(); ++at) {

@@ -26,11 +26,12 @@ struct FileRequest {
     QString filter;
     QString directory;
     QString fileName;
-    QString title;
+    QString title;            ///< empty: the dialog's own
+    QString defaultExtension; ///< is told, yet nothing adds it to a name
 };
 
-/// The platform's file, font and colour dialogs. The program shows real ones, a test answers them.
-/// Each call holds the caller until the dialog is closed; an empty result means Cancel.
+/// The platform's file, font, colour and print dialogs. The program shows real ones, a test answers
+/// them. Each call holds the caller until the dialog is closed; an empty result means Cancel.
 class Dialogs {
 public:
     virtual ~Dialogs() = default;
@@ -39,6 +40,8 @@ public:
     virtual std::optional<QString> saveFile(const FileRequest& request) = 0;
     virtual std::optional<FontChoice> chooseFont(const FontChoice& present) = 0;
     virtual std::optional<quint32> chooseColour(quint32 present) = 0;
+    /// Sets up the printer that documents go to. \returns false for Cancel.
+    virtual bool choosePrinter() = 0;
 };
 
 } // namespace orvalis

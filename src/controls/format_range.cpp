@@ -45,7 +45,8 @@ void RangeFormatter::release() {
 
 int RangeFormatter::format(const QTextDocument& document, const TextPositions& positions,
                            const FormatRange& range) {
-    prepare(document, range);
+    QPaintDevice& device = range.device ? *range.device : *range.painter->device();
+    prepare(document, range, device);
     const int length = positions.length();
     const int stop = range.last < 0 ? length : std::min(range.last, length);
     if (m_lines.empty())
@@ -57,26 +58,28 @@ int RangeFormatter::format(const QTextDocument& document, const TextPositions& p
     auto first = std::upper_bound(m_lines.begin(), m_lines.end(), firstPosition, behind);
     if (first != m_lines.begin())
         --first;
-    const qreal height = range.rect.height() * range.device->logicalDpiY() / TwipsPerInch;
+    const qreal height = range.rect.height() * device.logicalDpiY() / TwipsPerInch;
     auto line = first + 1;
     while (line != m_lines.end() && line->bottom - first->top <= height && !line->startsPage &&
            (line->position < stopPosition || stop == length))
         ++line;
+    const bool toTheEnd = line == m_lines.end();
     if (range.painter)
-        draw(range, *first, *(line - 1));
-    return line == m_lines.end() ? stop : std::min(stop, positions.indexOf(line->position));
+        draw(range, device, *first, *(line - 1), firstPosition, stopPosition);
+    return toTheEnd ? stop : std::min(stop, positions.indexOf(line->position));
 }
 
-void RangeFormatter::prepare(const QTextDocument& document, const FormatRange& range) {
+void RangeFormatter::prepare(const QTextDocument& document, const FormatRange& range,
+                             QPaintDevice& device) {
     const QSizeF page = range.rect.size();
     // Another device can stand where one stood before.
-    const QSize dots(range.device->logicalDpiX(), range.device->logicalDpiY());
+    const QSize dots(device.logicalDpiX(), device.logicalDpiY());
     if (m_copy && m_document == &document && m_revision == document.revision() &&
-        m_device == range.device && m_dots == dots && m_page == page)
+        m_device == &device && m_dots == dots && m_page == page)
         return;
     m_document = &document;
     m_revision = document.revision();
-    m_device = range.device;
+    m_device = &device;
     m_dots = dots;
     m_page = page;
     m_copy.reset(document.clone());
@@ -86,8 +89,8 @@ void RangeFormatter::prepare(const QTextDocument& document, const FormatRange& r
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     m_copy->setDefaultTextOption(option);
     shrinkPictures(page / TwipsPerPixel);
-    m_copy->documentLayout()->setPaintDevice(range.device);
-    m_copy->setTextWidth(page.width() * range.device->logicalDpiX() / TwipsPerInch);
+    m_copy->documentLayout()->setPaintDevice(&device);
+    m_copy->setTextWidth(page.width() * device.logicalDpiX() / TwipsPerInch);
     collectLines();
 }
 
@@ -146,15 +149,55 @@ void RangeFormatter::collectLines() {
     }
 }
 
-void RangeFormatter::draw(const FormatRange& range, const Line& first, const Line& last) {
+/// Where the characters between two positions stand in a line of the copy: in one piece, or in
+/// several where the line runs both ways. A label belongs to the first of them.
+QRegion RangeFormatter::partOf(const Line& line, const QRectF& room, int from, int to) const {
+    constexpr int Usual = 2000; // characters; of longer lines what stands between the two is taken
+    const QTextBlock block = m_copy->findBlock(line.position);
+    const QTextLayout& layout = *block.layout();
+    const QTextLine shown = layout.lineForTextPosition(line.position - block.position());
+    const int start = std::max(from - block.position(), shown.textStart());
+    const int end = std::min(to - block.position(), shown.textStart() + shown.textLength());
+    QRegion part;
+    const auto add = [&](qreal one, qreal other) {
+        const QRectF box(std::min(one, other), line.top, std::abs(other - one),
+                         line.bottom - line.top);
+        part += box.translated(layout.position().x(), 0).toAlignedRect();
+    };
+    if (end - start > Usual)
+        add(shown.cursorToX(start), shown.cursorToX(end));
+    else
+        for (int at = start; at < end; ++at)
+            add(shown.cursorToX(at), shown.cursorToX(at, QTextLine::Trailing));
+    const QRectF text = shown.naturalTextRect();
+    if (from <= block.position() && to > block.position() && start == 0)
+        block.textDirection() == Qt::RightToLeft ? add(text.right(), room.right())
+                                                 : add(room.left(), text.left());
+    return part;
+}
+
+void RangeFormatter::draw(const FormatRange& range, const QPaintDevice& device, const Line& first,
+                          const Line& last, int from, int to) {
     QPainter& painter = *range.painter;
-    const qreal unitsX = range.device->logicalDpiX() / TwipsPerInch;
-    const qreal unitsY = range.device->logicalDpiY() / TwipsPerInch;
+    const qreal unitsX = device.logicalDpiX() / TwipsPerInch;
+    const qreal unitsY = device.logicalDpiY() / TwipsPerInch;
     const QRectF band(-range.rect.left() * unitsX, first.top,
                       (range.rect.right() + range.rect.left()) * unitsX, last.bottom - first.top);
     painter.save();
     painter.translate(range.rect.left() * unitsX, range.rect.top() * unitsY - first.top);
     painter.setClipRect(band, Qt::IntersectClip);
+    const bool cutsFirst = from > first.position;
+    const bool cutsLast =
+        &last != &m_lines.back() ? to < (&last + 1)->position : to < m_copy->characterCount() - 1;
+    QRegion region = band.toAlignedRect();
+    for (const Line* line : {cutsFirst ? &first : nullptr, cutsLast ? &last : nullptr})
+        if (line) {
+            const QRectF room(band.left(), line->top, band.width(), line->bottom - line->top);
+            region -= room.toAlignedRect();
+            region += partOf(*line, room, from, to);
+        }
+    if (cutsFirst || cutsLast)
+        painter.setClipRegion(region, Qt::IntersectClip);
     QAbstractTextDocumentLayout::PaintContext context;
     context.clip = band;
     context.palette.setColor(QPalette::Text, Qt::black);

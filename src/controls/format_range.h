@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QRectF>
+#include <QRegion>
 #include <QSize>
 #include <QTextDocument>
 
@@ -19,14 +20,15 @@ class TextPositions;
 /// One page to be formatted.
 struct FormatRange {
     QPainter* painter = nullptr;    ///< draws the page; none: it is only measured
-    QPaintDevice* device = nullptr; ///< what is measured by, and drawn on
+    QPaintDevice* device = nullptr; ///< what is measured by; none: what the painter draws on
     QRectF rect;                    ///< where the text goes, in twips from the painter's origin
     int first = 0;                  ///< the first character, a position in the plain text
     int last = -1;                  ///< where to stop; -1: the end of the text
 };
 
 /// Breaks a document into pages: lays a copy of it out for the device once, and hands its lines
-/// out page by page. No line is cut in two, and a picture larger than the page shrinks to it.
+/// out page by page. No line is cut in two, and a picture larger than the page shrinks to it. Of a
+/// line that a range only touches, its own characters alone are drawn.
 class RangeFormatter {
 public:
     /// \returns the position of the first character that did not fit. A page takes at least one
@@ -44,10 +46,12 @@ private:
         bool startsPage;
     };
 
-    void prepare(const QTextDocument& document, const FormatRange& range);
+    void prepare(const QTextDocument& document, const FormatRange& range, QPaintDevice& device);
     void shrinkPictures(const QSizeF& page);
     void collectLines();
-    void draw(const FormatRange& range, const Line& first, const Line& last);
+    void draw(const FormatRange& range, const QPaintDevice& device, const Line& first,
+              const Line& last, int from, int to);
+    QRegion partOf(const Line& line, const QRectF& room, int from, int to) const;
 
     std::unique_ptr<QTextDocument> m_copy;
     std::vector<Line> m_lines;

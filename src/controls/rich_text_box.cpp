@@ -13,6 +13,8 @@
 #include "runtime/failure.h"
 #include "runtime/text_file.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QTextBlock>
 #include <QTextDocument>
 
@@ -44,11 +46,16 @@ QByteArray bytesOfRtf(const QString& rtf) {
 
 RichTextBox::RichTextBox(QWidget* parent)
     : QTextEdit(parent)
+    , m_usualTabs(document()->defaultTextOption().tabStopDistance())
     , m_positions(std::make_unique<TextPositions>(*document()))
     , m_undoKinds(std::make_unique<UndoKinds>()) {
     connect(document(), &QTextDocument::contentsChange, this, &RichTextBox::takeChange);
     connect(document(), &QTextDocument::contentsChanged, this, [this] {
         m_undoKinds->stepsChanged(document()->availableUndoSteps(), m_movesThroughHistory);
+    });
+    connect(QApplication::clipboard(), &QClipboard::dataChanged, this, [this] {
+        m_clipboardFits.reset();
+        emit CanPasteChanged();
     });
     connect(this, &QTextEdit::textChanged, this, &RichTextBox::tellChange);
     connect(this, &QTextEdit::cursorPositionChanged, this, &RichTextBox::tellSelection);
@@ -76,11 +83,12 @@ QString RichTextBox::Text() const {
 }
 
 void RichTextBox::SetText(const QString& text) {
-    replaceEverything(text, editCursor().blockFormat());
+    replaceEverything(text, formatAtStart(editCursor()), editCursor().blockFormat());
 }
 
-void RichTextBox::replaceEverything(const QString& text, const QTextBlockFormat& paragraph) {
-    const QTextCharFormat format = formatAtStart(editCursor());
+void RichTextBox::replaceEverything(const QString& text, const QTextCharFormat& format,
+                                    const QTextBlockFormat& paragraph) {
+    const bool keepsHistory = document()->isUndoRedoEnabled();
     const bool inBatch = m_batches > 0;
     hold();
     if (!inBatch)
@@ -95,8 +103,12 @@ void RichTextBox::replaceEverything(const QString& text, const QTextBlockFormat&
         insertPlain(cursor, text, format);
         cursor.endEditBlock();
     });
+    // What a document says of all its tabs goes with it.
+    QTextOption option = document()->defaultTextOption();
+    option.setTabStopDistance(m_usualTabs);
+    document()->setDefaultTextOption(option);
     if (!inBatch)
-        document()->setUndoRedoEnabled(true);
+        document()->setUndoRedoEnabled(keepsHistory);
     contentWasSet(format);
     release();
 }
@@ -174,7 +186,10 @@ void RichTextBox::SetFontSize(qreal points) {
     setBoxFont(font, format);
 }
 
+/// A font that is set up before anybody edits is nothing to undo.
 void RichTextBox::setBoxFont(const QFont& font, const QTextCharFormat& format) {
+    const bool fresh = m_batches == 0 && hasNoHistory();
+    hold();
     setFont(font);
     const QTextCursor caret = editCursor();
     QTextCursor everything(document());
@@ -185,6 +200,9 @@ void RichTextBox::setBoxFont(const QFont& font, const QTextCharFormat& format) {
     everything.endEditBlock();
     if (!caret.hasSelection())
         mergeFormat(format);
+    if (fresh)
+        forgetHistory();
+    release();
 }
 
 // --- the selection
@@ -341,6 +359,7 @@ void RichTextBox::beginBatch() {
     hold();
     if (m_batches++ > 0)
         return;
+    m_batchBeganBare = document()->isEmpty() && hasNoHistory();
     m_batchCursor = textCursor();
     m_batchCursor.beginEditBlock();
 }
@@ -351,6 +370,8 @@ void RichTextBox::endBatch() {
         m_positions->blockClosed();
         setTextCursor(m_batchCursor);
         m_batchCursor = QTextCursor();
+        if (m_batchBeganBare && document()->isEmpty())
+            forgetHistory();
     }
     release();
 }
@@ -358,6 +379,8 @@ void RichTextBox::endBatch() {
 // --- printing
 
 int RichTextBox::FormatPage(const FormatRange& range) {
+    if (!range.painter && !range.device)
+        throw RuntimeError(ErrorNumber::InvalidProcedureCall);
     if (!m_formatter)
         m_formatter = std::make_unique<RangeFormatter>();
     return m_formatter->format(*document(), *m_positions, range);

@@ -5,7 +5,6 @@
 #include "controls/undo_kind.h"
 
 #include <QByteArray>
-#include <QSet>
 #include <QString>
 #include <QTextCursor>
 #include <QTextEdit>
@@ -14,6 +13,8 @@
 #include <functional>
 #include <memory>
 #include <optional>
+
+class QTextLine;
 
 namespace orvalis {
 
@@ -133,9 +134,9 @@ public:
     /// \throws RuntimeError InvalidFileFormat when flags are 0 and the file is not RTF, those of
     /// readWhole() when it cannot be read, InvalidProcedureCall for other flags.
     void LoadFile(const QString& path, int flags = rtfRTF);
-    /// Writes the document whole. A file that LoadFile() could not read, or not all of, is kept
-    /// aside first, under its name with ".unreadable" added.
-    /// \throws RuntimeError those of saveWhole(), InvalidProcedureCall for other flags.
+    /// Writes the document whole. A file that could not be read, or not all of it, in whichever
+    /// box, is kept aside first, under its name with ".unreadable" added. \throws RuntimeError
+    /// those of saveWhole(), InvalidProcedureCall for other flags.
     void SaveFile(const QString& path, int flags = rtfRTF);
 
     // --- search
@@ -150,10 +151,15 @@ public:
     void Undo();
     /// What the next Undo() takes back.
     UndoKind UndoType() const;
+    /// Whether the clipboard offers anything that Paste() takes. It is asked once for each of its
+    /// contents, so that whoever follows the text can ask at every key.
     bool CanPaste() const;
     void Cut();
     void Copy();
     void Paste();
+    /// Replaces the selection by the picture that a file holds (its bytes), as a paste does.
+    /// \throws RuntimeError InvalidPicture when it holds none; then nothing changes.
+    void InsertPicture(const QByteArray& file);
 
     bool WordWrap() const;
     void SetWordWrap(bool on);
@@ -180,6 +186,7 @@ public:
     /// Formats one page's worth of text and renders it where a painter is given.
     /// \returns the position of the first character that did not fit; it always advances, and is
     /// the length of Text() (or the range's end) behind the last page.
+    /// \throws RuntimeError InvalidProcedureCall without a painter and without a device.
     int FormatPage(const FormatRange& range);
     /// Frees what FormatPage() keeps between pages.
     void EndFormatting();
@@ -189,6 +196,8 @@ signals:
     void Change();
     /// After each change of the selection, also when the program sets it.
     void SelChange();
+    /// After the clipboard changed, whoever changed it: CanPaste() may have.
+    void CanPasteChanged();
     /// After a mouse button was pressed and let go inside the text.
     void Click();
     /// When a mouse button goes down inside the text, before the caret follows it.
@@ -209,16 +218,31 @@ protected:
 private:
     // These would go round the rules above.
     using QTextEdit::append;
+    using QTextEdit::clear;
     using QTextEdit::copy;
     using QTextEdit::cut;
+    using QTextEdit::find;
     using QTextEdit::insertHtml;
     using QTextEdit::insertPlainText;
+    using QTextEdit::mergeCurrentCharFormat;
     using QTextEdit::paste;
+    using QTextEdit::print;
     using QTextEdit::redo;
+    using QTextEdit::setAlignment;
+    using QTextEdit::setCurrentCharFormat;
+    using QTextEdit::setCurrentFont;
+    using QTextEdit::setDocument;
+    using QTextEdit::setFontFamily;
+    using QTextEdit::setFontItalic;
+    using QTextEdit::setFontPointSize;
+    using QTextEdit::setFontUnderline;
+    using QTextEdit::setFontWeight;
     using QTextEdit::setHtml;
     using QTextEdit::setMarkdown;
     using QTextEdit::setPlainText;
     using QTextEdit::setText;
+    using QTextEdit::setTextBackgroundColor;
+    using QTextEdit::setTextColor;
     using QTextEdit::toPlainText;
     using QTextEdit::undo;
 
@@ -226,11 +250,16 @@ private:
     QTextCursor editCursor() const;
     void takeCursor(const QTextCursor& cursor);
     void editAt(QTextCursor cursor, const std::function<void(QTextCursor&)>& edit);
-    void replaceEverything(const QString& text, const QTextBlockFormat& paragraph);
+    void replaceEverything(const QString& text, const QTextCharFormat& format,
+                           const QTextBlockFormat& paragraph);
     bool takeRtf(const QByteArray& rtf);
     void contentWasSet(const QTextCharFormat& format);
     void mergeFormat(const QTextCharFormat& format);
     void setBoxFont(const QFont& font, const QTextCharFormat& format);
+    bool hasNoHistory() const;
+    void forgetHistory();
+    void formatSelection(const std::function<void(QTextCursor&)>& change);
+    void beginTyping();
     void moveThroughHistory(const std::function<void()>& move);
     void changeScattered(const std::function<void()>& change);
     void typeParagraphEnd();
@@ -244,11 +273,15 @@ private:
     void endBatch();
     QTextCharFormat selectionFormat() const;
     void drawNoBreakMarks(QPainter& painter, const QRectF& clip);
+    void drawNoBreakMarks(QPainter& painter, const QTextBlock& block, const QTextLine& line,
+                          const QRectF& clip);
 
+    const qreal m_usualTabs; ///< pixels
     QString m_tag;
     PlainFile m_plainFile = PlainFile::Notes;
     bool m_editMenu = true;
     bool m_movesThroughHistory = false;
+    bool m_batchBeganBare = false;  ///< with neither text nor history
     bool m_scatteredChange = false; ///< one step changes several places, in any order
     int m_batches = 0;
     int m_holds = 0;
@@ -256,7 +289,7 @@ private:
     int m_toldAnchor = 0;
     int m_toldPosition = 0;
     QTextCursor m_batchCursor;
-    QSet<QString> m_unreadable;
+    mutable std::optional<bool> m_clipboardFits; ///< unknown until it is asked
     std::unique_ptr<TextPositions> m_positions;
     std::unique_ptr<UndoKinds> m_undoKinds;
     std::unique_ptr<RangeFormatter> m_formatter;

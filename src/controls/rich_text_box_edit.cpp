@@ -5,6 +5,8 @@
 #include "controls/selection_format.h"
 #include "controls/text_positions.h"
 #include "rtf/control_marks.h"
+#include "rtf/picture_format.h"
+#include "runtime/failure.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -81,8 +83,13 @@ UndoKind RichTextBox::UndoType() const {
 }
 
 bool RichTextBox::CanPaste() const {
-    const QMimeData* offered = QApplication::clipboard()->mimeData();
-    return !isReadOnly() && offered && canInsertFromMimeData(offered);
+    if (isReadOnly())
+        return false;
+    if (!m_clipboardFits) {
+        const QMimeData* const offered = QApplication::clipboard()->mimeData();
+        m_clipboardFits = offered && canInsertFromMimeData(offered);
+    }
+    return *m_clipboardFits;
 }
 
 void RichTextBox::Cut() {
@@ -104,6 +111,23 @@ void RichTextBox::Paste() {
         return;
     const UndoKindScope kind(*m_undoKinds, UndoKind::Paste);
     insertFromMimeData(offered);
+}
+
+void RichTextBox::InsertPicture(const QByteArray& file) {
+    const UndoKindScope kind(*m_undoKinds, UndoKind::Paste);
+    QTextCursor cursor = editCursor();
+    const int from = cursor.selectionStart();
+    const int removed = cursor.selectionEnd() - from;
+    hold();
+    const bool taken = rtf::insertPicture(cursor, file);
+    if (taken && m_batches > 0)
+        m_positions->changedInBlock(from, removed, cursor.position() - from);
+    if (taken)
+        takeCursor(cursor);
+    release();
+    if (!taken)
+        throw RuntimeError(ErrorNumber::InvalidPicture);
+    ensureCursorVisible();
 }
 
 bool RichTextBox::canInsertFromMimeData(const QMimeData* source) const {
@@ -146,16 +170,26 @@ void RichTextBox::keyPressEvent(QKeyEvent* event) {
     } else {
         const UndoKindScope kind(*m_undoKinds,
                                  deletes(*event) ? UndoKind::Delete : UndoKind::Typing);
+        if (!deletes(*event))
+            beginTyping();
         QTextEdit::keyPressEvent(event);
         return;
     }
     event->accept();
 }
 
+/// The document would take what is typed for one step with the insertion ahead of it, whatever that
+/// was; it does so only where it has changed since it counted as unmodified.
+void RichTextBox::beginTyping() {
+    if (UndoType() != UndoKind::Typing)
+        document()->setModified(false);
+}
+
 /// What is typed over a selection takes the format at its start; the editor's own way would ask at
 /// which end the caret stands.
 void RichTextBox::typeText(QKeyEvent* event) {
     QTextCursor cursor = editCursor();
+    beginTyping();
     if (cursor.hasSelection()) {
         SetSelText(event->text());
         ensureCursorVisible();

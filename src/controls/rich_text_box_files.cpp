@@ -5,11 +5,13 @@
 #include "rtf/writer.h"
 #include "runtime/ansi_page.h"
 #include "runtime/failure.h"
+#include "runtime/file_saving.h"
 #include "runtime/files.h"
 #include "runtime/text_file.h"
+#include "runtime/unreadable_files.h"
 
-#include <QFileInfo>
 #include <QTextBlockFormat>
+#include <QTextCharFormat>
 
 #include <algorithm>
 
@@ -38,10 +40,6 @@ QString plainTextOf(QByteArrayView bytes, RichTextBox::PlainFile kind) {
     return text;
 }
 
-QString fileKey(const QString& path) {
-    return QFileInfo(path).absoluteFilePath();
-}
-
 void requireFlags(int flags) {
     if (flags != RichTextBox::rtfRTF && flags != RichTextBox::rtfText)
         throw RuntimeError(ErrorNumber::InvalidProcedureCall);
@@ -53,24 +51,23 @@ void RichTextBox::LoadFile(const QString& path, int flags) {
     requireFlags(flags);
     QByteArray bytes;
     if (const auto failure = firstFailure([&] { bytes = readWhole(path); })) {
-        if (QFileInfo(path).isFile())
-            m_unreadable.insert(fileKey(path)); // nobody knows what lies there
+        noteUnreadable(path); // nobody knows what lies there
         throw *failure;
     }
     if (flags == rtfText) {
-        // Indents, bullets and alignment are nothing that a plain file could mean.
-        replaceEverything(plainTextOf(bytes, m_plainFile), QTextBlockFormat());
+        // Fonts, colours, indents, bullets and alignment are nothing that a plain file could mean.
+        replaceEverything(plainTextOf(bytes, m_plainFile), QTextCharFormat(), QTextBlockFormat());
         return;
     }
     if (!rtf::looksLikeRtf(bytes)) {
         if (!bytes.isEmpty())
-            m_unreadable.insert(fileKey(path));
+            noteUnreadable(path);
         throw RuntimeError(ErrorNumber::InvalidFileFormat);
     }
     if (takeRtf(bytes))
-        m_unreadable.remove(fileKey(path));
+        noteReadable(path);
     else
-        m_unreadable.insert(fileKey(path)); // what lies behind the fault is on the disk alone
+        noteUnreadable(path); // what lies behind the fault is on the disk alone
 }
 
 void RichTextBox::SaveFile(const QString& path, int flags) {
@@ -81,11 +78,6 @@ void RichTextBox::SaveFile(const QString& path, int flags) {
     else
         bytes =
             m_plainFile == PlainFile::Ansi ? AnsiPage::ofUser().encode(Text()) : encodeText(Text());
-    if (m_unreadable.contains(fileKey(path))) {
-        if (!keepUnreadable(path))
-            throw RuntimeError(ErrorNumber::PathFileAccessError);
-        m_unreadable.remove(fileKey(path));
-    }
     saveWhole(path, bytes);
 }
 

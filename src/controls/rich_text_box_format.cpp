@@ -12,7 +12,7 @@
 namespace orvalis {
 namespace {
 
-constexpr quint32 systemColor = 0x80000000;
+constexpr quint32 SystemColor = 0x80000000;
 
 void require(bool valid) {
     if (!valid)
@@ -21,14 +21,36 @@ void require(bool valid) {
 
 } // namespace
 
+bool RichTextBox::hasNoHistory() const {
+    return !document()->isUndoAvailable() && !document()->isRedoAvailable();
+}
+
+void RichTextBox::forgetHistory() {
+    document()->clearUndoRedoStacks();
+    m_undoKinds->stepsChanged(0, false);
+}
+
+/// Where nothing was ever written there is nothing to undo: a format that is set there says what
+/// the text to come looks like.
+void RichTextBox::formatSelection(const std::function<void(QTextCursor&)>& change) {
+    const bool bare = m_batches == 0 && document()->isEmpty() && hasNoHistory();
+    QTextCursor cursor = editCursor();
+    hold();
+    change(cursor);
+    if (bare)
+        forgetHistory();
+    takeCursor(cursor);
+    release();
+}
+
 /// An empty paragraph takes the format itself: what the cursor alone remembers is lost as soon as
 /// it moves, and a format chosen for an empty box is to hold for what is typed later.
 void RichTextBox::mergeFormat(const QTextCharFormat& format) {
-    QTextCursor cursor = editCursor();
-    if (!cursor.hasSelection() && cursor.block().length() == 1)
-        cursor.mergeBlockCharFormat(format);
-    cursor.mergeCharFormat(format);
-    takeCursor(cursor);
+    formatSelection([&](QTextCursor& cursor) {
+        if (!cursor.hasSelection() && cursor.block().length() == 1)
+            cursor.mergeBlockCharFormat(format);
+        cursor.mergeCharFormat(format);
+    });
 }
 
 std::optional<bool> RichTextBox::SelBold() const {
@@ -107,15 +129,15 @@ std::optional<quint32> RichTextBox::SelColor() const {
 }
 
 void RichTextBox::SetSelColor(quint32 color) {
-    if ((color & systemColor) == 0) {
+    if ((color & SystemColor) == 0) {
         QTextCharFormat format;
         format.setForeground(toQColor(color));
         mergeFormat(format);
         return;
     }
-    QTextCursor cursor = editCursor();
-    changeRuns(cursor, [](QTextCharFormat& format) { format.clearForeground(); });
-    takeCursor(cursor);
+    formatSelection([](QTextCursor& cursor) {
+        changeRuns(cursor, [](QTextCharFormat& format) { format.clearForeground(); });
+    });
 }
 
 std::optional<int> RichTextBox::SelAlignment() const {
@@ -124,8 +146,7 @@ std::optional<int> RichTextBox::SelAlignment() const {
 
 void RichTextBox::SetSelAlignment(int alignment) {
     require(alignment >= rtfLeft && alignment <= rtfJustify);
-    QTextCursor cursor = editCursor();
-    alignParagraphs(cursor, alignment);
+    formatSelection([&](QTextCursor& cursor) { alignParagraphs(cursor, alignment); });
 }
 
 std::optional<int> RichTextBox::SelIndent() const {
@@ -133,8 +154,7 @@ std::optional<int> RichTextBox::SelIndent() const {
 }
 
 void RichTextBox::SetSelIndent(int twips) {
-    QTextCursor cursor = editCursor();
-    indentParagraphs(cursor, twips);
+    formatSelection([&](QTextCursor& cursor) { indentParagraphs(cursor, twips); });
 }
 
 std::optional<bool> RichTextBox::SelBullet() const {
@@ -142,8 +162,7 @@ std::optional<bool> RichTextBox::SelBullet() const {
 }
 
 void RichTextBox::SetSelBullet(bool on) {
-    QTextCursor cursor = editCursor();
-    bulletParagraphs(cursor, on);
+    formatSelection([&](QTextCursor& cursor) { bulletParagraphs(cursor, on); });
 }
 
 } // namespace orvalis

@@ -9,10 +9,42 @@
 #include <QTextDocument>
 #include <QTextLayout>
 
+#include <algorithm>
+#include <utility>
+
 // What the box draws over the text: the numbers that the document cannot count, and the marks of
 // blanks that do not break.
 
 namespace orvalis {
+namespace {
+
+/// The first line that reaches below a height, which counts from the paragraph's top.
+int firstLineBelow(const QTextLayout& layout, qreal height) {
+    int low = 0;
+    int high = layout.lineCount();
+    while (low < high) {
+        const int middle = (low + high) / 2;
+        const QTextLine line = layout.lineAt(middle);
+        if (line.y() + line.height() <= height)
+            low = middle + 1;
+        else
+            high = middle;
+    }
+    return low;
+}
+
+/// The characters of a line that stand between two places; of a line of usual length, all of them.
+std::pair<int, int> charactersWithin(const QTextLine& line, qreal left, qreal right) {
+    constexpr int Usual = 2000;
+    const int from = line.textStart();
+    const int to = from + line.textLength();
+    if (line.textLength() <= Usual)
+        return {from, to};
+    const auto [first, last] = std::minmax({line.xToCursor(left), line.xToCursor(right)});
+    return {std::max(from, first - 1), std::min(to, last + 1)};
+}
+
+} // namespace
 
 void RichTextBox::paintEvent(QPaintEvent* event) {
     QTextEdit::paintEvent(event);
@@ -47,18 +79,33 @@ void RichTextBox::drawNoBreakMarks(QPainter& painter, const QRectF& clip) {
         const QPointF corner = layout.position();
         if (corner.y() > clip.bottom())
             break;
-        const QString text = block.text();
-        for (qsizetype at = text.indexOf(QChar(QChar::Nbsp)); at >= 0;
-             at = text.indexOf(QChar(QChar::Nbsp), at + 1)) {
-            const QTextLine line = layout.lineForTextPosition(int(at));
-            if (!line.isValid())
-                continue;
-            const qreal left = corner.x() + line.cursorToX(int(at)) + 1;
-            const qreal right = corner.x() + line.cursorToX(int(at) + 1) - 1;
-            const qreal base = corner.y() + line.y() + line.ascent() + 1;
-            painter.drawPolyline(QPolygonF({QPointF(left, base - 2), QPointF(left, base),
-                                            QPointF(right, base), QPointF(right, base - 2)}));
+        // A paragraph can have more lines than a thousand windows.
+        for (int i = firstLineBelow(layout, clip.top() - corner.y()); i < layout.lineCount(); ++i) {
+            const QTextLine line = layout.lineAt(i);
+            if (corner.y() + line.y() > clip.bottom())
+                break;
+            drawNoBreakMarks(painter, block, line, clip);
         }
+    }
+}
+
+void RichTextBox::drawNoBreakMarks(QPainter& painter, const QTextBlock& block,
+                                   const QTextLine& line, const QRectF& clip) {
+    const QPointF corner = block.layout()->position();
+    const auto [from, to] =
+        charactersWithin(line, clip.left() - corner.x(), clip.right() - corner.x());
+    QTextCursor part(document());
+    part.setPosition(block.position() + from);
+    part.setPosition(block.position() + to, QTextCursor::KeepAnchor);
+    const QString text = part.selectedText();
+    for (qsizetype found = text.indexOf(QChar(QChar::Nbsp)); found >= 0;
+         found = text.indexOf(QChar(QChar::Nbsp), found + 1)) {
+        const int at = from + int(found);
+        const qreal left = corner.x() + line.cursorToX(at) + 1;
+        const qreal right = corner.x() + line.cursorToX(at + 1) - 1;
+        const qreal base = corner.y() + line.y() + line.ascent() + 1;
+        painter.drawPolyline(QPolygonF({QPointF(left, base - 2), QPointF(left, base),
+                                        QPointF(right, base), QPointF(right, base - 2)}));
     }
 }
 

@@ -3,6 +3,7 @@
 #include "controls/selection_format.h"
 
 #include "rtf/format_properties.h"
+#include "rtf/format_readers.h"
 #include "rtf/list_formats.h"
 #include "runtime/colour.h"
 #include "runtime/twips.h"
@@ -60,27 +61,14 @@ QTextCharFormat formatOfFirst(const QTextCursor& selection) {
         return selection.charFormat();
     QTextCursor first(selection);
     first.setPosition(selection.selectionStart());
-    const bool atParagraphEnd = first.atBlockEnd();
-    if (!atParagraphEnd)
-        first.movePosition(QTextCursor::NextCharacter);
+    // A step by a character would look for its end all through the paragraph.
+    if (!first.atBlockEnd())
+        first.setPosition(selection.selectionStart() + 1);
     return first.charFormat();
 }
 
-/// How far the first line stands right of the others, in twips: negative where it, or the bullet,
-/// hangs out.
-int firstIndentOf(const QTextBlockFormat& format) {
-    if (format.hasProperty(rtf::ParagraphFirstIndent))
-        return format.intProperty(rtf::ParagraphFirstIndent);
-    return pixelsToTwips(format.textIndent());
-}
-
-/// The left margin that is made of steps, in pixels.
-qreal steppedMargin(const QTextBlock& block) {
-    int steps = block.blockFormat().indent();
-    const QTextList* const list = block.textList();
-    if (list && !list->format().boolProperty(rtf::ListIndentIsRoom))
-        steps += list->format().indent();
-    return steps * block.document()->indentWidth();
+rtf::Indents indentsOf(const QTextBlock& block) {
+    return rtf::indentsOf(block.blockFormat(), block.textList(), block.document()->indentWidth());
 }
 
 void changeParagraphs(QTextCursor& selection,
@@ -170,41 +158,13 @@ void visitParagraphs(const QTextCursor& selection,
     } while (block.isValid() && block.position() < to);
 }
 
-QString familyOf(const QTextCharFormat& format, const QFont& defaultFont) {
-    const QStringList families = format.fontFamilies().toStringList();
-    return families.isEmpty() ? defaultFont.family() : families.first();
-}
-
-qreal pointsOf(const QTextCharFormat& format, const QFont& defaultFont) {
-    constexpr qreal PointsPerPixel = 0.75;
-    if (format.hasProperty(QTextFormat::FontPointSize))
-        return format.fontPointSize();
-    if (format.hasProperty(QTextFormat::FontPixelSize))
-        return format.intProperty(QTextFormat::FontPixelSize) * PointsPerPixel;
-    return defaultFont.pointSizeF() > 0 ? defaultFont.pointSizeF()
-                                        : defaultFont.pixelSize() * PointsPerPixel;
-}
-
-bool isBold(const QTextCharFormat& format, const QFont& defaultFont) {
-    const bool says = format.hasProperty(QTextFormat::FontWeight);
-    return (says ? format.fontWeight() : int(defaultFont.weight())) > QFont::Medium;
-}
-
-bool isItalic(const QTextCharFormat& format, const QFont& defaultFont) {
-    return format.hasProperty(QTextFormat::FontItalic) ? format.fontItalic() : defaultFont.italic();
-}
-
 quint32 colorOf(const QTextCharFormat& format) {
-    return format.foreground().style() == Qt::NoBrush ? 0 : fromQColor(format.foreground().color());
+    const QRgb color = rtf::colorOf(format);
+    return color == rtf::AutomaticColor ? 0 : fromQColor(QColor::fromRgb(color));
 }
 
 int alignmentOf(const QTextBlock& block) {
-    const Qt::Alignment alignment = block.blockFormat().alignment();
-    if (alignment & Qt::AlignJustify)
-        return 3;
-    if (alignment & Qt::AlignHCenter)
-        return 2;
-    return alignment & Qt::AlignRight ? 1 : 0;
+    return int(rtf::alignmentOf(block.blockFormat()));
 }
 
 void alignParagraphs(QTextCursor& selection, int alignment) {
@@ -220,7 +180,8 @@ int indentOf(const QTextBlock& block) {
     const QTextBlockFormat format = block.blockFormat();
     if (format.hasProperty(RequestedIndent))
         return format.intProperty(RequestedIndent);
-    return pixelsToTwips(format.leftMargin() + steppedMargin(block)) + firstIndentOf(format);
+    const rtf::Indents indents = indentsOf(block);
+    return indents.left + indents.first;
 }
 
 void indentParagraphs(QTextCursor& selection, int twips) {
@@ -233,8 +194,13 @@ void indentParagraphs(QTextCursor& selection, int twips) {
                 format.setProperty(RequestedIndent, twips);
             else
                 format.clearProperty(RequestedIndent);
-            const qreal margin = twipsToPixelsF(shownIndent(twips) - firstIndentOf(format));
-            format.setLeftMargin(margin - steppedMargin(block));
+            // How far a label hangs out is not to follow the indent from here on.
+            const int first = indentsOf(block).first;
+            if (block.textList() && format.textIndent() == 0)
+                format.setProperty(rtf::ParagraphFirstIndent, first);
+            const qreal margin = twipsToPixelsF(shownIndent(twips) - first);
+            format.setLeftMargin(margin - rtf::steppedMargin(format, block.textList(),
+                                                             block.document()->indentWidth()));
         });
 }
 

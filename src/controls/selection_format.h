@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "rtf/format_readers.h"
+
 #include <QString>
 #include <QTextBlock>
 #include <QTextCharFormat>
@@ -67,11 +69,10 @@ std::optional<Value> commonOfParagraphs(const QTextCursor& selection, Read&& rea
     return common;
 }
 
-/// The family, size in points and style that a format means in a document of this default font.
-QString familyOf(const QTextCharFormat& format, const QFont& defaultFont);
-qreal pointsOf(const QTextCharFormat& format, const QFont& defaultFont);
-bool isBold(const QTextCharFormat& format, const QFont& defaultFont);
-bool isItalic(const QTextCharFormat& format, const QFont& defaultFont);
+using rtf::familyOf;
+using rtf::isBold;
+using rtf::isItalic;
+using rtf::pointsOf;
 /// 0xBBGGRR, 0 where the format has no colour of its own.
 quint32 colorOf(const QTextCharFormat& format);
 

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace orvalis {
 
@@ -25,17 +26,12 @@ int TextPositions::lastPosition() const {
 }
 
 int TextPositions::length() const {
-    return lastPosition() + m_document.blockCount() - 1 + int(m_lineBreaks.size());
-}
-
-int TextPositions::breaksBefore(int position) const {
-    return int(std::lower_bound(m_lineBreaks.begin(), m_lineBreaks.end(), position) -
-               m_lineBreaks.begin());
+    return lastPosition() + m_document.blockCount() - 1 + m_lineBreaks.count();
 }
 
 int TextPositions::indexOf(int position) const {
     position = std::clamp(position, 0, lastPosition());
-    return position + m_document.findBlock(position).blockNumber() + breaksBefore(position);
+    return position + m_document.findBlock(position).blockNumber() + m_lineBreaks.before(position);
 }
 
 int TextPositions::positionOf(int index) const {
@@ -50,7 +46,7 @@ int TextPositions::positionOf(int index) const {
     while (first < last) {
         const int middle = (first + last + 1) / 2;
         const int position = m_document.findBlockByNumber(middle).position();
-        if (position + middle + breaksBefore(position) <= index)
+        if (position + middle + m_lineBreaks.before(position) <= index)
             first = middle;
         else
             last = middle - 1;
@@ -60,7 +56,7 @@ int TextPositions::positionOf(int index) const {
     int high = low + block.length() - 1;
     while (low < high) {
         const int middle = (low + high + 1) / 2;
-        if (middle + first + breaksBefore(middle) <= index)
+        if (middle + first + m_lineBreaks.before(middle) <= index)
             low = middle;
         else
             high = middle - 1;
@@ -84,6 +80,8 @@ QString TextPositions::between(int from, int to) const {
 
 /// A part of the document as it stands there, in one piece: far quicker than block by block.
 QString TextPositions::rawText(int from, int to) const {
+    if (from >= to)
+        return QString();
     if (from == 0 && to == lastPosition())
         return m_document.toRawText();
     QTextCursor cursor(&m_document);
@@ -171,24 +169,12 @@ void TextPositions::changedInBlock(int from, int removed, int added) {
 }
 
 void TextPositions::scanBreaks(int from, int removed, int added) {
-    const auto first = std::lower_bound(m_lineBreaks.begin(), m_lineBreaks.end(), from);
-    const auto behind = std::lower_bound(first, m_lineBreaks.end(), from + removed);
-    for (auto it = behind; it != m_lineBreaks.end(); ++it)
-        *it += added - removed;
-
     std::vector<int> found;
-    const int to = from + added;
-    for (QTextBlock block = m_document.findBlock(from); block.isValid() && block.position() < to;
-         block = block.next()) {
-        const QString text = block.text();
-        qsizetype at =
-            text.indexOf(QChar(QChar::LineSeparator), std::max(from - block.position(), 0));
-        for (; at >= 0 && block.position() + at < to;
-             at = text.indexOf(QChar(QChar::LineSeparator), at + 1))
-            found.push_back(int(block.position() + at));
-    }
-    const auto place = m_lineBreaks.erase(first, behind);
-    m_lineBreaks.insert(place, found.begin(), found.end());
+    const QString raw = rawText(from, std::min(from + added, lastPosition()));
+    for (qsizetype at = raw.indexOf(QChar(QChar::LineSeparator)); at >= 0;
+         at = raw.indexOf(QChar(QChar::LineSeparator), at + 1))
+        found.push_back(from + int(at));
+    m_lineBreaks.replace(from, removed, added, found);
 }
 
 void TextPositions::patchText(int from, int added) {

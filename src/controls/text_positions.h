@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
+#include "controls/line_breaks.h"
 
-#include <vector>
+#include <QString>
 
 class QTextDocument;
 
@@ -46,7 +46,6 @@ public:
 
 private:
     int lastPosition() const;
-    int breaksBefore(int position) const;
     int reach(int from, int added) const;
     bool hasLists() const;
     QString rawText(int from, int to) const;
@@ -55,8 +54,8 @@ private:
     void patchText(int from, int added);
 
     QTextDocument& m_document;
-    std::vector<int> m_lineBreaks; ///< positions of U+2028, in order
-    int m_characters;              ///< of the document at the last change that was seen
+    LineBreaks m_lineBreaks; ///< U+2028
+    int m_characters;        ///< of the document at the last change that was seen
     bool m_seenInBlock = false;
     int m_untouched = 0; ///< characters behind the last change that was seen in the block
     mutable bool m_textValid = false;

@@ -58,7 +58,7 @@ int findText(const TextPositions& positions, const TextSearch& search, int start
     // In the middle of many edits the whole text is not at hand, and the next match is near: it is
     // looked for in pieces that grow.
     constexpr int Beside = 2; // what a word's ends are judged by
-    int piece = 4096 + 2 * size;
+    int piece = 256 + 2 * size;
     for (int at = start; at <= end - size;) {
         const int from = positions.positionOf(at - Beside);
         const int to = positions.positionOf(std::min(at + piece, end) + Beside);

@@ -3,9 +3,11 @@
 #include "core/application.h"
 
 #include "controls/message_boxes.h"
+#include "core/recovery.h"
 #include "runtime/failure.h"
 #include "runtime/program_end.h"
 
+#include <QEvent>
 #include <QScopedValueRollback>
 
 namespace orvalis {
@@ -46,6 +48,8 @@ void Application::tell(const RuntimeError& failure) {
     if (m_failing || programHasEnded())
         return;
     const QScopedValueRollback failing(m_failing, true);
+    // Ahead of the box, which may stand for long and see the desktop go.
+    keepUnsaved();
     Q_ASSERT(m_boxes != nullptr);
     try {
         m_boxes->MsgBox(QStringLiteral("Run-time error '%1':\n\n%2")
@@ -55,6 +59,24 @@ void Application::tell(const RuntimeError& failure) {
     } catch (const ProgramEnded&) { // it ends here in any case
     }
     leave();
+}
+
+bool Application::event(QEvent* event) {
+    if (event->type() != QEvent::Quit)
+        return QApplication::event(event);
+    // The desktop's session ends, or its menu says so.
+    endFromOutside();
+    return true;
+}
+
+void Application::endFromOutside() {
+    keepUnsaved();
+    leave();
+}
+
+void Application::keepUnsaved() {
+    if (m_recovery != nullptr && !programHasEnded())
+        m_recovery->keep();
 }
 
 void Application::leave() {

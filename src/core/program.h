@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/recovery.h"
 #include "core/roles.h"
 #include "core/state.h"
 #include "core/tick.h"
@@ -16,6 +17,7 @@ class App;
 class Dialogs;
 class Mail;
 class MessageBoxes;
+class Printer;
 class Registry;
 class Screen;
 class Shell;
@@ -33,6 +35,7 @@ struct Services {
     Mail& mail;
     SoundPlayer& sound;
     Screen& screen;
+    Printer& printer;
 };
 
 /// The running program as every window is given it: the outside world, the shared state, the
@@ -40,10 +43,13 @@ struct Services {
 class Program {
 public:
     explicit Program(const Services& outside)
-        : services(outside) {}
+        : services(outside)
+        , recovery(outside.app, outside.clock) {}
 
     Services services;
     SharedState state;
+    /// What the windows hold that no file has.
+    Recovery recovery;
     Windows windows;
     /// Set by main.cpp once the sticker windows are there.
     StickerMaker* stickers = nullptr;

@@ -4,10 +4,13 @@
 
 #include "controls/grid_model.h"
 #include "runtime/failure.h"
+#include "runtime/file_saving.h"
 #include "runtime/files.h"
 #include "runtime/numeric_text.h"
 #include "runtime/text_file.h"
+#include "runtime/unreadable_files.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace orvalis {
@@ -82,14 +85,29 @@ private:
     QStringView m_rest;
 };
 
+/// Whether anything stands behind the first line.
+bool hasCells(QStringView text) {
+    const auto end = std::find_if(text.begin(), text.end(), isLineEnd);
+    return !QStringView(end, text.end()).trimmed().isEmpty();
+}
+
 void load(const QString& path, GridModel& grid, const GridColours* colours) {
     const GridModel::Batch batch(grid);
-    endSilently([&] {
-        grid.setRows(1);
-        grid.setCols(1);
-        grid.Clear();
-        fillGrid(grid, decodeText(readWhole(path, LargestGridFile)), colours);
+    grid.setRows(1);
+    grid.setCols(1);
+    grid.Clear();
+    const bool whole = endSilently([&] {
+        const QString text = decodeText(readWhole(path, LargestGridFile));
+        fillGrid(grid, text, colours);
+        // No list of ours has one row alone and anything in it.
+        if (grid.Rows() == 1 && hasCells(text))
+            throw RuntimeError(ErrorNumber::InvalidFileFormat);
     });
+    // What the grid now lacks is in the file alone.
+    if (whole)
+        noteReadable(path);
+    else
+        noteUnreadable(path);
 }
 
 /// A number as it is printed to a file: a blank in the place of the sign, and one behind.
@@ -130,12 +148,6 @@ QString gridFileText(const GridModel& grid) {
 
 void SaveGridFile(const QString& path, const GridModel& grid) {
     endSilently([&] { saveWhole(path, encodeText(gridFileText(grid))); });
-}
-
-void SaveGridFileTwice(const QString& path, const GridModel& passing, const GridModel& staying) {
-    endSilently([&] {
-        saveWholeTwice(path, encodeText(gridFileText(passing)), encodeText(gridFileText(staying)));
-    });
 }
 
 void fillGrid(GridModel& grid, QStringView text, const GridColours* colours) {

@@ -43,12 +43,9 @@ constexpr qint64 LargestGridFile = qint64{64} * 1024 * 1024;
 /// with a blank ahead and behind, then a line for each cell, row by row.
 QString gridFileText(const GridModel& grid);
 
-/// Writes the grid to the file. A failure is silent and leaves the old file.
+/// Writes the grid to the file. A failure is silent and leaves the old file; one that no loader
+/// could read to its end is kept aside first, under its name with ".unreadable" added.
 void SaveGridFile(const QString& path, const GridModel& grid);
-
-/// Writes one grid to the file and then another over it, which stays. A failure is silent; where
-/// the one that stays cannot be written, the old file does.
-void SaveGridFileTwice(const QString& path, const GridModel& passing, const GridModel& staying);
 
 /// Which colours a loader gives to header rows and body rows (0xBBGGRR).
 struct GridColours {

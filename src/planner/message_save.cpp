@@ -80,10 +80,11 @@ void frmnotes1::addToLists(QDate date) {
 void frmnotes1::saveAndReadBack() {
     resumeNext([this] { ui.rt1a->SaveFile(program().services.app.file(u"Vazno.rtf"_s)); },
                [this] { toEnd(*ui.rt1a); }, [this] { MatSave1(ui.MS1->grid()); },
-               // The hidden copy goes first: what the panel shows is what stays in the file.
-               [this] { SaveTmp2(hiddenReminders(), ui.MS3->grid()); },
-               [this] { LoadTmp1(ui.MS1->grid()); }, [this] { LoadTmp2(hiddenReminders()); },
-               [this] { LoadTmp2(ui.MS3->grid()); });
+               // The hidden copy would go first and not stay, so only what the panel shows is put
+               // in place: between the two a kill would leave what the hidden list holds, which at
+               // the first message of a run is nothing.
+               [this] { SaveTmp2(ui.MS3->grid()); }, [this] { LoadTmp1(ui.MS1->grid()); },
+               [this] { LoadTmp2(hiddenReminders()); }, [this] { LoadTmp2(ui.MS3->grid()); });
 }
 
 void frmnotes1::clearEntry() {

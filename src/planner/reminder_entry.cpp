@@ -24,6 +24,10 @@ namespace {
 
 constexpr double NewMessageFontSize = 8;
 
+QString messageNotSet() {
+    return u"Message not set"_s;
+}
+
 /// Kept with the message once its text has changed.
 QString changedTag() {
     return u"promena"_s;
@@ -81,7 +85,7 @@ void frmnotes1::showTime() {
 
 void frmnotes1::Button1_Click() {
     if (ui.rtMs2->Text().isEmpty())
-        ui.rtMs2->SetText(u"Message not set"_s);
+        ui.rtMs2->SetText(messageNotSet());
     ui.Combo1->setText(twoDigits(ui.Combo1->Text()));
     ui.Combo2->setText(twoDigits(ui.Combo2->Text()));
     endReminderFrame();
@@ -94,9 +98,27 @@ void frmnotes1::Button2_Click() {
     ui.rtMs2->SetText({});
 }
 
+bool frmnotes1::hasUnsavedMessage() const {
+    return ui.rt1->Tag() == changedTag() && !ui.rt1->Text().isEmpty();
+}
+
 bool frmnotes1::askToSave(const QString& question) {
-    return ui.rt1->Tag() == changedTag() && !ui.rt1->Text().isEmpty() &&
+    return hasUnsavedMessage() &&
            program().boxes().MsgBox(question, MsgFlags::YesNo) == Answer::Yes;
+}
+
+std::vector<UnsavedText> frmnotes1::unsavedTexts() const {
+    std::vector<UnsavedText> texts;
+    if (!isLoaded())
+        return texts;
+    if (hasUnsavedMessage())
+        texts.push_back(
+            {u"Reminder panel, message \"%1\""_s.arg(ui.txt1->text()), ui.rt1->TextRTF()});
+    // What a reminder is to say is typed as well, and goes with the message at its save.
+    const QString event = ui.rtMs2->Text();
+    if (!event.isEmpty() && event != messageNotSet())
+        texts.push_back({u"Reminder panel, event message"_s, ui.rtMs2->TextRTF()});
+    return texts;
 }
 
 void frmnotes1::imgNew_Click() {

@@ -56,7 +56,9 @@ void frmnotes1::sv1() {
 }
 
 void frmnotes1::sv3() {
-    SaveTmp2(ui.MS3->grid(), hiddenReminders());
+    // Of the panel's list and the hidden one, which is written behind it, the second alone is put
+    // in place: a run that is killed in between leaves no list that was not to stay.
+    SaveTmp2(hiddenReminders());
 }
 
 void frmnotes1::imgso_Click() {
@@ -82,10 +84,6 @@ void frmnotes1::MatSave1(const GridModel& grid) {
 
 void frmnotes1::SaveTmp2(const GridModel& grid) {
     SaveGridFile(gridPath(u"tmp2.brf"_s), grid);
-}
-
-void frmnotes1::SaveTmp2(const GridModel& passing, const GridModel& staying) {
-    SaveGridFileTwice(gridPath(u"tmp2.brf"_s), passing, staying);
 }
 
 void frmnotes1::LoadTmp1(GridModel& grid) {

@@ -49,10 +49,13 @@ frmnotes1::frmnotes1(Program& program)
     connect(
         lblVreme, &Label::Change, this,
         [this] { ui.MonthView1->setToday(this->program().services.clock.date()); });
-    connect(ui.imgNot, &Image::Click, this, [this] {
-        if (StickerMaker* stickers = this->program().stickers)
-            stickers->newFrmstick().form().Show();
-    });
+    connect(
+        ui.imgNot, &Image::Click, this,
+        [this] {
+            if (StickerMaker* stickers = this->program().stickers)
+                stickers->newFrmstick().form().Show();
+        });
+    m_unsaved = program.recovery.add([this] { return unsavedTexts(); });
 }
 
 void frmnotes1::onLoad() {

@@ -4,6 +4,7 @@
 
 #include "controls/common_dialog.h"
 #include "core/chrome_window.h"
+#include "core/recovery.h"
 #include "planner/clear_menu.h"
 #include "planner/entry_frame.h"
 #include "planner/planner_page.h"
@@ -81,7 +82,9 @@ private:
     void Button2_Click();
     void imgNew_Click();
     void Command2_Click();
+    bool hasUnsavedMessage() const;
     bool askToSave(const QString& question);
+    std::vector<UnsavedText> unsavedTexts() const;
 
     // message_save.cpp
     void imgSave_Click();
@@ -106,7 +109,6 @@ private:
     void imgso_Click();
     QString gridPath(const QString& name);
     void SaveTmp2(const GridModel& grid);
-    void SaveTmp2(const GridModel& passing, const GridModel& staying);
     void LoadTmp1(GridModel& grid);
     void LoadTmp2(GridModel& grid);
     GridModel& hiddenReminders() const;
@@ -130,6 +132,7 @@ private:
     CommonDialog CommonDialog1;
     FindSteps FindPosition;
     double m_fontSizeSetting = 8; ///< `FS` as it was read
+    Recovery::Registration m_unsaved;
 };
 
 } // namespace orvalis

@@ -4,7 +4,9 @@
 
 #include "platform/ini_document.h"
 #include "runtime/failure.h"
+#include "runtime/file_saving.h"
 #include "runtime/files.h"
+#include "runtime/unreadable_files.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -101,8 +103,8 @@ bool IniSettingsStore::change(const std::function<void(IniDocument&)>& edit) {
     lock.tryLock(Patience); // where no lock can be made, the write itself tells whether it may be
     return endSilently([&] {
         std::optional<IniDocument> document = readDocument(m_filePath);
-        if (!document && !keepUnreadable(m_filePath))
-            throw RuntimeError(ErrorNumber::PathFileAccessError);
+        if (!document)
+            noteUnreadable(m_filePath);
         const QByteArray before = document ? document->bytes() : QByteArray();
         IniDocument changed = document.value_or(IniDocument());
         edit(changed);

@@ -3,6 +3,7 @@
 #include "platform/logon_entry.h"
 
 #include "runtime/failure.h"
+#include "runtime/file_saving.h"
 #include "runtime/files.h"
 
 #include <QDir>

@@ -3,6 +3,7 @@
 #include "rtf/block_formats.h"
 
 #include "rtf/format_properties.h"
+#include "rtf/format_readers.h"
 #include "rtf/list_formats.h"
 
 #include <QTextList>
@@ -15,8 +16,6 @@ namespace orvalis::rtf {
 namespace {
 
 constexpr double SingleLine = 240.0; // of \sl with \slmult1
-// The hanging indent of a list item that was made on the screen.
-constexpr int LabelIndent = 360; // twips
 
 double pixels(int twips) {
     return twips / TwipsPerPixel;
@@ -103,17 +102,12 @@ QTextBlockFormat blockFormat(const ParagraphFormat& format) {
 ParagraphFormat paragraphFormat(const QTextBlockFormat& format, const QTextList* list,
                                 double indentWidth) {
     ParagraphFormat result;
-    const Qt::Alignment alignment = format.alignment();
-    if (alignment & Qt::AlignHCenter)
-        result.alignment = Alignment::Center;
-    else if (alignment & Qt::AlignRight)
-        result.alignment = Alignment::Right;
-    else if (alignment & Qt::AlignJustify)
-        result.alignment = Alignment::Justify;
+    result.alignment = alignmentOf(format);
     result.rightToLeft = format.layoutDirection() == Qt::RightToLeft;
     result.pageBreakBefore = format.pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore;
-    result.left = twips(format.leftMargin() + format.indent() * indentWidth);
-    result.first = twips(format.textIndent());
+    const Indents indents = indentsOf(format, list, indentWidth);
+    result.left = indents.left;
+    result.first = indents.first;
     result.right = twips(format.rightMargin());
     result.before = twips(format.topMargin());
     result.after = twips(format.bottomMargin());
@@ -121,17 +115,8 @@ ParagraphFormat paragraphFormat(const QTextBlockFormat& format, const QTextList*
     const auto tabs = format.tabPositions();
     for (const QTextOption::Tab& tab : tabs)
         result.tabs.append(TabStop{twips(tab.position), tab.type});
-    if (!list)
-        return result;
-
-    result.list = labelOf(*list);
-    const QTextListFormat listFormat = list->format();
-    if (!listFormat.boolProperty(ListIndentIsRoom))
-        result.left += twips(listFormat.indent() * indentWidth);
-    if (format.hasProperty(ParagraphFirstIndent))
-        result.first += format.intProperty(ParagraphFirstIndent);
-    else if (result.first == 0)
-        result.first = -std::min(LabelIndent, result.left);
+    if (list)
+        result.list = labelOf(*list);
     return result;
 }
 

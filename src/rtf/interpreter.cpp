@@ -108,7 +108,7 @@ bool Interpreter::closeGroup() {
     m_groups.pop_back();
     if (owned)
         closeDestination(closed);
-    else if (closed == Destination::FontTable)
+    else if (closed == Destination::FontTable && m_groups.size() < m_fontEntryDepth)
         m_fonts.commit(m_names, *m_documentPage);
     if (m_state.fontsVersion != m_fonts.version())
         selectFont();

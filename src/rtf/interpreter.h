@@ -123,6 +123,7 @@ private:
 
     const CodePage* m_documentPage;
     FontTable m_fonts;
+    size_t m_fontEntryDepth = 0; ///< of the groups, where the entry of the font table began
     int m_defaultFont = 0;
     QList<QRgb> m_colors;
     QRgb m_color = AutomaticColor;

@@ -36,6 +36,7 @@ bool Interpreter::characterWord(const Token& token) {
         if (m_state.destination == Destination::FontTable) {
             m_fonts.commit(m_names, *m_documentPage);
             m_fonts.begin(token.parameter);
+            m_fontEntryDepth = m_groups.size();
         } else if (token.hasParameter) {
             m_state.font = token.parameter;
             selectFont();

@@ -4,6 +4,7 @@
 
 #include "rtf/control_marks.h"
 #include "rtf/format_properties.h"
+#include "rtf/format_readers.h"
 
 #include <QBrush>
 #include <QFont>
@@ -16,7 +17,6 @@ namespace orvalis::rtf {
 namespace {
 
 constexpr double HalfPointsPerPoint = 2.0;
-constexpr double PointsPerPixel = 0.75;
 // Per cent of the usual distance; 0 would mean the usual one.
 constexpr double NarrowestSpacing = 1;
 
@@ -58,34 +58,6 @@ Underline underlineOf(const QTextCharFormat& format) {
     const bool shownAsSingle =
         kept == Underline::Words || kept == Underline::Double || kept == Underline::Thick;
     return shownAsSingle ? kept : Underline::Single;
-}
-
-QRgb colorOf(const QBrush& brush) {
-    return brush.style() == Qt::NoBrush ? AutomaticColor : brush.color().rgb();
-}
-
-QString familyOf(const QTextCharFormat& format, const QFont& defaultFont) {
-    const QStringList families = format.fontFamilies().toStringList();
-    if (!families.isEmpty() && !families.first().isEmpty())
-        return families.first();
-    const QString family = format.stringProperty(QTextFormat::OldFontFamily);
-    return family.isEmpty() ? defaultFont.family() : family;
-}
-
-double pointSizeOf(const QTextCharFormat& format, const QFont& defaultFont) {
-    double size = defaultFont.pointSizeF() > 0 ? defaultFont.pointSizeF()
-                                               : defaultFont.pixelSize() * PointsPerPixel;
-    if (format.fontPointSize() > 0)
-        size = format.fontPointSize();
-    else if (format.hasProperty(QTextFormat::FontPixelSize))
-        size = format.intProperty(QTextFormat::FontPixelSize) * PointsPerPixel;
-    if (format.hasProperty(QTextFormat::FontSizeAdjustment)) {
-        // The steps in which documents that came from HTML grow and shrink their text.
-        static constexpr double Steps[] = {0.7, 0.8, 1.0, 1.2, 1.5, 2.0, 2.4};
-        const int step = format.intProperty(QTextFormat::FontSizeAdjustment) + 2;
-        size *= Steps[std::clamp(step, 0, int(std::size(Steps)) - 1)];
-    }
-    return size;
 }
 
 } // namespace
@@ -133,18 +105,16 @@ CharFormat charFormat(const QTextCharFormat& format, Names& names, const QFont& 
     CharFormat result;
     result.family = names.family(familyOf(format, defaultFont));
     result.halfPoints =
-        std::max(1, int(std::lround(pointSizeOf(format, defaultFont) * HalfPointsPerPoint)));
-    const bool saysWeight = format.hasProperty(QTextFormat::FontWeight);
-    result.bold = (saysWeight ? format.fontWeight() : int(defaultFont.weight())) > QFont::Medium;
-    result.italic =
-        format.hasProperty(QTextFormat::FontItalic) ? format.fontItalic() : defaultFont.italic();
+        std::max(1, int(std::lround(pointsOf(format, defaultFont) * HalfPointsPerPoint)));
+    result.bold = isBold(format, defaultFont);
+    result.italic = isItalic(format, defaultFont);
     result.strike = format.fontStrikeOut();
     result.controlMarks = format.boolProperty(ControlMarks);
     result.underline = underlineOf(format);
     result.hidden = format.hasProperty(HiddenText);
-    result.color =
-        result.hidden ? QRgb(format.intProperty(HiddenText)) : colorOf(format.foreground());
-    result.highlight = colorOf(format.background());
+    result.color = colorOf(format);
+    if (format.background().style() != Qt::NoBrush)
+        result.highlight = format.background().color().rgb();
     switch (format.verticalAlignment()) {
     case QTextCharFormat::AlignSuperScript:
         result.script = Script::Super;

@@ -8,7 +8,6 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <algorithm>
 
@@ -23,8 +22,6 @@ constexpr Qt::CaseSensitivity FileNameCase = Qt::CaseInsensitive;
 #else
 constexpr Qt::CaseSensitivity FileNameCase = Qt::CaseSensitive;
 #endif
-
-constexpr int MostKeptAside = 99;
 
 bool isWildcard(QChar c) {
     return c == u'*' || c == u'?';
@@ -62,21 +59,6 @@ bool matches(QStringView name, QStringView pattern) {
     return p == pattern.size();
 }
 
-bool sameBytes(const QString& a, const QString& b) {
-    QFile first(a);
-    QFile second(b);
-    if (!first.open(QIODevice::ReadOnly) || !second.open(QIODevice::ReadOnly) ||
-        first.size() != second.size())
-        return false;
-    constexpr qint64 Chunk = 65536;
-    while (!first.atEnd()) {
-        const QByteArray bytes = first.read(Chunk);
-        if (bytes.isEmpty() || bytes != second.read(Chunk))
-            return false;
-    }
-    return true;
-}
-
 [[noreturn]] void fail(ErrorNumber number) {
     throw RuntimeError(number);
 }
@@ -85,38 +67,6 @@ bool sameBytes(const QString& a, const QString& b) {
 ErrorNumber refusal(bool permitted) {
     return permitted ? ErrorNumber::PathFileAccessError : ErrorNumber::PermissionDenied;
 }
-
-/// A file's new bytes, complete on the disk beside it.
-class WholeFile {
-public:
-    WholeFile(const QString& path, QByteArrayView bytes)
-        : m_file(path) {
-        const QFileInfo target(path);
-        if (target.fileName().isEmpty() || (target.exists() && !target.isFile()))
-            fail(ErrorNumber::PathFileAccessError);
-        const QFileInfo folder(target.path());
-        if (!folder.isDir())
-            fail(ErrorNumber::PathNotFound);
-        const bool permitted = target.exists() ? target.isWritable() : folder.isWritable();
-
-        m_file.setDirectWriteFallback(true);
-        if (!m_file.open(QIODevice::WriteOnly))
-            fail(refusal(permitted));
-        // The buffer goes to the disk by a step of its own, since commit() takes no notice when a
-        // full disk refuses a small file's only write.
-        if (m_file.write(bytes.data(), bytes.size()) != bytes.size() || !m_file.flush())
-            fail(ErrorNumber::PathFileAccessError);
-    }
-
-    /// Lets the bytes take the place of what the file holds.
-    void takePlace() {
-        if (!m_file.commit())
-            fail(ErrorNumber::PathFileAccessError);
-    }
-
-private:
-    QSaveFile m_file;
-};
 
 } // namespace
 
@@ -151,22 +101,6 @@ bool FileExists(const QString& path) {
     return !Dir(path).isEmpty();
 }
 
-void saveWhole(const QString& path, QByteArrayView bytes) {
-    WholeFile(path, bytes).takePlace();
-}
-
-void saveWholeTwice(const QString& path, QByteArrayView first, QByteArrayView second) {
-    if (!QFileInfo(QFileInfo(path).path()).isWritable()) {
-        // Without room for a file beside it there is nothing to make ready.
-        endSilently([&] { saveWhole(path, first); });
-        saveWhole(path, second);
-        return;
-    }
-    WholeFile staying(path, second);
-    endSilently([&] { saveWhole(path, first); });
-    staying.takePlace();
-}
-
 QByteArray readWhole(const QString& path, qint64 maximum) {
     const QFileInfo source(path);
     if (path.isEmpty())
@@ -186,21 +120,6 @@ QByteArray readWhole(const QString& path, qint64 maximum) {
     if (file.error() != QFileDevice::NoError || bytes.size() > maximum)
         fail(ErrorNumber::PathFileAccessError);
     return bytes;
-}
-
-bool keepUnreadable(const QString& path) {
-    if (!QFileInfo(path).isFile())
-        return !QFileInfo::exists(path);
-    for (int count = 1; count <= MostKeptAside; ++count) {
-        const QString aside =
-            path + u".unreadable"_s + (count == 1 ? QString() : QString::number(count));
-        if (sameBytes(path, aside))
-            return true;
-        // Bytes that may not even be read can still be moved aside as they are.
-        if (!QFileInfo::exists(aside))
-            return QFile::copy(path, aside) || QFile::rename(path, aside);
-    }
-    return false;
 }
 
 } // namespace orvalis

@@ -76,6 +76,7 @@ StickerForm::StickerForm(Program& program, const QString& name, const QString& d
     connect(close, &GGCommand::Click, this, &StickerForm::unloadRequested);
     makeText();
     makeClock();
+    m_unsaved = m_program.recovery.add([this] { return unsavedText(); });
 }
 
 GGCommand* StickerForm::makeButton(const QString& name, const QString& picture,
@@ -165,6 +166,12 @@ void StickerForm::onLoad() {
 void StickerForm::onUnload() {
     emit unloadRequested();
     --m_program.state.StickerCount;
+}
+
+std::vector<UnsavedText> StickerForm::unsavedText() const {
+    if (!isLoaded() || m_Text1->Text().isEmpty())
+        return {};
+    return {{u"Sticker \"%1\""_s.arg(windowTitle()), m_Text1->TextRTF()}};
 }
 
 void StickerForm::pin(bool onTop) {

@@ -4,6 +4,7 @@
 
 #include "controls/common_dialog.h"
 #include "controls/form.h"
+#include "core/recovery.h"
 #include "core/roles.h"
 
 class QLineEdit;
@@ -19,7 +20,8 @@ class WindowDrag;
 
 /// A small free-floating note: a title, a text, a clock that is also the handle for dragging, and a
 /// pin that keeps it above other windows. Its two classes, `frmstick` and `xn`, differ in name,
-/// design caption and height alone. Nothing of a sticker outlives it.
+/// design caption and height alone. Nothing of a sticker outlives it,
+/// unless the program ends without asking.
 class StickerForm : public Form, public StickerWindow {
     Q_OBJECT
 public:
@@ -48,6 +50,7 @@ private:
     void pin(bool onTop);
     void updateClock();
     void chooseFont();
+    std::vector<UnsavedText> unsavedText() const;
 
     Program& m_program;
     CommonDialog m_CommonDialog1;
@@ -58,6 +61,7 @@ private:
     Image* m_imgOff = nullptr;
     AlignedTimer* m_Timer1 = nullptr;
     WindowDrag* m_drag = nullptr;
+    Recovery::Registration m_unsaved;
 };
 
 /// The sticker that the user creates from a panel or the tray.

@@ -2,25 +2,18 @@
 // SPDX-License-Identifier: MIT
 #include "controls/common_dialog.h"
 #include "controls/font_dialog.h"
-#include "runtime/program_end.h"
-#include "support/environment.h"
 #include "support/scripted_dialogs.h"
 #include "support/test_main.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFileDialog>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QSettings>
-#include <QTemporaryDir>
-#include <QTimer>
-#include <QTreeView>
 
+#include <array>
 #include <functional>
 
 using namespace orvalis;
@@ -36,41 +29,6 @@ const FontChoice Present{.italic = true,
                          .underline = false,
                          .colour = 0x0000FF};
 
-template <class Dialog>
-void whenOpen(const std::function<void(Dialog&)>& use) {
-    QTimer::singleShot(
-        0, qApp,
-        [use] {
-            auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-            if (dialog == nullptr) {
-                QTest::qFail("No such dialog is open", __FILE__, __LINE__);
-                return;
-            }
-            use(*dialog);
-        });
-}
-
-/// A home with folders for music, pictures and documents.
-class UsersFolders {
-public:
-    UsersFolders() {
-        m_environment.set("HOME", m_home.path().toUtf8());
-        m_environment.set("XDG_CONFIG_HOME", m_home.path().toUtf8());
-        QFile file(m_home.filePath(u"user-dirs.dirs"_s));
-        if (!file.open(QIODevice::WriteOnly))
-            qFatal("no folders");
-        for (const QString& name : {u"Music"_s, u"Pictures"_s, u"Documents"_s}) {
-            QDir(m_home.path()).mkdir(name);
-            file.write("XDG_" + name.toUpper().toUtf8() + "_DIR=\"" + path(name).toUtf8() + "\"\n");
-        }
-    }
-    QString path(const QString& name) const { return m_home.filePath(name); }
-
-private:
-    QTemporaryDir m_home;
-    test::Environment m_environment;
-};
-
 std::optional<quint32> noColour(quint32) {
     return std::nullopt;
 }
@@ -80,46 +38,30 @@ std::optional<quint32> noColour(quint32) {
 class CommonDialogTest : public QObject {
     Q_OBJECT
 private slots:
-    void initTestCase();
     void init();
     void theChosenFileIsTheFileName();
+    void theChosenFilesTitleIsItsNameWithoutThePath();
     void theFileDialogsGetWhatTheFormSet();
+    void aTitleAndADefaultExtensionAreTheNextDialogsAlone();
+    void theFileNameIsOfferedAgainUntilItIsEmptied();
     void cancelLeavesThePropertiesAndIsSilentByDefault();
     void cancelFailsWith32755WhereTheFormAsksForThat();
     void theFontDialogStartsFromTheProperties();
     void theFontChoiceGoesIntoTheProperties();
     void theColourChoiceGoesIntoTheColour();
+    void thePrintDialogIsAskedFor();
     void aMixedSelectionHasNoValueAndFailsWith94();
-    void filtersBecomeNameFilters_data();
-    void filtersBecomeNameFilters();
-    void savingOverAFileAsksNothingAndAddsNoExtension();
-    void aFileThatIsNotThereCanBeOpened();
-    void theFileDialogOpensInTheFolderOfItsKind_data();
-    void theFileDialogOpensInTheFolderOfItsKind();
-    void theFileDialogComesBackToWhereTheLastFileWas();
-    void theFileDialogShowsWholeDates();
-    void escapeInAFileDialogIsCancel();
-    void theHourglassStandsBackWhileADialogIsOpen();
     void theFontDialogOffersAllSevenThings();
-    void aFamilyThatIsNotInstalledIsKept();
     void anUnreadableSizeIsTheOneThatWasGiven();
     void thePreviewShowsTheChoice();
     void theColourOfTheFontDialogComesFromTheColourDialog();
-    void cancelOfTheFontDialogGivesNothing();
-    void aDialogBehindWhichTheProgramEndedGivesNothing();
 
 private:
     test::ScriptedDialogs m_dialogs;
 };
 
-void CommonDialogTest::initTestCase() {
-    // The desktop's own file dialog would not be Qt's.
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-}
-
 void CommonDialogTest::init() {
     m_dialogs.verifyAllAsked();
-    qApp->setProperty("orvalisEnded", QVariant());
 }
 
 void CommonDialogTest::theChosenFileIsTheFileName() {
@@ -132,12 +74,23 @@ void CommonDialogTest::theChosenFileIsTheFileName() {
     QCOMPARE(dialog.FileName, u"/a/c.txt"_s);
 }
 
+void CommonDialogTest::theChosenFilesTitleIsItsNameWithoutThePath() {
+    CommonDialog dialog(m_dialogs);
+    m_dialogs.answerOpen(u"/a/b.c/Notes of May.RTF"_s);
+    dialog.ShowOpen();
+    QCOMPARE(dialog.FileTitle, u"Notes of May.RTF"_s);
+    m_dialogs.answerSave(u"/d/x.F"_s);
+    dialog.ShowSave();
+    QCOMPARE(dialog.FileTitle, u"x.F"_s);
+}
+
 void CommonDialogTest::theFileDialogsGetWhatTheFormSet() {
     CommonDialog dialog(m_dialogs);
     dialog.Filter = u"Notes (*.rtf)|*.rtf"_s;
     dialog.InitDir = u"/tmp"_s;
     dialog.FileName = u"x.rtf"_s;
     dialog.DialogTitle = u"Backup data"_s;
+    dialog.DefaultExt = u"*.bmp"_s;
     m_dialogs.answerSave(std::nullopt);
     dialog.ShowSave();
     const FileRequest asked = m_dialogs.saved.constLast();
@@ -145,22 +98,59 @@ void CommonDialogTest::theFileDialogsGetWhatTheFormSet() {
     QCOMPARE(asked.directory, u"/tmp"_s);
     QCOMPARE(asked.fileName, u"x.rtf"_s);
     QCOMPARE(asked.title, u"Backup data"_s);
+    QCOMPARE(asked.defaultExtension, u"*.bmp"_s);
+}
+
+void CommonDialogTest::aTitleAndADefaultExtensionAreTheNextDialogsAlone() {
+    CommonDialog dialog(m_dialogs);
+    dialog.Filter = u"Images|*.bmp"_s;
+    dialog.InitDir = u"/tmp"_s;
+    for (const std::optional<QString>& answer : {std::optional<QString>(), {u"/a/b.bmp"_s}}) {
+        dialog.DialogTitle = u"Insert Image"_s;
+        dialog.DefaultExt = u"*.bmp"_s;
+        m_dialogs.answerOpen(answer);
+        dialog.ShowOpen();
+        QCOMPARE(m_dialogs.opened.constLast().title, u"Insert Image"_s);
+        m_dialogs.answerSave(std::nullopt);
+        dialog.ShowSave();
+        QCOMPARE(m_dialogs.saved.constLast().title, QString());
+        QCOMPARE(m_dialogs.saved.constLast().defaultExtension, QString());
+        QCOMPARE(m_dialogs.saved.constLast().filter, u"Images|*.bmp"_s);
+        QCOMPARE(m_dialogs.saved.constLast().directory, u"/tmp"_s);
+    }
+}
+
+void CommonDialogTest::theFileNameIsOfferedAgainUntilItIsEmptied() {
+    CommonDialog dialog(m_dialogs);
+    m_dialogs.answerOpen(u"/a/b.bmp"_s);
+    dialog.ShowOpen();
+    m_dialogs.answerOpen(std::nullopt);
+    dialog.ShowOpen();
+    QCOMPARE(m_dialogs.opened.constLast().fileName, u"/a/b.bmp"_s);
+    dialog.FileName.clear();
+    m_dialogs.answerOpen(std::nullopt);
+    dialog.ShowOpen();
+    QCOMPARE(m_dialogs.opened.constLast().fileName, QString());
 }
 
 void CommonDialogTest::cancelLeavesThePropertiesAndIsSilentByDefault() {
     CommonDialog dialog(m_dialogs);
     dialog.FileName = u"before"_s;
+    dialog.FileTitle = u"title"_s;
     dialog.FontName = u"Arial"_s;
     dialog.Color = 7;
     m_dialogs.answerOpen(std::nullopt);
     m_dialogs.answerSave(std::nullopt);
     m_dialogs.answerFont(std::nullopt);
     m_dialogs.answerColour(std::nullopt);
+    m_dialogs.answerPrinter(false);
     dialog.ShowOpen();
     dialog.ShowSave();
     dialog.ShowFont();
     dialog.ShowColor();
+    dialog.ShowPrinter();
     QCOMPARE(dialog.FileName, u"before"_s);
+    QCOMPARE(dialog.FileTitle, u"title"_s);
     QCOMPARE(dialog.FontName, u"Arial"_s);
     QCOMPARE(dialog.Color, 7U);
 }
@@ -172,9 +162,10 @@ void CommonDialogTest::cancelFailsWith32755WhereTheFormAsksForThat() {
     m_dialogs.answerSave(std::nullopt);
     m_dialogs.answerFont(std::nullopt);
     m_dialogs.answerColour(std::nullopt);
-    const std::array<std::function<void()>, 4> shows{
+    m_dialogs.answerPrinter(false);
+    const std::array<std::function<void()>, 5> shows{
         [&] { dialog.ShowOpen(); }, [&] { dialog.ShowSave(); }, [&] { dialog.ShowFont(); },
-        [&] { dialog.ShowColor(); }};
+        [&] { dialog.ShowColor(); }, [&] { dialog.ShowPrinter(); }};
     for (const auto& show : shows) {
         const auto failure = firstFailure(show);
         QVERIFY(failure.has_value());
@@ -218,158 +209,21 @@ void CommonDialogTest::theColourChoiceGoesIntoTheColour() {
     QCOMPARE(dialog.Color, 0x123456U);
 }
 
+void CommonDialogTest::thePrintDialogIsAskedFor() {
+    CommonDialog dialog(m_dialogs);
+    dialog.CancelError = true;
+    dialog.Flags = 6;
+    const int before = m_dialogs.printersChosen;
+    m_dialogs.answerPrinter(true);
+    dialog.ShowPrinter();
+    QCOMPARE(m_dialogs.printersChosen, before + 1);
+}
+
 void CommonDialogTest::aMixedSelectionHasNoValueAndFailsWith94() {
     QCOMPARE(notNull(std::optional<int>(4)), 4);
     const auto failure = firstFailure([] { notNull(std::optional<bool>()); });
     QVERIFY(failure.has_value());
     QCOMPARE(failure->number(), ErrorNumber::InvalidUseOfNull);
-}
-
-void CommonDialogTest::filtersBecomeNameFilters_data() {
-    QTest::addColumn<QString>("filter");
-    QTest::addColumn<QStringList>("expected");
-    QTest::newRow("none") << QString() << QStringList();
-    QTest::newRow("one") << u"Orvalis (*.brf)|*.brf"_s << QStringList{u"Orvalis (*.brf)"_s};
-    QTest::newRow("several patterns") << u"Images (*.bmp;*.jpg)|*.bmp;*.jpg|All Files (*.*)|*.*"_s
-                                      << QStringList{u"Images (*.bmp *.jpg)"_s, u"All Files (*)"_s};
-    QTest::newRow("blank at the end")
-        << u"Address data (*.dat) |*.dat"_s << QStringList{u"Address data (*.dat)"_s};
-}
-
-void CommonDialogTest::filtersBecomeNameFilters() {
-    QFETCH(QString, filter);
-    QFETCH(QStringList, expected);
-    QCOMPARE(nameFilters(filter), expected);
-}
-
-void CommonDialogTest::savingOverAFileAsksNothingAndAddsNoExtension() {
-    const QTemporaryDir folder;
-    QFile present(folder.filePath(u"present"_s));
-    QVERIFY(present.open(QIODevice::WriteOnly));
-    present.close();
-    whenOpen<QFileDialog>([&](QFileDialog& dialog) {
-        QCOMPARE(dialog.windowTitle(), u"Save As"_s);
-        dialog.selectFile(u"present"_s);
-        QMetaObject::invokeMethod(&dialog, "accept");
-    });
-    QtDialogs dialogs;
-    const auto chosen = dialogs.saveFile({.filter = u"Text (*.txt)|*.txt"_s,
-                                          .directory = folder.path(),
-                                          .fileName = {},
-                                          .title = {}});
-    QCOMPARE(chosen.value_or(QString()), folder.filePath(u"present"_s));
-}
-
-void CommonDialogTest::aFileThatIsNotThereCanBeOpened() {
-    const QTemporaryDir folder;
-    whenOpen<QFileDialog>([&](QFileDialog& dialog) {
-        QCOMPARE(dialog.windowTitle(), u"Insert Image"_s);
-        dialog.selectFile(u"missing.rtf"_s);
-        QMetaObject::invokeMethod(&dialog, "accept");
-    });
-    QtDialogs dialogs;
-    const auto chosen = dialogs.openFile({.filter = u"Notes (*.rtf)|*.rtf"_s,
-                                          .directory = folder.path(),
-                                          .fileName = {},
-                                          .title = u"Insert Image"_s});
-    QCOMPARE(chosen.value_or(QString()), folder.filePath(u"missing.rtf"_s));
-}
-
-void CommonDialogTest::theFileDialogOpensInTheFolderOfItsKind_data() {
-    QTest::addColumn<QString>("filter");
-    QTest::addColumn<QString>("folder");
-    QTest::newRow("sounds") << u"Media Files (*.wav;*.mid;*.mp3;*.m3u)|*.wav;*.mid;*.mp3;*.m3u"_s
-                            << u"Music"_s;
-    QTest::newRow("pictures") << u"Pictures|*.bmp;*.jpg;*.gif|All Files (*.*)|*.*"_s
-                              << u"Pictures"_s;
-    QTest::newRow("documents") << u"Rich Text Format (*.rtf)|*.rtf"_s << u"Documents"_s;
-    QTest::newRow("anything") << u"All Files (*.*)|*.*"_s << u"Documents"_s;
-    QTest::newRow("no filter") << QString() << u"Documents"_s;
-}
-
-void CommonDialogTest::theFileDialogOpensInTheFolderOfItsKind() {
-    QFETCH(QString, filter);
-    QFETCH(QString, folder);
-    const UsersFolders folders;
-    QString opened;
-    whenOpen<QFileDialog>([&](QFileDialog& dialog) {
-        opened = dialog.directory().path();
-        dialog.reject();
-    });
-    QtDialogs().openFile({.filter = filter, .directory = {}, .fileName = {}, .title = {}});
-    QCOMPARE(opened, folders.path(folder));
-}
-
-void CommonDialogTest::theFileDialogComesBackToWhereTheLastFileWas() {
-    const UsersFolders folders;
-    const QTemporaryDir elsewhere;
-    QtDialogs dialogs;
-    const FileRequest sounds{
-        .filter = u"Sounds|*.wav"_s, .directory = {}, .fileName = {}, .title = {}};
-    whenOpen<QFileDialog>([&](QFileDialog& dialog) {
-        dialog.selectFile(elsewhere.filePath(u"bell.wav"_s));
-        dialog.findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(elsewhere.filePath(u"bell.wav"_s));
-        static_cast<QDialog&>(dialog).accept();
-    });
-    QCOMPARE(dialogs.saveFile(sounds), std::optional(elsewhere.filePath(u"bell.wav"_s)));
-    for (const auto& [filter, folder] : {std::pair(sounds.filter, elsewhere.path()),
-                                         std::pair(QString(), folders.path(u"Documents"_s))}) {
-        QString opened;
-        whenOpen<QFileDialog>([&](QFileDialog& dialog) {
-            opened = dialog.directory().path();
-            dialog.reject();
-        });
-        dialogs.openFile({.filter = filter, .directory = {}, .fileName = {}, .title = {}});
-        QCOMPARE(opened, folder);
-    }
-}
-
-void CommonDialogTest::theFileDialogShowsWholeDates() {
-    const QTemporaryDir folder;
-    // The list writes its dates in the desktop's language, whatever the tests have set.
-    const QLocale ofTheTests;
-    QLocale::setDefault(QLocale::system());
-    // File dialogs keep the widths of their columns among the user's settings.
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
-                       folder.filePath(u"settings"_s));
-    QFile file(folder.filePath(QString(80, u'n') + u".wav"_s));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.close();
-    bool whole = false;
-    whenOpen<QFileDialog>([&whole](QFileDialog& dialog) {
-        auto* files = dialog.findChild<QTreeView*>(u"treeView"_s);
-        QTRY_COMPARE(files->model()->rowCount(files->rootIndex()), 1);
-        constexpr int DateColumn = 3;
-        const QString date =
-            QLocale::system().toString(QDateTime::currentDateTime(), QLocale::ShortFormat);
-        whole =
-            files->columnWidth(DateColumn) > files->fontMetrics().horizontalAdvance(date + u"0"_s);
-        const int end = files->columnViewportPosition(DateColumn) + files->columnWidth(DateColumn);
-        whole = whole && end <= files->viewport()->width();
-        dialog.reject();
-    });
-    QtDialogs().openFile({.filter = {}, .directory = folder.path(), .fileName = {}, .title = {}});
-    QLocale::setDefault(ofTheTests);
-    QVERIFY(whole);
-}
-
-void CommonDialogTest::escapeInAFileDialogIsCancel() {
-    whenOpen<QFileDialog>([](QFileDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
-    QtDialogs dialogs;
-    QVERIFY(!dialogs.openFile({}).has_value());
-}
-
-void CommonDialogTest::theHourglassStandsBackWhileADialogIsOpen() {
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    bool stoodBack = false;
-    whenOpen<QFileDialog>([&stoodBack](QFileDialog& dialog) {
-        stoodBack = QGuiApplication::overrideCursor() == nullptr;
-        dialog.reject();
-    });
-    QtDialogs().openFile({});
-    QVERIFY(stoodBack);
-    QVERIFY(QGuiApplication::overrideCursor() != nullptr);
-    QGuiApplication::restoreOverrideCursor();
 }
 
 void CommonDialogTest::theFontDialogOffersAllSevenThings() {
@@ -391,19 +245,6 @@ void CommonDialogTest::theFontDialogOffersAllSevenThings() {
     QCOMPARE(choice.size, 20.0);
     QCOMPARE(choice.name, families->item(0)->text());
     QCOMPARE(choice.colour, Present.colour);
-}
-
-void CommonDialogTest::aFamilyThatIsNotInstalledIsKept() {
-    whenOpen<FontDialog>([](FontDialog& dialog) {
-        QCOMPARE(dialog.findChild<QLineEdit*>(u"family"_s)->text(), u"No Such Family"_s);
-        dialog.findChild<QCheckBox*>(u"bold"_s)->setChecked(true);
-        dialog.accept();
-    });
-    QtDialogs dialogs;
-    const auto chosen = dialogs.chooseFont(Present);
-    QVERIFY(chosen.has_value());
-    QCOMPARE(chosen->name, u"No Such Family"_s);
-    QVERIFY(chosen->bold);
 }
 
 void CommonDialogTest::anUnreadableSizeIsTheOneThatWasGiven() {
@@ -436,21 +277,6 @@ void CommonDialogTest::theColourOfTheFontDialogComesFromTheColourDialog() {
     dialog.findChild<QPushButton*>(u"colour"_s)->click();
     QCOMPARE(asked, Present.colour);
     QCOMPARE(dialog.choice().colour, 0x00FF00U);
-}
-
-void CommonDialogTest::cancelOfTheFontDialogGivesNothing() {
-    whenOpen<FontDialog>([](FontDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
-    QtDialogs dialogs;
-    QVERIFY(!dialogs.chooseFont(Present).has_value());
-}
-
-void CommonDialogTest::aDialogBehindWhichTheProgramEndedGivesNothing() {
-    whenOpen<FontDialog>([](FontDialog& dialog) {
-        markProgramEnded();
-        dialog.accept();
-    });
-    QtDialogs dialogs;
-    QVERIFY_THROWS_EXCEPTION(ProgramEnded, dialogs.chooseFont(Present));
 }
 
 ORVALIS_TEST_MAIN_WITH(QApplication, CommonDialogTest)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/format_range.h"
 #include "controls/rich_text_box.h"
+#include "runtime/failure.h"
 #include "support/test_main.h"
 
 #include <QApplication>
@@ -104,7 +105,12 @@ private slots:
     void aLineTallerThanThePageStillAdvances();
     void aPageBreakBeginsAPage();
     void aRangeEndsWhereItIsTold();
+    void aRangeDrawsItsOwnCharactersOfALine_data();
+    void aRangeDrawsItsOwnCharactersOfALine();
+    void aRangeWithItsFirstCharacterHasItsLabel();
     void measuringDrawsNothing();
+    void withoutADeviceThePainterTells();
+    void withoutPainterAndDeviceThereIsNoPage();
     void printingIsTheSameOnAFinerDevice();
     void aChangedTextIsFormattedAnew();
     void aChangedFormatIsFormattedAnew_data();
@@ -281,6 +287,92 @@ void FormatRangeTest::aRangeEndsWhereItIsTold() {
     box.FormatPage({&other, &two, wholePage, 0, -1});
     other.end();
     QCOMPARE(image, two);
+}
+
+void FormatRangeTest::aRangeDrawsItsOwnCharactersOfALine_data() {
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("first");
+    QTest::addColumn<int>("last");
+    QTest::newRow("the beginning of a line") << u"abcdef"_s << 0 << 3;
+    QTest::newRow("the end of a line") << u"abcdef"_s << 4 << -1;
+    QTest::newRow("the middle of a line") << u"abcdef"_s << 2 << 4;
+    QTest::newRow("parts of two lines") << u"abcdef\r\nghijkl"_s << 4 << 10;
+    QTest::newRow("nothing") << u"abcdef"_s << 3 << 3;
+    QTest::newRow("letters that run the other way")
+        << u"\u05D0\u05D1\u05D2\u05D3\u05D4\u05D5"_s << 2 << 4;
+}
+
+/// What is drawn is what is there when all other characters have the colour of the paper.
+void FormatRangeTest::aRangeDrawsItsOwnCharactersOfALine() {
+    QFETCH(QString, text);
+    QFETCH(int, first);
+    QFETCH(int, last);
+    const int end = last < 0 ? int(text.size()) : last;
+    RichTextBox box;
+    box.SetText(text);
+    box.selectAll();
+    box.SetSelFontName(u"Courier New"_s); // letters that stay inside their own room
+    box.SetSelFontSize(24);
+    QImage drawn = sheet();
+    QPainter painter(&drawn);
+    QCOMPARE(box.FormatPage({&painter, &drawn, wholePage, first, last}), end);
+    painter.end();
+    box.EndFormatting();
+
+    box.SetSelStart(0);
+    box.SetSelLength(first);
+    box.SetSelColor(0xFFFFFF);
+    box.SetSelStart(end);
+    box.SetSelLength(int(text.size()));
+    box.SetSelColor(0xFFFFFF);
+    QImage expected = pagesOf(box).constFirst().image;
+    if (first == end)
+        expected.fill(Qt::white);
+    const QRect ink = inkBounds(expected);
+    QCOMPARE(ink.isEmpty(), first == end);
+    const QRect found = inkBounds(drawn);
+    for (const int difference :
+         {found.left() - ink.left(), found.right() - ink.right(), found.bottom() - ink.bottom()})
+        QVERIFY2(std::abs(difference) <= 1, qPrintable(QString::number(difference)));
+}
+
+void FormatRangeTest::aRangeWithItsFirstCharacterHasItsLabel() {
+    RichTextBox box;
+    box.SetText(u"abcdef"_s);
+    box.SetSelIndent(720);
+    box.SetSelBullet(true);
+    const auto leftmost = [&box](int first, int last) {
+        QImage image = sheet();
+        QPainter painter(&image);
+        box.FormatPage({&painter, &image, wholePage, first, last});
+        painter.end();
+        return inkBounds(image).left();
+    };
+    const int bullet = leftmost(0, -1);
+    QCOMPARE(leftmost(0, 3), bullet);
+    QVERIFY(leftmost(1, 3) > bullet + 10);
+}
+
+void FormatRangeTest::withoutADeviceThePainterTells() {
+    RichTextBox box;
+    box.SetText(manyLines(100));
+    QImage image = sheet();
+    QPainter painter(&image);
+    const int next = box.FormatPage({&painter, nullptr, wholePage, 0, -1});
+    painter.end();
+    const QList<Page> pages = pagesOf(box);
+    QCOMPARE(next, pages.constFirst().next);
+    QCOMPARE(image, pages.constFirst().image);
+}
+
+void FormatRangeTest::withoutPainterAndDeviceThereIsNoPage() {
+    RichTextBox box;
+    box.SetText(u"one"_s);
+    const auto failure = firstFailure([&] {
+        box.FormatPage({nullptr, nullptr, wholePage, 0, -1});
+    });
+    QVERIFY(failure.has_value());
+    QCOMPARE(failure->number(), ErrorNumber::InvalidProcedureCall);
 }
 
 void FormatRangeTest::measuringDrawsNothing() {

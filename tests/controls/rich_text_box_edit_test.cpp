@@ -35,6 +35,49 @@ void compose(RichTextBox& box, const QString& shown, const QString& committed = 
     QApplication::sendEvent(&box, &event);
 }
 
+template <class Box>
+constexpr bool Clears = requires(Box& box) {
+    box.clear();
+};
+template <class Box>
+constexpr bool Finds = requires(Box& box) {
+    box.find(QString());
+};
+template <class Box>
+constexpr bool Prints = requires(Box& box) {
+    box.print(nullptr);
+};
+template <class Box>
+constexpr bool TakesDocuments = requires(Box& box) {
+    box.setDocument(nullptr);
+};
+template <class Box>
+constexpr bool Aligns = requires(Box& box) {
+    box.setAlignment(Qt::AlignLeft);
+};
+template <class Box>
+constexpr bool TakesFonts = requires(Box& box) {
+    box.setCurrentFont(QFont());
+};
+template <class Box>
+constexpr bool TakesFormats = requires(Box& box) {
+    box.setCurrentCharFormat({});
+};
+template <class Box>
+constexpr bool TakesColours = requires(Box& box) {
+    box.setTextColor(QColor());
+};
+
+// The toolkit's own ways to the text keep none of the control's rules.
+static_assert(Clears<QTextEdit> && !Clears<RichTextBox>);
+static_assert(Finds<QTextEdit> && !Finds<RichTextBox>);
+static_assert(Prints<QTextEdit> && !Prints<RichTextBox>);
+static_assert(TakesDocuments<QTextEdit> && !TakesDocuments<RichTextBox>);
+static_assert(Aligns<QTextEdit> && !Aligns<RichTextBox>);
+static_assert(TakesFonts<QTextEdit> && !TakesFonts<RichTextBox>);
+static_assert(TakesFormats<QTextEdit> && !TakesFormats<RichTextBox>);
+static_assert(TakesColours<QTextEdit> && !TakesColours<RichTextBox>);
+
 } // namespace
 
 class RichTextBoxEditTest : public QObject {

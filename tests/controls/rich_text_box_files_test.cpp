@@ -44,10 +44,11 @@ private slots:
     void notesOfThePageStayOneByteACharacter();
     void whatIsOutsideThePageIsLostByteByByte();
     void linesThatEndWithLfAreLinesOfNotes();
-    void loadingPlainTextGivesItTheFormatAtTheSelectionsStart();
+    void loadingPlainTextGivesItTheBoxsOwnFontAndNoOtherFormat();
     void loadingPlainTextDropsTheShapeOfParagraphs();
     void loadingPutsTheCaretAtTheStartAndTells();
     void loadingDropsTheHistoryOfUndo();
+    void savingKeepsTheHistoryOfUndo();
     void aPictureIsABlankInPlainText();
 
     void aFileThatIsNotRichTextIsRefused();
@@ -229,17 +230,47 @@ void RichTextBoxFilesTest::linesThatEndWithLfAreLinesOfNotes() {
     }
 }
 
-void RichTextBoxFilesTest::loadingPlainTextGivesItTheFormatAtTheSelectionsStart() {
-    write(u"Msg.txt"_s, "Alarm time: 07:30:00\r\nmilk");
+void RichTextBoxFilesTest::loadingPlainTextGivesItTheBoxsOwnFontAndNoOtherFormat() {
+    write(u"note.txt"_s, "one\r\n\r\ntwo");
     RichTextBox box;
-    box.SetSelBold(true);
-    box.SetSelColor(255);
-    box.SetText(box.Text() + u"\r\n"_s);
-    box.LoadFile(path(u"Msg.txt"_s), 1);
-    QCOMPARE(box.Text(), u"Alarm time: 07:30:00\r\nmilk"_s);
+    box.SetFontName(u"Courier New"_s);
+    box.SetFontSize(13);
+    box.SetText(u"red and bold"_s);
     box.selectAll();
-    QCOMPARE(box.SelBold(), std::optional(true));
-    QCOMPARE(box.SelColor(), std::optional<quint32>(255));
+    box.SetSelBold(true);
+    box.SetSelItalic(true);
+    box.SetSelUnderline(true);
+    box.SetSelStrikeThru(true);
+    box.SetSelColor(255);
+    box.SetSelFontName(u"Arial"_s);
+    box.SetSelFontSize(30);
+    box.LoadFile(path(u"note.txt"_s), 1);
+    const auto compare = [&box] {
+        QCOMPARE(box.SelBold(), std::optional(false));
+        QCOMPARE(box.SelItalic(), std::optional(false));
+        QCOMPARE(box.SelUnderline(), std::optional(false));
+        QCOMPARE(box.SelStrikeThru(), std::optional(false));
+        QCOMPARE(box.SelColor(), std::optional<quint32>(0));
+        QCOMPARE(box.SelFontName(), std::optional(u"Courier New"_s));
+        QCOMPARE(box.SelFontSize(), std::optional<qreal>(13));
+        QCOMPARE(box.SelAlignment(), std::optional(0));
+    };
+    compare(); // what is typed at the caret
+    box.selectAll();
+    compare();
+    box.SetSelText(u"x"_s);
+    compare();
+}
+
+void RichTextBoxFilesTest::savingKeepsTheHistoryOfUndo() {
+    RichTextBox box;
+    QTest::keyClicks(&box, u"abc"_s);
+    box.SaveFile(path(u"note.rtf"_s));
+    box.SaveFile(path(u"note.txt"_s), 1);
+    QVERIFY(box.CanUndo());
+    QCOMPARE(box.UndoType(), UndoKind::Typing);
+    box.Undo();
+    QCOMPARE(box.Text(), QString());
 }
 
 void RichTextBoxFilesTest::loadingPlainTextDropsTheShapeOfParagraphs() {

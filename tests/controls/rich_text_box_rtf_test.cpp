@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
-#include "controls/rich_text_box.h"
+#include "selecting.h"
 #include "support/test_main.h"
 
 #include <QApplication>
@@ -28,6 +28,8 @@ private slots:
     void insertingRtfIsOneStepOfUndo();
     void selectedRtfThatIsNotRtfIsPlainText();
     void rtfWithCharactersOutsideAsciiMayBeAString();
+    void aFontNamedBeyondAsciiKeepsItsName();
+    void newTextHasTheUsualTabs();
     void emptyRtfEmptiesTheBox();
     void aBrokenRtfKeepsItsTextUpToTheFault();
     void anEntryIsAppendedPieceByPiece();
@@ -182,6 +184,29 @@ void RichTextBoxRtfTest::rtfWithCharactersOutsideAsciiMayBeAString() {
     QCOMPARE(box.Text(), u"caf\u00E9 \u4E2D \U0001F600"_s);
     box.SetSelRTF(u"{\\rtf1 \u017E}"_s);
     QCOMPARE(box.Text(), u"\u017Ecaf\u00E9 \u4E2D \U0001F600"_s);
+}
+
+void RichTextBoxRtfTest::aFontNamedBeyondAsciiKeepsItsName() {
+    RichTextBox box;
+    const QString name = u"\u6E38\u660E Sch\u00F6n"_s;
+    box.SetTextRTF(QString(u"{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}{\\f1\\fnil "_s + name +
+                           u";}{\\f2 Courier New;}}\\f1 one \\f2 two}"_s));
+    test::select(box, 0, 3);
+    QCOMPARE(box.SelFontName(), std::optional(name));
+    test::select(box, 4, 3);
+    QCOMPARE(box.SelFontName(), std::optional(u"Courier New"_s));
+}
+
+void RichTextBoxRtfTest::newTextHasTheUsualTabs() {
+    RichTextBox box;
+    const qreal usual = box.document()->defaultTextOption().tabStopDistance();
+    for (const QString& text : {QString(), u"a\tb"_s}) {
+        box.SetTextRTF(QByteArrayLiteral("{\\rtf1\\deftab2880 a\\tab b}"));
+        QVERIFY(box.document()->defaultTextOption().tabStopDistance() != usual);
+        box.SetText(text);
+        QCOMPARE(box.document()->defaultTextOption().tabStopDistance(), usual);
+        QVERIFY(!box.TextRTF().contains("\\deftab2880"));
+    }
 }
 
 void RichTextBoxRtfTest::emptyRtfEmptiesTheBox() {

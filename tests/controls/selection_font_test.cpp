@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "controls/common_dialog.h"
+#include "controls/qt_dialogs.h"
 #include "controls/rich_text_box.h"
 #include "controls/selecting.h"
 #include "controls/selection_font.h"

@@ -5,9 +5,11 @@
 #include "runtime/program_end.h"
 #include "support/scripted_boxes.h"
 #include "support/test_main.h"
+#include "support/test_program.h"
 
 #include <QEventLoop>
 #include <QTimer>
+#include <QWidget>
 
 using namespace orvalis;
 using namespace Qt::StringLiterals;
@@ -22,6 +24,9 @@ private slots:
     void theEndOfTheProgramLeavesEveryEventLoop();
     void anEntryRoutineThatEndsTheProgramRunsNoEventLoop();
     void hidingTheLastWindowDoesNotEndTheProgram();
+    void aFailureKeepsWhatIsUnsavedAheadOfItsBox();
+    void theEndOfTheSessionKeepsWhatIsUnsavedAndAsksNobody();
+    void aProgramThatEndedByItsOwnCommandKeepsNothing();
 
 private:
     Application& application() { return *static_cast<Application*>(qApp); }
@@ -35,6 +40,7 @@ void ApplicationTest::init() {
 }
 
 void ApplicationTest::cleanup() {
+    application().setRecovery(nullptr);
     m_boxes.reset();
 }
 
@@ -86,6 +92,46 @@ void ApplicationTest::anEntryRoutineThatEndsTheProgramRunsNoEventLoop() {
 
 void ApplicationTest::hidingTheLastWindowDoesNotEndTheProgram() {
     QVERIFY(!QApplication::quitOnLastWindowClosed());
+}
+
+void ApplicationTest::aFailureKeepsWhatIsUnsavedAheadOfItsBox() {
+    test::TestProgram ground;
+    const auto held = ground.program.recovery.add([] {
+        return std::vector<UnsavedText>{{u"Page"_s, "{\\rtf1 typed}"}};
+    });
+    application().setRecovery(&ground.program.recovery);
+    ground.boxes.expect(u"Run-time error '70':\n\nPermission denied"_s, 16, Answer::Ok);
+    QStringList names;
+    ground.boxes.meanwhile([&] { names = ground.folder.names(); });
+    QTimer::singleShot(0, this, [] { throw RuntimeError(ErrorNumber::PermissionDenied); });
+    application().run([] {});
+    QCOMPARE(names, QStringList{u"recovered.rtf"_s});
+}
+
+void ApplicationTest::theEndOfTheSessionKeepsWhatIsUnsavedAndAsksNobody() {
+    test::TestProgram ground;
+    const auto held = ground.program.recovery.add([] {
+        return std::vector<UnsavedText>{{u"Page"_s, "{\\rtf1 typed}"}};
+    });
+    application().setRecovery(&ground.program.recovery);
+    QWidget window;
+    window.show();
+    QTimer::singleShot(0, this, [] { QCoreApplication::quit(); });
+    QCOMPARE(application().run([] {}), 0);
+    QVERIFY(programHasEnded());
+    QVERIFY(window.isVisible());
+    QVERIFY(ground.folder.read(u"recovered.rtf"_s).contains("typed"));
+}
+
+void ApplicationTest::aProgramThatEndedByItsOwnCommandKeepsNothing() {
+    test::TestProgram ground;
+    const auto held = ground.program.recovery.add([] {
+        return std::vector<UnsavedText>{{u"Page"_s, "{\\rtf1 typed}"}};
+    });
+    application().setRecovery(&ground.program.recovery);
+    application().run([] { throw ProgramEnded(); });
+    application().endFromOutside();
+    QVERIFY(ground.folder.names().isEmpty());
 }
 
 ORVALIS_TEST_MAIN_WITH(Application, ApplicationTest)

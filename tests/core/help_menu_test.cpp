@@ -5,7 +5,7 @@
 #include "core/about_box.h"
 #include "core/help_file.h"
 #include "core/popup_menus.h"
-#include "runtime/files.h"
+#include "runtime/file_saving.h"
 #include "support/plain_windows.h"
 #include "support/test_main.h"
 #include "support/test_program.h"

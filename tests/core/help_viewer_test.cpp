@@ -4,6 +4,7 @@
 #include "core/help_viewer.h"
 #include "platform/chm_file.h"
 #include "platform/shell.h"
+#include "runtime/file_saving.h"
 #include "runtime/files.h"
 #include "support/test_main.h"
 

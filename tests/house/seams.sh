@@ -19,11 +19,11 @@ only_in() { # pattern, homes as an extended regular expression of paths
 
 only_in '::currentDateTime|::currentMSecs|QDate::currentDate|QTime::currentTime|system_clock::now' 'runtime/clock\.cpp'
 only_in '#include <QMessageBox>|QMessageBox::' 'controls/msg_box'
-only_in '#include <Q(File|Font|Color)Dialog>|Q(File|Font|Color)Dialog::' 'controls/(common_dialog|font_dialog|qt_dialogs)'
+only_in '#include <Q(File|Font|Color|Print)Dialog>|Q(File|Font|Color|Print)Dialog::' 'controls/(font_dialog|qt_dialogs)'
 only_in '#include <Q(DesktopServices|Process)>' 'platform/'
 only_in '#include <QSystemTrayIcon>' 'platform/'
 only_in '#include <Q(SoundEffect|MediaPlayer|AudioOutput|AudioSink)>' 'platform/'
-only_in '#include <QPrinter>' '(platform|controls)/'
+only_in '#include <QPrinter>' 'platform/printer\.'
 only_in '#include <QSettings>' 'nowhere'
 only_in '\bsystem\(|\bpopen\(' 'nowhere'
 exit $failed

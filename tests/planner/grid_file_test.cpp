@@ -69,6 +69,10 @@ private slots:
     void theHeaderIsReadLikeAnyListOfNumbers();
     void aHostileFileEndsSilently_data();
     void aHostileFileEndsSilently();
+    void aListThatCannotBeReadIsKeptAsideOnce_data();
+    void aListThatCannotBeReadIsKeptAsideOnce();
+    void aListThatWasReadIsNotKeptAside_data();
+    void aListThatWasReadIsNotKeptAside();
     void fiftyMegabytesOfOneLineAreReadOnce();
     void aFileBeyondTheLimitIsNotRead();
     void viewsHearOfALoadOnce();
@@ -342,6 +346,57 @@ void GridFileTest::aHostileFileEndsSilently() {
         QCOMPARE(texts(grid), left);
         QVERIFY(!grid.isChanging());
     }
+}
+
+void GridFileTest::aListThatCannotBeReadIsKeptAsideOnce_data() {
+    QTest::addColumn<QByteArray>("bytes");
+    const QString text = u" 3  1 \r\n\r\nFriday\r\nCall Ann\r\n"_s;
+    QTest::newRow("UTF-16 with its mark")
+        << QByteArray("\xFF\xFE") +
+               QByteArray(reinterpret_cast<const char*>(text.utf16()), 2 * text.size());
+    QTest::newRow("UTF-16 without it")
+        << QByteArray(reinterpret_cast<const char*>(text.utf16()), 2 * text.size());
+    QTest::newRow("no row count") << QByteArray("x 1 \r\n\r\nFriday\r\nCall Ann\r\n");
+    QTest::newRow("no column count") << QByteArray(" 3  x \r\n\r\nFriday\r\nCall Ann\r\n");
+    QTest::newRow("one row and more behind it")
+        << QByteArray(" 1  1 \r\n\r\nFriday\r\nCall Ann\r\n");
+    QTest::newRow("cut in the header") << QByteArray(" 3 ");
+    QTest::newRow("cut between cells") << QByteArray(" 3  1 \r\n\r\nFriday\r\n");
+    QTest::newRow("too many rows") << QByteArray(" 2000000000  1 \r\n\r\nFriday\r\nCall Ann\r\n");
+    QTest::newRow("lines without a header") << QByteArray("Friday\r\nCall Ann\r\n");
+}
+
+void GridFileTest::aListThatCannotBeReadIsKeptAsideOnce() {
+    QFETCH(QByteArray, bytes);
+    write(bytes);
+    GridModel grid;
+    LoadRemindGrid(path(), grid);
+    GridModel another;
+    another.AddItem(u"new"_s);
+    SaveGridFile(path(), another);
+    SaveGridFile(path(), another);
+    QCOMPARE(written(), QByteArray(" 2  1 \r\n\r\nnew\r\n"));
+    QCOMPARE(readWhole(path() + u".unreadable"_s), bytes);
+    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files).size(), 2);
+}
+
+void GridFileTest::aListThatWasReadIsNotKeptAside_data() {
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("empty list") << QByteArray(" 1  1 \r\n\r\n");
+    QTest::newRow("empty list without its cell") << QByteArray(" 1  1 \r\n");
+    QTest::newRow("items") << QByteArray(" 3  1 \r\n\r\nFriday\r\nCall Ann\r\n");
+    QTest::newRow("a cell with a line break in it")
+        << QByteArray(" 3  1 \r\n\r\nFriday\r\nCall Ann\r\nand Bob\r\n");
+    QTest::newRow("no line end at the end") << QByteArray(" 3  1 \r\n\r\nFriday\r\nCall Ann");
+}
+
+void GridFileTest::aListThatWasReadIsNotKeptAside() {
+    QFETCH(QByteArray, bytes);
+    write(bytes);
+    GridModel grid;
+    LoadRemindGrid(path(), grid);
+    SaveGridFile(path(), grid);
+    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList{u"tmp2.brf"_s});
 }
 
 void GridFileTest::fiftyMegabytesOfOneLineAreReadOnce() {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/chm_directory.h"
 #include "platform/chm_file.h"
+#include "runtime/file_saving.h"
 #include "runtime/files.h"
 #include "support/test_main.h"
 

@@ -3,7 +3,6 @@
 #include "runtime/files.h"
 
 #include "runtime/failure.h"
-#include "support/small_disk.h"
 #include "support/temporary_folder.h"
 #include "support/test_main.h"
 #include "support/without_root.h"
@@ -40,21 +39,6 @@ private slots:
     void aFolderIsNoMatchOfAWildcard();
     void manyStarsAreMatchedInBoundedTime();
 
-    void savingWritesEveryByte();
-    void savingReplacesAFileThroughALink();
-    void savingLeavesNoTemporaryBehind();
-    void savingIntoAMissingFolderIsPathNotFound();
-    void savingOverAFolderOrADeviceIsAnAccessError();
-    void savingToNoNameIsAnAccessError();
-    void savingIntoAReadOnlyFolderIsDenied();
-    void savingOverAReadOnlyFileIsDenied();
-    void aFolderThatRefusesNewFilesIsWrittenDirectly();
-    void aFullDiskLeavesTheOldFile_data();
-    void aFullDiskLeavesTheOldFile();
-
-    void theSecondOfTwoWritesStays();
-    void aDiskWithoutRoomForTheSecondOfTwoWritesKeepsTheOldFile();
-    void aFolderThatRefusesNewFilesTakesBothWritesDirectly();
     void readingGivesEveryByte();
     void readingAMissingFileIsFileNotFound();
     void readingFromAMissingFolderIsPathNotFound();
@@ -62,12 +46,6 @@ private slots:
     void readingMoreThanTheMaximumIsAnAccessError();
     void readingAnUnreadableFileIsDenied();
     void readingFromAClosedFolderIsDenied();
-
-    void anUnreadableDocumentIsKeptOnce();
-    void otherBytesAreKeptBesideTheFirst();
-    void whatIsNotThereNeedsNoKeeping();
-    void aFileThatMayNotBeReadIsMovedAside();
-    void whereNothingCanBeKeptTheCallerHears();
 };
 
 void FilesTest::namesAreJoinedWithOneSeparator_data() {
@@ -154,136 +132,6 @@ void FilesTest::manyStarsAreMatchedInBoundedTime() {
     QVERIFY(FileExists(folder.file(u"*a"_s.repeated(60))));
 }
 
-void FilesTest::savingWritesEveryByte() {
-    const TemporaryFolder folder;
-    QByteArray bytes(1000000, '\0');
-    bytes[999999] = '\xFF';
-    saveWhole(folder.file(u"x"_s), bytes);
-    QVERIFY(folder.read(u"x"_s) == bytes);
-    saveWhole(folder.file(u"x"_s), QByteArrayView());
-    QCOMPARE(QFileInfo(folder.file(u"x"_s)).size(), 0);
-}
-
-void FilesTest::savingReplacesAFileThroughALink() {
-    const TemporaryFolder folder;
-    folder.write(u"real"_s, "old");
-    QVERIFY(QFile::link(folder.file(u"real"_s), folder.file(u"link"_s)));
-    saveWhole(folder.file(u"link"_s), "new");
-    QVERIFY(QFileInfo(folder.file(u"link"_s)).isSymLink());
-    QCOMPARE(folder.read(u"real"_s), QByteArray("new"));
-}
-
-void FilesTest::savingLeavesNoTemporaryBehind() {
-    const TemporaryFolder folder;
-    saveWhole(folder.file(u"x"_s), "1");
-    saveWhole(folder.file(u"x"_s), "2");
-    QCOMPARE(folder.names(), QStringList{u"x"_s});
-}
-
-void FilesTest::savingIntoAMissingFolderIsPathNotFound() {
-    const TemporaryFolder folder;
-    QCOMPARE(failureOf([&] { saveWhole(folder.file(u"missing/x"_s), "1"); }),
-             ErrorNumber::PathNotFound);
-}
-
-void FilesTest::savingOverAFolderOrADeviceIsAnAccessError() {
-    const TemporaryFolder folder;
-    QCOMPARE(failureOf([&] { saveWhole(folder.path(), "1"); }), ErrorNumber::PathFileAccessError);
-    QCOMPARE(failureOf([&] { saveWhole(folder.path() + u'/', "1"); }),
-             ErrorNumber::PathFileAccessError);
-    QCOMPARE(failureOf([] { saveWhole(u"/dev/full"_s, "1"); }), ErrorNumber::PathFileAccessError);
-    QVERIFY(!QFileInfo(u"/dev/full"_s).isFile());
-}
-
-void FilesTest::savingToNoNameIsAnAccessError() {
-    QCOMPARE(failureOf([] { saveWhole(QString(), "1"); }), ErrorNumber::PathFileAccessError);
-}
-
-void FilesTest::savingIntoAReadOnlyFolderIsDenied() {
-    const WithoutRoot ordinaryUser;
-    const TemporaryFolder folder;
-    folder.setWritable(false);
-    QCOMPARE(failureOf([&] { saveWhole(folder.file(u"x"_s), "1"); }),
-             ErrorNumber::PermissionDenied);
-    folder.setWritable(true);
-    QVERIFY(folder.names().isEmpty());
-}
-
-void FilesTest::savingOverAReadOnlyFileIsDenied() {
-    const WithoutRoot ordinaryUser;
-    const TemporaryFolder folder;
-    QVERIFY(QFile::setPermissions(folder.write(u"x"_s, "old"), QFile::ReadOwner));
-    QCOMPARE(failureOf([&] { saveWhole(folder.file(u"x"_s), "new"); }),
-             ErrorNumber::PermissionDenied);
-    QCOMPARE(folder.read(u"x"_s), QByteArray("old"));
-}
-
-void FilesTest::aFolderThatRefusesNewFilesIsWrittenDirectly() {
-    const WithoutRoot ordinaryUser;
-    const TemporaryFolder folder;
-    folder.write(u"x"_s, "old and longer");
-    folder.setWritable(false);
-    saveWhole(folder.file(u"x"_s), "new");
-    folder.setWritable(true);
-    QCOMPARE(folder.read(u"x"_s), QByteArray("new"));
-}
-
-void FilesTest::aFullDiskLeavesTheOldFile_data() {
-    QTest::addColumn<int>("size");
-    QTest::newRow("in the buffer") << 2000;
-    QTest::newRow("beyond the buffer") << 100000;
-}
-
-void FilesTest::aFullDiskLeavesTheOldFile() {
-    QFETCH(int, size);
-    const TemporaryFolder folder;
-    folder.write(u"x"_s, "old");
-    {
-        const SmallDisk disk(1000);
-        QCOMPARE(failureOf([&] { saveWhole(folder.file(u"x"_s), QByteArray(size, 'n')); }),
-                 ErrorNumber::PathFileAccessError);
-    }
-    QCOMPARE(folder.read(u"x"_s), QByteArray("old"));
-    QCOMPARE(folder.names(), QStringList{u"x"_s});
-}
-
-void FilesTest::theSecondOfTwoWritesStays() {
-    const TemporaryFolder folder;
-    saveWholeTwice(folder.file(u"x"_s), "first and longer", "second");
-    QCOMPARE(folder.read(u"x"_s), QByteArray("second"));
-    saveWholeTwice(folder.file(u"x"_s), "first", "the second, and longer");
-    QCOMPARE(folder.read(u"x"_s), QByteArray("the second, and longer"));
-    QCOMPARE(folder.names(), QStringList{u"x"_s});
-}
-
-void FilesTest::aDiskWithoutRoomForTheSecondOfTwoWritesKeepsTheOldFile() {
-    const TemporaryFolder folder;
-    folder.write(u"x"_s, "old");
-    {
-        const SmallDisk disk(1000);
-        QCOMPARE(
-            failureOf([&] { saveWholeTwice(folder.file(u"x"_s), "first", QByteArray(2000, 's')); }),
-            ErrorNumber::PathFileAccessError);
-    }
-    QCOMPARE(folder.read(u"x"_s), QByteArray("old"));
-    QCOMPARE(folder.names(), QStringList{u"x"_s});
-    {
-        const SmallDisk disk(1000);
-        saveWholeTwice(folder.file(u"x"_s), QByteArray(2000, 'f'), "second");
-    }
-    QCOMPARE(folder.read(u"x"_s), QByteArray("second"));
-}
-
-void FilesTest::aFolderThatRefusesNewFilesTakesBothWritesDirectly() {
-    const WithoutRoot ordinaryUser;
-    const TemporaryFolder folder;
-    folder.write(u"x"_s, "old and longer");
-    folder.setWritable(false);
-    saveWholeTwice(folder.file(u"x"_s), "first and longer", "second");
-    folder.setWritable(true);
-    QCOMPARE(folder.read(u"x"_s), QByteArray("second"));
-}
-
 void FilesTest::readingGivesEveryByte() {
     const TemporaryFolder folder;
     const QByteArray bytes("a\0b\xFF\r\n", 6);
@@ -335,49 +183,6 @@ void FilesTest::readingFromAClosedFolderIsDenied() {
     QVERIFY(QFile::setPermissions(folder.path(), QFile::ReadOwner));
     QCOMPARE(failureOf([&] { readWhole(path); }), ErrorNumber::PermissionDenied);
     folder.setWritable(true);
-}
-
-void FilesTest::anUnreadableDocumentIsKeptOnce() {
-    const TemporaryFolder folder;
-    const QString path = folder.write(u"Vazno.rtf"_s, "no rtf");
-    QVERIFY(keepUnreadable(path));
-    QVERIFY(keepUnreadable(path));
-    QCOMPARE(folder.names(), (QStringList{u"Vazno.rtf"_s, u"Vazno.rtf.unreadable"_s}));
-    QCOMPARE(folder.read(u"Vazno.rtf.unreadable"_s), QByteArray("no rtf"));
-}
-
-void FilesTest::otherBytesAreKeptBesideTheFirst() {
-    const TemporaryFolder folder;
-    keepUnreadable(folder.write(u"Vazno.rtf"_s, "first"));
-    keepUnreadable(folder.write(u"Vazno.rtf"_s, "other"));
-    keepUnreadable(folder.write(u"Vazno.rtf"_s, "other"));
-    QCOMPARE(folder.read(u"Vazno.rtf.unreadable"_s), QByteArray("first"));
-    QCOMPARE(folder.read(u"Vazno.rtf.unreadable2"_s), QByteArray("other"));
-    QCOMPARE(folder.names().size(), 3);
-}
-
-void FilesTest::whatIsNotThereNeedsNoKeeping() {
-    const TemporaryFolder folder;
-    QVERIFY(keepUnreadable(folder.file(u"Vazno.rtf"_s)));
-    QVERIFY(folder.names().isEmpty());
-}
-
-void FilesTest::aFileThatMayNotBeReadIsMovedAside() {
-    const WithoutRoot ordinaryUser;
-    const TemporaryFolder folder;
-    QVERIFY(QFile::setPermissions(folder.write(u"x"_s, "secret"), QFile::Permissions()));
-    QVERIFY(keepUnreadable(folder.file(u"x"_s)));
-    QCOMPARE(folder.names(), QStringList{u"x.unreadable"_s});
-}
-
-void FilesTest::whereNothingCanBeKeptTheCallerHears() {
-    const WithoutRoot ordinaryUser;
-    const TemporaryFolder folder;
-    const QString path = folder.write(u"x"_s, "1");
-    folder.setWritable(false);
-    QVERIFY(!keepUnreadable(path));
-    folder.setWritable(true);
-    QVERIFY(!keepUnreadable(folder.path())); // a folder in the document's place
 }
 
 ORVALIS_TEST_MAIN_WITH(QCoreApplication, FilesTest)

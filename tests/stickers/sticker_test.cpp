@@ -61,6 +61,7 @@ private slots:
     void bothClassesHaveTheSameControls();
     void onAWiderScreenTheFontsShrinkAndThePlacesStay();
     void nothingOfAStickerIsStored();
+    void anEndThatNobodyAskedForKeepsTheTextsOfOpenStickers();
 
 private:
     template <class Control>
@@ -469,6 +470,20 @@ void StickerTest::nothingOfAStickerIsStored() {
     m_stickers.reset();
     QCOMPARE(m_test->folder.names(), QStringList());
     QCOMPARE(m_test->store.valueCount(), 0);
+}
+
+void StickerTest::anEndThatNobodyAskedForKeepsTheTextsOfOpenStickers() {
+    StickerWindow& closed = m_stickers->newFrmstick();
+    closed.Text1().SetText(u"was closed"_s);
+    press(closed, "Image2");
+    m_stickers->newFrmstick();
+    StickerWindow& open = m_stickers->newXn();
+    find<QLineEdit>(open, "txtLabel1").setText(u"Shop"_s);
+    open.Text1().SetText(u"milk"_s);
+    program().recovery.keep();
+    RichTextBox box;
+    box.LoadFile(m_test->folder.file(u"recovered.rtf"_s));
+    QCOMPARE(box.Text(), u"Sticker \"Shop\", Saturday, March 14, 2026, 10:24:36\r\nmilk"_s);
 }
 
 ORVALIS_TEST_MAIN_WITH(QApplication, StickerTest)

@@ -11,9 +11,9 @@
 
 namespace orvalis::test {
 
-/// Answers file, font and colour dialogs from scripts, one for each kind, and records what was
-/// asked. A dialog that nobody scripted fails the test at once; an answer that was never asked for
-/// fails it at the end. std::nullopt is Cancel.
+/// Answers file, font, colour and print dialogs from scripts, one for each kind, and records what
+/// was asked. A dialog that nobody scripted fails the test at once; an answer that was never asked
+/// for fails it at the end. std::nullopt is Cancel.
 class ScriptedDialogs final : public Dialogs {
 public:
     ScriptedDialogs() = default;
@@ -26,15 +26,20 @@ public:
     void answerFont(const std::optional<FontChoice>& choice) { m_font.append(choice); }
     void answerColour(const std::optional<quint32>& colour) { m_colour.append(colour); }
 
+    /// false is Cancel.
+    void answerPrinter(bool accepted) { m_printer.append(accepted); }
+
     /// Fails the test for answers that nobody asked for, and forgets them.
     void verifyAllAsked() {
-        const auto left = m_open.size() + m_save.size() + m_font.size() + m_colour.size();
+        const auto left =
+            m_open.size() + m_save.size() + m_font.size() + m_colour.size() + m_printer.size();
         if (left > 0)
             fail(QStringLiteral("Dialogs never asked for: %1").arg(left));
         m_open.clear();
         m_save.clear();
         m_font.clear();
         m_colour.clear();
+        m_printer.clear();
     }
 
     std::optional<QString> openFile(const FileRequest& request) override {
@@ -55,12 +60,17 @@ public:
         colours.append(present);
         return next(m_colour, QStringLiteral("colour dialog"));
     }
+    bool choosePrinter() override {
+        ++printersChosen;
+        return next(m_printer, QStringLiteral("print dialog")).value_or(false);
+    }
 
     // All dialogs so far, as they were asked for.
     QList<FileRequest> opened;
     QList<FileRequest> saved;
     QList<FontChoice> fonts;
     QList<quint32> colours;
+    int printersChosen = 0;
     /// Runs while an open dialog is up.
     std::function<void()> whileOpen;
 
@@ -80,6 +90,7 @@ private:
     QList<std::optional<QString>> m_save;
     QList<std::optional<FontChoice>> m_font;
     QList<std::optional<quint32>> m_colour;
+    QList<std::optional<bool>> m_printer;
 };
 
 } // namespace orvalis::test

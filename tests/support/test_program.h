@@ -10,6 +10,7 @@
 #include "support/fake_clock.h"
 #include "support/memory_settings_store.h"
 #include "support/recording_platform.h"
+#include "support/recording_printer.h"
 #include "support/scripted_boxes.h"
 #include "support/scripted_dialogs.h"
 #include "support/temporary_folder.h"
@@ -45,6 +46,7 @@ public:
     RecordingMail mail;
     RecordingSoundPlayer sound;
     FakeScreen screen;
+    RecordingPrinter printer;
     App app{folder.file(QStringLiteral("orvalis")), folder.file(QStringLiteral("data")), {}};
     Registry settings{store, logonEntry};
     Program program{{.app = app,
@@ -55,7 +57,8 @@ public:
                      .shell = shell,
                      .mail = mail,
                      .sound = sound,
-                     .screen = screen}};
+                     .screen = screen,
+                     .printer = printer}};
 };
 
 /// Whether the block ended the program.

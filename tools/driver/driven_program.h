@@ -62,6 +62,8 @@ public:
     bool connectProbe();
     bool isRunning();
     void kill();
+    /// Asks it to end, as the system does at its own end.
+    void terminate() { m_process.terminate(); }
     bool waitForEnd(int milliseconds = 10000);
     QByteArray output();
 

@@ -59,6 +59,7 @@ bool Stage::startDisplay(QSize screen) {
                           u"%1x%2x24"_s.arg(screen.width()).arg(screen.height())});
     if (!server)
         return false;
+    m_server = server;
     if (!server->waitForReadyRead(10000)) {
         m_trouble = u"Xvfb tells no display number"_s;
         return false;
@@ -102,6 +103,11 @@ void Stage::startSessionBus() {
     }
     m_environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s,
                          QString::fromLatin1(bus->readLine().trimmed()));
+}
+
+void Stage::killDisplay() {
+    m_server->kill();
+    m_server->waitForFinished(3000);
 }
 
 void Stage::startTray() {

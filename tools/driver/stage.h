@@ -38,6 +38,8 @@ public:
 
     const Display& display() const { return m_display; }
 
+    /// The display goes away under everybody who uses it.
+    void killDisplay();
     void startTray();
     void stopTray();
 
@@ -50,6 +52,7 @@ private:
     Display m_display;
     QProcessEnvironment m_environment;
     std::vector<std::unique_ptr<QProcess>> m_processes;
+    QProcess* m_server = nullptr;
     QProcess* m_tray = nullptr;
     QString m_trouble;
 };

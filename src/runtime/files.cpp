@@ -101,6 +101,24 @@ bool FileExists(const QString& path) {
     return !Dir(path).isEmpty();
 }
 
+namespace {
+
+/// Takes the memory that the file asks for, never what it might; some files tell no size, and one
+/// may grow meanwhile. \returns one byte more than the maximum where there are more.
+QByteArray bytesOf(QFile& file, qint64 maximum) {
+    constexpr qint64 SmallestPiece = 4096;
+    QByteArray bytes;
+    QByteArray piece;
+    do {
+        const qint64 known = file.size() - bytes.size() + 1;
+        piece = file.read(std::min(std::max(known, SmallestPiece), maximum + 1 - bytes.size()));
+        bytes += piece;
+    } while (!piece.isEmpty() && bytes.size() <= maximum);
+    return bytes;
+}
+
+} // namespace
+
 QByteArray readWhole(const QString& path, qint64 maximum) {
     const QFileInfo source(path);
     if (path.isEmpty())
@@ -116,7 +134,7 @@ QByteArray readWhole(const QString& path, qint64 maximum) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         fail(refusal(source.isReadable()));
-    const QByteArray bytes = file.read(maximum + 1); // one more than may be, should it have grown
+    const QByteArray bytes = bytesOf(file, maximum);
     if (file.error() != QFileDevice::NoError || bytes.size() > maximum)
         fail(ErrorNumber::PathFileAccessError);
     return bytes;

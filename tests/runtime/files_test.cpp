@@ -3,6 +3,7 @@
 #include "runtime/files.h"
 
 #include "runtime/failure.h"
+#include "support/counted_memory.h"
 #include "support/temporary_folder.h"
 #include "support/test_main.h"
 #include "support/without_root.h"
@@ -40,6 +41,8 @@ private slots:
     void manyStarsAreMatchedInBoundedTime();
 
     void readingGivesEveryByte();
+    void readingASmallFileTakesLittleMemory();
+    void readingAFileThatTellsNoSizeGivesEveryByte();
     void readingAMissingFileIsFileNotFound();
     void readingFromAMissingFolderIsPathNotFound();
     void readingAFolderOrAPipeIsAnAccessError();
@@ -137,6 +140,21 @@ void FilesTest::readingGivesEveryByte() {
     const QByteArray bytes("a\0b\xFF\r\n", 6);
     QCOMPARE(readWhole(folder.write(u"x"_s, bytes)), bytes);
     QCOMPARE(readWhole(folder.write(u"empty"_s, {})), QByteArray());
+}
+
+void FilesTest::readingASmallFileTakesLittleMemory() {
+    const TemporaryFolder folder;
+    const QString path = folder.write(u"x"_s, "123456");
+    readWhole(path); // What is loaded once costs once.
+    constexpr qint64 Little = 1 << 20;
+    const test::TakenMemory taken = test::memoryTakenBy([&] { readWhole(path); });
+    QVERIFY2(taken.asked < Little, qPrintable(QString::number(taken.asked)));
+}
+
+void FilesTest::readingAFileThatTellsNoSizeGivesEveryByte() {
+    QFile file(u"/proc/self/environ"_s);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(readWhole(file.fileName()), file.readAll());
 }
 
 void FilesTest::readingAMissingFileIsFileNotFound() {

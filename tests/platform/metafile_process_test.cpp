@@ -32,8 +32,9 @@ QByteArray record(int function, const QList<int>& parameters) {
     return bytes;
 }
 
-/// A placeable metafile of 100 by 100 units with one red square that fills it.
-QByteArray redSquare() {
+/// A placeable metafile of 100 by 100 units that holds these records.
+QByteArray metafileOf(const QByteArray& records) {
+    constexpr quint32 LongestRecord = 32; // words
     QByteArray placeable;
     append32(placeable, 0x9AC6CDD7);
     append16(placeable, 0);
@@ -46,18 +47,38 @@ QByteArray redSquare() {
         sum ^= qFromLittleEndian<quint16>(placeable.constData() + i);
     append16(placeable, sum);
 
-    const QByteArray records = record(0x020B, {0, 0}) + record(0x020C, {100, 100}) +
-                               record(0x02FC, {0, 0x00FF, 0x0000, 0}) + record(0x012D, {0}) +
-                               record(0x041B, {100, 100, 0, 0}) + record(0x0000, {});
+    const QByteArray all =
+        record(0x020B, {0, 0}) + record(0x020C, {100, 100}) + records + record(0x0000, {});
     QByteArray header;
     append16(header, 1);
     append16(header, 9);
     append16(header, 0x0300);
-    append32(header, static_cast<quint32>(9 + records.size() / 2));
+    append32(header, static_cast<quint32>(9 + all.size() / 2));
     append16(header, 1);
-    append32(header, 7);
+    append32(header, LongestRecord);
     append16(header, 0);
-    return placeable + header + records;
+    return placeable + header + all;
+}
+
+/// One red square that fills it.
+QByteArray redSquare() {
+    return metafileOf(record(0x02FC, {0, 0x00FF, 0x0000, 0}) + record(0x012D, {0}) +
+                      record(0x041B, {100, 100, 0, 0}));
+}
+
+/// The letters "HH", 60 units high, in the font that old programs write most.
+QByteArray letters() {
+    const QList<int> arial = {-60, 0, 0, 0, 400, 0, 0, 0, 0x7241, 0x6169, 0x006C};
+    return metafileOf(record(0x02FB, arial) + record(0x012D, {0}) +
+                      record(0x0521, {2, 0x4848, 10, 5}));
+}
+
+int darkPixels(const QImage& image) {
+    int dark = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            dark += qAlpha(image.pixel(x, y)) > 128 && qGray(image.pixel(x, y)) < 64;
+    return dark;
 }
 
 } // namespace
@@ -66,6 +87,7 @@ class MetafileProcessTest : public QObject {
     Q_OBJECT
 private slots:
     void drawsAVectorMetafileAtTheSizeWanted();
+    void drawsTheTextInsideAMetafile();
     void givesNoPictureForRubbish();
     void givesNoPictureOfNoSize();
 };
@@ -76,6 +98,14 @@ void MetafileProcessTest::drawsAVectorMetafileAtTheSizeWanted() {
     QVERIFY(!image.isNull());
     QCOMPARE(image.size(), QSize(60, 60));
     QCOMPARE(image.pixelColor(30, 30), QColor(Qt::red));
+}
+
+void MetafileProcessTest::drawsTheTextInsideAMetafile() {
+    MetafileProcess converter;
+    const QImage image = converter.convert(letters(), QSize(100, 100));
+    QVERIFY(!image.isNull());
+    const int dark = darkPixels(image);
+    QVERIFY2(dark > 300 && dark < 5000, qPrintable(QString::number(dark)));
 }
 
 void MetafileProcessTest::givesNoPictureForRubbish() {

@@ -1,0 +1,149 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "controls/control_marks.h"
+#include "controls/html_import.h"
+#include "rtf/document_room.h"
+#include "rtf/reader.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QFile>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+#include <QTemporaryDir>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+
+using namespace orvalis;
+
+namespace {
+
+constexpr QSize Window(220, 160);
+constexpr qsizetype OrdinaryInput = 32 << 10;
+constexpr qsizetype LargestSeed = 8 << 20;
+/// The seeds are run ahead of everything else, and may be as large as what they stand for.
+constexpr int Seeds = 100;
+
+void require(bool held) {
+    if (!held)
+        std::abort();
+}
+
+/// A document as a narrow window shows it: laid out while it changes, and painted.
+class Shown {
+public:
+    Shown() {
+        m_document.setTextWidth(Window.width());
+        m_document.documentLayout();
+    }
+
+    QTextDocument& document() { return m_document; }
+
+    void show() {
+        const double height = m_document.documentLayout()->documentSize().height();
+        require(rtf::documentHeight(m_document) <= rtf::MostHeight);
+        require(height < 2 * rtf::MostHeight);
+        paint(0);
+        paint(height - Window.height());
+    }
+
+private:
+    void paint(double top) {
+        QImage image(Window, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        painter.translate(0, -top);
+        m_document.drawContents(&painter, QRectF(QPointF(0, top), QSizeF(Window)));
+    }
+
+    QTextDocument m_document;
+};
+
+enum Way { Rtf, Text, Html, WayCount };
+
+QByteArray asRtf(QByteArray bytes) {
+    return rtf::looksLikeRtf(bytes) ? bytes : bytes.prepend("{\\rtf1 ");
+}
+
+void insert(QTextCursor& cursor, const QByteArray& bytes, int way) {
+    switch (way) {
+    case Rtf:
+        rtf::insertRtf(asRtf(bytes), cursor);
+        break;
+    case Text:
+        insertPlain(cursor, QString::fromUtf8(bytes), cursor.charFormat());
+        break;
+    case Html:
+        insertHtml(cursor, QString::fromUtf8(bytes), cursor.charFormat());
+        break;
+    default:
+        break;
+    }
+}
+
+/// The input with all behind its first bar repeated, as often as can be.
+QByteArray spelledOut(const QByteArray& input, int power) {
+    static int run = 0;
+    const qsizetype largest = ++run <= Seeds ? LargestSeed : OrdinaryInput;
+    const qsizetype bar = input.indexOf('|');
+    if (bar < 0)
+        return input;
+    const QByteArray piece = input.mid(bar + 1);
+    const qsizetype times = std::min(qsizetype(1) << power, largest / (piece.size() + 1) + 1);
+    return input.first(bar) + piece.repeated(times);
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // A system of few fonts: which one stands in for an unknown family is looked up for each.
+    static const QTemporaryDir folder;
+    const QString fonts = folder.filePath(QStringLiteral("fonts.conf"));
+    QFile file(fonts);
+    require(file.open(QIODevice::WriteOnly));
+    file.write("<fontconfig><dir>/usr/share/fonts/truetype/dejavu</dir><cachedir>" +
+               folder.path().toUtf8() + "</cachedir></fontconfig>");
+    file.close();
+    qputenv("FONTCONFIG_FILE", fonts.toLocal8Bit());
+    new QGuiApplication(*argc, *argv);
+    return 0;
+}
+
+/// Whatever comes in, in whichever way and however often, can be shown. The first byte is the way,
+/// the second how often what stands behind a bar comes again.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    if (size < 2)
+        return 0;
+    const int way = data[0] % WayCount;
+    const int power = data[1] % 24;
+    const QByteArray bytes =
+        spelledOut(QByteArray(reinterpret_cast<const char*>(data) + 2, qsizetype(size) - 2), power);
+    Shown shown;
+    QTextDocument& document = shown.document();
+    if (way == Rtf) {
+        rtf::readRtf(asRtf(bytes), document);
+        shown.show();
+    }
+    QTextCursor cursor(&document);
+    cursor.setPosition(document.characterCount() / 2);
+    insert(cursor, bytes, way);
+    cursor.movePosition(QTextCursor::End);
+    insert(cursor, "again ", Text);
+    shown.show();
+    if (size % 4 == 0) {
+        QTextCharFormat larger;
+        larger.setFontPointSize(data[1]);
+        cursor.select(QTextCursor::Document);
+        cursor.mergeCharFormat(rtf::fittingFormat(cursor, larger));
+        shown.show();
+        document.undo();
+        shown.show();
+    }
+    return 0;
+}

@@ -4,10 +4,12 @@
 
 #include "controls/selection_format.h"
 #include "rtf/control_marks.h"
+#include "rtf/intake.h"
 
 #include <QTextBlock>
 #include <QTextCharFormat>
 #include <QTextCursor>
+#include <QTextDocument>
 
 #include <algorithm>
 
@@ -27,14 +29,19 @@ public:
         : m_cursor(cursor)
         , m_ordinary(format)
         , m_marks(format)
+        , m_intake(cursor)
+        , m_letters(rtf::letterHeight(format, cursor.document()->defaultFont()))
+        , m_shape(rtf::paragraphShape(cursor.blockFormat()))
         , m_beginsPage(cursor.blockFormat().hasProperty(QTextFormat::PageBreakPolicy)) {
         m_ordinary.clearProperty(rtf::ControlMarks);
         m_marks.setProperty(rtf::ControlMarks, true);
     }
 
-    void insert(QStringView text) {
-        m_run.reserve(text.size());
-        for (qsizetype at = 0; at < text.size(); ++at) {
+    bool insert(QStringView text) {
+        m_run.reserve(std::min(text.size(), LongestPiece));
+        for (qsizetype at = 0; at < text.size() && !m_intake.isFull(); ++at) {
+            if (m_run.size() >= LongestPiece && !text[at].isLowSurrogate())
+                flush();
             const char16_t c = text[at].unicode();
             if (c == u'\r' && at + 1 < text.size() && text[at + 1] == u'\n') {
                 endParagraph();
@@ -48,9 +55,12 @@ public:
             }
         }
         flush();
+        return !m_intake.isFull();
     }
 
 private:
+    static constexpr qsizetype LongestPiece = 1 << 22;
+
     enum class Kind { Any, Marks, Typed };
 
     void endParagraph() {
@@ -59,6 +69,8 @@ private:
             return;
         }
         flush();
+        if (!m_intake.takesParagraph(m_letters, m_shape))
+            return;
         m_cursor.insertBlock(followingParagraph(m_cursor.blockFormat()), m_ordinary);
         m_beginsPage = false;
     }
@@ -71,6 +83,7 @@ private:
     }
 
     void flush() {
+        m_run.truncate(m_intake.takenLines(m_run, m_letters, m_shape));
         if (!m_run.isEmpty())
             m_cursor.insertText(m_run, m_kind == Kind::Marks ? m_marks : m_ordinary);
         m_run.clear();
@@ -80,6 +93,9 @@ private:
     QTextCursor& m_cursor;
     QTextCharFormat m_ordinary;
     QTextCharFormat m_marks;
+    rtf::Intake m_intake;
+    rtf::LetterHeight m_letters;
+    rtf::ParagraphShape m_shape;
     bool m_beginsPage;
     QString m_run;
     Kind m_kind = Kind::Any;
@@ -128,8 +144,8 @@ QString rawPart(const QTextBlock& block, int from, int to) {
 
 } // namespace
 
-void insertPlain(QTextCursor& cursor, QStringView text, const QTextCharFormat& format) {
-    PlainInserter(cursor, format).insert(text);
+bool insertPlain(QTextCursor& cursor, QStringView text, const QTextCharFormat& format) {
+    return PlainInserter(cursor, format).insert(text);
 }
 
 void appendPlain(QString& plain, const QTextBlock& block, int from, int to) {

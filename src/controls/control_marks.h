@@ -20,7 +20,8 @@ namespace orvalis {
 
 /// Inserts plain text at the cursor in the format given: CR LF breaks the paragraph, U+2028 the
 /// line, and control characters become marks.
-void insertPlain(QTextCursor& cursor, QStringView text, const QTextCharFormat& format);
+/// \returns whether all of it had room; where it had not, the beginning came in.
+bool insertPlain(QTextCursor& cursor, QStringView text, const QTextCharFormat& format);
 
 /// Appends the plain characters of a part of a block, \a from and \a to counted from its start:
 /// marks become codes, a line break inside the paragraph CR LF, a picture a blank.

@@ -3,6 +3,7 @@
 #include "controls/dropped_files.h"
 
 #include "controls/control_marks.h"
+#include "controls/document_reading.h"
 #include "rtf/picture_format.h"
 #include "runtime/failure.h"
 #include "runtime/files.h"
@@ -31,10 +32,10 @@ QStringList pathsOf(const QMimeData& data) {
     return paths;
 }
 
-bool insertPictureFile(const QString& path, QTextCursor& cursor) {
+bool insertPictureFile(const QString& path, QTextCursor& cursor, rtf::PictureBounds& bounds) {
     QByteArray bytes;
     endSilently([&] { bytes = readWhole(path, LargestPicture); });
-    return !bytes.isEmpty() && rtf::insertPicture(cursor, bytes);
+    return !bytes.isEmpty() && rtf::insertPicture(cursor, bytes, readOptions().metafiles, bounds);
 }
 
 } // namespace
@@ -45,10 +46,11 @@ bool takeFiles(const QMimeData& data, QTextCursor& selection, const QTextCharFor
         return false;
     selection.beginEditBlock();
     selection.removeSelectedText();
+    rtf::PictureBounds pictures;
     for (const QString& path : paths) {
         if (&path != &paths.first())
             insertPlain(selection, u"\r\n", plain);
-        if (!insertPictureFile(path, selection))
+        if (!insertPictureFile(path, selection, pictures))
             insertPlain(selection, path, plain);
     }
     selection.endEditBlock();

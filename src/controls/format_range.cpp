@@ -86,7 +86,8 @@ void RangeFormatter::prepare(const QTextDocument& document, const FormatRange& r
     m_copy->setUndoRedoEnabled(false);
     m_copy->setDocumentMargin(0);
     QTextOption option = m_copy->defaultTextOption();
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    if (option.wrapMode() != QTextOption::WrapAnywhere) // which long words need
+        option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     m_copy->setDefaultTextOption(option);
     shrinkPictures(page / TwipsPerPixel);
     m_copy->documentLayout()->setPaintDevice(&device);

@@ -3,7 +3,11 @@
 #include "controls/html_import.h"
 
 #include "controls/control_marks.h"
+#include "controls/document_reading.h"
+#include "controls/html_bound.h"
 #include "controls/selection_format.h"
+#include "rtf/document_room.h"
+#include "rtf/intake.h"
 #include "rtf/list_formats.h"
 #include "rtf/picture_format.h"
 
@@ -13,6 +17,8 @@
 #include <QTextList>
 #include <QTextTable>
 #include <QUrl>
+
+#include <algorithm>
 
 namespace orvalis {
 namespace {
@@ -54,7 +60,7 @@ public:
         m_target.beginEditBlock();
         m_target.removeSelectedText();
         m_ownParagraph = m_target.blockFormat();
-        for (QTextBlock block = m_page.begin(); block.isValid(); block = block.next())
+        for (QTextBlock block = m_page.begin(); block.isValid() && !m_full; block = block.next())
             if (!isFiller(block))
                 insertBlock(block);
         m_target.endEditBlock();
@@ -77,8 +83,8 @@ private:
         const int row = table ? table->cellAt(QTextCursor(block)).row() : -1;
         if (m_any) {
             if (table && table == m_table && row == m_row)
-                m_target.insertText(QStringLiteral("\t"), m_base);
-            else
+                m_full = !insertPlain(m_target, u"\t", m_base);
+            else if (beginsParagraph(block))
                 m_target.insertBlock(paragraphOf(block), markOf(block));
         } else if (m_target.block().length() == 1) {
             m_target.setBlockFormat(paragraphOf(block));
@@ -94,8 +100,15 @@ private:
         } else {
             m_sourceList = nullptr;
         }
-        for (auto it = block.begin(); !it.atEnd(); ++it)
+        for (auto it = block.begin(); !it.atEnd() && !m_full; ++it)
             insertRun(it.fragment());
+    }
+
+    bool beginsParagraph(const QTextBlock& block) {
+        const QFont font = m_target.document()->defaultFont();
+        m_full = !rtf::Intake(m_target).takesParagraph(rtf::letterHeight(markOf(block), font),
+                                                       rtf::paragraphShape(paragraphOf(block)));
+        return !m_full;
     }
 
     /// The paragraph itself, and with it the label of a list's item, looks as its text begins.
@@ -124,8 +137,9 @@ private:
             m_list->add(m_target.block());
         }
         constexpr qreal Room = 24;
+        constexpr int DeepestShown = 32;
         QTextBlockFormat paragraph = m_target.blockFormat();
-        paragraph.setLeftMargin(Room * list.format().indent());
+        paragraph.setLeftMargin(Room * std::min(list.format().indent(), DeepestShown));
         m_target.setBlockFormat(paragraph);
     }
 
@@ -135,10 +149,10 @@ private:
             const QByteArray bytes =
                 PageDocument::carriedBytes(QUrl(source.toImageFormat().name()));
             for (int i = 0; !bytes.isEmpty() && i < fragment.length(); ++i)
-                rtf::insertPicture(m_target, bytes);
+                rtf::insertPicture(m_target, bytes, readOptions().metafiles, m_pictures);
             return;
         }
-        insertPlain(m_target, fragment.text(), formatOf(source));
+        m_full = !insertPlain(m_target, fragment.text(), formatOf(source));
     }
 
     /// What HTML says of a run, in the terms that our documents keep: sizes are points, and the
@@ -150,7 +164,7 @@ private:
             format.setFontFamilies({familyOf(source, defaultFont)});
         if (source.hasProperty(QTextFormat::FontPointSize) ||
             source.hasProperty(QTextFormat::FontPixelSize))
-            format.setFontPointSize(pointsOf(source, defaultFont));
+            format.setFontPointSize(std::min(pointsOf(source, defaultFont), rtf::LargestPoints));
         else if (source.hasProperty(QTextFormat::FontSizeAdjustment))
             format.setFontPointSize(
                 pointsOf(m_base, defaultFont) *
@@ -167,6 +181,10 @@ private:
             format.setAnchor(true);
             format.setAnchorHref(source.anchorHref());
         }
+        if (!rtf::DocumentRoom::of(*m_target.document()).takesFont(format)) {
+            format.setFontFamilies(m_base.fontFamilies().toStringList());
+            format.setFontPointSize(pointsOf(m_base, defaultFont));
+        }
         return format;
     }
 
@@ -174,7 +192,9 @@ private:
     const QTextDocument& m_page;
     const QTextCharFormat m_base;
     QTextBlockFormat m_ownParagraph;
+    rtf::PictureBounds m_pictures;
     bool m_any = false;
+    bool m_full = false; ///< what is left has no room
     int m_row = -1;
     QTextTable* m_table = nullptr;
     const QTextList* m_sourceList = nullptr;
@@ -186,7 +206,7 @@ private:
 bool insertHtml(QTextCursor& selection, const QString& html, const QTextCharFormat& base) {
     PageDocument page;
     page.setUndoRedoEnabled(false);
-    page.setHtml(html);
+    page.setHtml(htmlWithinBounds(html).toString());
     if (page.isEmpty())
         return false;
     HtmlInserter(selection, page, base).insert();

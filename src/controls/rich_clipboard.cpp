@@ -12,6 +12,7 @@
 #include "rtf/writer.h"
 
 #include <QBuffer>
+#include <QHash>
 #include <QImage>
 #include <QMimeData>
 #include <QTextBlock>
@@ -71,7 +72,9 @@ bool offersPicture(const QMimeData& data) {
 
 bool takePicture(const QMimeData& data, QTextCursor& selection) {
     const QByteArray bytes = pictureOf(data);
-    return !bytes.isEmpty() && rtf::insertPicture(selection, bytes);
+    rtf::PictureBounds bounds;
+    return !bytes.isEmpty() &&
+           rtf::insertPicture(selection, bytes, readOptions().metafiles, bounds);
 }
 
 /// Whether a part of a document holds nothing to see but boxes that stand for pictures.
@@ -111,27 +114,54 @@ bool takeRtf(const QMimeData& data, QTextCursor& selection) {
     return to > from;
 }
 
-/// HTML in which each picture carries its bytes along: the name it has here means nothing
-/// elsewhere.
-QString htmlOf(const QTextCursor& selection) {
-    QString html = selection.selection().toHtml();
+/// The address of a picture that carries its bytes along, empty where no page could show it.
+QString carriedPicture(const rtf::Picture& picture) {
+    const bool jpeg = picture.kind == rtf::PictureKind::Jpeg;
+    if (!jpeg && picture.kind != rtf::PictureKind::Png)
+        return {};
+    return (jpeg ? u"data:image/jpeg;base64,"_s : u"data:image/png;base64,"_s) +
+           QString::fromLatin1(picture.bytes.toBase64());
+}
+
+/// The addresses of a selection's pictures by the names that they have here.
+QHash<QString, QString> carriedPictures(const QTextCursor& selection) {
+    QHash<QString, QString> carried;
     const QTextDocument& document = *selection.document();
     const int to = selection.selectionEnd();
     QTextBlock block = document.findBlock(selection.selectionStart());
     for (; block.isValid() && block.position() < to; block = block.next()) {
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             const QTextCharFormat format = it.fragment().charFormat();
-            if (!format.isImageFormat())
-                continue;
-            const rtf::Picture picture = rtf::pictureOfFormat(document, format.toImageFormat());
-            const bool jpeg = picture.kind == rtf::PictureKind::Jpeg;
-            if (jpeg || picture.kind == rtf::PictureKind::Png)
-                html.replace(format.toImageFormat().name(),
-                             (jpeg ? u"data:image/jpeg;base64,"_s : u"data:image/png;base64,"_s) +
-                                 QString::fromLatin1(picture.bytes.toBase64()));
+            const QString name = format.toImageFormat().name();
+            if (format.isImageFormat() && !carried.contains(name))
+                carried.insert(
+                    name, carriedPicture(rtf::pictureOfFormat(document, format.toImageFormat())));
         }
     }
-    return html;
+    return carried;
+}
+
+/// HTML in which each picture carries its bytes along: the name it has here means nothing
+/// elsewhere. Pictures that would make the whole larger than any program takes keep their names.
+QString htmlOf(const QTextCursor& selection) {
+    constexpr qsizetype LargestHtml = qsizetype{32} << 20; // characters
+    const QString html = selection.selection().toHtml();
+    const QHash<QString, QString> carried = carriedPictures(selection);
+    if (carried.isEmpty())
+        return html;
+    const QString source = u"<img src=\""_s;
+    QString whole;
+    qsizetype done = 0;
+    for (qsizetype at = html.indexOf(source); at >= 0; at = html.indexOf(source, done)) {
+        const qsizetype name = at + source.size();
+        const qsizetype end = html.indexOf(u'"', name);
+        const QString address = carried.value(html.mid(name, end - name));
+        const bool carries = !address.isEmpty() && whole.size() + address.size() <= LargestHtml;
+        whole += QStringView(html).sliced(done, name - done);
+        whole += carries ? QStringView(address) : QStringView(html).sliced(name, end - name);
+        done = end;
+    }
+    return whole += QStringView(html).sliced(done);
 }
 
 /// A picture alone is offered as one too, to programs that know of nothing else.

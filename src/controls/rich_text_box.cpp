@@ -8,6 +8,7 @@
 #include "controls/selection_format.h"
 #include "controls/text_positions.h"
 #include "controls/text_search.h"
+#include "rtf/document_room.h"
 #include "rtf/reader.h"
 #include "rtf/writer.h"
 #include "runtime/failure.h"
@@ -49,6 +50,7 @@ RichTextBox::RichTextBox(QWidget* parent)
     , m_usualTabs(document()->defaultTextOption().tabStopDistance())
     , m_positions(std::make_unique<TextPositions>(*document()))
     , m_undoKinds(std::make_unique<UndoKinds>()) {
+    rtf::DocumentRoom::of(*document());
     connect(document(), &QTextDocument::contentsChange, this, &RichTextBox::takeChange);
     connect(document(), &QTextDocument::contentsChanged, this, [this] {
         m_undoKinds->stepsChanged(document()->availableUndoSteps(), m_movesThroughHistory);
@@ -86,10 +88,12 @@ void RichTextBox::SetText(const QString& text) {
     replaceEverything(text, formatAtStart(editCursor()), editCursor().blockFormat());
 }
 
-void RichTextBox::replaceEverything(const QString& text, const QTextCharFormat& format,
+/// \returns whether all of it had room.
+bool RichTextBox::replaceEverything(const QString& text, const QTextCharFormat& format,
                                     const QTextBlockFormat& paragraph) {
     const bool keepsHistory = document()->isUndoRedoEnabled();
     const bool inBatch = m_batches > 0;
+    bool whole = true;
     hold();
     if (!inBatch)
         document()->setUndoRedoEnabled(false);
@@ -100,7 +104,7 @@ void RichTextBox::replaceEverything(const QString& text, const QTextCharFormat& 
         cursor.removeSelectedText();
         cursor.setBlockFormat(paragraph);
         cursor.setBlockCharFormat(format);
-        insertPlain(cursor, text, format);
+        whole = insertPlain(cursor, text, format);
         cursor.endEditBlock();
     });
     // What a document says of all its tabs goes with it.
@@ -111,6 +115,7 @@ void RichTextBox::replaceEverything(const QString& text, const QTextCharFormat& 
         document()->setUndoRedoEnabled(keepsHistory);
     contentWasSet(format);
     release();
+    return whole;
 }
 
 /// The caret goes to the start, in the format given for what is typed into an empty document; the
@@ -187,13 +192,16 @@ void RichTextBox::SetFontSize(qreal points) {
 }
 
 /// A font that is set up before anybody edits is nothing to undo.
-void RichTextBox::setBoxFont(const QFont& font, const QTextCharFormat& format) {
+void RichTextBox::setBoxFont(QFont font, QTextCharFormat format) {
     const bool fresh = m_batches == 0 && hasNoHistory();
     hold();
-    setFont(font);
     const QTextCursor caret = editCursor();
     QTextCursor everything(document());
     everything.select(QTextCursor::Document);
+    format = rtf::fittingFormat(everything, format);
+    if (format.fontPointSize() > 0)
+        font.setPointSizeF(format.fontPointSize());
+    setFont(font);
     everything.beginEditBlock();
     everything.mergeCharFormat(format);
     QTextCursor(document()).mergeBlockCharFormat(format);

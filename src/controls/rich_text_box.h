@@ -250,12 +250,12 @@ private:
     QTextCursor editCursor() const;
     void takeCursor(const QTextCursor& cursor);
     void editAt(QTextCursor cursor, const std::function<void(QTextCursor&)>& edit);
-    void replaceEverything(const QString& text, const QTextCharFormat& format,
+    bool replaceEverything(const QString& text, const QTextCharFormat& format,
                            const QTextBlockFormat& paragraph);
     bool takeRtf(const QByteArray& rtf);
     void contentWasSet(const QTextCharFormat& format);
-    void mergeFormat(const QTextCharFormat& format);
-    void setBoxFont(const QFont& font, const QTextCharFormat& format);
+    void mergeFormat(const QTextCharFormat& wanted);
+    void setBoxFont(QFont font, QTextCharFormat format);
     bool hasNoHistory() const;
     void forgetHistory();
     void formatSelection(const std::function<void(QTextCursor&)>& change);

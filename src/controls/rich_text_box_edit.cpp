@@ -5,6 +5,8 @@
 #include "controls/selection_format.h"
 #include "controls/text_positions.h"
 #include "rtf/control_marks.h"
+#include "rtf/document_room.h"
+#include "rtf/intake.h"
 #include "rtf/picture_format.h"
 #include "runtime/failure.h"
 
@@ -34,6 +36,13 @@ bool deletes(const QKeyEvent& event) {
 bool types(const QKeyEvent& event) {
     const bool command = event.modifiers() & (Qt::ControlModifier | Qt::MetaModifier);
     return !command && !event.text().isEmpty() && event.text().front().isPrint();
+}
+
+/// Keys that bring no text have none, or that of a command.
+bool writes(const QKeyEvent& event) {
+    return !deletes(event) && !event.text().isEmpty() &&
+           (types(event) || event.key() == Qt::Key_Tab || event.key() == Qt::Key_Return ||
+            event.key() == Qt::Key_Enter);
 }
 
 /// The toolkit knows one key for it on each desktop; people bring the other one along.
@@ -76,6 +85,7 @@ void RichTextBox::changeScattered(const std::function<void()>& change) {
     m_positions->text();
     const QScopedValueRollback scattered(m_scatteredChange, true);
     change();
+    rtf::DocumentRoom::of(*document()).forget();
 }
 
 UndoKind RichTextBox::UndoType() const {
@@ -147,6 +157,10 @@ void RichTextBox::insertFromMimeData(const QMimeData* source) {
 }
 
 void RichTextBox::keyPressEvent(QKeyEvent* event) {
+    if (writes(*event) && !rtf::hasRoomFor(editCursor(), event->text())) {
+        event->accept();
+        return;
+    }
     // The editing keys go the way of the members, so that both do the same.
     if (event->matches(QKeySequence::Cut)) {
         Cut();
@@ -227,6 +241,10 @@ void RichTextBox::inputMethodEvent(QInputMethodEvent* event) {
     }
     const UndoKindScope kind(*m_undoKinds, UndoKind::Typing);
     QTextCursor cursor = editCursor();
+    if (!rtf::hasRoomFor(cursor, event->commitString())) {
+        event->accept();
+        return;
+    }
     const bool writes = !event->commitString().isEmpty() || !event->preeditString().isEmpty();
     if (writes && cursor.hasSelection() && event->replacementLength() == 0) {
         SetSelText(event->commitString());
@@ -278,6 +296,7 @@ bool RichTextBox::WordWrap() const {
 }
 
 void RichTextBox::SetWordWrap(bool on) {
+    setWordWrapMode(rtf::DocumentRoom::of(*document()).wrapMode());
     setLineWrapMode(on ? WidgetWidth : NoWrap);
 }
 

@@ -56,7 +56,11 @@ void RichTextBox::LoadFile(const QString& path, int flags) {
     }
     if (flags == rtfText) {
         // Fonts, colours, indents, bullets and alignment are nothing that a plain file could mean.
-        replaceEverything(plainTextOf(bytes, m_plainFile), QTextCharFormat(), QTextBlockFormat());
+        if (replaceEverything(plainTextOf(bytes, m_plainFile), QTextCharFormat(),
+                              QTextBlockFormat()))
+            noteReadable(path);
+        else
+            noteUnreadable(path); // what had no room is on the disk alone
         return;
     }
     if (!rtf::looksLikeRtf(bytes)) {

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "controls/rich_text_box.h"
 #include "controls/selection_format.h"
+#include "rtf/document_room.h"
 #include "runtime/colour.h"
 #include "runtime/failure.h"
+#include "runtime/twips.h"
 
 #include <QTextDocument>
 
@@ -45,8 +47,9 @@ void RichTextBox::formatSelection(const std::function<void(QTextCursor&)>& chang
 
 /// An empty paragraph takes the format itself: what the cursor alone remembers is lost as soon as
 /// it moves, and a format chosen for an empty box is to hold for what is typed later.
-void RichTextBox::mergeFormat(const QTextCharFormat& format) {
+void RichTextBox::mergeFormat(const QTextCharFormat& wanted) {
     formatSelection([&](QTextCursor& cursor) {
+        const QTextCharFormat format = rtf::fittingFormat(cursor, wanted);
         if (!cursor.hasSelection() && cursor.block().length() == 1)
             cursor.mergeBlockCharFormat(format);
         cursor.mergeCharFormat(format);
@@ -154,7 +157,12 @@ std::optional<int> RichTextBox::SelIndent() const {
 }
 
 void RichTextBox::SetSelIndent(int twips) {
-    formatSelection([&](QTextCursor& cursor) { indentParagraphs(cursor, twips); });
+    QTextBlockFormat indented;
+    indented.setLeftMargin(twipsToPixelsF(twips));
+    formatSelection([&](QTextCursor& cursor) {
+        if (rtf::fitsParagraphs(cursor, indented))
+            indentParagraphs(cursor, twips);
+    });
 }
 
 std::optional<bool> RichTextBox::SelBullet() const {

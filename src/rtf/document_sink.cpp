@@ -39,16 +39,24 @@ qint64 searchAmong(qint64 formats) {
     return std::max<qint64>(formats - FormatsSearchedAtOnce, 0) * BytesOfSearch;
 }
 
-constexpr qint64 MostPixelsOfOne = qint64(1) << 23;
 constexpr size_t MostFormats = 16384;
+
+QTextCharFormat withoutFont(QTextCharFormat format) {
+    for (const int property :
+         {QTextFormat::FontFamilies, QTextFormat::FontPointSize, QTextFormat::FontWeight,
+          QTextFormat::FontItalic, QTextFormat::FontCapitalization})
+        format.clearProperty(property);
+    return format;
+}
 
 } // namespace
 
 DocumentSink::DocumentSink(QTextCursor& cursor, const ReadOptions& options, qsizetype fileSize)
     : m_cursor(cursor)
     , m_options(options)
+    , m_intake(cursor)
     , m_structureLeft(StructureShare * fileSize + Ground)
-    , m_pixelBytesLeft(PixelShare * fileSize + Ground)
+    , m_pictures{(PixelShare * fileSize + Ground) / BytesOfPixel}
     , m_intoNothing(cursor.document()->isEmpty())
     , m_textBefore(!cursor.atBlockStart())
     , m_textBehind(!cursor.atBlockEnd())
@@ -80,6 +88,12 @@ int DocumentSink::formatIndex(const CharFormat& format) {
         // A file that names no font means that of whoever shows it.
         if (format.family == NoName)
             m_formats.back().setFontFamilies({m_cursor.document()->defaultFont().family()});
+        const QFont defaultFont = m_cursor.document()->defaultFont();
+        if (!DocumentRoom::of(*m_cursor.document()).takesFont(m_formats.back())) {
+            m_fontsLeftOut = true;
+            m_formats.back() = withoutFont(m_formats.back());
+        }
+        m_letters.push_back(letterHeight(m_formats.back(), defaultFont));
         m_lastIndex = int(m_formats.size()) - 1;
         m_formatIndex.insert(format, m_lastIndex);
     }
@@ -88,6 +102,11 @@ int DocumentSink::formatIndex(const CharFormat& format) {
 
 void DocumentSink::text(QStringView text, const CharFormat& format) {
     const int index = formatIndex(format);
+    const qsizetype room = m_intake.mostInParagraph() - m_text.size();
+    if (room < text.size()) {
+        m_full = true;
+        text.truncate(wholeCharacters(text, room));
+    }
     m_text.append(text);
     if (!m_runs.empty() && m_runs.back().format == index && m_runs.back().image == NoName) {
         m_runs.back().length += text.size();
@@ -97,19 +116,13 @@ void DocumentSink::text(QStringView text, const CharFormat& format) {
     m_runs.push_back(Run{text.size(), index});
 }
 
-PictureBounds DocumentSink::pictureBounds() const {
-    return {std::min(MostPixelsOfOne, m_pixelBytesLeft / BytesOfPixel)};
-}
-
 bool DocumentSink::picture(const Picture& picture, const CharFormat& format) {
     if (!spend(BytesOfPicture))
         return false;
-    PictureBounds bounds = pictureBounds();
     const QTextImageFormat image =
-        pictureFormat(*m_cursor.document(), picture, m_options.metafiles, bounds);
+        pictureFormat(*m_cursor.document(), picture, m_options.metafiles, m_pictures);
     if (!image.isValid() || image.name().isEmpty())
         return false;
-    m_pixelBytesLeft -= bounds.spentPixels * BytesOfPixel;
     const int index = formatIndex(format);
     QTextCharFormat merged = m_formats[size_t(index)];
     merged.merge(format.hidden ? hiddenPicture(image) : image);
@@ -128,9 +141,7 @@ bool DocumentSink::wantsFallback() const {
 }
 
 void DocumentSink::fallbackPicture(const Picture& picture) {
-    PictureBounds bounds = pictureBounds();
-    showFallback(*m_cursor.document(), picture, m_options.metafiles, bounds, m_images.back());
-    m_pixelBytesLeft -= bounds.spentPixels * BytesOfPixel;
+    showFallback(*m_cursor.document(), picture, m_options.metafiles, m_pictures, m_images.back());
 }
 
 void DocumentSink::paragraphEnd(const ParagraphFormat& paragraph, const CharFormat& mark) {
@@ -163,10 +174,14 @@ void DocumentSink::insertParagraph(const ParagraphFormat& paragraph, const CharF
     if (!m_hasBlockFormat || !(m_paragraph == paragraph)) {
         m_paragraph = paragraph;
         m_blockFormat = blockFormat(paragraph);
+        m_shape = paragraphShape(m_blockFormat);
         m_hasBlockFormat = true;
     }
     const int start = m_runs.empty() ? formatIndex(mark) : m_runs.front().format;
     const QTextCharFormat& startFormat = m_formats[size_t(start)];
+    const bool shapes = m_paragraphs > 0 || !m_textBefore;
+    if (shapes && !m_intake.takesParagraph(m_letters[size_t(start)], m_shape))
+        return;
     const bool first = m_paragraphs++ == 0;
     m_targetStands = m_textBehind || (m_runs.empty() && !m_intoNothing);
     if (first) {
@@ -183,7 +198,8 @@ void DocumentSink::insertParagraph(const ParagraphFormat& paragraph, const CharF
         m_cursor.insertBlock(m_blockFormat, startFormat);
         joinList(paragraph);
     }
-    insertRuns();
+    const bool ownShape = first && (m_textBefore || m_textBehind);
+    insertRuns(ownShape ? paragraphShape(m_cursor.blockFormat()) : m_shape);
 }
 
 void DocumentSink::shapeFirst() {
@@ -192,13 +208,21 @@ void DocumentSink::shapeFirst() {
     joinList(m_firstParagraph);
 }
 
-void DocumentSink::insertRuns() {
+void DocumentSink::insertRuns(const ParagraphShape& shape) {
     qsizetype at = 0;
     for (const Run& run : m_runs) {
-        const QTextCharFormat& format =
-            run.image == NoName ? m_formats[size_t(run.format)] : m_images[size_t(run.image)];
-        // A paragraph of one run, which most are, is handed over as it is.
-        m_cursor.insertText(m_runs.size() == 1 ? m_text : m_text.mid(at, run.length), format);
+        const QStringView text = QStringView(m_text).sliced(at, run.length);
+        const LetterHeight& letters = m_letters[size_t(run.format)];
+        if (run.image != NoName) {
+            const QTextImageFormat& image = m_images[size_t(run.image)];
+            if (m_intake.takesPicture(image.height(), letters, shape))
+                m_cursor.insertText(text.toString(), image);
+        } else if (const qsizetype taken = m_intake.taken(text, letters, shape); taken > 0) {
+            // A paragraph of one run, which most are, is handed over as it is.
+            const bool whole = taken == m_text.size();
+            m_cursor.insertText(whole ? m_text : m_text.mid(at, taken),
+                                m_formats[size_t(run.format)]);
+        }
         at += run.length;
     }
     m_runs.clear();

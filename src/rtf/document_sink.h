@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "rtf/document_room.h"
+#include "rtf/intake.h"
 #include "rtf/list_keeper.h"
 #include "rtf/picture_format.h"
 #include "rtf/reader.h"
@@ -20,6 +22,7 @@ namespace orvalis::rtf {
 /// A paragraph is kept until its shape is known, so that each takes one insertion a run. Small
 /// pieces cost a document much more memory and time than the bytes that name them; when they have
 /// cost what the size of the file allows, the rest comes in as text alone, its paragraphs as lines.
+/// What is more than a document can show (see DocumentRoom) is left out.
 class DocumentSink final : public Sink {
 public:
     /// \param fileSize bytes of the file, by which the memory that is spent is bounded.
@@ -33,6 +36,10 @@ public:
     void paragraphEnd(const ParagraphFormat& paragraph, const CharFormat& mark) override;
     void end(const ParagraphFormat& paragraph, const CharFormat& mark) override;
     void defaultTab(int twips) override { m_defaultTab = twips; }
+    bool isFull() const override { return m_full || m_intake.isFull(); }
+
+    /// Whether the document holds less than the file: text, or fonts.
+    bool leftOut() const { return m_fontsLeftOut || isFull(); }
 
     /// Twips, where the file named them.
     int defaultTabTwips() const { return m_defaultTab; }
@@ -46,10 +53,9 @@ private:
     };
 
     int formatIndex(const CharFormat& format);
-    PictureBounds pictureBounds() const;
     void insertParagraph(const ParagraphFormat& paragraph, const CharFormat& mark);
     void shapeFirst();
-    void insertRuns();
+    void insertRuns(const ParagraphShape& shape);
     void joinList(const ParagraphFormat& paragraph);
     bool spend(qint64 bytes);
     void countTabs(const ParagraphFormat& paragraph);
@@ -57,11 +63,15 @@ private:
     QTextCursor& m_cursor;
     ReadOptions m_options;
     const Names* m_names = nullptr;
+    Intake m_intake;
+    bool m_full = false;
+    bool m_fontsLeftOut = false;
     qint64 m_structureLeft; ///< bytes that runs and paragraphs may still cost
-    qint64 m_pixelBytesLeft;
+    PictureBounds m_pictures;
     int m_defaultTab = 720;
 
     std::vector<QTextCharFormat> m_formats;
+    std::vector<LetterHeight> m_letters; ///< of the formats
     QHash<CharFormat, int> m_formatIndex;
     CharFormat m_lastFormat;
     int m_lastIndex = NoName;
@@ -74,6 +84,7 @@ private:
 
     ParagraphFormat m_paragraph;
     QTextBlockFormat m_blockFormat;
+    ParagraphShape m_shape; ///< of the block format
     bool m_hasBlockFormat = false;
     ListKeeper m_lists;
 

@@ -24,7 +24,7 @@ ReadResult Interpreter::run() {
     Token token;
     do
         m_tokenizer.next(token);
-    while (step(token));
+    while (step(token) && !m_sinkIsFull);
     finish();
     return m_result;
 }
@@ -188,6 +188,12 @@ void Interpreter::word(const Token& token) {
 void Interpreter::fault(Fault fault) {
     if (m_result.fault == Fault::None)
         m_result = {fault, m_tokenizer.position()};
+}
+
+void Interpreter::askForRoom() {
+    m_sinkIsFull = m_sink.isFull();
+    if (m_sinkIsFull)
+        fault(Fault::TooLarge);
 }
 
 void Interpreter::finish() {

@@ -72,6 +72,7 @@ private:
     void symbol(uchar character);
     void word(const Token& token);
     void fault(Fault fault);
+    void askForRoom();
     void finish();
 
     // Text (interpreter_text.cpp)
@@ -148,6 +149,7 @@ private:
     Picture m_picture;
     int m_halfByte = -1;
     bool m_shapePictureShown = false;
+    bool m_sinkIsFull = false;
 };
 
 } // namespace orvalis::rtf

@@ -207,6 +207,7 @@ void Interpreter::flushText() {
         return;
     m_sink.text(m_text, m_textFormat);
     m_text.resize(0);
+    askForRoom();
 }
 
 void Interpreter::paragraphEnd() {
@@ -216,6 +217,7 @@ void Interpreter::paragraphEnd() {
     m_inParagraph = false;
     m_pageBreak = false;
     m_label.clear();
+    askForRoom();
 }
 
 void Interpreter::cellTabs(int count) {

@@ -4,6 +4,7 @@
 
 #include "rtf/format_properties.h"
 #include "rtf/formats.h"
+#include "rtf/intake.h"
 #include "rtf/picture_box.h"
 #include "rtf/picture_image.h"
 
@@ -27,6 +28,7 @@ namespace {
 enum SourceSize { Width, Height, MapMode, BitsPerPixel, Planes, BytesPerRow, SourceSizeCount };
 
 constexpr int BytesOfPixel = 4; // of the rasters that are bounded
+constexpr qint64 MostPixelsOfOne = qint64(1) << 23;
 
 QVariantList sourceSize(const Picture& picture) {
     return {picture.width,         picture.height,
@@ -61,6 +63,13 @@ int goalTwips(double shown, int own) {
                      : int(std::lround(own * TwipsPerPixel));
 }
 
+QImage drawn(const Picture& picture, MetafileConverter* converter, PictureBounds& bounds) {
+    const QSize claimed = pixelSize(picture);
+    bounds.claimedLeft -= qint64(claimed.width()) * claimed.height();
+    return bounds.claimedLeft < 0 ? QImage()
+                                  : imageOfPicture(picture, bounds.mostPixels(), converter);
+}
+
 /// What the document shows for a picture.
 struct Shown {
     QString name;
@@ -78,11 +87,11 @@ Shown shownAs(QTextDocument& document, const Picture& picture, MetafileConverter
         if (!known.isNull())
             return {name, known, box};
     }
-    Shown made{"picture:"_L1 + key, imageOfPicture(picture, bounds.mostPixels, converter)};
+    Shown made{"picture:"_L1 + key, drawn(picture, converter, bounds)};
     if (made.image.isNull())
-        made = {"box:"_L1 + key, emptyBox(boxTwips(picture) / TwipsPerPixel, bounds.mostPixels),
+        made = {"box:"_L1 + key, emptyBox(boxTwips(picture) / TwipsPerPixel, bounds.mostPixels()),
                 true};
-    bounds.spentPixels = made.image.sizeInBytes() / BytesOfPixel;
+    bounds.pixelsLeft -= made.image.sizeInBytes() / BytesOfPixel;
     document.addResource(QTextDocument::ImageResource, QUrl(made.name), made.image);
     return made;
 }
@@ -126,6 +135,10 @@ bool isDefaultSize(const QTextImageFormat& format, const Picture& picture) {
 }
 
 } // namespace
+
+qint64 PictureBounds::mostPixels() const {
+    return std::clamp<qint64>(pixelsLeft, 0, MostPixelsOfOne);
+}
 
 QTextImageFormat pictureFormat(QTextDocument& document, const Picture& picture,
                                MetafileConverter* converter, PictureBounds& bounds) {
@@ -183,7 +196,7 @@ Picture pictureOfFormat(const QTextDocument& document, const QTextImageFormat& f
     if (!isBox && picture.fallback.isEmpty() &&
         (!isWritable(picture.kind) || picture.bytes.isEmpty())) {
         if (image.isNull() && !picture.bytes.isEmpty())
-            image = imageOfPicture(picture, PictureBounds().mostPixels, nullptr);
+            image = imageOfPicture(picture, MostPixelsOfOne, nullptr);
         if (!image.isNull()) {
             QByteArray png;
             QBuffer buffer(&png);
@@ -205,7 +218,8 @@ Picture pictureOfFormat(const QTextDocument& document, const QTextImageFormat& f
     return picture;
 }
 
-bool insertPicture(QTextCursor& cursor, const QByteArray& bytes) {
+bool insertPicture(QTextCursor& cursor, const QByteArray& bytes, MetafileConverter* converter,
+                   PictureBounds& bounds) {
     Picture picture;
     picture.kind = kindOfBytes(bytes);
     picture.bytes = bytes;
@@ -214,9 +228,11 @@ bool insertPicture(QTextCursor& cursor, const QByteArray& bytes) {
     picture.height = size.height();
     if (shownTwips(picture).isEmpty())
         return false;
-    PictureBounds bounds;
-    const QTextImageFormat image = pictureFormat(*cursor.document(), picture, nullptr, bounds);
+    const QTextImageFormat image = pictureFormat(*cursor.document(), picture, converter, bounds);
     QTextCharFormat merged = cursor.charFormat();
+    const LetterHeight letters = letterHeight(merged, cursor.document()->defaultFont());
+    if (!Intake(cursor).takesPicture(image.height(), letters, paragraphShape(cursor.blockFormat())))
+        return false;
     merged.merge(image);
     cursor.insertImage(merged.toImageFormat());
     return true;

@@ -13,10 +13,15 @@ namespace orvalis::rtf {
 
 class MetafileConverter;
 
-/// How large a raster a picture may have, and how large the one made of it was.
+/// What the pictures of one file, or of one insertion, may cost together.
 struct PictureBounds {
-    qint64 mostPixels = qint64(1) << 23;
-    qint64 spentPixels = 0;
+    qint64 pixelsLeft = qint64(1) << 23; ///< of the rasters that are kept
+    /// That the pictures may claim to have: reading one takes the time of what it claims, however
+    /// small it is made.
+    qint64 claimedLeft = qint64(1) << 28;
+
+    /// The largest raster that one picture may have now.
+    qint64 mostPixels() const;
 };
 
 /// Gives the document a picture and makes the format that shows it. The format keeps the picture's
@@ -40,9 +45,11 @@ QTextImageFormat hiddenPicture(QTextImageFormat format);
 /// that nobody named, which has none. Without bytes when there is none.
 Picture pictureOfFormat(const QTextDocument& document, const QTextImageFormat& format);
 
-/// Inserts an image file (PNG, JPEG, BMP or another kind that Qt reads) at the cursor, one image
-/// pixel to a pixel. Its bytes are written to RTF as they are where RTF can hold them.
-/// \returns whether the bytes were a picture.
-bool insertPicture(QTextCursor& cursor, const QByteArray& bytes);
+/// Inserts an image file (PNG, JPEG, BMP, a metafile or another kind that can be read) at the
+/// cursor, one image pixel to a pixel. Its bytes are written to RTF as they are where RTF can hold
+/// them.
+/// \returns whether the bytes were a picture and the document had room for it.
+bool insertPicture(QTextCursor& cursor, const QByteArray& bytes, MetafileConverter* converter,
+                   PictureBounds& bounds);
 
 } // namespace orvalis::rtf

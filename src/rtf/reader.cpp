@@ -34,6 +34,11 @@ QByteArrayView withoutPadding(QByteArrayView bytes) {
     return bytes;
 }
 
+ReadResult readInto(QByteArrayView bytes, DocumentSink& sink) {
+    const ReadResult result = readRtf(bytes, sink);
+    return result.ok() && sink.leftOut() ? ReadResult{Fault::TooLarge, bytes.size()} : result;
+}
+
 } // namespace
 
 bool looksLikeRtf(QByteArrayView bytes) {
@@ -61,10 +66,11 @@ ReadResult readRtf(QByteArrayView bytes, QTextDocument& document, const ReadOpti
     const bool undo = document.isUndoRedoEnabled();
     document.setUndoRedoEnabled(false);
     document.clear();
+    DocumentRoom::of(document).forget();
     QTextCursor cursor(&document);
     cursor.beginEditBlock();
     DocumentSink sink(cursor, options, bytes.size());
-    const ReadResult result = readRtf(bytes, sink);
+    const ReadResult result = readInto(bytes, sink);
     QTextOption option = document.defaultTextOption();
     option.setTabStopDistance(sink.defaultTabTwips() / TwipsPerPixel);
     document.setDefaultTextOption(option);
@@ -79,7 +85,7 @@ ReadResult insertRtf(QByteArrayView bytes, QTextCursor& cursor, const ReadOption
     cursor.beginEditBlock();
     cursor.removeSelectedText();
     DocumentSink sink(cursor, options, bytes.size());
-    const ReadResult result = readRtf(bytes, sink);
+    const ReadResult result = readInto(bytes, sink);
     cursor.endEditBlock();
     return result;
 }

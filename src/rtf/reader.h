@@ -21,6 +21,7 @@ enum class Fault {
     TooDeep,        ///< groups nest deeper than is remembered; deeper ones share one state
     BadBinary,      ///< binary data claim to be longer than the file
     BadPicture,     ///< a picture's data are not what they claim
+    TooLarge,       ///< it holds more than a document can show; text or fonts were left out
 };
 
 /// How a reading went. Whatever stands before and behind a fault was read as far as possible.

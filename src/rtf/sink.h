@@ -29,6 +29,8 @@ public:
     virtual void paragraphEnd(const ParagraphFormat& paragraph, const CharFormat& mark) = 0;
     /// Comes once, last: the shape of what came behind the last paragraph end.
     virtual void end(const ParagraphFormat& paragraph, const CharFormat& mark) = 0;
+    /// Whether nothing more can be taken. The reading ends there.
+    virtual bool isFull() const { return false; }
     /// The distance of default tab stops in twips, where the file names one.
     virtual void defaultTab(int /*twips*/) {}
 };

@@ -34,7 +34,7 @@ QByteArray record(int function, const QList<int>& parameters) {
 
 /// A placeable metafile of 100 by 100 units that holds these records.
 QByteArray metafileOf(const QByteArray& records) {
-    constexpr quint32 LongestRecord = 32; // words
+    constexpr quint32 LongestRecord = 14; // words
     QByteArray placeable;
     append32(placeable, 0x9AC6CDD7);
     append16(placeable, 0);

@@ -275,8 +275,9 @@ void InsertRtfTest::anInsertedPictureIsWrittenWithItsOwnBytes() {
     const QByteArray png = test::encoded(test::sampleImage(), "PNG");
     QTextDocument document;
     QTextCursor cursor(&document);
-    QVERIFY(insertPicture(cursor, png));
-    QVERIFY(!insertPicture(cursor, "no picture"));
+    PictureBounds bounds;
+    QVERIFY(insertPicture(cursor, png, nullptr, bounds));
+    QVERIFY(!insertPicture(cursor, "no picture", nullptr, bounds));
     QByteArray written = writeRtf(document);
     written.replace("\r\n", "");
     QVERIFY(written.contains("\\pngblip"));
@@ -313,7 +314,9 @@ void InsertRtfTest::aHugePictureKeepsItsShape() {
     // A document's lengths end at 100000 twips.
     QTextDocument document;
     QTextCursor cursor(&document);
-    QVERIFY(insertPicture(cursor, test::encoded(QImage(10000, 100, QImage::Format_Mono), "PNG")));
+    PictureBounds bounds;
+    QVERIFY(insertPicture(cursor, test::encoded(QImage(10000, 100, QImage::Format_Mono), "PNG"),
+                          nullptr, bounds));
     QByteArray written = writeRtf(document);
     QVERIFY(written.contains("\\picwgoal100000\\pichgoal1000"));
     QTextDocument again;

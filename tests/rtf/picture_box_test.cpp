@@ -44,6 +44,7 @@ private slots:
     void aDrawingThatCannotBeDrawnEitherIsKept();
     void aWholeBitmapFileBehindTheWordForABareOneIsShown();
     void whatIsNoPictureIsNotInserted();
+    void picturesThatClaimTooMuchTogetherAreBoxes();
 };
 
 void PictureBoxTest::whatCannotBeDrawnKeepsItsBytes_data() {
@@ -316,10 +317,26 @@ void PictureBoxTest::aWholeBitmapFileBehindTheWordForABareOneIsShown() {
 void PictureBoxTest::whatIsNoPictureIsNotInserted() {
     QTextDocument document;
     QTextCursor cursor(&document);
+    PictureBounds bounds;
     for (const QByteArray& bytes :
          {QByteArray(), QByteArray("text"), encoded(sampleImage(), "PNG").first(10)})
-        QVERIFY(!insertPicture(cursor, bytes));
+        QVERIFY(!insertPicture(cursor, bytes, nullptr, bounds));
     QVERIFY(document.isEmpty());
+}
+
+void PictureBoxTest::picturesThatClaimTooMuchTogetherAreBoxes() {
+    QTextDocument document;
+    QTextCursor cursor(&document);
+    PictureBounds bounds;
+    bounds.claimedLeft = 20;
+    QImage other = sampleImage();
+    other.fill(Qt::magenta);
+    QVERIFY(insertPicture(cursor, encoded(sampleImage(), "PNG"), nullptr, bounds)); // 12 pixels
+    QVERIFY(insertPicture(cursor, encoded(other, "PNG"), nullptr, bounds));
+    QList<bool> boxes;
+    for (auto run = document.firstBlock().begin(); !run.atEnd(); ++run)
+        boxes << run.fragment().charFormat().boolProperty(PictureIsBox);
+    QCOMPARE(boxes, (QList<bool>{false, true}));
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, PictureBoxTest)

@@ -252,7 +252,8 @@ void RoundTripTest::aPictureAmongHiddenTextStays() {
     QTextCursor cursor(&document);
     readRtf("{\\rtf1\\v hidden\\par}", document);
     cursor.setPosition(3);
-    QVERIFY(insertPicture(cursor, test::encoded(test::sampleImage(), "PNG")));
+    PictureBounds bounds;
+    QVERIFY(insertPicture(cursor, test::encoded(test::sampleImage(), "PNG"), nullptr, bounds));
     QTextDocument again;
     QVERIFY(readRtf(writeRtf(document), again).ok());
     QCOMPARE(again.toRawText(), QStringLiteral("hid\ufffcden"));

@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringView>
+
+class QFont;
+class QTextBlockFormat;
+class QTextCharFormat;
+
+namespace orvalis::rtf {
+
+// How high a document can become at most, told from its text and formats without laying it out.
+//
+// Qt's layout takes a document without pages for one page of 2^23 pixels. Where the heights add up
+// to more, it looks for the next page for ever. So no document is let grow beyond 2^22, as told by
+// a sum that goes up with each character, run and paragraph:
+//
+//   a line     1.5 times the size of its letters, and what they are raised; at least the spacing
+//              that the paragraph names, times the multiple of it;
+//   a run      a line for each line that its characters need, and one more. A character is taken
+//              for two thirds as wide as its size, in scripts with wide letters for twice that
+//              size, and for a line where it may be wider still; tabs and line breaks are a line
+//              each. Where words are not cut, two lines hold more than the width of one;
+//   a picture  a line of its own height and that of the letters beside it;
+//   a paragraph  its margins, and a line.
+//
+// The width is that of the narrowest box of the program, less the paragraph's own indents. The
+// factor of two that is left is for fonts with high lines and for texts of capitals.
+
+/// The largest sum of heights of a document, in pixels.
+inline constexpr double MostHeight = 1 << 22;
+/// The largest font and the largest distance that a letter is raised, in points.
+inline constexpr double LargestPoints = 1638;
+
+/// The letters of a run, in pixels.
+struct LetterHeight {
+    double size = 0;
+    double line = 0; ///< that they need
+};
+
+/// What a paragraph does to the height of its lines.
+struct ParagraphShape {
+    double room = 0; ///< width of its lines in pixels
+    double multiple = 1;
+    double least = 0;   ///< of a line, in pixels
+    double margins = 0; ///< above and below, in pixels
+};
+
+LetterHeight letterHeight(const QTextCharFormat& format, const QFont& defaultFont);
+ParagraphShape paragraphShape(const QTextBlockFormat& format);
+
+/// Of a line that holds these letters.
+double heightOfLine(const LetterHeight& letters, const ParagraphShape& shape);
+/// Of the lines in which a run stands at most.
+double heightOfRun(QStringView text, const LetterHeight& letters, const ParagraphShape& shape);
+/// Of a paragraph of which no text has been counted, whose mark has this size.
+double heightOfParagraph(const LetterHeight& mark, const ParagraphShape& shape);
+/// Of a line that holds a picture of this height beside letters.
+double heightOfPicture(double height, const LetterHeight& letters, const ParagraphShape& shape);
+
+/// How many of a run's first characters stand in lines of a height together. No pair of surrogates
+/// is parted.
+qsizetype charactersWithin(double height, QStringView text, const LetterHeight& letters,
+                           const ParagraphShape& shape);
+
+/// The number nearest below \a length at which no pair of surrogates is parted.
+qsizetype wholeCharacters(QStringView text, qsizetype length);
+
+} // namespace orvalis::rtf

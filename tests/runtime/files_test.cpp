@@ -4,6 +4,7 @@
 
 #include "runtime/failure.h"
 #include "support/counted_memory.h"
+#include "support/small_disk.h"
 #include "support/temporary_folder.h"
 #include "support/test_main.h"
 #include "support/without_root.h"

@@ -41,7 +41,7 @@ LoadedPicture LoadPicture(const QString& path) {
     picture.width = size.width();
     picture.height = size.height();
     const QImage image =
-        rtf::imageOfPicture(picture, rtf::PictureBounds().mostPixels, readOptions().metafiles);
+        rtf::imageOfPicture(picture, rtf::PictureBounds().mostPixels(), readOptions().metafiles);
     if (image.isNull())
         throw RuntimeError(ErrorNumber::InvalidPicture);
     return {picture.bytes, PictureSource(QPixmap::fromImage(image))};

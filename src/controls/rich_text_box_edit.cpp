@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
+#include "controls/document_reading.h"
 #include "controls/rich_clipboard.h"
 #include "controls/rich_text_box.h"
 #include "controls/selection_format.h"
@@ -128,8 +129,9 @@ void RichTextBox::InsertPicture(const QByteArray& file) {
     QTextCursor cursor = editCursor();
     const int from = cursor.selectionStart();
     const int removed = cursor.selectionEnd() - from;
+    rtf::PictureBounds bounds;
     hold();
-    const bool taken = rtf::insertPicture(cursor, file);
+    const bool taken = rtf::insertPicture(cursor, file, readOptions().metafiles, bounds);
     if (taken && m_batches > 0)
         m_positions->changedInBlock(from, removed, cursor.position() - from);
     if (taken)

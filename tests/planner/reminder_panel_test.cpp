@@ -68,7 +68,6 @@ private slots:
     void theCalendarMarksTodayAndFollowsMidnight();
     void clickingADateShowsIt();
     void aNewStickerIsMadeByItsButton();
-    void aPressOnClearDoesNothingYet();
     void theWeeklyButtonsDoNothingYet();
     void unloadStoresTheFont();
     void queryUnloadAndUnloadEachStoreTheFont();
@@ -474,13 +473,6 @@ void ReminderPanelTest::aNewStickerIsMadeByItsButton() {
     QVERIFY(!ground.stickers.made.back()->isModal());
     ground.press(u"imgNot"_s);
     QCOMPARE(ground.stickers.made.size(), std::size_t(2));
-}
-
-void ReminderPanelTest::aPressOnClearDoesNothingYet() {
-    PanelGround ground;
-    ground.shown();
-    QTest::mouseClick(&ground.control<Image>(u"imgDel"_s), Qt::LeftButton);
-    QVERIFY(!QApplication::activePopupWidget());
 }
 
 void ReminderPanelTest::theWeeklyButtonsDoNothingYet() {

@@ -109,7 +109,7 @@ void markToCode(QChar& c) {
 /// Turns the marks of a block into codes. \a plain holds the block's characters from \a from on,
 /// beginning at \a start.
 void marksToCodes(QString& plain, qsizetype start, const QTextBlock& block, int from, int to) {
-    constexpr int Short = 256;
+    constexpr int Short = 1024;
     if (to - from <= Short) {
         // The runs of a block can only be had from its first one on, and there can be many.
         QTextCursor cursor(block);

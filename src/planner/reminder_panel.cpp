@@ -9,13 +9,10 @@
 #include "controls/ms_flex_grid.h"
 #include "controls/rich_text_box.h"
 #include "core/clock_label.h"
-#include "core/layout_rule.h"
 #include "core/program.h"
-#include "platform/registry.h"
 #include "platform/screen.h"
 #include "runtime/app.h"
 #include "runtime/format.h"
-#include "runtime/numeric_text.h"
 #include "runtime/time_parts.h"
 #include "runtime/twips.h"
 
@@ -25,16 +22,11 @@ namespace orvalis {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr double LargestFontSize = 2160;
-
-} // namespace
-
 frmnotes1::frmnotes1(Program& program)
     : ChromePanel(program, chromeRow(ChromeKind::Reminder))
     , ui(*this)
-    , CommonDialog1(program.services.dialogs) {
+    , CommonDialog1(program.services.dialogs)
+    , m_font(program.services.settings, u"RT1"_s, program.services.screen) {
     connectEntryArea();
     connectFind();
     connectLists();
@@ -60,7 +52,7 @@ frmnotes1::frmnotes1(Program& program)
 
 void frmnotes1::onLoad() {
     loadDocuments();
-    loadFont();
+    m_font.load(*ui.rt1);
     loadDateAndLists();
     layOutPages();
     for (const QString& hour : twoDigitNumbers(LastHour))
@@ -80,21 +72,6 @@ void frmnotes1::loadDocuments() {
     const App& app = program().services.app;
     resumeNext([&] { ui.rt1a->LoadFile(app.file(u"Vazno.rtf"_s)); },
                [&] { ui.rt2->LoadFile(app.file(u"weekly.rtf"_s)); });
-}
-
-void frmnotes1::loadFont() {
-    const Registry& settings = program().services.settings;
-    resumeNext(
-        [&] { ui.rt1->SetFontName(settings.setting(u"RT1"_s, u"FN"_s, u"Arial"_s).toString()); },
-        [&] {
-            const auto size = numericValue(settings.setting(u"RT1"_s, u"FS"_s, u"8"_s).toString());
-            if (!size)
-                throw RuntimeError(ErrorNumber::TypeMismatch);
-            if (*size > LargestFontSize)
-                throw RuntimeError(ErrorNumber::InvalidPropertyValue);
-            ui.rt1->SetFontSize(*size);
-            m_fontSizeSetting = *size;
-        });
 }
 
 void frmnotes1::loadDateAndLists() {
@@ -142,20 +119,7 @@ bool frmnotes1::exitExtra() {
 }
 
 void frmnotes1::Sacremi() {
-    Registry& settings = program().services.settings;
-    // A mixed selection has no one name or size: what was kept last stays.
-    if (const auto name = ui.rt1->SelFontName())
-        settings.putSetting(u"RT1"_s, u"FN"_s, *name);
-    if (const auto size = ui.rt1->SelFontSize())
-        settings.putSetting(u"RT1"_s, u"FS"_s, QString::number(fontSizeToKeep(*size)));
-}
-
-int frmnotes1::fontSizeToKeep(double pointSize) const {
-    const double factor = fontFactor(program().services.screen.GetSystemMetrics(0));
-    // Some sizes share one scaled size: the one that was read is kept while nobody changed it.
-    if (scaledFontSize(m_fontSizeSetting, factor) == roundHalfEven(pointSize))
-        return static_cast<int>(roundHalfEven(m_fontSizeSetting));
-    return unscaledFontSize(pointSize, factor);
+    m_font.store(*ui.rt1);
 }
 
 } // namespace orvalis

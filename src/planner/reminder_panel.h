@@ -5,6 +5,7 @@
 #include "controls/common_dialog.h"
 #include "core/chrome_window.h"
 #include "core/recovery.h"
+#include "core/kept_font.h"
 #include "planner/clear_menu.h"
 #include "planner/entry_frame.h"
 #include "planner/planner_page.h"
@@ -64,12 +65,10 @@ protected:
 private:
     // reminder_panel.cpp
     void loadDocuments();
-    void loadFont();
     void loadDateAndLists();
     void layOutPages();
     void placeByPicture();
     void goToToday();
-    int fontSizeToKeep(double pointSize) const;
 
     // reminder_entry.cpp: message, reminder and what leads to and from them
     void connectEntryArea();
@@ -131,8 +130,8 @@ private:
     ReminderControls ui;
     CommonDialog CommonDialog1;
     FindSteps FindPosition;
-    double m_fontSizeSetting = 8; ///< `FS` as it was read
     Recovery::Registration m_unsaved;
+    KeptFont m_font;
 };
 
 } // namespace orvalis

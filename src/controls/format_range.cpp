@@ -200,7 +200,10 @@ void RangeFormatter::draw(const FormatRange& range, const QPaintDevice& device, 
     if (cutsFirst || cutsLast)
         painter.setClipRegion(region, Qt::IntersectClip);
     QAbstractTextDocumentLayout::PaintContext context;
-    context.clip = band;
+    // The lines that touch the band from outside would be drawn out of sight, and be words of the
+    // page to whoever reads it as text.
+    constexpr qreal Outside = 0.5;
+    context.clip = band.adjusted(0, Outside, 0, -Outside);
     context.palette.setColor(QPalette::Text, Qt::black);
     m_copy->documentLayout()->draw(&painter, context);
     drawListNumbers(painter, *m_copy, context);

@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "notes/print_rtf.h"
+
+#include "controls/format_range.h"
+#include "controls/rich_text_box.h"
+#include "platform/printer.h"
+
+#include <QPainter>
+
+#include <cmath>
+
+namespace orvalis {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Frees what the control keeps between pages, also when a printer gives up in the middle.
+class Formatting {
+public:
+    explicit Formatting(RichTextBox& box)
+        : m_box(box) {}
+    ~Formatting() { m_box.EndFormatting(); }
+    Q_DISABLE_COPY_MOVE(Formatting)
+
+private:
+    RichTextBox& m_box;
+};
+
+/// The device context changes with each page and is asked for anew.
+void useDevice(FormatRange& range, Printer& printer) {
+    range.painter = printer.hDC();
+    range.device = range.painter->device();
+}
+
+} // namespace
+
+QRect printArea(const Printer& printer, const PrintMargins& margins) {
+    const auto leftOffset = static_cast<int>(std::lround(printer.ScaleX(
+        printer.GetDeviceCaps(PHYSICALOFFSETX), ScaleMode::Pixels, ScaleMode::Twips)));
+    const auto topOffset = static_cast<int>(std::lround(printer.ScaleY(
+        printer.GetDeviceCaps(PHYSICALOFFSETY), ScaleMode::Pixels, ScaleMode::Twips)));
+    const QPoint topLeft(margins.left - leftOffset, margins.top - topOffset);
+    const QPoint bottomRight((printer.Width() - margins.right) - leftOffset,
+                             (printer.Height() - margins.bottom) - topOffset);
+    return {topLeft, QSize(bottomRight.x() - topLeft.x(), bottomRight.y() - topLeft.y())};
+}
+
+void printPages(RichTextBox& box, Printer& printer, const PrintMargins& margins) {
+    // A blank begins the job: until then there is no device context.
+    printer.Print(u" "_s);
+    FormatRange range;
+    range.rect = printArea(printer, margins);
+    useDevice(range, printer);
+    const auto textLength = static_cast<int>(box.Text().size());
+    const Formatting formatting(box);
+    for (;;) {
+        const int next = box.FormatPage(range);
+        if (next >= textLength)
+            break;
+        range.first = next;
+        printer.NewPage();
+        printer.Print(u" "_s);
+        useDevice(range, printer);
+    }
+    printer.EndDoc();
+}
+
+} // namespace orvalis

@@ -16,6 +16,9 @@
 #include "core/start_window.h"
 #include "core/tray_handover.h"
 #include "letters/letters_window.h"
+#include "notes/date_menu.h"
+#include "notes/find_window.h"
+#include "notes/notes_panel.h"
 #include "password/password_panel.h"
 #include "planner/clear_menu.h"
 #include "planner/reminder_panel.h"
@@ -50,6 +53,10 @@ namespace {
 std::vector<MenuMaker> menusOfPanels(Program& program) {
     return {
         [&program](QWidget* parent) {
+            return makeDateMenu(
+                parent, [&program]() -> NotesPanel& { return program.windows.get<NotesPanel>(); });
+        },
+        [&program](QWidget* parent) {
             return makeClearMenu(
                 parent,
                 [&program]() -> ClearCommands& {
@@ -75,6 +82,8 @@ void registerWindows(Program& program, bool previousInstance, HelpDisplay& help)
         [&] { return std::make_unique<frmnotes1>(program); });
     program.windows.registerMaker<PasswordPanel>(
         [&] { return std::make_unique<frmnotes4>(program); });
+    program.windows.registerMaker<NotesPanel>([&] { return std::make_unique<frmnotes2>(program); });
+    program.windows.registerMaker<FindWindow>([&] { return std::make_unique<frmFind>(program); });
     program.windows.registerMaker<OptionsWindow>(
         [&] { return std::make_unique<frmOptions>(program); });
     program.windows.registerMaker<AboutBox>([&] { return std::make_unique<frmAbout>(program); });

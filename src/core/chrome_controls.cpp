@@ -88,7 +88,8 @@ void ChromeWindow::makePanelLabels() {
     if (m_row.title.isEmpty())
         return;
     lblRem = new Label(u"lblRem"_s, m_row.title, this);
-    lblRem->setGeometry(24, 14, 118, 22);
+    const ChromeLayout& layout = chromeLayout(m_row.kind);
+    lblRem->setGeometry(layout.title);
     lblRem->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     QFont titleFont = skin::font(skin::points::Title, true);
     titleFont.setLetterSpacing(QFont::AbsoluteSpacing, 2);
@@ -96,12 +97,10 @@ void ChromeWindow::makePanelLabels() {
     lblRem->setAttribute(Qt::WA_TransparentForMouseEvents);
     skin::setInk(*lblRem, skin::colour::TitleInk);
 
-    static constexpr std::array<QRect, 3> Places{QRect(146, 14, 70, 22), QRect(218, 14, 70, 22),
-                                                 QRect(290, 14, 72, 22)};
     for (std::size_t i = 0; i < m_row.labels.size(); ++i) {
         const PanelLabel& entry = m_row.labels.at(i);
         auto* label = new Label(entry.name, entry.caption, this);
-        label->setGeometry(Places.at(i));
+        label->setGeometry(layout.labels.at(i));
         label->setAlignment(Qt::AlignCenter);
         label->setFont(skin::font(skin::points::PanelLabel));
         skin::setInk(*label, skin::colour::LabelInk);

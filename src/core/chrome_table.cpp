@@ -136,6 +136,8 @@ const ChromeLayout& chromeLayout(ChromeKind kind) {
         .stop = {244, 71, 40, 40},
         .clock = {26, 60, 198, 62},
         .alarm = {26, 98, 198, 24},
+        .title = {},
+        .labels = {},
         .clockAlignment = Qt::AlignCenter,
         .alarmAlignment = Qt::AlignCenter,
         .setPicture = u"alarm_set"_s,
@@ -152,6 +154,8 @@ const ChromeLayout& chromeLayout(ChromeKind kind) {
         .stop = {382, 13, 22, 22},
         .clock = {408, 13, 134, 24},
         .alarm = {542, 13, 56, 24},
+        .title = {24, 14, 118, 22},
+        .labels = {QRect(146, 14, 70, 22), QRect(218, 14, 70, 22), QRect(290, 14, 72, 22)},
         .clockAlignment = Qt::AlignLeft | Qt::AlignVCenter,
         .alarmAlignment = Qt::AlignRight | Qt::AlignVCenter,
         .setPicture = u"alarm_set_small"_s,
@@ -160,7 +164,25 @@ const ChromeLayout& chromeLayout(ChromeKind kind) {
         .alarmPoints = skin::points::PanelLabel,
         .alarmLead = {},
     };
-    return kind == ChromeKind::Main ? main : panel;
+    static const ChromeLayout book = [] {
+        constexpr int Higher = 9;
+        ChromeLayout layout = panel;
+        for (QRect* place :
+             {&layout.mini, &layout.help, &layout.exit, &layout.set, &layout.stop, &layout.title,
+              &layout.labels[0], &layout.labels[1], &layout.labels[2]})
+            place->translate(0, -Higher);
+        layout.clock = {408, 4, 132, 21};
+        layout.alarm = {542, 4, 56, 21};
+        return layout;
+    }();
+    switch (kind) {
+    case ChromeKind::Main:
+        return main;
+    case ChromeKind::Notes:
+        return book;
+    default:
+        return panel;
+    }
 }
 
 } // namespace orvalis

@@ -5,6 +5,7 @@
 #include <QRect>
 #include <QString>
 
+#include <array>
 #include <vector>
 
 namespace orvalis {
@@ -41,6 +42,8 @@ struct ChromeLayout {
     QRect stop;
     QRect clock;
     QRect alarm;
+    QRect title; ///< of a panel
+    std::array<QRect, 3> labels;
     Qt::Alignment clockAlignment;
     Qt::Alignment alarmAlignment;
     QString setPicture;
@@ -72,7 +75,8 @@ struct ChromeRow {
 };
 
 const ChromeRow& chromeRow(ChromeKind kind);
-/// The main window has a layout of its own, the panels share one.
+/// The main window has a layout of its own. The panels share one, but for the Notes panel, whose
+/// pages begin higher up.
 const ChromeLayout& chromeLayout(ChromeKind kind);
 
 } // namespace orvalis

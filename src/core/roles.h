@@ -56,6 +56,11 @@ public:
     /// Prints a box in pages. The margins are in twips.
     virtual void PrintRTF(RichTextBox& RTF, int LeftMarginWidth, int TopMarginHeight,
                           int RightMarginWidth, int BottomMarginHeight) = 0;
+    /// Replaces the left page's selection by today's date (1), by the time as the clock shows it
+    /// (2) or by both (3).
+    virtual void Sad(int Kind) = 0;
+    /// Does what a click on the find frame's `FindNextButton` does.
+    virtual void FindNext() = 0;
 };
 
 /// `frmnotes3`

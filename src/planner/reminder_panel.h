@@ -4,8 +4,8 @@
 
 #include "controls/common_dialog.h"
 #include "core/chrome_window.h"
-#include "core/recovery.h"
 #include "core/kept_font.h"
+#include "core/recovery.h"
 #include "planner/clear_menu.h"
 #include "planner/entry_frame.h"
 #include "planner/planner_page.h"
@@ -130,8 +130,8 @@ private:
     ReminderControls ui;
     CommonDialog CommonDialog1;
     FindSteps FindPosition;
-    Recovery::Registration m_unsaved;
     KeptFont m_font;
+    Recovery::Registration m_unsaved;
 };
 
 } // namespace orvalis

@@ -6,6 +6,7 @@
 #include "controls/rich_text_box.h"
 #include "core/roles.h"
 
+#include <QList>
 #include <QStringList>
 
 namespace orvalis::test {
@@ -28,8 +29,12 @@ public:
                        .arg(RightMarginWidth)
                        .arg(BottomMarginHeight);
     }
+    void Sad(int Kind) override { inserted << Kind; }
+    void FindNext() override { ++found; }
 
     QStringList printed; ///< the text of each print and its four margins
+    QList<int> inserted; ///< the kinds that Sad() was called with
+    int found = 0;       ///< how often FindNext() was called
 
 private:
     RichTextBox m_rt1;

@@ -47,6 +47,9 @@ public:
         m_script.clear();
     }
 
+    /// Drops the answers that are left, where it is in doubt whether anybody asks.
+    void forget() { m_script.clear(); }
+
     Answer MsgBox(const QString& text, int flags, const QString& title) override {
         const Asked box{text, flags, title};
         asked.append(box);

@@ -6,11 +6,13 @@
 #include "alarm/alarm_set_dialog.h"
 #include "controls/combo_box.h"
 #include "controls/image.h"
+#include "controls/label.h"
 #include "controls/rich_text_box.h"
 #include "core/main_window.h"
 #include "core/options_dialog.h"
 #include "core/start_window.h"
 #include "core/tray_handover.h"
+#include "notes/notes_panel.h"
 #include "planner/reminder_panel.h"
 #include "platform/tray_window.h"
 #include "skin/style.h"
@@ -51,6 +53,8 @@ public:
             [&program] { return std::make_unique<frmnotes>(program); });
         windows.registerMaker<ReminderPanel>(
             [&program] { return std::make_unique<frmnotes1>(program); });
+        windows.registerMaker<NotesPanel>(
+            [&program] { return std::make_unique<frmnotes2>(program); });
         windows.registerMaker<OptionsWindow>(
             [&program] { return std::make_unique<frmOptions>(program); });
         windows.registerMaker<AlarmSetDialog>(
@@ -71,6 +75,7 @@ private:
     void keep(const QString& name, const QPixmap& picture);
     void keepDialog(const QString& name, Form& form);
     void drawReminderPanel();
+    void drawNotesPanel();
     void drawStickers();
     void drawAlarmDialog();
     void drawTray();
@@ -151,6 +156,30 @@ void Studio::drawReminderPanel() {
     panel.Hide();
 }
 
+void Studio::drawNotesPanel() {
+    const QByteArray letter =
+        "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}{\\colortbl;\\red0\\green112\\blue112;}\\f0\\fs18"
+        "\\qr 14 March 2026\\par\\pard\\par{\\b\\fs24\\cf1 A week by the lake}\\par\\par "
+        "Dear Anna,\\par\\par the house is ours from Saturday. It has {\\b two rooms}, a stove and "
+        "a "
+        "boat that {\\i may} float. Bring:\\par"
+        "{\\pntext\\bullet\\tab}{\\*\\pn\\pnlvlblt\\pnindent360{\\pntxtb\\bullet}}\\fi-360\\li360 "
+        "warm socks\\par {\\pntext\\bullet\\tab}the green book\\par"
+        "{\\pntext\\bullet\\tab}matches\\par\\pard\\par Yours, Paul}";
+    Form& panel = shown<NotesPanel>();
+    const QString file = m_outside.folder.write(u"lake.rtf"_s, letter);
+    m_outside.dialogs.answerOpen(file);
+    QTest::mouseClick(&control<Image>(panel, u"imgOpen"_s), Qt::LeftButton);
+    control<GGCommand>(panel, u"Button1"_s).setValue(true);
+    auto& left = control<RichTextBox>(panel, u"rt1"_s);
+    left.SetSelStart(left.Find(u"two rooms"_s));
+    left.SetSelLength(9);
+    left.SetSelText(u"three rooms"_s);
+    QApplication::processEvents();
+    keep(u"notes"_s, fitted(panel.grab(), 500));
+    panel.Hide();
+}
+
 void Studio::drawStickers() {
     Form& note = m_stickers.newFrmstick().form();
     note.Show();
@@ -220,6 +249,7 @@ void Studio::drawAll() {
     keepDialog(u"options"_s, shown<OptionsWindow>());
     m_outside.program.windows.unload<OptionsWindow>();
     drawReminderPanel();
+    drawNotesPanel();
     drawStickers();
     drawAlarmDialog();
     drawTray();

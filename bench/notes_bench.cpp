@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+//
+// notes_bench: what a person waits for on the Notes panel, each figure beside its limit.
+#include "controls/image.h"
+#include "controls/rich_text_box.h"
+#include "notes/find_commands.h"
+#include "notes/notes_panel.h"
+#include "runtime/failure.h"
+#include "support/test_program.h"
+#include "timing.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+
+#include <cstdio>
+
+using namespace orvalis;
+using namespace orvalis::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int Megabyte = 1'000'000;
+
+void tell(const char* what, double milliseconds, double limit) {
+    std::printf("%-66s %9.2f ms", what, milliseconds);
+    if (limit > 0)
+        std::printf("  limit %5.0f ms  %s", limit, milliseconds <= limit ? "kept" : "MISSED");
+    std::printf("\n");
+}
+
+QString lines(int characters) {
+    QString text;
+    for (int line = 0; text.size() < characters; ++line)
+        text += u"Line %1 of a long note, with enough words in it to wrap once.\r\n"_s.arg(line);
+    return text;
+}
+
+QByteArray richText(int bytes) {
+    QByteArray rtf = "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\f0\\fs18 ";
+    for (int line = 0; rtf.size() < bytes; ++line)
+        rtf += "Line " + QByteArray::number(line) +
+               " of a {\\b long} note, with {\\i enough} words in it to wrap {\\ul once}.\\par\n";
+    return rtf + '}';
+}
+
+class Desk : public TestProgram {
+public:
+    Desk() {
+        program.windows.registerMaker<NotesPanel>(
+            [this] { return std::make_unique<frmnotes2>(program); });
+    }
+    ~Desk() { program.windows.unload<NotesPanel>(); }
+
+    Form& open() {
+        Form& form = program.windows.get<NotesPanel>().form();
+        form.Show();
+        QApplication::processEvents();
+        return form;
+    }
+    RichTextBox& box(const QString& name) {
+        return *program.windows.get<NotesPanel>().form().findChild<RichTextBox*>(name);
+    }
+};
+
+void measureOpening() {
+    Desk desk;
+    const double time = bench::medianMilliseconds(
+        9, [&] { desk.open(); },
+        [&] {
+            desk.program.windows.unload<NotesPanel>();
+            QApplication::processEvents();
+        });
+    tell("the panel comes up", time, 150);
+}
+
+void measureTyping(const char* what, const QString& text, double limit) {
+    Desk desk;
+    desk.open();
+    RichTextBox& left = desk.box(u"rt1"_s);
+    left.SetText(text);
+    desk.box(u"rt5"_s).SetText(text);
+    left.SetSelStart(static_cast<int>(text.size()));
+    left.ensureCursorVisible();
+    QApplication::processEvents();
+    const double time = bench::medianMilliseconds(51, [&] {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_A, {}, u"a"_s);
+        QApplication::sendEvent(&left, &press);
+        QApplication::processEvents();
+    });
+    tell(what, time, limit);
+}
+
+void measureFile() {
+    Desk desk;
+    Form& form = desk.open();
+    const QString path = desk.folder.write(u"large.rtf"_s, richText(5 * Megabyte));
+    const double time = bench::millisecondsOf([&] {
+        desk.dialogs.answerOpen(path);
+        emit form.findChild<Image*>(u"imgOpen"_s)->Click();
+        QApplication::processEvents();
+    });
+    tell("a rich text of 5 MB opens on the right page", time, 1500);
+}
+
+void measureReplacing(const char* what, const QString& text, double limit) {
+    Desk desk;
+    desk.open();
+    RichTextBox& left = desk.box(u"rt1"_s);
+    left.SetText(text);
+    FindCommands find;
+    const double time = bench::millisecondsOf([&] {
+        endSilently([&] { find.replaceAll(left, {.text = u"two"_s, .replacement = u"2"_s}); });
+        QApplication::processEvents();
+    });
+    tell(what, time, limit);
+}
+
+void measureEndless() {
+    Desk desk;
+    desk.open();
+    RichTextBox& left = desk.box(u"rt1"_s);
+    left.SetText(u"x a"_s);
+    FindCommands find;
+    const double time = bench::millisecondsOf([&] {
+        endSilently([&] { find.replaceAll(left, {.text = u"a"_s, .replacement = u"aa"_s}); });
+    });
+    tell("a replacement that holds its own text, until it overflows", time, 2000);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    measureOpening();
+    measureTyping("a key at the end of 1 MB in many lines", lines(Megabyte), 16);
+    // A paragraph is laid out anew at each key, however long it is.
+    measureTyping("a key at the end of one line of 32 KB", QString(u"word "_s).repeated(6400), 0);
+    measureFile();
+    measureReplacing("5,000 hits in many lines replaced", QString(u"a two\r\n"_s).repeated(4500),
+                     300);
+    measureReplacing("5,000 hits in one line replaced", QString(u"a two "_s).repeated(5000), 300);
+    measureEndless();
+    return 0;
+}

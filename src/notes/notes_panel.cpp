@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "notes/notes_panel.h"
+
+#include "controls/label.h"
+#include "controls/message_boxes.h"
+#include "controls/rich_text_box.h"
+#include "core/clock_label.h"
+#include "core/program.h"
+#include "notes/document_rules.h"
+#include "platform/screen.h"
+#include "runtime/format.h"
+
+namespace orvalis {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int RightMouseButton = 2;
+constexpr double RightPageFontSize = 10;
+
+} // namespace
+
+frmnotes2::frmnotes2(Program& program)
+    : ChromePanel(program, chromeRow(ChromeKind::Notes))
+    , ui(*this)
+    , CommonDialog1(program.services.dialogs)
+    , m_font(program.services.settings, u"RT2"_s, program.services.screen) {
+    connectChrome();
+    connectDocument();
+    connectToolbars();
+    connectFind();
+    connectCommands();
+}
+
+void frmnotes2::connectChrome() {
+    connect(
+        lblVreme, &Label::MouseDown, this,
+        [this](int button) {
+            if (button == RightMouseButton && program().windows.knows<PopupMenus>())
+                program().windows.get<PopupMenus>().PopupMenu(u"mnudate"_s);
+        });
+}
+
+void frmnotes2::onLoad() {
+    m_Changed = false;
+    m_font.load(*ui.rt1);
+    layOut();
+    ui.rt1a->SetSelFontSize(RightPageFontSize);
+    UpdateTB();
+    ui.rt1->setFocus();
+}
+
+bool frmnotes2::exitExtra() {
+    return mayLoseChanges(MsgFlags::OkCancel + MsgFlags::ExclamationIcon);
+}
+
+void frmnotes2::Sad(int Kind) {
+    const QString text = dateAndTime(
+        Kind, Format(program().services.clock.now(), u"dddd, mmmm dd, yyyy"), lblVreme->Caption());
+    if (!text.isEmpty())
+        ui.rt1->SetSelText(text);
+}
+
+} // namespace orvalis

@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "notes/page_toolbar.h"
+
+#include "skin/skin.h"
+
+#include <QButtonGroup>
+#include <QLayout>
+#include <QToolButton>
+
+namespace orvalis {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize ButtonSize(21, 17);
+constexpr QSize PictureSize(14, 14);
+
+} // namespace
+
+PageToolbar::PageToolbar(const QString& name, QWidget* parent)
+    : QToolBar(parent)
+    , m_buttons(1)
+    , m_options(new QButtonGroup(this)) {
+    setObjectName(name);
+    setMovable(false);
+    setFloatable(false);
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    setIconSize(PictureSize);
+    layout()->setContentsMargins(0, 0, 0, 0);
+    layout()->setSpacing(0);
+}
+
+QToolButton* PageToolbar::addPlain(const QString& toolTip, const QString& picture) {
+    auto* made = new QToolButton(this);
+    const auto index = static_cast<int>(m_buttons.size());
+    made->setObjectName(u"%1(%2)"_s.arg(objectName()).arg(index));
+    made->setAutoRaise(true);
+    made->setFixedSize(ButtonSize);
+    made->setIcon(skin::icon(picture));
+    made->setToolTip(toolTip);
+    made->setAccessibleName(toolTip.trimmed());
+    connect(made, &QToolButton::clicked, this, [this, index] { emit ButtonClick(index); });
+    addWidget(made);
+    m_buttons.push_back(made);
+    return made;
+}
+
+QToolButton* PageToolbar::addCheck(const QString& toolTip, const QString& picture) {
+    QToolButton* made = addPlain(toolTip, picture);
+    made->setCheckable(true);
+    return made;
+}
+
+QToolButton* PageToolbar::addOption(const QString& toolTip, const QString& picture) {
+    QToolButton* made = addCheck(toolTip, picture);
+    m_options->addButton(made);
+    return made;
+}
+
+void PageToolbar::addGap() {
+    addSeparator();
+    m_buttons.push_back(nullptr);
+}
+
+QToolButton& PageToolbar::button(int index) const {
+    return *m_buttons.at(static_cast<std::size_t>(index));
+}
+
+int PageToolbar::value(int index) const {
+    return button(index).isChecked() ? 1 : 0;
+}
+
+void PageToolbar::setValue(int index, bool down) {
+    button(index).setChecked(down);
+}
+
+} // namespace orvalis

@@ -26,7 +26,8 @@ frmnotes2::frmnotes2(Program& program)
     : ChromePanel(program, chromeRow(ChromeKind::Notes))
     , ui(*this)
     , CommonDialog1(program.services.dialogs)
-    , m_font(program.services.settings, u"RT2"_s, program.services.screen) {
+    , m_font(program.services.settings, u"RT2"_s, program.services.screen)
+    , m_recovery(program.recovery.add([this] { return unsavedTexts(); })) {
     connectChrome();
     connectDocument();
     connectToolbars();
@@ -54,6 +55,12 @@ void frmnotes2::onLoad() {
 
 bool frmnotes2::exitExtra() {
     return mayLoseChanges(MsgFlags::OkCancel + MsgFlags::ExclamationIcon);
+}
+
+std::vector<UnsavedText> frmnotes2::unsavedTexts() const {
+    if (!isLoaded() || !m_Changed)
+        return {};
+    return {{u"Notes, left page \"%1\""_s.arg(ui.Label3->Caption()), ui.rt1->TextRTF()}};
 }
 
 void frmnotes2::Sad(int Kind) {

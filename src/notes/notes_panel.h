@@ -5,6 +5,7 @@
 #include "controls/common_dialog.h"
 #include "core/chrome_window.h"
 #include "core/kept_font.h"
+#include "core/recovery.h"
 #include "notes/find_commands.h"
 #include "notes/notes_controls.h"
 
@@ -53,6 +54,7 @@ protected:
 private:
     // notes_panel.cpp
     void connectChrome();
+    std::vector<UnsavedText> unsavedTexts() const;
 
     // notes_document.cpp: what is on the pages
     void connectDocument();
@@ -99,6 +101,7 @@ private:
     CommonDialog CommonDialog1;
     FindCommands m_find;
     KeptFont m_font;
+    Recovery::Registration m_recovery;
     bool m_Changed = false; ///< the left page differs from what was last saved or taken over
 };
 

@@ -51,7 +51,8 @@ private slots:
     void aDocumentIsMailed();
     void theRightPageIsPrintedInPages();
     void theTimeIsWrittenFromTheClocksMenu();
-    void aFindThatOverflowsEndsTheProgram();
+    void aFindThatOverflowsEndsTheProgramAndNothingIsLost();
+    void theSystemsEndKeepsTheLeftPage();
 
 private:
     bool openPanel();
@@ -290,11 +291,25 @@ void NotesJourneyTest::theTimeIsWrittenFromTheClocksMenu() {
     QVERIFY(waitUntil([this] { return left().contains(u", 20"_s); }, 5000));
 }
 
-void NotesJourneyTest::aFindThatOverflowsEndsTheProgram() {
-    QVERIFY(write(file(u"long.rtf"_s), "{\\rtf1 " + QByteArray(33000, '.') + " end}"));
+void NotesJourneyTest::aFindThatOverflowsEndsTheProgramAndNothingIsLost() {
+    QVERIFY(m_program->click(u"frmnotes2/lblNot"_s));
+    QVERIFY(m_program->waitVisible(u"frmnotes1/rt1"_s));
+    QVERIFY(m_program->click(u"frmnotes1/rt1"_s));
+    m_program->type(u"the message"_s);
+    QVERIFY(m_program->click(u"frmnotes1/imgNot"_s));
+    QVERIFY(m_program->waitVisible(u"frmstick/Text1"_s));
+    QVERIFY(m_program->click(u"frmstick/Text1"_s));
+    m_program->type(u"the sticker"_s);
+    QVERIFY(m_program->click(u"frmnotes1/lblNot"_s));
+    QVERIFY(m_program->waitVisible(u"frmnotes2/rt1"_s));
+
+    QVERIFY(
+        write(file(u"long.rtf"_s), "{\\rtf1 \\b bold\\b0  " + QByteArray(33000, '.') + " end}"));
     openFile(file(u"long.rtf"_s));
     QVERIFY(m_program->waitText(u"frmnotes2/Label1"_s, u"long.rtf"_s));
     QVERIFY(m_program->click(u"frmnotes2/Button1"_s));
+    m_program->key(u"ctrl+Home"_s);
+    m_program->type(u"mine "_s);
     QVERIFY(m_program->click(u"frmnotes2/Toolbar2(7)"_s));
     QVERIFY(m_program->waitVisible(u"frmnotes2/Text1"_s));
     m_program->type(u"end"_s);
@@ -302,6 +317,29 @@ void NotesJourneyTest::aFindThatOverflowsEndsTheProgram() {
     QVERIFY(boxIs(u"Run-time error '6':\n\nOverflow"_s, u"Orvalis"_s, {u"OK"_s}));
     m_program->key(u"Return"_s);
     QVERIFY(m_program->waitForEnd());
+    const QByteArray kept = bytesOf(file(u"recovered.rtf"_s));
+    for (const char* piece : {"mine ", "\\b", "the message", "the sticker", "Notes, left page"})
+        QVERIFY2(kept.contains(piece), piece);
+
+    // The next start works, and a second end like it keeps both.
+    QVERIFY(m_program->start());
+    QVERIFY(openPanel());
+    m_program->type(u"again"_s);
+    QVERIFY(m_program->waitText(u"frmnotes2/rt1"_s, u"again"_s));
+    m_program->terminate();
+    QVERIFY(m_program->waitForEnd());
+    QCOMPARE(bytesOf(file(u"recovered.rtf"_s)), kept);
+    QVERIFY(bytesOf(file(u"recovered 2.rtf"_s)).contains("again"));
+}
+
+void NotesJourneyTest::theSystemsEndKeepsTheLeftPage() {
+    m_program->type(u"unsaved words"_s);
+    QVERIFY(m_program->waitText(u"frmnotes2/rt1"_s, u"unsaved words"_s));
+    m_program->terminate();
+    QVERIFY(m_program->waitForEnd());
+    QVERIFY(bytesOf(file(u"recovered.rtf"_s)).contains("unsaved words"));
+    QVERIFY(m_program->start());
+    QVERIFY(m_program->waitVisible(u"frmnotes"_s));
 }
 
 QTEST_GUILESS_MAIN(NotesJourneyTest)

@@ -5,6 +5,7 @@
 #include "controls/twips_geometry.h"
 #include "core/clock_label.h"
 #include "core/popup_menus.h"
+#include "core/recovery.h"
 #include "notes/date_menu.h"
 #include "support/pointer_events.h"
 #include "support/role_doubles.h"
@@ -59,6 +60,9 @@ private slots:
     void sadWritesTheClockAsItIsShown();
     void switchingPanelsAndGoingToTheTrayKeepTheDocumentAndAskNothing();
     void theLettersGoWithTheLabelsAndToTheTray();
+    void unsavedChangesAreRecoveredUnderTheirTitle();
+    void aSavedDocumentIsNotRecovered();
+    void unloadedPanelsRecoverNothing();
 
 private:
     frmnotes2& panel() { return m_ground->panel(); }
@@ -286,6 +290,34 @@ void NotesPanelTest::theLettersGoWithTheLabelsAndToTheTray() {
     QVERIFY(log.contains(u"unload frmpisma"_s));
     QVERIFY(log.indexOf(u"unload frmpisma"_s) < log.indexOf(u"show frmnotes4"_s));
     m_ground->program.windows.unload<PasswordPanel>();
+}
+
+void NotesPanelTest::unsavedChangesAreRecoveredUnderTheirTitle() {
+    m_ground->write(u"words"_s);
+    m_ground->select(0, 5);
+    rt1().SetSelBold(true);
+    m_ground->program.recovery.keep();
+    RichTextBox box;
+    box.LoadFile(m_ground->app.file(u"recovered.rtf"_s));
+    QVERIFY(box.Text().startsWith(u"Notes, left page \"Untitled\""_s));
+    const int at = box.Find(u"words"_s);
+    QVERIFY(at > 0);
+    QCOMPARE(box.SelBold(), std::optional(true));
+}
+
+void NotesPanelTest::aSavedDocumentIsNotRecovered() {
+    m_ground->write(u"words"_s);
+    m_ground->dialogs.answerSave(m_ground->folder.file(u"a.rtf"_s));
+    m_ground->press(u"imgSave"_s);
+    m_ground->program.recovery.keep();
+    QVERIFY(!QFile::exists(m_ground->app.file(u"recovered.rtf"_s)));
+}
+
+void NotesPanelTest::unloadedPanelsRecoverNothing() {
+    m_ground->write(u"words"_s);
+    m_ground->leave();
+    m_ground->program.recovery.keep();
+    QVERIFY(!QFile::exists(m_ground->app.file(u"recovered.rtf"_s)));
 }
 
 ORVALIS_TEST_MAIN_WITH(QApplication, NotesPanelTest)

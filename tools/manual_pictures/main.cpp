@@ -8,10 +8,12 @@
 #include "controls/image.h"
 #include "controls/label.h"
 #include "controls/rich_text_box.h"
+#include "controls/tree_view.h"
 #include "core/main_window.h"
 #include "core/options_dialog.h"
 #include "core/start_window.h"
 #include "core/tray_handover.h"
+#include "letters/letters_window.h"
 #include "notes/notes_panel.h"
 #include "planner/reminder_panel.h"
 #include "platform/tray_window.h"
@@ -59,6 +61,8 @@ public:
             [&program] { return std::make_unique<frmOptions>(program); });
         windows.registerMaker<AlarmSetDialog>(
             [&program] { return std::make_unique<frmAlSet>(program); });
+        windows.registerMaker<LettersWindow>(
+            [&program] { return std::make_unique<frmpisma>(program); });
     }
 
     void drawAll();
@@ -78,6 +82,7 @@ private:
     void drawNotesPanel();
     void drawStickers();
     void drawAlarmDialog();
+    void drawLetters();
     void drawTray();
 
     QDir m_folder;
@@ -215,6 +220,20 @@ void Studio::drawAlarmDialog() {
     control<GGCommand>(dialog, u"imgOK"_s).setValue(true);
 }
 
+void Studio::drawLetters() {
+    Form& letters = shown<LettersWindow>();
+    auto& tree = control<TreeView>(letters, u"TV1"_s);
+    const QModelIndex group = tree.model()->index(3, 0, tree.model()->index(0, 0));
+    tree.setCurrentIndex(tree.model()->index(4, 0, group));
+    tree.scrollTo(tree.currentIndex(), QTreeView::PositionAtCenter);
+    auto& preview = control<RichTextBox>(letters, u"rtp"_s);
+    preview.Find(u"The quilt arrived yesterday, and it is already on our bed."_s);
+    preview.setFocus();
+    QApplication::processEvents();
+    keepDialog(u"letters"_s, letters);
+    letters.Hide();
+}
+
 /// The icon window with its tip and the menu of a program whose alarm is set.
 void Studio::drawTray() {
     auto& main = static_cast<frmnotes&>(shown<MainWindow>());
@@ -252,6 +271,7 @@ void Studio::drawAll() {
     drawNotesPanel();
     drawStickers();
     drawAlarmDialog();
+    drawLetters();
     drawTray();
 }
 

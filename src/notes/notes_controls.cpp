@@ -117,7 +117,7 @@ void NotesControls::makePages(QWidget& panel) {
     Label1 = title(panel, u"Label1"_s, RightTitle);
     skin::setInk(*Label3, skin::colour::Ink);
     skin::setInk(*Label1, Grey);
-    Button1 = button(panel, u"Button1"_s, {390, 47, 56, 19}, u"Edit"_s);
+    Button1 = button(panel, u"Button1"_s, {390, 48, 56, 18}, u"Edit"_s);
     rt1a = page(panel, u"rt1a"_s, RightPage, u"Right page"_s);
     rt1a->setReadOnly(true);
     rt1a->setTabChangesFocus(true);

@@ -10,6 +10,7 @@
 #include "core/dialog_controls.h"
 #include "core/mouse_pointer.h"
 #include "core/program.h"
+#include "core/window_keys.h"
 #include "runtime/app.h"
 #include "runtime/failure.h"
 #include "runtime/files.h"
@@ -61,11 +62,12 @@ frmAlSet::frmAlSet(Program& program)
         dialogFrame(*this, u"Frame1"_s, u"Set alarm time, sound or message"_s, {8, 8, 255, 229});
     makeTimeControls(*frame);
     makeMessageControls(*frame);
-    GGCommand* ok = dialogButton(*this, u"imgOK"_s, u"OK"_s, u"ok"_s, {104, 244, 76, 26});
-    GGCommand* cancel =
-        dialogButton(*this, u"imgCanc"_s, u"Cancel"_s, u"cancel"_s, {187, 244, 76, 26});
-    connect(ok, &GGCommand::Click, this, &frmAlSet::okClick);
-    connect(cancel, &GGCommand::Click, this, &Form::unloadRequested);
+    m_imgOK = dialogButton(*this, u"imgOK"_s, u"OK"_s, u"ok"_s, {104, 244, 76, 26});
+    m_imgCanc = dialogButton(*this, u"imgCanc"_s, u"Cancel"_s, u"cancel"_s, {187, 244, 76, 26});
+    connect(m_imgOK, &GGCommand::Click, this, &frmAlSet::okClick);
+    connect(m_imgCanc, &GGCommand::Click, this, &Form::unloadRequested);
+    // In the message Enter begins a line.
+    pressOnKey(*this, Qt::CTRL | Qt::Key_Return, *m_imgOK);
 }
 
 void frmAlSet::makeTimeControls(QWidget& frame) {
@@ -91,6 +93,7 @@ void frmAlSet::makeMessageControls(QWidget& frame) {
             {14, 67, 234, 15});
     GGCommand* media = dialogButton(frame, u"imgMed"_s, u"Select"_s, u"media"_s, {14, 84, 90, 25});
     connect(media, &GGCommand::Click, this, &frmAlSet::chooseMedia);
+    pressOnKey(*this, QKeySequence::Open, *media);
     caption(frame, u"Label4"_s, u"Alarm message"_s, {14, 117, 228, 15});
     m_rt1 = new RichTextBox(&frame);
     m_rt1->setObjectName(u"rt1"_s);
@@ -165,7 +168,9 @@ void frmAlSet::arm() {
 
 void frmAlSet::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape)
-        emit unloadRequested();
+        m_imgCanc->press();
+    else if (isEnter(*event))
+        m_imgOK->press();
     else
         Form::keyPressEvent(event);
 }

@@ -7,6 +7,7 @@
 namespace orvalis {
 
 class ComboBox;
+class GGCommand;
 class Label;
 class Program;
 class RichTextBox;
@@ -37,6 +38,8 @@ private:
     ComboBox* m_Combo2 = nullptr;
     Label* m_Label5 = nullptr;
     RichTextBox* m_rt1 = nullptr;
+    GGCommand* m_imgOK = nullptr;
+    GGCommand* m_imgCanc = nullptr;
 };
 
 } // namespace orvalis

@@ -6,15 +6,30 @@
 
 #include <QMetaMethod>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPointer>
+#include <QStyleOption>
 
 #include <utility>
 
 namespace orvalis {
 
+namespace {
+
+/// The window came or went with the focus in it, or a menu did.
+bool comesFromOutside(const QFocusEvent& event) {
+    return event.reason() == Qt::ActiveWindowFocusReason || event.reason() == Qt::PopupFocusReason;
+}
+
+} // namespace
+
 ClickableLabel::ClickableLabel(QWidget* parent)
     : QLabel(parent) {
     setMouseTracking(true);
+}
+
+void ClickableLabel::setTabStop(bool on) {
+    setFocusPolicy(on ? Qt::TabFocus : Qt::NoFocus);
 }
 
 void ClickableLabel::press() {
@@ -34,6 +49,58 @@ void ClickableLabel::press() {
 bool ClickableLabel::isPressable() const {
     return isSignalConnected(QMetaMethod::fromSignal(&ClickableLabel::Click)) ||
            isSignalConnected(QMetaMethod::fromSignal(&ClickableLabel::MouseDown));
+}
+
+void ClickableLabel::paintFocusMark() {
+    if (!hasFocus() || !m_marked)
+        return;
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    option.state |= QStyle::State_KeyboardFocusChange;
+    QPainter painter(this);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+}
+
+void ClickableLabel::paintEvent(QPaintEvent* event) {
+    QLabel::paintEvent(event);
+    paintFocusMark();
+}
+
+void ClickableLabel::keyPressEvent(QKeyEvent* event) {
+    const bool presses = event->key() == Qt::Key_Space || event->key() == Qt::Key_Return ||
+                         event->key() == Qt::Key_Enter;
+    const bool alone = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    if (!m_marked || !presses || !alone) {
+        QLabel::keyPressEvent(event);
+        return;
+    }
+    event->accept();
+    // A key held down is one press.
+    if (!event->isAutoRepeat())
+        press();
+}
+
+bool ClickableLabel::focusNextPrevChild(bool next) {
+    if (m_marked || !isVisible())
+        return QLabel::focusNextPrevChild(next);
+    setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    m_marked = true;
+    update();
+    return true;
+}
+
+void ClickableLabel::focusInEvent(QFocusEvent* event) {
+    QLabel::focusInEvent(event);
+    if (!comesFromOutside(*event))
+        m_marked = true;
+    update();
+}
+
+void ClickableLabel::focusOutEvent(QFocusEvent* event) {
+    QLabel::focusOutEvent(event);
+    if (!comesFromOutside(*event))
+        m_marked = false;
+    update();
 }
 
 void ClickableLabel::enterEvent(QEnterEvent* event) {

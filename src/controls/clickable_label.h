@@ -16,6 +16,11 @@ class ClickableLabel : public QLabel, public Pressable {
 public:
     explicit ClickableLabel(QWidget* parent);
 
+    /// Lets the control be reached with the Tab key, with a mark while it has the focus, and
+    /// pressed with Space or Enter, as buttons are. The mouse moves no focus to it. One that
+    /// has the focus when its window opens shows its mark, and answers keys, from the first Tab on.
+    void setTabStop(bool on);
+
     void press() override;
     /// True as soon as somebody listens to MouseDown or Click.
     bool isPressable() const override;
@@ -34,6 +39,14 @@ signals:
     void MouseExit();
 
 protected:
+    /// To be called by a control that paints itself, at the end.
+    void paintFocusMark();
+
+    bool focusNextPrevChild(bool next) override;
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -43,6 +56,7 @@ protected:
 
 private:
     bool m_leftHeld = false;
+    bool m_marked = false; ///< it has the focus, and the user knows
 };
 
 } // namespace orvalis

@@ -2,7 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "controls/combo_box.h"
 
+#include "controls/edit_menu.h"
+
 #include <QAbstractItemView>
+#include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPointer>
@@ -31,6 +35,7 @@ ComboBox::ComboBox(QWidget* parent, Style style)
         // pressed or the box is left. It was typed, and its change has been told.
         lineEdit()->disconnect(SIGNAL(editingFinished()), this);
         connect(lineEdit(), &QLineEdit::textChanged, this, &ComboBox::textChanged);
+        giveEditMenu(*lineEdit());
     }
 }
 
@@ -82,6 +87,17 @@ void ComboBox::hidePopup() {
         QTimer::singleShot(0, this, [this] { m_choosing = false; });
     }
     QComboBox::hidePopup();
+}
+
+void ComboBox::contextMenuEvent(QContextMenuEvent* event) {
+    // The menu key finds the box, not its line; Qt would open a menu of its own.
+    if (lineEdit() == nullptr) {
+        QComboBox::contextMenuEvent(event);
+        return;
+    }
+    QContextMenuEvent onLine(event->reason(), lineEdit()->mapFrom(this, event->pos()),
+                             event->globalPos(), event->modifiers());
+    QCoreApplication::sendEvent(lineEdit(), &onLine);
 }
 
 void ComboBox::keyPressEvent(QKeyEvent* event) {

@@ -9,7 +9,8 @@ namespace orvalis {
 /// A box with a list below it. A *change* is typed text, or text set by code that differs; a
 /// *click* is a choice from the list, the entry that already stands there included. Filling the
 /// list is neither, and leaves the text as it is. The box completes nothing, never puts a typed
-/// text into its list, and the wheel turns it only while it has the focus.
+/// text into its list, and the wheel turns it only while it has the focus. Where text can be typed,
+/// a right click opens the editing menu.
 class ComboBox : public QComboBox {
     Q_OBJECT
 public:
@@ -46,6 +47,7 @@ signals:
     void Click();
 
 protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 

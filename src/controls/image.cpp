@@ -98,8 +98,8 @@ void Image::paintEvent(QPaintEvent*) {
         render();
     if (pixmap().isNull())
         return;
-    QPainter painter(this);
-    painter.drawPixmap(rect(), isEnabled() ? pixmap() : disabledPixmap());
+    QPainter(this).drawPixmap(rect(), isEnabled() ? pixmap() : disabledPixmap());
+    paintFocusMark();
 }
 
 void Image::resizeEvent(QResizeEvent* event) {

@@ -12,6 +12,7 @@
 #include <QPainter>
 #include <QPalette>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QToolTip>
 
@@ -133,6 +134,8 @@ MSFlexGrid::MSFlexGrid(QWidget* parent)
     setShowGrid(false);
     setWordWrap(false);
     setContextMenuPolicy(Qt::PreventContextMenu);
+    for (QScrollBar* bar : {verticalScrollBar(), horizontalScrollBar()})
+        bar->setContextMenuPolicy(Qt::PreventContextMenu);
     setHorizontalScrollMode(ScrollPerPixel);
     for (QHeaderView* header : {horizontalHeader(), verticalHeader()}) {
         header->setMinimumSectionSize(1);

@@ -16,6 +16,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextDocument>
 
@@ -51,6 +52,8 @@ RichTextBox::RichTextBox(QWidget* parent)
     , m_positions(std::make_unique<TextPositions>(*document()))
     , m_undoKinds(std::make_unique<UndoKinds>()) {
     rtf::DocumentRoom::of(*document());
+    for (QScrollBar* bar : {verticalScrollBar(), horizontalScrollBar()})
+        bar->setContextMenuPolicy(Qt::PreventContextMenu);
     connect(document(), &QTextDocument::contentsChange, this, &RichTextBox::takeChange);
     connect(document(), &QTextDocument::contentsChanged, this, [this] {
         m_undoKinds->stepsChanged(document()->availableUndoSteps(), m_movesThroughHistory);

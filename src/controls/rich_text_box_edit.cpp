@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "controls/document_reading.h"
+#include "controls/edit_menu.h"
 #include "controls/rich_clipboard.h"
 #include "controls/rich_text_box.h"
 #include "controls/selection_format.h"
@@ -14,7 +15,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
-#include <QMenu>
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QTextBlock>
@@ -64,6 +64,11 @@ bool leaveMarks(QTextCursor& cursor) {
     format.clearProperty(rtf::ControlMarks);
     cursor.setCharFormat(format);
     return true;
+}
+
+/// Where Tab leaves the box, Control and Tab writes one.
+bool writesTab(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Tab && event.modifiers() == Qt::ControlModifier;
 }
 
 } // namespace
@@ -180,6 +185,10 @@ void RichTextBox::keyPressEvent(QKeyEvent* event) {
     } else if (event->matches(QKeySequence::InsertParagraphSeparator) && !isReadOnly()) {
         const UndoKindScope kind(*m_undoKinds, UndoKind::Typing);
         typeParagraphEnd();
+    } else if (writesTab(*event) && tabChangesFocus() && !isReadOnly()) {
+        const UndoKindScope kind(*m_undoKinds, UndoKind::Typing);
+        QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier, QStringLiteral("\t"));
+        typeText(&tab);
     } else if (types(*event) && !isReadOnly()) {
         const UndoKindScope kind(*m_undoKinds, UndoKind::Typing);
         typeText(event);
@@ -315,30 +324,19 @@ void RichTextBox::contextMenuEvent(QContextMenuEvent* event) {
         event->ignore();
         return;
     }
-    QMenu menu(this);
-    menu.setObjectName(QStringLiteral("editMenu"));
-    const auto add = [&](const QString& text, const QString& name, bool enabled, auto&& command) {
-        QAction* const action = menu.addAction(text, this, command);
-        action->setObjectName(name);
-        action->setEnabled(enabled);
-    };
     const bool writable = !isReadOnly();
     const bool selected = editCursor().hasSelection();
-    add(tr("&Undo"), QStringLiteral("editUndo"), writable && CanUndo(), [this] { Undo(); });
-    menu.addSeparator();
-    add(
-        tr("Cu&t"), QStringLiteral("editCut"), writable && selected, [this] { Cut(); });
-    add(
-        tr("&Copy"), QStringLiteral("editCopy"), selected, [this] { Copy(); });
-    add(tr("&Paste"), QStringLiteral("editPaste"), CanPaste(), [this] { Paste(); });
-    add(tr("&Delete"), QStringLiteral("editDelete"), writable && selected, [this] {
-        const UndoKindScope kind(*m_undoKinds, UndoKind::Delete);
-        SetSelText(QString());
-    });
-    menu.addSeparator();
-    add(tr("Select &All"), QStringLiteral("editSelectAll"), !document()->isEmpty(),
-        [this] { selectAll(); });
-    menu.exec(event->globalPos());
+    popUpEditMenu(*this, event->globalPos(),
+                  {.undo = {writable && CanUndo(), [this] { Undo(); }},
+                   .cut = {writable && selected, [this] { Cut(); }},
+                   .copy = {selected, [this] { Copy(); }},
+                   .paste = {CanPaste(), [this] { Paste(); }},
+                   .remove = {writable && selected,
+                              [this] {
+                                  const UndoKindScope kind(*m_undoKinds, UndoKind::Delete);
+                                  SetSelText(QString());
+                              }},
+                   .selectAll = {!document()->isEmpty(), [this] { selectAll(); }}});
     event->accept();
 }
 

@@ -7,6 +7,7 @@
 #include "core/alarm_label.h"
 #include "core/chrome_window.h"
 #include "core/clock_label.h"
+#include "core/picture_button.h"
 #include "core/program.h"
 #include "core/skin_picture.h"
 #include "runtime/aligned_timer.h"
@@ -34,6 +35,7 @@ void ChromeWindow::makeTriple(Triple& triple, const QString& name, const QString
     triple.shown->setGeometry(place);
     triple.shown->setPicture(triple.normal->Picture());
     triple.shown->setToolTip(toolTip);
+    triple.shown->setTabStop(true);
     connect(triple.shown, &Image::MouseMove, this, [this, &triple] { hover(triple); });
     // A quick pointer goes from the button straight to another control or out of the window, over
     // no point of the form.
@@ -65,21 +67,13 @@ void ChromeWindow::makeAlarmDisplay() {
     skin::setInk(*lblAlarm, skin::colour::GlassText);
     connect(lblAlarm, &Label::Change, this, &ChromeWindow::alarmCaptionChanged);
 
-    imgSet = new Image(u"imgSet"_s, this);
-    imgSet->setGeometry(layout.set);
-    imgSet->setPicture(skinPicture(layout.setPicture));
-    imgSet->setHoverPicture(skinPicture(layout.setPicture + u"_hover"_s));
-    imgSet->setToolTip(m_row.setToolTip);
+    imgSet = pictureButton(*this, u"imgSet"_s, layout.set, m_row.setToolTip, layout.setPicture);
     connect(imgSet, &Image::Click, this, [this] {
         if (m_program.windows.knows<AlarmSetDialog>())
             m_program.windows.get<AlarmSetDialog>().form().Show();
     });
 
-    imgStop = new Image(u"imgStop"_s, this);
-    imgStop->setGeometry(layout.stop);
-    imgStop->setPicture(skinPicture(layout.stopPicture));
-    imgStop->setHoverPicture(skinPicture(layout.stopPicture + u"_hover"_s));
-    imgStop->setToolTip(u" STOP "_s);
+    imgStop = pictureButton(*this, u"imgStop"_s, layout.stop, u" STOP "_s, layout.stopPicture);
     imgStop->hide();
     connect(imgStop, &Image::Click, this, &ChromeWindow::stopClick);
 }
@@ -103,6 +97,7 @@ void ChromeWindow::makePanelLabels() {
         label->setGeometry(layout.labels.at(i));
         label->setAlignment(Qt::AlignCenter);
         label->setFont(skin::font(skin::points::PanelLabel));
+        label->setTabStop(true);
         skin::setInk(*label, skin::colour::LabelInk);
         connect(
             label, &Label::MouseEnter, label,
@@ -116,6 +111,20 @@ void ChromeWindow::makePanelLabels() {
         else
             connect(label, &Label::Click, this, lead);
         panelLabels.at(i) = label;
+    }
+}
+
+void ChromeWindow::tabToChromeAfter(QWidget& last) {
+    QWidget* before = &last;
+    // What stops the alarm comes ahead of what sets it: where the one that was pressed goes, the
+    // focus passes to the other.
+    for (QWidget* next :
+         std::initializer_list<QWidget*>{panelLabels[0], panelLabels[1], panelLabels[2], imgStop,
+                                         imgSet, imgMini, imgHelp, imgExit}) {
+        if (next == nullptr)
+            continue;
+        setTabOrder(before, next);
+        before = next;
     }
 }
 

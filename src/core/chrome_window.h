@@ -56,6 +56,8 @@ protected:
     void layOut();
     /// Gives the window the size of its background picture.
     void takeSizeOfBackground();
+    /// Puts the chrome behind the window's own controls in the order of the Tab key.
+    void tabToChromeAfter(QWidget& last);
     /// Gives the normal picture back to an image button that the pointer has left.
     void HoverReset();
     /// Lets a picture that covers the form behave as the form itself: under the pointer hover ends,

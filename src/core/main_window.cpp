@@ -4,8 +4,8 @@
 
 #include "controls/image.h"
 #include "controls/label.h"
+#include "core/picture_button.h"
 #include "core/program.h"
-#include "core/skin_picture.h"
 
 namespace orvalis {
 
@@ -13,10 +13,14 @@ using namespace Qt::StringLiterals;
 
 frmnotes::frmnotes(Program& program)
     : ChromePanel(program, chromeRow(ChromeKind::Main)) {
-    makeOpener(1, u"open_reminder"_s, u"Reminder"_s, {14, 147, 146, 144}, ChromeKind::Reminder);
+    Image* first =
+        makeOpener(1, u"open_reminder"_s, u"Reminder"_s, {14, 147, 146, 144}, ChromeKind::Reminder);
     makeOpener(2, u"open_notes"_s, u"Notes"_s, {160, 147, 146, 144}, ChromeKind::Notes);
     makeOpener(3, u"open_address"_s, u"Address"_s, {14, 293, 146, 144}, ChromeKind::Address);
-    makeOpener(4, u"open_password"_s, u"Password"_s, {160, 293, 146, 144}, ChromeKind::Password);
+    Image* last = makeOpener(4, u"open_password"_s, u"Password"_s, {160, 293, 146, 144},
+                             ChromeKind::Password);
+    tabToChromeAfter(*last);
+    first->setFocus();
     auto* label = new Label(u"Label2"_s, u"L2"_s, this);
     label->setGeometry(0, 466, 10, 10);
     label->hide();
@@ -26,16 +30,14 @@ void frmnotes::onLoad() {
     layOut();
 }
 
-void frmnotes::makeOpener(int number, const QString& picture, const QString& name,
-                          const QRect& place, ChromeKind target) {
-    auto* opener = new Image(u"imgopen%1"_s.arg(number), this);
-    opener->setGeometry(place);
-    opener->setPicture(skinPicture(picture));
-    opener->setHoverPicture(skinPicture(picture + u"_hover"_s));
+Image* frmnotes::makeOpener(int number, const QString& picture, const QString& name,
+                            const QRect& place, ChromeKind target) {
+    Image* opener = pictureButton(*this, u"imgopen%1"_s.arg(number), place, {}, picture);
     // The picture carries its word, so it needs no tool tip; who cannot see it hears the word.
     opener->setAccessibleName(name);
     connect(opener, &Image::MouseMove, this, &frmnotes::HoverReset);
     connect(opener, &Image::MouseDown, this, [this, target] { openPanel(target); });
+    return opener;
 }
 
 } // namespace orvalis

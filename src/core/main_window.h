@@ -17,8 +17,8 @@ protected:
     void onLoad() override;
 
 private:
-    void makeOpener(int number, const QString& picture, const QString& name, const QRect& place,
-                    ChromeKind target);
+    Image* makeOpener(int number, const QString& picture, const QString& name, const QRect& place,
+                      ChromeKind target);
 };
 
 } // namespace orvalis

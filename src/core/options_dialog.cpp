@@ -6,6 +6,7 @@
 #include "controls/label.h"
 #include "core/dialog_controls.h"
 #include "core/program.h"
+#include "core/window_keys.h"
 #include "platform/registry.h"
 #include "runtime/app.h"
 #include "runtime/clock_text.h"
@@ -139,11 +140,10 @@ void frmOptions::makeTimeFrame() {
 }
 
 void frmOptions::makeButtons() {
-    GGCommand* ok = dialogButton(*this, u"imgOK"_s, u"OK"_s, u"ok"_s, {79, 232, 76, 26});
-    GGCommand* cancel =
-        dialogButton(*this, u"imgCanc"_s, u"Cancel"_s, u"cancel"_s, {162, 232, 76, 26});
-    connect(ok, &GGCommand::Click, this, &frmOptions::okClick);
-    connect(cancel, &GGCommand::Click, this, &Form::unloadRequested);
+    m_imgOK = dialogButton(*this, u"imgOK"_s, u"OK"_s, u"ok"_s, {79, 232, 76, 26});
+    m_imgCanc = dialogButton(*this, u"imgCanc"_s, u"Cancel"_s, u"cancel"_s, {162, 232, 76, 26});
+    connect(m_imgOK, &GGCommand::Click, this, &frmOptions::okClick);
+    connect(m_imgCanc, &GGCommand::Click, this, &Form::unloadRequested);
 }
 
 bool frmOptions::builtInPlayer() const {
@@ -176,6 +176,8 @@ void frmOptions::onLoad() {
                [&] { setOption(*m_optSort[1], flag(u"Reg"_s, u"2nd"_s, u"False"_s)); },
                [&] { format = wholeNumber(settings.setting(u"Reg"_s, u"Vreme"_s, u"0"_s)); },
                [&] { m_lstvreme->setText(m_lstvreme->List(format)); });
+    // Of a group of options the keyboard comes to the chosen one; where none is, to the first.
+    m_Option1[m_Option1[1]->isChecked() ? 1 : 0]->setFocus();
 }
 
 void frmOptions::lstvremeClick() {
@@ -207,7 +209,9 @@ void frmOptions::writeSettings() const {
 
 void frmOptions::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape)
-        emit unloadRequested();
+        m_imgCanc->press();
+    else if (isEnter(*event))
+        m_imgOK->press();
     else
         Form::keyPressEvent(event);
 }

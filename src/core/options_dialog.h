@@ -52,6 +52,8 @@ private:
     QCheckBox* m_Check1 = nullptr;
     std::array<QRadioButton*, 2> m_optSort = {};
     ComboBox* m_lstvreme = nullptr;
+    GGCommand* m_imgOK = nullptr;
+    GGCommand* m_imgCanc = nullptr;
     Integer16 m_selected = 0; ///< only a click on the list sets it
 };
 

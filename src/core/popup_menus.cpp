@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "core/popup_menus.h"
 
+#include "controls/clickable_label.h"
 #include "core/help_file.h"
 #include "core/program.h"
 #include "runtime/app.h"
 
+#include <QApplication>
 #include <QCursor>
 #include <QMenu>
 
@@ -14,6 +16,15 @@ namespace orvalis {
 namespace {
 
 using namespace Qt::StringLiterals;
+
+/// Where a menu opens: at the pointer, or below the picture whose key asked for it. Such a picture
+/// has the focus by the keyboard alone; another one may be under the pointer meanwhile.
+QPoint menuPlace() {
+    const QWidget* focused = QApplication::focusWidget();
+    const bool byKey = qobject_cast<const ClickableLabel*>(focused) != nullptr &&
+                       QGuiApplication::mouseButtons() == Qt::NoButton && !focused->underMouse();
+    return byKey ? focused->mapToGlobal(QPoint(0, focused->height())) : QCursor::pos();
+}
 
 } // namespace
 
@@ -49,7 +60,7 @@ QMenu* frmdel1::makeHelpMenu() {
 void frmdel1::PopupMenu(const QString& name) {
     auto* menu = findChild<QMenu*>(name);
     Q_ASSERT(menu != nullptr);
-    menu->exec(QCursor::pos());
+    menu->exec(menuPlace());
     throwIfEnded();
 }
 

@@ -7,6 +7,7 @@
 #include "core/chrome_window.h"
 #include "core/program.h"
 #include "core/sys_tray.h"
+#include "runtime/at_rest.h"
 
 #include <QAction>
 
@@ -30,11 +31,6 @@ QIcon iconOf(const Image& image) {
 
 } // namespace
 
-void TrayHandover::Later::operator()(frmSysTray* form) const {
-    // It may be one of its own events that sends it away.
-    form->deleteLater();
-}
-
 TrayHandover::TrayHandover(ChromeWindow& window, TrayIcon& tray)
     : m_window(window)
     , m_tray(tray) {}
@@ -50,7 +46,7 @@ void TrayHandover::TrayBuild() {
     }
     if (m_frmSysTray)
         unloadTrayForm();
-    m_frmSysTray.reset(new frmSysTray(m_window.program(), m_tray, m_idleIcon));
+    m_frmSysTray = std::make_unique<frmSysTray>(m_window.program(), m_tray, m_idleIcon);
     frmSysTray& form = *m_frmSysTray;
     connect(&form, &frmSysTray::MenuClick, this,
             [this](int, const QString& key) { MenuClick(key); });
@@ -145,7 +141,8 @@ void TrayHandover::unloadTrayForm() {
     // A choice that was made twice before the first could be met must find nobody listening.
     m_frmSysTray->disconnect(this);
     m_frmSysTray->unload();
-    m_frmSysTray.reset();
+    // It may be one of its own events that sends it away.
+    deleteAtRest(std::move(m_frmSysTray), *this);
 }
 
 } // namespace orvalis

@@ -30,10 +30,6 @@ public:
     frmSysTray* trayForm() const { return m_frmSysTray.get(); }
 
 private:
-    struct Later {
-        void operator()(frmSysTray* form) const;
-    };
-
     void MenuClick(const QString& key);
     void SysTrayDoubleClick(int button);
     void SysTrayMouseDown(int button);
@@ -46,7 +42,7 @@ private:
     TrayIcon& m_tray;
     QIcon m_idleIcon;
     QIcon m_armedIcon;
-    std::unique_ptr<frmSysTray, Later> m_frmSysTray;
+    std::unique_ptr<frmSysTray> m_frmSysTray;
 };
 
 } // namespace orvalis

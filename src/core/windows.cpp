@@ -2,24 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "core/windows.h"
 
+#include "runtime/at_rest.h"
 #include "runtime/failure.h"
 
 namespace orvalis {
-
-namespace {
-
-/// Keeps an unloaded window alive until the handlers on the stack are done with it.
-class Remains final : public QObject {
-public:
-    Remains(std::unique_ptr<WindowRole> window, QObject* parent)
-        : QObject(parent)
-        , m_window(std::move(window)) {}
-
-private:
-    std::unique_ptr<WindowRole> m_window;
-};
-
-} // namespace
 
 Windows::~Windows() {
     // A window that goes may ask for others; it must find none of those already half destroyed.
@@ -54,9 +40,9 @@ void Windows::unload(std::type_index role) {
         return;
     const auto release = [this, role] {
         const auto found = m_instances.find(role);
-        auto* remains = new Remains(std::move(found->second), &m_unloaded);
+        std::shared_ptr<void> remains = std::move(found->second);
         m_instances.erase(found);
-        remains->deleteLater();
+        deleteAtRest(std::move(remains), m_unloaded);
     };
     try {
         window->form().unload();

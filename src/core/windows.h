@@ -50,7 +50,7 @@ public:
     }
 
     /// Runs query-unload and unload and releases the instance; the next reference makes a new one.
-    /// The old one is deleted when the event loop turns, as one of its handlers may be running.
+    /// The old one is deleted when none of its handlers can be running any more.
     /// Does nothing where there is none.
     template <class Role>
     void unload() {

@@ -9,6 +9,7 @@
 #include "core/dialog_controls.h"
 #include "core/program.h"
 #include "core/top_most.h"
+#include "core/window_keys.h"
 #include "letters/template_tree.h"
 #include "runtime/failure.h"
 #include "skin/skin.h"
@@ -83,6 +84,7 @@ void frmpisma::makeButtons() {
     GGCommand* cancel =
         dialogButton(*this, u"Command2"_s, u"Cancel"_s, u"cancel"_s, {206, 365, 76, 26});
     connect(insert, &GGCommand::Click, this, &frmpisma::insertClick);
+    pressOnKey(*this, Qt::CTRL | Qt::Key_Return, *insert);
     connect(cancel, &GGCommand::Click, this, &Form::unloadRequested);
 }
 

@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "password/password_controls.h"
 
+#include "controls/edit_menu.h"
 #include "controls/image.h"
 #include "controls/label.h"
 #include "controls/progress_bar.h"
 #include "controls/rich_text_box.h"
 #include "controls/twips_geometry.h"
 #include "core/button_look.h"
+#include "core/picture_button.h"
 #include "core/skin_picture.h"
 #include "skin/type.h"
 #include "widgets/gg_command.h"
@@ -78,6 +80,7 @@ void PasswordControls::makeFrame(QWidget& panel) {
     txtPW->setObjectName(u"txtPW"_s);
     txtPW->setAccessibleName(u"Password"_s);
     txtPW->setEchoMode(QLineEdit::Password);
+    giveEditMenu(*txtPW);
     txtPW->setFont(skin::font(SmallPoints));
     QPalette palette = txtPW->palette();
     palette.setColor(QPalette::Base, QColor(FieldPaper));
@@ -98,10 +101,7 @@ void PasswordControls::makeFrame(QWidget& panel) {
 void PasswordControls::makeCommands(QWidget& panel) {
     int left = CommandsLeft;
     const auto command = [&](const QString& name, const QString& toolTip, const QString& picture) {
-        auto* image = new Image(name, &panel);
-        image->setToolTip(toolTip);
-        image->setPicture(skinPicture(picture));
-        image->setHoverPicture(skinPicture(picture + u"_hover"_s));
+        Image* image = pictureButton(panel, name, {}, toolTip, picture);
         setTwipsGeometry(*image, QRectF(left, CommandsTop, CommandSize, CommandSize));
         left += CommandStep;
         return image;

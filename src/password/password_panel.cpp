@@ -9,6 +9,7 @@
 #include "controls/rich_text_box.h"
 #include "core/mouse_pointer.h"
 #include "core/program.h"
+#include "core/window_keys.h"
 #include "password/text_cipher.h"
 #include "platform/shell.h"
 #include "runtime/ansi_page.h"
@@ -60,6 +61,9 @@ frmnotes4::frmnotes4(Program& program)
     for (int index = 0; index < 2; ++index)
         connect(ui.cmdCrypt.at(static_cast<std::size_t>(index)), &GGCommand::Click, this,
                 [this, index] { cmdCrypt_Click(index); });
+    pressOnKey(*this, Qt::CTRL | Qt::Key_E, *ui.cmdCrypt[0]);
+    pressOnKey(*this, Qt::CTRL | Qt::Key_D, *ui.cmdCrypt[1]);
+    tabToChromeAfter(*ui.imgBack);
 }
 
 void frmnotes4::onLoad() {

@@ -3,6 +3,7 @@
 #include "planner/reminder_controls.h"
 
 #include "controls/combo_box.h"
+#include "controls/edit_menu.h"
 #include "controls/image.h"
 #include "controls/label.h"
 #include "controls/month_view.h"
@@ -10,6 +11,7 @@
 #include "controls/rich_text_box.h"
 #include "controls/title_line.h"
 #include "core/button_look.h"
+#include "core/picture_button.h"
 #include "core/skin_picture.h"
 #include "skin/type.h"
 #include "widgets/gg_command.h"
@@ -36,11 +38,7 @@ constexpr QSize CommandSize(51, 25);
 /// A picture button.
 Image* command(QWidget& parent, const QString& name, const QRect& place, const QString& toolTip,
                const QString& pictureName) {
-    auto* image = new Image(name, &parent);
-    image->setGeometry(place);
-    image->setToolTip(toolTip);
-    image->setPicture(skinPicture(pictureName));
-    image->setHoverPicture(skinPicture(pictureName + u"_hover"_s));
+    Image* image = pictureButton(parent, name, place, toolTip, pictureName);
     image->setDisabledPicture(skinPicture(pictureName + u"_disabled"_s));
     return image;
 }
@@ -130,7 +128,7 @@ ReminderControls::ReminderControls(QWidget& panel) {
     makeReminderFrame(panel);
     makeFindFrame(panel);
     makeSubPanels(panel);
-    keepMenusAway();
+    setEditMenus();
     setTabOrder();
 }
 
@@ -219,29 +217,26 @@ void ReminderControls::makeSubPanels(QWidget& panel) {
     imgoe = button(*OwnerFrame[3], u"imgoe"_s, SavePlace, u"Save"_s, u"save_small"_s);
 }
 
-void ReminderControls::keepMenusAway() {
-    for (RichTextBox* box : {rt1, rtMs2, rt1a, rt2})
-        box->setEditMenu(false);
-    for (QLineEdit* edit : {txt1, Text1, Combo1->lineEdit(), Combo2->lineEdit()})
-        edit->setContextMenuPolicy(Qt::PreventContextMenu);
+void ReminderControls::setEditMenus() {
+    // The right click on the to-do document is for the menu that clears.
+    rt1a->setEditMenu(false);
+    for (QLineEdit* edit : {txt1, Text1})
+        giveEditMenu(*edit);
 }
 
 void ReminderControls::setTabOrder() {
     const std::initializer_list<QWidget*> order{
-        txt1,       rt1,        Command2,   chkRemind,      chkTop,  Combo1,
-        Combo2,     rtMs2,      chkSound,   Button1,        Button2, Text1,
-        Check1,     Check2,     FindButton, FindNextButton, imgBack, MonthView1,
-        cmdmenu[0], cmdmenu[1], cmdmenu[2], cmdmenu[3],     MS3,     imgso,
-        MS1,        imgsoo,     rt1a,       imstodo,        rt2,     Button4,
-        imgOpen,    Button6,    Button5,    imgoe};
+        txt1,     rt1,    chkRemind,  chkTop, Combo1, Combo2,  rtMs2,
+        chkSound, Text1,  Check1,     Check2, imgNew, imgSave, imgDel,
+        imgFind,  imgNot, MonthView1, MS3,    MS1,    rt1a,    rt2};
     QWidget* before = nullptr;
     for (QWidget* control : order) {
         if (before)
             QWidget::setTabOrder(before, control);
         before = control;
     }
-    rt1->setTabChangesFocus(true);
-    rtMs2->setTabChangesFocus(true);
+    for (RichTextBox* box : {rt1, rtMs2, rt1a, rt2})
+        box->setTabChangesFocus(true);
 }
 
 } // namespace orvalis

@@ -89,7 +89,7 @@ private:
     void makeReminderFrame(QWidget& panel);
     void makeFindFrame(QWidget& panel);
     void makeSubPanels(QWidget& panel);
-    void keepMenusAway();
+    void setEditMenus();
     void setTabOrder();
 };
 

@@ -32,6 +32,8 @@ frmnotes1::frmnotes1(Program& program)
     connectLists();
     connectPlanner();
     connectClearMenu();
+    connectKeys();
+    tabToChromeAfter(*ui.rt2);
     connect(
         ui.MonthView1, &MonthView::DateClick, this,
         [this](QDate date) {

@@ -61,6 +61,7 @@ protected:
     void onUnload() override { Sacremi(); }
     bool exitExtra() override;
     void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     // reminder_panel.cpp
@@ -99,6 +100,11 @@ private:
     void FindButton_Click();
     void FindNextButton_Click();
     void find(int leastFound);
+
+    // reminder_keys.cpp: what the keyboard does beside the controls
+    void connectKeys();
+    bool onRightPage() const;
+    void showSubPanelByKey(std::size_t index);
 
     // reminder_lists.cpp: sub-panels, grids and their files
     void connectLists();

@@ -48,9 +48,15 @@ QLinearGradient downward(const QRectF& rect, QRgb top, QRgb bottom) {
 QColor edge(QStyle::State state) {
     if (!enabled(state))
         return QColor::fromRgba(colour::LineSoft);
-    if (state.testFlag(QStyle::State_HasFocus) || state.testFlag(QStyle::State_MouseOver))
+    if (state.testFlag(QStyle::State_HasFocus))
         return QColor::fromRgba(colour::Teal);
-    return QColor::fromRgba(colour::Line);
+    return QColor::fromRgba(hovered(state) ? colour::TealSoft : colour::Line);
+}
+
+/// The pen of an edge. Where the keys go is told more strongly than where the pointer is.
+QPen edgePen(QStyle::State state) {
+    const bool focused = enabled(state) && state.testFlag(QStyle::State_HasFocus);
+    return QPen(edge(state), focused ? 2 : 1);
 }
 
 QColor ink(QStyle::State state) {
@@ -79,9 +85,11 @@ QBrush boxFill(const QRectF& rect, QStyle::State state) {
 
 void field(QPainter& painter, const QRect& rect, const QBrush& fill, QStyle::State state) {
     const Smooth smooth(painter);
-    painter.setPen(QPen(edge(state), 1));
+    const QPen pen = edgePen(state);
+    const qreal middle = pen.widthF() / 2;
+    painter.setPen(pen);
     painter.setBrush(fill);
-    painter.drawRoundedRect(outline(rect), 3.5, 3.5);
+    painter.drawRoundedRect(QRectF(rect).adjusted(middle, middle, -middle, -middle), 3.5, 3.5);
 }
 
 void button(QPainter& painter, const QRect& rect, QStyle::State state, bool isDefault) {
@@ -122,7 +130,7 @@ void toolButton(QPainter& painter, const QRect& rect, QStyle::State state) {
 void checkBox(QPainter& painter, const QRect& rect, QStyle::State state) {
     const Smooth smooth(painter);
     const QRectF box = square(rect);
-    painter.setPen(QPen(edge(state), 1));
+    painter.setPen(edgePen(state));
     painter.setBrush(boxFill(box, state));
     painter.drawRoundedRect(box, 3, 3);
     if (state.testFlag(QStyle::State_Off))
@@ -147,7 +155,7 @@ void checkBox(QPainter& painter, const QRect& rect, QStyle::State state) {
 void option(QPainter& painter, const QRect& rect, QStyle::State state) {
     const Smooth smooth(painter);
     const QRectF circle = square(rect);
-    painter.setPen(QPen(edge(state), 1));
+    painter.setPen(edgePen(state));
     painter.setBrush(boxFill(circle, state));
     painter.drawEllipse(circle);
     if (!state.testFlag(QStyle::State_On))
@@ -190,10 +198,12 @@ void combo(QPainter& painter, const QStyleOptionComboBox& combo, const QRect& ar
     {
         const Smooth smooth(painter);
         QPainterPath face;
-        const QRectF whole = outline(combo.rect);
+        const QPen pen = edgePen(state);
+        const qreal middle = pen.widthF() / 2;
+        const QRectF whole = QRectF(combo.rect).adjusted(middle, middle, -middle, -middle);
         face.addRoundedRect(whole, 3.5, 3.5);
         painter.setClipRect(arrowRect.adjusted(0, 0, 2, 0));
-        painter.setPen(QPen(edge(state), 1));
+        painter.setPen(pen);
         painter.setBrush(enabled(state) ? QBrush(downward(whole, 0xFFFAFDFF, 0xFFCFE3EA))
                                         : QBrush(QColor(0xEC, 0xF0, 0xEF)));
         painter.drawPath(face);
@@ -291,9 +301,13 @@ void item(QPainter& painter, const QRect& rect, QStyle::State state) {
 
 void focus(QPainter& painter, const QRect& rect) {
     const Smooth smooth(painter);
-    painter.setPen(QPen(QColor(0, 128, 128, 110), 1));
+    const QRectF ring = QRectF(rect).adjusted(1.5, 1.5, -1.5, -1.5);
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(outline(rect), 3, 3);
+    // Light below dark: one of the two stands out from paper, pictures and dark glass alike.
+    painter.setPen(QPen(QColor(255, 255, 255, 220), 3));
+    painter.drawRoundedRect(ring, 3, 3);
+    painter.setPen(QPen(QColor::fromRgba(colour::Teal), 1.6));
+    painter.drawRoundedRect(ring, 3, 3);
 }
 
 } // namespace orvalis::skin::faces

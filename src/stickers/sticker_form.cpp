@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "stickers/sticker_form.h"
 
+#include "controls/edit_menu.h"
 #include "controls/image.h"
 #include "controls/mouse_numbers.h"
 #include "controls/rich_text_box.h"
@@ -14,6 +15,7 @@
 #include "core/resize_form.h"
 #include "core/skin_picture.h"
 #include "core/top_most.h"
+#include "core/window_keys.h"
 #include "core/window_shape.h"
 #include "platform/screen.h"
 #include "runtime/aligned_timer.h"
@@ -77,6 +79,9 @@ StickerForm::StickerForm(Program& program, const QString& name, const QString& d
     makeText();
     makeClock();
     m_unsaved = m_program.recovery.add([this] { return unsavedText(); });
+    pressOnKey(*this, QKeySequence::New, *add);
+    pressOnKey(*this, Qt::CTRL | Qt::Key_D, *font);
+    pressOnKey(*this, Qt::CTRL | Qt::Key_W, *close);
 }
 
 GGCommand* StickerForm::makeButton(const QString& name, const QString& picture,
@@ -104,6 +109,7 @@ Image* StickerForm::makePin(const QString& name, const QString& picture,
     image->setPicture(skinPicture(picture));
     image->setHoverPicture(skinPicture(picture + u"_hover"_s));
     image->setAccessibleName(spokenName);
+    image->setTabStop(true);
     return image;
 }
 
@@ -118,6 +124,7 @@ void StickerForm::makeTitle() {
     skin::setInk(*m_txtLabel1, skin::colour::StickerInk, QPalette::Text);
     connect(m_txtLabel1, &QLineEdit::textChanged, this, &StickerForm::setWindowTitle);
     makeTitleLine(*m_txtLabel1);
+    giveEditMenu(*m_txtLabel1);
 }
 
 void StickerForm::makeText() {
@@ -127,6 +134,7 @@ void StickerForm::makeText() {
     m_Text1->setProperty("skinSurface", u"paper"_s);
     m_Text1->setFont(skin::font(skin::points::Body));
     m_Text1->setAccessibleName(u"Note"_s);
+    m_Text1->setTabChangesFocus(true);
 }
 
 void StickerForm::makeClock() {
@@ -175,8 +183,12 @@ std::vector<UnsavedText> StickerForm::unsavedText() const {
 }
 
 void StickerForm::pin(bool onTop) {
+    const bool byKey = m_imgOff->hasFocus() || m_imgOn->hasFocus();
     m_imgOff->setVisible(onTop);
     m_imgOn->setVisible(!onTop);
+    // The pin stays where the keys go.
+    if (byKey)
+        (onTop ? m_imgOff : m_imgOn)->setFocus();
     if (onTop)
         SetTopMost(*this);
     else

@@ -3,6 +3,7 @@
 #include "stickers/stickers.h"
 
 #include "core/program.h"
+#include "runtime/at_rest.h"
 #include "stickers/sticker_form.h"
 
 #include <algorithm>
@@ -47,9 +48,10 @@ void Stickers::close(StickerForm* sticker) {
         m_globalXn = nullptr;
     const auto place = std::find_if(m_open.begin(), m_open.end(),
                                     [&](const auto& open) { return open.get() == sticker; });
-    // The handlers of its close button are still on the stack.
-    place->release()->deleteLater();
+    std::shared_ptr<void> remains = std::move(*place);
     m_open.erase(place);
+    // Its close button, a menu of its text or a drag out of it may be on the stack.
+    deleteAtRest(std::move(remains), *this);
 }
 
 } // namespace orvalis

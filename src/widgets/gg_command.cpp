@@ -23,7 +23,8 @@ GGCommand::GGCommand(const QString& name, QWidget* parent)
     : QWidget(parent)
     , m_imgPicture(new Image(u"imgPicture"_s, this)) {
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setFocusPolicy(Qt::StrongFocus);
+    // It answers no key; whoever comes by keyboard is served by the keys of its window.
+    setFocusPolicy(Qt::ClickFocus);
     setMouseTracking(true);
     m_imgPicture->hide();
     m_imgPicture->installEventFilter(this);

@@ -11,6 +11,7 @@
 #include "widgets/gg_command.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QDir>
 #include <QGroupBox>
 #include <QLineEdit>
@@ -68,6 +69,62 @@ struct Dialog {
 class AlarmSetDialogTest : public QObject {
     Q_OBJECT
 private slots:
+    void enterIsOkAndEscapeIsCancel() {
+        for (const auto& name : {u"Combo1"_s, u"Combo2"_s}) {
+            for (const int key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
+                Dialog dialog;
+                dialog.form().Show();
+                QVERIFY(QTest::qWaitForWindowActive(&dialog.form()));
+                auto* box = dialog.control<ComboBox>(name);
+                box->setFocus();
+                QTest::keyClick(box, static_cast<Qt::Key>(key));
+                QVERIFY(!dialog.isLoaded());
+                QCOMPARE(dialog.state().alarmArmed, key != Qt::Key_Escape);
+            }
+        }
+    }
+
+    void inTheMessageEnterBeginsALineAndWithControlItIsOk() {
+        Dialog dialog;
+        dialog.form().Show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog.form()));
+        dialog.message()->setFocus();
+        QTest::keyClicks(dialog.message(), u"a"_s);
+        QTest::keyClick(dialog.message(), Qt::Key_Return);
+        QTest::keyClicks(dialog.message(), u"b"_s);
+        QVERIFY(dialog.isLoaded());
+        QTest::keyClick(dialog.message(), Qt::Key_Return, Qt::ControlModifier);
+        QVERIFY(!dialog.isLoaded());
+        QCOMPARE(dialog.msg(), QByteArray("Alarm time: 00:00:00\r\na\r\nb"));
+    }
+
+    void theMediaFileIsChosenByKey() {
+        Dialog dialog;
+        const QString file = dialog.outside.folder.write(u"song.wav"_s, {});
+        dialog.form().Show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog.form()));
+        dialog.message()->setFocus();
+        dialog.outside.dialogs.answerOpen(file);
+        QTest::keyClick(dialog.message(), Qt::Key_O, Qt::ControlModifier);
+        QCOMPARE(dialog.state().alarmMediaFile, file);
+    }
+
+    void hourMinuteAndMessageHaveTheEditingMenu() {
+        Dialog dialog;
+        dialog.form().Show();
+        for (QWidget* box :
+             std::initializer_list<QWidget*>{dialog.hour()->lineEdit(), dialog.minute()->lineEdit(),
+                                             dialog.message()->viewport()}) {
+            QContextMenuEvent asked(QContextMenuEvent::Mouse, QPoint(5, 5),
+                                    box->mapToGlobal(QPoint(5, 5)));
+            QApplication::sendEvent(box, &asked);
+            QWidget* menu = QApplication::activePopupWidget();
+            QVERIFY(menu != nullptr);
+            QCOMPARE(menu->objectName(), u"editMenu"_s);
+            menu->close();
+        }
+    }
+
     void theDialogCarriesItsWords() {
         Dialog dialog;
         QCOMPARE(dialog.control<QGroupBox>(u"Frame1"_s)->title(),

@@ -43,6 +43,7 @@ QByteArray clockFontFile() {
 class MainWindowTest : public QObject {
     Q_OBJECT
 private slots:
+    void theKeyboardGoesFromThePanelsToTheAlarmAndTheWindowsButtons();
     void init();
     void eachOpeningPictureShowsItsPanelAndThenHidesTheWindow_data();
     void eachOpeningPictureShowsItsPanelAndThenHidesTheWindow();
@@ -90,6 +91,20 @@ void MainWindowTest::makePanels() {
     makePanel<PasswordPanel>(ChromeKind::Password);
     m_test->program.windows.registerMaker<ReminderPanel>(
         [this] { return std::make_unique<FakeReminderPanel>(m_test->program, m_log); });
+}
+
+void MainWindowTest::theKeyboardGoesFromThePanelsToTheAlarmAndTheWindowsButtons() {
+    frmnotes& main = window();
+    main.Show();
+    QVERIFY(QTest::qWaitForWindowActive(&main));
+    QStringList reached;
+    for (int i = 0; i < 9; ++i) {
+        QTest::keyClick(main.focusWidget() ? main.focusWidget() : &main, Qt::Key_Tab);
+        reached << main.focusWidget()->objectName();
+    }
+    QCOMPARE(reached,
+             (QStringList{u"imgopen1"_s, u"imgopen2"_s, u"imgopen3"_s, u"imgopen4"_s, u"imgSet"_s,
+                          u"imgMini"_s, u"imgHelp"_s, u"imgExit"_s, u"imgopen1"_s}));
 }
 
 void MainWindowTest::eachOpeningPictureShowsItsPanelAndThenHidesTheWindow_data() {

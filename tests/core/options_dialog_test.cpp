@@ -63,6 +63,44 @@ struct Options {
 class OptionsDialogTest : public QObject {
     Q_OBJECT
 private slots:
+    void enterIsOkAndEscapeIsCancel_data() {
+        QTest::addColumn<QString>("focus");
+        for (const auto& name : {u"Option1(1)"_s, u"Check1"_s, u"optSort(0)"_s, u"lstvreme"_s})
+            QTest::newRow(qPrintable(name)) << name;
+    }
+    void enterIsOkAndEscapeIsCancel() {
+        QFETCH(QString, focus);
+        for (const int key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
+            Options options;
+            options.form().Show();
+            QVERIFY(QTest::qWaitForWindowActive(&options.form()));
+            options.control<QWidget>(focus)->setFocus();
+            QTest::keyClick(options.control<QWidget>(focus), static_cast<Qt::Key>(key));
+            QVERIFY(!options.isLoaded());
+            QCOMPARE(options.stored(u"Reg"_s, u"Start"_s),
+                     key == Qt::Key_Escape ? u"(none)"_s : u"0"_s);
+        }
+    }
+
+    void theKeyboardBeginsAtTheChosenPlayerAndGoesToNoButton() {
+        for (const bool builtIn : {true, false}) {
+            Options options;
+            options.put(u"Media"_s, u"Player1"_s, builtIn ? u"True"_s : u"False"_s);
+            options.put(u"Media"_s, u"Player2"_s, builtIn ? u"False"_s : u"True"_s);
+            options.form().Show();
+            QVERIFY(QTest::qWaitForWindowActive(&options.form()));
+            QCOMPARE(options.form().focusWidget()->objectName(),
+                     builtIn ? u"Option1(0)"_s : u"Option1(1)"_s);
+            QSet<QString> reached;
+            for (int i = 0; i < 10; ++i) {
+                reached << options.form().focusWidget()->objectName();
+                QTest::keyClick(options.form().focusWidget(), Qt::Key_Tab);
+            }
+            QCOMPARE(reached.size(), 4);
+            QVERIFY(!reached.contains(u"imgOK"_s) && !reached.contains(u"imgCanc"_s));
+        }
+    }
+
     void theDialogCarriesItsWords() {
         Options options;
         QCOMPARE(options.form().windowTitle(), u"Orvalis Options"_s);

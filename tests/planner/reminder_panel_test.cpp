@@ -80,7 +80,7 @@ private slots:
     void fontsAndSettingsStayOverManyRuns();
     void aSizeTheUserChoseSurvivesItsScaling();
     void aMixedSelectionKeepsTheStoredFont();
-    void noMenuOfTheToolkitOpensOnARightClick();
+    void aRightClickOpensTheEditingMenuInTextBoxesAlone();
     void aDocumentThatIsNotRtfLeavesTheBoxEmptyAndIsKeptAside_data();
     void aDocumentThatIsNotRtfLeavesTheBoxEmptyAndIsKeptAside();
     void aDocumentThatCannotBeReadIsKeptAside();
@@ -611,18 +611,36 @@ void ReminderPanelTest::aMixedSelectionKeepsTheStoredFont() {
     QCOMPARE(ground.settings.setting(u"RT1"_s, u"FS"_s, {}).toString(), u"8"_s);
 }
 
-void ReminderPanelTest::noMenuOfTheToolkitOpensOnARightClick() {
+void ReminderPanelTest::aRightClickOpensTheEditingMenuInTextBoxesAlone() {
     PanelGround ground;
     ground.shown();
-    const auto widgets = ground.panel().findChildren<QWidget*>();
-    for (QWidget* widget : widgets) {
-        if (!widget->isVisible())
-            continue;
-        const QPoint middle = widget->rect().center();
-        QContextMenuEvent asked(QContextMenuEvent::Mouse, middle, widget->mapToGlobal(middle));
-        QApplication::sendEvent(widget, &asked);
-        QVERIFY2(!QApplication::activePopupWidget(), qPrintable(widget->objectName()));
-    }
+    QSet<QString> withMenu;
+    const auto open = [&](const QString& up) {
+        ground.press(up);
+        const auto widgets = ground.panel().findChildren<QWidget*>();
+        for (QWidget* widget : widgets) {
+            if (!widget->isVisible() || widget->inherits("QMenu"))
+                continue;
+            const QPoint middle = widget->rect().center();
+            QContextMenuEvent asked(QContextMenuEvent::Mouse, middle, widget->mapToGlobal(middle));
+            QApplication::sendEvent(widget, &asked);
+            if (QWidget* menu = QApplication::activePopupWidget()) {
+                QCOMPARE(menu->objectName(), u"editMenu"_s);
+                withMenu << menu->parentWidget()->objectName();
+                if (menu->parentWidget()->parent()->inherits("QComboBox"))
+                    withMenu << menu->parentWidget()->parent()->objectName();
+                menu->close();
+            }
+        }
+    };
+    open(u"cmdmenu(2)"_s); // rt1a has another menu
+    open(u"cmdmenu(3)"_s);
+    open(u"imgFind"_s);
+    ground.tick(u"chkRemind"_s);
+    open(u"cmdmenu(0)"_s);
+    withMenu.remove(ground.combo(1).lineEdit()->objectName());
+    QCOMPARE(withMenu, (QSet<QString>{u"txt1"_s, u"rt1"_s, u"rt2"_s, u"Text1"_s, u"Combo1"_s,
+                                      u"Combo2"_s, u"rtMs2"_s}));
 }
 
 void ReminderPanelTest::aDocumentThatIsNotRtfLeavesTheBoxEmptyAndIsKeptAside_data() {

@@ -104,7 +104,10 @@ private slots:
     void aTickIsFaintWhileDisabled();
     void aTickIsSharpAtTwiceTheScale();
     void aChosenOptionHasItsDot();
-    void whatIsUnderThePointerHasATealEdge();
+    void whatIsUnderThePointerHasAnotherEdge();
+    void whereTheKeysGoIsToldMoreStronglyThanWhereThePointerIs_data();
+    void whereTheKeysGoIsToldMoreStronglyThanWhereThePointerIs();
+    void theMarkOfTheKeysStandsOutFromPaperAndGlass();
     void aFieldLosesItsTealEdgeWithThePointer();
     void whatIsSelectedInAListIsSage();
     void whatIsUnderThePointerInAListIsNotSage();
@@ -180,13 +183,48 @@ void StyleTest::aChosenOptionHasItsDot() {
     QVERIFY(pixelsLike(pictureOf(option), colour::Green) > 8);
 }
 
-void StyleTest::whatIsUnderThePointerHasATealEdge() {
+void StyleTest::whatIsUnderThePointerHasAnotherEdge() {
     const auto box = [](QStyle::State state) {
         return drawn(QStyle::PE_IndicatorCheckBox, state | QStyle::State_Off, QSize(14, 14));
     };
-    QCOMPARE(pixelsLike(box(QStyle::State_Enabled), colour::Teal, 40), 0);
-    QVERIFY(pixelsLike(box(QStyle::State_Enabled | QStyle::State_MouseOver), colour::Teal, 40) > 8);
-    QCOMPARE(pixelsLike(box(QStyle::State_MouseOver), colour::Teal, 40), 0);
+    const QImage hovered = box(QStyle::State_Enabled | QStyle::State_MouseOver);
+    QCOMPARE(pixelsLike(box(QStyle::State_Enabled), colour::TealSoft, 30), 0);
+    QVERIFY(pixelsLike(hovered, colour::TealSoft, 30) > 8);
+    QCOMPARE(pixelsLike(box(QStyle::State_MouseOver), colour::TealSoft, 30), 0);
+}
+
+void StyleTest::whereTheKeysGoIsToldMoreStronglyThanWhereThePointerIs_data() {
+    QTest::addColumn<QStyle::PrimitiveElement>("element");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("check box") << QStyle::PE_IndicatorCheckBox << QSize(14, 14);
+    QTest::newRow("option") << QStyle::PE_IndicatorRadioButton << QSize(14, 14);
+    QTest::newRow("field") << QStyle::PE_FrameLineEdit << QSize(100, 23);
+}
+
+void StyleTest::whereTheKeysGoIsToldMoreStronglyThanWhereThePointerIs() {
+    QFETCH(QStyle::PrimitiveElement, element);
+    QFETCH(QSize, size);
+    const auto teal = [&](QStyle::State state) {
+        return pixelsLike(drawn(element, state | QStyle::State_Enabled | QStyle::State_Off, size),
+                          colour::Teal, 40);
+    };
+    QCOMPARE(teal({}), 0);
+    QCOMPARE(teal(QStyle::State_MouseOver), 0);
+    QVERIFY(teal(QStyle::State_HasFocus) > size.width() + size.height());
+    QCOMPARE(teal(QStyle::State_HasFocus | QStyle::State_MouseOver), teal(QStyle::State_HasFocus));
+}
+
+void StyleTest::theMarkOfTheKeysStandsOutFromPaperAndGlass() {
+    const QImage mark =
+        drawn(QStyle::PE_FrameFocusRect,
+              QStyle::State_Enabled | QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange,
+              QSize(40, 24));
+    QVERIFY(pixelsLike(mark, colour::Teal, 40) > 100);
+    QVERIFY(pixelsLike(mark, 0xFFFFFFFF, 40) > 50);
+    QCOMPARE(pixelsLike(drawn(QStyle::PE_FrameFocusRect,
+                              QStyle::State_Enabled | QStyle::State_HasFocus, QSize(40, 24)),
+                        colour::Teal, 40),
+             0);
 }
 
 void StyleTest::aFieldLosesItsTealEdgeWithThePointer() {

@@ -11,7 +11,12 @@
 #include "support/test_program.h"
 #include "widgets/gg_command.h"
 
+#include <QContextMenuEvent>
+#include <QEventLoop>
+#include <QLineEdit>
+#include <QPointer>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 
 using namespace orvalis;
@@ -35,6 +40,11 @@ private slots:
     void newStickersLieFannedOut();
     void aStickerThatWasMovedComesUpWhereItWas();
     void whatIsTypedIntoANewStickerIsItsNote();
+    void whatItsButtonsDoHasKeys();
+    void theKeyboardReachesTitleTextAndPin();
+    void thePinKeepsTheKeyboard();
+    void titleAndTextHaveTheEditingMenu();
+    void aStickerClosedWhileTheMenuOfItsTextIsOpenGoes();
 
 private:
     StickerForm& shown(StickerWindow& window) {
@@ -182,6 +192,98 @@ void StickerWindowTest::whatIsTypedIntoANewStickerIsItsNote() {
         QTest::keyClicks(sticker.focusWidget(), u"milk"_s);
         QCOMPARE(made->Text1().Text(), u"milk"_s);
     }
+}
+
+void StickerWindowTest::whatItsButtonsDoHasKeys() {
+    StickerForm& sticker = shown(m_stickers->newFrmstick());
+    QVERIFY(QTest::qWaitForWindowActive(&sticker));
+    for (QWidget* from : std::initializer_list<QWidget*>{
+             &sticker.Text1(), sticker.findChild<QLineEdit*>(u"txtLabel1"_s)}) {
+        from->setFocus();
+        const int before = m_test->program.state.StickerCount;
+        QTest::keyClick(from, Qt::Key_N, Qt::ControlModifier);
+        QCOMPARE(m_test->program.state.StickerCount, before + 1);
+        sticker.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&sticker));
+        const auto dialogs = m_test->dialogs.fonts.size();
+        m_test->dialogs.answerFont(std::nullopt);
+        QTest::keyClick(from, Qt::Key_D, Qt::ControlModifier);
+        QCOMPARE(m_test->dialogs.fonts.size(), dialogs + 1);
+    }
+    QCOMPARE(sticker.Text1().Text(), QString());
+    const int open = m_test->program.state.StickerCount;
+    const QPointer<StickerForm> window = &sticker;
+    QTest::keyClick(&sticker.Text1(), Qt::Key_W, Qt::ControlModifier);
+    QCOMPARE(m_test->program.state.StickerCount, open - 1);
+    QTRY_VERIFY(window.isNull());
+}
+
+void StickerWindowTest::theKeyboardReachesTitleTextAndPin() {
+    StickerForm& sticker = shown(m_stickers->newFrmstick());
+    QVERIFY(QTest::qWaitForWindowActive(&sticker));
+    QSet<QString> reached;
+    for (int i = 0; i < 10; ++i) {
+        QTest::keyClick(sticker.focusWidget(), Qt::Key_Tab);
+        reached << sticker.focusWidget()->objectName();
+    }
+    QCOMPARE(reached, (QSet<QString>{u"txtLabel1"_s, u"Text1"_s, u"imgOff"_s}));
+    sticker.Text1().setFocus();
+    QTest::keyClick(&sticker.Text1(), Qt::Key_Tab, Qt::ControlModifier);
+    QCOMPARE(sticker.Text1().Text(), u"\t"_s);
+}
+
+void StickerWindowTest::thePinKeepsTheKeyboard() {
+    StickerForm& sticker = shown(m_stickers->newFrmstick());
+    QVERIFY(QTest::qWaitForWindowActive(&sticker));
+    auto* off = sticker.findChild<Image*>(u"imgOff"_s);
+    auto* on = sticker.findChild<Image*>(u"imgOn"_s);
+    off->setFocus();
+    QTest::keyClick(off, Qt::Key_Space);
+    QVERIFY(!off->isVisible() && on->hasFocus());
+    QTest::keyClick(on, Qt::Key_Return);
+    QVERIFY(!on->isVisible() && off->hasFocus());
+}
+
+void StickerWindowTest::titleAndTextHaveTheEditingMenu() {
+    StickerForm& sticker = shown(m_stickers->newFrmstick());
+    for (QWidget* box : std::initializer_list<QWidget*>{
+             sticker.Text1().viewport(), sticker.findChild<QLineEdit*>(u"txtLabel1"_s)}) {
+        QContextMenuEvent asked(QContextMenuEvent::Mouse, QPoint(5, 5),
+                                box->mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(box, &asked);
+        QWidget* menu = QApplication::activePopupWidget();
+        QVERIFY(menu != nullptr);
+        QCOMPARE(menu->objectName(), u"editMenu"_s);
+        menu->close();
+    }
+}
+
+void StickerWindowTest::aStickerClosedWhileTheMenuOfItsTextIsOpenGoes() {
+    StickerForm& sticker = shown(m_stickers->newFrmstick());
+    const QPointer<StickerForm> window = &sticker;
+    // As in the program, everything happens in an event loop.
+    QEventLoop outermost;
+    bool menuWasOpen = false;
+    QTimer::singleShot(0, &outermost, [&] {
+        QWidget* text = sticker.Text1().viewport();
+        QContextMenuEvent asked(QContextMenuEvent::Mouse, QPoint(5, 5),
+                                text->mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(text, &asked);
+    });
+    QTimer::singleShot(20, &outermost, [&] {
+        menuWasOpen = QApplication::activePopupWidget() != nullptr;
+        sticker.close();
+    });
+    QTimer::singleShot(100, &outermost, [&] {
+        if (QWidget* menu = QApplication::activePopupWidget())
+            menu->close();
+        outermost.quit();
+    });
+    outermost.exec();
+    QVERIFY(menuWasOpen);
+    QTRY_VERIFY(window.isNull());
+    QVERIFY(QApplication::activePopupWidget() == nullptr);
+    QCOMPARE(m_test->program.state.StickerCount, 0);
 }
 
 ORVALIS_TEST_MAIN_WITH(Application, StickerWindowTest)

@@ -82,4 +82,18 @@ std::optional<QPoint> Display::originOf(quint32 window) const {
     return QPoint(place->dst_x, place->dst_y);
 }
 
+bool Display::askToClose(quint32 window) const {
+    xcb_client_message_event_t message{};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = window;
+    message.type = atom("_NET_CLOSE_WINDOW");
+    constexpr quint32 AskedByTheUser = 2;
+    message.data.data32[1] = AskedByTheUser;
+    xcb_send_event(m_connection, 0, m_root,
+                   XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                   reinterpret_cast<const char*>(&message));
+    return xcb_flush(m_connection) > 0;
+}
+
 } // namespace orvalis::driver

@@ -36,6 +36,7 @@ Control controlOf(const QJsonObject& object) {
     control.visible = object[u"visible"_s].toBool();
     control.enabled = object[u"enabled"_s].toBool();
     control.checked = object[u"checked"_s].toBool();
+    control.focused = object[u"focus"_s].toBool();
     control.window = static_cast<quint32>(object[u"window"_s].toInteger());
     control.rect = rectOf(object);
     control.name = object[u"name"_s].toString();
@@ -250,6 +251,10 @@ Control DrivenProgram::menuEntry(const QString& nameOrText) {
     return placed(controlOf(ask(u"action"_s, nameOrText)));
 }
 
+Control DrivenProgram::focus() {
+    return placed(controlOf(ask(u"focus"_s)));
+}
+
 QList<Control> DrivenProgram::windows() {
     QList<Control> list;
     const auto windows = ask(u"windows"_s)[u"windows"_s].toArray();
@@ -369,6 +374,41 @@ void DrivenProgram::type(const QString& text) {
 
 void DrivenProgram::key(const QString& keys) {
     xdotool(QStringList{u"key"_s, u"--delay"_s, u"30"_s} + keys.split(u' '));
+}
+
+bool DrivenProgram::tabTo(const QString& name) {
+    constexpr int MostStops = 60;
+    for (int stops = 0; stops < MostStops; ++stops) {
+        if (control(name).focused)
+            return true;
+        const QString before = focus().name;
+        key(u"Tab"_s);
+        waitUntil([&] { return focus().name != before; }, 2000);
+    }
+    return control(name).focused;
+}
+
+bool DrivenProgram::closeThroughWindowManager(const QString& window) {
+    const Control target = control(window);
+    return target.visible && m_stage.display().askToClose(target.window);
+}
+
+bool DrivenProgram::beginDrag(const QString& name) {
+    const Control target = waitAtRest(name);
+    if (!target.visible)
+        return false;
+    constexpr int Inset = 12;
+    const QPoint from = target.rect.topLeft() + QPoint(Inset, Inset);
+    QStringList steps{u"mousemove"_s, QString::number(from.x()), QString::number(from.y()),
+                      u"mousedown"_s, u"1"_s};
+    for (int moved = 10; moved <= 60; moved += 10)
+        steps << u"sleep"_s << u"0.05"_s << u"mousemove"_s << QString::number(from.x() + moved)
+              << QString::number(from.y());
+    return xdotool(steps);
+}
+
+void DrivenProgram::letGo() {
+    xdotool({u"mouseup"_s, u"1"_s});
 }
 
 } // namespace orvalis::driver

@@ -19,7 +19,8 @@ struct Control {
     bool visible = false;
     bool enabled = false;
     bool checked = false;
-    quint32 window = 0; ///< the display's number of the window that it lies in
+    bool focused = false; ///< it has the keyboard
+    quint32 window = 0;   ///< the display's number of the window that it lies in
     QRect rect;
     QString name;
     QString className;
@@ -70,6 +71,8 @@ public:
     // Looking.
     Control control(const QString& name);
     Control menuEntry(const QString& nameOrText);
+    /// The control that has the keyboard.
+    Control focus();
     QList<Control> windows();
     /// The topmost message box, if one shows.
     Control messageBox();
@@ -90,6 +93,13 @@ public:
     bool drag(const QString& name, QPoint by);
     void type(const QString& text);
     void key(const QString& keys);
+    /// Presses Tab until the control has the keyboard. \returns whether it came to have it.
+    bool tabTo(const QString& name);
+    /// Asks the window manager to close the window, as a task bar does.
+    bool closeThroughWindowManager(const QString& window);
+    /// Takes hold of what stands at the beginning of a text and pulls it along, without letting go.
+    bool beginDrag(const QString& name);
+    void letGo();
 
 private:
     void appendSanitizerOption(const QString& option);

@@ -165,6 +165,10 @@ QJsonObject answerTo(const QJsonObject& question) {
         return listWindows();
     if (what == u"action")
         return findAction(name);
+    if (what == u"focus") {
+        const QWidget* focused = QApplication::focusWidget();
+        return focused ? describe(*focused) : QJsonObject{{u"found"_s, false}};
+    }
     if (what == u"picture") {
         QScreen* screen = QGuiApplication::primaryScreen();
         return {{u"found"_s, screen && screen->grabWindow(0).save(name)}};

@@ -3,6 +3,7 @@
 #include "alarm/alarm_set_dialog.h"
 #include "alarm/alarm_tick.h"
 #include "alarm/alarm_window.h"
+#include "controls/clipboard_content.h"
 #include "controls/document_reading.h"
 #include "controls/msg_box.h"
 #include "controls/qt_dialogs.h"
@@ -22,6 +23,7 @@
 #include "password/password_panel.h"
 #include "planner/clear_menu.h"
 #include "planner/reminder_panel.h"
+#include "platform/clipboard_owner.h"
 #include "platform/desktop_tray.h"
 #include "platform/ini_settings_store.h"
 #include "platform/interface_scale.h"
@@ -32,10 +34,13 @@
 #include "platform/printer.h"
 #include "platform/registry.h"
 #include "platform/screen.h"
+#include "platform/session_bus.h"
 #include "platform/shell.h"
 #include "platform/single_instance.h"
 #include "platform/sound_player.h"
 #include "runtime/app.h"
+#include "runtime/user_locale.h"
+#include "runtime/whole_file.h"
 #include "skin/style.h"
 #include "stickers/stickers.h"
 
@@ -119,10 +124,19 @@ private:
     QIcon m_icon;
 };
 
+/// Why nobody can tell whether the program runs already.
+QString uncertainInstanceText(const App& app) {
+    return QStringLiteral("%1 cannot make sure that it runs only once: no file can be written in "
+                          "\"%2\" or in \"%3\", and so nothing that you enter can be saved.")
+        .arg(app.EXEName(), SingleInstance::defaultFolder(), app.Path());
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
+    SessionBusQuestion sessionBus;
     applyInterfaceScale();
+    hideSilentSessionBus(sessionBus);
     Application application(argc, argv);
     withdrawInterfaceScale();
     Application::setApplicationName(QStringLiteral("orvalis"));
@@ -130,6 +144,7 @@ int main(int argc, char** argv) {
     skin::dress(application);
     const LateIcon icon(application);
 
+    followScriptOfLocale();
     const App app = App::ofThisProcess();
     const SingleInstance instance(app.Path());
     const SystemClock clock;
@@ -147,6 +162,9 @@ int main(int argc, char** argv) {
     HelpWindow help(shell);
     MetafileProcess metafiles;
     setMetafileConverter(&metafiles);
+    ClipboardOwner clipboardOwner;
+    setClipboardQuestion([&clipboardOwner] { return clipboardOwner.answers(); });
+    guardLineFields();
     application.setBoxes(boxes);
 
     Program program({.app = app,
@@ -167,8 +185,17 @@ int main(int argc, char** argv) {
         return std::make_unique<TrayHandover>(window, tray);
     };
     registerWindows(program, instance.PrevInstance(), help);
+    if (!instance.PrevInstance())
+        removeLeftovers(app.Path());
+    store.removeLeftovers();
+    logonEntry.removeLeftovers();
     application.setRecovery(&program.recovery);
     const OutsideEnd outsideEnd([&program] { program.recovery.keep(); },
                                 [&application] { application.endFromOutside(); });
-    return application.run([&program] { program.windows.get<StartWindow>().form().Show(); });
+    return application.run([&] {
+        if (instance.isUncertain())
+            boxes.MsgBox(uncertainInstanceText(app), MsgFlags::ExclamationIcon,
+                         QStringLiteral("Orvalis Warning"));
+        program.windows.get<StartWindow>().form().Show();
+    });
 }

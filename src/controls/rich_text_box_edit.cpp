@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
+#include "controls/clipboard_content.h"
 #include "controls/document_reading.h"
 #include "controls/edit_menu.h"
 #include "controls/rich_clipboard.h"
@@ -102,8 +103,10 @@ bool RichTextBox::CanPaste() const {
     if (isReadOnly())
         return false;
     if (!m_clipboardFits) {
-        const QMimeData* const offered = QApplication::clipboard()->mimeData();
-        m_clipboardFits = offered && canInsertFromMimeData(offered);
+        const QMimeData* const offered = clipboardContent();
+        if (!offered)
+            return false; // an owner that is silent now may tell more later
+        m_clipboardFits = canInsertFromMimeData(offered);
     }
     return *m_clipboardFits;
 }
@@ -122,7 +125,7 @@ void RichTextBox::Copy() {
 }
 
 void RichTextBox::Paste() {
-    const QMimeData* offered = QApplication::clipboard()->mimeData();
+    const QMimeData* offered = clipboardContent();
     if (!offered)
         return;
     const UndoKindScope kind(*m_undoKinds, UndoKind::Paste);

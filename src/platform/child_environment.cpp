@@ -3,6 +3,9 @@
 #include "platform/child_environment.h"
 
 #include "platform/interface_scale.h"
+#include "platform/session_bus.h"
+
+using namespace Qt::StringLiterals;
 
 namespace orvalis {
 
@@ -14,6 +17,13 @@ QProcessEnvironment childEnvironment() {
         environment.remove(variable);
     else
         environment.insert(variable, QString::fromLocal8Bit(users));
+    if (const QByteArray bus = hiddenSessionBus(); !bus.isNull()) {
+        const QString address = u"DBUS_SESSION_BUS_ADDRESS"_s;
+        if (bus.isEmpty())
+            environment.remove(address);
+        else
+            environment.insert(address, QString::fromLocal8Bit(bus));
+    }
     return environment;
 }
 

@@ -55,11 +55,10 @@ TrayIcon& DesktopTray::suitable() {
 }
 
 void DesktopTray::add(const TrayRecord& record) {
-    m_watch->setAwake(true);
     m_record = record;
-    m_present = &suitable();
-    m_present->setMenu(m_menu);
-    m_present->add(record);
+    m_wanted = true;
+    m_watch->setAwake(true);
+    settle();
 }
 
 void DesktopTray::modify(const TrayRecord& record) {
@@ -69,6 +68,7 @@ void DesktopTray::modify(const TrayRecord& record) {
 }
 
 void DesktopTray::remove(const TrayRecord& record) {
+    m_wanted = false;
     m_watch->setAwake(false);
     if (m_present != nullptr)
         std::exchange(m_present, nullptr)->remove(record);
@@ -80,12 +80,13 @@ void DesktopTray::popUp() {
 }
 
 void DesktopTray::settle() {
-    if (m_present == nullptr)
+    if (!m_wanted || !m_watch->isSettled())
         return;
     TrayIcon& now = suitable();
     if (&now == m_present)
         return;
-    m_present->remove(m_record);
+    if (m_present != nullptr)
+        m_present->remove(m_record);
     m_present = &now;
     m_present->setMenu(m_menu);
     m_present->add(m_record);

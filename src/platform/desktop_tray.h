@@ -16,7 +16,8 @@ namespace orvalis {
 /// reached.
 ///
 /// Qt settles at its first tray icon which kind of tray it will use for the whole run; therefore
-/// that icon is made only when a tray is there, and the kind found then is kept.
+/// that icon is made only when a tray is there, and the kind found then is kept. Until it is known
+/// which trays there are, a moment behind add(), the icon is nowhere.
 class DesktopTray final : public TrayIcon {
     Q_OBJECT
 public:
@@ -45,6 +46,7 @@ private:
     std::unique_ptr<TrayIcon> m_inTray;
     std::unique_ptr<TrayIcon> m_standIn;
     TrayIcon* m_present = nullptr;
+    bool m_wanted = false; ///< the icon is to be somewhere
     TrayRecord m_record;
     QMenu* m_menu = nullptr;
 };

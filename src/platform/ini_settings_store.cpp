@@ -7,6 +7,7 @@
 #include "runtime/file_saving.h"
 #include "runtime/files.h"
 #include "runtime/unreadable_files.h"
+#include "runtime/whole_file.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -95,6 +96,15 @@ bool IniSettingsStore::removeValue(Hive hive, const QString& path, const QString
         return !QFileInfo::exists(m_filePath);
     return change(
         [&](IniDocument& document) { document.removeValue(sectionOf(hive, path), name); });
+}
+
+void IniSettingsStore::removeLeftovers() {
+    const QString folder = QFileInfo(m_filePath).absolutePath();
+    if (!hasLeftovers(folder))
+        return;
+    QLockFile lock(m_filePath + u".lock"_s);
+    if (lock.tryLock(Patience)) // another program's write is no leftover
+        orvalis::removeLeftovers(folder);
 }
 
 bool IniSettingsStore::change(const std::function<void(IniDocument&)>& edit) {

@@ -21,6 +21,9 @@ public:
     /// The file in the user's configuration folder.
     static QString defaultFile();
 
+    /// Removes what a run that was killed while it wrote settings has left beside the file.
+    void removeLeftovers();
+
     const QString& filePath() const { return m_filePath; }
 
     bool hasKey(Hive hive, const QString& path) const override;

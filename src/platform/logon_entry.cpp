@@ -5,6 +5,7 @@
 #include "runtime/failure.h"
 #include "runtime/file_saving.h"
 #include "runtime/files.h"
+#include "runtime/whole_file.h"
 
 #include <QDir>
 #include <QStandardPaths>
@@ -73,6 +74,10 @@ QString XdgLogonEntry::filePath(const QString& name) const {
 void XdgLogonEntry::set(const QString& name, const QString& programPath) {
     QDir().mkpath(m_folder);
     endSilently([&] { saveWhole(filePath(name), autostartContent(name, programPath)); });
+}
+
+void XdgLogonEntry::removeLeftovers() {
+    orvalis::removeLeftovers(m_folder);
 }
 
 void XdgLogonEntry::remove(const QString& name) {

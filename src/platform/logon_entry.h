@@ -21,6 +21,9 @@ public:
 
     static QString defaultFolder();
 
+    /// Removes what a run that was killed while it wrote an entry has left in the folder.
+    void removeLeftovers();
+
     void set(const QString& name, const QString& programPath) override;
     void remove(const QString& name) override;
 

@@ -17,9 +17,12 @@ namespace orvalis {
 
 namespace {
 
+/// A sound holds the program as long as it plays; a larger file is none that is meant for that.
+constexpr qint64 LargestSound = qint64{32} * 1024 * 1024;
+
 std::optional<WaveSound> loadWave(const QString& path) {
     std::optional<WaveSound> sound;
-    endSilently([&] { sound = readWave(readWhole(path)); });
+    endSilently([&] { sound = readWave(readWhole(path, LargestSound)); });
     return sound;
 }
 

@@ -4,6 +4,8 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 #include <QDBusVariant>
 #include <QGuiApplication>
@@ -27,20 +29,6 @@ constexpr auto LookEvery = 2s;
 
 const QString WatcherService = u"org.kde.StatusNotifierWatcher"_s;
 const QString WatcherPath = u"/StatusNotifierWatcher"_s;
-
-bool hostIsRegistered() {
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected())
-        return false;
-    QDBusMessage ask = QDBusMessage::createMethodCall(
-        WatcherService, WatcherPath, u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
-    ask << WatcherService << u"IsStatusNotifierHostRegistered"_s;
-    ask.setAutoStartService(false);
-    const QDBusMessage reply = bus.call(ask, QDBus::Block, BusTimeoutMs);
-    if (reply.type() != QDBusMessage::ReplyMessage || reply.arguments().isEmpty())
-        return false;
-    return reply.arguments().constFirst().value<QDBusVariant>().variant().toBool();
-}
 
 template <class Reply>
 std::unique_ptr<Reply, decltype(&std::free)> owned(Reply* reply) {
@@ -67,16 +55,6 @@ bool traySelectionIsOwned() {
 } // namespace
 
 DesktopTrayWatch::DesktopTrayWatch() {
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    if (bus.isConnected()) {
-        auto* watcher = new QDBusServiceWatcher(WatcherService, bus,
-                                                QDBusServiceWatcher::WatchForOwnerChange, this);
-        connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this, &TrayWatch::changed);
-        for (const auto& signal :
-             {u"StatusNotifierHostRegistered"_s, u"StatusNotifierHostUnregistered"_s})
-            bus.connect(WatcherService, WatcherPath, WatcherService, signal, this,
-                        SIGNAL(changed()));
-    }
     m_lookForXEmbed.setInterval(LookEvery);
     connect(&m_lookForXEmbed, &QTimer::timeout, this, [this] {
         if (const bool has = traySelectionIsOwned(); has != m_hadXEmbed) {
@@ -86,11 +64,54 @@ DesktopTrayWatch::DesktopTrayWatch() {
     });
 }
 
+void DesktopTrayWatch::listenToBus() {
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    if (m_listens || !bus.isConnected())
+        return;
+    m_listens = true;
+    auto* watcher = new QDBusServiceWatcher(WatcherService, bus,
+                                            QDBusServiceWatcher::WatchForOwnerChange, this);
+    connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this, &DesktopTrayWatch::askBus);
+    // From whoever sends them: to hear of one service alone, the bus would be asked who that is,
+    // and waited for.
+    for (const auto& signal :
+         {u"StatusNotifierHostRegistered"_s, u"StatusNotifierHostUnregistered"_s})
+        bus.connect({}, WatcherPath, WatcherService, signal, this, SLOT(askBus()));
+}
+
+void DesktopTrayWatch::askBus() {
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected())
+        return;
+    QDBusMessage question = QDBusMessage::createMethodCall(
+        WatcherService, WatcherPath, u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
+    question << WatcherService << u"IsStatusNotifierHostRegistered"_s;
+    question.setAutoStartService(false);
+    auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(question, BusTimeoutMs), this);
+    ++m_questions;
+    connect(answer, &QDBusPendingCallWatcher::finished, this,
+            [this](QDBusPendingCallWatcher* call) {
+                const QDBusPendingReply<QDBusVariant> reply = *call;
+                call->deleteLater();
+                takeAnswer(!reply.isError() && reply.value().variant().toBool());
+            });
+}
+
+void DesktopTrayWatch::takeAnswer(bool hostIsRegistered) {
+    m_hasHost = hostIsRegistered;
+    if (--m_questions == 0)
+        emit changed();
+}
+
 bool DesktopTrayWatch::has(TrayKind kind) {
-    return kind == TrayKind::StatusNotifier ? hostIsRegistered() : traySelectionIsOwned();
+    return kind == TrayKind::StatusNotifier ? m_hasHost : traySelectionIsOwned();
 }
 
 void DesktopTrayWatch::setAwake(bool awake) {
+    if (awake) {
+        listenToBus();
+        askBus();
+    }
     m_hadXEmbed = traySelectionIsOwned();
     const bool onX11 = QGuiApplication::platformName() == u"xcb"_s;
     if (awake && onX11)

@@ -4,6 +4,7 @@
 
 #include "runtime/ansi_page_tables.h"
 #include "runtime/failure.h"
+#include "runtime/user_locale.h"
 
 #include <QLocale>
 
@@ -98,7 +99,7 @@ const AnsiPage& AnsiPage::forLocale(const QLocale& locale) {
 }
 
 const AnsiPage& AnsiPage::ofUser() {
-    return forLocale(QLocale());
+    return forLocale(userLanguage());
 }
 
 std::optional<quint8> AnsiPage::code(char16_t character) const {

@@ -3,13 +3,13 @@
 #include "runtime/app.h"
 
 #include "runtime/files.h"
+#include "runtime/whole_file.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
 
-#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -21,16 +21,22 @@ namespace {
 constexpr std::array DataFiles{u"Vazno.rtf",    u"weekly.rtf",      u"tmp1.brf", u"tmp2.brf",
                                u"address1.dat", u"address1tmp.dat", u"Msg.txt"};
 
-bool holdsData(const QDir& folder) {
-    return std::any_of(
-        DataFiles.begin(), DataFiles.end(),
-        [&folder](const char16_t* name) { return folder.exists(QString::fromUtf16(name)); });
+/// Copies the data files that lie in a folder to another one that has none of that name.
+void takeOver(const QDir& from, const QDir& to) {
+    for (const char16_t* dataFile : DataFiles) {
+        const QString name = QString::fromUtf16(dataFile);
+        if (QFileInfo(from.filePath(name)).isFile() && !to.exists(name))
+            copyWhole(from.filePath(name), to.filePath(name)); // the old one stays where it is
+    }
 }
 
 QString dataFolder(const QString& executableFolder, const QString& userDataFolder) {
-    if (QFileInfo(executableFolder).isWritable() || holdsData(QDir(executableFolder)))
+    // Files that may be written in a folder that may not could be written in place alone, and would
+    // be torn by a full disk or a crash.
+    if (QFileInfo(executableFolder).isWritable())
         return executableFolder;
-    QDir().mkpath(userDataFolder); // where that fails, the first save tells so
+    QDir().mkpath(userDataFolder);
+    takeOver(QDir(executableFolder), QDir(userDataFolder));
     return userDataFolder;
 }
 

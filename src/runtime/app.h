@@ -12,8 +12,9 @@ namespace orvalis {
 class App {
 public:
     /// \a userDataFolder takes the place of the executable's folder as Path() where that one cannot
-    /// be written and holds none of our data files; it is made then. Companions are looked for
-    /// beside the executable first, then in \a shareFolders in their order.
+    /// be written; it is made then, and data files of ours that lie beside the executable are
+    /// copied to it where it has none of their name. Companions are looked for beside the
+    /// executable first, then in \a shareFolders in their order.
     App(const QString& executablePath, const QString& userDataFolder,
         const QStringList& shareFolders);
 

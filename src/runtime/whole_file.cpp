@@ -83,6 +83,17 @@ QString temporaryName() {
     return LeftoverStart + mark + LeftoverEnd;
 }
 
+QStringList leftoversIn(const QString& folder) {
+    const QFileInfoList files =
+        QDir(folder).entryInfoList({LeftoverStart + QString(MarkLength, u'?') + LeftoverEnd},
+                                   QDir::Files | QDir::Hidden | QDir::NoSymLinks);
+    QStringList own;
+    for (const QFileInfo& file : files)
+        if (isOwn(file))
+            own << file.filePath();
+    return own;
+}
+
 /// The folder of a file that may be written.
 QString checkedFolder(const QString& path, WholeFile::OldFile oldFile) {
     const QFileInfo target(path);
@@ -174,13 +185,13 @@ bool linkFile(const QString& path, const QString& second) {
     return !error;
 }
 
+bool hasLeftovers(const QString& folder) {
+    return !leftoversIn(folder).isEmpty();
+}
+
 void removeLeftovers(const QString& folder) {
-    const QFileInfoList files =
-        QDir(folder).entryInfoList({LeftoverStart + QString(MarkLength, u'?') + LeftoverEnd},
-                                   QDir::Files | QDir::Hidden | QDir::NoSymLinks);
-    for (const QFileInfo& file : files)
-        if (isOwn(file))
-            QFile::remove(file.filePath());
+    for (const QString& path : leftoversIn(folder))
+        QFile::remove(path);
 }
 
 } // namespace orvalis

@@ -62,6 +62,9 @@ bool copyWhole(const QString& path, const QString& copy);
 /// bytes need no room on a full disk, and the first name can then be given to others in one step.
 bool linkFile(const QString& path, const QString& second);
 
+/// Whether a killed run has left temporaries of this user in a folder.
+bool hasLeftovers(const QString& folder);
+
 /// Removes the user's own temporaries that a killed run left in a folder. To be called where no
 /// other run of the program writes there.
 void removeLeftovers(const QString& folder);

@@ -5,6 +5,8 @@
 #include <QStandardPaths>
 #include <QTest>
 
+#include <csignal>
+
 using namespace Qt::StringLiterals;
 using namespace orvalis::driver;
 
@@ -72,6 +74,8 @@ private slots:
     void whatOthersOfferIsPasted();
     void aPictureIsPastedWithItsOwnBytes();
     void aMegabyteTravelsBothWays();
+    void anOwnerThatIsStoppedHoldsNobody_data();
+    void anOwnerThatIsStoppedHoldsNobody();
 
 private:
     void paste(const QString& target, const QByteArray& bytes);
@@ -174,6 +178,46 @@ void ClipboardJourneyTest::aMegabyteTravelsBothWays() {
     QVERIFY(m_program->waitText(Box, text, 60000));
     QCOMPARE(QString::fromUtf8(copied(u"UTF8_STRING"_s)), text);
     QVERIFY(m_other->take(u"text/rtf"_s).size() > text.size());
+}
+
+void ClipboardJourneyTest::anOwnerThatIsStoppedHoldsNobody_data() {
+    QTest::addColumn<QString>("box");
+    QTest::newRow("message") << Box;
+    QTest::newRow("title") << u"frmnotes1/txt1"_s;
+}
+
+void ClipboardJourneyTest::anOwnerThatIsStoppedHoldsNobody() {
+    constexpr int LessThanTheToolkitWaits = 1500;
+    QFETCH(QString, box);
+    QProcess owner;
+    owner.setProcessEnvironment(m_stage->environment());
+    owner.start(u"xclip"_s, {u"-quiet"_s, u"-selection"_s, u"clipboard"_s, u"-i"_s});
+    owner.write("from elsewhere");
+    QVERIFY(owner.waitForBytesWritten());
+    owner.closeWriteChannel();
+    QVERIFY(waitUntil([&] { return m_other->take(u"UTF8_STRING"_s) == "from elsewhere"; }, 10000));
+    QVERIFY(m_program->click(box));
+    m_program->key(u"ctrl+a"_s);
+    m_program->type(u"typed"_s);
+    QVERIFY(m_program->waitText(box, u"typed"_s));
+
+    ::kill(static_cast<pid_t>(owner.processId()), SIGSTOP);
+    m_program->key(u"ctrl+v"_s);
+    // Who waits for the owner gets the text once that one goes on; who did not wait has none.
+    sleepMilliseconds(LessThanTheToolkitWaits);
+    ::kill(static_cast<pid_t>(owner.processId()), SIGCONT);
+    m_program->type(u"!"_s);
+    QVERIFY(m_program->waitText(box, u"typed!"_s));
+
+    QVERIFY(waitUntil(
+        [&] {
+            m_program->key(u"ctrl+a"_s);
+            m_program->key(u"ctrl+v"_s);
+            return m_program->control(box).text == u"from elsewhere"_s;
+        },
+        20000));
+    owner.kill();
+    owner.waitForFinished();
 }
 
 QTEST_GUILESS_MAIN(ClipboardJourneyTest)

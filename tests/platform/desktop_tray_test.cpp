@@ -20,6 +20,8 @@ public:
     explicit FakeTrayWatch(QSet<TrayKind> kinds)
         : m_kinds(std::move(kinds)) {}
     bool has(TrayKind kind) override { return m_kinds.contains(kind); }
+    bool isSettled() const override { return m_settled; }
+    void setSettled(bool settled) { m_settled = settled; }
     void setAwake(bool awake) override { m_awake = awake; }
     bool isAwake() const { return m_awake; }
     void become(const QSet<TrayKind>& kinds) {
@@ -29,6 +31,7 @@ public:
 
 private:
     QSet<TrayKind> m_kinds;
+    bool m_settled = true;
     bool m_awake = false;
 };
 
@@ -94,6 +97,30 @@ private slots:
         desktop.tray.add(desktop.record);
         QVERIFY(shows(desktop.standIn));
         QVERIFY2(desktop.made.isEmpty(), "an icon made without a tray would settle its kind");
+    }
+
+    void theIconWaitsUntilTheTraysAreKnown() {
+        Desktop desktop({TrayKind::XEmbed});
+        desktop.watch->setSettled(false);
+        desktop.tray.add(desktop.record);
+        QVERIFY(desktop.made.isEmpty());
+        QVERIFY(desktop.standIn == nullptr);
+        desktop.watch->setSettled(true);
+        desktop.watch->become({TrayKind::StatusNotifier, TrayKind::XEmbed});
+        QCOMPARE(desktop.made, QList{TrayKind::StatusNotifier});
+        QVERIFY(shows(desktop.inTray));
+        QVERIFY(desktop.standIn == nullptr);
+    }
+
+    void anIconThatWasTakenBackMeanwhileStaysAway() {
+        Desktop desktop({});
+        desktop.watch->setSettled(false);
+        desktop.tray.add(desktop.record);
+        desktop.tray.remove(desktop.record);
+        desktop.watch->setSettled(true);
+        desktop.watch->become({TrayKind::XEmbed});
+        QVERIFY(desktop.made.isEmpty());
+        QVERIFY(desktop.standIn == nullptr);
     }
 
     void aTrayThatComesUpLaterTakesTheIconOverAsItIsThen() {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/single_instance.h"
 
+#include "support/small_disk.h"
 #include "support/temporary_folder.h"
 #include "support/test_main.h"
 
@@ -66,7 +67,12 @@ private slots:
     void aKilledCopyLeavesItsPlaceToTheNext();
     void thirtyCopiesAtOnceLeaveOne();
     void thirtyCopiesAtOnceAfterAKillLeaveOne();
-    void whereNoLockCanBeMadeTheProgramStarts();
+    void whereTheRunTimeFolderTakesNoFileTheLockLiesBesideTheData_data();
+    void whereTheRunTimeFolderTakesNoFileTheLockLiesBesideTheData();
+    void aCopyWithARunTimeFolderSeesTheOneWithout();
+    void aLockThatAKilledCopyLeftBesideTheDataIsTakenOver();
+    void whereNoLockCanBeMadeTheCopyKnowsIt();
+    void fullDisksMakeTheCopyUncertainAndKeepNoHalfLock();
 };
 
 void SingleInstanceTest::theFirstCopyHasThePlaceAndTheSecondHasNot() {
@@ -149,9 +155,67 @@ void SingleInstanceTest::thirtyCopiesAtOnceAfterAKillLeaveOne() {
     QCOMPARE(first, 1);
 }
 
-void SingleInstanceTest::whereNoLockCanBeMadeTheProgramStarts() {
-    const SingleInstance instance(u"/data"_s, u"/nowhere/at/all"_s);
+void SingleInstanceTest::whereTheRunTimeFolderTakesNoFileTheLockLiesBesideTheData_data() {
+    QTest::addColumn<QString>("lockFolder");
+    QTest::newRow("missing") << u"/nowhere/at/all"_s;
+    QTest::newRow("a file in its place") << u"/etc/passwd"_s;
+    QTest::newRow("no files in it at all") << u"/proc/self"_s;
+}
+
+void SingleInstanceTest::whereTheRunTimeFolderTakesNoFileTheLockLiesBesideTheData() {
+    QFETCH(QString, lockFolder);
+    const TemporaryFolder data;
+    {
+        const SingleInstance first(data.path(), lockFolder);
+        QVERIFY(!first.PrevInstance());
+        QVERIFY(!first.isUncertain());
+        QCOMPARE(data.names(), QStringList{u"orvalis.lock"_s});
+        Copy second(data.path(), lockFolder);
+        QCOMPARE(second.told(), QByteArray("second"));
+    }
+    QVERIFY(data.names().isEmpty());
+}
+
+void SingleInstanceTest::aCopyWithARunTimeFolderSeesTheOneWithout() {
+    const TemporaryFolder data;
+    const TemporaryFolder locks;
+    const SingleInstance first(data.path(), u"/nowhere/at/all"_s);
+    Copy second(data.path(), locks.path());
+    QCOMPARE(second.told(), QByteArray("second"));
+    QVERIFY(locks.names().isEmpty());
+    QCOMPARE(data.names(), QStringList{u"orvalis.lock"_s});
+}
+
+void SingleInstanceTest::aLockThatAKilledCopyLeftBesideTheDataIsTakenOver() {
+    const TemporaryFolder data;
+    const TemporaryFolder locks;
+    Copy killed(data.path(), u"/nowhere/at/all"_s);
+    QCOMPARE(killed.told(), QByteArray("first"));
+    killed.kill();
+    QCOMPARE(data.names().size(), 1);
+    const SingleInstance next(data.path(), locks.path());
+    QVERIFY(!next.PrevInstance());
+    QCOMPARE(QFileInfo(next.lockPath()).path(), locks.path());
+    QVERIFY(data.names().isEmpty());
+}
+
+void SingleInstanceTest::whereNoLockCanBeMadeTheCopyKnowsIt() {
+    const SingleInstance instance(u"/nowhere/either"_s, u"/nowhere/at/all"_s);
     QVERIFY(!instance.PrevInstance());
+    QVERIFY(instance.isUncertain());
+    QCOMPARE(instance.lockPath(), QString());
+}
+
+void SingleInstanceTest::fullDisksMakeTheCopyUncertainAndKeepNoHalfLock() {
+    const TemporaryFolder data;
+    const TemporaryFolder locks;
+    {
+        const SmallDisk disk(0);
+        const SingleInstance instance(data.path(), locks.path());
+        QVERIFY(instance.isUncertain());
+    }
+    QVERIFY(data.names().isEmpty());
+    QVERIFY(locks.names().isEmpty());
 }
 
 int main(int argc, char** argv) {

@@ -29,6 +29,7 @@ private slots:
     void nothingOfMultimediaIsLoadedBeforeASoundIsThere();
     void aFileThatIsNoSoundReturnsAtOnce();
     void withoutTheOutputLibraryItReturnsAtOnce();
+    void aFileBeyondTheLargestSoundIsNotPlayed();
     void playingHoldsTheThreadAtMostForTheLengthOfTheFile();
 };
 
@@ -51,6 +52,16 @@ void SoundPlayerTest::withoutTheOutputLibraryItReturnsAtOnce() {
     const TemporaryFolder folder;
     DeviceSoundPlayer player({folder.path()});
     player.playAndWait(BinFolder + u"/Alarm.wav"_s);
+    QVERIFY(!multimediaIsLoaded());
+}
+
+void SoundPlayerTest::aFileBeyondTheLargestSoundIsNotPlayed() {
+    const TemporaryFolder folder;
+    QVERIFY(QFile::copy(BinFolder + u"/Alarm.wav"_s, folder.file(u"Alarm.wav"_s)));
+    QFile sound(folder.file(u"Alarm.wav"_s));
+    QVERIFY(sound.resize(qint64{32} * 1024 * 1024 + 1));
+    DeviceSoundPlayer player({BinFolder});
+    player.playAndWait(sound.fileName());
     QVERIFY(!multimediaIsLoaded());
 }
 

@@ -17,8 +17,10 @@ class AppTest : public QObject {
 private slots:
     void dataLiesBesideTheExecutable();
     void aSystemWideInstallKeepsItsDataWithTheUser();
-    void aReadOnlyFolderWithOurDataStaysTheDataFolder_data();
-    void aReadOnlyFolderWithOurDataStaysTheDataFolder();
+    void dataInAReadOnlyFolderAreCopiedToTheUser_data();
+    void dataInAReadOnlyFolderAreCopiedToTheUser();
+    void theUsersOwnDataAreNotCopiedOver();
+    void otherFilesOfAReadOnlyFolderAreNotCopied();
     void companionsAreFoundBesideTheExecutableFirst();
     void companionsOfAnInstallAreFoundInItsShareFolder();
     void aMissingCompanionHasItsPlaceInTheDataFolder();
@@ -51,23 +53,56 @@ void AppTest::aSystemWideInstallKeepsItsDataWithTheUser() {
     QCOMPARE(app.companion(u"Alarm.wav"_s), install.file(u"Alarm.wav"_s));
 }
 
-void AppTest::aReadOnlyFolderWithOurDataStaysTheDataFolder_data() {
+void AppTest::dataInAReadOnlyFolderAreCopiedToTheUser_data() {
     QTest::addColumn<QString>("name");
     for (const char* name : {"Vazno.rtf", "weekly.rtf", "tmp1.brf", "tmp2.brf", "address1.dat",
                              "address1tmp.dat", "Msg.txt"})
         QTest::newRow(name) << QString::fromLatin1(name);
 }
 
-void AppTest::aReadOnlyFolderWithOurDataStaysTheDataFolder() {
+void AppTest::dataInAReadOnlyFolderAreCopiedToTheUser() {
     QFETCH(QString, name);
     const WithoutRoot ordinaryUser;
     const TemporaryFolder folder;
     const TemporaryFolder user;
-    folder.write(name, {});
+    const QByteArray bytes(200000, 'b');
+    QVERIFY(QFile::setPermissions(folder.write(name, bytes), QFile::ReadOwner));
     folder.setWritable(false);
     const App app(folder.file(u"orvalis"_s), user.file(u"orvalis"_s), {});
     folder.setWritable(true);
-    QCOMPARE(app.Path(), folder.path());
+    QCOMPARE(app.Path(), user.file(u"orvalis"_s));
+    QCOMPARE(user.read(u"orvalis/"_s + name), bytes);
+    QVERIFY(QFileInfo(app.file(name)).isWritable());
+    QCOMPARE(folder.read(name), bytes);
+    QCOMPARE(QDir(app.Path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+             QStringList{name});
+}
+
+void AppTest::theUsersOwnDataAreNotCopiedOver() {
+    const WithoutRoot ordinaryUser;
+    const TemporaryFolder folder;
+    const TemporaryFolder user;
+    folder.write(u"Vazno.rtf"_s, "installed");
+    folder.write(u"tmp1.brf"_s, "installed");
+    user.write(u"Vazno.rtf"_s, "the user's");
+    folder.setWritable(false);
+    const App app(folder.file(u"orvalis"_s), user.path(), {});
+    folder.setWritable(true);
+    QCOMPARE(user.read(u"Vazno.rtf"_s), QByteArray("the user's"));
+    QCOMPARE(user.read(u"tmp1.brf"_s), QByteArray("installed"));
+}
+
+void AppTest::otherFilesOfAReadOnlyFolderAreNotCopied() {
+    const WithoutRoot ordinaryUser;
+    const TemporaryFolder folder;
+    const TemporaryFolder user;
+    folder.write(u"Alarm.wav"_s, "RIFF");
+    folder.write(u"Vazno.rtf.unreadable"_s, "x");
+    QVERIFY(QDir(folder.path()).mkdir(u"weekly.rtf"_s));
+    folder.setWritable(false);
+    const App app(folder.file(u"orvalis"_s), user.path(), {});
+    folder.setWritable(true);
+    QVERIFY(user.names().isEmpty());
 }
 
 void AppTest::companionsAreFoundBesideTheExecutableFirst() {

@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "driver/driven_program.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cstring>
+
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using namespace orvalis::driver;
+
+namespace {
+
+/// A session bus that takes every connection and answers none.
+class SilentBus {
+public:
+    SilentBus() {
+        m_listener = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        std::strncpy(address.sun_path, QFile::encodeName(path()).constData(),
+                     sizeof(address.sun_path) - 1);
+        if (::bind(m_listener, reinterpret_cast<sockaddr*>(&address), sizeof(address)) != 0 ||
+            ::listen(m_listener, 64) != 0)
+            qFatal("no bus can be made");
+    }
+    ~SilentBus() { ::close(m_listener); }
+    SilentBus(const SilentBus&) = delete;
+    SilentBus& operator=(const SilentBus&) = delete;
+
+    QString path() const { return m_folder.filePath(u"bus"_s); }
+
+private:
+    QTemporaryDir m_folder;
+    int m_listener = -1;
+};
+
+} // namespace
+
+/// Starts on desktops that are not in order.
+class StartJourneyTest : public QObject {
+    Q_OBJECT
+private slots:
+    void aSilentSessionBusKeepsNoWindowAway();
+    void leftoversOfAKilledRunGoAtTheNextStart();
+};
+
+void StartJourneyTest::aSilentSessionBusKeepsNoWindowAway() {
+    const SilentBus bus;
+    Stage stage({.tray = true});
+    QVERIFY2(stage.trouble().isEmpty(), qPrintable(stage.trouble()));
+    DrivenProgram program(stage, QStringLiteral(ORVALIS_EXECUTABLE));
+    program.setVariable(u"DBUS_SESSION_BUS_ADDRESS"_s, u"unix:path="_s + bus.path());
+    QVERIFY(program.start());
+    QVERIFY(program.waitVisible(u"frmnotes"_s));
+    QVERIFY(program.click(u"frmnotes/imgopen1"_s));
+    QVERIFY(program.waitVisible(u"frmnotes1"_s));
+    QVERIFY(program.click(u"frmnotes1/imgMini"_s));
+    QVERIFY(waitUntil([&] { return !program.control(u"frmnotes1"_s).visible; }, 10000));
+    QVERIFY(program.isRunning());
+}
+
+void StartJourneyTest::leftoversOfAKilledRunGoAtTheNextStart() {
+    Stage stage({});
+    QVERIFY2(stage.trouble().isEmpty(), qPrintable(stage.trouble()));
+    DrivenProgram program(stage, QStringLiteral(ORVALIS_EXECUTABLE));
+    QStringList leftovers;
+    for (const QString& folder : {program.folder(), program.configFolder() + u"/orvalis"_s,
+                                  program.configFolder() + u"/autostart"_s}) {
+        QVERIFY(QDir().mkpath(folder));
+        leftovers << folder + u"/.orvalis-0a1b2c3d.tmp"_s;
+        QFile file(leftovers.constLast());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+    QVERIFY(program.start());
+    QVERIFY(program.waitVisible(u"frmnotes"_s));
+    for (const QString& leftover : leftovers)
+        QVERIFY2(!QFile::exists(leftover), qPrintable(leftover));
+}
+
+QTEST_GUILESS_MAIN(StartJourneyTest)
+#include "start_journey_test.moc"

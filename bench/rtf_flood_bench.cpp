@@ -117,7 +117,7 @@ bool huge(const RtfFlood& flood) {
     const bool kept = inBounds(small, HugeSize / 10) && inBounds(large, HugeSize);
     std::printf("%-32s %6.2f s (a tenth %5.2f s) %6.1f x the file (a tenth %5.1f x) %s\n",
                 flood.name, large.time, small.time, double(large.memory) / HugeSize,
-                double(small.memory) / (HugeSize / 10), verdict(kept));
+                double(small.memory) / HugeSize * 10, verdict(kept));
     return kept;
 }
 

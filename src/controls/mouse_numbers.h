@@ -6,6 +6,9 @@
 
 namespace orvalis {
 
+constexpr int LeftButton = 1;
+constexpr int RightButton = 2;
+
 /// The number by which mouse events name a button: 1 left, 2 right, 4 middle, 0 none or another.
 int buttonNumber(Qt::MouseButton button);
 

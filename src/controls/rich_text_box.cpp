@@ -27,11 +27,6 @@
 namespace orvalis {
 namespace {
 
-void require(bool valid) {
-    if (!valid)
-        throw RuntimeError(ErrorNumber::InvalidPropertyValue);
-}
-
 /// The bytes of RTF that came as a string. RTF is ASCII; any other character in it is spelled out.
 QByteArray bytesOfRtf(const QString& rtf) {
     QByteArray bytes;
@@ -186,7 +181,7 @@ qreal RichTextBox::FontSize() const {
 }
 
 void RichTextBox::SetFontSize(qreal points) {
-    require(points > 0);
+    requireProperty(points > 0);
     QFont font = document()->defaultFont();
     font.setPointSizeF(points);
     QTextCharFormat format;
@@ -273,7 +268,7 @@ int RichTextBox::SelStart() const {
 }
 
 void RichTextBox::SetSelStart(int start) {
-    require(start >= 0);
+    requireProperty(start >= 0);
     QTextCursor cursor = editCursor();
     cursor.setPosition(m_positions->positionOf(start));
     takeCursor(cursor);
@@ -286,7 +281,7 @@ int RichTextBox::SelLength() const {
 }
 
 void RichTextBox::SetSelLength(int length) {
-    require(length >= 0);
+    requireProperty(length >= 0);
     QTextCursor cursor = editCursor();
     const int start = cursor.selectionStart();
     const int end = m_positions->indexOf(start) + std::min(length, m_positions->length());

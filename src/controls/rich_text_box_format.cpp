@@ -16,11 +16,6 @@ namespace {
 
 constexpr quint32 SystemColor = 0x80000000;
 
-void require(bool valid) {
-    if (!valid)
-        throw RuntimeError(ErrorNumber::InvalidPropertyValue);
-}
-
 } // namespace
 
 bool RichTextBox::hasNoHistory() const {
@@ -121,7 +116,7 @@ std::optional<qreal> RichTextBox::SelFontSize() const {
 }
 
 void RichTextBox::SetSelFontSize(qreal points) {
-    require(points > 0);
+    requireProperty(points > 0);
     QTextCharFormat format;
     format.setFontPointSize(points);
     mergeFormat(format);
@@ -148,7 +143,7 @@ std::optional<int> RichTextBox::SelAlignment() const {
 }
 
 void RichTextBox::SetSelAlignment(int alignment) {
-    require(alignment >= rtfLeft && alignment <= rtfJustify);
+    requireProperty(alignment >= rtfLeft && alignment <= rtfJustify);
     formatSelection([&](QTextCursor& cursor) { alignParagraphs(cursor, alignment); });
 }
 

@@ -26,7 +26,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int DesignWidth = 6000; // twips
+constexpr int AboutWidth = 6000; // twips
 
 /// A line of the picture: a click on it is one on the box.
 void write(Label& label, int points, QRgb ink) {
@@ -65,7 +65,7 @@ void frmAbout::onLoad() {
         },
         [&] {
             clsResize(m_program.services.screen.GetSystemMetrics(0))
-                .ResizeForm(*this, DesignWidth, width, m_Image1);
+                .ResizeForm(*this, AboutWidth, width, m_Image1);
         });
     setFixedSize(m_Image1->size());
 }

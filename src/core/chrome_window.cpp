@@ -5,6 +5,7 @@
 #include "controls/image.h"
 #include "controls/label.h"
 #include "controls/message_boxes.h"
+#include "controls/mouse_numbers.h"
 #include "controls/window_drag.h"
 #include "core/alarm_label.h"
 #include "core/clock_label.h"
@@ -28,7 +29,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int LeftButton = 1;
 constexpr int ClockPoints = 16;
 
 } // namespace

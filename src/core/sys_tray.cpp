@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/sys_tray.h"
 
+#include "controls/mouse_numbers.h"
 #include "core/program.h"
 #include "runtime/aligned_timer.h"
 
@@ -13,9 +14,6 @@ namespace orvalis {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-constexpr int LeftButton = 1;
-constexpr int RightButton = 2;
 
 const QString SeparatorCaption = u"-"_s;
 

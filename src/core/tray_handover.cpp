@@ -4,6 +4,7 @@
 
 #include "controls/image.h"
 #include "controls/message_boxes.h"
+#include "controls/mouse_numbers.h"
 #include "core/chrome_window.h"
 #include "core/program.h"
 #include "core/sys_tray.h"
@@ -17,7 +18,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int RightButton = 2;
 constexpr double SharpestRatio = 2;
 
 /// A picture of a window as an icon that is sharp in the trays of any desktop.

@@ -5,6 +5,7 @@
 #include "controls/image.h"
 #include "controls/label.h"
 #include "controls/message_boxes.h"
+#include "controls/mouse_numbers.h"
 #include "controls/progress_bar.h"
 #include "controls/rich_text_box.h"
 #include "core/mouse_pointer.h"
@@ -24,8 +25,6 @@ namespace orvalis {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int LeftButton = 1;
 
 /// Shows the cipher's progress on a bar.
 class ProgressOnBar final : public CipherProgress {

@@ -7,6 +7,8 @@
 #include "runtime/integer16.h"
 #include "runtime/numeric_text.h"
 
+#include <cmath>
+
 namespace orvalis {
 
 namespace {
@@ -91,7 +93,7 @@ private:
         double high = low;
         // The text of half an odd code has decimals, and is cut at the sign ahead of them.
         if (code % 2 != 0 && m_ground.decimalSign == u'.') {
-            low = code / 2;
+            low = std::floor(low);
             high = low + 1;
         }
         appendCode(output, shift(low + key));

@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "controls/image.h"
 #include "controls/message_boxes.h"
+#include "controls/mouse_numbers.h"
 #include "controls/ms_flex_grid.h"
 #include "controls/rich_text_box.h"
 #include "core/program.h"
 #include "planner/grid_file.h"
+#include "planner/planner_text.h"
 #include "planner/reminder_panel.h"
 #include "runtime/app.h"
 #include "widgets/gg_command.h"
@@ -13,11 +15,10 @@
 namespace orvalis {
 
 using namespace Qt::StringLiterals;
+using planner::Black;
 
 namespace {
 
-constexpr quint32 Black = 0;
-constexpr int LeftButton = 1;
 constexpr QChar DecimalSign = u'.';
 
 void removeItem(GridModel& grid, int header) {

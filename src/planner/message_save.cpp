@@ -7,6 +7,7 @@
 #include "controls/ms_flex_grid.h"
 #include "controls/rich_text_box.h"
 #include "core/program.h"
+#include "planner/planner_text.h"
 #include "planner/todo_entry.h"
 #include "runtime/app.h"
 
@@ -16,10 +17,10 @@
 namespace orvalis {
 
 using namespace Qt::StringLiterals;
+using planner::Black;
 
 namespace {
 
-constexpr quint32 Black = 0;
 constexpr quint32 Red = 255;
 constexpr double DueLineFontSize = 8;
 

@@ -3,6 +3,7 @@
 #include "planner/planner_page.h"
 
 #include "controls/rich_text_box.h"
+#include "planner/planner_text.h"
 #include "planner/week_range.h"
 
 #include <QStringList>
@@ -10,19 +11,16 @@
 namespace orvalis {
 
 using namespace Qt::StringLiterals;
+using planner::Black;
+using planner::lineBreak;
 
 namespace {
 
-constexpr quint32 Black = 0;
 constexpr quint32 IceBlue = 0xCBBD86;
 constexpr double TitlePoints = 12;
 constexpr double WeekPoints = 10;
 constexpr double DayPoints = 8;
-constexpr int RuleLength = 33;
-
-QString lineBreak() {
-    return u"\r\n"_s;
-}
+constexpr int WeekRuleLength = 33;
 
 QStringList days(FirstDay firstDay) {
     QStringList names{u"Monday"_s,   u"Tuesday"_s, u"Wednesday"_s,
@@ -51,7 +49,7 @@ void writeHead(RichTextBox& page, const PlannerWeek& week, FirstDay firstDay) {
 } // namespace
 
 void writePlannerPage(RichTextBox& page, const PlannerWeek& week, FirstDay firstDay) {
-    const QString rule = QString(RuleLength, u'_') + lineBreak();
+    const QString rule = QString(WeekRuleLength, u'_') + lineBreak();
     page.setVisible(false);
     {
         const RichTextBox::Batch batch(page);

@@ -2,20 +2,18 @@
 // SPDX-License-Identifier: MIT
 #include "planner/todo_entry.h"
 
+#include "planner/planner_text.h"
 #include "planner/reminder_rules.h"
 #include "runtime/format.h"
 
 namespace orvalis {
 
 using namespace Qt::StringLiterals;
+using planner::lineBreak;
 
 namespace {
 
 constexpr int RuleLength = 19;
-
-QString lineBreak() {
-    return u"\r\n"_s;
-}
 
 QString rule() {
     return QString(RuleLength, u'_') + lineBreak();

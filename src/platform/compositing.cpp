@@ -17,7 +17,7 @@ namespace orvalis {
 
 namespace {
 
-struct Free {
+struct FreeReply {
     void operator()(void* reply) const { std::free(reply); }
 };
 
@@ -31,12 +31,12 @@ bool desktopComposites() {
     if (x11 == nullptr || x11->connection() == nullptr)
         return true;
     xcb_connection_t* connection = x11->connection();
-    const std::unique_ptr<xcb_intern_atom_reply_t, Free> atom(xcb_intern_atom_reply(
+    const std::unique_ptr<xcb_intern_atom_reply_t, FreeReply> atom(xcb_intern_atom_reply(
         connection, xcb_intern_atom(connection, 0, sizeof(ManagerSelection) - 1, ManagerSelection),
         nullptr));
     if (!atom)
         return false;
-    const std::unique_ptr<xcb_get_selection_owner_reply_t, Free> owner(
+    const std::unique_ptr<xcb_get_selection_owner_reply_t, FreeReply> owner(
         xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, atom->atom),
                                       nullptr));
     return owner && owner->owner != XCB_NONE;

@@ -13,7 +13,7 @@ namespace orvalis {
 
 namespace {
 
-struct Disconnect {
+struct DisconnectDisplay {
     void operator()(wl_display* display) const { wl_display_disconnect(display); }
 };
 
@@ -72,7 +72,7 @@ const wl_registry_listener RegistryListener{
 } // namespace
 
 std::optional<DisplayScreen> waylandScreen() {
-    const std::unique_ptr<wl_display, Disconnect> display(wl_display_connect(nullptr));
+    const std::unique_ptr<wl_display, DisconnectDisplay> display(wl_display_connect(nullptr));
     if (!display)
         return std::nullopt;
     Output output;

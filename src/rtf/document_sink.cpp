@@ -22,7 +22,7 @@ constexpr qint64 BytesOfParagraph = 400;
 constexpr qint64 BytesOfList = 1200;
 constexpr qint64 BytesOfFormat = 1500;
 constexpr qint64 BytesOfPicture = 3000;
-constexpr int BytesOfPixel = 4;
+constexpr int RasterBytes = 4;
 
 // The share of the memory allowed, 40 times the file and 64 MB, that structure and pixels get.
 constexpr qint64 StructureShare = 20;
@@ -56,7 +56,7 @@ DocumentSink::DocumentSink(QTextCursor& cursor, const ReadOptions& options, qsiz
     , m_options(options)
     , m_intake(cursor)
     , m_structureLeft(StructureShare * fileSize + Ground)
-    , m_pictures{(PixelShare * fileSize + Ground) / BytesOfPixel}
+    , m_pictures{(PixelShare * fileSize + Ground) / RasterBytes}
     , m_intoNothing(cursor.document()->isEmpty())
     , m_textBefore(!cursor.atBlockStart())
     , m_textBehind(!cursor.atBlockEnd())

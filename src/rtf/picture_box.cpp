@@ -20,14 +20,14 @@ constexpr double UnknownTwips = TwipsPerInch;
 // Two pixels for each that is shown keep the lines sharp where a screen has twice as many.
 constexpr double Fineness = 2;
 constexpr double LongestSide = 512;
-constexpr int BitsPerPixel = 32;
+constexpr int RasterBits = 32;
 
 constexpr QRgb Paper = qRgb(255, 255, 255);
 constexpr QRgb Ink = qRgb(160, 160, 160);
 
 QSize rasterSize(QSizeF shown, qint64 mostPixels) {
     const double side = std::max(shown.width(), shown.height());
-    const double bits = double(std::max<qint64>(mostPixels, 1)) * BitsPerPixel;
+    const double bits = double(std::max<qint64>(mostPixels, 1)) * RasterBits;
     // A box is at most a square of its longer side.
     const double longest = std::min({side * Fineness, LongestSide, std::sqrt(bits)});
     const QSizeF size = side > 0 ? shown * (longest / side) : QSizeF(longest, longest);

@@ -23,7 +23,7 @@ namespace {
 constexpr qint64 MostClaimedPixels = qint64(1) << 27;
 
 // An inch either way: enough to be seen, too little to be in the way.
-constexpr QSizeF unnamedTwips(TwipsPerInch, TwipsPerInch);
+constexpr QSizeF UnnamedTwips(TwipsPerInch, TwipsPerInch);
 
 // Whether Qt may know the kind, or is to be asked whether it does.
 bool isEncoded(PictureKind kind) {
@@ -110,7 +110,7 @@ QSizeF shownTwips(const Picture& picture) {
     if (!isMetafile(kindOfBytes(picture.bytes)))
         return {};
     const QSizeF window = metafileWindowTwips(picture.bytes);
-    return window.isEmpty() ? unnamedTwips : boundedTwips(window);
+    return window.isEmpty() ? UnnamedTwips : boundedTwips(window);
 }
 
 QImage imageOfPicture(const Picture& picture, qint64 mostPixels, MetafileConverter* converter) {

@@ -97,7 +97,7 @@ QByteArray withFallback(const QByteArray& first, const QByteArray& fallback) {
 }
 
 // In pixels, or in the unit of a metafile.
-QSize sourceSize(const Picture& picture) {
+QSize writtenSize(const Picture& picture) {
     if (isMetafile(picture.kind))
         return metafileSize(picture);
     const bool encoded = picture.kind == PictureKind::Png || picture.kind == PictureKind::Jpeg;
@@ -108,7 +108,7 @@ QSize sourceSize(const Picture& picture) {
 
 QByteArray ownGroup(const Picture& picture) {
     QByteArray rtf;
-    appendGroup(rtf, kindWords(picture), sourceSize(picture), picture, picture.bytes);
+    appendGroup(rtf, kindWords(picture), writtenSize(picture), picture, picture.bytes);
     return rtf;
 }
 

@@ -54,6 +54,12 @@ private:
     QByteArray m_what;
 };
 
+/// What a property refuses. \throws RuntimeError InvalidPropertyValue where it is not valid.
+inline void requireProperty(bool valid) {
+    if (!valid)
+        throw RuntimeError(ErrorNumber::InvalidPropertyValue);
+}
+
 /// Policy "pass over": runs each statement in turn; one that fails is given up and the next one
 /// runs.
 template <class... Statements>

@@ -8,10 +8,10 @@ namespace orvalis {
 
 namespace {
 
-constexpr QByteArrayView utf8Mark("\xEF\xBB\xBF");
+constexpr QByteArrayView Utf8Mark("\xEF\xBB\xBF");
 
 bool takenForUtf8(QByteArrayView bytes) {
-    return bytes.startsWith(utf8Mark) || QUtf8StringView(bytes).isValidUtf8();
+    return bytes.startsWith(Utf8Mark) || QUtf8StringView(bytes).isValidUtf8();
 }
 
 bool isAscii(QByteArrayView bytes) {
@@ -27,12 +27,12 @@ QByteArray encodeText(QStringView text, const AnsiPage& page) {
         if (isAscii(bytes) || !takenForUtf8(bytes))
             return bytes;
     }
-    return utf8Mark.toByteArray() + text.toUtf8();
+    return Utf8Mark.toByteArray() + text.toUtf8();
 }
 
 QString decodeText(QByteArrayView bytes, const AnsiPage& page) {
-    if (bytes.startsWith(utf8Mark))
-        return QString::fromUtf8(bytes.sliced(utf8Mark.size()));
+    if (bytes.startsWith(Utf8Mark))
+        return QString::fromUtf8(bytes.sliced(Utf8Mark.size()));
     return takenForUtf8(bytes) ? QString::fromUtf8(bytes) : page.decode(bytes);
 }
 

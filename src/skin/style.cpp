@@ -27,7 +27,7 @@ namespace {
 /// The room that Fusion keeps beside the words of a menu for pictures and ticks, in logical pixels.
 constexpr int SignColumn = 18;
 
-QColor of(QRgb rgb) {
+QColor shade(QRgb rgb) {
     return QColor::fromRgba(rgb);
 }
 
@@ -47,7 +47,7 @@ void layOnPaper(QWidget* widget) {
 
 void layOnGlass(QWidget* widget) {
     QPalette palette = widget->palette();
-    palette.setColor(QPalette::WindowText, of(colour::GlassText));
+    palette.setColor(QPalette::WindowText, shade(colour::GlassText));
     widget->setPalette(palette);
 }
 
@@ -59,7 +59,7 @@ bool hasNoSigns(const QStyleOptionMenuItem& item) {
 void drawMenuItem(const QStyle* base, const QStyleOptionMenuItem& item, QPainter* painter,
                   const QWidget* widget) {
     QStyleOptionMenuItem ours(item);
-    ours.palette.setColor(QPalette::Highlight, of(colour::Teal));
+    ours.palette.setColor(QPalette::Highlight, shade(colour::Teal));
     ours.palette.setColor(QPalette::HighlightedText, Qt::white);
     if (hasNoSigns(item))
         ours.rect.adjust(-SignColumn, 0, 0, 0);
@@ -141,7 +141,7 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
         return;
     case PE_PanelTipLabel:
         // Filled twice, as a line of one pixel would fall between the pixels of odd scales.
-        painter->fillRect(option->rect, of(colour::Line));
+        painter->fillRect(option->rect, shade(colour::Line));
         painter->fillRect(option->rect.adjusted(1, 1, -1, -1),
                           option->palette.brush(QPalette::ToolTipBase));
         return;

@@ -45,7 +45,7 @@ constexpr int LayoutWidth = 3060;
 /// New stickers lie fanned out, so that one that pops up leaves the head of the one before in
 /// sight; with this many the fan begins anew.
 constexpr int Fan = 8;
-constexpr QPoint fanStep(24, 28);
+constexpr QPoint FanStep(24, 28);
 
 } // namespace
 
@@ -166,7 +166,7 @@ void StickerForm::onLoad() {
     ++m_program.state.StickerCount;
     setWindowTitle(u"Sticker No"_s + QString::number(m_program.state.StickerNo));
     m_txtLabel1->setText(windowTitle());
-    setFirstPlaceOff(fanStep * ((m_program.state.StickerNo - 1) % Fan));
+    setFirstPlaceOff(FanStep * ((m_program.state.StickerNo - 1) % Fan));
     // What is typed into a new sticker is its note.
     m_Text1->setFocus();
 }

@@ -173,9 +173,9 @@ void GGCommand::changeEvent(QEvent* event) {
 }
 
 QSize GGCommand::sizeHint() const {
-    constexpr QSize room(16, 8);
+    constexpr QSize Room(16, 8);
     const QSize text = QFontMetrics(font()).size(0, Caption());
-    return text.expandedTo(m_picture.size()) + room + 2 * QSize(frameWidth(), frameWidth());
+    return text.expandedTo(m_picture.size()) + Room + 2 * QSize(frameWidth(), frameWidth());
 }
 
 QString GGCommand::spokenName() const {

@@ -85,10 +85,10 @@ DrivenProgram::DrivenProgram(Stage& stage, const QString& executable)
     QFile::setPermissions(m_folder->filePath(u"runtime"_s),
                           QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     const QDir built = QFileInfo(executable).dir();
-    const QStringList companions{QFileInfo(executable).fileName(), u"Alarm.wav"_s,
-                                 u"orvalis.chm"_s};
-    for (const QString& companion : companions)
-        QFile::copy(built.filePath(companion), folder() + u'/' + companion);
+    const QStringList files = QStringLiteral(ORVALIS_COMPANIONS).split(u'|') +
+                              QStringList(QFileInfo(executable).fileName());
+    for (const QString& file : files)
+        m_complete &= QFile::copy(built.filePath(file), folder() + u'/' + file);
 
     m_environment.insert(u"HOME"_s, m_folder->filePath(u"home"_s));
     m_environment.insert(u"XDG_CONFIG_HOME"_s, configFolder());
@@ -159,6 +159,8 @@ void DrivenProgram::setClock(const QDateTime& moment) {
 }
 
 bool DrivenProgram::launch() {
+    if (!m_complete)
+        return false;
     m_process.setProcessEnvironment(m_environment);
     m_process.setProcessChannelMode(QProcess::MergedChannels);
     m_process.setWorkingDirectory(m_folder->path());

@@ -57,7 +57,8 @@ public:
     /// the run.
     void setClock(const QDateTime& moment);
 
-    /// Launches the program and waits until it can be asked.
+    /// Launches the program and waits until it can be asked. \returns false also where something
+    /// that belongs beside it was not there to be copied.
     bool start() { return launch() && connectProbe(); }
     bool launch();
     bool connectProbe();
@@ -115,6 +116,7 @@ private:
     QProcess m_process;
     int m_socket = -1;
     QByteArray m_received;
+    bool m_complete = true;
     bool m_clockMoved = false;
 };
 

@@ -9,6 +9,9 @@
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
 #include <QTextStream>
 
 using namespace Qt::StringLiterals;
@@ -34,6 +37,7 @@ private:
     QTextStream m_out{stdout};
     int m_step = 0;
     int m_picture = 0;
+    bool m_everyPicture = true;
 };
 
 void Tour::tell(const QString& words) {
@@ -45,10 +49,10 @@ void Tour::picture(const QString& name) {
     sleepMilliseconds(400);
     const QString file =
         m_pictures.filePath(u"%1-%2.png"_s.arg(++m_picture, 2, 10, QChar(u'0')).arg(name));
-    if (m_program.takePicture(file))
-        m_out << "     picture: " << QDir::toNativeSeparators(file) << Qt::endl;
-    else
-        m_out << "     no picture could be taken of " << name << Qt::endl;
+    const bool taken = m_program.takePicture(file) && QFileInfo(file).isFile();
+    m_everyPicture &= taken;
+    m_out << (taken ? "     picture: " : "     no picture could be taken: ")
+          << QDir::toNativeSeparators(file) << Qt::endl;
 }
 
 bool Tour::reminder() {
@@ -93,7 +97,16 @@ bool Tour::play() {
         return false;
     }
     picture(u"main-window"_s);
-    return reminder();
+    return reminder() && m_everyPicture;
+}
+
+/// What an earlier tour left, and nothing else.
+void removeOwnPictures(const QDir& folder) {
+    static const QRegularExpression own(u"^\\d\\d-[a-z-]+\\.png$"_s);
+    const QStringList files = folder.entryList(QDir::Files);
+    for (const QString& file : files)
+        if (own.match(file).hasMatch())
+            QFile::remove(folder.filePath(file));
 }
 
 } // namespace
@@ -106,7 +119,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     const QString pictures = QDir::current().absoluteFilePath(arguments[2]);
-    QDir(pictures).removeRecursively();
+    removeOwnPictures(QDir(pictures));
     if (!QDir().mkpath(pictures)) {
         QTextStream(stderr) << "cannot make " << pictures << '\n';
         return 1;

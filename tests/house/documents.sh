@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 The Orvalis developers
 # SPDX-License-Identifier: MIT
 #
-# Every path of the tree that a document names exists.
+# Every path of the tree that a document names exists, and every folder of the source is told of.
 set -euo pipefail
 cd "$1"
 
@@ -15,5 +15,11 @@ for document in README.md CONTRIBUTING.md docs/*.md; do
     fi
   done < <(grep -oE "(^|[^A-Za-z0-9_/.-])(src|tests|bench|fuzz|help|tools|packaging|docs|cmake|\.ci)/[A-Za-z0-9_./*-]*[A-Za-z0-9_*]" "$document" |
     sed -E "s|^[^a-z.]||" | sort -u)
+done
+for folder in src/*/; do
+  if ! grep -q "\`${folder%/}\`" docs/ARCHITECTURE.md; then
+    echo "docs/ARCHITECTURE.md does not tell of ${folder%/}"
+    failed=1
+  fi
 done
 exit $failed

@@ -249,7 +249,7 @@ void RichTextBoxDragTest::aReadOnlyBoxTakesNothing() {
 }
 
 /// A drag needs a display: without one it ends before it has begun.
-int main(int argc, char** argv) {
+ORVALIS_TEST_MAIN(int argc, char** argv) {
     fixedGround();
     const VirtualDisplay display(800, 600);
     qputenv("QT_QPA_PLATFORM", "xcb");
@@ -258,7 +258,6 @@ int main(int argc, char** argv) {
     qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
     QApplication app(argc, argv);
     RichTextBoxDragTest test;
-    QTEST_SET_MAIN_SOURCE_PATH
     return QTest::qExec(&test, argc, argv);
 }
 #include "rich_text_box_drag_test.moc"

@@ -30,8 +30,6 @@
 using namespace orvalis;
 using namespace Qt::StringLiterals;
 
-Q_DECLARE_METATYPE(std::function<QWidget*()>)
-
 namespace {
 
 using Maker = std::function<QWidget*()>;

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "driver/reminder_road.h"
+#include "support/test_main.h"
 
-#include <QStandardPaths>
 #include <QTest>
 
 #include <csignal>
@@ -19,8 +19,6 @@ class OtherProgram {
 public:
     explicit OtherProgram(const Stage& stage)
         : m_environment(stage.environment()) {}
-
-    static bool isThere() { return !QStandardPaths::findExecutable(u"xclip"_s).isEmpty(); }
 
     /// Offers the bytes as the one thing on the clipboard. \returns whether they are on offer.
     bool put(const QString& target, const QByteArray& bytes) {
@@ -87,8 +85,6 @@ private:
 };
 
 void ClipboardJourneyTest::init() {
-    if (!OtherProgram::isThere())
-        QSKIP("xclip, the other program of this journey, is not installed");
     m_stage = std::make_unique<Stage>(Stage::Plan());
     QVERIFY2(m_stage->trouble().isEmpty(), qPrintable(m_stage->trouble()));
     m_other = std::make_unique<OtherProgram>(*m_stage);
@@ -220,5 +216,5 @@ void ClipboardJourneyTest::anOwnerThatIsStoppedHoldsNobody() {
     owner.waitForFinished();
 }
 
-QTEST_GUILESS_MAIN(ClipboardJourneyTest)
+ORVALIS_TEST_MAIN_WITH(QCoreApplication, ClipboardJourneyTest)
 #include "clipboard_journey_test.moc"

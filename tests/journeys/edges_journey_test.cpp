@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "driver/driven_program.h"
 
+#include "support/test_main.h"
+
 #include <QImage>
 #include <QTest>
 
@@ -88,5 +90,5 @@ void EdgesJourneyTest::noEdgeOrCornerIsDark() {
     QCOMPARE(look(u"frmstick"_s), QString());
 }
 
-QTEST_GUILESS_MAIN(EdgesJourneyTest)
+ORVALIS_TEST_MAIN_WITH(QCoreApplication, EdgesJourneyTest)
 #include "edges_journey_test.moc"

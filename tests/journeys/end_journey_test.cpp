@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "driver/reminder_road.h"
 
+#include "support/test_main.h"
+
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -126,5 +128,5 @@ void EndJourneyTest::aSecondEndWritesASecondFile() {
     }
 }
 
-QTEST_GUILESS_MAIN(EndJourneyTest)
+ORVALIS_TEST_MAIN_WITH(QCoreApplication, EndJourneyTest)
 #include "end_journey_test.moc"

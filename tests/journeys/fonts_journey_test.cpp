@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "driver/reminder_road.h"
+#include "support/test_main.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -69,5 +70,5 @@ void FontsJourneyTest::theMessageFontStaysOverFiveRuns() {
     }
 }
 
-QTEST_GUILESS_MAIN(FontsJourneyTest)
+ORVALIS_TEST_MAIN_WITH(QCoreApplication, FontsJourneyTest)
 #include "fonts_journey_test.moc"

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "driver/driven_program.h"
 
+#include "support/test_main.h"
+
 #include <QDateTime>
 #include <QFile>
 #include <QTest>
@@ -213,5 +215,5 @@ void KeyboardJourneyTest::aStickerIsMadeWrittenPinnedAndClosed() {
     QVERIFY(m_program->control(u"frmstick"_s).visible);
 }
 
-QTEST_GUILESS_MAIN(KeyboardJourneyTest)
+ORVALIS_TEST_MAIN_WITH(QCoreApplication, KeyboardJourneyTest)
 #include "keyboard_journey_test.moc"

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "driver/driven_program.h"
 
+#include "support/test_main.h"
+
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -87,5 +89,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(LettersJourneyTest)
+ORVALIS_TEST_MAIN_WITH(QCoreApplication, LettersJourneyTest)
 #include "letters_journey_test.moc"

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "driver/driven_program.h"
 
+#include "support/test_main.h"
+
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -81,5 +83,5 @@ void NestedLoopsJourneyTest::thePanelIsClosedUnderItsHelpMenu() {
     QCOMPARE(m_program->output(), QByteArray());
 }
 
-QTEST_GUILESS_MAIN(NestedLoopsJourneyTest)
+ORVALIS_TEST_MAIN_WITH(QCoreApplication, NestedLoopsJourneyTest)
 #include "nested_loops_journey_test.moc"

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "driver/driven_program.h"
 
+#include "support/test_main.h"
+
 #include <QDir>
 #include <QFile>
 #include <QTest>
@@ -342,5 +344,5 @@ void NotesJourneyTest::theSystemsEndKeepsTheLeftPage() {
     QVERIFY(m_program->waitVisible(u"frmnotes"_s));
 }
 
-QTEST_GUILESS_MAIN(NotesJourneyTest)
+ORVALIS_TEST_MAIN_WITH(QCoreApplication, NotesJourneyTest)
 #include "notes_journey_test.moc"

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "driver/driven_program.h"
 
+#include "support/test_main.h"
+
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -90,5 +92,5 @@ void PasswordJourneyTest::aTextIsScrambledSavedLoadedAndBroughtBack() {
     QVERIFY(program.isRunning());
 }
 
-QTEST_GUILESS_MAIN(PasswordJourneyTest)
+ORVALIS_TEST_MAIN_WITH(QCoreApplication, PasswordJourneyTest)
 #include "password_journey_test.moc"

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "driver/reminder_road.h"
 
+#include "support/test_main.h"
+
 #include <QDateTime>
 #include <QDir>
 #include <QTest>
@@ -254,5 +256,5 @@ void PlannerJourneyTest::eachClearCommandInItsSubPanel() {
     QVERIFY(m_program->isRunning());
 }
 
-QTEST_GUILESS_MAIN(PlannerJourneyTest)
+ORVALIS_TEST_MAIN_WITH(QCoreApplication, PlannerJourneyTest)
 #include "planner_journey_test.moc"

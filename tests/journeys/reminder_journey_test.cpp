@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "driver/reminder_road.h"
 #include "ink.h"
+#include "support/test_main.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -210,5 +211,5 @@ void ReminderJourneyTest::afterAKillTheNextStartWorks() {
     QVERIFY(program.waitVisible(u"frmnotes"_s));
 }
 
-QTEST_GUILESS_MAIN(ReminderJourneyTest)
+ORVALIS_TEST_MAIN_WITH(QCoreApplication, ReminderJourneyTest)
 #include "reminder_journey_test.moc"

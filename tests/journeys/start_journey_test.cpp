@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "driver/driven_program.h"
 
+#include "support/test_main.h"
+
 #include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
@@ -84,5 +86,5 @@ void StartJourneyTest::leftoversOfAKilledRunGoAtTheNextStart() {
         QVERIFY2(!QFile::exists(leftover), qPrintable(leftover));
 }
 
-QTEST_GUILESS_MAIN(StartJourneyTest)
+ORVALIS_TEST_MAIN_WITH(QCoreApplication, StartJourneyTest)
 #include "start_journey_test.moc"

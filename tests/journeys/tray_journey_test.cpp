@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "driver/driven_program.h"
 #include "ink.h"
+#include "support/test_main.h"
 
 #include <QDBusArgument>
 #include <QDBusConnection>
@@ -190,7 +191,6 @@ private slots:
     void anAlarmLivesInAStatusNotifierTray();
     void withStartSetTheProgramComesUpInTheTrayAlone();
     void aMissingMessageEndsTheProgramInTheTrayAndTheTickInTheWindow();
-    void inTheTrayTheProgramSleeps();
 
 private:
     void aliveInWindowTray(Stage& stage, const QString& iconName);
@@ -201,7 +201,6 @@ private:
     QStringList visibleEntries(DrivenProgram& program);
     static QString opened(const DrivenProgram& program);
     static void writeOpener(const DrivenProgram& program);
-    static qint64 pidOf(const DrivenProgram& program);
 };
 
 bool TrayJourneyTest::settled(DrivenProgram& program, const QString& name) {
@@ -477,51 +476,5 @@ void TrayJourneyTest::aMissingMessageEndsTheProgramInTheTrayAndTheTickInTheWindo
     QVERIFY(program.waitForEnd());
 }
 
-qint64 TrayJourneyTest::pidOf(const DrivenProgram& program) {
-    const QString executable = QFileInfo(program.folder() + u"/orvalis"_s).canonicalFilePath();
-    const QStringList processes = QDir(u"/proc"_s).entryList(QDir::Dirs);
-    for (const QString& process : processes)
-        if (QFileInfo(u"/proc/"_s + process + u"/exe"_s).canonicalFilePath() == executable)
-            return process.toLongLong();
-    return 0;
-}
-
-void TrayJourneyTest::inTheTrayTheProgramSleeps() {
-    Stage stage({});
-    QVERIFY2(stage.trouble().isEmpty(), qPrintable(stage.trouble()));
-    DrivenProgram program(stage, QStringLiteral(ORVALIS_EXECUTABLE));
-    QVERIFY(program.start());
-    QVERIFY(settled(program, u"frmnotes"_s));
-    QVERIFY(program.click(u"frmnotes/imgMini"_s));
-    QVERIFY(settled(program, u"trayWindow"_s));
-    const qint64 pid = pidOf(program);
-    QVERIFY(pid > 0);
-    const auto read = [pid](const QString& name) {
-        QFile file(u"/proc/%1/%2"_s.arg(pid).arg(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    };
-    const auto processorTicks = [&] {
-        const QByteArrayList fields = read(u"stat"_s).split(')').last().simplified().split(' ');
-        return fields.value(11).toLongLong() + fields.value(12).toLongLong();
-    };
-    const auto wakeUps = [&] {
-        const QByteArray status = read(u"status"_s);
-        const qsizetype place = status.indexOf("\nvoluntary_ctxt_switches:");
-        return status.mid(place + 25).trimmed().split('\n').first().trimmed().toLongLong();
-    };
-    constexpr int Seconds = 60;
-    sleepMilliseconds(3000);
-    const qint64 ticksBefore = processorTicks();
-    const qint64 wakeUpsBefore = wakeUps();
-    sleepMilliseconds(Seconds * 1000);
-    const qint64 ticks = processorTicks() - ticksBefore;
-    const double perSecond = static_cast<double>(wakeUps() - wakeUpsBefore) / Seconds;
-    // A tick of the processor's clock is 10 ms.
-    const double share = static_cast<double>(ticks) / Seconds;
-    qInfo("idle in the tray: %.2f %% of a core, %.2f wake-ups a second", share, perSecond);
-    QVERIFY2(share <= 0.2, qPrintable(QString::number(share)));
-    QVERIFY2(perSecond <= 3, qPrintable(QString::number(perSecond)));
-}
-
-QTEST_GUILESS_MAIN(TrayJourneyTest)
+ORVALIS_TEST_MAIN_WITH(QCoreApplication, TrayJourneyTest)
 #include "tray_journey_test.moc"

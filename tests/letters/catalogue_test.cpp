@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "letters/catalogue.h"
 #include "letters/template_tree.h"
+#include "support/test_main.h"
 
 #include <QSet>
 #include <QTest>
@@ -204,5 +205,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(CatalogueTest)
+ORVALIS_TEST_MAIN_WITH(QCoreApplication, CatalogueTest)
 #include "catalogue_test.moc"

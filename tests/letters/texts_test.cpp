@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "letters/catalogue.h"
 
+#include "support/test_main.h"
+
 #include <QDir>
 #include <QHash>
 #include <QRegularExpression>
@@ -377,5 +379,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TextsTest)
+ORVALIS_TEST_MAIN_WITH(QCoreApplication, TextsTest)
 #include "texts_test.moc"

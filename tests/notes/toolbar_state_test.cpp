@@ -106,5 +106,5 @@ void ToolbarStateTest::anIndentHasNoLimit() {
     QCOMPARE(shiftedIndent(1000000, 8), 1000454);
 }
 
-QTEST_GUILESS_MAIN(ToolbarStateTest)
+ORVALIS_TEST_MAIN_WITH(QCoreApplication, ToolbarStateTest)
 #include "toolbar_state_test.moc"

@@ -82,7 +82,8 @@ public:
         m_process.setProcessEnvironment(environment);
         m_process.setStandardErrorFile(QProcess::nullDevice());
         QStringList command = tracer;
-        command << QCoreApplication::applicationFilePath() << u"--save"_s << how;
+        command << QCoreApplication::applicationFilePath() << u"killed_save_test"_s << u"--save"_s
+                << how;
         const QString program = command.takeFirst();
         m_process.start(program, command);
     }
@@ -281,7 +282,7 @@ void KilledSaveTest::aKillAtAnyMomentLeavesOldFilesOrNewOnes() {
     }
 }
 
-int main(int argc, char** argv) {
+ORVALIS_TEST_MAIN(int argc, char** argv) {
     fixedGround();
     qputenv("QT_HASH_SEED", "0");
     QApplication app(argc, argv);

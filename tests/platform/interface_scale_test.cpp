@@ -167,7 +167,8 @@ void InterfaceScaleTest::windowsAreScaledAndChildrenAreNot() {
     m_environment->set("QT_SCALE_FACTOR", usersFactor);
     QProcess program;
     program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    program.start(QCoreApplication::applicationFilePath(), {u"--program"_s});
+    program.start(QCoreApplication::applicationFilePath(),
+                  {u"interface_scale_test"_s, u"--program"_s});
     QVERIFY(program.waitForFinished());
     QCOMPARE(program.readAllStandardOutput().trimmed(), told);
 }
@@ -180,7 +181,7 @@ void InterfaceScaleTest::withoutADesktopNothingIsScaled() {
     QVERIFY(!qEnvironmentVariableIsSet("QT_SCALE_FACTOR"));
 }
 
-int main(int argc, char** argv) {
+ORVALIS_TEST_MAIN(int argc, char** argv) {
     if (argc == 2 && QByteArray(argv[1]) == "--program")
         return runAsProgram(argc, argv);
     fixedGround();

@@ -25,7 +25,7 @@ class Copy {
 public:
     Copy(const QString& dataFolder, const QString& lockFolder) {
         m_process.start(QCoreApplication::applicationFilePath(),
-                        {u"--copy"_s, dataFolder, lockFolder});
+                        {u"single_instance_test"_s, u"--copy"_s, dataFolder, lockFolder});
     }
     ~Copy() {
         m_process.closeWriteChannel();
@@ -218,7 +218,7 @@ void SingleInstanceTest::fullDisksMakeTheCopyUncertainAndKeepNoHalfLock() {
     QVERIFY(locks.names().isEmpty());
 }
 
-int main(int argc, char** argv) {
+ORVALIS_TEST_MAIN(int argc, char** argv) {
     fixedGround();
     const QCoreApplication app(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();

@@ -68,13 +68,15 @@ private slots:
 };
 
 void HostileCostTest::whatQtAsksForIsCounted() {
-    if (!test::CountsMemory)
-        QSKIP("The memory of this build is not counted.");
     constexpr qint64 Size = 1 << 20;
     const TakenMemory taken = memoryTakenBy([] {
         for (int time = 0; time < 2; ++time)
             QByteArray(Size, 'x').detach();
     });
+    if (!test::CountsMemory) {
+        QCOMPARE(taken.asked, 0);
+        return;
+    }
     QVERIFY(taken.asked >= 2 * Size);
     QVERIFY(taken.peak >= Size && taken.peak < 2 * Size);
 }

@@ -14,8 +14,6 @@ using orvalis::test::RecordingSink;
 
 using CharSetter = std::function<void(CharFormat&)>;
 using ParagraphSetter = std::function<void(ParagraphFormat&)>;
-Q_DECLARE_METATYPE(CharSetter)
-Q_DECLARE_METATYPE(ParagraphSetter)
 
 namespace {
 

@@ -90,7 +90,7 @@ void UserLocaleTest::dayNamesAndPageFollowTheScript() {
             environment.insert(name, value);
     QProcess process;
     process.setProcessEnvironment(environment);
-    process.start(QCoreApplication::applicationFilePath(), {u"--tell"_s});
+    process.start(QCoreApplication::applicationFilePath(), {u"user_locale_test"_s, u"--tell"_s});
     QVERIFY(process.waitForFinished());
     QCOMPARE(QString::fromUtf8(process.readAllStandardOutput()), told);
 }
@@ -108,7 +108,7 @@ static int tell(int argc, char** argv) {
     return 0;
 }
 
-int main(int argc, char** argv) {
+ORVALIS_TEST_MAIN(int argc, char** argv) {
     if (argc > 1 && qstrcmp(argv[1], "--tell") == 0)
         return tell(argc, argv);
     orvalis::test::fixedGround();

@@ -11,7 +11,6 @@
 // own.
 #if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__)
 #define ORVALIS_COUNTS_MEMORY
-#include <malloc.h>
 #endif
 
 namespace orvalis::test {
@@ -27,21 +26,9 @@ struct TakenMemory {
 
 constexpr bool CountsMemory = true;
 
-inline std::atomic<qint64> askedMemory = 0;
-inline std::atomic<qint64> heldMemory = 0;
-inline std::atomic<qint64> peakMemory = 0;
-
-inline void* countTaken(void* memory, size_t size) noexcept {
-    askedMemory += qint64(size);
-    const qint64 held = heldMemory += qint64(malloc_usable_size(memory));
-    if (held > peakMemory)
-        peakMemory = held;
-    return memory;
-}
-
-inline void countGiven(void* memory) noexcept {
-    heldMemory -= qint64(malloc_usable_size(memory));
-}
+extern std::atomic<qint64> askedMemory;
+extern std::atomic<qint64> heldMemory;
+extern std::atomic<qint64> peakMemory;
 
 /// Counts for all threads, those of Qt's and the system's libraries included.
 template <class Work>
@@ -67,34 +54,3 @@ TakenMemory memoryTakenBy(Work&& work) {
 #endif
 
 } // namespace orvalis::test
-
-#ifdef ORVALIS_COUNTS_MEMORY
-
-// They stand in for the C library's in the whole program, so one source of it includes this.
-extern "C" {
-
-void* __libc_malloc(size_t size);
-void* __libc_calloc(size_t count, size_t size);
-void* __libc_realloc(void* memory, size_t size);
-void __libc_free(void* memory);
-
-void* malloc(size_t size) noexcept {
-    return orvalis::test::countTaken(__libc_malloc(size), size);
-}
-
-void* calloc(size_t count, size_t size) noexcept {
-    return orvalis::test::countTaken(__libc_calloc(count, size), count * size);
-}
-
-void* realloc(void* memory, size_t size) noexcept {
-    orvalis::test::countGiven(memory);
-    return orvalis::test::countTaken(__libc_realloc(memory, size), size);
-}
-
-void free(void* memory) noexcept {
-    orvalis::test::countGiven(memory);
-    __libc_free(memory);
-}
-}
-
-#endif

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QLocale>
-#include <QRegularExpression>
 #include <QTest>
 #include <QtGlobal>
 
@@ -17,14 +16,27 @@ inline void fixedGround() {
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
 }
 
+/// What main() would be if the test were an executable of its own.
+using TestMain = int (*)(int argc, char** argv);
+
+/// Makes a test known to the runner of its folder, under the name of its source file.
+struct KnownTest {
+    KnownTest(const char* file, TestMain main);
+};
+
 } // namespace orvalis::test
 
-/// main() of a test that drives widgets: an Application of the class given, a fixed ground.
+/// Stands where a test has its own main(): what follows is the body.
+#define ORVALIS_TEST_MAIN(...)                                                                     \
+    static int testMain(__VA_ARGS__);                                                              \
+    static const orvalis::test::KnownTest ThisTest(__FILE__, testMain);                            \
+    static int testMain(__VA_ARGS__)
+
+/// The test of one class: an Application of the class given, a fixed ground.
 #define ORVALIS_TEST_MAIN_WITH(Application, TestClass)                                             \
-    int main(int argc, char** argv) {                                                              \
+    ORVALIS_TEST_MAIN(int argc, char** argv) {                                                     \
         orvalis::test::fixedGround();                                                              \
         Application app(argc, argv);                                                               \
         TestClass test;                                                                            \
-        QTEST_SET_MAIN_SOURCE_PATH                                                                 \
         return QTest::qExec(&test, argc, argv);                                                    \
     }

@@ -20,7 +20,6 @@ using orvalis::test::Pointer;
 using orvalis::test::square;
 
 using Setter = std::function<void(GGCommand&)>;
-Q_DECLARE_METATYPE(Setter)
 
 namespace {
 

@@ -10,7 +10,7 @@ using namespace orvalis;
 
 namespace {
 
-constexpr QRect wholeScreen(0, 0, 1000, 800);
+constexpr QRect WholeScreen(0, 0, 1000, 800);
 
 ToolTipRequest request() {
     ToolTipRequest asked;
@@ -18,7 +18,7 @@ ToolTipRequest request() {
     asked.pointer = {300, 200};
     asked.pointerHeight = 20;
     asked.tool = QRect(280, 190, 60, 24);
-    asked.screen = wholeScreen;
+    asked.screen = WholeScreen;
     return asked;
 }
 
@@ -108,7 +108,7 @@ void ToolTipPlacementTest::aTipIsKeptInsideTheScreen() {
                 asked.centered = centered;
                 asked.pointer = pointer;
                 asked.tool = QRect(pointer - QPoint(30, 12), QSize(60, 24));
-                QVERIFY(wholeScreen.contains(QRect(placeToolTip(asked).position, asked.size)));
+                QVERIFY(WholeScreen.contains(QRect(placeToolTip(asked).position, asked.size)));
             }
         }
     }

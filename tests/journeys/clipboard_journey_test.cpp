@@ -3,6 +3,7 @@
 #include "driver/reminder_road.h"
 #include "support/test_main.h"
 
+#include <QCoreApplication>
 #include <QTest>
 
 #include <csignal>

@@ -4,6 +4,7 @@
 
 #include "support/test_main.h"
 
+#include <QCoreApplication>
 #include <QTest>
 
 using namespace Qt::StringLiterals;

@@ -4,6 +4,7 @@
 
 #include "support/test_main.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QTest>

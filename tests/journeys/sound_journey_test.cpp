@@ -4,6 +4,7 @@
 #include "support/null_sink.h"
 #include "support/test_main.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QTest>
 

@@ -4,6 +4,7 @@
 
 #include "support/test_main.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QTemporaryDir>
 #include <QTest>

@@ -4,6 +4,7 @@
 #include "ink.h"
 #include "support/test_main.h"
 
+#include <QCoreApplication>
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>

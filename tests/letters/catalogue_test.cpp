@@ -4,6 +4,7 @@
 #include "letters/template_tree.h"
 #include "support/test_main.h"
 
+#include <QCoreApplication>
 #include <QSet>
 #include <QTest>
 

@@ -68,7 +68,6 @@ private slots:
     void theCalendarMarksTodayAndFollowsMidnight();
     void clickingADateShowsIt();
     void aNewStickerIsMadeByItsButton();
-    void theWeeklyButtonsDoNothingYet();
     void unloadStoresTheFont();
     void queryUnloadAndUnloadEachStoreTheFont();
     void exitStoresTheFont();
@@ -473,13 +472,6 @@ void ReminderPanelTest::aNewStickerIsMadeByItsButton() {
     QVERIFY(!ground.stickers.made.back()->isModal());
     ground.press(u"imgNot"_s);
     QCOMPARE(ground.stickers.made.size(), std::size_t(2));
-}
-
-void ReminderPanelTest::theWeeklyButtonsDoNothingYet() {
-    PanelGround ground;
-    for (const QString& name : {u"Button4"_s, u"imgOpen"_s, u"imgoe"_s, u"Button5"_s, u"Button6"_s})
-        ground.press(name);
-    QCOMPARE(ground.folder.names(), QStringList());
 }
 
 void ReminderPanelTest::unloadStoresTheFont() {

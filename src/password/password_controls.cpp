@@ -24,8 +24,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int TextPoints = 10;
-constexpr int SmallPoints = 8;
 constexpr QRgb FieldPaper = 0xFF86BDCB;
 /// The right page's lower edge, where the picture buttons stand.
 constexpr int CommandsTop = 5850;
@@ -42,7 +40,7 @@ RichTextBox* textArea(QWidget& panel, const QString& name, const QRectF& twips,
     auto* made = new RichTextBox(&panel);
     made->setObjectName(name);
     made->setAccessibleName(accessibleName);
-    made->setFont(skin::font(TextPoints));
+    made->setFont(skin::font(skin::points::Body));
     made->setPlainFile(RichTextBox::PlainFile::Ansi);
     made->setTabChangesFocus(true);
     setTwipsGeometry(*made, twips);
@@ -70,10 +68,10 @@ void PasswordControls::makeTexts(QWidget& panel) {
 void PasswordControls::makeFrame(QWidget& panel) {
     Frame4 = new QGroupBox(u"Encrypt/Decrypt text "_s, &panel);
     Frame4->setObjectName(u"Frame4"_s);
-    Frame4->setFont(skin::font(SmallPoints));
+    Frame4->setFont(skin::font(skin::points::Body));
     setTwipsGeometry(*Frame4, {5940, 4110, 3945, 1575});
     Label6 = new Label(u"Label6"_s, u"Password"_s, Frame4);
-    Label6->setFont(skin::font(SmallPoints));
+    Label6->setFont(skin::font(skin::points::Body));
     Label6->setAlignment(Qt::AlignCenter);
     setTwipsGeometry(*Label6, {1605, 240, 750, 210});
     txtPW = new QLineEdit(Frame4);
@@ -81,7 +79,7 @@ void PasswordControls::makeFrame(QWidget& panel) {
     txtPW->setAccessibleName(u"Password"_s);
     txtPW->setEchoMode(QLineEdit::Password);
     giveEditMenu(*txtPW);
-    txtPW->setFont(skin::font(SmallPoints));
+    txtPW->setFont(skin::font(skin::points::Body));
     QPalette palette = txtPW->palette();
     palette.setColor(QPalette::Base, QColor(FieldPaper));
     txtPW->setPalette(palette);
@@ -91,7 +89,7 @@ void PasswordControls::makeFrame(QWidget& panel) {
     for (std::size_t index = 0; index < cmdCrypt.size(); ++index) {
         auto* button = new GGCommand(u"cmdCrypt(%1)"_s.arg(index), Frame4);
         button->setCaption(captions.at(index));
-        button->setFont(QFont(u"MS Sans Serif"_s, SmallPoints));
+        button->setFont(QFont(u"MS Sans Serif"_s, skin::points::Body));
         wearLook(*button, CryptButton);
         setTwipsGeometry(*button, {static_cast<qreal>(lefts.at(index)), 1140, 855, 255});
         cmdCrypt.at(index) = button;

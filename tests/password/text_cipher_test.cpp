@@ -162,8 +162,11 @@ void TextCipherTest::everyCodeUnderEveryKeyIsShiftedByTheRule() {
     for (int code = 0; code <= 255; ++code)
         all += Western.character(static_cast<quint8>(code));
     for (int key = 0; key <= 255; ++key) {
-        const QList<int> made = codes(run(all, text({key}), true, method, decimalSign));
+        const QString pairs = run(all, text({key}), true, method, decimalSign);
+        const QList<int> made = codes(pairs);
         QCOMPARE(made.size(), 512);
+        const QList<int> back = codes(run(pairs, text({key}), false, method));
+        QCOMPARE(back.size(), 256);
         for (int code = 0; code <= 255; ++code) {
             const auto [first, second] = pairInHalves(code, key, method, decimalSign == u'.');
             if (made[2 * code] != first || made[2 * code + 1] != second)
@@ -173,6 +176,7 @@ void TextCipherTest::everyCodeUnderEveryKeyIsShiftedByTheRule() {
                                      .arg(made[2 * code + 1])
                                      .arg(first)
                                      .arg(second)));
+            QCOMPARE(std::optional(back[code]), backFromPair(first, second, key, method));
         }
     }
 }

@@ -126,11 +126,11 @@ DocumentRoom::DocumentRoom(QTextDocument& document)
     connect(&document, &QTextDocument::contentsChanged, this, &DocumentRoom::contentsChanged);
 }
 
-double DocumentRoom::heightLeft(double wanted) {
+double DocumentRoom::heightLeft(double wanted, double gathered) {
     if (MostHeight - m_sum < wanted)
-        m_sum = heightWithoutRoom({});
+        m_sum = heightWithoutRoom({}) + gathered;
     if (MostHeight - m_sum < wanted)
-        m_sum = documentHeight(m_document);
+        m_sum = documentHeight(m_document) + gathered;
     return std::max(0.0, MostHeight - m_sum);
 }
 

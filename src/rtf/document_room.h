@@ -41,7 +41,8 @@ public:
 
     /// The height in pixels that may still come in. It is counted anew where a rough sum leaves
     /// less than is wanted.
-    double heightLeft(double wanted);
+    /// \param gathered what has been taken and does not stand in the document yet.
+    double heightLeft(double wanted, double gathered = 0);
     /// The height that the document has at most, however narrow its lines become.
     /// \param letters that may come in too.
     double heightWithoutRoom(const LetterHeight& letters);

@@ -31,12 +31,22 @@ qsizetype Intake::mostInParagraph() const {
     return m_full ? 0 : std::max<qsizetype>(0, std::min(m_charactersLeft, m_paragraphLeft));
 }
 
+double Intake::heightLeft(double wanted) {
+    return m_room.heightLeft(wanted, m_gathered);
+}
+
+void Intake::take(double height) {
+    m_room.take(height);
+    if (m_gathers)
+        m_gathered += height;
+}
+
 bool Intake::spend(double height) {
-    if (m_full || m_room.heightLeft(height) < height) {
+    if (m_full || heightLeft(height) < height) {
         m_full = true;
         return false;
     }
-    m_room.take(height);
+    take(height);
     return true;
 }
 
@@ -66,10 +76,10 @@ qsizetype Intake::taken(QStringView run, const LetterHeight& letters, const Para
         return 0;
     qsizetype length = wholeCharacters(run, std::min(run.size(), mostInParagraph()));
     const double wanted = heightOfRun(run.first(length), letters, shape);
-    const double left = m_room.heightLeft(wanted);
+    const double left = heightLeft(wanted);
     if (left < wanted)
         length = charactersWithin(left, run.first(length), letters, shape);
-    m_room.take(heightOfRun(run.first(length), letters, shape));
+    take(heightOfRun(run.first(length), letters, shape));
     m_charactersLeft -= length;
     m_paragraphLeft -= length;
     m_full = length < run.size();
@@ -79,6 +89,7 @@ qsizetype Intake::taken(QStringView run, const LetterHeight& letters, const Para
 qsizetype Intake::takenLines(QStringView text, const LetterHeight& letters,
                              const ParagraphShape& shape) {
     qsizetype at = 0;
+    m_gathers = true;
     while (!m_full) {
         qsizetype end = text.indexOf(u'\n', at);
         if (end < 0)
@@ -89,6 +100,8 @@ qsizetype Intake::takenLines(QStringView text, const LetterHeight& letters,
             break;
         ++at;
     }
+    m_gathers = false;
+    m_gathered = 0;
     return at;
 }
 

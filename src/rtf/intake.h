@@ -36,12 +36,15 @@ public:
 private:
     bool spend(double height);
     double heightLeft(double wanted);
+    void take(double height);
 
     DocumentRoom& m_room;
     qsizetype m_charactersLeft;
     qsizetype m_paragraphsLeft;
     qsizetype m_behind;        ///< characters behind the insertion in its last paragraph
     qsizetype m_paragraphLeft; ///< characters
+    bool m_gathers = false;    ///< much is taken before any of it is inserted
+    double m_gathered = 0;     ///< pixels
     bool m_full = false;
 };
 

@@ -611,7 +611,10 @@ void ReminderPanelTest::aRightClickOpensTheEditingMenuInTextBoxesAlone() {
         ground.press(up);
         const auto widgets = ground.panel().findChildren<QWidget*>();
         for (QWidget* widget : widgets) {
-            if (!widget->isVisible() || widget->inherits("QMenu"))
+            // The lists have the panel's clear menu in the place of an editing menu.
+            if (!widget->isVisible() || widget->inherits("QMenu") ||
+                qobject_cast<MSFlexGrid*>(widget) ||
+                qobject_cast<MSFlexGrid*>(widget->parentWidget()))
                 continue;
             const QPoint middle = widget->rect().center();
             QContextMenuEvent asked(QContextMenuEvent::Mouse, middle, widget->mapToGlobal(middle));

@@ -161,12 +161,12 @@ void RegistryTest::thePathIsJoinedOfItsPartsThatAreNotEmpty_data() {
 
 void RegistryTest::thePathIsJoinedOfItsPartsThatAreNotEmpty() {
     QFETCH(QString, root);
-    QFETCH(QString, Product);
+    QFETCH(QString, product);
     QFETCH(QString, section);
     QFETCH(QString, path);
-    QVERIFY(m_registry->RegPutSetting(Product, section, u"x"_s, u"1"_s, Hive::LocalMachine, root));
+    QVERIFY(m_registry->RegPutSetting(product, section, u"x"_s, u"1"_s, Hive::LocalMachine, root));
     QCOMPARE(m_store->value(Hive::LocalMachine, path, u"x"_s), StoredValue::string(u"1"_s));
-    QCOMPARE(m_registry->RegGetSetting(Product, section, u"x"_s, u"0"_s, Hive::LocalMachine, root),
+    QCOMPARE(m_registry->RegGetSetting(product, section, u"x"_s, u"0"_s, Hive::LocalMachine, root),
              QVariant(u"1"_s));
 }
 

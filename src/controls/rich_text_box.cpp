@@ -107,8 +107,10 @@ bool RichTextBox::replaceEverything(const QString& text, const QTextCharFormat& 
     });
     // What a document says of all its tabs goes with it.
     QTextOption option = document()->defaultTextOption();
-    option.setTabStopDistance(m_usualTabs);
-    document()->setDefaultTextOption(option);
+    if (option.tabStopDistance() != m_usualTabs) {
+        option.setTabStopDistance(m_usualTabs);
+        document()->setDefaultTextOption(option);
+    }
     if (!inBatch)
         document()->setUndoRedoEnabled(keepsHistory);
     contentWasSet(format);

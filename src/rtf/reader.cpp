@@ -71,10 +71,15 @@ ReadResult readRtf(QByteArrayView bytes, QTextDocument& document, const ReadOpti
     cursor.beginEditBlock();
     DocumentSink sink(cursor, options, bytes.size());
     const ReadResult result = readInto(bytes, sink);
-    QTextOption option = document.defaultTextOption();
-    option.setTabStopDistance(sink.defaultTabTwips() / TwipsPerPixel);
-    document.setDefaultTextOption(option);
     cursor.endEditBlock();
+    // Only now is it known how the lines of long words are to be broken; to set the tabs lays the
+    // document out.
+    QTextOption option = document.defaultTextOption();
+    const double tabs = sink.defaultTabTwips() / TwipsPerPixel;
+    if (option.tabStopDistance() != tabs) {
+        option.setTabStopDistance(tabs);
+        document.setDefaultTextOption(option);
+    }
     document.setUndoRedoEnabled(undo);
     return result;
 }

@@ -17,7 +17,7 @@
 namespace orvalis {
 namespace {
 
-constexpr qint64 LargestPicture = qint64{64} * 1024 * 1024; // bytes
+constexpr qint64 LargestPictureFile = qint64{64} * 1024 * 1024; // bytes
 
 /// The name under which programs exchange the picture as it is; empty for other kinds.
 QString exchangeName(const QByteArray& file) {
@@ -35,7 +35,7 @@ QString exchangeName(const QByteArray& file) {
 
 LoadedPicture LoadPicture(const QString& path) {
     rtf::Picture picture;
-    picture.bytes = readWhole(path, LargestPicture);
+    picture.bytes = readWhole(path, LargestPictureFile);
     picture.kind = rtf::kindOfBytes(picture.bytes);
     const QSize size = rtf::pixelSize(picture);
     picture.width = size.width();

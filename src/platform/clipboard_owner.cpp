@@ -19,10 +19,10 @@ constexpr int PatienceMs = 100;
 constexpr int BelievedSilentMs = 3000;
 
 template <class Reply>
-using Held = std::unique_ptr<Reply, decltype(&std::free)>;
+using HeldReply = std::unique_ptr<Reply, decltype(&std::free)>;
 
 template <class Reply>
-Held<Reply> held(Reply* reply) {
+HeldReply<Reply> held(Reply* reply) {
     return {reply, &std::free};
 }
 

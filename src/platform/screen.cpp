@@ -18,10 +18,10 @@ constexpr int ScreenWidthIndex = 0;
 constexpr int ScreenHeightIndex = 1;
 constexpr qreal WidestToHigh = 4.0 / 3;
 /// A quotient's last digit must not cost a unit.
-constexpr qreal Slack = 1e-6;
+constexpr qreal UnitSlack = 1e-6;
 
 int roundedDown(qreal units) {
-    return static_cast<int>(std::floor(units + Slack));
+    return static_cast<int>(std::floor(units + UnitSlack));
 }
 
 /// Where a length that begins at \a start has to begin to lie between \a low and \a high.

@@ -26,7 +26,7 @@ constexpr char AddressVariable[] = "DBUS_SESSION_BUS_ADDRESS";
 constexpr char NoBus[] = "disabled:";
 /// A bus in good health answers within a millisecond; on a machine that is busy with a log-in it
 /// may take its time. Nobody with a bus that works ever waits as long as this.
-constexpr milliseconds Patience{500};
+constexpr milliseconds BusPatience{500};
 
 /// The path of the bus's socket, one that begins with NUL for an abstract one; empty where the
 /// address names none.
@@ -163,7 +163,7 @@ bool SessionBusQuestion::isAnswered(milliseconds patience) {
 }
 
 void hideSilentSessionBus(SessionBusQuestion& question) {
-    if (question.isAnswered(Patience))
+    if (question.isAnswered(BusPatience))
         return;
     hidden() = qgetenv(AddressVariable);
     if (hidden().isNull())

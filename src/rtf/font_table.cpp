@@ -11,7 +11,7 @@ namespace orvalis::rtf {
 namespace {
 
 // Numbers come from outside, so they are keys and never sizes; and no document needs more fonts.
-constexpr qsizetype MostFonts = 32768;
+constexpr qsizetype MostNumberedFonts = 32768;
 constexpr qsizetype LongestName = 256;
 
 // No face is named with what ends an entry of the table, stands for a picture or cannot be seen.
@@ -82,7 +82,7 @@ void FontTable::commit(Names& names, const CodePage& documentPage) {
         m_entry.page = &latin;
     if (!name.isEmpty())
         m_entry.family = names.family(name);
-    if (m_fonts.size() >= MostFonts && !m_fonts.contains(m_number))
+    if (m_fonts.size() >= MostNumberedFonts && !m_fonts.contains(m_number))
         return;
     m_fonts.insert(m_number, m_entry);
     ++m_version;

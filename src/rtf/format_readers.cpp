@@ -19,7 +19,7 @@ constexpr double PointsPerPixel = 0.75;
 // The hanging indent of a list item that was made on the screen.
 constexpr int LabelIndent = 360; // twips
 
-int twips(double pixels) {
+int twipsOf(double pixels) {
     return int(std::lround(pixels * TwipsPerPixel));
 }
 
@@ -76,8 +76,8 @@ Alignment alignmentOf(const QTextBlockFormat& format) {
 
 Indents indentsOf(const QTextBlockFormat& format, const QTextList* list, double indentWidth) {
     Indents result;
-    result.left = twips(format.leftMargin() + steppedMargin(format, list, indentWidth));
-    result.first = twips(format.textIndent());
+    result.left = twipsOf(format.leftMargin() + steppedMargin(format, list, indentWidth));
+    result.first = twipsOf(format.textIndent());
     if (!list)
         return result;
     if (format.hasProperty(ParagraphFirstIndent))

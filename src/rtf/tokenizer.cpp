@@ -30,7 +30,7 @@ constexpr bool isDigit(uchar c) {
 }
 
 // A longer run of letters is still one word, but no known one.
-constexpr int LongestWord = 32;
+constexpr int LongestControlWord = 32;
 
 } // namespace
 
@@ -121,8 +121,8 @@ void Tokenizer::word(Token& token) {
     token.kind = TokenKind::Word;
     token.hasParameter = false;
     token.parameter = 0;
-    token.word =
-        length <= LongestWord ? findControlWord(QByteArrayView(start, length), hash) : nullptr;
+    token.word = length <= LongestControlWord ? findControlWord(QByteArrayView(start, length), hash)
+                                              : nullptr;
 
     if (m_at == m_end)
         return;

@@ -34,7 +34,7 @@ const QString LeftoverStart = u".orvalis-"_s;
 const QString LeftoverEnd = u".tmp"_s;
 constexpr int MarkLength = 8;
 
-[[noreturn]] void fail(ErrorNumber number) {
+[[noreturn]] void refuse(ErrorNumber number) {
     throw RuntimeError(number);
 }
 
@@ -98,11 +98,11 @@ QStringList leftoversIn(const QString& folder) {
 QString checkedFolder(const QString& path, WholeFile::OldFile oldFile) {
     const QFileInfo target(path);
     if (target.fileName().isEmpty() || (target.exists() && !target.isFile()))
-        fail(ErrorNumber::PathFileAccessError);
+        refuse(ErrorNumber::PathFileAccessError);
     if (!QFileInfo(target.path()).isDir())
-        fail(ErrorNumber::PathNotFound);
+        refuse(ErrorNumber::PathNotFound);
     if (oldFile == WholeFile::OldFile::Replaced && target.exists() && !target.isWritable())
-        fail(ErrorNumber::PermissionDenied);
+        refuse(ErrorNumber::PermissionDenied);
     return target.path();
 }
 
@@ -117,8 +117,8 @@ TemporaryFile::TemporaryFile(const QString& folder) {
             break;
     }
     m_file.setFileName({});
-    fail(QFileInfo(folder).isWritable() ? ErrorNumber::PathFileAccessError
-                                        : ErrorNumber::PermissionDenied);
+    refuse(QFileInfo(folder).isWritable() ? ErrorNumber::PathFileAccessError
+                                          : ErrorNumber::PermissionDenied);
 }
 
 TemporaryFile::~TemporaryFile() {
@@ -160,22 +160,22 @@ WholeFile::WholeFile(const QString& path, QByteArrayView bytes, OldFile oldFile)
     if (target.exists() && (oldFile == OldFile::Replaced || target.isReadable()))
         m_temporary.setPermissions(target.permissions());
     if (!m_temporary.write(bytes) || !m_temporary.complete())
-        fail(ErrorNumber::PathFileAccessError);
+        refuse(ErrorNumber::PathFileAccessError);
 }
 
 bool copyWhole(const QString& path, const QString& copy) {
     return endSilently([&] {
         QFile source(path);
         if (!source.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-            fail(ErrorNumber::PermissionDenied);
+            refuse(ErrorNumber::PermissionDenied);
         TemporaryFile temporary(QFileInfo(copy).path());
         QByteArray bytes(CopiedAtOnce, Qt::Uninitialized);
         qint64 length = 0;
         while ((length = source.read(bytes.data(), bytes.size())) > 0)
             if (!temporary.write(QByteArrayView(bytes).first(length)))
-                fail(ErrorNumber::PathFileAccessError);
+                refuse(ErrorNumber::PathFileAccessError);
         if (length < 0 || !temporary.complete() || !temporary.takeFree(copy))
-            fail(ErrorNumber::PathFileAccessError);
+            refuse(ErrorNumber::PathFileAccessError);
     });
 }
 

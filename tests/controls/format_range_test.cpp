@@ -20,7 +20,7 @@ namespace {
 
 constexpr int Inch = 1440;
 constexpr int DotsPerMeter = 3780; // 96 to the inch
-constexpr QRectF wholePage(Inch, Inch, 4 * Inch, 4 * Inch);
+constexpr QRectF WholePage(Inch, Inch, 4 * Inch, 4 * Inch);
 
 QImage sheet() {
     QImage image(6 * 96, 6 * 96, QImage::Format_RGB32);
@@ -36,7 +36,7 @@ struct Page {
 };
 
 /// All pages of a box, drawn; at most a hundred.
-QList<Page> pagesOf(RichTextBox& box, const QRectF& rect = wholePage) {
+QList<Page> pagesOf(RichTextBox& box, const QRectF& rect = WholePage) {
     QList<Page> pages;
     const int length = int(box.Text().size());
     int first = 0;
@@ -279,12 +279,12 @@ void FormatRangeTest::aRangeEndsWhereItIsTold() {
     box.SetText(manyLines(20));
     QImage image = sheet();
     QPainter painter(&image);
-    QCOMPARE(box.FormatPage({&painter, &image, wholePage, 0, 16}), 16);
+    QCOMPARE(box.FormatPage({&painter, &image, WholePage, 0, 16}), 16);
     painter.end();
     QImage two = sheet();
     box.SetText(manyLines(2));
     QPainter other(&two);
-    box.FormatPage({&other, &two, wholePage, 0, -1});
+    box.FormatPage({&other, &two, WholePage, 0, -1});
     other.end();
     QCOMPARE(image, two);
 }
@@ -315,7 +315,7 @@ void FormatRangeTest::aRangeDrawsItsOwnCharactersOfALine() {
     box.SetSelFontSize(24);
     QImage drawn = sheet();
     QPainter painter(&drawn);
-    QCOMPARE(box.FormatPage({&painter, &drawn, wholePage, first, last}), end);
+    QCOMPARE(box.FormatPage({&painter, &drawn, WholePage, first, last}), end);
     painter.end();
     box.EndFormatting();
 
@@ -344,7 +344,7 @@ void FormatRangeTest::aRangeWithItsFirstCharacterHasItsLabel() {
     const auto leftmost = [&box](int first, int last) {
         QImage image = sheet();
         QPainter painter(&image);
-        box.FormatPage({&painter, &image, wholePage, first, last});
+        box.FormatPage({&painter, &image, WholePage, first, last});
         painter.end();
         return inkBounds(image).left();
     };
@@ -358,7 +358,7 @@ void FormatRangeTest::withoutADeviceThePainterTells() {
     box.SetText(manyLines(100));
     QImage image = sheet();
     QPainter painter(&image);
-    const int next = box.FormatPage({&painter, nullptr, wholePage, 0, -1});
+    const int next = box.FormatPage({&painter, nullptr, WholePage, 0, -1});
     painter.end();
     const QList<Page> pages = pagesOf(box);
     QCOMPARE(next, pages.constFirst().next);
@@ -369,7 +369,7 @@ void FormatRangeTest::withoutPainterAndDeviceThereIsNoPage() {
     RichTextBox box;
     box.SetText(u"one"_s);
     const auto failure = firstFailure([&] {
-        box.FormatPage({nullptr, nullptr, wholePage, 0, -1});
+        box.FormatPage({nullptr, nullptr, WholePage, 0, -1});
     });
     QVERIFY(failure.has_value());
     QCOMPARE(failure->number(), ErrorNumber::InvalidProcedureCall);
@@ -379,7 +379,7 @@ void FormatRangeTest::measuringDrawsNothing() {
     RichTextBox box;
     box.SetText(manyLines(100));
     QImage image = sheet();
-    const int next = box.FormatPage({nullptr, &image, wholePage, 0, -1});
+    const int next = box.FormatPage({nullptr, &image, WholePage, 0, -1});
     QCOMPARE(next, pagesOf(box).first().next);
     QVERIFY(inkBounds(image).isEmpty());
 }
@@ -393,7 +393,7 @@ void FormatRangeTest::printingIsTheSameOnAFinerDevice() {
     fine.setDotsPerMeterY(qRound(600 / 0.0254));
     fine.fill(Qt::white);
     QPainter painter(&fine);
-    const int next = box.FormatPage({&painter, &fine, wholePage, 0, -1});
+    const int next = box.FormatPage({&painter, &fine, WholePage, 0, -1});
     painter.end();
     const QRect ink = inkBounds(fine);
     QVERIFY(ink.left() >= 600 && ink.right() < 5 * 600);
@@ -407,11 +407,11 @@ void FormatRangeTest::aChangedTextIsFormattedAnew() {
     RichTextBox box;
     box.SetText(manyLines(100));
     QImage image = sheet();
-    QVERIFY(box.FormatPage({nullptr, &image, wholePage, 0, -1}) < int(box.Text().size()));
+    QVERIFY(box.FormatPage({nullptr, &image, WholePage, 0, -1}) < int(box.Text().size()));
     box.SetText(u"short"_s);
-    QCOMPARE(box.FormatPage({nullptr, &image, wholePage, 0, -1}), 5);
+    QCOMPARE(box.FormatPage({nullptr, &image, WholePage, 0, -1}), 5);
     box.SetSelText(u"not so "_s);
-    QCOMPARE(box.FormatPage({nullptr, &image, wholePage, 0, -1}), 12);
+    QCOMPARE(box.FormatPage({nullptr, &image, WholePage, 0, -1}), 12);
 }
 
 void FormatRangeTest::aChangedFormatIsFormattedAnew_data() {
@@ -442,27 +442,27 @@ void FormatRangeTest::aChangedFormatIsFormattedAnew() {
     box.SetSelFontSize(20);
     box.SetSelFontSize(10);
     QImage image = sheet();
-    const int before = box.FormatPage({nullptr, &image, wholePage, 0, -1});
+    const int before = box.FormatPage({nullptr, &image, WholePage, 0, -1});
     change(box);
-    const int after = box.FormatPage({nullptr, &image, wholePage, 0, -1});
+    const int after = box.FormatPage({nullptr, &image, WholePage, 0, -1});
     QVERIFY2(after < before, qPrintable(u"%1, %2"_s.arg(before).arg(after)));
     box.EndFormatting();
-    QCOMPARE(box.FormatPage({nullptr, &image, wholePage, 0, -1}), after);
+    QCOMPARE(box.FormatPage({nullptr, &image, WholePage, 0, -1}), after);
 }
 
 void FormatRangeTest::anotherRectangleOrDeviceIsFormattedAnew() {
     RichTextBox box;
     box.SetText(u"words that fill their line and then the next ones too, "_s.repeated(60));
     QImage image = sheet();
-    const int before = box.FormatPage({nullptr, &image, wholePage, 0, -1});
+    const int before = box.FormatPage({nullptr, &image, WholePage, 0, -1});
     const QRectF narrow(Inch, Inch, 2 * Inch, 4 * Inch);
     QVERIFY(box.FormatPage({nullptr, &image, narrow, 0, -1}) < before * 2 / 3);
 
-    QCOMPARE(box.FormatPage({nullptr, &image, wholePage, 0, -1}), before);
+    QCOMPARE(box.FormatPage({nullptr, &image, WholePage, 0, -1}), before);
     // The same device prints finer than before: a page holds as much, though not as many dots.
     image.setDotsPerMeterX(4 * DotsPerMeter);
     image.setDotsPerMeterY(4 * DotsPerMeter);
-    const int finer = box.FormatPage({nullptr, &image, wholePage, 0, -1});
+    const int finer = box.FormatPage({nullptr, &image, WholePage, 0, -1});
     QVERIFY2(std::abs(finer - before) < before / 4, qPrintable(u"%1, %2"_s.arg(before).arg(finer)));
 }
 

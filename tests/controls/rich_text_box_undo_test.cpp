@@ -14,8 +14,6 @@
 using namespace orvalis;
 using namespace Qt::StringLiterals;
 
-Q_DECLARE_METATYPE(std::function<void(RichTextBox&)>)
-
 namespace {
 
 using Act = std::function<void(RichTextBox&)>;

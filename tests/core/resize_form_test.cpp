@@ -44,7 +44,7 @@ Maker named() {
     return [] { return new Class(QString(), nullptr); };
 }
 
-constexpr QRect designed(20, 30, 200, 100);
+constexpr QRect Designed(20, 30, 200, 100);
 constexpr int NarrowScreen = 800; // font factor 1
 constexpr int WideScreen = 1024;  // font factor 1.28
 
@@ -64,7 +64,7 @@ struct OneControlForm {
         control->setParent(&form);
         control->setObjectName(name);
         control->setFont(points(10));
-        control->setGeometry(designed);
+        control->setGeometry(Designed);
     }
 
     void resize(int designWidth, int currentWidth, int screen = NarrowScreen) {
@@ -108,7 +108,7 @@ private slots:
 void ResizeFormTest::atTheDesignWidthGeometryStaysAndFontsChange() {
     OneControlForm one(new Label);
     one.resize(4800, 4800, WideScreen);
-    QCOMPARE(one.control->geometry(), designed);
+    QCOMPARE(one.control->geometry(), Designed);
     QCOMPARE(one.control->font().pointSize(), 8);
 }
 
@@ -238,7 +238,7 @@ void ResizeFormTest::aKeptImageOnlyMoves() {
     QList<Image*> images;
     for (const auto& name : {u"Image5"_s, u"imgStop"_s, u"imgSet"_s, u"imgExit"_s}) {
         images << new Image(name, &form);
-        images.last()->setGeometry(designed);
+        images.last()->setGeometry(Designed);
     }
     clsResize(NarrowScreen).ResizeForm(form, 3000, 4500, images[0], images[1], images[2]);
     for (int i = 0; i < 3; ++i)
@@ -252,9 +252,9 @@ void ResizeFormTest::keptImagesAreToldByTheNameOfTheirArray() {
     Image second(u"imgIcon(1)"_s, &form);
     Image other(u"imgIcons"_s, &form);
     for (Image* image : {&first, &second, &other})
-        image->setGeometry(designed);
+        image->setGeometry(Designed);
     clsResize(NarrowScreen).ResizeForm(form, 3000, 4500, &first, nullptr, nullptr);
-    QCOMPARE(second.size(), designed.size());
+    QCOMPARE(second.size(), Designed.size());
     QCOMPARE(other.size(), QSize(300, 150));
 }
 
@@ -267,14 +267,14 @@ void ResizeFormTest::everyOtherImageIsScaled() {
 void ResizeFormTest::aGridKeepsItsDesignSizeAndFont() {
     OneControlForm one(new MSFlexGrid, u"MS1"_s);
     one.resize(3000, 4500, WideScreen);
-    QCOMPARE(one.control->geometry(), designed);
+    QCOMPARE(one.control->geometry(), Designed);
     QCOMPARE(one.control->font().pointSize(), 10);
 }
 
 void ResizeFormTest::aTreeKeepsItsDesignSizeAndFont() {
     OneControlForm one(new QTreeView, u"TreeView1"_s);
     one.resize(3000, 4500, WideScreen);
-    QCOMPARE(one.control->geometry(), designed);
+    QCOMPARE(one.control->geometry(), Designed);
     QCOMPARE(one.control->font().pointSize(), 10);
 }
 
@@ -318,7 +318,7 @@ void ResizeFormTest::whatLiesInsideACompositeControlIsNotScaled() {
 void ResizeFormTest::whatHasNoNameIsPassedOver() {
     OneControlForm one(new Label, QString());
     one.resize(3000, 4500, WideScreen);
-    QCOMPARE(one.control->geometry(), designed);
+    QCOMPARE(one.control->geometry(), Designed);
     QCOMPARE(one.control->font().pointSize(), 10);
 }
 
@@ -357,7 +357,7 @@ void ResizeFormTest::callingItTwiceScalesTwice() {
 void ResizeFormTest::withoutAPictureWidthOnlyFontsChange() {
     OneControlForm one(new Label);
     one.resize(4800, 0, WideScreen);
-    QCOMPARE(one.control->geometry(), designed);
+    QCOMPARE(one.control->geometry(), Designed);
     QCOMPARE(one.control->font().pointSize(), 8);
 }
 
@@ -372,9 +372,9 @@ void ResizeFormTest::windowsOfTheFormAreNotItsControls() {
     QWidget form;
     auto* window = new QWidget(&form, Qt::Tool);
     window->setObjectName(u"tool"_s);
-    window->setGeometry(designed);
+    window->setGeometry(Designed);
     clsResize(NarrowScreen).ResizeForm(form, 3000, 4500);
-    QCOMPARE(window->geometry(), designed);
+    QCOMPARE(window->geometry(), Designed);
 }
 
 ORVALIS_TEST_MAIN_WITH(QApplication, ResizeFormTest)

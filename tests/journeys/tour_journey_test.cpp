@@ -41,7 +41,8 @@ void TourJourneyTest::itLeavesThePicturesOfItsLastRunAndWhatElseTheFolderHolds()
     QVERIFY2(play(folder.path(), &words) == 0, words.constData());
     QCOMPARE(folder.read(u"holiday.png"_s), QByteArray("mine"));
     QVERIFY(QDir(folder.file(u"letters"_s)).exists());
-    const QStringList pictures = QDir(folder.path()).entryList({u"[0-9][0-9]-*.png"_s}, QDir::Files);
+    const QStringList pictures =
+        QDir(folder.path()).entryList({u"[0-9][0-9]-*.png"_s}, QDir::Files);
     QVERIFY2(pictures.contains(u"01-main-window.png"_s), words.constData());
     QVERIFY(!pictures.contains(u"99-of-a-longer-tour.png"_s));
     for (const QString& picture : pictures)

@@ -53,8 +53,6 @@ using Command = void (ClearCommands::*)();
 
 } // namespace
 
-Q_DECLARE_METATYPE(Command)
-
 class ClearCommandsTest : public QObject {
     Q_OBJECT
 private slots:

@@ -57,8 +57,8 @@ public:
     /// the run.
     void setClock(const QDateTime& moment);
 
-    /// Launches the program and waits until it can be asked. \returns false also where something that
-    /// belongs beside it was not there to be copied.
+    /// Launches the program and waits until it can be asked. \returns false also where something
+    /// that belongs beside it was not there to be copied.
     bool start() { return launch() && connectProbe(); }
     bool launch();
     bool connectProbe();

@@ -161,14 +161,14 @@ void NotesJourneyTest::aNoteIsWrittenFormattedSavedAndTakenOverAgain() {
     QVERIFY(boxIs(u"Can't overwrite files needed for Orvalis. Choose a different name for backup "
                   "file."_s,
                   u"Warning"_s, {u"OK"_s}));
-    m_program->key(u"Return"_s);
+    QVERIFY(m_program->answer(u"OK"_s));
     QVERIFY(m_program->waitAtRest(u"FileDialog"_s).visible);
     m_program->key(u"Escape"_s);
     QVERIFY(waitUntil([this] { return !m_program->control(u"FileDialog"_s).visible; }, 8000));
 
     openFile(file(u"none.rtf"_s));
     QVERIFY(boxIs(u"File not found!"_s, u"Orvalis"_s, {u"OK"_s}));
-    m_program->key(u"Return"_s);
+    QVERIFY(m_program->answer(u"OK"_s));
     QVERIFY(m_program->click(u"frmnotes2/rt1"_s));
     m_program->type(u"x"_s);
     QVERIFY(m_program->click(u"frmnotes2/imgExit"_s));
@@ -196,12 +196,12 @@ void NotesJourneyTest::wordsAreFoundAndReplaced() {
         [this] { return m_program->control(u"frmnotes2/ReplaceAllButton"_s).enabled; }, 5000));
     QVERIFY(m_program->click(u"frmnotes2/ReplaceAllButton"_s));
     QVERIFY(boxIs(u"Replacing done."_s, u"Orvalis"_s, {u"OK"_s}));
-    m_program->key(u"Return"_s);
+    QVERIFY(m_program->answer(u"OK"_s));
     QVERIFY(m_program->waitText(u"frmnotes2/rt1"_s, u"one 2 three 2"_s));
     QVERIFY(m_program->click(u"frmnotes2/rt1"_s));
     m_program->key(u"F3"_s);
     QVERIFY(boxIs(u"String not found."_s, u"Orvalis"_s, {u"OK"_s}));
-    m_program->key(u"Return"_s);
+    QVERIFY(m_program->answer(u"OK"_s));
     QVERIFY(m_program->click(u"frmnotes2/Command5"_s));
     QVERIFY(waitUntil([this] { return !m_program->control(u"frmnotes2/Frame1"_s).visible; }, 5000));
     QVERIFY(m_program->click(u"frmnotes2/Toolbar1(13)"_s));
@@ -233,7 +233,7 @@ void NotesJourneyTest::aDocumentIsMailed() {
     QVERIFY(QFile::setPermissions(tool, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     QVERIFY(m_program->click(u"frmnotes2/imgMail"_s));
     QVERIFY(boxIs(u"Save document before you proceed."_s, u"Send Email"_s, {u"OK"_s}));
-    m_program->key(u"Return"_s);
+    QVERIFY(m_program->answer(u"OK"_s));
     QVERIFY(m_program->click(u"frmnotes2/rt1"_s));
     m_program->type(u"for you"_s);
     QVERIFY(m_program->click(u"frmnotes2/imgSave"_s));
@@ -318,7 +318,7 @@ void NotesJourneyTest::aFindThatOverflowsEndsTheProgramAndNothingIsLost() {
     m_program->type(u"end"_s);
     m_program->key(u"Return"_s);
     QVERIFY(boxIs(u"Run-time error '6':\n\nOverflow"_s, u"Orvalis"_s, {u"OK"_s}));
-    m_program->key(u"Return"_s);
+    QVERIFY(m_program->answer(u"OK"_s));
     QVERIFY(m_program->waitForEnd());
     const QByteArray kept = bytesOf(file(u"recovered.rtf"_s));
     for (const char* piece : {"mine ", "\\b", "the message", "the sticker", "Notes, left page"})

@@ -8,14 +8,11 @@
 #include "core/program.h"
 #include "core/start_window.h"
 #include "core/tray_handover.h"
-#include "platform/desktop_tray.h"
 #include "platform/ini_settings_store.h"
-#include "platform/logon_entry.h"
-#include "platform/mail.h"
+#include "platform/platform.h"
 #include "platform/printer.h"
 #include "platform/registry.h"
 #include "platform/screen.h"
-#include "platform/shell.h"
 #include "platform/sound_player.h"
 #include "runtime/app.h"
 
@@ -84,34 +81,32 @@ bool tell(const char* what, const Times& times, double limit) {
 int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("DISPLAY"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    const std::unique_ptr<Platform> platform = makePlatform();
     QApplication application(argc, argv);
     QTemporaryDir folder;
     const App app(folder.filePath(u"orvalis"_s), folder.path(), {});
     const SystemClock clock;
     IniSettingsStore store(folder.filePath(u"orvalis.ini"_s));
-    XdgLogonEntry logonEntry(folder.filePath(u"autostart"_s));
-    Registry settings(store, logonEntry);
+    Registry settings(store, platform->logonEntry());
     QtMessageBoxes boxes;
     DesktopPrinter printer;
     QtDialogs dialogs([&printer]() -> QPrinter& { return printer.device(); });
-    DesktopShell shell;
-    DesktopMail mail;
     DeviceSoundPlayer sound;
     DesktopScreen screen;
-    DesktopTray tray;
+    const std::unique_ptr<TrayIcon> tray = platform->makeTray();
     Program program({.app = app,
                      .clock = clock,
                      .settings = settings,
                      .boxes = boxes,
                      .dialogs = dialogs,
-                     .shell = shell,
-                     .mail = mail,
+                     .shell = platform->shell(),
+                     .mail = platform->mail(),
                      .sound = sound,
                      .screen = screen,
                      .printer = printer});
     Windows& windows = program.windows;
     program.makeTrayOwner = [&tray](ChromeWindow& window) {
-        return std::make_unique<TrayHandover>(window, tray);
+        return std::make_unique<TrayHandover>(window, *tray);
     };
     windows.registerMaker<StartWindow>([&] { return std::make_unique<frmStart>(program, false); });
     windows.registerMaker<MainWindow>([&] { return std::make_unique<frmnotes>(program); });

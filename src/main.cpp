@@ -23,21 +23,17 @@
 #include "password/password_panel.h"
 #include "planner/clear_menu.h"
 #include "planner/reminder_panel.h"
-#include "platform/clipboard_owner.h"
-#include "platform/desktop_tray.h"
 #include "platform/ini_settings_store.h"
 #include "platform/interface_scale.h"
-#include "platform/logon_entry.h"
-#include "platform/mail.h"
 #include "platform/metafile_process.h"
 #include "platform/outside_end.h"
+#include "platform/platform.h"
 #include "platform/printer.h"
 #include "platform/registry.h"
 #include "platform/screen.h"
-#include "platform/session_bus.h"
-#include "platform/shell.h"
 #include "platform/single_instance.h"
 #include "platform/sound_player.h"
+#include "platform/tray_icon.h"
 #include "runtime/app.h"
 #include "runtime/user_locale.h"
 #include "runtime/whole_file.h"
@@ -48,6 +44,7 @@
 #include <QIcon>
 #include <QTimer>
 
+#include <memory>
 #include <vector>
 
 using namespace orvalis;
@@ -134,10 +131,11 @@ QString uncertainInstanceText(const App& app) {
 } // namespace
 
 int main(int argc, char** argv) {
-    SessionBusQuestion sessionBus;
-    applyInterfaceScale();
-    hideSilentSessionBus(sessionBus);
+    const std::unique_ptr<Platform> platform = makePlatform();
+    applyInterfaceScale(platform->primaryScreenSize());
+    platform->applicationBegins();
     Application application(argc, argv);
+    platform->applicationStands();
     withdrawInterfaceScale();
     Application::setApplicationName(QStringLiteral("orvalis"));
     Application::setDesktopFileName(QStringLiteral("orvalis"));
@@ -149,21 +147,17 @@ int main(int argc, char** argv) {
     const SingleInstance instance(app.Path());
     const SystemClock clock;
     IniSettingsStore store;
-    XdgLogonEntry logonEntry;
-    Registry settings(store, logonEntry);
+    Registry settings(store, platform->logonEntry());
     QtMessageBoxes boxes;
     DesktopPrinter printer;
     QtDialogs dialogs([&printer]() -> QPrinter& { return printer.device(); });
-    DesktopShell shell;
-    DesktopMail mail;
     DeviceSoundPlayer sound;
     DesktopScreen screen;
-    DesktopTray tray;
-    HelpWindow help(shell);
+    const std::unique_ptr<TrayIcon> tray = platform->makeTray();
+    HelpWindow help(platform->shell());
     MetafileProcess metafiles;
     setMetafileConverter(&metafiles);
-    ClipboardOwner clipboardOwner;
-    setClipboardQuestion([&clipboardOwner] { return clipboardOwner.answers(); });
+    setClipboardQuestion([&platform] { return platform->clipboardAnswers(); });
     guardLineFields();
     application.setBoxes(boxes);
 
@@ -172,26 +166,28 @@ int main(int argc, char** argv) {
                      .settings = settings,
                      .boxes = boxes,
                      .dialogs = dialogs,
-                     .shell = shell,
-                     .mail = mail,
+                     .shell = platform->shell(),
+                     .mail = platform->mail(),
                      .sound = sound,
                      .screen = screen,
-                     .printer = printer});
+                     .printer = printer,
+                     .windowCutter = &platform->windowCutter()});
     AlarmTick tick(program);
     program.tick = &tick;
     Stickers stickers(program);
     program.stickers = &stickers;
     program.makeTrayOwner = [&tray](ChromeWindow& window) {
-        return std::make_unique<TrayHandover>(window, tray);
+        return std::make_unique<TrayHandover>(window, *tray);
     };
     registerWindows(program, instance.PrevInstance(), help);
     if (!instance.PrevInstance())
         removeLeftovers(app.Path());
     store.removeLeftovers();
-    logonEntry.removeLeftovers();
+    platform->removeLeftovers();
     application.setRecovery(&program.recovery);
-    const OutsideEnd outsideEnd([&program] { program.recovery.keep(); },
-                                [&application] { application.endFromOutside(); });
+    const OutsideEnd outsideEnd(
+        [&program] { program.recovery.keep(); }, [&application] { application.endFromOutside(); },
+        [&platform](QStringView warning) { return platform->displayIsLost(warning); });
     return application.run([&] {
         if (instance.isUncertain())
             boxes.MsgBox(uncertainInstanceText(app), MsgFlags::ExclamationIcon,

@@ -71,7 +71,7 @@ void frmAbout::onLoad() {
 }
 
 void frmAbout::showEvent(QShowEvent* event) {
-    wearShape(*this, u"about_background"_s);
+    wearShape(*this, u"about_background"_s, m_program.services.windowCutter);
     Form::showEvent(event);
 }
 

@@ -118,7 +118,7 @@ void ChromeWindow::showDateInClock() {
 }
 
 void ChromeWindow::showEvent(QShowEvent* event) {
-    wearShape(*this, m_row.backgroundPicture);
+    wearShape(*this, m_row.backgroundPicture, m_program.services.windowCutter);
     updateClock();
     m_clockTimer->start();
     Form::showEvent(event);

@@ -22,6 +22,7 @@ class Registry;
 class Screen;
 class Shell;
 class SoundPlayer;
+class WindowCutter;
 
 /// The world outside, as far as the program asks anything of it. main.cpp puts the real one in, a
 /// test its doubles.
@@ -36,6 +37,7 @@ struct Services {
     SoundPlayer& sound;
     Screen& screen;
     Printer& printer;
+    WindowCutter* windowCutter = nullptr;
 };
 
 /// The running program as every window is given it: the outside world, the shared state, the

@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/window_shape.h"
 
-#include "platform/compositing.h"
-#include "platform/window_cut.h"
+#include "platform/window_cutter.h"
 #include "skin/skin.h"
 
 #include <QEvent>
@@ -68,11 +67,13 @@ Ground& groundOf(QWidget& window) {
 
 } // namespace
 
-void wearShape(QWidget& window, const QString& picture) {
+void wearShape(QWidget& window, const QString& picture, WindowCutter* cutter) {
+    if (cutter == nullptr)
+        return;
     Ground& ground = groundOf(window);
-    if (desktopComposites()) {
+    if (!cutter->isNeeded()) {
         ground.colour = Qt::transparent;
-        cutWindow(window, {});
+        cutter->cut(window, {});
         return;
     }
     // Nothing lies behind what the cut leaves, and what the picture covers in part would be dark.
@@ -80,7 +81,7 @@ void wearShape(QWidget& window, const QString& picture) {
                              .toImage()
                              .convertToFormat(QImage::Format_ARGB32);
     ground.colour = edgeColour(shape);
-    cutWindow(window, shape);
+    cutter->cut(window, shape);
 }
 
 } // namespace orvalis

@@ -8,8 +8,11 @@ class QWidget;
 
 namespace orvalis {
 
+class WindowCutter;
+
 /// Gives a window without frame the outline of its background picture on a desktop that cannot show
-/// the transparency of its corners. To be called when the window shows.
-void wearShape(QWidget& window, const QString& picture);
+/// the transparency of its corners; without a cutter every desktop can. To be called when the
+/// window shows.
+void wearShape(QWidget& window, const QString& picture, WindowCutter* cutter);
 
 } // namespace orvalis

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QByteArray>
 #include <QSizeF>
+
+#include <optional>
 
 namespace orvalis {
 
@@ -14,20 +15,21 @@ constexpr const char* ScaleVariable = "QT_SCALE_FACTOR";
 /// the largest multiple of an eighth at which a desktop of 800 by 600 fits, at least 1.
 double interfaceScale(double width, double height);
 
-/// Finds the primary screen's size and makes Qt draw everything at its interface scale, on top of
-/// the scale that the user asks for. To be called before the application object is made.
-/// \returns the interface scale, 1 where no screen's size could be found.
-double applyInterfaceScale();
+/// The user's scale factor of the environment, 1 where there is none.
+double userFactor();
 
-/// Takes back what applyInterfaceScale() put into the environment, so that no program that we start
-/// inherits it, and lets go of the display. To be called once the application object is made.
+/// Makes Qt draw everything at the interface scale of a primary screen of that size, on top of the
+/// scale that the user asks for. To be called before the application object is made.
+/// \param screen in units of the desktop; empty where no size could be found.
+/// \returns the interface scale, 1 where there is no size.
+double applyInterfaceScale(std::optional<QSizeF> screen);
+
+/// Takes back what applyInterfaceScale() put into the environment. To be called once the
+/// application object is made.
 void withdrawInterfaceScale();
 
 /// The size of a screen in scaled units, which Qt tells in whole ones: with its fractions where it
-/// is the screen that applyInterfaceScale() found, otherwise as it is told.
+/// is the screen that applyInterfaceScale() was given, otherwise as it is told.
 QSizeF unroundedSize(QSize told);
-
-/// The user's own scale factor as the environment had it before us, empty where it had none.
-QByteArray userScaleFactor();
 
 } // namespace orvalis

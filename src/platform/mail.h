@@ -4,8 +4,6 @@
 
 #include <QString>
 
-#include <chrono>
-
 namespace orvalis {
 
 /// A message as the user's mail program is to show it.
@@ -27,21 +25,6 @@ public:
     /// here sends mail, and when the mail program refuses. ProgramEnded when the program ended
     /// meanwhile.
     virtual void compose(const MailMessage& message) = 0;
-};
-
-/// The Mail of a free desktop: the message goes to xdg-email, as arguments and never through a
-/// command line.
-class DesktopMail final : public Mail {
-public:
-    /// \param patience how long xdg-email is waited for. One that takes longer, because the mail
-    /// program runs inside it, goes on by itself and counts as having taken the message.
-    explicit DesktopMail(std::chrono::milliseconds patience = std::chrono::seconds(5))
-        : m_patience(patience) {}
-
-    void compose(const MailMessage& message) override;
-
-private:
-    std::chrono::milliseconds m_patience;
 };
 
 } // namespace orvalis

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/outside_end.h"
 
-#include "platform/display_link.h"
-
 #include <QGuiApplication>
 #include <QLoggingCategory>
 #include <QSessionManager>
@@ -39,25 +37,27 @@ extern "C" void passSignalOn(int) {
 // Qt ends the process inside the toolkit once the display is gone. All that it does before is to
 // warn, in the thread of the windows and with everything still in place.
 std::function<void()> keepBeforeExit;
+std::function<bool(QStringView)> isDisplayLost;
 QtMessageHandler ordinaryHandler = nullptr;
 
 void hearWarning(QtMsgType type, const QMessageLogContext& context, const QString& text) {
     ordinaryHandler(type, context, text);
     if (keepBeforeExit && qApp != nullptr && QThread::currentThread() == qApp->thread() &&
-        displayIsLost(text))
+        isDisplayLost(text))
         std::exchange(keepBeforeExit, {})();
 }
 
 } // namespace
 
-OutsideEnd::OutsideEnd(std::function<void()> keep, std::function<void()> end)
+OutsideEnd::OutsideEnd(std::function<void()> keep, std::function<void()> end,
+                       std::function<bool(QStringView)> displayIsLost)
     : m_keep(std::move(keep))
     , m_end(std::move(end)) {
     connect(
         qApp, &QGuiApplication::commitDataRequest, this, [this] { m_keep(); },
         Qt::DirectConnection);
     watchSignals();
-    watchDisplay();
+    watchDisplay(std::move(displayIsLost));
 }
 
 OutsideEnd::~OutsideEnd() {
@@ -67,6 +67,7 @@ OutsideEnd::~OutsideEnd() {
         if (end >= 0)
             close(std::exchange(end, -1));
     keepBeforeExit = {};
+    isDisplayLost = {};
     qInstallMessageHandler(ordinaryHandler);
 }
 
@@ -84,9 +85,10 @@ void OutsideEnd::watchSignals() {
             std::signal(number, SIG_IGN);
 }
 
-void OutsideEnd::watchDisplay() {
+void OutsideEnd::watchDisplay(std::function<bool(QStringView)> displayIsLost) {
     // Rules of the user's may silence warnings; this one has a hearer of its own.
     QLoggingCategory::defaultCategory()->setEnabled(QtWarningMsg, true);
+    isDisplayLost = std::move(displayIsLost);
     keepBeforeExit = m_keep;
     ordinaryHandler = qInstallMessageHandler(hearWarning);
 }

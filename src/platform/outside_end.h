@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QObject>
+#include <QStringView>
 
 #include <functional>
 
@@ -18,13 +19,15 @@ class OutsideEnd final : public QObject {
 public:
     /// \param keep is called in the main thread, inside the event loop, when a log-out begins,
     /// which may still be called off, and when the display is lost, as the last thing that the
-    /// program does. \param end is called there at a signal.
-    OutsideEnd(std::function<void()> keep, std::function<void()> end);
+    /// program does. \param end is called there at a signal. \param displayIsLost tells whether a
+    /// warning of the toolkit means that the display is gone.
+    OutsideEnd(std::function<void()> keep, std::function<void()> end,
+               std::function<bool(QStringView)> displayIsLost);
     ~OutsideEnd() override;
 
 private:
     void watchSignals();
-    void watchDisplay();
+    void watchDisplay(std::function<bool(QStringView)> displayIsLost);
 
     std::function<void()> m_keep;
     std::function<void()> m_end;

@@ -216,7 +216,7 @@ void StickerForm::mousePressEvent(QMouseEvent* event) {
 }
 
 void StickerForm::showEvent(QShowEvent* event) {
-    wearShape(*this, u"sticker_background"_s);
+    wearShape(*this, u"sticker_background"_s, m_program.services.windowCutter);
     Form::showEvent(event);
     updateClock();
     m_Timer1->start();

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
-#include "platform/desktop_tray.h"
+#include "platform/freedesktop/desktop_tray.h"
 #include "support/recording_tray_icon.h"
 #include "support/test_main.h"
 

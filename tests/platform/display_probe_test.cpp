@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
-#include "platform/display_probe.h"
+#include "platform/freedesktop/display_probe.h"
 
+#include "platform/interface_scale.h"
+#include "platform/x11/xsettings.h"
 #include "support/environment.h"
 #include "support/test_main.h"
 

@@ -3,8 +3,9 @@
 #include "platform/interface_scale.h"
 
 #include "platform/child_environment.h"
-#include "platform/display_probe.h"
+#include "platform/freedesktop/display_probe.h"
 #include "platform/screen.h"
+#include "platform/x11/x11_screen.h"
 #include "support/environment.h"
 #include "support/test_main.h"
 #include "support/virtual_display.h"
@@ -39,8 +40,9 @@ void setResources(const QByteArray& resources) {
 /// What the program does at its start, in a process of its own: tells the scale, the width of the
 /// screen in its units, and what its children inherit.
 int runAsProgram(int argc, char** argv) {
-    const double scale = applyInterfaceScale();
+    const double scale = applyInterfaceScale(primaryScreenSize());
     const QGuiApplication app(argc, argv);
+    releaseX11Screen();
     const QByteArray meanwhile = childEnvironment().value(u"QT_SCALE_FACTOR"_s).toLatin1();
     withdrawInterfaceScale();
     std::printf("%g %d [%s] [%s]\n", scale, DesktopScreen().GetSystemMetrics(0),
@@ -175,7 +177,7 @@ void InterfaceScaleTest::windowsAreScaledAndChildrenAreNot() {
 
 void InterfaceScaleTest::withoutADesktopNothingIsScaled() {
     m_environment->set("QT_QPA_PLATFORM", "offscreen");
-    QCOMPARE(applyInterfaceScale(), 1.0);
+    QCOMPARE(applyInterfaceScale(primaryScreenSize()), 1.0);
     QVERIFY(!qEnvironmentVariableIsSet("QT_SCALE_FACTOR"));
     withdrawInterfaceScale();
     QVERIFY(!qEnvironmentVariableIsSet("QT_SCALE_FACTOR"));

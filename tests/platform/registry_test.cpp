@@ -3,7 +3,7 @@
 #include "platform/registry.h"
 
 #include "platform/ini_settings_store.h"
-#include "platform/logon_entry.h"
+#include "platform/xdg/xdg_logon_entry.h"
 #include "runtime/failure.h"
 #include "support/memory_settings_store.h"
 #include "support/recording_platform.h"

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
-#include "platform/session_bus.h"
+#include "platform/dbus/session_bus.h"
 
 #include "platform/child_environment.h"
 #include "support/environment.h"
@@ -128,12 +128,13 @@ private slots:
         daemon.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address=1"_s,
                                         u"--address="_s + address.arg(m_folder->file(u"real"_s))});
         QVERIFY(daemon.waitForReadyRead(30000));
-        m_environment->set("DBUS_SESSION_BUS_ADDRESS", daemon.readLine().trimmed());
+        const QByteArray told = daemon.readLine().trimmed();
+        m_environment->set("DBUS_SESSION_BUS_ADDRESS", told);
         SessionBusQuestion question;
         QVERIFY(question.isAnswered(30s));
         SessionBusQuestion another;
         hideSilentSessionBus(another);
-        QVERIFY(hiddenSessionBus().isNull());
+        QCOMPARE(qgetenv("DBUS_SESSION_BUS_ADDRESS"), told);
         daemon.kill();
         daemon.waitForFinished();
     }

@@ -62,7 +62,7 @@ void AddressBook::load() {
     PicPath.clear();
     bool whole = true;
     const bool opened = endSilently([&] {
-        const QByteArray bytes = readWhole(path());
+        const QByteArray bytes = readWhole(path(), LargestAddressFile);
         AddressFileReader file(bytes);
         while (!file.atEnd()) {
             // A record that is one too many takes the spare element, and so do those behind it.

@@ -44,8 +44,9 @@ public:
     /// Where there is no address1.dat: tells so, and writes the records that count to a new one.
     /// Failures are passed over.
     void ensureFile(MessageBoxes& boxes) const;
-    /// Reads address1.dat, in the order of the file, and forgets PicPath. What cannot be read
-    /// leaves no records; of more than 32767 only so many count. A file of which anything is not in
+    /// Reads address1.dat, in the order of the file, and forgets PicPath. A file that cannot
+    /// be read, or is larger than LargestAddressFile, leaves no records; of more than 32767 only so
+    /// many count. A file of which anything is not in
     /// the records is kept aside before it is overwritten.
     void load();
 

@@ -9,6 +9,9 @@
 
 namespace orvalis {
 
+/// The largest address file that is read, in bytes.
+constexpr qint64 LargestAddressFile = qint64{64} * 1024 * 1024;
+
 /// The bytes of an address file: fifteen items a record and nothing else, each in double quotes on
 /// a line of its own, in the ANSI page. Line breaks and double quotes in a field stand as they are,
 /// so that a field with a quote shifts what follows it when it is read.

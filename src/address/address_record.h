@@ -30,7 +30,7 @@ struct AddressRecord {
 };
 
 /// The fields in their order, which is that of the file and of every loop over a record.
-constexpr std::array AddressFields{
+inline constexpr std::array AddressFields{
     &AddressRecord::First,    &AddressRecord::Second, &AddressRecord::Area,
     &AddressRecord::Address,  &AddressRecord::Town,   &AddressRecord::Pin,
     &AddressRecord::District, &AddressRecord::State,  &AddressRecord::Country,

@@ -42,7 +42,7 @@ void writeDocument(const QString& path) {
         box.SetSelColor(0);
         box.SetSelText(entrySavedLine(now));
     }
-    box.SaveFile(path);
+    box.files().SaveFile(path);
 }
 
 /// Lays the whole document out, as an hour of scrolling does.

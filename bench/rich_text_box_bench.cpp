@@ -197,7 +197,7 @@ void appending() {
             list.SetSelText(u"\r\n\r\n    To do: Saturday, June 01, 2002"_s);
             list.SetSelColor(0);
             list.SetSelText(u"\r\n    Saved: 6/1/2002 10:24:36 AM\r\n___________________\r\n"_s);
-            list.SaveFile(folder.filePath(u"Vazno.rtf"_s), 0);
+            list.files().SaveFile(folder.filePath(u"Vazno.rtf"_s), 0);
             list.SetSelStart(int(list.Text().size()));
         });
     const double writing = medianMilliseconds(9, [&] { (void)list.TextRTF(); });

@@ -161,7 +161,7 @@ void frmAlSet::arm() {
     state.alarmTimeText = m_Combo1->Text() + u':' + m_Combo2->Text() + u":00"_s;
     state.alarmTime = TimeValue(state.alarmTimeText);
     m_rt1->SetText(u"Alarm time: "_s + state.alarmTimeText + u"\r\n"_s + m_rt1->Text());
-    m_rt1->SaveFile(m_program.services.app.file(u"Msg.txt"_s), PlainText);
+    m_rt1->files().SaveFile(m_program.services.app.file(u"Msg.txt"_s), PlainText);
     state.alarmArmed = true;
     emit unloadRequested();
 }

@@ -54,7 +54,7 @@ void AlarmTick::notify() {
     Text1.SetSelBold(true);
     Text1.SetSelColor(Red);
     Text1.SetText(Text1.Text() + u"\r\n"_s);
-    Text1.LoadFile(m_program.services.app.file(u"Msg.txt"_s), PlainTextFile);
+    Text1.files().LoadFile(m_program.services.app.file(u"Msg.txt"_s), PlainTextFile);
     // A text file carries no format; the message takes that of the sticker.
     Text1.SetSelLength(int(Text1.Text().size()));
     Text1.SetSelBold(true);

@@ -3,8 +3,10 @@
 #include "controls/format_range.h"
 
 #include "controls/list_numbers.h"
+#include "controls/rich_text_box.h"
 #include "controls/text_positions.h"
 #include "rtf/format_properties.h"
+#include "runtime/failure.h"
 #include "runtime/twips.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -37,16 +39,12 @@ QSizeF pictureSize(const QTextDocument& document, const QTextImageFormat& format
 
 } // namespace
 
-void RangeFormatter::release() {
-    m_copy.reset();
-    m_lines.clear();
-    m_document = nullptr;
-}
-
-int RangeFormatter::format(const QTextDocument& document, const TextPositions& positions,
-                           const FormatRange& range) {
+int RangeFormatter::FormatPage(const FormatRange& range) {
+    if (!range.painter && !range.device)
+        throw RuntimeError(ErrorNumber::InvalidProcedureCall);
+    const TextPositions& positions = m_box.positions();
     QPaintDevice& device = range.device ? *range.device : *range.painter->device();
-    prepare(document, range, device);
+    prepare(range, device);
     const int length = positions.length();
     const int stop = range.last < 0 ? length : std::min(range.last, length);
     if (m_lines.empty())
@@ -69,15 +67,14 @@ int RangeFormatter::format(const QTextDocument& document, const TextPositions& p
     return toTheEnd ? stop : std::min(stop, positions.indexOf(line->position));
 }
 
-void RangeFormatter::prepare(const QTextDocument& document, const FormatRange& range,
-                             QPaintDevice& device) {
+void RangeFormatter::prepare(const FormatRange& range, QPaintDevice& device) {
+    const QTextDocument& document = *m_box.document();
     const QSizeF page = range.rect.size();
     // Another device can stand where one stood before.
     const QSize dots(device.logicalDpiX(), device.logicalDpiY());
-    if (m_copy && m_document == &document && m_revision == document.revision() &&
-        m_device == &device && m_dots == dots && m_page == page)
+    if (m_copy && m_revision == document.revision() && m_device == &device && m_dots == dots &&
+        m_page == page)
         return;
-    m_document = &document;
     m_revision = document.revision();
     m_device = &device;
     m_dots = dots;

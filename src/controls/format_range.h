@@ -15,7 +15,7 @@ class QPaintDevice;
 
 namespace orvalis {
 
-class TextPositions;
+class RichTextBox;
 
 /// One page to be formatted.
 struct FormatRange {
@@ -26,17 +26,21 @@ struct FormatRange {
     int last = -1;                  ///< where to stop; -1: the end of the text
 };
 
-/// Breaks a document into pages: lays a copy of it out for the device once, and hands its lines
-/// out page by page. No line is cut in two, and a picture larger than the page shrinks to it. Of a
-/// line that a range only touches, its own characters alone are drawn.
+/// Breaks the document of a box into pages: lays a copy of it out for the device once, for as long
+/// as the document stays as it is, and hands its lines out page by page. No line is cut in two, and
+/// a picture larger than the page shrinks to it. Of a line that a range only touches, its own
+/// characters alone are drawn.
 class RangeFormatter {
 public:
-    /// \returns the position of the first character that did not fit. A page takes at least one
-    /// line, whatever its height.
-    int format(const QTextDocument& document, const TextPositions& positions,
-               const FormatRange& range);
-    /// Forgets the copy.
-    void release();
+    explicit RangeFormatter(const RichTextBox& box)
+        : m_box(box) {}
+
+    /// Formats one page's worth of text and renders it where a painter is given.
+    /// \returns the position of the first character that did not fit; it always advances, for a
+    /// page takes at least one line, whatever its height, and is the length of Text() (or the
+    /// range's end) behind the last page. \throws RuntimeError InvalidProcedureCall without a
+    /// painter and without a device.
+    int FormatPage(const FormatRange& range);
 
 private:
     struct Line {
@@ -46,16 +50,16 @@ private:
         bool startsPage;
     };
 
-    void prepare(const QTextDocument& document, const FormatRange& range, QPaintDevice& device);
+    void prepare(const FormatRange& range, QPaintDevice& device);
     void shrinkPictures(const QSizeF& page);
     void collectLines();
     void draw(const FormatRange& range, const QPaintDevice& device, const Line& first,
               const Line& last, int from, int to);
     QRegion partOf(const Line& line, const QRectF& room, int from, int to) const;
 
+    const RichTextBox& m_box;
     std::unique_ptr<QTextDocument> m_copy;
     std::vector<Line> m_lines;
-    const QTextDocument* m_document = nullptr;
     int m_revision = 0;
     QPaintDevice* m_device = nullptr;
     QSize m_dots;  ///< of the device to the inch

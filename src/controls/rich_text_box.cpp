@@ -4,7 +4,6 @@
 
 #include "controls/control_marks.h"
 #include "controls/document_reading.h"
-#include "controls/format_range.h"
 #include "controls/selection_format.h"
 #include "controls/text_positions.h"
 #include "controls/text_search.h"
@@ -382,20 +381,6 @@ void RichTextBox::endBatch() {
             forgetHistory();
     }
     release();
-}
-
-// --- printing
-
-int RichTextBox::FormatPage(const FormatRange& range) {
-    if (!range.painter && !range.device)
-        throw RuntimeError(ErrorNumber::InvalidProcedureCall);
-    if (!m_formatter)
-        m_formatter = std::make_unique<RangeFormatter>();
-    return m_formatter->format(*document(), *m_positions, range);
-}
-
-void RichTextBox::EndFormatting() {
-    m_formatter.reset();
 }
 
 } // namespace orvalis

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "controls/rich_text_files.h"
 #include "controls/undo_kind.h"
 
 #include <QByteArray>
@@ -18,13 +19,11 @@ class QTextLine;
 
 namespace orvalis {
 
-class RangeFormatter;
 class TextPositions;
 class UndoKinds;
-struct FormatRange;
 
-/// The control that holds every document of the program: rich text that is edited, loaded, saved,
-/// searched and printed.
+/// The control that holds every document of the program: rich text that is edited, searched, loaded
+/// and saved (`RichTextFiles`), and printed (`RangeFormatter`).
 ///
 /// A position is an index into Text(), where a line break is the two characters CR and LF and a
 /// picture is one blank. Text() keeps every character that was set: control characters, a lone CR
@@ -34,17 +33,12 @@ class RichTextBox : public QTextEdit {
     Q_OBJECT
 
 public:
-    /// What LoadFile() and SaveFile() read and write.
+    /// What files().files().LoadFile() and files().files().SaveFile() read and write.
     enum FileFlags : int { rtfRTF = 0, rtfText = 1 };
     /// Options of Find(), to be added up.
     enum FindOptions : int { rtfWholeWord = 2, rtfMatchCase = 4 };
     /// Values of SelAlignment; a justified paragraph can be read and set too.
     enum AlignmentValues : int { rtfLeft = 0, rtfRight = 1, rtfCenter = 2, rtfJustify = 3 };
-    /// How the bytes of a plain text file are taken.
-    enum class PlainFile {
-        Notes, ///< ANSI page or UTF-8, whichever the bytes are; line ends of LF alone are lines
-        Ansi,  ///< the ANSI page byte by byte, nothing is taken for anything else
-    };
 
     explicit RichTextBox(QWidget* parent = nullptr);
     ~RichTextBox() override;
@@ -127,17 +121,8 @@ public:
 
     // --- files
 
-    PlainFile plainFile() const { return m_plainFile; }
-    void setPlainFile(PlainFile kind) { m_plainFile = kind; }
-
-    /// Replaces the document by a file; flags 0 RTF, 1 plain text. Nothing changes on a failure.
-    /// \throws RuntimeError InvalidFileFormat when flags are 0 and the file is not RTF, those of
-    /// readWhole() when it cannot be read, InvalidProcedureCall for other flags.
-    void LoadFile(const QString& path, int flags = rtfRTF);
-    /// Writes the document whole. A file that could not be read, or not all of it, in whichever
-    /// box, is kept aside first, under its name with ".unreadable" added. \throws RuntimeError
-    /// those of saveWhole(), InvalidProcedureCall for other flags.
-    void SaveFile(const QString& path, int flags = rtfRTF);
+    /// Loads and saves the document.
+    RichTextFiles& files() { return m_files; }
 
     // --- search
 
@@ -181,15 +166,8 @@ public:
         int m_exceptions = std::uncaught_exceptions();
     };
 
-    // --- printing
-
-    /// Formats one page's worth of text and renders it where a painter is given.
-    /// \returns the position of the first character that did not fit; it always advances, and is
-    /// the length of Text() (or the range's end) behind the last page.
-    /// \throws RuntimeError InvalidProcedureCall without a painter and without a device.
-    int FormatPage(const FormatRange& range);
-    /// Frees what FormatPage() keeps between pages.
-    void EndFormatting();
+    /// The index in Text() of each place of the document.
+    const TextPositions& positions() const { return *m_positions; }
 
 signals:
     /// After each change of the content, also when the program sets it.
@@ -216,6 +194,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    friend class RichTextFiles;
+
     // These would go round the rules above.
     using QTextEdit::append;
     using QTextEdit::clear;
@@ -278,7 +258,7 @@ private:
 
     const qreal m_usualTabs; ///< pixels
     QString m_tag;
-    PlainFile m_plainFile = PlainFile::Notes;
+    RichTextFiles m_files{*this};
     bool m_editMenu = true;
     bool m_movesThroughHistory = false;
     bool m_batchBeganBare = false;  ///< with neither text nor history
@@ -292,7 +272,6 @@ private:
     mutable std::optional<bool> m_clipboardFits; ///< unknown until it is asked
     std::unique_ptr<TextPositions> m_positions;
     std::unique_ptr<UndoKinds> m_undoKinds;
-    std::unique_ptr<RangeFormatter> m_formatter;
 };
 
 } // namespace orvalis

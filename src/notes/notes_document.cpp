@@ -72,7 +72,7 @@ void frmnotes2::imgOpen_Click() {
         const int flags = documentFlags(CommonDialog1.FileTitle);
         if (flags == RichTextBox::rtfText)
             ui.rt1a->SetText({});
-        ui.rt1a->LoadFile(CommonDialog1.FileName, flags);
+        ui.rt1a->files().LoadFile(CommonDialog1.FileName, flags);
         setDocumentPath(CommonDialog1.FileName);
         ui.Label1->setCaption(CommonDialog1.FileTitle);
     });
@@ -125,11 +125,11 @@ std::optional<int> frmnotes2::askWhereToSave() {
 
 void frmnotes2::saveAs(int flags) {
     const Busy busy(*this);
-    ui.rt1->SaveFile(CommonDialog1.FileName, flags);
+    ui.rt1->files().SaveFile(CommonDialog1.FileName, flags);
     if (flags == RichTextBox::rtfText) {
         // The page shows what the file keeps.
         ui.rt1->SetText({});
-        ui.rt1->LoadFile(CommonDialog1.FileName, RichTextBox::rtfText);
+        ui.rt1->files().LoadFile(CommonDialog1.FileName, RichTextBox::rtfText);
         setDocumentPath(CommonDialog1.FileName);
     }
     ui.rt5->SetTextRTF(ui.rt1->TextRTF());

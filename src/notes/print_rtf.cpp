@@ -16,18 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Frees what the control keeps between pages, also when a printer gives up in the middle.
-class Formatting {
-public:
-    explicit Formatting(RichTextBox& box)
-        : m_box(box) {}
-    ~Formatting() { m_box.EndFormatting(); }
-    Q_DISABLE_COPY_MOVE(Formatting)
-
-private:
-    RichTextBox& m_box;
-};
-
 /// The device context changes with each page and is asked for anew.
 void useDevice(FormatRange& range, Printer& printer) {
     range.painter = printer.hDC();
@@ -54,9 +42,9 @@ void printPages(RichTextBox& box, Printer& printer, const PrintMargins& margins)
     range.rect = printArea(printer, margins);
     useDevice(range, printer);
     const auto textLength = static_cast<int>(box.Text().size());
-    const Formatting formatting(box);
+    RangeFormatter pages(box);
     for (;;) {
-        const int next = box.FormatPage(range);
+        const int next = pages.FormatPage(range);
         if (next >= textLength)
             break;
         range.first = next;

@@ -41,7 +41,7 @@ RichTextBox* textArea(QWidget& panel, const QString& name, const QRectF& twips,
     made->setObjectName(name);
     made->setAccessibleName(accessibleName);
     made->setFont(skin::font(skin::points::Body));
-    made->setPlainFile(RichTextBox::PlainFile::Ansi);
+    made->files().setPlain(RichTextFiles::Plain::Ansi);
     made->setTabChangesFocus(true);
     setTwipsGeometry(*made, twips);
     return made;

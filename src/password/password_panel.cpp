@@ -95,7 +95,7 @@ void frmnotes4::imgOpen_Click() {
         CommonDialog1.Flags = 0;
         CommonDialog1.Filter = u"Text (*.txt)|*.txt|All Files (*.*)|*.*"_s;
         CommonDialog1.ShowOpen();
-        ui.txtrt1->LoadFile(CommonDialog1.FileName, RichTextBox::rtfText);
+        ui.txtrt1->files().LoadFile(CommonDialog1.FileName, RichTextBox::rtfText);
     });
 }
 

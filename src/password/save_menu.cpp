@@ -21,7 +21,7 @@ void saveText(CommonDialog& dialog, const QString& filter, RichTextBox& text) {
         dialog.CancelError = true;
         dialog.FileName.clear();
         dialog.ShowSave();
-        text.SaveFile(dialog.FileName, RichTextBox::rtfText);
+        text.files().SaveFile(dialog.FileName, RichTextBox::rtfText);
     });
 }
 

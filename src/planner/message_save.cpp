@@ -79,7 +79,7 @@ void frmnotes1::addToLists(QDate date) {
 }
 
 void frmnotes1::saveAndReadBack() {
-    resumeNext([this] { ui.rt1a->SaveFile(program().services.app.file(u"Vazno.rtf"_s)); },
+    resumeNext([this] { ui.rt1a->files().SaveFile(program().services.app.file(u"Vazno.rtf"_s)); },
                [this] { toEnd(*ui.rt1a); }, [this] { MatSave1(ui.MS1->grid()); },
                // The hidden copy would go first and not stay, so only what the panel shows is put
                // in place: between the two a kill would leave what the hidden list holds, which at

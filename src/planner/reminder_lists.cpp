@@ -67,7 +67,7 @@ void frmnotes1::imgso_Click() {
 }
 
 void frmnotes1::imstodo_Click() {
-    endSilently([this] { ui.rt1a->SaveFile(program().services.app.file(u"Vazno.rtf"_s)); });
+    endSilently([this] { ui.rt1a->files().SaveFile(program().services.app.file(u"Vazno.rtf"_s)); });
 }
 
 QString frmnotes1::gridPath(const QString& name) {

@@ -72,8 +72,8 @@ void frmnotes1::onLoad() {
 
 void frmnotes1::loadDocuments() {
     const App& app = program().services.app;
-    resumeNext([&] { ui.rt1a->LoadFile(app.file(u"Vazno.rtf"_s)); },
-               [&] { ui.rt2->LoadFile(app.file(u"weekly.rtf"_s)); });
+    resumeNext([&] { ui.rt1a->files().LoadFile(app.file(u"Vazno.rtf"_s)); },
+               [&] { ui.rt2->files().LoadFile(app.file(u"weekly.rtf"_s)); });
 }
 
 void frmnotes1::loadDateAndLists() {

@@ -69,12 +69,12 @@ void frmnotes1::todo2() {
         CommonDialog1.Filter = plannerFilter();
         CommonDialog1.FileName.clear();
         CommonDialog1.ShowOpen();
-        ui.rt2->LoadFile(CommonDialog1.FileName);
+        ui.rt2->files().LoadFile(CommonDialog1.FileName);
     });
 }
 
 void frmnotes1::todo3() {
-    endSilently([this] { ui.rt2->SaveFile(plannerFile()); });
+    endSilently([this] { ui.rt2->files().SaveFile(plannerFile()); });
 }
 
 QString frmnotes1::askPlannerName() {
@@ -105,7 +105,7 @@ void frmnotes1::todo4() {
             // What is chosen here is not taken: unless this one is cancelled, the file that exists
             // is replaced after all.
             CommonDialog1.ShowSave();
-        ui.rt2->SaveFile(name);
+        ui.rt2->files().SaveFile(name);
     });
 }
 

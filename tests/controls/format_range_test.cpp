@@ -38,17 +38,17 @@ struct Page {
 /// All pages of a box, drawn; at most a hundred.
 QList<Page> pagesOf(RichTextBox& box, const QRectF& rect = WholePage) {
     QList<Page> pages;
+    RangeFormatter formatter(box);
     const int length = int(box.Text().size());
     int first = 0;
     do {
         Page page{sheet(), 0};
         QPainter painter(&page.image);
-        page.next = box.FormatPage({&painter, &page.image, rect, first, -1});
+        page.next = formatter.FormatPage({&painter, &page.image, rect, first, -1});
         painter.end();
         pages << page;
         first = page.next;
     } while (first < length && pages.size() < 100);
-    box.EndFormatting();
     return pages;
 }
 
@@ -276,15 +276,16 @@ void FormatRangeTest::aPageBreakBeginsAPage() {
 
 void FormatRangeTest::aRangeEndsWhereItIsTold() {
     RichTextBox box;
+    RangeFormatter formatter(box);
     box.SetText(manyLines(20));
     QImage image = sheet();
     QPainter painter(&image);
-    QCOMPARE(box.FormatPage({&painter, &image, WholePage, 0, 16}), 16);
+    QCOMPARE(formatter.FormatPage({&painter, &image, WholePage, 0, 16}), 16);
     painter.end();
     QImage two = sheet();
     box.SetText(manyLines(2));
     QPainter other(&two);
-    box.FormatPage({&other, &two, WholePage, 0, -1});
+    formatter.FormatPage({&other, &two, WholePage, 0, -1});
     other.end();
     QCOMPARE(image, two);
 }
@@ -315,9 +316,8 @@ void FormatRangeTest::aRangeDrawsItsOwnCharactersOfALine() {
     box.SetSelFontSize(24);
     QImage drawn = sheet();
     QPainter painter(&drawn);
-    QCOMPARE(box.FormatPage({&painter, &drawn, WholePage, first, last}), end);
+    QCOMPARE(RangeFormatter(box).FormatPage({&painter, &drawn, WholePage, first, last}), end);
     painter.end();
-    box.EndFormatting();
 
     box.SetSelStart(0);
     box.SetSelLength(first);
@@ -344,7 +344,7 @@ void FormatRangeTest::aRangeWithItsFirstCharacterHasItsLabel() {
     const auto leftmost = [&box](int first, int last) {
         QImage image = sheet();
         QPainter painter(&image);
-        box.FormatPage({&painter, &image, WholePage, first, last});
+        RangeFormatter(box).FormatPage({&painter, &image, WholePage, first, last});
         painter.end();
         return inkBounds(image).left();
     };
@@ -358,7 +358,7 @@ void FormatRangeTest::withoutADeviceThePainterTells() {
     box.SetText(manyLines(100));
     QImage image = sheet();
     QPainter painter(&image);
-    const int next = box.FormatPage({&painter, nullptr, WholePage, 0, -1});
+    const int next = RangeFormatter(box).FormatPage({&painter, nullptr, WholePage, 0, -1});
     painter.end();
     const QList<Page> pages = pagesOf(box);
     QCOMPARE(next, pages.constFirst().next);
@@ -369,7 +369,7 @@ void FormatRangeTest::withoutPainterAndDeviceThereIsNoPage() {
     RichTextBox box;
     box.SetText(u"one"_s);
     const auto failure = firstFailure([&] {
-        box.FormatPage({nullptr, nullptr, WholePage, 0, -1});
+        RangeFormatter(box).FormatPage({nullptr, nullptr, WholePage, 0, -1});
     });
     QVERIFY(failure.has_value());
     QCOMPARE(failure->number(), ErrorNumber::InvalidProcedureCall);
@@ -379,7 +379,7 @@ void FormatRangeTest::measuringDrawsNothing() {
     RichTextBox box;
     box.SetText(manyLines(100));
     QImage image = sheet();
-    const int next = box.FormatPage({nullptr, &image, WholePage, 0, -1});
+    const int next = RangeFormatter(box).FormatPage({nullptr, &image, WholePage, 0, -1});
     QCOMPARE(next, pagesOf(box).first().next);
     QVERIFY(inkBounds(image).isEmpty());
 }
@@ -393,7 +393,7 @@ void FormatRangeTest::printingIsTheSameOnAFinerDevice() {
     fine.setDotsPerMeterY(qRound(600 / 0.0254));
     fine.fill(Qt::white);
     QPainter painter(&fine);
-    const int next = box.FormatPage({&painter, &fine, WholePage, 0, -1});
+    const int next = RangeFormatter(box).FormatPage({&painter, &fine, WholePage, 0, -1});
     painter.end();
     const QRect ink = inkBounds(fine);
     QVERIFY(ink.left() >= 600 && ink.right() < 5 * 600);
@@ -405,13 +405,14 @@ void FormatRangeTest::printingIsTheSameOnAFinerDevice() {
 
 void FormatRangeTest::aChangedTextIsFormattedAnew() {
     RichTextBox box;
+    RangeFormatter formatter(box);
     box.SetText(manyLines(100));
     QImage image = sheet();
-    QVERIFY(box.FormatPage({nullptr, &image, WholePage, 0, -1}) < int(box.Text().size()));
+    QVERIFY(formatter.FormatPage({nullptr, &image, WholePage, 0, -1}) < int(box.Text().size()));
     box.SetText(u"short"_s);
-    QCOMPARE(box.FormatPage({nullptr, &image, WholePage, 0, -1}), 5);
+    QCOMPARE(formatter.FormatPage({nullptr, &image, WholePage, 0, -1}), 5);
     box.SetSelText(u"not so "_s);
-    QCOMPARE(box.FormatPage({nullptr, &image, WholePage, 0, -1}), 12);
+    QCOMPARE(formatter.FormatPage({nullptr, &image, WholePage, 0, -1}), 12);
 }
 
 void FormatRangeTest::aChangedFormatIsFormattedAnew_data() {
@@ -437,32 +438,33 @@ void FormatRangeTest::aChangedFormatIsFormattedAnew_data() {
 void FormatRangeTest::aChangedFormatIsFormattedAnew() {
     QFETCH(std::function<void(RichTextBox&)>, change);
     RichTextBox box;
+    RangeFormatter formatter(box);
     box.SetText(u"words that fill their line and then the next ones too, "_s.repeated(60));
     box.selectAll();
     box.SetSelFontSize(20);
     box.SetSelFontSize(10);
     QImage image = sheet();
-    const int before = box.FormatPage({nullptr, &image, WholePage, 0, -1});
+    const int before = formatter.FormatPage({nullptr, &image, WholePage, 0, -1});
     change(box);
-    const int after = box.FormatPage({nullptr, &image, WholePage, 0, -1});
+    const int after = formatter.FormatPage({nullptr, &image, WholePage, 0, -1});
     QVERIFY2(after < before, qPrintable(u"%1, %2"_s.arg(before).arg(after)));
-    box.EndFormatting();
-    QCOMPARE(box.FormatPage({nullptr, &image, WholePage, 0, -1}), after);
+    QCOMPARE(RangeFormatter(box).FormatPage({nullptr, &image, WholePage, 0, -1}), after);
 }
 
 void FormatRangeTest::anotherRectangleOrDeviceIsFormattedAnew() {
     RichTextBox box;
+    RangeFormatter formatter(box);
     box.SetText(u"words that fill their line and then the next ones too, "_s.repeated(60));
     QImage image = sheet();
-    const int before = box.FormatPage({nullptr, &image, WholePage, 0, -1});
+    const int before = formatter.FormatPage({nullptr, &image, WholePage, 0, -1});
     const QRectF narrow(Inch, Inch, 2 * Inch, 4 * Inch);
-    QVERIFY(box.FormatPage({nullptr, &image, narrow, 0, -1}) < before * 2 / 3);
+    QVERIFY(formatter.FormatPage({nullptr, &image, narrow, 0, -1}) < before * 2 / 3);
 
-    QCOMPARE(box.FormatPage({nullptr, &image, WholePage, 0, -1}), before);
+    QCOMPARE(formatter.FormatPage({nullptr, &image, WholePage, 0, -1}), before);
     // The same device prints finer than before: a page holds as much, though not as many dots.
     image.setDotsPerMeterX(4 * DotsPerMeter);
     image.setDotsPerMeterY(4 * DotsPerMeter);
-    const int finer = box.FormatPage({nullptr, &image, WholePage, 0, -1});
+    const int finer = formatter.FormatPage({nullptr, &image, WholePage, 0, -1});
     QVERIFY2(std::abs(finer - before) < before / 4, qPrintable(u"%1, %2"_s.arg(before).arg(finer)));
 }
 

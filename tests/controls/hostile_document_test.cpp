@@ -110,10 +110,10 @@ void HostileDocumentTest::aTextFileOfFiftyMegabytesShowsItsBeginningAndIsKept() 
     const QByteArray bytes = QByteArray("A line of a message.\r\n").repeated(2'300'000);
     const QString path = folder.write(u"Msg.txt"_s, bytes);
     RichTextBox box;
-    box.LoadFile(path, RichTextBox::rtfText);
+    box.files().LoadFile(path, RichTextBox::rtfText);
     QVERIFY(box.Text().startsWith(u"A line of a message.\r\nA line"));
     showAndType(box);
-    box.SaveFile(path, RichTextBox::rtfText);
+    box.files().SaveFile(path, RichTextBox::rtfText);
     QCOMPARE(QFileInfo(path + u".unreadable"_s).size(), bytes.size());
 }
 
@@ -122,9 +122,9 @@ void HostileDocumentTest::anRtfFileThatIsTooLargeIsKept() {
     const QByteArray bytes = "{\\rtf1 " + QByteArray("\\sb100000 a\\par ").repeated(4000) + "}";
     const QString path = folder.write(u"Vazno.rtf"_s, bytes);
     RichTextBox box;
-    box.LoadFile(path);
+    box.files().LoadFile(path);
     QVERIFY(box.Text().startsWith(u"a\r\na"));
-    box.SaveFile(path);
+    box.files().SaveFile(path);
     QCOMPARE(folder.read(u"Vazno.rtf.unreadable"_s), bytes);
 }
 

@@ -54,8 +54,7 @@ QImage printedItem(RichTextBox& box, int item) {
     sheet.setDotsPerMeterY(DotsPerMeter);
     sheet.fill(Qt::white);
     QPainter painter(&sheet);
-    box.FormatPage({&painter, &sheet, QRectF(720, 720, 7200, 7200), 6 * item, -1});
-    box.EndFormatting();
+    RangeFormatter(box).FormatPage({&painter, &sheet, QRectF(720, 720, 7200, 7200), 6 * item, -1});
     return sheet.copy(0, 48, 576, 16);
 }
 

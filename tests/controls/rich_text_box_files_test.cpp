@@ -95,11 +95,11 @@ void RichTextBoxFilesTest::richTextIsSavedAndLoaded() {
     box.SetSelLength(4);
     box.SetSelBold(true);
     box.SetSelColor(255);
-    box.SaveFile(path(u"note.rtf"_s), 0);
+    box.files().SaveFile(path(u"note.rtf"_s), 0);
     QVERIFY(content(u"note.rtf"_s).startsWith("{\\rtf"));
 
     RichTextBox other;
-    other.LoadFile(path(u"note.rtf"_s), 0);
+    other.files().LoadFile(path(u"note.rtf"_s), 0);
     QCOMPARE(other.Text(), box.Text());
     other.SetSelStart(10);
     other.SetSelLength(4);
@@ -113,10 +113,10 @@ void RichTextBoxFilesTest::richTextIsSavedAndLoaded() {
 void RichTextBoxFilesTest::plainTextIsSavedAndLoaded() {
     RichTextBox box;
     box.SetText(u"one\r\ntwo\r\n"_s);
-    box.SaveFile(path(u"note.txt"_s), 1);
+    box.files().SaveFile(path(u"note.txt"_s), 1);
     QCOMPARE(content(u"note.txt"_s), QByteArray("one\r\ntwo\r\n"));
     RichTextBox other;
-    other.LoadFile(path(u"note.txt"_s), 1);
+    other.files().LoadFile(path(u"note.txt"_s), 1);
     QCOMPARE(other.Text(), u"one\r\ntwo\r\n"_s);
 }
 
@@ -124,10 +124,10 @@ void RichTextBoxFilesTest::plainTextIsSavedAndLoaded() {
 void RichTextBoxFilesTest::richTextLoadedAsPlainTextShowsItsCodes() {
     write(u"note.txt"_s, "{\\rtf1 text}");
     RichTextBox box;
-    box.LoadFile(path(u"note.txt"_s), 1);
+    box.files().LoadFile(path(u"note.txt"_s), 1);
     QCOMPARE(box.Text(), u"{\\rtf1 text}"_s);
-    box.SaveFile(path(u"other.rtf"_s), 0);
-    box.LoadFile(path(u"other.rtf"_s), 0);
+    box.files().SaveFile(path(u"other.rtf"_s), 0);
+    box.files().LoadFile(path(u"other.rtf"_s), 0);
     QCOMPARE(box.Text(), u"{\\rtf1 text}"_s);
 }
 
@@ -139,20 +139,20 @@ void RichTextBoxFilesTest::everyCodeIsSavedAndLoaded_data() {
 
 void RichTextBoxFilesTest::everyCodeIsSavedAndLoaded() {
     QFETCH(bool, ansi);
-    const auto kind = ansi ? RichTextBox::PlainFile::Ansi : RichTextBox::PlainFile::Notes;
+    const auto kind = ansi ? RichTextFiles::Plain::Ansi : RichTextFiles::Plain::Notes;
     QString text;
     for (int code = 0; code < 256; ++code)
         text += QChar(code) + u'.';
     RichTextBox box;
-    box.setPlainFile(kind);
+    box.files().setPlain(kind);
     box.SetText(text);
     if (ansi) // codes 128 to 159 of the page are other characters
         box.SetText(QString(text).remove(2 * 128, 2 * 32));
     const QString expected = box.Text();
-    box.SaveFile(path(u"codes.txt"_s), 1);
+    box.files().SaveFile(path(u"codes.txt"_s), 1);
     RichTextBox other;
-    other.setPlainFile(kind);
-    other.LoadFile(path(u"codes.txt"_s), 1);
+    other.files().setPlain(kind);
+    other.files().LoadFile(path(u"codes.txt"_s), 1);
     QCOMPARE(other.Text(), expected);
 }
 
@@ -165,10 +165,10 @@ void RichTextBoxFilesTest::everyPairOfCodesIsSavedAndLoaded() {
             bytes.append(char(first)).append(char(second));
     write(u"pairs.txt"_s, bytes);
     RichTextBox box;
-    box.setPlainFile(RichTextBox::PlainFile::Ansi);
-    box.LoadFile(path(u"pairs.txt"_s), 1);
+    box.files().setPlain(RichTextFiles::Plain::Ansi);
+    box.files().LoadFile(path(u"pairs.txt"_s), 1);
     QCOMPARE(box.Text().size(), bytes.size());
-    box.SaveFile(path(u"again.txt"_s), 1);
+    box.files().SaveFile(path(u"again.txt"_s), 1);
     QCOMPARE(content(u"again.txt"_s), bytes);
 }
 
@@ -178,12 +178,12 @@ void RichTextBoxFilesTest::everyCodeIsLoadedAndSavedByteByByte() {
           QByteArray("a\0b", 3), QByteArray("\n\r\n\r"), QByteArray("unix\nlines\n")}) {
         write(u"in.txt"_s, bytes);
         RichTextBox box;
-        box.setPlainFile(RichTextBox::PlainFile::Ansi);
-        box.LoadFile(path(u"in.txt"_s), 1);
+        box.files().setPlain(RichTextFiles::Plain::Ansi);
+        box.files().LoadFile(path(u"in.txt"_s), 1);
         RichTextBox right;
-        right.setPlainFile(RichTextBox::PlainFile::Ansi);
+        right.files().setPlain(RichTextFiles::Plain::Ansi);
         right.SetText(box.Text());
-        right.SaveFile(path(u"out.txt"_s), 1);
+        right.files().SaveFile(path(u"out.txt"_s), 1);
         QCOMPARE(content(u"out.txt"_s), bytes);
     }
 }
@@ -191,41 +191,41 @@ void RichTextBoxFilesTest::everyCodeIsLoadedAndSavedByteByByte() {
 void RichTextBoxFilesTest::notesOutsideThePageAreKeptAsUtf8() {
     RichTextBox box;
     box.SetText(u"\u017Eivot \u4E2D\u6587 \U0001F600"_s);
-    box.SaveFile(path(u"note.txt"_s), 1);
+    box.files().SaveFile(path(u"note.txt"_s), 1);
     QVERIFY(content(u"note.txt"_s).startsWith("\xEF\xBB\xBF"));
     RichTextBox other;
-    other.LoadFile(path(u"note.txt"_s), 1);
+    other.files().LoadFile(path(u"note.txt"_s), 1);
     QCOMPARE(other.Text(), box.Text());
 }
 
 void RichTextBoxFilesTest::notesOfThePageStayOneByteACharacter() {
     RichTextBox box;
     box.SetText(u"caf\u00E9"_s);
-    box.SaveFile(path(u"note.txt"_s), 1);
+    box.files().SaveFile(path(u"note.txt"_s), 1);
     QCOMPARE(content(u"note.txt"_s), QByteArray("caf\xE9"));
     RichTextBox other;
-    other.LoadFile(path(u"note.txt"_s), 1);
+    other.files().LoadFile(path(u"note.txt"_s), 1);
     QCOMPARE(other.Text(), u"caf\u00E9"_s);
 }
 
 void RichTextBoxFilesTest::whatIsOutsideThePageIsLostByteByByte() {
     RichTextBox box;
-    box.setPlainFile(RichTextBox::PlainFile::Ansi);
+    box.files().setPlain(RichTextFiles::Plain::Ansi);
     box.SetText(u"a\u4E2Db"_s);
-    box.SaveFile(path(u"note.txt"_s), 1);
+    box.files().SaveFile(path(u"note.txt"_s), 1);
     QCOMPARE(content(u"note.txt"_s), QByteArray("a?b"));
 }
 
 void RichTextBoxFilesTest::linesThatEndWithLfAreLinesOfNotes() {
     write(u"unix.txt"_s, "one\n\ttwo\n");
     RichTextBox box;
-    box.LoadFile(path(u"unix.txt"_s), 1);
+    box.files().LoadFile(path(u"unix.txt"_s), 1);
     QCOMPARE(box.Text(), u"one\r\n\ttwo\r\n"_s);
 
     // With a CR or another control character it is no such file, and each code stays.
     for (const QByteArray& bytes : {QByteArray("one\ntwo\r\n"), QByteArray("one\n\x01")}) {
         write(u"other.txt"_s, bytes);
-        box.LoadFile(path(u"other.txt"_s), 1);
+        box.files().LoadFile(path(u"other.txt"_s), 1);
         QCOMPARE(box.Text(), QString::fromLatin1(bytes));
     }
 }
@@ -244,7 +244,7 @@ void RichTextBoxFilesTest::loadingPlainTextGivesItTheBoxsOwnFontAndNoOtherFormat
     box.SetSelColor(255);
     box.SetSelFontName(u"Arial"_s);
     box.SetSelFontSize(30);
-    box.LoadFile(path(u"note.txt"_s), 1);
+    box.files().LoadFile(path(u"note.txt"_s), 1);
     const auto compare = [&box] {
         QCOMPARE(box.SelBold(), std::optional(false));
         QCOMPARE(box.SelItalic(), std::optional(false));
@@ -265,8 +265,8 @@ void RichTextBoxFilesTest::loadingPlainTextGivesItTheBoxsOwnFontAndNoOtherFormat
 void RichTextBoxFilesTest::savingKeepsTheHistoryOfUndo() {
     RichTextBox box;
     QTest::keyClicks(&box, u"abc"_s);
-    box.SaveFile(path(u"note.rtf"_s));
-    box.SaveFile(path(u"note.txt"_s), 1);
+    box.files().SaveFile(path(u"note.rtf"_s));
+    box.files().SaveFile(path(u"note.txt"_s), 1);
     QVERIFY(box.CanUndo());
     QCOMPARE(box.UndoType(), UndoKind::Typing);
     box.Undo();
@@ -281,7 +281,7 @@ void RichTextBoxFilesTest::loadingPlainTextDropsTheShapeOfParagraphs() {
     box.SetSelAlignment(RichTextBox::rtfCenter);
     box.SetSelIndent(500);
     box.SetSelBullet(true);
-    box.LoadFile(path(u"note.txt"_s), 1);
+    box.files().LoadFile(path(u"note.txt"_s), 1);
     box.selectAll();
     QCOMPARE(box.SelAlignment(), std::optional(0));
     QCOMPARE(box.SelIndent(), std::optional(0));
@@ -297,7 +297,7 @@ void RichTextBoxFilesTest::loadingPutsTheCaretAtTheStartAndTells() {
         box.SetSelStart(3);
         QSignalSpy changes(&box, &RichTextBox::Change);
         QSignalSpy selections(&box, &RichTextBox::SelChange);
-        box.LoadFile(path(name), flags);
+        box.files().LoadFile(path(name), flags);
         QCOMPARE(box.Text(), u"one\r\ntwo"_s);
         QCOMPARE(box.SelStart(), 0);
         QCOMPARE(changes.count(), 1);
@@ -312,7 +312,7 @@ void RichTextBoxFilesTest::loadingDropsTheHistoryOfUndo() {
     for (const auto& [name, flags] : {std::pair(u"note.txt"_s, 1), std::pair(u"note.rtf"_s, 0)}) {
         QTest::keyClicks(&box, u"abc"_s);
         QVERIFY(box.CanUndo());
-        box.LoadFile(path(name), flags);
+        box.files().LoadFile(path(name), flags);
         QVERIFY(!box.CanUndo());
     }
 }
@@ -324,52 +324,53 @@ void RichTextBoxFilesTest::aPictureIsABlankInPlainText() {
     QImage picture(4, 4, QImage::Format_RGB32);
     picture.fill(Qt::red);
     box.textCursor().insertImage(picture);
-    box.SaveFile(path(u"note.txt"_s), 1);
+    box.files().SaveFile(path(u"note.txt"_s), 1);
     QCOMPARE(content(u"note.txt"_s), QByteArray("a b"));
 }
 
 void RichTextBoxFilesTest::aFileThatIsNotRichTextIsRefused() {
     write(u"note.pdf"_s, "%PDF-1.4 something");
     RichTextBox box;
-    const auto failure = firstFailure([&] { box.LoadFile(path(u"note.pdf"_s), 0); });
+    const auto failure = firstFailure([&] { box.files().LoadFile(path(u"note.pdf"_s), 0); });
     QCOMPARE(numberOf(failure), std::optional(ErrorNumber::InvalidFileFormat));
 }
 
 void RichTextBoxFilesTest::anEmptyFileIsNotRichText() {
     write(u"empty.rtf"_s, QByteArray());
     RichTextBox box;
-    const auto failure = firstFailure([&] { box.LoadFile(path(u"empty.rtf"_s), 0); });
+    const auto failure = firstFailure([&] { box.files().LoadFile(path(u"empty.rtf"_s), 0); });
     QCOMPARE(numberOf(failure), std::optional(ErrorNumber::InvalidFileFormat));
-    box.SaveFile(path(u"empty.rtf"_s), 0);
+    box.files().SaveFile(path(u"empty.rtf"_s), 0);
     QVERIFY(!QFile::exists(path(u"empty.rtf.unreadable"_s)));
 }
 
 void RichTextBoxFilesTest::aMissingFileIsRefused() {
     RichTextBox box;
     for (int flags : {0, 1}) {
-        const auto failure = firstFailure([&] { box.LoadFile(path(u"none.rtf"_s), flags); });
+        const auto failure =
+            firstFailure([&] { box.files().LoadFile(path(u"none.rtf"_s), flags); });
         QCOMPARE(numberOf(failure), std::optional(ErrorNumber::FileNotFound));
     }
 }
 
 void RichTextBoxFilesTest::anEmptyNameIsRefused() {
     RichTextBox box;
-    QVERIFY(firstFailure([&] { box.LoadFile(QString(), 1); }));
-    QVERIFY(firstFailure([&] { box.SaveFile(QString(), 1); }));
+    QVERIFY(firstFailure([&] { box.files().LoadFile(QString(), 1); }));
+    QVERIFY(firstFailure([&] { box.files().SaveFile(QString(), 1); }));
 }
 
 void RichTextBoxFilesTest::aFolderIsRefused() {
     RichTextBox box;
-    QVERIFY(firstFailure([&] { box.LoadFile(m_folder->path(), 1); }));
-    QVERIFY(firstFailure([&] { box.SaveFile(m_folder->path(), 1); }));
+    QVERIFY(firstFailure([&] { box.files().LoadFile(m_folder->path(), 1); }));
+    QVERIFY(firstFailure([&] { box.files().SaveFile(m_folder->path(), 1); }));
 }
 
 void RichTextBoxFilesTest::otherFlagsAreRefused() {
     write(u"note.txt"_s, "text");
     RichTextBox box;
-    const auto load = firstFailure([&] { box.LoadFile(path(u"note.txt"_s), 2); });
+    const auto load = firstFailure([&] { box.files().LoadFile(path(u"note.txt"_s), 2); });
     QCOMPARE(numberOf(load), std::optional(ErrorNumber::InvalidProcedureCall));
-    const auto save = firstFailure([&] { box.SaveFile(path(u"note.txt"_s), -1); });
+    const auto save = firstFailure([&] { box.files().SaveFile(path(u"note.txt"_s), -1); });
     QCOMPARE(numberOf(save), std::optional(ErrorNumber::InvalidProcedureCall));
     QCOMPARE(content(u"note.txt"_s), QByteArray("text"));
 }
@@ -380,8 +381,8 @@ void RichTextBoxFilesTest::aRefusedFileChangesNothing() {
     box.SetText(u"kept"_s);
     box.SetSelStart(2);
     QSignalSpy changes(&box, &RichTextBox::Change);
-    QVERIFY(firstFailure([&] { box.LoadFile(path(u"note.rtf"_s), 0); }));
-    QVERIFY(firstFailure([&] { box.LoadFile(path(u"none.rtf"_s), 0); }));
+    QVERIFY(firstFailure([&] { box.files().LoadFile(path(u"note.rtf"_s), 0); }));
+    QVERIFY(firstFailure([&] { box.files().LoadFile(path(u"none.rtf"_s), 0); }));
     QCOMPARE(box.Text(), u"kept"_s);
     QCOMPARE(box.SelStart(), 2);
     QCOMPARE(changes.count(), 0);
@@ -389,20 +390,20 @@ void RichTextBoxFilesTest::aRefusedFileChangesNothing() {
 
 void RichTextBoxFilesTest::savingIntoAMissingFolderFails() {
     RichTextBox box;
-    const auto failure = firstFailure([&] { box.SaveFile(path(u"none/note.rtf"_s), 0); });
+    const auto failure = firstFailure([&] { box.files().SaveFile(path(u"none/note.rtf"_s), 0); });
     QCOMPARE(numberOf(failure), std::optional(ErrorNumber::PathNotFound));
 }
 
 void RichTextBoxFilesTest::aFileThatCouldNotBeReadIsKeptAsideBeforeItIsOverwritten() {
     write(u"Vazno.rtf"_s, "years of entries, broken");
     RichTextBox box;
-    QVERIFY(firstFailure([&] { box.LoadFile(path(u"Vazno.rtf"_s), 0); }));
+    QVERIFY(firstFailure([&] { box.files().LoadFile(path(u"Vazno.rtf"_s), 0); }));
     QVERIFY(!QFile::exists(path(u"Vazno.rtf.unreadable"_s)));
     box.SetText(u"new"_s);
-    box.SaveFile(path(u"Vazno.rtf"_s), 0);
+    box.files().SaveFile(path(u"Vazno.rtf"_s), 0);
     QCOMPARE(content(u"Vazno.rtf.unreadable"_s), QByteArray("years of entries, broken"));
     QVERIFY(content(u"Vazno.rtf"_s).startsWith("{\\rtf"));
-    box.SaveFile(path(u"Vazno.rtf"_s), 0);
+    box.files().SaveFile(path(u"Vazno.rtf"_s), 0);
     QCOMPARE(content(u"Vazno.rtf.unreadable"_s), QByteArray("years of entries, broken"));
     QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files).size(), 2);
 }
@@ -411,24 +412,24 @@ void RichTextBoxFilesTest::aFileThatCouldBeReadOnlyInPartIsKeptAsideToo() {
     const QByteArray torn = "{\\rtf1 entries {\\b of years";
     write(u"Vazno.rtf"_s, torn);
     RichTextBox box;
-    box.LoadFile(path(u"Vazno.rtf"_s), 0);
+    box.files().LoadFile(path(u"Vazno.rtf"_s), 0);
     QCOMPARE(box.Text(), u"entries of years"_s);
-    box.SaveFile(path(u"Vazno.rtf"_s), 0);
+    box.files().SaveFile(path(u"Vazno.rtf"_s), 0);
     QCOMPARE(content(u"Vazno.rtf.unreadable"_s), torn);
 }
 
 void RichTextBoxFilesTest::aFileThatWasReadIsNotKeptAside() {
     write(u"Vazno.rtf"_s, "{\\rtf1 entries}");
     RichTextBox box;
-    box.LoadFile(path(u"Vazno.rtf"_s), 0);
-    box.SaveFile(path(u"Vazno.rtf"_s), 0);
+    box.files().LoadFile(path(u"Vazno.rtf"_s), 0);
+    box.files().SaveFile(path(u"Vazno.rtf"_s), 0);
     QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList{u"Vazno.rtf"_s});
 }
 
 void RichTextBoxFilesTest::aFileThatNobodyLoadedIsNotKeptAside() {
     write(u"chosen.rtf"_s, "the user said that it may go");
     RichTextBox box;
-    box.SaveFile(path(u"chosen.rtf"_s), 0);
+    box.files().SaveFile(path(u"chosen.rtf"_s), 0);
     QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList{u"chosen.rtf"_s});
 }
 

@@ -626,8 +626,8 @@ void RichTextBoxTextTest::everyWayToChangeTheContentTellsOnce() {
     QTemporaryDir folder;
     RichTextBox file;
     file.SetText(u"from a file"_s);
-    file.SaveFile(folder.filePath(u"a.rtf"_s), 0);
-    file.SaveFile(folder.filePath(u"a.txt"_s), 1);
+    file.files().SaveFile(folder.filePath(u"a.rtf"_s), 0);
+    file.files().SaveFile(folder.filePath(u"a.txt"_s), 1);
     const std::pair<const char*, std::function<void(RichTextBox&)>> ways[] = {
         {"Text", [](RichTextBox& box) { box.SetText(u"x"_s); }},
         {"Text, empty", [](RichTextBox& box) { box.SetText(QString()); }},
@@ -647,8 +647,10 @@ void RichTextBoxTextTest::everyWayToChangeTheContentTellsOnce() {
         {"SelBullet", [](RichTextBox& box) { box.SetSelBullet(true); }},
         {"Font.Name", [](RichTextBox& box) { box.SetFontName(u"Liberation Mono"_s); }},
         {"Font.Size", [](RichTextBox& box) { box.SetFontSize(30); }},
-        {"LoadFile 0", [&](RichTextBox& box) { box.LoadFile(folder.filePath(u"a.rtf"_s), 0); }},
-        {"LoadFile 1", [&](RichTextBox& box) { box.LoadFile(folder.filePath(u"a.txt"_s), 1); }},
+        {"LoadFile 0",
+         [&](RichTextBox& box) { box.files().LoadFile(folder.filePath(u"a.rtf"_s), 0); }},
+        {"LoadFile 1",
+         [&](RichTextBox& box) { box.files().LoadFile(folder.filePath(u"a.txt"_s), 1); }},
         {"Undo", [](RichTextBox& box) { box.Undo(); }},
         {"Cut", [](RichTextBox& box) { box.Cut(); }},
         {"typing", [](RichTextBox& box) { QTest::keyClicks(&box, u"x"_s); }},
@@ -673,7 +675,7 @@ void RichTextBoxTextTest::aReadOnlyBoxTakesWhatTheProgramSets() {
     QTemporaryDir folder;
     RichTextBox file;
     file.SetText(u"from a file"_s);
-    file.SaveFile(folder.filePath(u"a.rtf"_s), 0);
+    file.files().SaveFile(folder.filePath(u"a.rtf"_s), 0);
     RichTextBox box;
     box.setReadOnly(true);
     QSignalSpy changes(&box, &RichTextBox::Change);
@@ -687,7 +689,7 @@ void RichTextBoxTextTest::aReadOnlyBoxTakesWhatTheProgramSets() {
     QCOMPARE(box.Text(), u"other"_s);
     box.SetSelRTF(QByteArrayLiteral("{\\rtf1  words}"));
     QCOMPARE(box.Text(), u"other words"_s);
-    box.LoadFile(folder.filePath(u"a.rtf"_s), 0);
+    box.files().LoadFile(folder.filePath(u"a.rtf"_s), 0);
     QCOMPARE(box.Text(), u"from a file"_s);
     box.SetTextRTF(QByteArrayLiteral("{\\rtf1 rich}"));
     QCOMPARE(box.Text(), u"rich"_s);

@@ -25,7 +25,7 @@ UnsavedText plain(const QString& title, const QString& text) {
 
 QString textOf(const TestProgram& ground, const QString& name) {
     RichTextBox box;
-    box.LoadFile(ground.folder.file(name));
+    box.files().LoadFile(ground.folder.file(name));
     return box.Text();
 }
 
@@ -77,7 +77,7 @@ void RecoveryTest::aTextKeepsItsFormatsAndTheNextOneIsFreeOfThem() {
     });
     ground.program.recovery.keep();
     RichTextBox box;
-    box.LoadFile(ground.folder.file(u"recovered.rtf"_s));
+    box.files().LoadFile(ground.folder.file(u"recovered.rtf"_s));
     box.SetSelStart(box.Find(u"loud"_s));
     box.SetSelLength(4);
     QCOMPARE(box.SelBold(), true);

@@ -298,7 +298,7 @@ void NotesPanelTest::unsavedChangesAreRecoveredUnderTheirTitle() {
     rt1().SetSelBold(true);
     m_ground->program.recovery.keep();
     RichTextBox box;
-    box.LoadFile(m_ground->app.file(u"recovered.rtf"_s));
+    box.files().LoadFile(m_ground->app.file(u"recovered.rtf"_s));
     QVERIFY(box.Text().startsWith(u"Notes, left page \"Untitled\""_s));
     const int at = box.Find(u"words"_s);
     QVERIFY(at > 0);

@@ -224,7 +224,7 @@ void ClearCommandsTest::clearingASelectionAsksNothingAndSaves() {
     QCOMPARE(m_ground->rt1a().Text(), u"water roses"_s);
     QVERIFY(m_ground->boxes.asked.isEmpty());
     RichTextBox read;
-    read.LoadFile(m_ground->app.file(u"Vazno.rtf"_s));
+    read.files().LoadFile(m_ground->app.file(u"Vazno.rtf"_s));
     QCOMPARE(read.Text(), u"water roses"_s);
 }
 
@@ -245,7 +245,7 @@ void ClearCommandsTest::clearingTheToDoListAsksWithNoAsDefault() {
     m_ground->panel().mnusve();
     QCOMPARE(m_ground->rt1a().Text(), QString());
     RichTextBox read;
-    read.LoadFile(m_ground->app.file(u"Vazno.rtf"_s));
+    read.files().LoadFile(m_ground->app.file(u"Vazno.rtf"_s));
     QCOMPARE(read.Text(), QString());
 }
 

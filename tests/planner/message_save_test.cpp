@@ -136,7 +136,7 @@ void MessageSaveTest::aTypedMessageIsWrittenInTheSizeThatItShows() {
     QCOMPARE(formatOf(ground.rt1(), u"Water the roses"_s).size, points);
     ground.press(u"imgSave"_s);
     RichTextBox elsewhere;
-    elsewhere.LoadFile(ground.folder.file(u"Vazno.rtf"_s));
+    elsewhere.files().LoadFile(ground.folder.file(u"Vazno.rtf"_s));
     QCOMPARE(formatOf(elsewhere, u"Water the roses"_s).size, points);
 }
 
@@ -226,7 +226,7 @@ void MessageSaveTest::theDocumentIsSavedAndTheCaretRestsAtItsEnd() {
     ground.press(u"imgSave"_s);
     QCOMPARE(ground.rt1a().SelStart(), static_cast<int>(ground.rt1a().Text().size()));
     RichTextBox copy;
-    copy.LoadFile(ground.folder.file(u"Vazno.rtf"_s));
+    copy.files().LoadFile(ground.folder.file(u"Vazno.rtf"_s));
     QVERIFY(copy.Text().startsWith(ground.rt1a().Text()));
 }
 
@@ -434,7 +434,7 @@ void MessageSaveTest::theToDoSaveButtonWritesTheDocument() {
     QVERIFY(!ground.folder.names().contains(u"Vazno.rtf"_s));
     ground.press(u"imstodo"_s);
     RichTextBox copy;
-    copy.LoadFile(ground.folder.file(u"Vazno.rtf"_s));
+    copy.files().LoadFile(ground.folder.file(u"Vazno.rtf"_s));
     QVERIFY(copy.Text().startsWith(u"edited by hand"_s));
 }
 

@@ -14,7 +14,7 @@ QString recovered(PanelGround& ground) {
     if (!ground.folder.names().contains(u"recovered.rtf"_s))
         return {};
     RichTextBox box;
-    box.LoadFile(ground.folder.file(u"recovered.rtf"_s));
+    box.files().LoadFile(ground.folder.file(u"recovered.rtf"_s));
     return box.Text();
 }
 

@@ -91,7 +91,7 @@ void WeeklyPlannerTest::newIsWrittenFromTheCalendarsDate() {
 void WeeklyPlannerTest::newIsOnTheDiskAtOnce() {
     m_ground->press(u"Button4"_s);
     RichTextBox read;
-    read.LoadFile(file(u"weekly.rtf"_s));
+    read.files().LoadFile(file(u"weekly.rtf"_s));
     QCOMPARE(read.Text(), rt2().Text());
 }
 
@@ -100,7 +100,7 @@ void WeeklyPlannerTest::theMondayPageIsSavedTooAndHasNoRange() {
     const QString head = u"WEEKLY PLANNER\r\n\r\nWEEK No: 24 / June 2002\r\n___"_s;
     QCOMPARE(rt2().Text().left(head.size()), head);
     RichTextBox read;
-    read.LoadFile(file(u"weekly.rtf"_s));
+    read.files().LoadFile(file(u"weekly.rtf"_s));
     QCOMPARE(read.Text(), rt2().Text());
 }
 
@@ -134,7 +134,7 @@ void WeeklyPlannerTest::saveWritesWeeklyRtf() {
     rt2().SetText(u"water the roses"_s);
     m_ground->press(u"imgoe"_s);
     RichTextBox read;
-    read.LoadFile(file(u"weekly.rtf"_s));
+    read.files().LoadFile(file(u"weekly.rtf"_s));
     QCOMPARE(read.Text(), u"water the roses"_s);
 }
 
@@ -153,7 +153,7 @@ void WeeklyPlannerTest::saveAsAsksForPlannersInTheDataFolder() {
     QCOMPARE(asked.fileName, QString());
     QCOMPARE(asked.directory, m_ground->app.Path());
     RichTextBox read;
-    read.LoadFile(m_ground->folder.file(u"june.rtf"_s));
+    read.files().LoadFile(m_ground->folder.file(u"june.rtf"_s));
     QCOMPARE(read.Text(), u"mine"_s);
     QVERIFY(!QFile::exists(file(u"weekly.rtf"_s)));
 }

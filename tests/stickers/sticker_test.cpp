@@ -482,7 +482,7 @@ void StickerTest::anEndThatNobodyAskedForKeepsTheTextsOfOpenStickers() {
     open.Text1().SetText(u"milk"_s);
     program().recovery.keep();
     RichTextBox box;
-    box.LoadFile(m_test->folder.file(u"recovered.rtf"_s));
+    box.files().LoadFile(m_test->folder.file(u"recovered.rtf"_s));
     QCOMPARE(box.Text(), u"Sticker \"Shop\", Saturday, March 14, 2026, 10:24:36\r\nmilk"_s);
 }
 

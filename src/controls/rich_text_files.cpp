@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
+#include "controls/rich_text_files.h"
+
 #include "controls/rich_text_box.h"
 #include "rtf/reader.h"
 #include "rtf/writer.h"
@@ -15,8 +17,6 @@
 
 #include <algorithm>
 
-// Documents in files.
-
 namespace orvalis {
 namespace {
 
@@ -31,8 +31,8 @@ bool endsLinesWithLf(QStringView text) {
                });
 }
 
-QString plainTextOf(QByteArrayView bytes, RichTextBox::PlainFile kind) {
-    if (kind == RichTextBox::PlainFile::Ansi)
+QString plainTextOf(QByteArrayView bytes, RichTextFiles::Plain kind) {
+    if (kind == RichTextFiles::Plain::Ansi)
         return AnsiPage::ofUser().decode(bytes);
     QString text = decodeText(bytes);
     if (endsLinesWithLf(text))
@@ -47,17 +47,17 @@ void requireFlags(int flags) {
 
 } // namespace
 
-void RichTextBox::LoadFile(const QString& path, int flags) {
+void RichTextFiles::LoadFile(const QString& path, int flags) {
     requireFlags(flags);
     QByteArray bytes;
     if (const auto failure = firstFailure([&] { bytes = readWhole(path); })) {
         noteUnreadable(path); // nobody knows what lies there
         throw *failure;
     }
-    if (flags == rtfText) {
+    if (flags == RichTextBox::rtfText) {
         // Fonts, colours, indents, bullets and alignment are nothing that a plain file could mean.
-        if (replaceEverything(plainTextOf(bytes, m_plainFile), QTextCharFormat(),
-                              QTextBlockFormat()))
+        if (m_box.replaceEverything(plainTextOf(bytes, m_plain), QTextCharFormat(),
+                                    QTextBlockFormat()))
             noteReadable(path);
         else
             noteUnreadable(path); // what had no room is on the disk alone
@@ -68,20 +68,20 @@ void RichTextBox::LoadFile(const QString& path, int flags) {
             noteUnreadable(path);
         throw RuntimeError(ErrorNumber::InvalidFileFormat);
     }
-    if (takeRtf(bytes))
+    if (m_box.takeRtf(bytes))
         noteReadable(path);
     else
         noteUnreadable(path); // what lies behind the fault is on the disk alone
 }
 
-void RichTextBox::SaveFile(const QString& path, int flags) {
+void RichTextFiles::SaveFile(const QString& path, int flags) {
     requireFlags(flags);
     QByteArray bytes;
-    if (flags == rtfRTF)
-        bytes = TextRTF();
+    if (flags == RichTextBox::rtfRTF)
+        bytes = m_box.TextRTF();
     else
-        bytes =
-            m_plainFile == PlainFile::Ansi ? AnsiPage::ofUser().encode(Text()) : encodeText(Text());
+        bytes = m_plain == Plain::Ansi ? AnsiPage::ofUser().encode(m_box.Text())
+                                       : encodeText(m_box.Text());
     saveWhole(path, bytes);
 }
 

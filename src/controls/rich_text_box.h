@@ -153,6 +153,10 @@ public:
     bool editMenu() const;
     void setEditMenu(bool on);
 
+    /// Whether a blank that does not break has a mark below it; elsewhere it looks like any blank.
+    bool marksNoBreakBlanks() const;
+    void setMarksNoBreakBlanks(bool on);
+
     /// Many edits as one: one step of undo, one layout, one Change and one SelChange at its end.
     /// Selection, SelText, SelRTF, formats and Find work inside as outside.
     class Batch {
@@ -260,6 +264,7 @@ private:
     QString m_tag;
     RichTextFiles m_files{*this};
     bool m_editMenu = true;
+    bool m_marksNoBreakBlanks = false;
     bool m_movesThroughHistory = false;
     bool m_batchBeganBare = false;  ///< with neither text nor history
     bool m_scatteredChange = false; ///< one step changes several places, in any order

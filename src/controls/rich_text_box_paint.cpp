@@ -57,7 +57,8 @@ void RichTextBox::paintEvent(QPaintEvent* event) {
     if (textCursor().hasSelection())
         context.selections = {{textCursor(), selectionFormat()}};
     drawListNumbers(painter, *document(), context);
-    drawNoBreakMarks(painter, context.clip);
+    if (m_marksNoBreakBlanks)
+        drawNoBreakMarks(painter, context.clip);
 }
 
 QTextCharFormat RichTextBox::selectionFormat() const {
@@ -68,7 +69,17 @@ QTextCharFormat RichTextBox::selectionFormat() const {
     return format;
 }
 
-/// A blank that does not break looks like any other; a small bracket under it tells.
+bool RichTextBox::marksNoBreakBlanks() const {
+    return m_marksNoBreakBlanks;
+}
+
+void RichTextBox::setMarksNoBreakBlanks(bool on) {
+    m_marksNoBreakBlanks = on;
+    viewport()->update();
+}
+
+/// A blank that does not break looks like any other; where each character has a meaning of its own
+/// a small bracket under it tells.
 void RichTextBox::drawNoBreakMarks(QPainter& painter, const QRectF& clip) {
     QColor ink = palette().color(QPalette::Text);
     ink.setAlphaF(0.45F);

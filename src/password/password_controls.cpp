@@ -43,6 +43,7 @@ RichTextBox* textArea(QWidget& panel, const QString& name, const QRectF& twips,
     made->setFont(skin::font(skin::points::Body));
     made->files().setPlain(RichTextFiles::Plain::Ansi);
     made->setTabChangesFocus(true);
+    made->setMarksNoBreakBlanks(true); // which are codes among others here
     setTwipsGeometry(*made, twips);
     return made;
 }

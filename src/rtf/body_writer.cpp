@@ -92,7 +92,7 @@ void BodyWriter::change(const CharFormat& format) {
         m_out.word(scriptWord(format.script));
     if (format.family != m_format.family) {
         m_out.word("\\f", m_tables.font(format.family));
-        m_fontIsSymbol = m_tables.isSymbolFont(format.family);
+        m_symbols = m_tables.symbolFontOf(format.family);
     }
     if (format.halfPoints != m_format.halfPoints)
         m_out.word("\\fs", format.halfPoints);
@@ -117,7 +117,7 @@ void BodyWriter::changeLink(int link) {
         // The closing braces bring back what held before the link.
         m_out.structure("}}");
         m_format = m_formatBeforeLink;
-        m_fontIsSymbol = m_tables.isSymbolFont(m_format.family);
+        m_symbols = m_tables.symbolFontOf(m_format.family);
     }
     if (link == NoName)
         return;
@@ -131,10 +131,10 @@ void BodyWriter::changeLink(int link) {
 
 void BodyWriter::text(QStringView text, const CharFormat& format) {
     change(format);
-    if (m_fontIsSymbol)
-        m_out.symbols(text);
-    else
+    if (m_symbols == SymbolFont::None)
         m_out.text(text);
+    else
+        m_out.symbols(m_symbols, text);
 }
 
 void BodyWriter::picture(const Picture& picture, const CharFormat& format) {

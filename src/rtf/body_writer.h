@@ -48,7 +48,7 @@ private:
     ParagraphWriter m_paragraphs;
     CharFormat m_format;
     CharFormat m_formatBeforeLink;
-    bool m_fontIsSymbol = false;
+    SymbolFont m_symbols = SymbolFont::None;
 };
 
 } // namespace orvalis::rtf

@@ -3,7 +3,6 @@
 #include "rtf/code_page.h"
 
 #include "rtf/page_converter.h"
-#include "rtf/symbol_font.h"
 
 #include <map>
 #include <utility>
@@ -49,28 +48,25 @@ struct CodePage::Converter {
     PageConverter converter;
 };
 
-CodePage::CodePage(int number)
-    : m_number(number) {
+CodePage::CodePage(int number) {
     if (isMultiByte(number) && PageConverter::knows(number))
         m_converter = std::make_unique<Converter>(number);
     else
-        fillTable();
+        fillTable(number);
 }
+
+CodePage::CodePage(SymbolFont font)
+    : m_symbols(font) {}
 
 CodePage::~CodePage() = default;
 
-void CodePage::fillTable() {
+void CodePage::fillTable(int number) {
     m_table = std::make_unique<Table>();
     Table& table = *m_table;
     for (int code = 0; code < 256; ++code)
         table[size_t(code)] = char16_t(code);
-    if (m_number == SymbolPage) {
-        for (size_t code = 0; code < table.size(); ++code)
-            table[code] = symbolCharacter(uchar(code));
-        return;
-    }
-    if (m_number != Latin1Page && PageConverter::knows(m_number)) {
-        PageConverter converter(m_number);
+    if (number != Latin1Page && PageConverter::knows(number)) {
+        PageConverter converter(number);
         for (int code = 0x80; code < 256; ++code) {
             const uchar byte = uchar(code);
             QString character;
@@ -86,10 +82,20 @@ void CodePage::fillTable() {
 
 const CodePage& CodePage::forNumber(int number) {
     thread_local std::map<int, std::unique_ptr<CodePage>> pages;
-    const bool known = number == Latin1Page || number == SymbolPage || PageConverter::knows(number);
+    if (number == SymbolPage)
+        return forSymbols(SymbolFont::Symbol);
+    const bool known = number == Latin1Page || PageConverter::knows(number);
     auto& page = pages[known ? number : Latin1Page];
     if (!page)
         page.reset(new CodePage(known ? number : Latin1Page));
+    return *page;
+}
+
+const CodePage& CodePage::forSymbols(SymbolFont font) {
+    thread_local std::map<SymbolFont, std::unique_ptr<CodePage>> pages;
+    auto& page = pages[font];
+    if (!page)
+        page.reset(new CodePage(font));
     return *page;
 }
 
@@ -111,7 +117,10 @@ qsizetype CodePage::decode(QByteArrayView bytes, QString& text) const {
     if (m_converter)
         return m_converter->converter.convert(bytes, text);
     for (const char byte : bytes)
-        text.append(QChar((*m_table)[uchar(byte)]));
+        if (m_symbols == SymbolFont::None)
+            text.append(QChar((*m_table)[uchar(byte)]));
+        else
+            text.append(QChar::fromUcs4(symbolCharacter(m_symbols, uchar(byte))));
     return bytes.size();
 }
 

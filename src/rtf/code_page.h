@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "rtf/symbol_font.h"
+
 #include <QByteArrayView>
 #include <QString>
 
@@ -27,10 +29,13 @@ public:
     static const CodePage& forNumber(int number);
     /// The page of an \fcharset number, null where the document's own page holds.
     static const CodePage* forCharset(int charset);
+    /// The codes of a font of signs.
+    static const CodePage& forSymbols(SymbolFont font);
 
     ~CodePage();
-    int number() const { return m_number; }
-    /// Null for a page whose characters may take several bytes.
+    /// The font of signs that the codes are those of.
+    SymbolFont symbols() const { return m_symbols; }
+    /// Null for a page whose characters may take several bytes, or several units of text.
     const Table* table() const { return m_table.get(); }
     /// Decodes what is complete. Bytes that mean nothing become U+FFFD.
     /// \returns how many bytes were taken: all, but for the beginning of a character at the end.
@@ -39,9 +44,10 @@ public:
 private:
     struct Converter;
     explicit CodePage(int number);
-    void fillTable();
+    explicit CodePage(SymbolFont font);
+    void fillTable(int number);
 
-    int m_number;
+    SymbolFont m_symbols = SymbolFont::None;
     std::unique_ptr<Table> m_table;
     std::unique_ptr<Converter> m_converter;
 };

@@ -67,7 +67,9 @@ enum class Action : quint8 {
     PictureGroup,
     ShapePicture,
     NoShapePicture,
+    Field,
     FieldInstruction,
+    IndexEntry,  ///< text for an index or a table of contents, and for the document unless hidden
     PassThrough, ///< an ignorable group whose content is shown
     UnicodePair,
     UnicodeHalf,

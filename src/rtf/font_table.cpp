@@ -59,7 +59,7 @@ void FontTable::addName(QByteArrayView bytes) {
 
 void FontTable::addName(char16_t character) {
     if (m_name.size() < LongestName) {
-        const bool own = m_entry.page && m_entry.page->number() != SymbolPage;
+        const bool own = m_entry.page && m_entry.page->symbols() == SymbolFont::None;
         (own ? *m_entry.page : CodePage::forNumber(Latin1Page)).decode(m_bytes, m_name);
         m_bytes.clear();
         m_name += QChar(character);
@@ -71,15 +71,16 @@ void FontTable::commit(Names& names, const CodePage& documentPage) {
         return;
     m_open = false;
     // A symbol font's name is plain text all the same.
-    const bool symbols = m_entry.page && m_entry.page->number() == SymbolPage;
+    const bool symbols = m_entry.page && m_entry.page->symbols() != SymbolFont::None;
     const CodePage& latin = CodePage::forNumber(Latin1Page);
     const CodePage& own = symbols ? latin : m_entry.page ? *m_entry.page : documentPage;
     own.decode(m_bytes, m_name);
     const QString plain = cleanName(m_plainName);
     const QString name = plain.isEmpty() ? withoutScript(cleanName(m_name)) : plain;
-    // Of the fonts with pictures for letters only this one shows what Unicode has names for.
-    if (symbols && !isSymbolFont(name))
-        m_entry.page = &latin;
+    if (symbols) {
+        const SymbolFont font = symbolFontOf(name);
+        m_entry.page = font == SymbolFont::None ? &latin : &CodePage::forSymbols(font);
+    }
     if (!name.isEmpty())
         m_entry.family = names.family(name);
     if (m_fonts.size() >= MostNumberedFonts && !m_fonts.contains(m_number))

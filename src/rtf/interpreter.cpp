@@ -94,16 +94,21 @@ bool Interpreter::closeGroup() {
     }
     if (m_groups.size() <= 1) {
         // What Windows' control writes ends with a line end and a zero, and other junk may follow.
-        // But where there is more RTF this brace was one too many, and the file goes on.
-        if (m_tokenizer.hasStructureAhead()) {
+        // But where a further brace closes the file this one was one too many. To look ahead goes
+        // no further than that brace, so no byte is looked at twice.
+        if (m_tokenizer.closesFurther()) {
             fault(Fault::UnmatchedBrace);
             return true;
         }
+        if (m_tokenizer.hasStructureAhead())
+            fault(Fault::GoesOn);
         m_groups.clear();
         return false;
     }
     const Destination closed = m_state.destination;
     const bool owned = m_state.ownsDestination;
+    if (closed == Destination::Body && m_groups.size() == m_fieldDepth)
+        showFieldText();
     m_state = std::move(m_groups.back());
     m_groups.pop_back();
     if (owned)

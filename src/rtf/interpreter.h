@@ -59,6 +59,7 @@ private:
         Destination destination = Destination::Body;
         bool ownsDestination = false;
         bool deleted = false;
+        bool indexEntry = false;
         bool fallback = false; ///< pictures are other forms of the one that came last
         bool hasContent =
             false; ///< text or groups, so that it cannot become a destination any more
@@ -88,8 +89,10 @@ private:
     void cellTabs(int count);
     void rowEnd();
     const ParagraphFormat& shapedParagraph();
-    bool shows() const { return m_state.destination == Destination::Body && !m_state.deleted; }
+    bool shows() const;
     bool captures() const;
+    const CodePage& pageOfText() const;
+    void showFieldText();
 
     // Properties (interpreter_properties.cpp)
     bool characterWord(const Token& token);
@@ -144,6 +147,9 @@ private:
     ParagraphFormat m_shaped;
 
     QString m_capture;
+    CharFormat m_captureFormat;
+    QString m_fieldText;     ///< to show where the field brings no result
+    size_t m_fieldDepth = 0; ///< of the groups, where that field stands
     QString m_shapeProperty;
     ListLabel m_numbering;
     Picture m_picture;

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
+#include "rtf/equation_text.h"
 #include "rtf/hyperlink.h"
 #include "rtf/interpreter.h"
 
@@ -18,6 +19,9 @@ constexpr QRgb OpaqueBlack = 0xff000000;
 bool Interpreter::destinationWord(const Token& token) {
     // Only the head of a group says what the group is for, and never that of the outermost one.
     if (m_groups.size() < 2 || m_state.hasContent)
+        return false;
+    // Nothing between the data of a picture makes something else of them.
+    if (m_state.ownsDestination && m_state.destination == Destination::Picture)
         return false;
     const Action action = token.word->action;
     if (m_unstoredGroups > 0) {
@@ -73,6 +77,13 @@ bool Interpreter::destinationWord(const Token& token) {
             else
                 skipGroup();
         }
+        return true;
+    case Action::Field:
+        m_fieldText.clear();
+        m_fieldDepth = inBody ? m_groups.size() : 0;
+        return true;
+    case Action::IndexEntry:
+        m_state.indexEntry = true;
         return true;
     case Action::FieldInstruction:
         openInBody(Destination::FieldInstruction);
@@ -142,6 +153,18 @@ bool Interpreter::destinationWord(const Token& token) {
     }
 }
 
+/// A field without a result shows what its instruction holds to show.
+void Interpreter::showFieldText() {
+    m_fieldDepth = 0;
+    const QString text = std::exchange(m_fieldText, {});
+    if (text.isEmpty())
+        return;
+    const CharFormat around = std::exchange(m_state.chars, m_captureFormat);
+    if (shows())
+        append(text);
+    m_state.chars = around;
+}
+
 void Interpreter::openDestination(Destination destination) {
     m_state.destination = destination;
     m_state.ownsDestination = true;
@@ -174,6 +197,7 @@ void Interpreter::closeDestination(Destination destination) {
         const QString target = hyperlinkTarget(captured);
         if (!target.isEmpty())
             m_state.chars.link = m_names.link(target);
+        m_fieldText = equationText(captured);
         return;
     }
     case Destination::ShapePropertyName:

@@ -72,6 +72,7 @@ void Interpreter::deliverPicture() {
         return;
     }
     m_shapePictureShown = true;
+    m_fieldText.clear();
     cellTabs(m_cellTabs);
     flushText();
     if (m_sink.picture(m_picture, m_state.chars))

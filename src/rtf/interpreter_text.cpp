@@ -31,6 +31,11 @@ char16_t harmless(char16_t character) {
 
 } // namespace
 
+bool Interpreter::shows() const {
+    return m_state.destination == Destination::Body && !m_state.deleted &&
+           !(m_state.indexEntry && m_state.chars.hidden);
+}
+
 bool Interpreter::captures() const {
     switch (m_state.destination) {
     case Destination::PlainFontName:
@@ -65,7 +70,7 @@ void Interpreter::bytes(QByteArrayView run) {
     }
     switch (m_state.destination) {
     case Destination::Body:
-        if (!m_state.deleted)
+        if (shows())
             decode(run);
         return;
     case Destination::FontTable:
@@ -84,8 +89,22 @@ void Interpreter::bytes(QByteArrayView run) {
     }
 }
 
+/// An instruction or a label is no text of the font of signs that holds around it.
+const CodePage& Interpreter::pageOfText() const {
+    const bool toBody = m_state.destination == Destination::Body;
+    return toBody || m_state.page->symbols() == SymbolFont::None ? *m_state.page : *m_documentPage;
+}
+
 void Interpreter::decode(QByteArrayView run) {
-    const CodePage::Table* table = m_state.page->table();
+    const bool toBody = m_state.destination == Destination::Body;
+    const CodePage& page = pageOfText();
+    if (page.symbols() != SymbolFont::None) {
+        QString signs;
+        page.decode(run, signs);
+        append(signs);
+        return;
+    }
+    const CodePage::Table* table = page.table();
     if (!table) {
         // The second byte of a character may look like ASCII, so only a run that begins a character
         // can be taken as it is.
@@ -94,7 +113,7 @@ void Interpreter::decode(QByteArrayView run) {
             m_pending.append(run);
             if (m_pending.size() > LongestRun) {
                 QString text;
-                const qsizetype taken = m_state.page->decode(m_pending, text);
+                const qsizetype taken = pageOfText().decode(m_pending, text);
                 m_pending.remove(0, taken);
                 append(text);
             }
@@ -102,12 +121,10 @@ void Interpreter::decode(QByteArrayView run) {
         }
         table = CodePage::forNumber(Latin1Page).table();
     }
-    const bool toBody = m_state.destination == Destination::Body;
-    // An instruction or a label is no text of the font that holds around it.
-    if (!toBody && m_state.page->number() == SymbolPage && m_documentPage->table())
-        table = m_documentPage->table();
     if (toBody)
         prepareText();
+    else
+        m_captureFormat = m_state.chars;
     QString& target = toBody ? m_text : m_capture;
     if (!toBody)
         run = run.first(
@@ -126,7 +143,7 @@ void Interpreter::flushPending() {
     if (m_pending.isEmpty())
         return;
     QString text;
-    const qsizetype taken = m_state.page->decode(m_pending, text);
+    const qsizetype taken = pageOfText().decode(m_pending, text);
     if (taken < m_pending.size())
         text.append(QChar::ReplacementCharacter);
     m_pending.clear();
@@ -135,6 +152,7 @@ void Interpreter::flushPending() {
 
 void Interpreter::append(QStringView text) {
     if (m_state.destination != Destination::Body) {
+        m_captureFormat = m_state.chars;
         m_capture.append(text.first(
             std::min(text.size(), LongestCapture - std::min(m_capture.size(), LongestCapture))));
         return;
@@ -169,6 +187,10 @@ void Interpreter::unicode(int code) {
     }
     if (!shows() && !captures())
         return;
+    // Word processors tell the signs of such fonts by their bytes, in the area for private use.
+    const SymbolFont symbols = pageOfText().symbols();
+    if (const uchar byte = privateByte(char32_t(code)); byte && symbols != SymbolFont::None)
+        code = int(symbolCharacter(symbols, byte));
     if (QChar::isHighSurrogate(char32_t(code))) {
         if (m_state.destination == Destination::Body)
             prepareText();
@@ -185,6 +207,7 @@ void Interpreter::unicode(int code) {
 }
 
 void Interpreter::prepareText() {
+    m_fieldText.clear();
     if (m_cellTabs > 0)
         cellTabs(std::exchange(m_cellTabs, 0));
     if (!m_text.isEmpty() && (m_textFormat != m_state.chars || m_text.size() > LongestRun))

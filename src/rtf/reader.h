@@ -18,6 +18,7 @@ enum class Fault {
     NotRtf,         ///< it does not begin as RTF; nothing was read
     UnexpectedEnd,  ///< it ends inside a group
     UnmatchedBrace, ///< a brace closes more than was opened
+    GoesOn,         ///< further RTF stands behind the brace that closes the file; it was not read
     TooDeep,        ///< groups nest deeper than is remembered; deeper ones share one state
     BadBinary,      ///< binary data claim to be longer than the file
     BadPicture,     ///< a picture's data are not what they claim

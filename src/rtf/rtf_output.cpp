@@ -3,7 +3,6 @@
 #include "rtf/rtf_output.h"
 
 #include "rtf/code_page.h"
-#include "rtf/symbol_font.h"
 
 #include <array>
 #include <charconv>
@@ -119,20 +118,25 @@ void RtfOutput::code(uchar byte) {
     m_needsDelimiter = false;
 }
 
-void RtfOutput::symbols(QStringView characters) {
+void RtfOutput::symbols(SymbolFont font, QStringView characters) {
     // What the font does not have by a byte keeps its own code, which no table touches.
-    for (const QChar character : characters) {
-        const char16_t c = character.unicode();
-        const uchar byte = symbolByte(c);
+    for (qsizetype at = 0; at < characters.size(); ++at) {
+        const QStringView pair = characters.mid(at, 2);
+        const bool isPair =
+            pair.size() == 2 && pair[0].isHighSurrogate() && pair[1].isLowSurrogate();
+        const char32_t c =
+            isPair ? QChar::surrogateToUcs4(pair[0], pair[1]) : characters[at].unicode();
+        const uchar byte = symbolByte(font, c);
         if (byte == ' ' || c == u'\t' || c == QChar::LineSeparator ||
             c == QChar::ObjectReplacementCharacter) {
-            text(QStringView(&character, 1));
+            text(characters.mid(at, 1));
             continue;
         }
         if (byte != 0)
             appendCode(m_bytes, byte);
         else
-            appendUnicode(m_bytes, c);
+            appendUnicode(m_bytes, characters[at].unicode());
+        at += byte != 0 && isPair;
         m_needsDelimiter = false;
     }
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "rtf/symbol_font.h"
+
 #include <QByteArray>
 #include <QStringView>
 
@@ -26,8 +28,8 @@ public:
     }
     /// Text in code page 1252, with \u for the rest.
     void text(QStringView text);
-    /// Text of the Symbol font, in that font's own bytes.
-    void symbols(QStringView text);
+    /// Text of a font of signs, in that font's own bytes.
+    void symbols(SymbolFont font, QStringView text);
     /// A byte by its code.
     void code(uchar byte);
 

@@ -2,8 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/symbol_font.h"
 
+#include "rtf/dingbats.h"
+
 #include <algorithm>
 #include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -36,10 +39,10 @@ constexpr int UpperStart = 0xa0;
 static_assert(std::size(Lower) - 1 == 0x7f - LowerStart);
 static_assert(std::size(Upper) - 1 == 0xff - UpperStart);
 
-constexpr std::array<char16_t, 256> Characters = [] {
-    std::array<char16_t, 256> table{};
+constexpr std::array<char32_t, 256> SymbolCharacters = [] {
+    std::array<char32_t, 256> table{};
     for (size_t code = 0; code < table.size(); ++code)
-        table[code] = char16_t(code < LowerStart ? code : PrivateArea + code);
+        table[code] = code < LowerStart ? char32_t(code) : char32_t(PrivateArea + code);
     for (size_t i = 0; i + 1 < std::size(Lower); ++i)
         table[LowerStart + i] = Lower[i];
     for (size_t i = 0; i + 1 < std::size(Upper); ++i)
@@ -47,28 +50,63 @@ constexpr std::array<char16_t, 256> Characters = [] {
     return table;
 }();
 
+/// The signs of a font by its codes; null for the Symbol font, which has a table of its own.
+const dingbats::Signs* signsOf(SymbolFont font) {
+    switch (font) {
+    case SymbolFont::Wingdings:
+        return &dingbats::Wingdings;
+    case SymbolFont::Wingdings2:
+        return &dingbats::Wingdings2;
+    case SymbolFont::Wingdings3:
+        return &dingbats::Wingdings3;
+    case SymbolFont::Webdings:
+        return &dingbats::Webdings;
+    case SymbolFont::None:
+    case SymbolFont::Symbol:
+        break;
+    }
+    return nullptr;
+}
+
+constexpr std::pair<QLatin1StringView, SymbolFont> Families[] = {
+    {"Symbol"_L1, SymbolFont::Symbol},          {"Wingdings"_L1, SymbolFont::Wingdings},
+    {"Wingdings 2"_L1, SymbolFont::Wingdings2}, {"Wingdings 3"_L1, SymbolFont::Wingdings3},
+    {"Webdings"_L1, SymbolFont::Webdings},
+};
+
 } // namespace
 
 bool isSymbolFamily(const QString& family) {
-    static constexpr QLatin1StringView Families[] = {"Symbol"_L1,      "Wingdings"_L1,
-                                                     "Wingdings 2"_L1, "Wingdings 3"_L1,
-                                                     "Webdings"_L1,    "Marlett"_L1};
-    return std::any_of(std::begin(Families), std::end(Families), [&](QLatin1StringView known) {
-        return family.compare(known, Qt::CaseInsensitive) == 0;
-    });
+    return symbolFontOf(family) != SymbolFont::None ||
+           family.compare("Marlett"_L1, Qt::CaseInsensitive) == 0;
 }
 
-bool isSymbolFont(const QString& family) {
-    return family.compare("Symbol"_L1, Qt::CaseInsensitive) == 0;
+SymbolFont symbolFontOf(const QString& family) {
+    for (const auto& [name, font] : Families)
+        if (family.compare(name, Qt::CaseInsensitive) == 0)
+            return font;
+    return SymbolFont::None;
 }
 
-char16_t symbolCharacter(uchar byte) {
-    return Characters[byte];
+char32_t symbolCharacter(SymbolFont font, uchar byte) {
+    const dingbats::Signs* const signs = signsOf(font);
+    if (!signs || byte < dingbats::FirstCode)
+        return SymbolCharacters[byte];
+    const char32_t sign = (*signs)[byte - dingbats::FirstCode];
+    return sign != 0 ? sign : char32_t(PrivateArea + byte);
 }
 
-uchar symbolByte(char16_t character) {
-    const auto* found = std::find(Characters.begin() + LowerStart, Characters.end(), character);
-    return found == Characters.end() ? uchar(0) : uchar(found - Characters.begin());
+uchar symbolByte(SymbolFont font, char32_t character) {
+    const dingbats::Signs* const signs = signsOf(font);
+    if (!signs) {
+        const auto* const end = SymbolCharacters.end();
+        const auto* const found = std::find(SymbolCharacters.begin() + LowerStart, end, character);
+        return found == end ? uchar(0) : uchar(found - SymbolCharacters.begin());
+    }
+    if (const uchar byte = privateByte(character))
+        return (*signs)[byte - dingbats::FirstCode] == 0 ? byte : uchar(0);
+    const auto* const found = std::find(signs->begin(), signs->end(), character);
+    return found == signs->end() ? uchar(0) : uchar(found - signs->begin() + dingbats::FirstCode);
 }
 
 } // namespace orvalis::rtf

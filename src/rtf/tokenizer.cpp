@@ -161,6 +161,11 @@ bool Tokenizer::hasStructureAhead() const {
         m_at, m_end, [](uchar c) { return ByteClasses[c] == Structure; });
 }
 
+bool Tokenizer::closesFurther() const {
+    Tokenizer ahead = *this;
+    return ahead.skipGroup();
+}
+
 bool Tokenizer::skipGroup() {
     qsizetype depth = 1;
     while (m_at != m_end) {

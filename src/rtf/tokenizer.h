@@ -43,6 +43,8 @@ public:
     /// Passes over everything up to and with the brace that closes the group one stands in.
     /// \returns whether there was such a brace.
     bool skipGroup();
+    /// Whether a brace is ahead that closes more than is opened from here on.
+    bool closesFurther() const;
     /// Whether any brace or backslash is left.
     bool hasStructureAhead() const;
     qsizetype position() const { return m_at - m_begin; }

@@ -4,7 +4,6 @@
 
 #include "rtf/font_table.h"
 #include "rtf/rtf_output.h"
-#include "rtf/symbol_font.h"
 
 using namespace Qt::StringLiterals;
 
@@ -62,8 +61,8 @@ int WriterTables::font(int family) {
     return number;
 }
 
-bool WriterTables::isSymbolFont(int family) const {
-    return rtf::isSymbolFont(m_names.familyAt(family));
+SymbolFont WriterTables::symbolFontOf(int family) const {
+    return rtf::symbolFontOf(m_names.familyAt(family));
 }
 
 int WriterTables::color(QRgb color) {

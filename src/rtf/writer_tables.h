@@ -3,6 +3,7 @@
 #pragma once
 
 #include "rtf/formats.h"
+#include "rtf/symbol_font.h"
 
 #include <utility>
 
@@ -24,7 +25,7 @@ public:
     int font(int family);
     /// The number of the font that bullets are drawn in.
     int symbolFont() { return font(m_symbolFamily); }
-    bool isSymbolFont(int family) const;
+    SymbolFont symbolFontOf(int family) const;
     /// The number of a colour; 0 is the automatic one.
     int color(QRgb color);
     /// The number of the list of an item; of several lists of bullets with one indent there is one.

@@ -45,7 +45,7 @@ private slots:
     void loneLineEndsShowAsMarksOnOneLine();
     void aMarkThatSomebodyTypedStaysWhatItIs();
     void typingBehindAMarkTypesOrdinaryCharacters();
-    void noBreakBlanksStayAndAreMarkedBelow();
+    void noBreakBlanksLookLikeBlanksUnlessTheyAreToBeMarked();
     void charactersThatDocumentsReserveBecomeReplacements();
 
     void settingTheTextPutsTheCaretAtTheStart();
@@ -181,17 +181,20 @@ void RichTextBoxTextTest::typingBehindAMarkTypesOrdinaryCharacters() {
     QCOMPARE(box.Text(), u"\u0001ab"_s);
 }
 
-void RichTextBoxTextTest::noBreakBlanksStayAndAreMarkedBelow() {
-    const auto picture = [](const QString& text) {
+void RichTextBoxTextTest::noBreakBlanksLookLikeBlanksUnlessTheyAreToBeMarked() {
+    const auto picture = [](const QString& text, bool marked) {
         RichTextBox box;
         box.setFixedSize(200, 60);
+        box.setMarksNoBreakBlanks(marked);
         box.SetText(text);
         return box.grab().toImage();
     };
     RichTextBox box;
     box.SetText(u"10\u00A0km"_s);
     QCOMPARE(box.Text(), u"10\u00A0km"_s);
-    QVERIFY(picture(u"10\u00A0km"_s) != picture(u"10 km"_s));
+    QVERIFY(!box.marksNoBreakBlanks());
+    QCOMPARE(picture(u"10\u00A0km"_s, false), picture(u"10 km"_s, false));
+    QVERIFY(picture(u"10\u00A0km"_s, true) != picture(u"10 km"_s, true));
 }
 
 void RichTextBoxTextTest::charactersThatDocumentsReserveBecomeReplacements() {

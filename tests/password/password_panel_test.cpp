@@ -48,6 +48,7 @@ private slots:
     void cryptWithoutATextStaysEmpty();
     void textTypedOnTheRightIsScrambledWithoutBack();
     void scramblingTwiceGivesATextTwiceAsLongAgain();
+    void blanksThatAreCodesAreMarked();
     void bringingBackGoesOnWithThePlainText();
     void aRunThatFailsEmptiesTheRightTextAndLeavesTheBar();
     void theNextNormalRunHidesTheBar();
@@ -245,6 +246,11 @@ void PasswordPanelTest::textTypedOnTheRightIsScrambledWithoutBack() {
     QCOMPARE(m_ground->right().Text().size(), 10);
     m_ground->decrypt();
     QCOMPARE(m_ground->right().Text(), u"typed"_s);
+}
+
+void PasswordPanelTest::blanksThatAreCodesAreMarked() {
+    QVERIFY(m_ground->left().marksNoBreakBlanks());
+    QVERIFY(m_ground->right().marksNoBreakBlanks());
 }
 
 void PasswordPanelTest::scramblingTwiceGivesATextTwiceAsLongAgain() {

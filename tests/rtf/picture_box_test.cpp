@@ -44,6 +44,8 @@ private slots:
     void aDrawingThatCannotBeDrawnEitherIsKept();
     void aWholeBitmapFileBehindTheWordForABareOneIsShown();
     void whatIsNoPictureIsNotInserted();
+    void wordsBetweenTheDataLeaveThePictureWhole_data();
+    void wordsBetweenTheDataLeaveThePictureWhole();
     void picturesThatClaimTooMuchTogetherAreBoxes();
 };
 
@@ -312,6 +314,31 @@ void PictureBoxTest::aWholeBitmapFileBehindTheWordForABareOneIsShown() {
     QVERIFY(readRtf(rtfOf("\\dibitmap0", encoded(sampleImage(), "BMP")), document).ok());
     QCOMPARE(shown(document).convertToFormat(QImage::Format_RGB32), sampleImage());
     QCOMPARE(pictureOf(document).width(), 4.0);
+}
+
+void PictureBoxTest::wordsBetweenTheDataLeaveThePictureWhole_data() {
+    QTest::addColumn<QByteArray>("words");
+    for (const char* words :
+         {"\\bliptag-1234567",
+          "\\bliptag12\\blipupi96{\\*\\blipuid 00112233445566778899aabbccddeeff}",
+          "{\\*\\blipuid{00}{\\b 11}}", "{\\blipuid 0011}\\bliptag1",
+          "{\\*\\picprop\\shplid1{\\sp{\\sn a}{\\sv 00}}}\\picscaled\\piccropl10\\piccropt0",
+          "\\picbmp\\picbpp24\\defshp\\brdrs\\brdrw10\\shading100",
+          "\\info\\header\\xe\\field\\pict"})
+        QTest::newRow(words) << QByteArray(words);
+}
+
+void PictureBoxTest::wordsBetweenTheDataLeaveThePictureWhole() {
+    QFETCH(QByteArray, words);
+    const QByteArray png = encoded(sampleImage(), "PNG");
+    const QByteArray size = "\\pngblip\\picwgoal60\\pichgoal45";
+    for (const QByteArray& order : {size + words, words + size}) {
+        QTextDocument document;
+        QVERIFY(readRtf(rtfOf(order, png), document).ok());
+        QCOMPARE(document.toRawText(), QStringLiteral("a\ufffcb"));
+        QCOMPARE(shown(document).convertToFormat(QImage::Format_RGB32), sampleImage());
+        QVERIFY(withoutLineEnds(writeRtf(document)).contains(png.toHex()));
+    }
 }
 
 void PictureBoxTest::whatIsNoPictureIsNotInserted() {

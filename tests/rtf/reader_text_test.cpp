@@ -33,6 +33,9 @@ private slots:
     void whatTheProgramDoesNotShowIsSkipped();
     void codePagesFollowTheFont_data();
     void codePagesFollowTheFont();
+    void fontsOfSignsShowWhatUnicodeHas_data();
+    void fontsOfSignsShowWhatUnicodeHas();
+    void theFormatOfAnEquationIsThatOfItsInstruction();
     void theDocumentsPageHoldsWhereTheFontNamesNone_data();
     void theDocumentsPageHoldsWhereTheFontNamesNone();
     void tablesComeAsLinesWithTabs_data();
@@ -42,6 +45,8 @@ private slots:
     void aDeepGroupRestoresTheStateOfEachLevel();
     void theUtf8FlavourTakesItsBytesAsUtf8();
     void junkBehindTheEndIsNoText();
+    void whatStandsBehindTheLastBraceIsNotRead_data();
+    void whatStandsBehindTheLastBraceIsNotRead();
     void zerosBehindACutAreNoText();
 };
 
@@ -104,6 +109,29 @@ void ReaderTextTest::everyFormOfTextIsRead_data() {
         "{\\shp{\\*\\shpinst{\\sp{\\sn pib}{\\sv {\\pict\\pngblip 00}}}{\\shptxt two}}}}"
         "{\\shprslt fallback}}",
         QStringLiteral("one\n\ufffctwo"));
+    row("entries of an index and of the contents that are not hidden",
+        " a{\\xe index{\\v hidden}}b{\\tc contents\\tcl2}c{\\tcn more}",
+        QStringLiteral("aindexbcontentscmore"));
+    row("base of a word with a reading aid",
+        "{\\field{\\*\\fldinst{ EQ \\\\* jc2 \\\\* \"Font:MS Mincho\" \\\\* hps10 "
+        "\\\\o\\\\ad(\\\\s\\\\up 9(\\u12363?\\u12435?),\\u28450?\\u23383?)}}{\\fldrslt }}b",
+        QStringLiteral("\u6f22\u5b57b"));
+    row("fraction", "{\\field{\\*\\fldinst{eq \\\\f(x + 1;\\\\r(3,y))}}}",
+        QStringLiteral("x + 1/3\u221ay"));
+    row("brackets, lists, arrays and scripts",
+        "{\\field{\\*\\fldinst EQ \\\\b\\\\bc\\\\[(\\\\l(a,b))\\\\a\\\\co2(1,2) "
+        "x\\\\s\\\\up4(2)}{\\fldrslt}}",
+        QStringLiteral("(a, b)1 2 x2"));
+    row("equation with signs that stand for themselves",
+        "{\\field{\\*\\fldinst EQ a\\\\,b\\\\(c\\\\) (d,e) \\\\x(f}}",
+        QStringLiteral("a,b(c) (d, e) f"));
+    row("equation with a result", "{\\field{\\*\\fldinst EQ \\\\f(1,2)}{\\fldrslt half}}c",
+        QStringLiteral("halfc"));
+    row("equation with a picture for a result",
+        "{\\field{\\*\\fldinst EQ \\\\f(1,2)}{\\fldrslt{\\pict\\pngblip 00}}}c",
+        QStringLiteral("\ufffcc"));
+    row("other field without a result", " a{\\field{\\*\\fldinst EQUALS (b)}{\\fldrslt }}c",
+        QStringLiteral("ac"));
     row("a second brace too many", " a}b\\par c", QStringLiteral("ab\nc"));
     row("hidden text is part of the text", " a{\\v b}c", QStringLiteral("abc"));
 }
@@ -127,8 +155,11 @@ void ReaderTextTest::whatTheProgramDoesNotShowIsSkipped_data() {
                               "{\\*\\annotation a}",
                               "{\\*\\atnid a}",
                               "{\\*\\bkmkstart b}",
-                              "{\\xe index}",
-                              "{\\tc contents}",
+                              "{\\xe{\\v index}}",
+                              "{\\tc {\\v contents\\par more}}",
+                              "{\\v{\\xe index}{\\tcn contents\\tcl1}}",
+                              "{\\xe{\\*\\txe see there}{\\*\\rxe mark}}",
+                              "{\\formfield{\\fftype0{\\ffname Text1}{\\ffdeftext t}}}",
                               "{\\*\\generator G;}",
                               "{\\*\\unknown {deep {er}}}",
                               "{\\*\\unknown \\bin3 }}}}",
@@ -192,6 +223,8 @@ void ReaderTextTest::codePagesFollowTheFont_data() {
         << 134 << QByteArray("\\'cb\\par ") << QStringLiteral("\ufffd\n");
     QTest::newRow("symbol") << 2 << QByteArray("abc\\'b7")
                             << QStringLiteral("\u03b1\u03b2\u03c7\u2022");
+    QTest::newRow("symbol of a word processor")
+        << 2 << QByteArray("\\u-3913\\'b7\\u-4000?") << QStringLiteral("\u2022\uf8e5");
     QTest::newRow("no such charset") << 99 << QByteArray("\\'e9") << QStringLiteral("\u00e9");
 }
 
@@ -203,6 +236,49 @@ void ReaderTextTest::codePagesFollowTheFont() {
                              QByteArray::number(charset) + " Symbol;}}";
     QCOMPARE(textOf(fonts + "\\f1 " + bytes), text);
     QCOMPARE(textOf(fonts + "{\\f1 " + bytes + "}\\'e9"), text + QChar(0xe9));
+}
+
+void ReaderTextTest::fontsOfSignsShowWhatUnicodeHas_data() {
+    QTest::addColumn<QByteArray>("font");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("Wingdings") << QByteArray("Wingdings") << QByteArray("J\\'fc\\'a7 ")
+                               << QStringLiteral("\u263a\u2713\u25aa ");
+    QTest::newRow("sign beyond the first plane") << QByteArray("wingdings") << QByteArray("\\'21$")
+                                                 << QStringLiteral("\U0001f589\U0001f453");
+    QTest::newRow("sign that Unicode has not")
+        << QByteArray("Wingdings") << QByteArray("\\'ff") << QStringLiteral("\uf0ff");
+    QTest::newRow("Wingdings 2") << QByteArray("Wingdings 2") << QByteArray("\\'98P")
+                                 << QStringLiteral("\u25cf\U0001f5f8");
+    QTest::newRow("Wingdings 3") << QByteArray("Wingdings 3") << QByteArray("\\'7d!")
+                                 << QStringLiteral("\U0001f782\u2b60");
+    QTest::newRow("Webdings") << QByteArray("Webdings") << QByteArray("Ya")
+                              << QStringLiteral("\U0001f394\u2714");
+    QTest::newRow("code of the area for private use")
+        << QByteArray("Webdings") << QByteArray("\\u-3999?\\u-3999\\'59")
+        << QStringLiteral("\u2714\u2714");
+    QTest::newRow("other character by its code")
+        << QByteArray("Wingdings") << QByteArray("\\u74?\\bullet") << QStringLiteral("J\u2022");
+    QTest::newRow("font that Unicode does not know")
+        << QByteArray("Marlett") << QByteArray("a\\'e9") << QStringLiteral("a\u00e9");
+}
+
+void ReaderTextTest::fontsOfSignsShowWhatUnicodeHas() {
+    QFETCH(QByteArray, font);
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, text);
+    const QByteArray fonts =
+        "{\\fonttbl{\\f0\\fnil\\fcharset0 Arial;}{\\f1\\fnil\\fcharset2 " + font + ";}}";
+    QCOMPARE(textOf(fonts + "\\f1 " + bytes), text);
+    QCOMPARE(textOf(fonts + "{\\f1 " + bytes + "}J\\'e9"), text + QStringLiteral("J\u00e9"));
+}
+
+void ReaderTextTest::theFormatOfAnEquationIsThatOfItsInstruction() {
+    const RecordingSink sink =
+        reading(" a{\\field{\\*\\fldinst{\\i EQ \\\\f(1,{\\b 2})}}{\\fldrslt}}c");
+    QCOMPARE(sink.whole, QStringLiteral("a1/2c"));
+    QVERIFY(sink.runs[1].format.italic);
+    QVERIFY(!sink.runs[2].format.italic);
 }
 
 void ReaderTextTest::theDocumentsPageHoldsWhereTheFontNamesNone_data() {
@@ -328,6 +404,34 @@ void ReaderTextTest::junkBehindTheEndIsNoText() {
     RecordingSink sink;
     QVERIFY(readRtf("{\\rtf1 a}\r\njunk", sink).ok());
     QCOMPARE(sink.whole, QStringLiteral("a"));
+}
+
+void ReaderTextTest::whatStandsBehindTheLastBraceIsNotRead_data() {
+    QTest::addColumn<QByteArray>("tail");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("fault");
+    QTest::newRow("another file") << QByteArray("{\\rtf1 b}") << QStringLiteral("a")
+                                  << int(Fault::GoesOn);
+    QTest::newRow("a group") << QByteArray("\r\n{\\b b\\par}") << QStringLiteral("a")
+                             << int(Fault::GoesOn);
+    QTest::newRow("words") << QByteArray("\\par b") << QStringLiteral("a") << int(Fault::GoesOn);
+    QTest::newRow("a group without an end")
+        << QByteArray("{b") << QStringLiteral("a") << int(Fault::GoesOn);
+    QTest::newRow("text, and a brace that the first one was too many for")
+        << QByteArray(" b{\\i c}}") << QStringLiteral("a bc") << int(Fault::UnmatchedBrace);
+    QTest::newRow("one too many, and another file")
+        << QByteArray("b}{\\rtf1 c}") << QStringLiteral("ab") << int(Fault::UnmatchedBrace);
+    QTest::newRow("a brace in binary data")
+        << QByteArray("b{\\bin1 }") << QStringLiteral("a") << int(Fault::GoesOn);
+}
+
+void ReaderTextTest::whatStandsBehindTheLastBraceIsNotRead() {
+    QFETCH(QByteArray, tail);
+    QFETCH(QString, text);
+    RecordingSink sink;
+    const ReadResult result = readRtf("{\\rtf1 a}" + tail, sink);
+    QCOMPARE(sink.whole, text);
+    QTEST(int(result.fault), "fault");
 }
 
 void ReaderTextTest::zerosBehindACutAreNoText() {

@@ -191,6 +191,8 @@ private slots:
     void aPictureTooSmallToSeeStays();
     void everyPartOfADocumentCanBeWritten();
     void onlyAsciiIsWritten();
+    void signsKeepTheirFontAndTheirCodes_data();
+    void signsKeepTheirFontAndTheirCodes();
 };
 
 void RoundTripTest::randomDocumentsSurviveWritingAndReading() {
@@ -325,6 +327,27 @@ void RoundTripTest::onlyAsciiIsWritten() {
         QVERIFY(written.startsWith("{\\rtf1\\ansi\\ansicpg1252\\deff0"));
         QVERIFY(written.endsWith("\\par\r\n}\r\n"));
     }
+}
+
+void RoundTripTest::signsKeepTheirFontAndTheirCodes_data() {
+    QTest::addColumn<QByteArray>("font");
+    for (const char* font : {"Symbol", "Wingdings", "Wingdings 2", "Wingdings 3", "Webdings"})
+        QTest::newRow(font) << QByteArray(font);
+}
+
+void RoundTripTest::signsKeepTheirFontAndTheirCodes() {
+    QFETCH(QByteArray, font);
+    QByteArray codes;
+    for (int code = 0x21; code <= 0xff; ++code)
+        codes += "\\'" + QByteArray::number(code, 16);
+    QTextDocument document;
+    readRtf("{\\rtf1{\\fonttbl{\\f0\\fnil\\fcharset2 " + font + ";}}\\f0 " + codes + "\\par}",
+            document);
+    QCOMPARE(document.firstBlock().begin().fragment().charFormat().fontFamilies().toStringList(),
+             QStringList(QString::fromLatin1(font)));
+    const QByteArray written = writeRtf(document);
+    QVERIFY(written.contains("{\\f0\\fnil\\fcharset2 " + font + ";}"));
+    QVERIFY(written.contains("\\f0\\fs24" + codes + "\\par"));
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, RoundTripTest)

@@ -58,7 +58,8 @@ QString folded(QString text) {
         u"[\u00ad\u2006\u200b-\u200f\u202a-\u202e\ufeff\ufffc\u2022\u25e6\u25aa]"_s);
     for (QChar& character : text)
         if (character >= QChar(u'\uf020') && character <= QChar(u'\uf0ff'))
-            character = QChar(rtf::symbolCharacter(uchar(character.cell())));
+            character = QChar(
+                char16_t(rtf::symbolCharacter(rtf::SymbolFont::Symbol, uchar(character.cell()))));
     return text.remove(unseen).simplified();
 }
 

@@ -3,6 +3,7 @@
 #include "rtf/document_room.h"
 
 #include "rtf/long_words.h"
+#include "rtf/uneven_words.h"
 
 #include <QFont>
 #include <QTextBlock>
@@ -19,6 +20,8 @@ namespace orvalis::rtf {
 namespace {
 
 constexpr double Unknown = std::numeric_limits<double>::infinity();
+/// Of the height that lines may lend one another ahead of breaking anywhere.
+constexpr double MostLent = MostHeight / 4;
 
 size_t fontKey(const QTextCharFormat& format) {
     return qHashMulti(0, format.fontFamilies().toStringList(),
@@ -58,6 +61,10 @@ private:
     LetterHeight m_letters;
     bool m_any = false;
 };
+
+QStringView runText(const QTextFragment& run, const QTextBlock& paragraph, QStringView text) {
+    return text.sliced(run.position() - paragraph.position(), run.length());
+}
 
 double heightOfFragment(const QTextFragment& run, QStringView text, RunMeasure& measure,
                         const ParagraphShape& shape, const Changed& changed) {
@@ -100,12 +107,9 @@ double heightOfDocument(const QTextDocument& document, const Changed& changed) {
             mark.merge(changed.letters);
         height += heightOfParagraph(measure.of(mark), shape);
         const QString text = block.text();
-        for (auto it = block.begin(); !it.atEnd(); ++it) {
-            const QTextFragment run = it.fragment();
-            height += heightOfFragment(
-                run, QStringView(text).sliced(run.position() - block.position(), run.length()),
-                measure, shape, changed);
-        }
+        for (auto it = block.begin(); !it.atEnd(); ++it)
+            height += heightOfFragment(it.fragment(), runText(it.fragment(), block, text), measure,
+                                       shape, changed);
     }
     return height;
 }
@@ -145,7 +149,8 @@ void DocumentRoom::forget() {
 void DocumentRoom::takeChange(int from, int added) {
     m_told = true;
     m_sum += added * mostOfOne({});
-    if (m_longWords || holdsLongWord(from, from + added))
+    m_lent += heightLent(from, from + added);
+    if (m_breaksAnywhere || m_lent > MostLent || holdsLongWord(from, from + added))
         breakLines();
 }
 
@@ -163,12 +168,22 @@ bool DocumentRoom::holdsLongWord(int from, int to) const {
     return false;
 }
 
+double DocumentRoom::heightLent(int from, int to) const {
+    const QFont defaultFont = m_document.defaultFont();
+    double height = 0;
+    for (QTextBlock block = m_document.findBlock(from); block.isValid() && block.position() <= to;
+         block = block.next())
+        height += heightLentInWords(block, defaultFont);
+    return height;
+}
+
 QTextOption::WrapMode DocumentRoom::wrapMode() const {
-    return m_longWords ? QTextOption::WrapAnywhere : QTextOption::WrapAtWordBoundaryOrAnywhere;
+    return m_breaksAnywhere ? QTextOption::WrapAnywhere : QTextOption::WrapAtWordBoundaryOrAnywhere;
 }
 
 void DocumentRoom::breakLines() {
-    m_longWords = holdsLongWord(0, m_document.characterCount());
+    m_lent = heightLent(0, m_document.characterCount());
+    m_breaksAnywhere = m_lent > MostLent || holdsLongWord(0, m_document.characterCount());
     QTextOption option = m_document.defaultTextOption();
     if (option.wrapMode() == wrapMode() || option.wrapMode() == QTextOption::NoWrap)
         return;
@@ -184,6 +199,7 @@ void DocumentRoom::learnFormats() {
         m_formatsKnown = 0;
         m_fonts.clear();
         m_letters = {};
+        m_lineOfSize = 0;
         m_shape = {};
         m_pictures = 0;
     }
@@ -199,7 +215,10 @@ void DocumentRoom::learnFormats() {
             m_shape.margins = std::max(m_shape.margins, shape.margins);
         } else if (m_lastFormat.isCharFormat()) {
             const QTextCharFormat format = m_lastFormat.toCharFormat();
-            m_letters.line = std::max(m_letters.line, letterHeight(format, defaultFont).line);
+            const LetterHeight letters = letterHeight(format, defaultFont);
+            m_letters.line = std::max(m_letters.line, letters.line);
+            if (letters.size > 0)
+                m_lineOfSize = std::max(m_lineOfSize, letters.line / letters.size);
             m_fonts.insert(fontKey(format));
             if (format.isImageFormat())
                 m_pictures = std::max(m_pictures, format.toImageFormat().height());
@@ -210,7 +229,8 @@ void DocumentRoom::learnFormats() {
 /// The height of any one character that the document may hold, a run of its own, or a paragraph.
 double DocumentRoom::mostOfOne(LetterHeight letters) {
     learnFormats();
-    letters.line = std::max(letters.line, m_letters.line);
+    // What is raised keeps its share of a size that it is given.
+    letters.line = std::max({letters.line, m_letters.line, letters.size * m_lineOfSize});
     return 2 * heightOfPicture(m_pictures, letters, m_shape) + m_shape.margins;
 }
 
@@ -221,6 +241,16 @@ bool DocumentRoom::takesFont(const QTextCharFormat& format) {
         return false;
     m_fonts.insert(key);
     return true;
+}
+
+double paragraphHeight(const QTextBlock& paragraph, const ParagraphShape& shape) {
+    RunMeasure measure(paragraph.document()->defaultFont());
+    double height = heightOfParagraph(measure.of(paragraph.charFormat()), shape);
+    const QString text = paragraph.text();
+    for (auto it = paragraph.begin(); !it.atEnd(); ++it)
+        height += heightOfFragment(it.fragment(), runText(it.fragment(), paragraph, text), measure,
+                                   shape, {});
+    return height;
 }
 
 double documentHeight(const QTextDocument& document) {

@@ -9,6 +9,7 @@
 #include <QTextFormat>
 #include <QTextOption>
 
+class QTextBlock;
 class QTextCursor;
 class QTextDocument;
 
@@ -31,8 +32,8 @@ inline constexpr int MostFonts = 1 << 10;
 /// does not, and the document is counted anew when that leaves too little room. So the cost of an
 /// edit does not grow with the document, but where the document is nearly full.
 ///
-/// It also keeps lines with long words cheap: while the document holds one, its lines break
-/// anywhere.
+/// It also keeps lines with long words cheap, and those low in which letters of many sizes make one
+/// word: while the document holds such a word, or too many of these, its lines break anywhere.
 class DocumentRoom final : public QObject {
     Q_OBJECT
 
@@ -44,7 +45,7 @@ public:
     /// \param gathered what has been taken and does not stand in the document yet.
     double heightLeft(double wanted, double gathered = 0);
     /// The height that the document has at most, however narrow its lines become.
-    /// \param letters that may come in too.
+    /// \param letters that may come in too, or whose size others may take.
     double heightWithoutRoom(const LetterHeight& letters);
     /// Tells what comes in ahead of the document's own word, which waits for the end of an edit.
     void take(double height) { m_sum += height; }
@@ -54,7 +55,7 @@ public:
     /// Whether text may have this font: it has been there, or is not one too many.
     bool takesFont(const QTextCharFormat& format);
 
-    /// Where the document's lines break: between words, or anywhere where it holds a long one.
+    /// Where the document's lines break: between words, or anywhere where its words ask for it.
     QTextOption::WrapMode wrapMode() const;
 
 private:
@@ -66,20 +67,26 @@ private:
     double mostOfOne(LetterHeight letters);
     void breakLines();
     bool holdsLongWord(int from, int to) const;
+    double heightLent(int from, int to) const;
 
     QTextDocument& m_document;
     double m_sum;
     bool m_told = false; ///< of the change that ends now
-    bool m_longWords = false;
+    bool m_breaksAnywhere = false;
+    double m_lent = 0; ///< to lines by letters of other lines; never less than it is
 
     // What is known of the formats that the document ever had.
     qsizetype m_formatsKnown = 0;
     QTextFormat m_lastFormat;
     QSet<size_t> m_fonts;
     LetterHeight m_letters;
+    double m_lineOfSize = 0; ///< of the letters that are raised most
     ParagraphShape m_shape;
     double m_pictures = 0;
 };
+
+/// The height that a paragraph has at most in a shape.
+double paragraphHeight(const QTextBlock& paragraph, const ParagraphShape& shape);
 
 /// The height that a document has at most, told by layout_height.h.
 /// \param selection whose text counts as if it had these formats too; may be null.

@@ -165,9 +165,12 @@ void DocumentSink::countTabs(const ParagraphFormat& paragraph) {
 void DocumentSink::end(const ParagraphFormat& paragraph, const CharFormat& mark) {
     if (!m_runs.empty())
         insertParagraph(paragraph, mark);
-    // The paragraph that follows the insertion keeps the shape it had.
-    if (m_paragraphs > 1 && m_targetStands)
-        m_cursor.setBlockFormat(m_targetFormat);
+    if (m_paragraphs <= 1 || !m_targetStands)
+        return;
+    // The paragraph that follows the insertion keeps the shape it had, unless what was inserted
+    // ahead of it in its line is too high in it. Nothing is higher in none than as it was counted.
+    const bool keeps = m_intake.takesShape(m_cursor.block(), paragraphShape(m_targetFormat));
+    m_cursor.setBlockFormat(keeps ? m_targetFormat : QTextBlockFormat());
 }
 
 void DocumentSink::insertParagraph(const ParagraphFormat& paragraph, const CharFormat& mark) {
@@ -198,8 +201,12 @@ void DocumentSink::insertParagraph(const ParagraphFormat& paragraph, const CharF
         m_cursor.insertBlock(m_blockFormat, startFormat);
         joinList(paragraph);
     }
-    const bool ownShape = first && (m_textBefore || m_textBehind);
-    insertRuns(ownShape ? paragraphShape(m_cursor.blockFormat()) : m_shape);
+    if (first && m_textBefore)
+        insertRuns(paragraphShape(m_cursor.blockFormat()));
+    else if (first && m_textBehind) // which shape it will have shows later
+        insertRuns(higherShape(paragraphShape(m_cursor.blockFormat()), m_shape));
+    else
+        insertRuns(m_shape);
 }
 
 void DocumentSink::shapeFirst() {

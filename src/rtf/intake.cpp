@@ -61,6 +61,14 @@ bool Intake::takesParagraph(const LetterHeight& mark, const ParagraphShape& shap
     return true;
 }
 
+bool Intake::takesShape(const QTextBlock& paragraph, const ParagraphShape& shape) {
+    const double height = paragraphHeight(paragraph, shape);
+    if (heightLeft(height) < height)
+        return false;
+    take(height);
+    return true;
+}
+
 bool Intake::takesPicture(double height, const LetterHeight& letters, const ParagraphShape& shape) {
     if (mostInParagraph() == 0)
         m_full = true;

@@ -4,6 +4,7 @@
 
 #include "rtf/layout_height.h"
 
+class QTextBlock;
 class QTextCharFormat;
 class QTextCursor;
 
@@ -26,6 +27,8 @@ public:
 
     /// Whether a further paragraph may begin.
     bool takesParagraph(const LetterHeight& mark, const ParagraphShape& shape);
+    /// Whether a paragraph that stands may take another shape.
+    bool takesShape(const QTextBlock& paragraph, const ParagraphShape& shape);
     bool takesPicture(double height, const LetterHeight& letters, const ParagraphShape& shape);
     /// How many of a run's first characters may come.
     qsizetype taken(QStringView run, const LetterHeight& letters, const ParagraphShape& shape);

@@ -15,7 +15,6 @@ namespace {
 constexpr double PixelsPerPoint = 96.0 / 72;
 constexpr double LineOfSize = 1.5;
 constexpr double LinesOfFullOnes = 2; // where a word that does not fit leaves most of a line empty
-constexpr double NarrowestBox = 150;  // pixels
 constexpr double ListStep = 40;       // pixels by which a list may stand further in
 
 double pixelSize(const QTextCharFormat& format, const QFont& defaultFont) {
@@ -87,6 +86,11 @@ ParagraphShape paragraphShape(const QTextBlockFormat& format) {
         break;
     }
     return shape;
+}
+
+ParagraphShape higherShape(const ParagraphShape& one, const ParagraphShape& other) {
+    return {std::min(one.room, other.room), std::max(one.multiple, other.multiple),
+            std::max(one.least, other.least), std::max(one.margins, other.margins)};
 }
 
 double heightOfLine(const LetterHeight& letters, const ParagraphShape& shape) {

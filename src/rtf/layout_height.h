@@ -28,6 +28,8 @@ namespace orvalis::rtf {
 // The width is that of the narrowest box of the program, less the paragraph's own indents. The
 // factor of two that is left is for fonts with high lines and for texts of capitals.
 
+/// The width of the narrowest box, in pixels.
+inline constexpr double NarrowestBox = 150;
 /// The largest sum of heights of a document, in pixels.
 inline constexpr double MostHeight = 1 << 22;
 /// The largest font and the largest distance that a letter is raised, in points.
@@ -49,6 +51,9 @@ struct ParagraphShape {
 
 LetterHeight letterHeight(const QTextCharFormat& format, const QFont& defaultFont);
 ParagraphShape paragraphShape(const QTextBlockFormat& format);
+
+/// A shape in which no text is lower than in either of two.
+ParagraphShape higherShape(const ParagraphShape& one, const ParagraphShape& other);
 
 /// Of a line that holds these letters.
 double heightOfLine(const LetterHeight& letters, const ParagraphShape& shape);

@@ -19,10 +19,9 @@ bool isBlank(char16_t c) {
 
 } // namespace
 
-bool holdsLongWord(QStringView text) {
-    qsizetype start = 0;
+qsizetype wordEnd(QStringView text, qsizetype start) {
     char16_t ahead = 0; // of the blanks that came last
-    for (qsizetype at = 1; at < text.size(); ++at) {
+    for (qsizetype at = start + 1; at < text.size(); ++at) {
         const char16_t before = text[at - 1].unicode();
         const char16_t c = text[at].unicode();
         // A blank behind an opening bracket, or ahead of a sign, may hold both together.
@@ -30,12 +29,23 @@ bool holdsLongWord(QStringView text) {
             isBlank(before)
                 ? QChar::isLetterOrNumber(ahead) && QChar::isLetterOrNumber(c)
                 : before == QChar::LineSeparator || (isIdeograph(before) && isIdeograph(c));
+        if (breaks)
+            return at;
         if (!isBlank(before))
             ahead = before;
-        if (breaks)
-            start = at;
-        else if (at - start >= LongestWord && !isBlank(c))
+    }
+    return text.size();
+}
+
+bool holdsLongWord(QStringView text) {
+    for (qsizetype start = 0; start < text.size();) {
+        const qsizetype end = wordEnd(text, start);
+        qsizetype last = end - 1;
+        while (last > start && isBlank(text[last].unicode()))
+            --last;
+        if (last - start >= LongestWord)
             return true;
+        start = end;
     }
     return false;
 }

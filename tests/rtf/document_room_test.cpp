@@ -52,9 +52,13 @@ private slots:
     void fontsHaveALargestNumber();
     void aPictureCountsWithItsHeight();
     void noPairOfSurrogatesIsParted();
+    void raisedLettersTakeASizeThatTheDocumentCanShow();
     void aSizeShrinksToWhatTheDocumentCanShow();
     void anIndentCountsWithTheLinesThatItMakes();
     void linesBreakAnywhereWhileThereIsALongWord();
+    void linesBreakAnywhereWhereOneLetterMakesAllOfItsWordTooHigh();
+    void aParagraphKeepsItsShapeOnlyWhereWhatComesIntoItHasRoomInIt();
+    void anInsertionIsCountedInTheShapeThatItBringsAheadOfText();
     void longWordsAreTold_data();
     void longWordsAreTold();
 };
@@ -279,6 +283,19 @@ void DocumentRoomTest::noPairOfSurrogatesIsParted() {
     QCOMPARE(wholeCharacters(text, -1), qsizetype(0));
 }
 
+/// How far letters are raised is told in parts of their size, and grows with it.
+void DocumentRoomTest::raisedLettersTakeASizeThatTheDocumentCanShow() {
+    QTextDocument document;
+    readRtf("{\\rtf1\\fs2\\up2000 " + QByteArray(2000, 'M') + '}', document);
+    QTextCursor all(&document);
+    all.select(QTextCursor::Document);
+    QTextCharFormat format;
+    format.setFontPointSize(100);
+    all.mergeCharFormat(fittingFormat(all, format));
+    QVERIFY2(documentHeight(document) <= MostHeight,
+             qPrintable(QString::number(documentHeight(document))));
+}
+
 void DocumentRoomTest::aSizeShrinksToWhatTheDocumentCanShow() {
     QTextDocument document;
     readRtf(repeated("words ", 10'000), document);
@@ -333,6 +350,53 @@ void DocumentRoomTest::linesBreakAnywhereWhileThereIsALongWord() {
     QCOMPARE(mode(), QTextOption::WrapAnywhere);
     readRtf("{\\rtf1 short}", document);
     QCOMPARE(mode(), ordinary);
+}
+
+/// Qt makes each line of a word as high as the highest letter of all the word.
+void DocumentRoomTest::linesBreakAnywhereWhereOneLetterMakesAllOfItsWordTooHigh() {
+    QTextDocument document;
+    document.setTextWidth(220);
+    document.documentLayout();
+    QVERIFY(readRtf("{\\rtf1\\sl483648\\slmult1 " + QByteArray(80, 'm') + "\\fs3276 u}", document)
+                .ok());
+    QCOMPARE(document.defaultTextOption().wrapMode(), QTextOption::WrapAnywhere);
+    const double height = document.documentLayout()->documentSize().height();
+    QVERIFY2(height <= 1.25 * MostHeight, qPrintable(QString::number(height)));
+    QVERIFY(readRtf("{\\rtf1\\fs144 O\\fs20 nce upon a time}", document).ok());
+    QCOMPARE(document.defaultTextOption().wrapMode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
+}
+
+/// The end of an insertion shares a paragraph with what stood behind it.
+void DocumentRoomTest::aParagraphKeepsItsShapeOnlyWhereWhatComesIntoItHasRoomInIt() {
+    const QByteArray highLines = "{\\rtf1\\sl483648\\slmult1 words behind\\par}";
+    const auto insert = [&](QTextDocument& document, const QByteArray& letters) {
+        readRtf(highLines, document);
+        QTextCursor cursor(&document);
+        cursor.setPosition(6);
+        QVERIFY(insertRtf("{\\rtf1 a\\par " + letters + "}", cursor).ok());
+    };
+    QTextDocument document;
+    insert(document, "\\fs3276 " + QByteArray("large ").repeated(20));
+    QVERIFY(document.toPlainText().endsWith(QStringLiteral("large behind")));
+    QVERIFY2(documentHeight(document) <= MostHeight,
+             qPrintable(QString::number(documentHeight(document))));
+    QVERIFY(document.lastBlock().blockFormat().lineHeight() == 0);
+    QTextDocument other;
+    insert(other, "small ");
+    QVERIFY(other.lastBlock().blockFormat().lineHeight() > 1000);
+}
+
+void DocumentRoomTest::anInsertionIsCountedInTheShapeThatItBringsAheadOfText() {
+    QTextDocument document;
+    readRtf("{\\rtf1 words}", document);
+    QTextCursor cursor(&document);
+    QCOMPARE(insertRtf("{\\rtf1\\sl483648\\slmult1\\fs800 " + QByteArray("large ").repeated(20) +
+                           "\\par b}",
+                       cursor)
+                 .fault,
+             Fault::TooLarge);
+    QVERIFY2(documentHeight(document) <= MostHeight,
+             qPrintable(QString::number(documentHeight(document))));
 }
 
 void DocumentRoomTest::longWordsAreTold_data() {

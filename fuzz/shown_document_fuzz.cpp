@@ -24,10 +24,9 @@ using namespace orvalis;
 namespace {
 
 constexpr QSize Window(220, 160);
-constexpr qsizetype OrdinaryInput = 32 << 10;
-constexpr qsizetype LargestSeed = 8 << 20;
-/// The seeds are run ahead of everything else, and may be as large as what they stand for.
-constexpr int Seeds = 100;
+/// Seeds may be as large as what they stand for. What a fuzzer makes is small, for the sake of many
+/// executions: the sizes and distances that add up are in few bytes as large as in many.
+constexpr qsizetype LargestInput = ORVALIS_REPLAYS_SEEDS ? 8 << 20 : 1 << 10;
 
 void require(bool held) {
     if (!held)
@@ -56,7 +55,7 @@ public:
 
 private:
     void paint(double top) {
-        QImage image(Window, QImage::Format_RGB32);
+        static QImage image(Window, QImage::Format_RGB32);
         image.fill(Qt::white);
         QPainter painter(&image);
         painter.translate(0, -top);
@@ -90,13 +89,11 @@ void insert(QTextCursor& cursor, const QByteArray& bytes, int way) {
 
 /// The input with all behind its first bar repeated, as often as can be.
 QByteArray spelledOut(const QByteArray& input, int power) {
-    static int run = 0;
-    const qsizetype largest = ++run <= Seeds ? LargestSeed : OrdinaryInput;
     const qsizetype bar = input.indexOf('|');
     if (bar < 0)
         return input;
     const QByteArray piece = input.mid(bar + 1);
-    const qsizetype times = std::min(qsizetype(1) << power, largest / (piece.size() + 1) + 1);
+    const qsizetype times = std::min(qsizetype(1) << power, LargestInput / (piece.size() + 1) + 1);
     return input.first(bar) + piece.repeated(times);
 }
 

@@ -5,6 +5,7 @@
 #include "controls/list_numbers.h"
 #include "controls/rich_text_box.h"
 #include "controls/text_positions.h"
+#include "rtf/document_room.h"
 #include "rtf/format_properties.h"
 #include "runtime/failure.h"
 #include "runtime/twips.h"
@@ -22,6 +23,43 @@ namespace orvalis {
 namespace {
 
 constexpr qreal TwipsPerInch = 1440;
+constexpr qreal PixelsPerInch = 96;
+/// The height of a layout that was measured; beyond twice MostHeight layouts do not end.
+constexpr double MostDots = 1.5 * rtf::MostHeight;
+
+/// What a layout is measured by whose dots are no device's.
+class Ruler final : public QPaintDevice {
+public:
+    explicit Ruler(const QSize& dots)
+        : m_dots(dots) {}
+
+    QPaintEngine* paintEngine() const override { return nullptr; }
+
+protected:
+    int metric(PaintDeviceMetric which) const override {
+        switch (which) {
+        case PdmDpiX:
+        case PdmPhysicalDpiX:
+            return m_dots.width();
+        case PdmDpiY:
+        case PdmPhysicalDpiY:
+            return m_dots.height();
+        case PdmDevicePixelRatio:
+            return 1;
+        case PdmDevicePixelRatioScaled:
+            return int(devicePixelRatioFScale());
+        default:
+            return 0;
+        }
+    }
+
+private:
+    QSize m_dots;
+};
+
+QSize scaledDown(const QSize& dots, double factor) {
+    return {std::max(1, int(dots.width() * factor)), std::max(1, int(dots.height() * factor))};
+}
 
 /// The size of a picture in logical pixels as the layout will take it.
 QSizeF pictureSize(const QTextDocument& document, const QTextImageFormat& format) {
@@ -56,14 +94,14 @@ int RangeFormatter::FormatPage(const FormatRange& range) {
     auto first = std::upper_bound(m_lines.begin(), m_lines.end(), firstPosition, behind);
     if (first != m_lines.begin())
         --first;
-    const qreal height = range.rect.height() * device.logicalDpiY() / TwipsPerInch;
+    const qreal height = range.rect.height() * m_counted.height() / TwipsPerInch;
     auto line = first + 1;
     while (line != m_lines.end() && line->bottom - first->top <= height && !line->startsPage &&
            (line->position < stopPosition || stop == length))
         ++line;
     const bool toTheEnd = line == m_lines.end();
     if (range.painter)
-        draw(range, device, *first, *(line - 1), firstPosition, stopPosition);
+        draw(range, *first, *(line - 1), firstPosition, stopPosition);
     return toTheEnd ? stop : std::min(stop, positions.indexOf(line->position));
 }
 
@@ -87,9 +125,39 @@ void RangeFormatter::prepare(const FormatRange& range, QPaintDevice& device) {
         option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     m_copy->setDefaultTextOption(option);
     shrinkPictures(page / TwipsPerPixel);
-    m_copy->documentLayout()->setPaintDevice(&device);
-    m_copy->setTextWidth(page.width() * device.logicalDpiX() / TwipsPerInch);
+    layOut(device);
     collectLines();
+}
+
+/// Lays the copy out in dots of the device, or in the smallest larger ones that are few enough.
+void RangeFormatter::layOut(QPaintDevice& device) {
+    const double width = m_page.width() / TwipsPerPixel;
+    const double narrow = width > 0 ? std::max(1.0, rtf::NarrowestBox / width) : 1;
+    const double told = rtf::documentHeight(*m_copy) * narrow * m_dots.height() / PixelsPerInch;
+    m_counted = m_dots;
+    if (told <= rtf::MostHeight) {
+        m_copy->documentLayout()->setPaintDevice(&device);
+        m_copy->setTextWidth(m_page.width() * m_counted.width() / TwipsPerInch);
+        return;
+    }
+    // What is told is far more than most documents need, so a layout that is sure to be possible
+    // tells how fine a one is.
+    m_copy->setUseDesignMetrics(true);
+    const double height = layOut(scaledDown(m_dots, rtf::MostHeight / told));
+    const double share = double(m_counted.height()) / m_dots.height();
+    const double finest = std::min(1.0, share * MostDots / height);
+    if (finest > share)
+        layOut(scaledDown(m_dots, finest));
+}
+
+/// \returns the height, in these dots.
+double RangeFormatter::layOut(const QSize& dots) {
+    m_counted = dots;
+    auto ruler = std::make_unique<Ruler>(dots);
+    m_copy->documentLayout()->setPaintDevice(ruler.get());
+    m_ruler = std::move(ruler);
+    m_copy->setTextWidth(m_page.width() * dots.width() / TwipsPerInch);
+    return m_copy->documentLayout()->documentSize().height();
 }
 
 void RangeFormatter::shrinkPictures(const QSizeF& page) {
@@ -174,14 +242,17 @@ QRegion RangeFormatter::partOf(const Line& line, const QRectF& room, int from, i
     return part;
 }
 
-void RangeFormatter::draw(const FormatRange& range, const QPaintDevice& device, const Line& first,
-                          const Line& last, int from, int to) {
+void RangeFormatter::draw(const FormatRange& range, const Line& first, const Line& last, int from,
+                          int to) {
     QPainter& painter = *range.painter;
-    const qreal unitsX = device.logicalDpiX() / TwipsPerInch;
-    const qreal unitsY = device.logicalDpiY() / TwipsPerInch;
+    const qreal unitsX = m_counted.width() / TwipsPerInch;
+    const qreal unitsY = m_counted.height() / TwipsPerInch;
     const QRectF band(-range.rect.left() * unitsX, first.top,
                       (range.rect.right() + range.rect.left()) * unitsX, last.bottom - first.top);
     painter.save();
+    if (m_counted != m_dots)
+        painter.scale(qreal(m_dots.width()) / m_counted.width(),
+                      qreal(m_dots.height()) / m_counted.height());
     painter.translate(range.rect.left() * unitsX, range.rect.top() * unitsY - first.top);
     painter.setClipRect(band, Qt::IntersectClip);
     const bool cutsFirst = from > first.position;

@@ -51,10 +51,11 @@ private:
     };
 
     void prepare(const FormatRange& range, QPaintDevice& device);
+    void layOut(QPaintDevice& device);
+    double layOut(const QSize& dots);
     void shrinkPictures(const QSizeF& page);
     void collectLines();
-    void draw(const FormatRange& range, const QPaintDevice& device, const Line& first,
-              const Line& last, int from, int to);
+    void draw(const FormatRange& range, const Line& first, const Line& last, int from, int to);
     QRegion partOf(const Line& line, const QRectF& room, int from, int to) const;
 
     const RichTextBox& m_box;
@@ -62,7 +63,9 @@ private:
     std::vector<Line> m_lines;
     int m_revision = 0;
     QPaintDevice* m_device = nullptr;
-    QSize m_dots;  ///< of the device to the inch
+    QSize m_dots;    ///< of the device to the inch
+    QSize m_counted; ///< of the layout to the inch; as many, or fewer
+    std::unique_ptr<QPaintDevice> m_ruler;
     QSizeF m_page; ///< twips
 };
 

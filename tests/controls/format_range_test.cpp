@@ -112,6 +112,7 @@ private slots:
     void withoutADeviceThePainterTells();
     void withoutPainterAndDeviceThereIsNoPage();
     void printingIsTheSameOnAFinerDevice();
+    void aDocumentOfMoreDotsThanCanBeCountedIsPrintedWhole();
     void aChangedTextIsFormattedAnew();
     void aChangedFormatIsFormattedAnew_data();
     void aChangedFormatIsFormattedAnew();
@@ -401,6 +402,52 @@ void FormatRangeTest::printingIsTheSameOnAFinerDevice() {
     QVERIFY(ink.width() > 3 * 600);
     // Letters are measured more finely there, so the lines break nearly, not exactly, alike.
     QVERIFY(std::abs(next - pagesOf(box).first().next) < next / 10);
+}
+
+/// 1,200 dots to the inch are more than the layout can count for 60,000 lines.
+void FormatRangeTest::aDocumentOfMoreDotsThanCanBeCountedIsPrintedWhole() {
+    constexpr int Lines = 60'000;
+    constexpr int Dots = 1200;
+    RichTextBox box;
+    box.SetText(manyLines(Lines));
+    QImage fine(6 * Dots, 6 * Dots, QImage::Format_Grayscale8);
+    fine.setDotsPerMeterX(qRound(Dots / 0.0254));
+    fine.setDotsPerMeterY(qRound(Dots / 0.0254));
+    RangeFormatter pages(box);
+    const int length = int(box.Text().size());
+    int last = 0;
+    int count = 0;
+    for (int next = 0; next < length; ++count) {
+        last = next;
+        next = pages.FormatPage({nullptr, &fine, WholePage, next, -1});
+        QVERIFY(next > last);
+    }
+    RichTextBox few;
+    few.SetText(manyLines(100));
+    const int onOne = few.Text()
+                          .first(RangeFormatter(few).FormatPage({nullptr, &fine, WholePage, 0, -1}))
+                          .count(u'\n');
+    QVERIFY2(std::abs(count - Lines / onOne) <= Lines / onOne / 20,
+             qPrintable(QString::number(count)));
+
+    // The last page stands where a short document would have it.
+    const auto inkOf = [&fine](RangeFormatter& formatter, int first) {
+        fine.fill(Qt::white);
+        QPainter painter(&fine);
+        formatter.FormatPage({&painter, &fine, WholePage, first, -1});
+        painter.end();
+        return inkBounds(fine);
+    };
+    const QRect ink = inkOf(pages, last);
+    few.SetText(box.Text().mid(last));
+    RangeFormatter same(few);
+    const QRect expected = inkOf(same, 0);
+    constexpr int Near = Dots / 20;
+    QVERIFY(std::abs(ink.left() - expected.left()) < Near &&
+            std::abs(ink.top() - expected.top()) < Near);
+    QVERIFY(std::abs(ink.right() - expected.right()) < Near);
+    QVERIFY2(std::abs(ink.bottom() - expected.bottom()) < 2 * Near,
+             qPrintable(u"%1, %2"_s.arg(ink.bottom()).arg(expected.bottom())));
 }
 
 void FormatRangeTest::aChangedTextIsFormattedAnew() {

@@ -85,6 +85,7 @@ void HostileDocumentTest::textOfAnyLengthIsShown_data() {
     QTest::newRow("one word") << QString(2'000'000, u'a');
     QTest::newRow("words") << u"word "_s.repeated(400'000);
     QTest::newRow("blanks") << QString(2'000'000, u' ');
+    QTest::newRow("blanks that do not break") << QString(2'000'000, QChar(QChar::Nbsp));
     QTest::newRow("tabs") << QString(2'000'000, u'\t');
     QTest::newRow("line breaks") << QString(2'000'000, QChar(QChar::LineSeparator));
     QTest::newRow("control characters") << QString(2'000'000, QChar(1));

@@ -88,10 +88,9 @@ void frmPrint::save() {
         const QString path = CommonDialog1.FileName;
         const int flags = pageFlags(path);
         const bool exists = FileExists(path);
-        if (exists &&
-            m_program.boxes().MsgBox(u"The File "_s + path +
-                                         u" already exists.\r\nDo you want to replace it?"_s,
-                                     MsgFlags::OkCancel) != Answer::Ok)
+        if (exists && m_program.boxes().MsgBox(
+                          u"The File "_s + path + u" already exists.\nDo you want to replace it?"_s,
+                          MsgFlags::OkCancel) != Answer::Ok)
             return;
         m_rtb->files().SaveFile(path, flags);
         if (exists || flags == RichTextBox::rtfText)

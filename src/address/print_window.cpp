@@ -34,7 +34,6 @@ constexpr int LeastWidth = 6630; // twips, of the window with its frame
 constexpr int LeastHeight = 5340;
 constexpr int BesidePage = 250; // twips that the page leaves of the window
 constexpr int BelowPage = 300;
-constexpr int PageMargin = 8; // pixels, at the page's left and upper edge
 constexpr QSize ButtonSize(26, 24);
 constexpr QSize PictureSize(16, 16);
 constexpr qint64 GrowthIsAnswered = 500; // milliseconds
@@ -200,9 +199,11 @@ void frmPrint::layOut() {
     const int toolbarHeight = m_tb1->sizeHint().height();
     m_tb1->setGeometry(0, 0, width(), toolbarHeight);
     const QSize whole = frameGeometry().size();
-    m_rtb->setGeometry(PageMargin, toolbarHeight + PageMargin,
-                       whole.width() - twipsToPixels(BesidePage),
-                       whole.height() - 2 * toolbarHeight - twipsToPixels(BelowPage));
+    const QSize page(whole.width() - twipsToPixels(BesidePage),
+                     whole.height() - 2 * toolbarHeight - twipsToPixels(BelowPage));
+    // What is left of the window lies on all sides alike.
+    const QRect below(0, toolbarHeight, width(), height() - toolbarHeight);
+    m_rtb->setGeometry(QRect(below.center() - QRect(QPoint(), page).center(), page));
 }
 
 } // namespace orvalis

@@ -18,7 +18,7 @@ const QString NeededFiles =
     u"Can't overwrite files needed for Orvalis. Choose a different name for backup file."_s;
 
 QString replaceQuestion(const QString& path) {
-    return u"The File "_s + path + u" already exists.\r\nDo you want to replace it?"_s;
+    return u"The File "_s + path + u" already exists.\nDo you want to replace it?"_s;
 }
 
 } // namespace

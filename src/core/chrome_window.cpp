@@ -20,18 +20,13 @@
 #include "runtime/failure.h"
 #include "runtime/format.h"
 #include "runtime/twips.h"
+#include "skin/type.h"
 
 #include <QMouseEvent>
 
 namespace orvalis {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr int ClockPoints = 16;
-
-} // namespace
 
 ChromeWindow::ChromeWindow(Program& program, const ChromeRow& row)
     : Form(row.name, Qt::Window | Qt::FramelessWindowHint)
@@ -138,7 +133,7 @@ void ChromeWindow::resizeEvent(QResizeEvent* event) {
 }
 
 void ChromeWindow::layOut() {
-    lblVreme->useClockFont(ClockPoints);
+    lblVreme->useClockFont(skin::points::Clock);
     clsResize(m_program.services.screen.GetSystemMetrics(0))
         .ResizeForm(*this, m_row.designWidth, pixelsToTwips(background->width()), background,
                     imgStop, imgSet);

@@ -2,38 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "controls/rich_text_box.h"
 #include "rtf/document_room.h"
+#include "shown_box.h"
 #include "support/temporary_folder.h"
 #include "support/test_main.h"
 
-#include <QAbstractTextDocumentLayout>
 #include <QApplication>
-#include <QPixmap>
 #include <QTextBlock>
 
 using namespace orvalis;
 using namespace Qt::StringLiterals;
-using orvalis::test::TemporaryFolder;
-
-namespace {
-
-const QSize SmallWindow(220, 160);
-
-/// Shows the box with its beginning and its end, and types into it at both.
-void showAndType(RichTextBox& box) {
-    box.resize(SmallWindow);
-    box.grab();
-    for (const auto end : {QTextCursor::End, QTextCursor::Start}) {
-        box.moveCursor(end);
-        QTest::keyClick(&box, Qt::Key_X);
-        box.grab();
-    }
-}
-
-double heightOf(const RichTextBox& box) {
-    return box.document()->documentLayout()->documentSize().height();
-}
-
-} // namespace
+using namespace orvalis::test;
 
 class HostileDocumentTest : public QObject {
     Q_OBJECT

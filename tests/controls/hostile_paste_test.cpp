@@ -4,40 +4,23 @@
 #include "controls/rich_text_box.h"
 #include "rtf/layout_height.h"
 #include "rtf/metafile_converter.h"
+#include "shown_box.h"
+#include "support/counted_memory.h"
 #include "support/temporary_folder.h"
 #include "support/test_main.h"
 
-#include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QBuffer>
 #include <QClipboard>
 #include <QMimeData>
-#include <QPixmap>
 #include <QTextBlock>
 #include <QUrl>
 
 using namespace orvalis;
 using namespace Qt::StringLiterals;
-using orvalis::test::TemporaryFolder;
+using namespace orvalis::test;
 
 namespace {
-
-const QSize SmallWindow(220, 160);
-
-/// Shows the box with its beginning and its end, and types into it at both.
-void showAndType(RichTextBox& box) {
-    box.resize(SmallWindow);
-    box.grab();
-    for (const auto end : {QTextCursor::End, QTextCursor::Start}) {
-        box.moveCursor(end);
-        QTest::keyClick(&box, Qt::Key_X);
-        box.grab();
-    }
-}
-
-double heightOf(const RichTextBox& box) {
-    return box.document()->documentLayout()->documentSize().height();
-}
 
 void paste(RichTextBox& box, QMimeData* data) {
     QApplication::clipboard()->setMimeData(data);
@@ -62,6 +45,24 @@ QByteArray pngOf(const QImage& image) {
     buffer.open(QIODevice::WriteOnly);
     image.save(&buffer, "PNG");
     return bytes;
+}
+
+/// Pictures of one pixel, each of a colour of its own.
+QByteArrayList manyPictures(int count) {
+    QByteArrayList pictures;
+    for (int i = 0; i < count; ++i) {
+        QImage image(1, 1, QImage::Format_RGB32);
+        image.fill(qRgb(i / 256, i % 256, 0));
+        pictures << pngOf(image);
+    }
+    return pictures;
+}
+
+QByteArray rtfOf(const QByteArrayList& pictures) {
+    QByteArray rtf = "{\\rtf1 ";
+    for (const QByteArray& png : pictures)
+        rtf += "{\\pict\\pngblip " + png.toHex() + '}';
+    return rtf + '}';
 }
 
 qint64 pixelsHeld(const QTextDocument& document) {
@@ -104,6 +105,7 @@ private slots:
     void thePicturesOfOnePageHaveACommonBound();
     void aMetafileThatIsDroppedAsAFileIsDrawn();
     void eachCopyOfAPictureCarriesIt();
+    void whatACopyTakesGrowsWithItsPicturesAndNoFaster();
 };
 
 void HostilePasteTest::pagesOfHtmlOfAnyHeightAreShown_data() {
@@ -183,18 +185,12 @@ void HostilePasteTest::aMetafileThatIsDroppedAsAFileIsDrawn() {
 }
 
 void HostilePasteTest::eachCopyOfAPictureCarriesIt() {
-    constexpr int Pictures = 800;
+    const QByteArrayList pictures = manyPictures(800);
     RichTextBox box;
-    QByteArray rtf = "{\\rtf1 ";
+    box.SetTextRTF(rtfOf(pictures));
     QStringList carried;
-    for (int i = 0; i < Pictures; ++i) {
-        QImage image(1, 1, QImage::Format_RGB32);
-        image.fill(qRgb(i / 256, i % 256, 0));
-        const QByteArray png = pngOf(image);
-        rtf += "{\\pict\\pngblip " + png.toHex() + "}";
+    for (const QByteArray& png : pictures)
         carried << QString::fromLatin1(png.toBase64());
-    }
-    box.SetTextRTF(rtf + "}");
     box.selectAll();
     box.Copy();
     const QString html = QApplication::clipboard()->mimeData()->html();
@@ -203,6 +199,22 @@ void HostilePasteTest::eachCopyOfAPictureCarriesIt() {
         at = html.indexOf(u"<img src=\"data:image/png;base64,"_s + picture + u'"', at);
         QVERIFY(at >= 0);
     }
+}
+
+/// Bytes that are written, pictures that are read and made, all of it takes memory: four times as
+/// many pictures take four times as much, and not sixteen.
+void HostilePasteTest::whatACopyTakesGrowsWithItsPicturesAndNoFaster() {
+    const auto takenBy = [](int pictures) {
+        RichTextBox box;
+        box.SetTextRTF(rtfOf(manyPictures(pictures)));
+        box.selectAll();
+        return memoryTakenBy([&] { box.Copy(); }).asked;
+    };
+    takenBy(1); // the first one takes what all share
+    const qint64 few = takenBy(200);
+    const qint64 many = takenBy(800);
+    QCOMPARE(few > 0, CountsMemory);
+    QVERIFY2(many <= 5 * few, qPrintable(u"%1 and %2 bytes"_s.arg(few).arg(many)));
 }
 
 ORVALIS_TEST_MAIN_WITH(QApplication, HostilePasteTest)

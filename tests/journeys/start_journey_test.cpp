@@ -52,6 +52,7 @@ class StartJourneyTest : public QObject {
 private slots:
     void aSilentSessionBusKeepsNoWindowAway();
     void leftoversOfAKilledRunGoAtTheNextStart();
+    void aClickIsAnsweredFromTheMomentThatTheWindowCanBeSeen();
 };
 
 void StartJourneyTest::aSilentSessionBusKeepsNoWindowAway() {
@@ -85,6 +86,26 @@ void StartJourneyTest::leftoversOfAKilledRunGoAtTheNextStart() {
     QVERIFY(program.waitVisible(u"frmnotes"_s));
     for (const QString& leftover : leftovers)
         QVERIFY2(!QFile::exists(leftover), qPrintable(leftover));
+}
+
+/// All that a click leads to is there before the window is, so that the first one is not lost: it
+/// waits until the program takes it.
+void StartJourneyTest::aClickIsAnsweredFromTheMomentThatTheWindowCanBeSeen() {
+    Stage stage({});
+    QVERIFY2(stage.trouble().isEmpty(), qPrintable(stage.trouble()));
+    DrivenProgram program(stage, QStringLiteral(ORVALIS_EXECUTABLE));
+    QVERIFY(program.start());
+    const QPoint set = program.waitAtRest(u"frmnotes/imgSet"_s).rect.center();
+    QVERIFY(!set.isNull());
+    for (int start = 0; start < 4; ++start) {
+        program.kill();
+        QVERIFY(waitUntil([&] { return !stage.display().showsAt(set); }, 10000));
+        QVERIFY(program.launch());
+        QVERIFY(waitUntil([&] { return stage.display().showsAt(set); }, 20000));
+        QVERIFY(program.clickAt(set));
+        QVERIFY(program.connectProbe());
+        QVERIFY2(program.waitVisible(u"frmAlSet"_s), qPrintable(QString::number(start)));
+    }
 }
 
 ORVALIS_TEST_MAIN_WITH(QCoreApplication, StartJourneyTest)

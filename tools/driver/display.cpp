@@ -82,6 +82,15 @@ std::optional<QPoint> Display::originOf(quint32 window) const {
     return QPoint(place->dst_x, place->dst_y);
 }
 
+bool Display::showsAt(QPoint place) const {
+    const auto answer = owned(xcb_translate_coordinates_reply(
+        m_connection,
+        xcb_translate_coordinates(m_connection, m_root, m_root, static_cast<qint16>(place.x()),
+                                  static_cast<qint16>(place.y())),
+        nullptr));
+    return answer && answer->child != XCB_WINDOW_NONE;
+}
+
 bool Display::askToClose(quint32 window) const {
     xcb_client_message_event_t message{};
     message.response_type = XCB_CLIENT_MESSAGE;

@@ -33,6 +33,9 @@ public:
     /// be seen. \param window the server's number of it.
     std::optional<QPoint> originOf(quint32 window) const;
 
+    /// Whether a window can be seen at a place of the desktop.
+    bool showsAt(QPoint place) const;
+
     /// Has the window manager ask a window's program to close it. \returns whether it was told.
     bool askToClose(quint32 window) const;
 

@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
+#include "address/address_book.h"
+#include "address/address_panel.h"
 #include "alarm/alarm_set_dialog.h"
 #include "alarm/alarm_tick.h"
 #include "alarm/alarm_window.h"
@@ -76,12 +78,15 @@ std::vector<MenuMaker> menusOfPanels(Program& program) {
 }
 
 /// Which class stands behind which role.
-void registerWindows(Program& program, bool previousInstance, HelpDisplay& help) {
+void registerWindows(Program& program, AddressBook& addresses, bool previousInstance,
+                     HelpDisplay& help) {
     program.windows.registerMaker<StartWindow>(
         [&, previousInstance] { return std::make_unique<frmStart>(program, previousInstance); });
     program.windows.registerMaker<MainWindow>([&] { return std::make_unique<frmnotes>(program); });
     program.windows.registerMaker<ReminderPanel>(
         [&] { return std::make_unique<frmnotes1>(program); });
+    program.windows.registerMaker<AddressPanel>(
+        [&] { return std::make_unique<frmnotes3>(program, addresses); });
     program.windows.registerMaker<PasswordPanel>(
         [&] { return std::make_unique<frmnotes4>(program); });
     program.windows.registerMaker<NotesPanel>([&] { return std::make_unique<frmnotes2>(program); });
@@ -179,7 +184,8 @@ int main(int argc, char** argv) {
     program.makeTrayOwner = [&tray](ChromeWindow& window) {
         return std::make_unique<TrayHandover>(window, *tray);
     };
-    registerWindows(program, instance.PrevInstance(), help);
+    AddressBook addresses(app);
+    registerWindows(program, addresses, instance.PrevInstance(), help);
     if (!instance.PrevInstance())
         removeLeftovers(app.Path());
     store.removeLeftovers();

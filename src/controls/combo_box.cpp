@@ -9,8 +9,10 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QListView>
 #include <QPointer>
 #include <QScopedValueRollback>
+#include <QStringListModel>
 #include <QTimer>
 #include <QWheelEvent>
 
@@ -24,10 +26,7 @@ ComboBox::ComboBox(QWidget* parent, Style style)
         m_choosing = false;
         emit Click();
     });
-    // The list's own first entry becomes the text of an empty box: that is filling, not a change.
-    connect(
-        model(), &QAbstractItemModel::rowsAboutToBeInserted, this, [this] { ++m_filling; });
-    connect(model(), &QAbstractItemModel::rowsInserted, this, [this] { --m_filling; });
+    followModel();
     if (style == Style::DropDown) {
         setEditable(true);
         setCompleter(nullptr);
@@ -58,6 +57,24 @@ void ComboBox::AddItem(const QString& text) {
 void ComboBox::Clear() {
     const QScopedValueRollback filling(m_filling, m_filling + 1);
     clear();
+    if (lineEdit())
+        lineEdit()->clear();
+}
+
+void ComboBox::SetList(const QStringList& entries) {
+    const QScopedValueRollback filling(m_filling, m_filling + 1);
+    auto* texts = qobject_cast<QStringListModel*>(model());
+    if (texts == nullptr) {
+        // A model of items would make an object of each entry.
+        texts = new QStringListModel(this);
+        setModel(texts);
+        followModel();
+        setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+        if (auto* list = qobject_cast<QListView*>(view()))
+            list->setUniformItemSizes(true);
+    }
+    texts->setStringList(entries);
+    setCurrentIndex(-1);
     if (lineEdit())
         lineEdit()->clear();
 }
@@ -120,6 +137,13 @@ void ComboBox::wheelEvent(QWheelEvent* event) {
     QComboBox::wheelEvent(event);
     if (self)
         m_choosing = false;
+}
+
+void ComboBox::followModel() {
+    // The list's own first entry becomes the text of an empty box: that is filling, not a change.
+    connect(
+        model(), &QAbstractItemModel::rowsAboutToBeInserted, this, [this] { ++m_filling; });
+    connect(model(), &QAbstractItemModel::rowsInserted, this, [this] { --m_filling; });
 }
 
 void ComboBox::textChanged() {

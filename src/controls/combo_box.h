@@ -29,6 +29,8 @@ public:
     void AddItem(const QString& text);
     /// Takes all entries and the text away, without a change being told.
     void Clear();
+    /// The same, and puts other entries there. However many they are, it takes no time to speak of.
+    void SetList(const QStringList& entries);
     int ListCount() const { return count(); }
     /// The entry at \a index; "" outside the list.
     QString List(int index) const { return itemText(index); }
@@ -52,6 +54,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
+    void followModel();
     void textChanged();
 
     /// The user is choosing from the list: the text follows the entry, and that is no change.

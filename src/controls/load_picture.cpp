@@ -34,14 +34,17 @@ QString exchangeName(const QByteArray& file) {
 } // namespace
 
 LoadedPicture LoadPicture(const QString& path) {
+    return LoadPicture(path, rtf::PictureBounds().mostPixels());
+}
+
+LoadedPicture LoadPicture(const QString& path, qint64 mostPixels) {
     rtf::Picture picture;
     picture.bytes = readWhole(path, LargestPictureFile);
     picture.kind = rtf::kindOfBytes(picture.bytes);
     const QSize size = rtf::pixelSize(picture);
     picture.width = size.width();
     picture.height = size.height();
-    const QImage image =
-        rtf::imageOfPicture(picture, rtf::PictureBounds().mostPixels(), readOptions().metafiles);
+    const QImage image = rtf::imageOfPicture(picture, mostPixels, readOptions().metafiles);
     if (image.isNull())
         throw RuntimeError(ErrorNumber::InvalidPicture);
     return {picture.bytes, PictureSource(QPixmap::fromImage(image))};

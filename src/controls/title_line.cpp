@@ -79,4 +79,8 @@ void makeTitleLine(QLineEdit& line) {
     line.installEventFilter(new FocusWatch(&line));
 }
 
+void keepEditsToOneLine(QLineEdit& line) {
+    QObject::connect(&line, &QLineEdit::textEdited, &line, [&line] { keepToOneLine(line); });
+}
+
 } // namespace orvalis

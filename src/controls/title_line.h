@@ -10,4 +10,8 @@ namespace orvalis {
 /// text that does not fit shows its beginning once the user has left it.
 void makeTitleLine(QLineEdit& line);
 
+/// The first half of it alone, and for what the user brings in: a text that the program sets keeps
+/// its breaks.
+void keepEditsToOneLine(QLineEdit& line);
+
 } // namespace orvalis

@@ -3,6 +3,9 @@
 //
 // manual_pictures FOLDER: draws the program's windows as the manual shows them, at twice their size
 // so that they stay sharp on fine screens, with a clock that stands still.
+#include "address/address_book.h"
+#include "address/address_file.h"
+#include "address/address_panel.h"
 #include "alarm/alarm_set_dialog.h"
 #include "controls/combo_box.h"
 #include "controls/image.h"
@@ -57,6 +60,8 @@ public:
             [&program] { return std::make_unique<frmnotes1>(program); });
         windows.registerMaker<NotesPanel>(
             [&program] { return std::make_unique<frmnotes2>(program); });
+        windows.registerMaker<AddressPanel>(
+            [this, &program] { return std::make_unique<frmnotes3>(program, m_book); });
         windows.registerMaker<OptionsWindow>(
             [&program] { return std::make_unique<frmOptions>(program); });
         windows.registerMaker<AlarmSetDialog>(
@@ -80,6 +85,7 @@ private:
     void keepDialog(const QString& name, Form& form);
     void drawReminderPanel();
     void drawNotesPanel();
+    void drawAddressPanel();
     void drawStickers();
     void drawAlarmDialog();
     void drawLetters();
@@ -87,6 +93,7 @@ private:
 
     QDir m_folder;
     TestProgram m_outside;
+    AddressBook m_book{m_outside.app};
     Stickers m_stickers{m_outside.program};
     RecordingTrayIcon m_tray;
     bool m_failed = false;
@@ -185,6 +192,27 @@ void Studio::drawNotesPanel() {
     panel.Hide();
 }
 
+void Studio::drawAddressPanel() {
+    AddressRecord anna;
+    anna.First = u"Anna"_s;
+    anna.Second = u"Bell"_s;
+    anna.Area = u"Friends"_s;
+    anna.Address = u"4 Harbour Street\r\nTop floor"_s;
+    anna.Town = u"Whitby"_s;
+    anna.Pin = u"YO22"_s;
+    anna.District = u"North Yorkshire"_s;
+    anna.State = u"England"_s;
+    anna.Country = u"United Kingdom"_s;
+    anna.Tel = u"+44 1632 960 144"_s;
+    anna.Email = u"anna@example.org"_s;
+    anna.Web = u"http://www.example.org"_s;
+    anna.Notes = u"Has the key of the house by the lake.\r\nBirthday on 2 June."_s;
+    m_outside.folder.write(u"address1.dat"_s, addressFileBytes(std::vector{anna}));
+    Form& panel = shown<AddressPanel>();
+    keep(u"address"_s, fitted(panel.grab(), 500));
+    panel.Hide();
+}
+
 void Studio::drawStickers() {
     Form& note = m_stickers.newFrmstick().form();
     note.Show();
@@ -269,6 +297,7 @@ void Studio::drawAll() {
     m_outside.program.windows.unload<OptionsWindow>();
     drawReminderPanel();
     drawNotesPanel();
+    drawAddressPanel();
     drawStickers();
     drawAlarmDialog();
     drawLetters();

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "address/address_book.h"
 #include "address/address_panel.h"
+#include "address/print_menu.h"
+#include "address/print_window.h"
 #include "alarm/alarm_set_dialog.h"
 #include "alarm/alarm_tick.h"
 #include "alarm/alarm_window.h"
@@ -68,6 +70,11 @@ std::vector<MenuMaker> menusOfPanels(Program& program) {
                 });
         },
         [&program](QWidget* parent) {
+            return makePrintMenu(
+                parent,
+                [&program]() -> PrintWindow& { return program.windows.get<PrintWindow>(); });
+        },
+        [&program](QWidget* parent) {
             return makeSaveMenu(
                 parent, program.services.dialogs,
                 [&program]() -> PasswordTexts& {
@@ -87,6 +94,13 @@ void registerWindows(Program& program, AddressBook& addresses, bool previousInst
         [&] { return std::make_unique<frmnotes1>(program); });
     program.windows.registerMaker<AddressPanel>(
         [&] { return std::make_unique<frmnotes3>(program, addresses); });
+    program.windows.registerMaker<PrintWindow>([&] {
+        return std::make_unique<frmPrint>(
+            program, addresses,
+            [&program]() -> ContactPanel& {
+                return static_cast<frmnotes3&>(program.windows.get<AddressPanel>());
+            });
+    });
     program.windows.registerMaker<PasswordPanel>(
         [&] { return std::make_unique<frmnotes4>(program); });
     program.windows.registerMaker<NotesPanel>([&] { return std::make_unique<frmnotes2>(program); });
@@ -166,6 +180,7 @@ int main(int argc, char** argv) {
     guardLineFields();
     application.setBoxes(boxes);
 
+    AddressBook addresses(app);
     Program program({.app = app,
                      .clock = clock,
                      .settings = settings,
@@ -184,7 +199,6 @@ int main(int argc, char** argv) {
     program.makeTrayOwner = [&tray](ChromeWindow& window) {
         return std::make_unique<TrayHandover>(window, *tray);
     };
-    AddressBook addresses(app);
     registerWindows(program, addresses, instance.PrevInstance(), help);
     if (!instance.PrevInstance())
         removeLeftovers(app.Path());

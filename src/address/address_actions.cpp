@@ -5,8 +5,10 @@
 #include "address/address_book.h"
 #include "address/address_panel.h"
 #include "address/address_text.h"
+#include "address/contact_block.h"
 #include "controls/image.h"
 #include "controls/message_boxes.h"
+#include "controls/rich_text_box.h"
 #include "core/program.h"
 #include "platform/registry.h"
 #include "platform/shell.h"
@@ -116,6 +118,13 @@ void frmnotes3::funcSave() {
     const QString path = program().services.app.file(u"Address.txt"_s);
     const QByteArray before = FileExists(path) ? readWhole(path) : QByteArray();
     saveWhole(path, before + AnsiPage::ofUser().encode(contactAsText(ui.contact())));
+}
+
+void frmnotes3::FillPrint() {
+    auto& window = program().windows.get<PrintWindow>();
+    window.rtb().SetText({});
+    insertContact(window.rtb(), ui.contact(), BoldLines::Labels);
+    window.form().ShowOver(*this);
 }
 
 } // namespace orvalis

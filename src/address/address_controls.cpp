@@ -173,10 +173,10 @@ void AddressControls::makeCard(QWidget& panel) {
         name->setText(u"required"_s);
         name->setToolTip(u"Required"_s);
     }
-    Combo1 = combo(panel, u"Combo1"_s, place(143), said(143, u"Area"_s));
+    Combo1 = combo(panel, u"Combo1"_s, place(142), said(143, u"Area"_s));
     Combo1->setText(u"Friends"_s);
     Text3 =
-        textArea(panel, u"Text3"_s, place(168, FieldLeft, FieldRight, 45), said(168, u"Address"_s));
+        textArea(panel, u"Text3"_s, place(169, FieldLeft, FieldRight, 44), said(169, u"Address"_s));
     Text4 = saidLine(panel, u"Text4"_s, place(216, FieldLeft, 236), u"Town"_s);
     Text5 = saidLine(panel, u"Text5"_s, place(216, 240), u"Pin"_s);
     Text6 = saidLine(panel, u"Text6"_s, place(240, FieldLeft, 198), u"District"_s);

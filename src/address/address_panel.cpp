@@ -7,6 +7,7 @@
 #include "address/contact_photo.h"
 #include "controls/combo_box.h"
 #include "controls/image.h"
+#include "controls/mouse_numbers.h"
 #include "core/program.h"
 #include "core/skin_picture.h"
 #include "runtime/failure.h"
@@ -41,6 +42,12 @@ frmnotes3::frmnotes3(Program& program, AddressBook& book)
 
 void frmnotes3::connectChrome() {
     behaveAsBackground(ui.card);
+    connect(ui.imgPrint, &Image::MouseDown, this, [this](int button) {
+        if (button != LeftButton)
+            return;
+        HoverReset();
+        this->program().windows.get<PopupMenus>().PopupMenu(u"mnustampa"_s);
+    });
 }
 
 void frmnotes3::onLoad() {

@@ -30,6 +30,8 @@ public slots:
     /// Appends the contact on show to Address.txt.
     /// \throws RuntimeError as readWhole() and saveWhole() do.
     void funcSave();
+    /// Puts the contact on show on the emptied page of the print window, and shows that window.
+    void FillPrint();
 
 protected:
     void onLoad() override;

@@ -80,7 +80,8 @@ void makeTitleLine(QLineEdit& line) {
 }
 
 void keepEditsToOneLine(QLineEdit& line) {
-    QObject::connect(&line, &QLineEdit::textEdited, &line, [&line] { keepToOneLine(line); });
+    QObject::connect(
+        &line, &QLineEdit::textEdited, &line, [&line] { keepToOneLine(line); });
 }
 
 } // namespace orvalis

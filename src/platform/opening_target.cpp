@@ -29,6 +29,8 @@ QString openingTarget(const QString& documentOrAddress) {
         return file.absoluteFilePath();
     if (file.isAbsolute())
         return {};
+    if (hasScheme(documentOrAddress))
+        return documentOrAddress;
     const QString address = documentOrAddress.trimmed();
     return hasScheme(address) ? address : u"http://"_s + address;
 }

@@ -16,7 +16,8 @@ public:
     virtual bool open(const QString& documentOrAddress) = 0;
 
     /// Starts a program by name or path.
-    /// \throws RuntimeError FileNotFound when there is none, InvalidProcedureCall for "".
+    /// \throws RuntimeError FileNotFound when there is none, InvalidProcedureCall for "" and for a
+    /// file that is no program.
     virtual void start(const QString& program) = 0;
 };
 

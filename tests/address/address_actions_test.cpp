@@ -6,6 +6,7 @@
 
 #include "runtime/failure.h"
 #include "support/folder_watch.h"
+#include "support/pointer_events.h"
 #include "support/small_disk.h"
 
 using namespace orvalis;
@@ -24,6 +25,18 @@ std::vector<AddressRecord> threeContacts() {
 QString replaceQuestion(const QString& path) {
     return u"The File "_s + path + u" already exists.\nDo you want to replace it?"_s;
 }
+
+/// The owner of the popup menus as far as the panel asks for one.
+class MenuLog final : public PlainWindow<PopupMenus> {
+public:
+    explicit MenuLog(QStringList& shown)
+        : PlainWindow(u"frmdel1"_s)
+        , m_shown(shown) {}
+    void PopupMenu(const QString& name) override { m_shown << name; }
+
+private:
+    QStringList& m_shown;
+};
 
 } // namespace
 
@@ -69,6 +82,8 @@ private slots:
     void funcSaveKeepsWhatStoodInTheFile();
     void funcSaveWritesInTheAnsiPage();
     void funcSaveThatCannotWriteFails();
+    void thePrintPictureOpensItsMenuWithTheLeftButtonAlone();
+    void fillPrintPutsTheContactOnAnEmptyPage();
 
 private:
     std::unique_ptr<AddressGround> m_ground;
@@ -422,6 +437,47 @@ void AddressActionsTest::funcSaveThatCannotWriteFails() {
         QVERIFY_THROWS_EXCEPTION(RuntimeError, m_ground->panel().funcSave());
     }
     QCOMPARE(m_ground->folder.read(u"Address.txt"_s), "old");
+}
+
+void AddressActionsTest::thePrintPictureOpensItsMenuWithTheLeftButtonAlone() {
+    QStringList menus;
+    m_ground->program.windows.registerMaker<PopupMenus>(
+        [&] { return std::make_unique<MenuLog>(menus); });
+    m_ground->shown();
+    Pointer pointer(m_ground->image(u"imgPrint"_s));
+    pointer.press({5, 5}, Qt::RightButton);
+    pointer.release({5, 5}, Qt::RightButton);
+    QCOMPARE(menus, QStringList());
+    pointer.press();
+    QCOMPARE(menus, QStringList{u"mnustampa"_s});
+    pointer.release();
+}
+
+void AddressActionsTest::fillPrintPutsTheContactOnAnEmptyPage() {
+    m_ground->program.windows.registerMaker<PrintWindow>(
+        [] { return std::make_unique<PlainWindow<PrintWindow>>(u"frmPrint"_s); });
+    auto& window = m_ground->program.windows.get<PrintWindow>();
+    RichTextBox& page = window.rtb();
+    page.SetText(u"what stood there"_s);
+    m_ground->line(u"Text11"_s).setText(u"a@b.org"_s);
+    m_ground->shown();
+    m_ground->panel().FillPrint();
+    QCOMPARE(page.Text(),
+             u"\r\nFirst Name \r\n     a\r\nSecond Name \r\n     1\r\nGroup \r\n     \r\n"
+             "Address \r\n     \r\nPhone \r\n     \r\nFAX \r\n     \r\n"
+             "Email \r\n     a@b.org\r\nURL \r\n     \r\nComments \r\n     \r\n"_s);
+    const auto formatOf = [&page](const QString& words) {
+        page.Find(words);
+        return std::pair(page.SelBold().value(), page.SelColor().value());
+    };
+    QCOMPARE(formatOf(u"First Name "_s), std::pair(true, 0U));
+    QCOMPARE(formatOf(u"     a"_s), std::pair(false, 0U));
+    QCOMPARE(formatOf(u"Email "_s), std::pair(true, 0U));
+    QCOMPARE(formatOf(u"a@b.org"_s), std::pair(false, 0xFF0000U));
+    QCOMPARE(formatOf(u"Comments "_s), std::pair(true, 0U));
+    QVERIFY(window.form().isVisible());
+    m_ground->panel().FillPrint();
+    QCOMPARE(page.Text().count(u"First Name "_s), 1);
 }
 
 ORVALIS_TEST_MAIN_WITH(Application, AddressActionsTest)

@@ -36,6 +36,7 @@ private slots:
     void aProgramIsStartedByNameAndByPath();
     void aMissingProgramIsFileNotFound();
     void noProgramAtAllIsAnInvalidCall();
+    void aFileThatIsNoProgramIsAnInvalidCall();
 
 private:
     /// Puts a program into the folder that is the whole search path of the test.
@@ -79,6 +80,7 @@ void XdgShellTest::addressesGoAsTheyStand_data() {
     same("https://example.org");
     same("mailto:ann lee@example.org");
     same("mailto:$(id)@example.org");
+    same("mailto: ann lee @ example.org ");
     same("tel:0123456");
     same("file:///tmp/x");
     QTest::newRow("no scheme") << u"www.example.org"_s << u"http://www.example.org"_s;
@@ -187,9 +189,7 @@ void XdgShellTest::aProgramIsStartedByNameAndByPath() {
 
 void XdgShellTest::aMissingProgramIsFileNotFound() {
     XdgShell shell;
-    m_folder->write(u"no program"_s, "text");
-    for (const auto& program :
-         {u"DIALER.EXE"_s, m_folder->file(u"missing"_s), m_folder->file(u"no program"_s)}) {
+    for (const auto& program : {u"DIALER.EXE"_s, m_folder->file(u"missing"_s), m_folder->path()}) {
         const auto failure = firstFailure([&] { shell.start(program); });
         QVERIFY(failure.has_value());
         QCOMPARE(failure->number(), ErrorNumber::FileNotFound);
@@ -201,6 +201,19 @@ void XdgShellTest::noProgramAtAllIsAnInvalidCall() {
     const auto failure = firstFailure([&] { shell.start(QString()); });
     QVERIFY(failure.has_value());
     QCOMPARE(failure->number(), ErrorNumber::InvalidProcedureCall);
+}
+
+void XdgShellTest::aFileThatIsNoProgramIsAnInvalidCall() {
+    XdgShell shell;
+    m_folder->write(u"no program"_s, "text");
+    const QString broken = m_folder->write(u"broken"_s, "\x7f"
+                                                        "ELF and no more");
+    QFile::setPermissions(broken, QFile::ReadOwner | QFile::ExeOwner);
+    for (const auto& program : {m_folder->file(u"no program"_s), broken}) {
+        const auto failure = firstFailure([&] { shell.start(program); });
+        QVERIFY(failure.has_value());
+        QCOMPARE(failure->number(), ErrorNumber::InvalidProcedureCall);
+    }
 }
 
 ORVALIS_TEST_MAIN_WITH(QCoreApplication, XdgShellTest)

@@ -7,6 +7,7 @@
 #include "runtime/failure.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
 
@@ -40,8 +41,10 @@ void XdgShell::start(const QString& program) {
     if (program.isEmpty())
         throw RuntimeError(ErrorNumber::InvalidProcedureCall);
     const QString executable = QStandardPaths::findExecutable(program);
-    if (executable.isEmpty() || !startDetached(executable, {}))
+    if (executable.isEmpty() && !QFileInfo(program).isFile())
         throw RuntimeError(ErrorNumber::FileNotFound);
+    if (executable.isEmpty() || !startDetached(executable, {}))
+        throw RuntimeError(ErrorNumber::InvalidProcedureCall);
 }
 
 } // namespace orvalis

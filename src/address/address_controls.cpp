@@ -107,6 +107,7 @@ ComboBox* combo(QWidget& parent, const QString& name, const QRect& place,
     made->setFont(skin::font(skin::points::Body));
     made->setAccessibleName(accessibleName);
     made->lineEdit()->setMaxLength(MostCharacters);
+    keepEditsToOneLine(*made->lineEdit());
     return made;
 }
 
@@ -121,11 +122,13 @@ public:
     }
 
     bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() != QEvent::MouseButtonPress)
-            return false;
-        m_box.setFocus(Qt::MouseFocusReason);
-        m_box.showPopup();
-        return true;
+        // At the button's release: that of a press would close the list at once.
+        if (event->type() == QEvent::MouseButtonRelease) {
+            m_box.setFocus(Qt::MouseFocusReason);
+            m_box.showPopup();
+        }
+        return event->type() == QEvent::MouseButtonPress ||
+               event->type() == QEvent::MouseButtonRelease;
     }
 
 private:

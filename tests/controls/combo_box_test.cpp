@@ -27,6 +27,9 @@ private slots:
     void fillingLeavesTheText();
     void fillingThroughTheBaseClassTellsNothingEither();
     void clearingEmptiesListAndTextSilently();
+    void aNewListTakesTheTextAwaySilently();
+    void aNewListIsChosenFromAndAddedToLikeAnother();
+    void aNewListMayBeVeryLong();
     void anEntryChosenWithThePointerIsAClickAndNoChange();
     void theSameEntryChosenAgainIsAClick();
     void theEntryBehindATypedTextIsAClickAndNoChange();
@@ -174,6 +177,47 @@ void ComboBoxTest::clearingEmptiesListAndTextSilently() {
     QCOMPARE(m_box->Text(), QString());
     QCOMPARE(m_changes->count(), 0);
     QCOMPARE(m_clicks->count(), 0);
+}
+
+void ComboBoxTest::aNewListTakesTheTextAwaySilently() {
+    m_box->SetList({u"x"_s, QString(), u"x"_s});
+    QCOMPARE(m_box->Text(), QString());
+    QCOMPARE(m_box->ListCount(), 3);
+    QCOMPARE(m_box->List(0), u"x"_s);
+    QCOMPARE(m_box->List(1), QString());
+    m_box->setText(u"y"_s);
+    m_changes->clear();
+    m_box->SetList({});
+    QCOMPARE(m_box->Text(), QString());
+    QCOMPARE(m_box->ListCount(), 0);
+    QCOMPARE(m_changes->count(), 0);
+    QCOMPARE(m_clicks->count(), 0);
+}
+
+void ComboBoxTest::aNewListIsChosenFromAndAddedToLikeAnother() {
+    m_box->SetList({u"a"_s, u"b"_s});
+    m_box->AddItem(u"c"_s);
+    QCOMPARE(m_box->Text(), QString());
+    QCOMPARE(m_changes->count(), 0);
+    showBox();
+    pick(2);
+    QCOMPARE(m_box->Text(), u"c"_s);
+    QCOMPARE(m_clicks->count(), 1);
+    QCOMPARE(m_changes->count(), 0);
+    m_box->Clear();
+    QCOMPARE(m_box->ListCount(), 0);
+    QCOMPARE(m_box->Text(), QString());
+}
+
+void ComboBoxTest::aNewListMayBeVeryLong() {
+    QStringList entries;
+    for (int i = 0; i < 30000; ++i)
+        entries << QString::number(i);
+    m_box->SetList(entries);
+    QCOMPARE(m_box->ListCount(), 30000);
+    showBox();
+    pick(29999);
+    QCOMPARE(m_box->Text(), u"29999"_s);
 }
 
 void ComboBoxTest::anEntryChosenWithThePointerIsAClickAndNoChange() {

@@ -51,6 +51,7 @@ private slots:
     void init();
     void aPictureIsReadByWhatItHolds_data();
     void aPictureIsReadByWhatItHolds();
+    void aPictureOfMorePixelsComesSmallerInItsShape();
     void whatIsNoPictureFails_data();
     void whatIsNoPictureFails();
     void aMissingFileFails();
@@ -100,6 +101,16 @@ void LoadPictureTest::aPictureIsReadByWhatItHolds() {
     QCOMPARE(loaded.picture.size(), QSize(12, 8));
     const QColor shown = loaded.picture.pixmap(loaded.picture.size(), 1).toImage().pixelColor(6, 4);
     QVERIFY(shown.red() > 240 && shown.green() < 15 && shown.blue() < 15);
+}
+
+void LoadPictureTest::aPictureOfMorePixelsComesSmallerInItsShape() {
+    const QString path = m_folder->filePath(u"large.png"_s);
+    QImage large(400, 200, QImage::Format_RGB32);
+    large.fill(Qt::red);
+    QVERIFY(large.save(path));
+    QCOMPARE(LoadPicture(path).picture.size(), QSize(400, 200));
+    QCOMPARE(LoadPicture(path, 80000).picture.size(), QSize(400, 200));
+    QCOMPARE(LoadPicture(path, 20000).picture.size(), QSize(200, 100));
 }
 
 void LoadPictureTest::whatIsNoPictureFails_data() {

@@ -26,6 +26,7 @@ private slots:
     void breaksThatArePastedBecomeBlanks_data();
     void breaksThatArePastedBecomeBlanks();
     void theCaretStaysBehindWhatWasPasted();
+    void editsAloneAreKeptToOneLineWhereThatIsAsked();
     void aLineThatIsLeftShowsItsBeginning_data();
     void aLineThatIsLeftShowsItsBeginning();
     void fromElsewhereTheUserFindsTheLineAsItWas_data();
@@ -61,6 +62,20 @@ void TitleLineTest::theCaretStaysBehindWhatWasPasted() {
     line.paste();
     QCOMPARE(line.text(), u"one a b two"_s);
     QCOMPARE(line.cursorPosition(), 8);
+}
+
+void TitleLineTest::editsAloneAreKeptToOneLineWhereThatIsAsked() {
+    QLineEdit line;
+    keepEditsToOneLine(line);
+    line.setText(u"one\r\ntwo"_s);
+    QCOMPARE(line.text(), u"one\r\ntwo"_s);
+    QApplication::clipboard()->setText(u"a\r\nb\n"_s);
+    line.selectAll();
+    line.paste();
+    QCOMPARE(line.text(), u"a b "_s);
+    QCOMPARE(line.cursorPosition(), 4);
+    focus(line, QEvent::FocusOut, Qt::TabFocusReason);
+    QCOMPARE(line.cursorPosition(), 4);
 }
 
 void TitleLineTest::aLineThatIsLeftShowsItsBeginning_data() {

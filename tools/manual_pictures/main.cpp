@@ -6,6 +6,7 @@
 #include "address/address_book.h"
 #include "address/address_file.h"
 #include "address/address_panel.h"
+#include "address/print_window.h"
 #include "alarm/alarm_set_dialog.h"
 #include "controls/combo_box.h"
 #include "controls/image.h"
@@ -62,6 +63,13 @@ public:
             [&program] { return std::make_unique<frmnotes2>(program); });
         windows.registerMaker<AddressPanel>(
             [this, &program] { return std::make_unique<frmnotes3>(program, m_book); });
+        windows.registerMaker<PrintWindow>([this, &program] {
+            return std::make_unique<frmPrint>(
+                program, m_book,
+                [&program]() -> ContactPanel& {
+                    return static_cast<frmnotes3&>(program.windows.get<AddressPanel>());
+                });
+        });
         windows.registerMaker<OptionsWindow>(
             [&program] { return std::make_unique<frmOptions>(program); });
         windows.registerMaker<AlarmSetDialog>(
@@ -210,6 +218,12 @@ void Studio::drawAddressPanel() {
     m_outside.folder.write(u"address1.dat"_s, addressFileBytes(std::vector{anna}));
     Form& panel = shown<AddressPanel>();
     keep(u"address"_s, fitted(panel.grab(), 500));
+    auto& window = m_outside.program.windows.get<PrintWindow>();
+    window.stampaAll();
+    window.rtb().SetSelStart(0);
+    QApplication::processEvents();
+    keepDialog(u"address_print"_s, window.form());
+    m_outside.program.windows.unload<PrintWindow>();
     panel.Hide();
 }
 

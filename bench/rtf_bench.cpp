@@ -154,8 +154,8 @@ public:
     }
     bool picture(const Picture& /*picture*/, const CharFormat& /*format*/) override { return true; }
     void paragraphEnd(const ParagraphFormat& paragraph, const CharFormat& mark) override {
-        m_paragraphs.push_back(
-            {blockFormat(paragraph), textFormat(mark, *m_names), std::exchange(m_line, {})});
+        m_paragraphs.push_back({blockFormat(paragraph, *m_names), textFormat(mark, *m_names),
+                                std::exchange(m_line, {})});
     }
     void end(const ParagraphFormat& /*paragraph*/, const CharFormat& /*mark*/) override {}
 

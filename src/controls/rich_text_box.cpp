@@ -8,6 +8,7 @@
 #include "controls/text_positions.h"
 #include "controls/text_search.h"
 #include "rtf/document_room.h"
+#include "rtf/kept_parts.h"
 #include "rtf/reader.h"
 #include "rtf/writer.h"
 #include "runtime/failure.h"
@@ -86,8 +87,12 @@ void RichTextBox::SetText(const QString& text) {
 }
 
 /// \returns whether all of it had room.
-bool RichTextBox::replaceEverything(const QString& text, const QTextCharFormat& format,
-                                    const QTextBlockFormat& paragraph) {
+bool RichTextBox::replaceEverything(const QString& text, QTextCharFormat format,
+                                    QTextBlockFormat paragraph) {
+    // What a file said and nobody sees goes with its text.
+    rtf::setKeptParts(*document(), {});
+    rtf::clearKept(format);
+    rtf::clearKept(paragraph);
     const bool keepsHistory = document()->isUndoRedoEnabled();
     const bool inBatch = m_batches > 0;
     bool whole = true;
@@ -146,7 +151,9 @@ bool RichTextBox::takeRtf(const QByteArray& rtf) {
     hold();
     editAt(everything, [&](QTextCursor& cursor) {
         if (m_batches > 0) {
-            result = rtf::insertRtf(rtf, cursor, readOptions());
+            rtf::ReadOptions options = readOptions();
+            options.replacesDocument = true;
+            result = rtf::insertRtf(rtf, cursor, options);
             return;
         }
         result = rtf::readRtf(rtf, *document(), readOptions());

@@ -234,8 +234,7 @@ private:
     QTextCursor editCursor() const;
     void takeCursor(const QTextCursor& cursor);
     void editAt(QTextCursor cursor, const std::function<void(QTextCursor&)>& edit);
-    bool replaceEverything(const QString& text, const QTextCharFormat& format,
-                           const QTextBlockFormat& paragraph);
+    bool replaceEverything(const QString& text, QTextCharFormat format, QTextBlockFormat paragraph);
     bool takeRtf(const QByteArray& rtf);
     void contentWasSet(const QTextCharFormat& format);
     void mergeFormat(const QTextCharFormat& wanted);

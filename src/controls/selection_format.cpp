@@ -105,6 +105,7 @@ QTextCharFormat formatAtStart(const QTextCursor& selection) {
 
 QTextBlockFormat followingParagraph(QTextBlockFormat format) {
     format.clearProperty(QTextFormat::PageBreakPolicy);
+    format.clearProperty(rtf::KeptOfSection);
     return format;
 }
 

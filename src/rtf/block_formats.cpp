@@ -4,8 +4,10 @@
 
 #include "rtf/format_properties.h"
 #include "rtf/format_readers.h"
+#include "rtf/kept_text.h"
 #include "rtf/list_formats.h"
 
+#include <QBrush>
 #include <QTextList>
 
 #include <algorithm>
@@ -53,9 +55,20 @@ void readLineSpacing(const QTextBlockFormat& block, ParagraphFormat& format) {
     }
 }
 
+void setKept(QTextBlockFormat& block, const ParagraphFormat& format, const Names& names) {
+    if (format.section != NothingKept)
+        block.setProperty(KeptOfSection, names.keptAt(format.section));
+    if (format.kept == NothingKept)
+        return;
+    const QString kept = names.keptAt(format.kept);
+    block.setProperty(KeptOfParagraph, kept);
+    if (const QRgb shade = shadeOf(kept); shade != AutomaticColor)
+        block.setBackground(QColor::fromRgb(shade));
+}
+
 } // namespace
 
-QTextBlockFormat blockFormat(const ParagraphFormat& format) {
+QTextBlockFormat blockFormat(const ParagraphFormat& format, const Names& names) {
     QTextBlockFormat block;
     switch (format.alignment) {
     case Alignment::Left:
@@ -96,11 +109,12 @@ QTextBlockFormat blockFormat(const ParagraphFormat& format) {
                                  tab.type == QTextOption::DelimiterTab ? QChar(u'.') : QChar()));
         block.setTabPositions(tabs);
     }
+    setKept(block, format, names);
     return block;
 }
 
 ParagraphFormat paragraphFormat(const QTextBlockFormat& format, const QTextList* list,
-                                double indentWidth) {
+                                double indentWidth, Names& names) {
     ParagraphFormat result;
     result.alignment = alignmentOf(format);
     result.rightToLeft = format.layoutDirection() == Qt::RightToLeft;
@@ -115,6 +129,8 @@ ParagraphFormat paragraphFormat(const QTextBlockFormat& format, const QTextList*
     const auto tabs = format.tabPositions();
     for (const QTextOption::Tab& tab : tabs)
         result.tabs.append(TabStop{twips(tab.position), tab.type});
+    result.kept = names.kept(format.stringProperty(KeptOfParagraph));
+    result.section = names.kept(format.stringProperty(KeptOfSection));
     if (list)
         result.list = labelOf(*list);
     return result;

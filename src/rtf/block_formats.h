@@ -12,11 +12,11 @@ namespace orvalis::rtf {
 
 /// Formats of paragraphs in RTF as those of a text document, and back.
 /// Leaves the list out: that is an object of the document.
-QTextBlockFormat blockFormat(const ParagraphFormat& format);
+QTextBlockFormat blockFormat(const ParagraphFormat& format, const Names& names);
 
 /// \param list of the block, null for none.
 /// \param indentWidth pixels of one step of the indents of lists and blocks.
 ParagraphFormat paragraphFormat(const QTextBlockFormat& format, const QTextList* list,
-                                double indentWidth);
+                                double indentWidth, Names& names);
 
 } // namespace orvalis::rtf

@@ -3,6 +3,7 @@
 #include "rtf/body_writer.h"
 
 #include "rtf/hyperlink.h"
+#include "rtf/kept_text.h"
 #include "rtf/picture_writer.h"
 
 #include <cstdlib>
@@ -33,6 +34,24 @@ const char* underlineWord(Underline underline) {
         return "\\ulwave";
     case Underline::Thick:
         return "\\ulth";
+    case Underline::DashDotDot:
+        return "\\uldashdd";
+    case Underline::LongDash:
+        return "\\ulldash";
+    case Underline::ThickDotted:
+        return "\\ulthd";
+    case Underline::ThickDash:
+        return "\\ulthdash";
+    case Underline::ThickLongDash:
+        return "\\ulthldash";
+    case Underline::ThickDashDot:
+        return "\\ulthdashd";
+    case Underline::ThickDashDotDot:
+        return "\\ulthdashdd";
+    case Underline::HeavyWave:
+        return "\\ulhwave";
+    case Underline::DoubleWave:
+        return "\\ululdbwave";
     }
     return "\\ul";
 }
@@ -58,6 +77,11 @@ BodyWriter::BodyWriter()
 }
 
 void BodyWriter::beginParagraph(const ParagraphFormat& paragraph, int number) {
+    if (paragraph.section == NothingKept)
+        endLastParagraph();
+    else
+        beginSection(names().keptAt(paragraph.section));
+    m_paragraphIsEmpty = true;
     m_paragraphs.begin(paragraph, number);
 }
 
@@ -74,18 +98,19 @@ void BodyWriter::change(const CharFormat& format) {
     if (format == m_format)
         return;
     changeLink(format.link);
+    changeKept(format.kept);
     if (format.color != m_format.color)
         m_out.word("\\cf", m_tables.color(format.color));
-    if (format.highlight != m_format.highlight)
-        m_out.word("\\highlight", m_tables.color(format.highlight));
+    changeHighlight(format);
     if (format.underline != m_format.underline)
         m_out.word(underlineWord(format.underline));
     toggle(format.bold, m_format.bold, "\\b");
     toggle(format.italic, m_format.italic, "\\i");
-    toggle(format.strike, m_format.strike, "\\strike");
+    changeStrike(format);
     toggle(format.controlMarks, m_format.controlMarks, "\\orvmarks");
     toggle(format.hidden, m_format.hidden, "\\v");
     changeCapitals(format.capitals);
+    changeSpacing(format.spacing);
     if (format.raise != m_format.raise)
         m_out.word(format.raise < 0 ? "\\dn" : "\\up", std::abs(format.raise));
     if (format.script != m_format.script)
@@ -97,6 +122,49 @@ void BodyWriter::change(const CharFormat& format) {
     if (format.halfPoints != m_format.halfPoints)
         m_out.word("\\fs", format.halfPoints);
     m_format = format;
+}
+
+/// What is kept is a number of words at once, of which none needs an end but that of the whole
+/// look.
+void BodyWriter::changeKept(int kept) {
+    if (kept == m_format.kept)
+        return;
+    if (m_format.kept != NothingKept) {
+        const int link = m_format.link;
+        m_out.word("\\plain");
+        m_format = {};
+        m_format.link = link;
+    }
+    writeKept(m_out, m_tables, names().keptAt(kept));
+}
+
+void BodyWriter::changeHighlight(const CharFormat& format) {
+    if (format.highlight == m_format.highlight && format.shading == m_format.shading)
+        return;
+    if (format.shading != m_format.shading && m_format.highlight != AutomaticColor)
+        m_out.word(m_format.shading ? "\\chcbpat" : "\\highlight", 0);
+    if (format.highlight != AutomaticColor || format.shading == m_format.shading)
+        m_out.word(format.shading ? "\\chcbpat" : "\\highlight", m_tables.color(format.highlight));
+}
+
+void BodyWriter::changeStrike(const CharFormat& format) {
+    if (format.doubleStrike != m_format.doubleStrike && m_format.strike)
+        m_out.word(m_format.doubleStrike ? "\\striked" : "\\strike", 0);
+    else if (format.strike == m_format.strike)
+        return;
+    if (format.doubleStrike)
+        m_out.word("\\striked", 1);
+    else
+        toggle(format.strike, m_format.strike && !m_format.doubleStrike, "\\strike");
+}
+
+void BodyWriter::changeSpacing(int spacing) {
+    if (spacing == m_format.spacing)
+        return;
+    // Older readers know it in quarters of a point only; the last word holds.
+    constexpr int TwipsPerQuarter = 5;
+    m_out.word("\\expnd", spacing / TwipsPerQuarter);
+    m_out.word("\\expndtw", spacing);
 }
 
 void BodyWriter::changeCapitals(Capitals capitals) {
@@ -130,6 +198,7 @@ void BodyWriter::changeLink(int link) {
 }
 
 void BodyWriter::text(QStringView text, const CharFormat& format) {
+    m_paragraphIsEmpty = false;
     change(format);
     if (m_symbols == SymbolFont::None)
         m_out.text(text);
@@ -138,6 +207,7 @@ void BodyWriter::text(QStringView text, const CharFormat& format) {
 }
 
 void BodyWriter::picture(const Picture& picture, const CharFormat& format) {
+    m_paragraphIsEmpty = false;
     // Text around it may be hidden where the picture shows.
     CharFormat own = format;
     own.hidden = picture.hidden;
@@ -154,17 +224,48 @@ void BodyWriter::endParagraph(const CharFormat* mark) {
     if (!mark)
         atEnd.script = Script::Normal;
     change(atEnd);
-    m_out.structure("\\par\r\n");
+    m_paragraphEnds = true;
 }
 
-QByteArray BodyWriter::file(int defaultTab) const {
+void BodyWriter::endLastParagraph() {
+    if (std::exchange(m_paragraphEnds, false))
+        m_out.structure("\\par\r\n");
+}
+
+/// The word that ends a section ends its last paragraph too, if that holds anything.
+void BodyWriter::beginSection(QStringView text) {
+    const bool endsFirst = text.startsWith(ParagraphEndsFirst);
+    if (endsFirst || m_paragraphIsEmpty)
+        endLastParagraph();
+    m_paragraphEnds = false;
+    m_out.structure(kept(text.sliced(endsFirst ? ParagraphEndsFirst.size() : 0)));
+}
+
+QByteArray BodyWriter::kept(QStringView text) {
+    if (text.isEmpty())
+        return {};
+    RtfOutput out;
+    writeKept(out, m_tables, text);
+    out.structure("\r\n");
+    return out.bytes();
+}
+
+QByteArray BodyWriter::file(int defaultTab, const KeptParts& parts) {
+    endLastParagraph();
+    // What is kept may name fonts and colours that the text has not.
+    const QByteArray styles = kept(parts.styles);
+    const QByteArray head =
+        kept(parts.info) + kept(parts.words) + kept(parts.notes) + kept(parts.section);
     RtfOutput out;
     out.reserve(m_out.bytes().size() + 1024);
-    out.structure("{\\rtf1\\ansi\\ansicpg1252\\deff0\\deflang1033");
+    out.structure("{\\rtf1\\ansi\\ansicpg1252\\deff0");
+    out.word("\\deflang", parts.language);
     if (defaultTab != FactoryTab && defaultTab > 0)
         out.word("\\deftab", defaultTab);
-    m_tables.write(out);
-    out.structure("{\\*\\generator Orvalis;}\\viewkind4\\uc1");
+    m_tables.write(out, styles);
+    out.structure("{\\*\\generator Orvalis;}");
+    out.structure(head);
+    out.structure("\\viewkind4\\uc1");
     out.structure(m_out.bytes());
     out.structure("}\r\n");
     return out.bytes();

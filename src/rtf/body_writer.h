@@ -6,6 +6,7 @@
 #include "rtf/paragraph_writer.h"
 #include "rtf/picture.h"
 #include "rtf/rtf_output.h"
+#include "rtf/sink.h"
 #include "rtf/writer_tables.h"
 
 #include <QByteArray>
@@ -35,10 +36,19 @@ public:
 
     /// The whole file.
     /// \param defaultTab twips between default tab stops.
-    QByteArray file(int defaultTab) const;
+    /// \param parts what is kept of the document.
+    QByteArray file(int defaultTab, const KeptParts& parts);
 
 private:
+    /// What is kept, on lines of its own.
+    QByteArray kept(QStringView text);
+    void endLastParagraph();
+    void beginSection(QStringView text);
     void change(const CharFormat& format);
+    void changeKept(int kept);
+    void changeHighlight(const CharFormat& format);
+    void changeStrike(const CharFormat& format);
+    void changeSpacing(int spacing);
     void changeCapitals(Capitals capitals);
     void changeLink(int link);
     void toggle(bool on, bool was, QByteArrayView word);
@@ -49,6 +59,8 @@ private:
     CharFormat m_format;
     CharFormat m_formatBeforeLink;
     SymbolFont m_symbols = SymbolFont::None;
+    bool m_paragraphEnds = false; ///< and the word for it is still to come
+    bool m_paragraphIsEmpty = true;
 };
 
 } // namespace orvalis::rtf

@@ -3,6 +3,7 @@
 #include "rtf/control_words.h"
 
 #include "rtf/formats.h"
+#include "rtf/kept_word_table.h"
 #include "rtf/picture.h"
 
 #include <array>
@@ -27,6 +28,7 @@ constexpr ControlWord Words[] = {
     {"ansicpg", Action::AnsiCodePage, 0},
     {"deff", Action::DefaultFont, 0},
     {"deftab", Action::DefaultTab, 0},
+    {"deflang", Action::DefaultLanguage, 0},
 
     {"tab", Action::Character, u'\t'},
     {"line", Action::Character, 0x2028},
@@ -61,15 +63,19 @@ constexpr ControlWord Words[] = {
 
     {"plain", Action::PlainCharacters, 0},
     {"f", Action::Font, 0},
+    {"af", Action::FurtherFont, 0},
+    {"pnf", Action::FurtherFont, 0},
     {"fs", Action::FontSize, 0},
+    {"expnd", Action::Spacing, 5},
+    {"expndtw", Action::Spacing, 1},
     {"cf", Action::Color, 0},
     {"highlight", Action::Highlight, 0},
-    {"cb", Action::Highlight, 0},
-    {"chcbpat", Action::Highlight, 0},
+    {"cb", Action::Highlight, 1},
+    {"chcbpat", Action::Highlight, 1},
     {"b", Action::Bold, 0},
     {"i", Action::Italic, 0},
     {"strike", Action::Strike, 0},
-    {"striked", Action::Strike, 0},
+    {"striked", Action::Strike, 1},
     {"orvmarks", Action::ControlMarks, 0},
     {"v", Action::Hidden, 0},
     {"deleted", Action::Deleted, 0},
@@ -77,18 +83,18 @@ constexpr ControlWord Words[] = {
     {"ulw", Action::UnderlineKind, as(Underline::Words)},
     {"uldb", Action::UnderlineKind, as(Underline::Double)},
     {"uld", Action::UnderlineKind, as(Underline::Dotted)},
-    {"ulthd", Action::UnderlineKind, as(Underline::Dotted)},
+    {"ulthd", Action::UnderlineKind, as(Underline::ThickDotted)},
     {"uldash", Action::UnderlineKind, as(Underline::Dash)},
-    {"ulldash", Action::UnderlineKind, as(Underline::Dash)},
-    {"ulthdash", Action::UnderlineKind, as(Underline::Dash)},
-    {"ulthldash", Action::UnderlineKind, as(Underline::Dash)},
+    {"ulldash", Action::UnderlineKind, as(Underline::LongDash)},
+    {"ulthdash", Action::UnderlineKind, as(Underline::ThickDash)},
+    {"ulthldash", Action::UnderlineKind, as(Underline::ThickLongDash)},
     {"uldashd", Action::UnderlineKind, as(Underline::DashDot)},
-    {"uldashdd", Action::UnderlineKind, as(Underline::DashDot)},
-    {"ulthdashd", Action::UnderlineKind, as(Underline::DashDot)},
-    {"ulthdashdd", Action::UnderlineKind, as(Underline::DashDot)},
+    {"uldashdd", Action::UnderlineKind, as(Underline::DashDotDot)},
+    {"ulthdashd", Action::UnderlineKind, as(Underline::ThickDashDot)},
+    {"ulthdashdd", Action::UnderlineKind, as(Underline::ThickDashDotDot)},
     {"ulwave", Action::UnderlineKind, as(Underline::Wave)},
-    {"ulhwave", Action::UnderlineKind, as(Underline::Wave)},
-    {"ululdbwave", Action::UnderlineKind, as(Underline::Wave)},
+    {"ulhwave", Action::UnderlineKind, as(Underline::HeavyWave)},
+    {"ululdbwave", Action::UnderlineKind, as(Underline::DoubleWave)},
     {"ulth", Action::UnderlineKind, as(Underline::Thick)},
     {"ulnone", Action::NoUnderline, 0},
     {"super", Action::ScriptKind, as(Script::Super)},
@@ -121,24 +127,27 @@ constexpr ControlWord Words[] = {
     {"pagebb", Action::PageBreakBefore, 0},
     {"ls", Action::ListOverride, 0},
     {"ilvl", Action::ListLevel, 0},
+    {"sectd", Action::SectionDefaults, 0},
 
-    {"stylesheet", Action::SkipGroup, 0},
-    {"info", Action::SkipGroup, 0},
-    {"header", Action::SkipGroup, 0},
-    {"headerl", Action::SkipGroup, 0},
-    {"headerr", Action::SkipGroup, 0},
-    {"headerf", Action::SkipGroup, 0},
-    {"footer", Action::SkipGroup, 0},
-    {"footerl", Action::SkipGroup, 0},
-    {"footerr", Action::SkipGroup, 0},
-    {"footerf", Action::SkipGroup, 0},
+    {"stylesheet", Action::KeepGroup, as(KeptPlace::Styles)},
+    {"info", Action::KeepGroup, as(KeptPlace::Info)},
+    {"userprops", Action::KeepGroup, as(KeptPlace::StarredInfo)},
+    {"docvar", Action::KeepGroup, as(KeptPlace::StarredInfo)},
+    {"header", Action::KeepGroup, as(KeptPlace::Section)},
+    {"headerl", Action::KeepGroup, as(KeptPlace::Section)},
+    {"headerr", Action::KeepGroup, as(KeptPlace::Section)},
+    {"headerf", Action::KeepGroup, as(KeptPlace::Section)},
+    {"footer", Action::KeepGroup, as(KeptPlace::Section)},
+    {"footerl", Action::KeepGroup, as(KeptPlace::Section)},
+    {"footerr", Action::KeepGroup, as(KeptPlace::Section)},
+    {"footerf", Action::KeepGroup, as(KeptPlace::Section)},
     {"footnote", Action::SkipGroup, 0},
-    {"ftnsep", Action::SkipGroup, 0},
-    {"ftnsepc", Action::SkipGroup, 0},
-    {"ftncn", Action::SkipGroup, 0},
-    {"aftnsep", Action::SkipGroup, 0},
-    {"aftnsepc", Action::SkipGroup, 0},
-    {"aftncn", Action::SkipGroup, 0},
+    {"ftnsep", Action::KeepGroup, as(KeptPlace::Notes)},
+    {"ftnsepc", Action::KeepGroup, as(KeptPlace::Notes)},
+    {"ftncn", Action::KeepGroup, as(KeptPlace::Notes)},
+    {"aftnsep", Action::KeepGroup, as(KeptPlace::Notes)},
+    {"aftnsepc", Action::KeepGroup, as(KeptPlace::Notes)},
+    {"aftncn", Action::KeepGroup, as(KeptPlace::Notes)},
     {"annotation", Action::SkipGroup, 0},
     {"atnid", Action::SkipGroup, 0},
     {"atnauthor", Action::SkipGroup, 0},
@@ -270,9 +279,16 @@ constexpr ControlWord Words[] = {
     {"wbmwidthbytes", Action::BitmapRow, 0},
 };
 
-constexpr quint32 SlotCount = 1024;
+// The words that are known come first, those that are only kept behind them.
+constexpr size_t WordCount = std::size(Words) + KeptWordTable.size();
+
+constexpr const ControlWord& wordAt(size_t index) {
+    return index < std::size(Words) ? Words[index] : KeptWordTable[index - std::size(Words)];
+}
+
+constexpr quint32 SlotCount = 2048;
 constexpr qint16 EmptySlot = -1;
-static_assert(std::size(Words) < SlotCount / 2, "the search ends at an empty slot");
+static_assert(WordCount < SlotCount / 2, "the search ends at an empty slot");
 
 constexpr quint32 slotOf(quint32 hash) {
     return (hash ^ hash >> 15) & (SlotCount - 1);
@@ -281,9 +297,9 @@ constexpr quint32 slotOf(quint32 hash) {
 constexpr auto SlotTable = [] {
     std::array<qint16, SlotCount> table{};
     table.fill(EmptySlot);
-    for (size_t i = 0; i < std::size(Words); ++i) {
+    for (size_t i = 0; i < WordCount; ++i) {
         quint32 hash = ControlWordHashStart;
-        for (const char* letter = Words[i].name; *letter; ++letter)
+        for (const char* letter = wordAt(i).name; *letter; ++letter)
             hash = controlWordHash(hash, uchar(*letter));
         quint32 slot = slotOf(hash);
         while (table[slot] != EmptySlot)
@@ -295,11 +311,15 @@ constexpr auto SlotTable = [] {
 
 } // namespace
 
+int keptOrder(const ControlWord& word) {
+    return int(&word - KeptWordTable.data());
+}
+
 const ControlWord* findControlWord(QByteArrayView name, quint32 hash) {
     const std::string_view wanted(name.data(), size_t(name.size()));
     for (quint32 slot = slotOf(hash); SlotTable[slot] != EmptySlot;
          slot = (slot + 1) & (SlotCount - 1)) {
-        const ControlWord& word = Words[SlotTable[slot]];
+        const ControlWord& word = wordAt(size_t(SlotTable[slot]));
         if (wanted == word.name)
             return &word;
     }

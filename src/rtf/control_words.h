@@ -15,6 +15,7 @@ enum class Action : quint8 {
     FixedCodePage, ///< value: the page
     DefaultFont,
     DefaultTab,
+    DefaultLanguage,
     // Text
     Character, ///< value: the character
     Unicode,
@@ -28,12 +29,14 @@ enum class Action : quint8 {
     // Characters
     PlainCharacters,
     Font,
+    FurtherFont, ///< of which only the groups that are kept know
     FontSize,
     Color,
-    Highlight,
+    Highlight, ///< value: 1 for the shading of the characters
     Bold,
     Italic,
-    Strike,
+    Strike,       ///< value: 1 for a double line
+    Spacing,      ///< value: twips to each of the number
     ControlMarks, ///< our own word: what other programs show as marks we know as codes
     Hidden,
     Deleted,       ///< text that a tracked change has taken out
@@ -58,8 +61,12 @@ enum class Action : quint8 {
     PageBreakBefore,
     ListOverride, ///< of a paragraph, or the number of an entry of the override table
     ListLevel,
+    // What is kept as it came
+    Keep, ///< value: a packed KeptWord
+    SectionDefaults,
     // Destinations
     SkipGroup,
+    KeepGroup, ///< value: the KeptPlace
     FontTable,
     ColorTable,
     ListTable,
@@ -130,6 +137,9 @@ inline constexpr quint32 ControlWordHashStart = 2166136261u;
 constexpr quint32 controlWordHash(quint32 hash, uchar letter) {
     return (hash ^ letter) * 16777619u;
 }
+
+/// The place of a word among those that are kept.
+int keptOrder(const ControlWord& word);
 
 /// The entry of a word, null when nobody knows it.
 /// \param hash made of all the name's letters by controlWordHash().

@@ -4,6 +4,7 @@
 
 #include "rtf/block_formats.h"
 #include "rtf/format_properties.h"
+#include "rtf/kept_parts.h"
 #include "rtf/list_formats.h"
 #include "rtf/text_formats.h"
 
@@ -72,6 +73,15 @@ void DocumentSink::begin(const Names& names) {
 bool DocumentSink::spend(qint64 bytes) {
     m_structureLeft -= bytes;
     return m_structureLeft > 0;
+}
+
+bool DocumentSink::takesStyles(const QString& styles) {
+    return m_options.replacesDocument || styles == keptParts(*m_cursor.document()).styles;
+}
+
+void DocumentSink::kept(const KeptParts& parts) {
+    if (m_options.replacesDocument)
+        setKeptParts(*m_cursor.document(), parts);
 }
 
 int DocumentSink::formatIndex(const CharFormat& format) {
@@ -176,7 +186,7 @@ void DocumentSink::end(const ParagraphFormat& paragraph, const CharFormat& mark)
 void DocumentSink::insertParagraph(const ParagraphFormat& paragraph, const CharFormat& mark) {
     if (!m_hasBlockFormat || !(m_paragraph == paragraph)) {
         m_paragraph = paragraph;
-        m_blockFormat = blockFormat(paragraph);
+        m_blockFormat = blockFormat(paragraph, *m_names);
         m_shape = paragraphShape(m_blockFormat);
         m_hasBlockFormat = true;
     }
@@ -211,7 +221,7 @@ void DocumentSink::insertParagraph(const ParagraphFormat& paragraph, const CharF
 
 void DocumentSink::shapeFirst() {
     m_firstShaped = true;
-    m_cursor.setBlockFormat(blockFormat(m_firstParagraph));
+    m_cursor.setBlockFormat(blockFormat(m_firstParagraph, *m_names));
     joinList(m_firstParagraph);
 }
 

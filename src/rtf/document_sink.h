@@ -36,6 +36,8 @@ public:
     void paragraphEnd(const ParagraphFormat& paragraph, const CharFormat& mark) override;
     void end(const ParagraphFormat& paragraph, const CharFormat& mark) override;
     void defaultTab(int twips) override { m_defaultTab = twips; }
+    bool takesStyles(const QString& styles) override;
+    void kept(const KeptParts& parts) override;
     bool isFull() const override { return m_full || m_intake.isFull(); }
 
     /// Whether the document holds less than the file: text, or fonts.

@@ -39,6 +39,20 @@ enum FormatProperty : int {
     /// Of a list format: true when its indent only makes room for the label on the screen and is
     /// no part of the paragraph's own indent.
     ListIndentIsRoom,
+    /// Of a character format: twips between the characters (int), which the letter spacing shows
+    /// unless the text is hidden.
+    CharacterSpacing,
+    /// Of a character format: the strike is a double line (bool).
+    DoubleStrike,
+    /// Of a character format: the background is the characters' shading (bool).
+    CharacterShading,
+    /// Of a character format: words of RTF that are kept as they came (QString, see kept_text.h).
+    KeptOfCharacters,
+    /// Of a block format: the same.
+    KeptOfParagraph,
+    /// Of a block format: a section begins with the paragraph, and this is what the file says of it
+    /// (QString, the same).
+    KeptOfSection,
 };
 
 } // namespace orvalis::rtf

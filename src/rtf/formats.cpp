@@ -9,10 +9,12 @@ size_t qHash(const CharFormat& format, size_t seed) noexcept {
         static_cast<unsigned>(format.underline) | static_cast<unsigned>(format.script) << 8 |
         static_cast<unsigned>(format.capitals) << 16 | static_cast<unsigned>(format.bold) << 24 |
         static_cast<unsigned>(format.italic) << 25 | static_cast<unsigned>(format.strike) << 26 |
+        static_cast<unsigned>(format.hidden) << 27 |
         static_cast<unsigned>(format.controlMarks) << 28 |
-        static_cast<unsigned>(format.hidden) << 27;
+        static_cast<unsigned>(format.doubleStrike) << 29 |
+        static_cast<unsigned>(format.shading) << 30;
     return qHashMulti(seed, format.family, format.link, format.halfPoints, format.raise,
-                      format.color, format.highlight, small);
+                      format.spacing, format.kept, format.color, format.highlight, small);
 }
 
 int Names::intern(QStringList& list, QHash<QString, int>& index, const QString& name) {

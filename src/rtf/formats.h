@@ -20,7 +20,29 @@ inline constexpr QRgb AutomaticColor = 0;
 /// Index of a family or link that there is none of.
 inline constexpr int NoName = -1;
 
-enum class Underline : quint8 { None, Single, Words, Double, Dotted, Dash, DashDot, Wave, Thick };
+/// Index of RTF that is kept as it came, where nothing is.
+inline constexpr int NothingKept = 0;
+
+enum class Underline : quint8 {
+    None,
+    Single,
+    Words,
+    Double,
+    Dotted,
+    Dash,
+    DashDot,
+    Wave,
+    Thick,
+    DashDotDot,
+    LongDash,
+    ThickDotted,
+    ThickDash,
+    ThickLongDash,
+    ThickDashDot,
+    ThickDashDotDot,
+    HeavyWave,
+    DoubleWave,
+};
 enum class Script : quint8 { Normal, Super, Sub };
 enum class Capitals : quint8 { AsTyped, All, Small };
 enum class Alignment : quint8 { Left, Right, Center, Justify };
@@ -34,12 +56,15 @@ enum class ListKind : quint8 {
     UpperRoman,
 };
 
-/// How a run of characters looks. Family and link are indexes into the Names of the reading.
+/// How a run of characters looks. Family, link and what is kept are indexes into the Names of the
+/// reading.
 struct CharFormat {
     int family = NoName;
     int link = NoName;
     int halfPoints = DefaultHalfPoints;
-    int raise = 0; ///< half points above the base line
+    int raise = 0;   ///< half points above the base line
+    int spacing = 0; ///< twips between the characters
+    int kept = NothingKept;
     QRgb color = AutomaticColor;
     QRgb highlight = AutomaticColor;
     Underline underline = Underline::None;
@@ -48,6 +73,8 @@ struct CharFormat {
     bool bold = false;
     bool italic = false;
     bool strike = false;
+    bool doubleStrike = false; ///< the strike is a double line
+    bool shading = false;      ///< the highlight is the characters' shading
     bool controlMarks = false; ///< marks stand for control characters
     bool hidden = false;
 
@@ -93,27 +120,36 @@ struct ParagraphFormat {
     int before = 0;
     int after = 0;
     int lineSpacing = 0; ///< 0 automatic, above 0 at least, below 0 exactly
+    int kept = NothingKept;
+    int section = NothingKept; ///< what the file says of the section that begins here
     QList<TabStop> tabs;
     ListLabel list;
 
     bool operator==(const ParagraphFormat&) const = default;
 };
 
-/// The font families and link targets of one reading, each kept once.
+/// The font families, link targets and kept pieces of RTF of one reading, each held once.
 class Names {
 public:
     int family(const QString& name) { return intern(m_families, m_familyIndex, name); }
     int link(const QString& target) { return intern(m_links, m_linkIndex, target); }
     QString familyAt(int index) const { return m_families.value(index); }
     QString linkAt(int index) const { return m_links.value(index); }
+    /// NothingKept for an empty text.
+    int kept(const QString& text) {
+        return text.isEmpty() ? NothingKept : 1 + intern(m_kept, m_keptIndex, text);
+    }
+    QString keptAt(int index) const { return m_kept.value(index - 1); }
 
 private:
     static int intern(QStringList& list, QHash<QString, int>& index, const QString& name);
 
     QStringList m_families;
     QStringList m_links;
+    QStringList m_kept;
     QHash<QString, int> m_familyIndex;
     QHash<QString, int> m_linkIndex;
+    QHash<QString, int> m_keptIndex;
 };
 
 } // namespace orvalis::rtf

@@ -10,12 +10,18 @@ namespace {
 // and share the state of the deepest one that is kept.
 constexpr size_t MostGroups = 4096;
 
+// What groups that are kept may grow to: fonts and colours stand in them by longer names.
+constexpr qint64 KeptShare = 4;
+constexpr qint64 KeptGround = qint64(1) << 20;
+
 } // namespace
 
 Interpreter::Interpreter(QByteArrayView bytes, Sink& sink)
     : m_tokenizer(bytes)
     , m_sink(sink)
-    , m_documentPage(&CodePage::forNumber(Latin1Page)) {
+    , m_documentPage(&CodePage::forNumber(Latin1Page))
+    , m_kept(m_names)
+    , m_keptLeft(KeptShare * bytes.size() + KeptGround) {
     m_state.page = m_documentPage;
 }
 
@@ -185,7 +191,8 @@ void Interpreter::word(const Token& token) {
     }
     // A word that no fallback can be made of ends the wait for one.
     m_fallbackToSkip = 0;
-    if (characterWord(token) || paragraphWord(token) || pictureWord(token) || tableWord(token))
+    if (characterWord(token) || paragraphWord(token) || keptWord(token) || pictureWord(token) ||
+        tableWord(token))
         return;
     destinationWord(token);
 }
@@ -207,6 +214,7 @@ void Interpreter::finish() {
         deliverPicture();
     cellTabs(m_cellTabs);
     flushText();
+    tellKept();
     m_sink.end(shapedParagraph(), m_state.chars);
 }
 

@@ -3,6 +3,8 @@
 #pragma once
 
 #include "rtf/font_table.h"
+#include "rtf/kept_group.h"
+#include "rtf/kept_sets.h"
 #include "rtf/list_tables.h"
 #include "rtf/reader.h"
 #include "rtf/sink.h"
@@ -55,6 +57,9 @@ private:
         int unicodeSkip = 1;
         int listOverride = 0;
         int listLevel = 0;
+        int keptOfChars = 0; ///< sets of m_kept
+        int keptOfParagraph = 0;
+        const ControlWord* border = nullptr; ///< the one that was named last
         QTextOption::TabType tabType = QTextOption::LeftTab;
         Destination destination = Destination::Body;
         bool ownsDestination = false;
@@ -109,6 +114,18 @@ private:
     void colorBytes(QByteArrayView run);
     void fontBytes(QByteArrayView run);
 
+    // What is kept as it came (interpreter_keeping.cpp)
+    bool keptWord(const Token& token);
+    void keepCharacters(int set);
+    void keepParagraph(int set);
+    void keepGroup(const Token& token);
+    void placeGroup(KeptPlace place, const QString& group);
+    void sectionEnd();
+    QString sectionBreak() const;
+    void tellFirstSection();
+    QString sectionText() const;
+    void tellKept();
+
     // Pictures (interpreter_pictures.cpp)
     bool pictureWord(const Token& token);
     void pictureBytes(QByteArrayView run);
@@ -132,6 +149,17 @@ private:
     QList<QRgb> m_colors;
     QRgb m_color = AutomaticColor;
     ListTables m_lists;
+
+    KeptSets m_kept;
+    int m_keptOfSection = 0;
+    int m_keptOfDocument = 0;
+    QString m_sectionGroups;
+    bool m_sectionBegins = false;          ///< with the paragraph, and is not the first one
+    bool m_paragraphBeforeSection = false; ///< it ended by itself, not by the section's end
+    bool m_firstSectionTold = false;
+    KeptParts m_parts;
+    bool m_stylesKept = false;
+    qint64 m_keptLeft; ///< bytes that groups may still take
 
     QString m_text;
     CharFormat m_textFormat;

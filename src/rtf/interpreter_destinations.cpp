@@ -25,7 +25,7 @@ bool Interpreter::destinationWord(const Token& token) {
         return false;
     const Action action = token.word->action;
     if (m_unstoredGroups > 0) {
-        if (action == Action::SkipGroup || action >= Action::FontTable)
+        if (action >= Action::SkipGroup)
             skipGroup();
         return true;
     }
@@ -39,6 +39,9 @@ bool Interpreter::destinationWord(const Token& token) {
     switch (action) {
     case Action::SkipGroup:
         skipGroup();
+        return true;
+    case Action::KeepGroup:
+        keepGroup(token);
         return true;
     case Action::FontTable:
         openInBody(Destination::FontTable);
@@ -241,6 +244,10 @@ bool Interpreter::tableWord(const Token& token) {
     case Action::DefaultTab:
         if (number > 0)
             m_sink.defaultTab(std::min(number, 31680));
+        return true;
+    case Action::DefaultLanguage:
+        if (token.hasParameter)
+            m_parts.language = number;
         return true;
     case Action::FontCharset:
         m_fonts.setCharset(number);

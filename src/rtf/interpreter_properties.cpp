@@ -11,7 +11,8 @@ namespace {
 // Limits that no page reaches, so that sums and products of lengths stay far from overflow.
 constexpr int LongestLength = 100000; // twips
 constexpr int LargestHalfPoints = 3276;
-constexpr int LargestRaise = 2000; // half points
+constexpr int LargestSpacing = 2000; // twips, or quarters of a point
+constexpr int LargestRaise = 2000;   // half points
 constexpr int MostUnicodeSkip = 255;
 constexpr qsizetype MostTabs = 32;
 
@@ -52,6 +53,7 @@ bool Interpreter::characterWord(const Token& token) {
         return true;
     case Action::Highlight:
         chars.highlight = color(token.parameter);
+        chars.shading = chars.highlight != AutomaticColor && token.word->value != 0;
         return true;
     case Action::Bold:
         chars.bold = isOn(token);
@@ -61,6 +63,11 @@ bool Interpreter::characterWord(const Token& token) {
         return true;
     case Action::Strike:
         chars.strike = isOn(token);
+        chars.doubleStrike = chars.strike && token.word->value != 0;
+        return true;
+    case Action::Spacing:
+        chars.spacing =
+            token.word->value * std::clamp(token.parameter, -LargestSpacing, LargestSpacing);
         return true;
     case Action::ControlMarks:
         chars.controlMarks = isOn(token);
@@ -107,6 +114,8 @@ bool Interpreter::paragraphWord(const Token& token) {
     switch (token.word->action) {
     case Action::PlainParagraph:
         paragraph = {};
+        m_state.keptOfParagraph = 0;
+        m_state.border = nullptr;
         m_state.listOverride = 0;
         m_state.listLevel = 0;
         m_state.tabType = QTextOption::LeftTab;
@@ -163,8 +172,8 @@ bool Interpreter::paragraphWord(const Token& token) {
             paragraphEnd();
         return true;
     case Action::SectionEnd:
-        if (inBody && m_inParagraph)
-            paragraphEnd();
+        if (inBody)
+            sectionEnd();
         return true;
     case Action::PageEnd:
         if (inBody) {
@@ -199,6 +208,7 @@ void Interpreter::plainCharacters() {
     const int link = m_state.chars.link;
     m_state.chars = {};
     m_state.chars.link = link;
+    m_state.keptOfChars = 0;
     m_state.deleted = false;
     m_state.font = NoName;
     selectFont();

@@ -239,6 +239,7 @@ void Interpreter::paragraphEnd() {
     m_sink.paragraphEnd(shapedParagraph(), m_state.chars);
     m_inParagraph = false;
     m_pageBreak = false;
+    m_sectionBegins = false;
     m_label.clear();
     askForRoom();
 }
@@ -259,12 +260,14 @@ void Interpreter::rowEnd() {
 }
 
 const ParagraphFormat& Interpreter::shapedParagraph() {
-    if (m_state.listOverride == 0 && m_label.isEmpty() && !m_pageBreak) {
+    if (m_state.listOverride == 0 && m_label.isEmpty() && !m_pageBreak && !m_sectionBegins) {
         m_lastListKind = m_state.paragraph.list.kind;
         return m_state.paragraph;
     }
     m_shaped = m_state.paragraph;
     m_shaped.pageBreakBefore |= m_pageBreak;
+    if (m_sectionBegins)
+        m_shaped.section = m_names.kept(sectionBreak());
     const auto known = m_lists.label(m_state.listOverride, m_state.listLevel);
     if (m_state.listOverride != 0 && known)
         m_shaped.list = *known;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/paragraph_writer.h"
 
+#include "rtf/kept_text.h"
 #include "rtf/list_number.h"
 #include "rtf/rtf_output.h"
 #include "rtf/writer_tables.h"
@@ -99,6 +100,7 @@ void ParagraphWriter::shape(const ParagraphFormat& paragraph) {
         if (number != 0)
             m_out.word(name, number);
     };
+    writeKept(m_out, m_tables, m_tables.names().keptAt(paragraph.kept));
     if (paragraph.rightToLeft)
         m_out.word("\\rtlpar");
     if (paragraph.pageBreakBefore)

@@ -69,7 +69,9 @@ ReadResult readRtf(QByteArrayView bytes, QTextDocument& document, const ReadOpti
     DocumentRoom::of(document).forget();
     QTextCursor cursor(&document);
     cursor.beginEditBlock();
-    DocumentSink sink(cursor, options, bytes.size());
+    ReadOptions whole = options;
+    whole.replacesDocument = true;
+    DocumentSink sink(cursor, whole, bytes.size());
     const ReadResult result = readInto(bytes, sink);
     cursor.endEditBlock();
     // Only now is it known how the lines of long words are to be broken; to set the tabs lays the

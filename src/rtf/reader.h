@@ -35,6 +35,9 @@ struct ReadResult {
 
 struct ReadOptions {
     MetafileConverter* metafiles = nullptr; ///< draws vector metafiles; without it they stay boxes
+    /// Whether what is inserted becomes all that the document holds: then what the file says of the
+    /// whole document holds for it too. Reading into a document always means that.
+    bool replacesDocument = false;
 };
 
 /// Whether the bytes begin as RTF does: "{\rtf" or "{\urtf", behind nothing but blanks, line ends,

@@ -9,6 +9,21 @@
 
 namespace orvalis::rtf {
 
+/// The language of text in a file that tells of none.
+inline constexpr int UsualLanguage = 1033;
+
+/// What is kept of a whole document, as the file had it (see kept_text.h).
+struct KeptParts {
+    int language = UsualLanguage; ///< of text that names none, by Windows' numbers
+    QString styles;
+    QString info;
+    QString words;
+    QString notes;   ///< what stands between text and footnotes
+    QString section; ///< the first one
+
+    bool operator==(const KeptParts&) const = default;
+};
+
 /// Receives what a reader finds, in the order of the document.
 ///
 /// A paragraph's shape is known when it ends, so text and pictures come first and the paragraph
@@ -29,6 +44,10 @@ public:
     virtual void paragraphEnd(const ParagraphFormat& paragraph, const CharFormat& mark) = 0;
     /// Comes once, last: the shape of what came behind the last paragraph end.
     virtual void end(const ParagraphFormat& paragraph, const CharFormat& mark) = 0;
+    /// Whether entries of the file's style sheet mean anything where the text goes.
+    virtual bool takesStyles(const QString& /*styles*/) { return true; }
+    /// Comes once, ahead of end().
+    virtual void kept(const KeptParts& /*parts*/) {}
     /// Whether nothing more can be taken. The reading ends there.
     virtual bool isFull() const { return false; }
     /// The distance of default tab stops in twips, where the file names one.

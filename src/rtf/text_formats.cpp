@@ -25,20 +25,31 @@ QTextCharFormat::UnderlineStyle shownUnderline(Underline underline) {
     case Underline::None:
         return QTextCharFormat::NoUnderline;
     case Underline::Dotted:
+    case Underline::ThickDotted:
         return QTextCharFormat::DotLine;
     case Underline::Dash:
+    case Underline::LongDash:
+    case Underline::ThickDash:
+    case Underline::ThickLongDash:
         return QTextCharFormat::DashUnderline;
     case Underline::DashDot:
+    case Underline::ThickDashDot:
         return QTextCharFormat::DashDotLine;
+    case Underline::DashDotDot:
+    case Underline::ThickDashDotDot:
+        return QTextCharFormat::DashDotDotLine;
     case Underline::Wave:
+    case Underline::HeavyWave:
+    case Underline::DoubleWave:
         return QTextCharFormat::WaveUnderline;
     default:
         return QTextCharFormat::SingleUnderline;
     }
 }
 
-Underline underlineOf(const QTextCharFormat& format) {
-    switch (format.underlineStyle()) {
+/// The underline that a document means where it shows a style.
+Underline plainUnderline(QTextCharFormat::UnderlineStyle style) {
+    switch (style) {
     case QTextCharFormat::NoUnderline:
         return Underline::None;
     case QTextCharFormat::DotLine:
@@ -46,18 +57,35 @@ Underline underlineOf(const QTextCharFormat& format) {
     case QTextCharFormat::DashUnderline:
         return Underline::Dash;
     case QTextCharFormat::DashDotLine:
-    case QTextCharFormat::DashDotDotLine:
         return Underline::DashDot;
+    case QTextCharFormat::DashDotDotLine:
+        return Underline::DashDotDot;
     case QTextCharFormat::WaveUnderline:
     case QTextCharFormat::SpellCheckUnderline:
         return Underline::Wave;
     case QTextCharFormat::SingleUnderline:
         break;
     }
-    const auto kept = static_cast<Underline>(format.intProperty(UnderlineKind));
-    const bool shownAsSingle =
-        kept == Underline::Words || kept == Underline::Double || kept == Underline::Thick;
-    return shownAsSingle ? kept : Underline::Single;
+    return Underline::Single;
+}
+
+/// The underline that came from a file holds as long as the style that it shows as.
+Underline underlineOf(const QTextCharFormat& format) {
+    const QTextCharFormat::UnderlineStyle style = format.underlineStyle();
+    const int kept = format.intProperty(UnderlineKind);
+    const bool known = kept > int(Underline::None) && kept <= int(Underline::DoubleWave);
+    if (known && shownUnderline(static_cast<Underline>(kept)) == style)
+        return static_cast<Underline>(kept);
+    return plainUnderline(style);
+}
+
+/// Pixels between the characters, held to what no line can be upset by.
+double shownSpacing(const CharFormat& format) {
+    constexpr int Widest = 200; // twips
+    constexpr int TwipsPerHalfPoint = 10;
+    constexpr int NarrowestShare = 5; // of the size
+    const int narrowest = format.halfPoints * TwipsPerHalfPoint / NarrowestShare;
+    return std::clamp(format.spacing, -narrowest, Widest) / TwipsPerPixel;
 }
 
 } // namespace
@@ -70,16 +98,19 @@ QTextCharFormat textFormat(const CharFormat& format, const Names& names) {
     text.setFontWeight(format.bold ? QFont::Bold : QFont::Normal);
     text.setFontItalic(format.italic);
     text.setFontStrikeOut(format.strike);
+    if (format.doubleStrike)
+        text.setProperty(DoubleStrike, true);
     if (format.controlMarks)
         text.setProperty(ControlMarks, true);
     text.setUnderlineStyle(shownUnderline(format.underline));
-    if (format.underline == Underline::Words || format.underline == Underline::Double ||
-        format.underline == Underline::Thick)
+    if (format.underline != plainUnderline(text.underlineStyle()))
         text.setProperty(UnderlineKind, int(format.underline));
     if (format.color != AutomaticColor)
         text.setForeground(QColor::fromRgb(format.color));
     if (format.highlight != AutomaticColor)
         text.setBackground(QColor::fromRgb(format.highlight));
+    if (format.shading)
+        text.setProperty(CharacterShading, true);
     if (format.script != Script::Normal)
         text.setVerticalAlignment(format.script == Script::Super ? QTextCharFormat::AlignSuperScript
                                                                  : QTextCharFormat::AlignSubScript);
@@ -88,6 +119,13 @@ QTextCharFormat textFormat(const CharFormat& format, const Names& names) {
     if (format.capitals != Capitals::AsTyped)
         text.setFontCapitalization(format.capitals == Capitals::All ? QFont::AllUppercase
                                                                     : QFont::SmallCaps);
+    if (format.spacing != 0) {
+        text.setProperty(CharacterSpacing, format.spacing);
+        text.setFontLetterSpacingType(QFont::AbsoluteSpacing);
+        text.setFontLetterSpacing(shownSpacing(format));
+    }
+    if (format.kept != NothingKept)
+        text.setProperty(KeptOfCharacters, names.keptAt(format.kept));
     if (format.hidden) {
         text.setProperty(HiddenText, int(format.color));
         text.setForeground(QColor(Qt::transparent));
@@ -109,12 +147,16 @@ CharFormat charFormat(const QTextCharFormat& format, Names& names, const QFont& 
     result.bold = isBold(format, defaultFont);
     result.italic = isItalic(format, defaultFont);
     result.strike = format.fontStrikeOut();
+    result.doubleStrike = result.strike && format.boolProperty(DoubleStrike);
+    result.spacing = format.intProperty(CharacterSpacing);
+    result.kept = names.kept(format.stringProperty(KeptOfCharacters));
     result.controlMarks = format.boolProperty(ControlMarks);
     result.underline = underlineOf(format);
     result.hidden = format.hasProperty(HiddenText);
     result.color = colorOf(format);
     if (format.background().style() != Qt::NoBrush)
         result.highlight = format.background().color().rgb();
+    result.shading = result.highlight != AutomaticColor && format.boolProperty(CharacterShading);
     switch (format.verticalAlignment()) {
     case QTextCharFormat::AlignSuperScript:
         result.script = Script::Super;

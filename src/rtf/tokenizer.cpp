@@ -121,6 +121,7 @@ void Tokenizer::word(Token& token) {
     token.kind = TokenKind::Word;
     token.hasParameter = false;
     token.parameter = 0;
+    token.bytes = QByteArrayView(start, length);
     token.word = length <= LongestControlWord ? findControlWord(QByteArrayView(start, length), hash)
                                               : nullptr;
 
@@ -154,6 +155,12 @@ void Tokenizer::binary(Token& token, int claimed) {
     token.binaryCutShort = length < wanted;
     token.bytes = QByteArrayView(m_at, length);
     m_at += length;
+}
+
+QByteArrayView Tokenizer::groupAhead() const {
+    Tokenizer ahead(*this);
+    const bool closed = ahead.skipGroup();
+    return {m_at, ahead.m_at - m_at - (closed ? 1 : 0)};
 }
 
 bool Tokenizer::hasStructureAhead() const {

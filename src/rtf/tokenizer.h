@@ -28,7 +28,7 @@ struct Token {
     bool binaryCutShort = false;       ///< of Binary: it claimed more than there is
     int parameter = 0;                 ///< of Word, held to the range of int
     const ControlWord* word = nullptr; ///< of Word; null for one that nobody knows
-    QByteArrayView bytes;              ///< of Text and Binary
+    QByteArrayView bytes;              ///< of Text and Binary; the name of a Word
 };
 
 /// Cuts bytes into tokens. It copies nothing, and never reads past the end.
@@ -45,6 +45,8 @@ public:
     bool skipGroup();
     /// Whether a brace is ahead that closes more than is opened from here on.
     bool closesFurther() const;
+    /// What skipGroup() would pass over, without the brace that closes the group.
+    QByteArrayView groupAhead() const;
     /// Whether any brace or backslash is left.
     bool hasStructureAhead() const;
     qsizetype position() const { return m_at - m_begin; }

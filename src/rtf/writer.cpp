@@ -4,6 +4,7 @@
 
 #include "rtf/block_formats.h"
 #include "rtf/body_writer.h"
+#include "rtf/kept_parts.h"
 #include "rtf/picture_format.h"
 #include "rtf/text_formats.h"
 
@@ -34,10 +35,21 @@ public:
             paragraph(block, position);
             position += block.length();
         }
-        return m_body.file(m_defaultTab);
+        return m_body.file(m_defaultTab, partsToWrite());
     }
 
 private:
+    /// A part of a document has a page of its own wherever it goes.
+    KeptParts partsToWrite() const {
+        KeptParts parts = keptParts(m_document);
+        if (m_from == 0 && m_to == m_document.characterCount() - 1)
+            return parts;
+        KeptParts ofPart;
+        ofPart.language = parts.language;
+        ofPart.styles = parts.styles;
+        return ofPart;
+    }
+
     // Positions are counted along the way: a block and a fragment find theirs only by a search.
     void paragraph(const QTextBlock& block, int position) {
         const ParagraphFormat& paragraphShape = shape(block);
@@ -98,8 +110,8 @@ private:
         const int index = block.blockFormatIndex();
         if (index != m_shapeIndex) {
             m_shapeIndex = index;
-            m_shape =
-                paragraphFormat(block.blockFormat(), block.textList(), m_document.indentWidth());
+            m_shape = paragraphFormat(block.blockFormat(), block.textList(),
+                                      m_document.indentWidth(), m_body.names());
         }
         return m_shape;
     }

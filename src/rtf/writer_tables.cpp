@@ -86,9 +86,11 @@ int WriterTables::list(const ParagraphFormat& item) {
     return number;
 }
 
-void WriterTables::write(RtfOutput& out) const {
+void WriterTables::write(RtfOutput& out, QByteArrayView styles) const {
     writeFonts(out);
     writeColors(out);
+    if (!styles.isEmpty())
+        out.structure(styles);
     writeLists(out);
 }
 

@@ -32,7 +32,8 @@ public:
     int list(const ParagraphFormat& item);
 
     /// Appends the tables with all that was used so far.
-    void write(RtfOutput& out) const;
+    /// \param styles the style sheet, which has its place among them.
+    void write(RtfOutput& out, QByteArrayView styles) const;
 
 private:
     void writeFonts(RtfOutput& out) const;

@@ -36,7 +36,63 @@ private slots:
     void rtfCanBeSetInsideABatch();
     void everyCodeSurvivesRtf();
     void bulletsAndIndentsSurviveRtf();
+    void newTextKeepsNothingOfTheFile();
+    void rtfSetInsideABatchBringsItsPage();
+    void bothHalvesOfAParagraphAreKeptTogether();
+    void aSectionBeginsWithOneHalfOnly();
+    void theSelectionTakesItsParagraphsAlong();
 };
+
+void RichTextBoxRtfTest::newTextKeepsNothingOfTheFile() {
+    RichTextBox box;
+    box.SetTextRTF("{\\rtf1\\paperw5000{\\colortbl;\\red255\\green0\\blue0;}{\\header Over}"
+                   "\\pard\\keep\\cbpat1\\lang1031 a\\par}"_ba);
+    QVERIFY(box.TextRTF().contains("\\paperw5000"));
+    box.SetText(u"b"_s);
+    const QByteArray rtf = box.TextRTF();
+    for (const char* word : {"\\paperw", "\\header", "\\keep", "\\cbpat", "\\lang1031"})
+        QVERIFY2(!rtf.contains(word), rtf);
+    QCOMPARE(box.document()->firstBlock().blockFormat().background().style(), Qt::NoBrush);
+}
+
+void RichTextBoxRtfTest::rtfSetInsideABatchBringsItsPage() {
+    RichTextBox box;
+    box.SetTextRTF("{\\rtf1\\paperw5000 a\\par}"_ba);
+    {
+        const RichTextBox::Batch batch(box);
+        box.SetTextRTF("{\\rtf1\\paperw6000 b\\par}"_ba);
+    }
+    QVERIFY2(box.TextRTF().contains("\\paperw6000"), box.TextRTF());
+    QVERIFY(!box.TextRTF().contains("\\paperw5000"));
+}
+
+void RichTextBoxRtfTest::bothHalvesOfAParagraphAreKeptTogether() {
+    RichTextBox box;
+    box.SetTextRTF("{\\rtf1\\pard\\keep\\brdrt\\brdrs ab\\par}"_ba);
+    box.SetSelStart(1);
+    QTest::keyClick(&box, Qt::Key_Return);
+    QCOMPARE(box.Text(), u"a\r\nb"_s);
+    const QByteArray rtf = box.TextRTF();
+    QCOMPARE(rtf.count("\\pard"), 1);
+    QVERIFY2(rtf.contains("\\pard\\keep\\brdrt\\brdrs"), rtf);
+}
+
+void RichTextBoxRtfTest::aSectionBeginsWithOneHalfOnly() {
+    RichTextBox box;
+    box.SetTextRTF("{\\rtf1 x\\sect\\sectd\\cols2 ab\\par}"_ba);
+    box.SetSelStart(4);
+    QTest::keyClick(&box, Qt::Key_Return);
+    QCOMPARE(box.Text(), u"x\r\na\r\nb"_s);
+    QCOMPARE(box.TextRTF().count("\\sectd"), 1);
+}
+
+void RichTextBoxRtfTest::theSelectionTakesItsParagraphsAlong() {
+    RichTextBox box;
+    box.SetTextRTF("{\\rtf1\\pard\\keepn\\outl one\\par\\pard two\\par}"_ba);
+    box.SetSelStart(0);
+    box.SetSelLength(4);
+    QVERIFY2(box.SelRTF().contains("\\pard\\keepn\\outl"), box.SelRTF());
+}
 
 void RichTextBoxRtfTest::theWholeDocumentGoesFromBoxToBox() {
     RichTextBox left;

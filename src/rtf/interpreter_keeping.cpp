@@ -1,0 +1,142 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/interpreter.h"
+#include "rtf/kept_group.h"
+#include "rtf/kept_text.h"
+
+namespace orvalis::rtf {
+
+namespace {
+
+bool isStarred(KeptPlace place) {
+    return place == KeptPlace::StarredInfo || place == KeptPlace::Notes;
+}
+
+bool hasLook(KeptPlace place) {
+    return place == KeptPlace::Section || place == KeptPlace::Notes;
+}
+
+} // namespace
+
+bool Interpreter::keptWord(const Token& token) {
+    if (token.word->action == Action::SectionDefaults) {
+        m_keptOfSection = 0;
+        m_state.border = nullptr;
+        return true;
+    }
+    if (token.word->action != Action::Keep)
+        return false;
+    if (!shows())
+        return true;
+    KeptWord kept = rtf::keptWord(*token.word);
+    KeptCall call{token.word, nullptr, token.hasParameter, token.parameter};
+    if (kept.kind == KeptKind::Side)
+        m_state.border = call.side = token.word;
+    else if (kept.level == KeptLevel::Border)
+        call.side = m_state.border;
+    if (kept.level == KeptLevel::Border) {
+        if (!call.side)
+            return true;
+        kept.level = rtf::keptWord(*call.side).level;
+    }
+    if (kept.kind == KeptKind::Color) {
+        call.hasNumber = true;
+        call.number = int(color(token.parameter));
+    }
+    if (kept.kind == KeptKind::Style && !m_stylesKept)
+        return true;
+    switch (kept.level) {
+    case KeptLevel::Characters:
+        keepCharacters(m_kept.with(m_state.keptOfChars, call));
+        return true;
+    case KeptLevel::Paragraph:
+        keepParagraph(m_kept.with(m_state.keptOfParagraph, call));
+        return true;
+    case KeptLevel::Section:
+        m_keptOfSection = m_kept.with(m_keptOfSection, call);
+        return true;
+    case KeptLevel::Document:
+        m_keptOfDocument = m_kept.with(m_keptOfDocument, call);
+        return true;
+    default:
+        return true;
+    }
+}
+
+void Interpreter::keepCharacters(int set) {
+    m_state.keptOfChars = set;
+    m_state.chars.kept = m_kept.name(set);
+}
+
+void Interpreter::keepParagraph(int set) {
+    m_state.keptOfParagraph = set;
+    m_state.paragraph.kept = m_kept.name(set);
+}
+
+void Interpreter::keepGroup(const Token& token) {
+    if (m_state.destination != Destination::Body || m_state.deleted) {
+        skipGroup();
+        return;
+    }
+    const auto place = static_cast<KeptPlace>(token.word->value);
+    const QByteArrayView content = m_tokenizer.groupAhead();
+    const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, m_defaultFont};
+    const QByteArray head = (isStarred(place) ? "{\\*\\" : "{\\") + token.bytes.toByteArray();
+    const QString group = GroupKeeper(content, tables).kept(head, hasLook(place), m_keptLeft);
+    m_keptLeft -= group.size();
+    skipGroup();
+    placeGroup(place, group);
+}
+
+void Interpreter::placeGroup(KeptPlace place, const QString& group) {
+    switch (place) {
+    case KeptPlace::Styles:
+        m_stylesKept = m_sink.takesStyles(group);
+        m_parts.styles = group;
+        return;
+    case KeptPlace::Info:
+    case KeptPlace::StarredInfo:
+        m_parts.info += group;
+        return;
+    case KeptPlace::Notes:
+        m_parts.notes += group;
+        return;
+    case KeptPlace::Section:
+        m_sectionGroups += group;
+        return;
+    }
+}
+
+/// What was gathered so far belongs to the section that ends; its words go on to hold.
+void Interpreter::sectionEnd() {
+    m_paragraphBeforeSection = !m_inParagraph;
+    if (m_inParagraph)
+        paragraphEnd();
+    tellFirstSection();
+    m_sectionGroups.clear();
+    m_sectionBegins = true;
+}
+
+QString Interpreter::sectionBreak() const {
+    return (m_paragraphBeforeSection ? ParagraphEndsFirst.toString() : QString()) +
+           QStringLiteral("\\sect") + sectionText();
+}
+
+void Interpreter::tellFirstSection() {
+    if (!std::exchange(m_firstSectionTold, true) &&
+        (m_keptOfSection != 0 || !m_sectionGroups.isEmpty()))
+        m_parts.section = sectionText();
+}
+
+QString Interpreter::sectionText() const {
+    return QStringLiteral("\\sectd") + m_names.keptAt(m_kept.name(m_keptOfSection)) +
+           m_sectionGroups;
+}
+
+void Interpreter::tellKept() {
+    tellFirstSection();
+    m_parts.words = m_names.keptAt(m_kept.name(m_keptOfDocument));
+    m_sink.kept(m_parts);
+}
+
+} // namespace orvalis::rtf

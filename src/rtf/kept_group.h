@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "rtf/font_table.h"
+#include "rtf/rtf_output.h"
+#include "rtf/tokenizer.h"
+
+#include <QList>
+
+#include <vector>
+
+namespace orvalis::rtf {
+
+/// What the numbers in a group stand for.
+struct FileTables {
+    const FontTable& fonts;
+    const QList<QRgb>& colors;
+    const Names& names;
+    const CodePage& page;
+    int defaultFont;
+};
+
+/// Copies a group of RTF in the one spelling of what is kept (see kept_text.h): what is copied and
+/// read again is copied the same.
+class GroupKeeper {
+public:
+    /// \param content what stands behind the group's first word, up to its closing brace.
+    GroupKeeper(QByteArrayView content, const FileTables& tables);
+
+    /// \param head the opening brace and the first word.
+    /// \param ownText false for what has no look: then no font is named for text that names none.
+    /// \returns nothing when it would be longer than the limit.
+    QString kept(QByteArrayView head, bool ownText, qsizetype limit);
+
+private:
+    struct Group {
+        const CodePage* page = nullptr;
+        int unicodeSkip = 1;
+        bool symbols = false;
+        bool picture = false;
+        bool quiet = false;     ///< its text names no font by itself
+        bool needsFont = false; ///< text without a font of its own would take the first of the file
+    };
+
+    void take(const Token& token);
+    void openGroup();
+    void closeGroup();
+    void word(const Token& token);
+    void symbol(uchar character);
+    void selectFont(const Token& token);
+    void bytes(QByteArrayView run);
+    void pictureBytes(QByteArrayView run);
+    void flushPending();
+    void text(QStringView text);
+    void plain();
+    void copy(const Token& token);
+
+    Tokenizer m_tokenizer;
+    const FileTables& m_tables;
+    RtfOutput m_out;
+    std::vector<Group> m_groups;
+    Group m_state;
+    QByteArray m_pending;
+    int m_fallbackToSkip = 0;
+};
+
+} // namespace orvalis::rtf

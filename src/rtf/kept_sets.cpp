@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/kept_sets.h"
+
+#include "rtf/kept_text.h"
+
+#include <algorithm>
+#include <tuple>
+
+namespace orvalis::rtf {
+
+namespace {
+
+constexpr qint64 BytesOfStep = 64;
+
+} // namespace
+
+int KeptSets::with(int set, const KeptCall& call) {
+    const KeptWord kind = keptWord(*call.word);
+    Entry entry{.source = call.word, .hasNumber = call.hasNumber, .number = call.number};
+    if (call.side)
+        entry.side = keptOrder(*call.side) + 1;
+    if (kind.kind != KeptKind::Side)
+        entry.word = keptOrder(*call.word) + 1;
+    const Step step{set, entry.side, entry.word, entry.hasNumber, entry.number};
+    if (const auto known = m_steps.constFind(step); known != m_steps.constEnd())
+        return *known;
+    if (m_bytesLeft <= 0)
+        return set;
+    Set made{m_sets[size_t(set)].entries};
+    apply(made.entries, entry);
+    const QString words = text(made.entries);
+    made.name = m_names.kept(words);
+    m_bytesLeft -= BytesOfStep;
+    int number = made.entries.empty() ? 0 : m_byName.value(made.name);
+    if (number == 0 && !made.entries.empty()) {
+        m_bytesLeft -= qint64(made.entries.size() * sizeof(Entry)) + 2 * words.size();
+        number = int(m_sets.size());
+        m_byName.insert(made.name, number);
+        m_sets.push_back(std::move(made));
+    }
+    m_steps.insert(step, number);
+    return number;
+}
+
+void KeptSets::apply(std::vector<Entry>& entries, const Entry& entry) {
+    const KeptWord kind = keptWord(*entry.source);
+    const auto givesWay = [&](const Entry& other) {
+        if (other.side != entry.side)
+            return false;
+        // A border that is named once more begins anew.
+        if (kind.kind == KeptKind::Side || other.word == entry.word)
+            return true;
+        return kind.rivals != 0 && keptWord(*other.source).rivals == kind.rivals;
+    };
+    entries.erase(std::remove_if(entries.begin(), entries.end(), givesWay), entries.end());
+    const bool taken = entry.hasNumber && entry.number == 0 &&
+                       (kind.kind == KeptKind::Switch || kind.kind == KeptKind::Color);
+    if (taken)
+        return;
+    const auto order = [](const Entry& a, const Entry& b) {
+        return std::tie(a.side, a.word) < std::tie(b.side, b.word);
+    };
+    entries.insert(std::upper_bound(entries.begin(), entries.end(), entry, order), entry);
+}
+
+QString KeptSets::text(const std::vector<Entry>& entries) {
+    QString words;
+    for (const Entry& entry : entries) {
+        words += u'\\';
+        words += QLatin1StringView(entry.source->name);
+        if (!entry.hasNumber)
+            continue;
+        switch (keptWord(*entry.source).kind) {
+        case KeptKind::Color:
+            words += keptColor(QRgb(entry.number));
+            break;
+        case KeptKind::Number:
+        case KeptKind::Style:
+            words += QString::number(entry.number);
+            break;
+        default:
+            break;
+        }
+    }
+    return words;
+}
+
+} // namespace orvalis::rtf

@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/kept_text.h"
+
+#include "rtf/rtf_output.h"
+#include "rtf/writer_tables.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace orvalis::rtf {
+
+namespace {
+
+// What is kept has no characters of its own below a blank.
+constexpr QChar PlaceStart(0x1);
+constexpr QChar PlaceEnd(0x2);
+constexpr QChar FontPlace = u'f';
+constexpr QChar ColorPlace = u'c';
+
+QString place(QChar kind, const QString& what) {
+    return QString(PlaceStart) + kind + what + PlaceEnd;
+}
+
+int number(QStringView place, WriterTables& tables) {
+    const QString what = place.sliced(1).toString();
+    if (place.front() == FontPlace && what.isEmpty())
+        return 0;
+    if (place.front() == FontPlace)
+        return tables.font(tables.names().family(what));
+    return tables.color(QRgb(what.toUInt(nullptr, 16)));
+}
+
+bool endsWord(QStringView text) {
+    const QChar last = text.back();
+    return (last >= u'a' && last <= u'z') || (last >= u'A' && last <= u'Z') ||
+           (last >= u'0' && last <= u'9');
+}
+
+/// The colour whose place follows a word.
+QRgb colorBehind(QStringView kept, QStringView word, QRgb otherwise) {
+    const qsizetype at = kept.indexOf(word);
+    if (at < 0)
+        return otherwise;
+    const QStringView rest = kept.sliced(at + word.size());
+    return QRgb(rest.first(std::max<qsizetype>(rest.indexOf(PlaceEnd), 0)).toUInt(nullptr, 16));
+}
+
+} // namespace
+
+QString keptFont(const QString& family) {
+    return place(FontPlace, family);
+}
+
+QString keptColor(QRgb color) {
+    return place(ColorPlace, QString::number(color, 16));
+}
+
+void writeKept(RtfOutput& out, WriterTables& tables, QStringView kept) {
+    while (!kept.isEmpty()) {
+        const qsizetype at = kept.indexOf(PlaceStart);
+        const QStringView ahead = at < 0 ? kept : kept.first(at);
+        if (!ahead.isEmpty()) {
+            if (endsWord(ahead))
+                out.word(ahead.toLatin1());
+            else
+                out.structure(ahead.toLatin1());
+        }
+        if (at < 0)
+            return;
+        const qsizetype end = kept.indexOf(PlaceEnd, at);
+        if (end < at + 2)
+            return;
+        out.word({}, number(kept.sliced(at + 1, end - at - 1), tables));
+        kept = kept.sliced(end + 1);
+    }
+}
+
+QRgb shadeOf(QStringView kept) {
+    static const QString Ground = u"\\cbpat"_s + PlaceStart + ColorPlace;
+    static const QString Pattern = u"\\cfpat"_s + PlaceStart + ColorPlace;
+    static constexpr QStringView Share = u"\\shading";
+    const QRgb ground = colorBehind(kept, Ground, AutomaticColor);
+    const qsizetype at = kept.indexOf(Share);
+    if (at < 0)
+        return ground;
+    constexpr int Whole = 10000;
+    qsizetype end = at + Share.size();
+    while (end < kept.size() && kept[end].isDigit())
+        ++end;
+    const int share = kept.sliced(at + Share.size(), end - at - Share.size()).toInt();
+    if (share <= 0 || share > Whole)
+        return ground;
+    const QRgb below = ground == AutomaticColor ? qRgb(255, 255, 255) : ground;
+    const QRgb above = colorBehind(kept, Pattern, qRgb(0, 0, 0));
+    const auto mixed = [&](int one, int other) {
+        return (one * share + other * (Whole - share)) / Whole;
+    };
+    return qRgb(mixed(qRed(above), qRed(below)), mixed(qGreen(above), qGreen(below)),
+                mixed(qBlue(above), qBlue(below)));
+}
+
+} // namespace orvalis::rtf

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QRgb>
+#include <QString>
+
+namespace orvalis::rtf {
+
+class RtfOutput;
+class WriterTables;
+
+/// RTF that is kept as it came, in one spelling: 7-bit, text in code page 1252 with \u for the
+/// rest. Fonts and colours stand in it by what they are, each in a place of its own, because the
+/// tables of the file that it is written to number them otherwise.
+
+/// The place of a font's number; of no family, the number of the first font.
+QString keptFont(const QString& family);
+/// The place of a colour's number.
+QString keptColor(QRgb color);
+
+/// Writes what is kept, its fonts and colours by the numbers of these tables.
+void writeKept(RtfOutput& out, WriterTables& tables, QStringView kept);
+
+/// What the kept text of a section's begin starts with where the section ahead of it ends behind a
+/// paragraph of its own, which most readers show as a further one.
+inline constexpr QStringView ParagraphEndsFirst = u"\\par";
+
+/// The colour that kept words of a paragraph lay behind it; AutomaticColor for none.
+QRgb shadeOf(QStringView kept);
+
+} // namespace orvalis::rtf

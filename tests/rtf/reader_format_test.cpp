@@ -73,7 +73,7 @@ void ReaderFormatTest::everyCharacterWordChangesWhatItNames_data() {
     row(
         "\\strike\\strike0", [](CharFormat&) {});
     row(
-        "\\striked1", [](CharFormat& f) { f.strike = true; });
+        "\\striked1", [](CharFormat& f) { f.strike = f.doubleStrike = true; });
     row(
         "\\v", [](CharFormat& f) { f.hidden = true; });
     row(

@@ -154,7 +154,7 @@ public:
     }
     bool picture(const Picture& /*picture*/, const CharFormat& /*format*/) override { return true; }
     void paragraphEnd(const ParagraphFormat& paragraph, const CharFormat& mark) override {
-        m_paragraphs.push_back({blockFormat(paragraph, *m_names), textFormat(mark, *m_names),
+        m_paragraphs.push_back({blockFormat(paragraph, *m_names, 720), textFormat(mark, *m_names),
                                 std::exchange(m_line, {})});
     }
     void end(const ParagraphFormat& /*paragraph*/, const CharFormat& /*mark*/) override {}

@@ -4,9 +4,11 @@
 
 #include "controls/list_numbers.h"
 #include "controls/rich_text_box.h"
+#include "controls/tab_leaders.h"
 #include "controls/text_positions.h"
 #include "rtf/document_room.h"
 #include "rtf/format_properties.h"
+#include "rtf/paragraph_place.h"
 #include "runtime/failure.h"
 #include "runtime/twips.h"
 
@@ -111,12 +113,13 @@ void RangeFormatter::prepare(const FormatRange& range, QPaintDevice& device) {
     // Another device can stand where one stood before.
     const QSize dots(device.logicalDpiX(), device.logicalDpiY());
     if (m_copy && m_revision == document.revision() && m_device == &device && m_dots == dots &&
-        m_page == page)
+        m_page == page && m_left == range.rect.left())
         return;
     m_revision = document.revision();
     m_device = &device;
     m_dots = dots;
     m_page = page;
+    m_left = range.rect.left();
     m_copy.reset(document.clone());
     m_copy->setUndoRedoEnabled(false);
     m_copy->setDocumentMargin(0);
@@ -124,6 +127,7 @@ void RangeFormatter::prepare(const FormatRange& range, QPaintDevice& device) {
     if (option.wrapMode() != QTextOption::WrapAnywhere) // which long words need
         option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     m_copy->setDefaultTextOption(option);
+    standAcrossMargin(range.rect.left());
     shrinkPictures(page / TwipsPerPixel);
     layOut(device);
     collectLines();
@@ -158,6 +162,19 @@ double RangeFormatter::layOut(const QSize& dots) {
     m_ruler = std::move(ruler);
     m_copy->setTextWidth(m_page.width() * dots.width() / TwipsPerInch);
     return m_copy->documentLayout()->documentSize().height();
+}
+
+/// What has no room on the screen left of the margin has it on paper.
+/// \param room twips left of the margin.
+void RangeFormatter::standAcrossMargin(qreal room) {
+    for (QTextBlock block = m_copy->begin(); block.isValid(); block = block.next()) {
+        QTextBlockFormat paragraph = block.blockFormat();
+        const int overhang = rtf::overhangOf(paragraph);
+        if (overhang == 0 || overhang > room)
+            continue;
+        rtf::standAcrossMargin(paragraph);
+        QTextCursor(block).setBlockFormat(paragraph);
+    }
 }
 
 void RangeFormatter::shrinkPictures(const QSizeF& page) {
@@ -275,6 +292,7 @@ void RangeFormatter::draw(const FormatRange& range, const Line& first, const Lin
     context.palette.setColor(QPalette::Text, Qt::black);
     m_copy->documentLayout()->draw(&painter, context);
     drawListNumbers(painter, *m_copy, context);
+    drawTabLeaders(painter, *m_copy, context);
     painter.restore();
 }
 

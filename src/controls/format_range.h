@@ -53,6 +53,7 @@ private:
     void prepare(const FormatRange& range, QPaintDevice& device);
     void layOut(QPaintDevice& device);
     double layOut(const QSize& dots);
+    void standAcrossMargin(qreal room);
     void shrinkPictures(const QSizeF& page);
     void collectLines();
     void draw(const FormatRange& range, const Line& first, const Line& last, int from, int to);
@@ -67,6 +68,7 @@ private:
     QSize m_counted; ///< of the layout to the inch; as many, or fewer
     std::unique_ptr<QPaintDevice> m_ruler;
     QSizeF m_page; ///< twips
+    qreal m_left = 0;
 };
 
 } // namespace orvalis

@@ -2,12 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "controls/list_numbers.h"
 
+#include "rtf/format_properties.h"
 #include "rtf/list_formats.h"
+#include "rtf/paragraph_place.h"
 
 #include <QPainter>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextLayout>
+#include <QTextList>
+
+#include <algorithm>
 
 namespace orvalis {
 namespace {
@@ -24,6 +29,16 @@ const QTextCharFormat* selectionAt(const QTextBlock& block, const PaintContext& 
     return nullptr;
 }
 
+/// How far left of its text a label begins. One that has outgrown its room stands close to it.
+qreal labelDistance(const QTextBlock& item, qreal width, qreal scale) {
+    const QTextBlockFormat format = item.blockFormat();
+    const int side = item.textList()->format().intProperty(rtf::ListLabelSide);
+    const qreal hanging = -rtf::labelOffset(format) / rtf::TwipsPerPixel * scale;
+    constexpr qreal Sides =
+        2; // the left side hangs by nothing of the width, the right by all of it
+    return std::max(hanging + width * side / Sides, width);
+}
+
 void drawNumber(QPainter& painter, const QTextBlock& item, const PaintContext& context) {
     const QTextLayout& layout = *item.layout();
     if (layout.lineCount() == 0)
@@ -32,7 +47,7 @@ void drawNumber(QPainter& painter, const QTextBlock& item, const PaintContext& c
     const QTextCharFormat mark = item.charFormat();
     const QFont font = device ? QFont(mark.font(), device) : mark.font();
     const QFontMetrics metrics(font);
-    const QString label = rtf::listLabel(item);
+    const QString label = rtf::shownLabel(item);
     const bool leftToRight = item.textDirection() == Qt::LeftToRight;
 
     const QRectF text = layout.lineAt(0).naturalTextRect();
@@ -40,7 +55,8 @@ void drawNumber(QPainter& painter, const QTextBlock& item, const PaintContext& c
     const int gap = metrics.horizontalAdvance(u' ');
     const QPoint corner = layout.position().toPoint() + text.topLeft().toPoint();
     QRectF box(corner, QSizeF(width, metrics.height()));
-    box.translate(leftToRight ? -gap - width : text.width() + gap, 0);
+    const qreal scale = device ? device->logicalDpiY() / 96.0 : 1;
+    box.translate(leftToRight ? -labelDistance(item, width, scale) : text.width() + gap, 0);
 
     if (const QTextCharFormat* selection = selectionAt(item, context)) {
         painter.fillRect(box, selection->background());

@@ -256,8 +256,6 @@ private:
     void endBatch();
     QTextCharFormat selectionFormat() const;
     void drawNoBreakMarks(QPainter& painter, const QRectF& clip);
-    void drawNoBreakMarks(QPainter& painter, const QTextBlock& block, const QTextLine& line,
-                          const QRectF& clip);
 
     const qreal m_usualTabs; ///< pixels
     QString m_tag;

@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "controls/selection_format.h"
 
+#include "rtf/block_formats.h"
 #include "rtf/format_properties.h"
 #include "rtf/format_readers.h"
 #include "rtf/list_formats.h"
+#include "rtf/paragraph_place.h"
 #include "runtime/colour.h"
 #include "runtime/twips.h"
 
@@ -69,6 +71,11 @@ QTextCharFormat formatOfFirst(const QTextCursor& selection) {
 
 rtf::Indents indentsOf(const QTextBlock& block) {
     return rtf::indentsOf(block.blockFormat(), block.textList(), block.document()->indentWidth());
+}
+
+int tabTwips(const QTextBlock& block) {
+    const qreal distance = block.document()->defaultTextOption().tabStopDistance();
+    return qMax(1, pixelsToTwips(distance));
 }
 
 void changeParagraphs(QTextCursor& selection,
@@ -195,13 +202,14 @@ void indentParagraphs(QTextCursor& selection, int twips) {
                 format.setProperty(RequestedIndent, twips);
             else
                 format.clearProperty(RequestedIndent);
-            // How far a label hangs out is not to follow the indent from here on.
-            const int first = indentsOf(block).first;
-            if (block.textList() && format.textIndent() == 0)
-                format.setProperty(rtf::ParagraphFirstIndent, first);
-            const qreal margin = twipsToPixelsF(shownIndent(twips) - first);
-            format.setLeftMargin(margin - rtf::steppedMargin(format, block.textList(),
-                                                             block.document()->indentWidth()));
+            const qreal step = block.document()->indentWidth();
+            rtf::Names names; // which place nothing
+            rtf::ParagraphFormat place =
+                rtf::paragraphFormat(format, block.textList(), step, names);
+            place.left = shownIndent(twips) - place.first;
+            rtf::placeParagraph(format, place, tabTwips(block));
+            format.setLeftMargin(format.leftMargin() -
+                                 rtf::steppedMargin(format, block.textList(), step));
         });
 }
 
@@ -218,8 +226,13 @@ void bulletParagraphs(QTextCursor& selection, bool on) {
         if (hasBullet(block) == on)
             return;
         const int indent = indentOf(block);
+        rtf::Names names; // which place nothing
+        rtf::ParagraphFormat place =
+            rtf::paragraphFormat(format, block.textList(), block.document()->indentWidth(), names);
+        place.list = {};
+        place.left = shownIndent(indent);
+        place.first = 0;
         format.setIndent(0);
-        format.setTextIndent(0);
         if (on) {
             if (!list) {
                 QTextListFormat bullets;
@@ -227,15 +240,16 @@ void bulletParagraphs(QTextCursor& selection, bool on) {
                 bullets.setIndent(0);
                 list = qobject_cast<QTextList*>(QTextCursor(block).createList(bullets));
             }
-            rtf::showLabel(format);
+            rtf::hideLabel(format); // which the box draws
             format.setObjectIndex(list->objectIndex());
-            format.setProperty(rtf::ParagraphFirstIndent, -BulletTwips);
-            format.setLeftMargin(twipsToPixelsF(shownIndent(indent) + BulletTwips));
+            place.list.kind = rtf::ListKind::Bullet;
+            place.left += BulletTwips;
+            place.first = -BulletTwips;
         } else {
+            rtf::showLabel(format);
             format.setObjectIndex(-1);
-            format.clearProperty(rtf::ParagraphFirstIndent);
-            format.setLeftMargin(twipsToPixelsF(shownIndent(indent)));
         }
+        rtf::placeParagraph(format, place, tabTwips(block));
     });
 }
 

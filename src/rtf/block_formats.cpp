@@ -6,6 +6,7 @@
 #include "rtf/format_readers.h"
 #include "rtf/kept_text.h"
 #include "rtf/list_formats.h"
+#include "rtf/paragraph_place.h"
 
 #include <QBrush>
 #include <QTextList>
@@ -68,7 +69,7 @@ void setKept(QTextBlockFormat& block, const ParagraphFormat& format, const Names
 
 } // namespace
 
-QTextBlockFormat blockFormat(const ParagraphFormat& format, const Names& names) {
+QTextBlockFormat blockFormat(const ParagraphFormat& format, const Names& names, int defaultTab) {
     QTextBlockFormat block;
     switch (format.alignment) {
     case Alignment::Left:
@@ -88,12 +89,7 @@ QTextBlockFormat blockFormat(const ParagraphFormat& format, const Names& names) 
         block.setLayoutDirection(Qt::RightToLeft);
     if (format.pageBreakBefore)
         block.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
-    if (format.left != 0)
-        block.setLeftMargin(pixels(format.left));
-    if (format.list.kind != ListKind::None)
-        block.setProperty(ParagraphFirstIndent, format.first);
-    else if (format.first != 0)
-        block.setTextIndent(pixels(format.first));
+    placeParagraph(block, format, defaultTab);
     if (format.right != 0)
         block.setRightMargin(pixels(format.right));
     if (format.before != 0)
@@ -101,14 +97,6 @@ QTextBlockFormat blockFormat(const ParagraphFormat& format, const Names& names) 
     if (format.after != 0)
         block.setBottomMargin(pixels(format.after));
     setLineSpacing(block, format);
-    if (!format.tabs.isEmpty()) {
-        QList<QTextOption::Tab> tabs;
-        for (const TabStop& tab : format.tabs)
-            tabs.append(
-                QTextOption::Tab(pixels(tab.position), tab.type,
-                                 tab.type == QTextOption::DelimiterTab ? QChar(u'.') : QChar()));
-        block.setTabPositions(tabs);
-    }
     setKept(block, format, names);
     return block;
 }
@@ -126,9 +114,8 @@ ParagraphFormat paragraphFormat(const QTextBlockFormat& format, const QTextList*
     result.before = twips(format.topMargin());
     result.after = twips(format.bottomMargin());
     readLineSpacing(format, result);
-    const auto tabs = format.tabPositions();
-    for (const QTextOption::Tab& tab : tabs)
-        result.tabs.append(TabStop{twips(tab.position), tab.type});
+    result.tabs =
+        tabStopsOf(format, result.left + (list ? twips(format.textIndent()) : result.first));
     result.kept = names.kept(format.stringProperty(KeptOfParagraph));
     result.section = names.kept(format.stringProperty(KeptOfSection));
     if (list)

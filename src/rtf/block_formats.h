@@ -12,7 +12,8 @@ namespace orvalis::rtf {
 
 /// Formats of paragraphs in RTF as those of a text document, and back.
 /// Leaves the list out: that is an object of the document.
-QTextBlockFormat blockFormat(const ParagraphFormat& format, const Names& names);
+/// \param defaultTab twips between the tab stops that every paragraph has.
+QTextBlockFormat blockFormat(const ParagraphFormat& format, const Names& names, int defaultTab);
 
 /// \param list of the block, null for none.
 /// \param indentWidth pixels of one step of the indents of lists and blocks.

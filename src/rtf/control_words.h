@@ -55,7 +55,8 @@ enum class Action : quint8 {
     SpaceAfter,
     LineSpacing,
     LineMultiple,
-    TabKind, ///< value: the QTextOption::TabType
+    TabKind,       ///< value: the QTextOption::TabType
+    TabLeaderKind, ///< value: the TabLeader
     TabPosition,
     Direction, ///< value: 1 right to left
     PageBreakBefore,
@@ -105,6 +106,8 @@ enum class Action : quint8 {
     ListLevelKind,
     ListLevelStart,
     ListLevelText,
+    ListLevelFollow,
+    ListLevelSide,
     // Inside \pn
     NumberingBullet,
     NumberingBody,
@@ -112,6 +115,7 @@ enum class Action : quint8 {
     NumberingContinued,
     NumberingKind, ///< value: the ListKind
     NumberingStart,
+    NumberingSide, ///< value: the LabelSide
     // Inside \pict
     PictureSource, ///< value: the PictureKind
     PictureWidth,

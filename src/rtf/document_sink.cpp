@@ -8,10 +8,12 @@
 #include "rtf/list_formats.h"
 #include "rtf/text_formats.h"
 
+#include <QFontMetricsF>
 #include <QTextBlock>
 #include <QTextDocument>
 
 #include <algorithm>
+#include <cmath>
 
 namespace orvalis::rtf {
 
@@ -40,7 +42,14 @@ qint64 searchAmong(qint64 formats) {
     return std::max<qint64>(formats - FormatsSearchedAtOnce, 0) * BytesOfSearch;
 }
 
+constexpr qint64 BytesOfTabStop = 64;
+
 constexpr size_t MostFormats = 16384;
+
+// A label as wide as the numbers of any list of people are.
+constexpr int LongestNumber = 8;
+// The part of their size that the letters of labels are wide at most.
+constexpr double WidestLetter = 0.7;
 
 QTextCharFormat withoutFont(QTextCharFormat format) {
     for (const int property :
@@ -52,12 +61,14 @@ QTextCharFormat withoutFont(QTextCharFormat format) {
 
 } // namespace
 
-DocumentSink::DocumentSink(QTextCursor& cursor, const ReadOptions& options, qsizetype fileSize)
+DocumentSink::DocumentSink(QTextCursor& cursor, const ReadOptions& options, qsizetype fileSize,
+                           std::optional<int> tabTwips)
     : m_cursor(cursor)
     , m_options(options)
     , m_intake(cursor)
     , m_structureLeft(StructureShare * fileSize + Ground)
     , m_pictures{(PixelShare * fileSize + Ground) / RasterBytes}
+    , m_tabTwips(tabTwips)
     , m_intoNothing(cursor.document()->isEmpty())
     , m_textBefore(!cursor.atBlockStart())
     , m_textBehind(!cursor.atBlockEnd())
@@ -155,7 +166,6 @@ void DocumentSink::fallbackPicture(const Picture& picture) {
 }
 
 void DocumentSink::paragraphEnd(const ParagraphFormat& paragraph, const CharFormat& mark) {
-    countTabs(paragraph);
     if (!spend(BytesOfParagraph + searchAmong(m_families.size()) + searchAmong(m_tabRows.size()))) {
         text(QStringView(u"\u2028"), mark);
         return;
@@ -163,13 +173,17 @@ void DocumentSink::paragraphEnd(const ParagraphFormat& paragraph, const CharForm
     insertParagraph(paragraph, mark);
 }
 
-void DocumentSink::countTabs(const ParagraphFormat& paragraph) {
-    if (paragraph.tabs.isEmpty() || (m_hasBlockFormat && paragraph.tabs == m_paragraph.tabs))
+void DocumentSink::countTabs(const QTextBlockFormat& format) {
+    if (!format.hasProperty(QTextFormat::TabPositions))
         return;
+    const QList<QTextOption::Tab> stops = format.tabPositions();
     size_t hash = 0;
-    for (const TabStop& tab : paragraph.tabs)
-        hash = qHashMulti(hash, tab.position, int(tab.type));
+    for (const QTextOption::Tab& stop : stops)
+        hash = qHashMulti(hash, stop.position, int(stop.type));
+    const qsizetype known = m_tabRows.size();
     m_tabRows.insert(hash);
+    if (m_tabRows.size() > known)
+        spend(BytesOfTabStop * stops.size());
 }
 
 void DocumentSink::end(const ParagraphFormat& paragraph, const CharFormat& mark) {
@@ -186,7 +200,8 @@ void DocumentSink::end(const ParagraphFormat& paragraph, const CharFormat& mark)
 void DocumentSink::insertParagraph(const ParagraphFormat& paragraph, const CharFormat& mark) {
     if (!m_hasBlockFormat || !(m_paragraph == paragraph)) {
         m_paragraph = paragraph;
-        m_blockFormat = blockFormat(paragraph, *m_names);
+        m_blockFormat = blockFormat(paragraph, *m_names, tabTwips());
+        countTabs(m_blockFormat);
         m_shape = paragraphShape(m_blockFormat);
         m_hasBlockFormat = true;
     }
@@ -201,6 +216,7 @@ void DocumentSink::insertParagraph(const ParagraphFormat& paragraph, const CharF
         // A block that holds text of its own keeps its shape; an empty one takes what comes, and
         // one with text behind the cursor does when its start is cut off by a further paragraph.
         m_firstParagraph = paragraph;
+        m_firstStart = start;
         if (!m_textBefore && !m_textBehind) {
             shapeFirst();
             m_cursor.setBlockCharFormat(startFormat);
@@ -209,7 +225,7 @@ void DocumentSink::insertParagraph(const ParagraphFormat& paragraph, const CharF
         if (!m_textBefore && !m_firstShaped)
             shapeFirst();
         m_cursor.insertBlock(m_blockFormat, startFormat);
-        joinList(paragraph);
+        joinList(paragraph, start);
     }
     if (first && m_textBefore)
         insertRuns(paragraphShape(m_cursor.blockFormat()));
@@ -221,8 +237,8 @@ void DocumentSink::insertParagraph(const ParagraphFormat& paragraph, const CharF
 
 void DocumentSink::shapeFirst() {
     m_firstShaped = true;
-    m_cursor.setBlockFormat(blockFormat(m_firstParagraph, *m_names));
-    joinList(m_firstParagraph);
+    m_cursor.setBlockFormat(blockFormat(m_firstParagraph, *m_names, tabTwips()));
+    joinList(m_firstParagraph, m_firstStart);
 }
 
 void DocumentSink::insertRuns(const ParagraphShape& shape) {
@@ -247,7 +263,33 @@ void DocumentSink::insertRuns(const ParagraphShape& shape) {
     m_text.resize(0);
 }
 
-void DocumentSink::joinList(const ParagraphFormat& paragraph) {
+double DocumentSink::advance(int format, QChar character) {
+    const auto known = m_advances.constFind({format, character});
+    if (known != m_advances.constEnd())
+        return *known;
+    const double width =
+        QFontMetricsF(m_formats[size_t(format)].font()).horizontalAdvance(character);
+    m_advances.insert({format, character}, width);
+    return width;
+}
+
+/// Of a label that hangs well within its room nobody has to know the size.
+LabelSize DocumentSink::labelSize(const ParagraphFormat& paragraph, int start) {
+    const ListLabel& label = paragraph.list;
+    const QString text = labelText(label, m_lists.number());
+    const double room = paragraph.first / -TwipsPerPixel;
+    const bool hangs = label.follow == LabelFollow::Tab && label.side == LabelSide::Left &&
+                       paragraph.tabs.isEmpty() && label.tab == 0;
+    if (hangs && WidestLetter * double(text.size()) * m_letters[size_t(start)].size <= room)
+        return {};
+    double width = 0;
+    for (const QChar character : text)
+        width += advance(start, character);
+    return {int(std::lround(width * TwipsPerPixel)),
+            int(std::lround(advance(start, u' ') * TwipsPerPixel))};
+}
+
+void DocumentSink::joinList(const ParagraphFormat& paragraph, int start) {
     const ListLabel& label = paragraph.list;
     if (label.kind == ListKind::None) {
         m_lists.interrupt();
@@ -257,10 +299,16 @@ void DocumentSink::joinList(const ParagraphFormat& paragraph) {
     if (!list) {
         if (!spend(BytesOfList))
             return;
-        list = m_cursor.createList(listFormat(m_lists.newLabel(), paragraph.left));
+        list = m_cursor.createList(listFormat(m_lists.newLabel()));
         m_lists.began(paragraph, list);
     }
-    m_cursor.mergeBlockFormat(itemFormat(*list));
+    QTextBlockFormat item = m_cursor.blockFormat();
+    item.merge(itemFormat(*list));
+    if (const LabelSize size = labelSize(paragraph, start); size.width > 0) {
+        placeParagraph(item, paragraph, tabTwips(), size);
+        countTabs(item);
+    }
+    m_cursor.setBlockFormat(item);
 }
 
 } // namespace orvalis::rtf

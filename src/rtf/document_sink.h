@@ -5,6 +5,7 @@
 #include "rtf/document_room.h"
 #include "rtf/intake.h"
 #include "rtf/list_keeper.h"
+#include "rtf/paragraph_place.h"
 #include "rtf/picture_format.h"
 #include "rtf/reader.h"
 #include "rtf/sink.h"
@@ -13,6 +14,7 @@
 #include <QTextCursor>
 #include <QTextImageFormat>
 
+#include <optional>
 #include <vector>
 
 namespace orvalis::rtf {
@@ -26,7 +28,9 @@ namespace orvalis::rtf {
 class DocumentSink final : public Sink {
 public:
     /// \param fileSize bytes of the file, by which the memory that is spent is bounded.
-    DocumentSink(QTextCursor& cursor, const ReadOptions& options, qsizetype fileSize);
+    /// \param tabTwips between the document's default stops; none where the file is to tell them.
+    DocumentSink(QTextCursor& cursor, const ReadOptions& options, qsizetype fileSize,
+                 std::optional<int> tabTwips = {});
 
     void begin(const Names& names) override;
     void text(QStringView text, const CharFormat& format) override;
@@ -58,9 +62,12 @@ private:
     void insertParagraph(const ParagraphFormat& paragraph, const CharFormat& mark);
     void shapeFirst();
     void insertRuns(const ParagraphShape& shape);
-    void joinList(const ParagraphFormat& paragraph);
+    void joinList(const ParagraphFormat& paragraph, int start);
+    LabelSize labelSize(const ParagraphFormat& paragraph, int start);
+    double advance(int format, QChar character);
+    int tabTwips() const { return m_tabTwips.value_or(m_defaultTab); }
     bool spend(qint64 bytes);
-    void countTabs(const ParagraphFormat& paragraph);
+    void countTabs(const QTextBlockFormat& format);
 
     QTextCursor& m_cursor;
     ReadOptions m_options;
@@ -71,9 +78,11 @@ private:
     qint64 m_structureLeft; ///< bytes that runs and paragraphs may still cost
     PictureBounds m_pictures;
     int m_defaultTab = 720;
+    std::optional<int> m_tabTwips;
 
     std::vector<QTextCharFormat> m_formats;
-    std::vector<LetterHeight> m_letters; ///< of the formats
+    std::vector<LetterHeight> m_letters;             ///< of the formats
+    QHash<std::pair<int, QChar>, double> m_advances; ///< pixels of a character in a format
     QHash<CharFormat, int> m_formatIndex;
     CharFormat m_lastFormat;
     int m_lastIndex = NoName;
@@ -97,6 +106,7 @@ private:
     bool m_targetStands = false; ///< what follows the insertion is a paragraph of its own
     bool m_firstShaped = false;
     ParagraphFormat m_firstParagraph;
+    int m_firstStart = 0; ///< the format with which it begins
     QTextBlockFormat m_targetFormat;
 };
 

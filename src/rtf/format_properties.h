@@ -31,14 +31,11 @@ enum FormatProperty : int {
     /// Of a character format: the text is hidden, and this its colour (int, an RGB value with the
     /// alpha byte set, 0 for the automatic one). It is drawn in nothing and takes no width.
     HiddenText,
-    /// Of a list item's block format: its first line's indent in twips (int). Qt hangs the label
-    /// left of the text by itself, so textIndent stays 0.
+    /// Of a list item's block format: its first line's indent in twips (int), where its label
+    /// begins. textIndent is that of the text behind the label.
     ParagraphFirstIndent,
     /// Of a list format: the number of its first item (int, 1 when absent).
     ListStart,
-    /// Of a list format: true when its indent only makes room for the label on the screen and is
-    /// no part of the paragraph's own indent.
-    ListIndentIsRoom,
     /// Of a character format: twips between the characters (int), which the letter spacing shows
     /// unless the text is hidden.
     CharacterSpacing,
@@ -53,6 +50,22 @@ enum FormatProperty : int {
     /// Of a block format: a section begins with the paragraph, and this is what the file says of it
     /// (QString, the same).
     KeptOfSection,
+    /// Of a list format: what follows its labels (int, a LabelFollow, Tab when absent).
+    ListLabelFollow,
+    /// Of a list format: which side of its labels stands at the hanging indent (int, a LabelSide,
+    /// Left when absent).
+    ListLabelSide,
+    /// Of a list format: the stop behind its labels in twips from the margin (int).
+    ListLabelTab,
+    /// Of a block format: the tab stops as the file has them, where those that are shown differ
+    /// (QVariantList of int: position in twips from the margin, type, leader).
+    ParagraphTabs,
+    /// Of a block format: the leaders of the stops that are shown (QVariantList of int, each a
+    /// TabLeader).
+    ShownTabLeaders,
+    /// Of a block format: twips by which the paragraph stands further right than its file has it,
+    /// so that nothing of it is left of the margin (int).
+    ParagraphOverhang,
 };
 
 } // namespace orvalis::rtf

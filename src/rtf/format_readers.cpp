@@ -3,6 +3,7 @@
 #include "rtf/format_readers.h"
 
 #include "rtf/format_properties.h"
+#include "rtf/paragraph_place.h"
 
 #include <QBrush>
 #include <QFont>
@@ -76,12 +77,13 @@ Alignment alignmentOf(const QTextBlockFormat& format) {
 
 Indents indentsOf(const QTextBlockFormat& format, const QTextList* list, double indentWidth) {
     Indents result;
-    result.left = twipsOf(format.leftMargin() + steppedMargin(format, list, indentWidth));
+    result.left = twipsOf(format.leftMargin() + steppedMargin(format, list, indentWidth)) -
+                  overhangOf(format);
     result.first = twipsOf(format.textIndent());
     if (!list)
         return result;
     if (format.hasProperty(ParagraphFirstIndent))
-        result.first += format.intProperty(ParagraphFirstIndent);
+        result.first = format.intProperty(ParagraphFirstIndent);
     else if (result.first == 0)
         result.first = -std::min(LabelIndent, result.left);
     return result;
@@ -89,7 +91,7 @@ Indents indentsOf(const QTextBlockFormat& format, const QTextList* list, double 
 
 double steppedMargin(const QTextBlockFormat& format, const QTextList* list, double indentWidth) {
     int steps = format.indent();
-    if (list && !list->format().boolProperty(ListIndentIsRoom))
+    if (list)
         steps += list->format().indent();
     return steps * indentWidth;
 }

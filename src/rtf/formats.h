@@ -83,16 +83,25 @@ struct CharFormat {
 
 size_t qHash(const CharFormat& format, size_t seed = 0) noexcept;
 
-/// A tab stop, in twips from the paragraph's edge.
+/// What fills the space of a tab.
+enum class TabLeader : quint8 { None, Dots, MiddleDots, Hyphens, Underline, ThickLine, Equals };
+
+/// A tab stop, in twips from the margin.
 struct TabStop {
     int position = 0;
     QTextOption::TabType type = QTextOption::LeftTab;
+    TabLeader leader = TabLeader::None;
 
     bool operator==(const TabStop&) const = default;
 };
 
 /// The largest number that a list begins with: what follows it stays far from overflow.
 inline constexpr int LargestListStart = 1'000'000;
+
+/// What stands between the label of a list item and its text.
+enum class LabelFollow : quint8 { Tab, Blank, Nothing };
+/// Which side of a label stands at the hanging indent.
+enum class LabelSide : quint8 { Left, Center, Right };
 
 /// The label of a list item. Items of one list of the list tables share the identity; 0 stands for
 /// a list that is held together only by its paragraphs following each other.
@@ -101,6 +110,9 @@ struct ListLabel {
     int identity = 0;
     int level = 0;
     int start = 1;
+    int tab = 0; ///< stop behind the label in twips from the margin, 0 for none
+    LabelFollow follow = LabelFollow::Tab;
+    LabelSide side = LabelSide::Left;
     int numbering = 0; ///< which \pn the label comes from, 0 for none
     QString prefix;
     QString suffix;

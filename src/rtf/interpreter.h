@@ -61,6 +61,7 @@ private:
         int keptOfParagraph = 0;
         const ControlWord* border = nullptr; ///< the one that was named last
         QTextOption::TabType tabType = QTextOption::LeftTab;
+        TabLeader tabLeader = TabLeader::None;
         Destination destination = Destination::Body;
         bool ownsDestination = false;
         bool deleted = false;
@@ -102,6 +103,7 @@ private:
     // Properties (interpreter_properties.cpp)
     bool characterWord(const Token& token);
     bool paragraphWord(const Token& token);
+    void tabStop(int position);
     void selectFont();
     void plainCharacters();
     QRgb color(int index) const;

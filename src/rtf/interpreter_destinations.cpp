@@ -285,6 +285,15 @@ bool Interpreter::tableWord(const Token& token) {
     case Action::ListLevelStart:
         m_lists.setLevelStart(number);
         return true;
+    case Action::ListLevelFollow:
+        m_lists.setLevelFollow(number);
+        return true;
+    case Action::ListLevelSide:
+        m_lists.setLevelSide(number);
+        return true;
+    case Action::NumberingSide:
+        m_numbering.side = static_cast<LabelSide>(token.word->value);
+        return true;
     case Action::NumberingBullet:
         m_numbering.kind = ListKind::Bullet;
         return true;

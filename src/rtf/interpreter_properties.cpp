@@ -119,6 +119,7 @@ bool Interpreter::paragraphWord(const Token& token) {
         m_state.listOverride = 0;
         m_state.listLevel = 0;
         m_state.tabType = QTextOption::LeftTab;
+        m_state.tabLeader = TabLeader::None;
         return true;
     case Action::Align:
         paragraph.alignment = static_cast<Alignment>(token.word->value);
@@ -147,10 +148,11 @@ bool Interpreter::paragraphWord(const Token& token) {
     case Action::TabKind:
         m_state.tabType = static_cast<QTextOption::TabType>(token.word->value);
         return true;
+    case Action::TabLeaderKind:
+        m_state.tabLeader = static_cast<TabLeader>(token.word->value);
+        return true;
     case Action::TabPosition:
-        if (paragraph.tabs.size() < MostTabs)
-            paragraph.tabs.append(TabStop{length(token.parameter), m_state.tabType});
-        m_state.tabType = QTextOption::LeftTab;
+        tabStop(length(token.parameter));
         return true;
     case Action::Direction:
         paragraph.rightToLeft = token.word->value != 0;
@@ -193,6 +195,17 @@ bool Interpreter::paragraphWord(const Token& token) {
     default:
         return false;
     }
+}
+
+/// Of a level of the list tables the stop is that behind its labels.
+void Interpreter::tabStop(int position) {
+    const TabStop stop{position, m_state.tabType, m_state.tabLeader};
+    m_state.tabType = QTextOption::LeftTab;
+    m_state.tabLeader = TabLeader::None;
+    if (m_state.destination == Destination::ListTable)
+        m_lists.setLevelTab(position);
+    else if (m_state.paragraph.tabs.size() < MostTabs)
+        m_state.paragraph.tabs.append(stop);
 }
 
 void Interpreter::selectFont() {

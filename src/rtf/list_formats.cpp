@@ -12,9 +12,6 @@ namespace orvalis::rtf {
 
 namespace {
 
-// What a label and the gap behind it take; Qt draws them left of the text.
-constexpr int LabelRoom = 240; // twips
-
 // A level of the list tables counts the characters of its label in one byte.
 constexpr qsizetype LongestLabelText = 60;
 
@@ -54,7 +51,7 @@ ListKind listKind(QTextListFormat::Style style) {
 
 /// The text before or behind the number, without what the list tables have no room for: codes below
 /// a blank stand for numbers there.
-QString labelText(QString text) {
+QString cleanText(QString text) {
     text.removeIf([](QChar c) {
         return c < u' ' || c == QChar::LineSeparator || c == QChar::ObjectReplacementCharacter;
     });
@@ -66,17 +63,20 @@ QString labelText(QString text) {
 
 } // namespace
 
-QTextListFormat listFormat(const ListLabel& label, int left) {
+QTextListFormat listFormat(const ListLabel& label) {
     QTextListFormat list;
     list.setStyle(listStyle(label.kind));
-    const bool needsRoom = left < LabelRoom;
-    list.setIndent(needsRoom ? 1 : 0);
-    if (needsRoom)
-        list.setProperty(ListIndentIsRoom, true);
+    list.setIndent(0);
+    if (label.follow != LabelFollow::Tab)
+        list.setProperty(ListLabelFollow, int(label.follow));
+    if (label.side != LabelSide::Left)
+        list.setProperty(ListLabelSide, int(label.side));
+    if (label.tab != 0)
+        list.setProperty(ListLabelTab, label.tab);
     if (label.kind == ListKind::Bullet)
         return list;
-    list.setNumberPrefix(labelText(label.prefix));
-    list.setNumberSuffix(labelText(label.suffix));
+    list.setNumberPrefix(cleanText(label.prefix));
+    list.setNumberSuffix(cleanText(label.suffix));
     if (label.start != 1)
         list.setProperty(ListStart, label.start);
     return list;
@@ -86,14 +86,17 @@ ListLabel labelOf(const QTextList& list) {
     const QTextListFormat format = list.format();
     ListLabel label;
     label.kind = listKind(format.style());
+    label.follow = static_cast<LabelFollow>(format.intProperty(ListLabelFollow));
+    label.side = static_cast<LabelSide>(format.intProperty(ListLabelSide));
+    label.tab = format.intProperty(ListLabelTab);
     // Bullets look alike whichever list they are of, numbers do not.
     if (label.kind == ListKind::Bullet)
         return label;
     label.identity = list.objectIndex() + 1;
-    label.prefix = labelText(format.numberPrefix());
+    label.prefix = cleanText(format.numberPrefix());
     // A list that says nothing of it shows a dot behind its numbers.
     label.suffix = format.hasProperty(QTextFormat::ListNumberSuffix)
-                       ? labelText(format.numberSuffix())
+                       ? cleanText(format.numberSuffix())
                        : QStringLiteral(".");
     if (format.hasProperty(ListStart))
         label.start = format.intProperty(ListStart);
@@ -103,9 +106,12 @@ ListLabel labelOf(const QTextList& list) {
 QTextBlockFormat itemFormat(const QTextList& list) {
     QTextBlockFormat item;
     item.setObjectIndex(list.objectIndex());
-    if (list.format().hasProperty(ListStart))
-        item.setProperty(QTextFormat::ListStyle, int(QTextListFormat::ListStyleUndefined));
+    hideLabel(item);
     return item;
+}
+
+void hideLabel(QTextBlockFormat& item) {
+    item.setProperty(QTextFormat::ListStyle, int(QTextListFormat::ListStyleUndefined));
 }
 
 bool hidesLabel(const QTextBlockFormat& item) {
@@ -117,6 +123,21 @@ void showLabel(QTextBlockFormat& item) {
     item.clearProperty(QTextFormat::ListStyle);
 }
 
+QString labelText(const ListLabel& label, int number) {
+    if (label.kind == ListKind::Bullet)
+        return QChar(0x2022);
+    return label.prefix + listNumber(label.kind, number) + label.suffix;
+}
+
+QString shownLabel(const QTextBlock& item) {
+    const QTextList* list = item.textList();
+    if (!list)
+        return {};
+    const ListLabel label = labelOf(*list);
+    const bool isNumber = label.kind != ListKind::Bullet;
+    return labelText(label, isNumber ? label.start + list->itemNumber(item) : 0);
+}
+
 QString listLabel(const QTextBlock& item) {
     const QTextList* list = item.textList();
     if (!list)
@@ -124,8 +145,7 @@ QString listLabel(const QTextBlock& item) {
     const ListLabel label = labelOf(*list);
     if (label.kind == ListKind::Bullet)
         return {};
-    const int number = label.start + list->itemNumber(item);
-    return label.prefix + listNumber(label.kind, number) + label.suffix;
+    return labelText(label, label.start + list->itemNumber(item));
 }
 
 } // namespace orvalis::rtf

@@ -13,16 +13,21 @@ class QTextList;
 namespace orvalis::rtf {
 
 /// Labels of lists in RTF as the lists of a text document, and back.
-/// \param left indent of the item in twips: one too small for a label gets room on the screen.
-QTextListFormat listFormat(const ListLabel& label, int left);
+QTextListFormat listFormat(const ListLabel& label);
 ListLabel labelOf(const QTextList& list);
 
-/// What makes a block an item of a list. A document counts every list from 1, so the labels of
-/// those that begin elsewhere are hidden: whoever shows the document draws listLabel() there.
+/// What makes a block an item of a list. A document counts every list from 1, and hangs labels
+/// left of the text whatever their place; so they are hidden, and whoever shows the document draws
+/// shownLabel() where labelOffset() tells.
 QTextBlockFormat itemFormat(const QTextList& list);
+void hideLabel(QTextBlockFormat& item);
 bool hidesLabel(const QTextBlockFormat& item);
 /// Takes that back from a block that is to join another list.
 void showLabel(QTextBlockFormat& item);
+/// The label with a number.
+QString labelText(const ListLabel& label, int number);
+/// The label of an item, empty for a block that is none.
+QString shownLabel(const QTextBlock& item);
 /// The label that an item of a list of numbers has, empty for any other block.
 QString listLabel(const QTextBlock& item);
 

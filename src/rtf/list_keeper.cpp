@@ -14,11 +14,13 @@ constexpr int MembersOfRealDocuments = 4 * MostNumbers;
 
 bool sameLabel(const ListLabel& a, const ListLabel& b) {
     return a.kind == b.kind && a.identity == b.identity && a.level == b.level &&
-           a.prefix == b.prefix && a.suffix == b.suffix;
+           a.prefix == b.prefix && a.suffix == b.suffix && a.tab == b.tab && a.follow == b.follow &&
+           a.side == b.side;
 }
 
 size_t labelKey(const ListLabel& label) {
-    return qHashMulti(0, int(label.kind), label.identity, label.level, label.prefix, label.suffix);
+    return qHashMulti(0, int(label.kind), label.identity, label.level, label.prefix, label.suffix,
+                      label.tab, int(label.follow), int(label.side));
 }
 
 // Where items name no list, the indent keeps an inner list apart from an outer one.
@@ -77,11 +79,13 @@ QTextList* ListKeeper::goOn(const ParagraphFormat& item) {
         m_levels[label.identity] = label.level;
     ++m_members;
     m_new = label;
+    m_number = label.start;
     if (!going)
         return nullptr;
+    m_number = found->label.start + found->items;
     if (isFull(*found)) {
         if (label.kind != ListKind::Bullet)
-            m_new.start = found->label.start + found->items;
+            m_new.start = m_number;
         return nullptr;
     }
     ++found->items;

@@ -23,6 +23,8 @@ public:
     QTextList* goOn(const ParagraphFormat& item);
     /// The label of the new list that the item last asked for begins.
     const ListLabel& newLabel() const { return m_new; }
+    /// The number of the item that last asked.
+    int number() const { return m_number; }
     /// Remembers the list that an item began with newLabel().
     void began(const ParagraphFormat& item, QTextList* list);
     /// A paragraph outside all lists came.
@@ -47,6 +49,7 @@ private:
     ListLabel m_new;
     int m_members = 0; ///< of all lists
     int m_lastLeft = 0;
+    int m_number = 0;
     bool m_adjacent = false;
 };
 

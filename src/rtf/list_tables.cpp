@@ -98,8 +98,12 @@ void ListTables::beginOverrideLevel() {
 
 void ListTables::beginLevel() {
     const int level = m_overrideLevel == NoLevel ? int(m_levels.size()) : m_overrideLevel;
-    if (m_levels.size() < MostLevels)
-        m_levels.append(ListLabel{ListKind::Decimal, 0, level, 1, 0, {}, {}});
+    if (m_levels.size() >= MostLevels)
+        return;
+    ListLabel label;
+    label.kind = ListKind::Decimal;
+    label.level = level;
+    m_levels.append(label);
 }
 
 ListLabel* ListTables::openLevel() {
@@ -125,6 +129,25 @@ void ListTables::setLevelStart(int start) {
         level->start = start;
     else if (m_overrideLevel != NoLevel)
         m_starts.insert(m_overrideLevel, start);
+}
+
+void ListTables::setLevelFollow(int follow) {
+    if (ListLabel* level = openLevel())
+        level->follow = follow == 1   ? LabelFollow::Blank
+                        : follow == 2 ? LabelFollow::Nothing
+                                      : LabelFollow::Tab;
+}
+
+void ListTables::setLevelSide(int side) {
+    if (ListLabel* level = openLevel())
+        level->side = side == 1   ? LabelSide::Center
+                      : side == 2 ? LabelSide::Right
+                                  : LabelSide::Left;
+}
+
+void ListTables::setLevelTab(int position) {
+    if (ListLabel* level = openLevel())
+        level->tab = std::max(position, 0);
 }
 
 void ListTables::setLevelText(const QString& text) {
@@ -195,7 +218,9 @@ ListLabel labelFromText(const QString& text, ListKind previous) {
         if (start < end && numbered.kind != ListKind::None)
             return numbered;
     }
-    return {ListKind::Bullet, 0, 0, 1, 0, {}, {}};
+    ListLabel bullet;
+    bullet.kind = ListKind::Bullet;
+    return bullet;
 }
 
 } // namespace orvalis::rtf

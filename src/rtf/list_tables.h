@@ -26,6 +26,11 @@ public:
     /// \param format as \levelnfc numbers it.
     void setLevelKind(int format);
     void setLevelStart(int start);
+    /// \param follow,side as \levelfollow and \leveljc number them.
+    void setLevelFollow(int follow);
+    void setLevelSide(int side);
+    /// \param position of the stop behind the labels, in twips from the margin.
+    void setLevelTab(int position);
     /// \param text as \leveltext has it: its length, then characters, with the codes 0 to 8 where
     /// the numbers of the levels go.
     void setLevelText(const QString& text);

@@ -28,6 +28,29 @@ const char* kindWord(ListKind kind) {
     }
 }
 
+const char* leaderWord(TabLeader leader) {
+    switch (leader) {
+    case TabLeader::MiddleDots:
+        return "\\tlmdot";
+    case TabLeader::Hyphens:
+        return "\\tlhyph";
+    case TabLeader::Underline:
+        return "\\tlul";
+    case TabLeader::ThickLine:
+        return "\\tlth";
+    case TabLeader::Equals:
+        return "\\tleq";
+    case TabLeader::Dots:
+    case TabLeader::None:
+        break;
+    }
+    return "\\tldot";
+}
+
+const char* sideWord(LabelSide side) {
+    return side == LabelSide::Center ? "\\pnqc" : "\\pnqr";
+}
+
 } // namespace
 
 void ParagraphWriter::begin(const ParagraphFormat& paragraph, int number) {
@@ -73,6 +96,7 @@ void ParagraphWriter::numbering(const ListLabel& label) {
     m_out.word("{\\*\\pn");
     if (label.kind == ListKind::Bullet) {
         m_out.word("\\pnlvlblt");
+        side(label);
         m_out.word("\\pnf", m_tables.symbolFont());
         m_out.structure("\\pnindent0{\\pntxtb");
         m_out.structure(BulletByte);
@@ -82,9 +106,15 @@ void ParagraphWriter::numbering(const ListLabel& label) {
     m_out.word("\\pnlvlbody\\pnindent0");
     m_out.word("\\pnstart", label.start);
     m_out.word(kindWord(label.kind));
+    side(label);
     numberingText("{\\pntxtb", label.prefix);
     numberingText("{\\pntxta", label.suffix);
     m_out.structure("}");
+}
+
+void ParagraphWriter::side(const ListLabel& label) {
+    if (label.side != LabelSide::Left)
+        m_out.word(sideWord(label.side));
 }
 
 void ParagraphWriter::numberingText(QByteArrayView group, const QString& text) {
@@ -149,6 +179,8 @@ void ParagraphWriter::tabs(const QList<TabStop>& tabs) {
             m_out.word("\\tqdec");
             break;
         }
+        if (tab.leader != TabLeader::None)
+            m_out.word(leaderWord(tab.leader));
         m_out.word("\\tx", tab.position);
     }
 }

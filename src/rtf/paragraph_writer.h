@@ -25,6 +25,7 @@ private:
     void tabs(const QList<TabStop>& tabs);
     void label(const ListLabel& label);
     void numbering(const ListLabel& label);
+    void side(const ListLabel& label);
     void numberingText(QByteArrayView group, const QString& text);
 
     RtfOutput& m_out;

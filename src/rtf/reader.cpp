@@ -8,6 +8,9 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
+#include <algorithm>
+#include <cmath>
+
 namespace orvalis::rtf {
 
 namespace {
@@ -91,7 +94,9 @@ ReadResult insertRtf(QByteArrayView bytes, QTextCursor& cursor, const ReadOption
         return NotRtf;
     cursor.beginEditBlock();
     cursor.removeSelectedText();
-    DocumentSink sink(cursor, options, bytes.size());
+    const double tabs = cursor.document()->defaultTextOption().tabStopDistance();
+    DocumentSink sink(cursor, options, bytes.size(),
+                      std::max(1, int(std::lround(tabs * TwipsPerPixel))));
     const ReadResult result = readInto(bytes, sink);
     cursor.endEditBlock();
     return result;

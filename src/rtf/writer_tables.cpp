@@ -78,7 +78,8 @@ int WriterTables::color(QRgb color) {
 
 int WriterTables::list(const ParagraphFormat& item) {
     const bool isBullet = item.list.kind == ListKind::Bullet;
-    int& number = m_listNumbers[{item.list.identity, isBullet ? item.left : 0}];
+    int& number = m_listNumbers[{item.list.identity, isBullet ? item.left : 0, item.list.tab,
+                                 int(item.list.follow), int(item.list.side)}];
     if (number == 0) {
         m_lists.append(item);
         number = int(m_lists.size());
@@ -135,11 +136,15 @@ void WriterTables::writeLists(RtfOutput& out) const {
         const int number = int(index) + 1;
         out.word("{\\list\\listtemplateid", number);
         out.word("\\listsimple{\\listlevel\\levelnfc", levelFormat(item.list.kind));
-        out.word("\\leveljc0\\levelfollow0\\levelstartat", item.list.start);
+        out.word("\\leveljc", int(item.list.side));
+        out.word("\\levelfollow", int(item.list.follow));
+        out.word("\\levelstartat", item.list.start);
         levelText(out, item.list);
         // Some readers take the indents of the level, whatever the item says.
         out.word("\\fi", item.first);
         out.word("\\li", item.left);
+        if (item.list.tab != 0)
+            out.word("\\jclisttab\\tx", item.list.tab);
         out.structure("}");
         out.word("\\listid", number);
         out.structure("}");

@@ -5,7 +5,8 @@
 #include "rtf/formats.h"
 #include "rtf/symbol_font.h"
 
-#include <utility>
+#include <array>
+#include <map>
 
 namespace orvalis::rtf {
 
@@ -46,8 +47,9 @@ private:
     QHash<int, int> m_fontNumbers;
     QList<QRgb> m_colors;
     QHash<QRgb, int> m_colorNumbers;
-    QList<ParagraphFormat> m_lists;                ///< by their first items
-    QHash<std::pair<int, int>, int> m_listNumbers; ///< by identity, and the indent of bullets
+    QList<ParagraphFormat> m_lists; ///< by their first items
+    /// By identity, the indent of bullets, and the place of the labels.
+    std::map<std::array<int, 5>, int> m_listNumbers;
 };
 
 } // namespace orvalis::rtf

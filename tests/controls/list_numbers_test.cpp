@@ -27,7 +27,7 @@ namespace {
 QByteArray listFrom(int start, int items, const QByteArray& kind, const QByteArray& look = {}) {
     QByteArray rtf = "{\\rtf1{\\fonttbl{\\f0 Liberation Sans;}}{\\colortbl;\\red255;}"
                      "\\pard{\\*\\pn\\pnlvlbody\\pnstart" +
-                     QByteArray::number(start) + kind + "}\\li720\\f0\\fs20" + look;
+                     QByteArray::number(start) + kind + "}\\fi-360\\li720\\f0\\fs20" + look;
     for (int i = 0; i < items; ++i)
         rtf += " item\\par";
     return rtf + '}';

@@ -181,8 +181,8 @@ void InsertRtfTest::lengthsBecomePixels() {
     QCOMPARE(format.bottomMargin(), 50.0);
     QCOMPARE(format.lineHeightType(), int(QTextBlockFormat::ProportionalHeight));
     QCOMPARE(format.lineHeight(), 200.0);
-    QCOMPARE(format.tabPositions().size(), 1);
-    QCOMPARE(format.tabPositions().first().position, 100.0);
+    // From where the first line begins.
+    QCOMPARE(format.tabPositions().first().position, 70.0);
     QCOMPARE(format.tabPositions().first().type, QTextOption::RightTab);
 }
 
@@ -210,12 +210,15 @@ void InsertRtfTest::bulletsOfTheTablesHangByTheirOwnIndents() {
             "{\\*\\listoverridetable{\\listoverride\\listid7\\ls1}}"
             "\\pard\\ls1 a\\par\\pard\\ls1\\li720 b\\par}",
             document);
-    // The first needs room for its bullet, which the second has: one list can't give it to both.
+    // The text of each stands at the next step behind its bullet.
     const QTextList* outer = document.firstBlock().textList();
     const QTextList* inner = document.lastBlock().textList();
     QVERIFY(outer && inner);
-    QCOMPARE(outer->format().indent(), 1);
-    QCOMPARE(inner->format().indent(), 0);
+    QVERIFY(outer != inner);
+    QCOMPARE(document.firstBlock().blockFormat().leftMargin(), 0.0);
+    QCOMPARE(document.firstBlock().blockFormat().textIndent(), 48.0);
+    QCOMPARE(document.lastBlock().blockFormat().leftMargin(), 48.0);
+    QCOMPARE(document.lastBlock().blockFormat().textIndent(), 48.0);
 }
 
 void InsertRtfTest::aPictureKeepsItsBytesAndItsWantedSize_data() {

@@ -4,6 +4,7 @@
 #include "rtf/device_bitmap.h"
 #include "rtf/format_properties.h"
 #include "rtf/formats.h"
+#include "rtf/paragraph_place.h"
 #include "rtf/picture_format.h"
 #include "rtf/reader.h"
 #include "rtf/writer.h"
@@ -20,6 +21,8 @@ using namespace orvalis;
 using namespace orvalis::rtf;
 
 namespace {
+
+constexpr int DefaultTab = 1200; // of a document that nobody has set one for
 
 /// Makes documents of everything the writer can write, the same ones for the same seed.
 class RandomDocument {
@@ -143,17 +146,20 @@ private:
                                                        Qt::AlignHCenter, Qt::AlignJustify};
         QTextBlockFormat format;
         format.setAlignment(Alignments[below(4)]);
-        format.setLeftMargin(below(3) * 24);
-        format.setTextIndent(below(3) * 10);
+        ParagraphFormat place;
+        place.rightToLeft = below(6) == 0;
+        if (place.rightToLeft)
+            format.setLayoutDirection(Qt::RightToLeft);
+        place.left = below(3) * 360;
+        place.first = below(3) * 150 - below(2) * 450;
+        if (below(4) == 0)
+            place.tabs = {{1500, QTextOption::RightTab, TabLeader::Dots}};
+        placeParagraph(format, place, DefaultTab);
         format.setRightMargin(below(2) * 16);
         format.setTopMargin(below(2) * 8);
         format.setBottomMargin(below(2) * 13);
         if (below(4) == 0)
             format.setLineHeight(150, QTextBlockFormat::ProportionalHeight);
-        if (below(4) == 0)
-            format.setTabPositions({QTextOption::Tab(100, QTextOption::RightTab)});
-        if (below(6) == 0)
-            format.setLayoutDirection(Qt::RightToLeft);
         if (below(8) == 0)
             format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
         return format;
@@ -161,8 +167,12 @@ private:
 
     void list(QTextCursor& cursor) {
         QTextBlockFormat format = cursor.blockFormat();
-        format.setTextIndent(0);
-        format.setLeftMargin(48);
+        ParagraphFormat place;
+        place.left = 2880;
+        place.first = -2880; // room for the longest of the labels
+        place.rightToLeft = format.layoutDirection() == Qt::RightToLeft;
+        place.list.kind = ListKind::Bullet;
+        placeParagraph(format, place, DefaultTab);
         cursor.setBlockFormat(format);
         QTextListFormat style;
         style.setIndent(0);

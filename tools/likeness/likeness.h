@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "pdf_words.h"
+
+namespace orvalis::likeness {
+
+/// So many of so many characters, or words.
+struct Share {
+    qint64 alike = 0;
+    qint64 all = 0;
+
+    Share& operator+=(const Share& other);
+    double perCent() const { return all == 0 ? 100.0 : 100.0 * double(alike) / double(all); }
+};
+
+struct Likeness {
+    Share font;
+    Share size;
+    Share weight;
+    Share color;
+    Share place; ///< on the same page, within two points
+
+    Likeness& operator+=(const Likeness& other);
+};
+
+/// Of the characters of one PDF, those that another has alike; what it lacks is not.
+Likeness compare(const PdfText& expected, const PdfText& found);
+
+/// Of the words of the first page, those whose left edge is within six points of where it is to be.
+/// \param miss a word that is not, for whoever looks for the cause.
+Share compareLeftEdges(const PdfText& expected, const PdfText& found, QString& miss);
+
+/// Text without what readers set differently: runs of blanks, and marks without a width.
+QString folded(QString text);
+
+} // namespace orvalis::likeness

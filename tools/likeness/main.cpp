@@ -1,0 +1,230 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+//
+// Measures how like a word processor's our rich text is:
+//
+//     rtf_likeness [--keep OTHER] FOLDER
+//
+// takes all RTF files of a folder, in any depth, and has LibreOffice (soffice) make PDF and text of
+// each, and of what the program writes of it. Prints a line for each file that differs, and totals:
+// whether the text and the number of pages are equal, and the share of characters with the same
+// font, size, weight, colour, and place within two points. Then the same for the program's own
+// pages: of the files without a table, text box or lines from top to bottom, those whose words
+// stand on the first page where LibreOffice sets them, each left edge within six points. With
+// --keep what was made stays in OTHER, and what lies there of the files themselves is used again.
+// Needs soffice, and pdftotext and pdftohtml of poppler.
+#include "likeness.h"
+#include "office.h"
+#include "own_pages.h"
+#include "rtf/reader.h"
+#include "rtf/writer.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTextDocument>
+
+#include <cstdio>
+
+using namespace orvalis;
+using namespace orvalis::likeness;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString TextFilter = u"txt:Text (encoded):UTF8"_s;
+
+QByteArray contentOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool leave(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+struct Sample {
+    QString name;
+    QString label; ///< of the files that are made of it
+    bool aside = false;
+};
+
+class Measurement {
+public:
+    Measurement(QString folder, const QString& place)
+        : m_folder(std::move(folder))
+        , m_place(place)
+        , m_office(m_place.filePath(u"office"_s)) {
+        for (const char* part : {"given", "written", "given-pdf", "given-txt", "written-pdf",
+                                 "written-txt", "own-pdf", "office"})
+            m_place.mkpath(QString::fromLatin1(part));
+    }
+
+    int run() {
+        collect();
+        convert(u"given"_s);
+        convert(u"written"_s);
+        for (const Sample& sample : std::as_const(m_samples))
+            measure(sample);
+        tell();
+        return m_samples.isEmpty() ? 1 : 0;
+    }
+
+private:
+    void collect() {
+        QDirIterator it(m_folder, {u"*.rtf"_s}, QDir::Files | QDir::Hidden,
+                        QDirIterator::Subdirectories);
+        QStringList names;
+        while (it.hasNext())
+            names << QDir(m_folder).relativeFilePath(it.next());
+        names.sort();
+        for (const QString& name : std::as_const(names)) {
+            const QByteArray bytes = contentOf(m_folder + u'/' + name);
+            QTextDocument document;
+            if (rtf::readRtf(bytes, document).fault == rtf::Fault::NotRtf)
+                continue;
+            Sample sample{name, QString(name).replace(u'/', u'~').chopped(4), standsAside(bytes)};
+            leave(path(u"given"_s, sample, u".rtf"_s), bytes);
+            leave(path(u"written"_s, sample, u".rtf"_s), rtf::writeRtf(document));
+            printOwnPages(bytes, path(u"own-pdf"_s, sample, u".pdf"_s));
+            m_samples.append(sample);
+        }
+    }
+
+    QString path(const QString& part, const Sample& sample, const QString& ending) const {
+        return m_place.filePath(part + u'/' + sample.label + ending);
+    }
+
+    void convert(const QString& part) {
+        QStringList files;
+        for (const Sample& sample : std::as_const(m_samples))
+            files << path(part, sample, u".rtf"_s);
+        const bool again = part == u"written"_s;
+        for (const QString& kind : {u"pdf"_s, u"txt"_s}) {
+            const QString into = m_place.filePath(part + u'-' + kind);
+            if (again) {
+                QDir(into).removeRecursively();
+                QDir().mkpath(into);
+            }
+            m_office.convert(files, kind == u"pdf"_s ? kind : TextFilter, into);
+        }
+    }
+
+    void measure(const Sample& sample) {
+        const QString givenPdf = path(u"given-pdf"_s, sample, u".pdf"_s);
+        if (!QFile::exists(givenPdf)) {
+            std::printf("NONE\t%s\tLibreOffice makes nothing of it\n", qUtf8Printable(sample.name));
+            return;
+        }
+        ++m_files;
+        measureText(sample);
+        const PdfText given = readPdf(givenPdf);
+        const PdfText written = readPdf(path(u"written-pdf"_s, sample, u".pdf"_s));
+        const bool samePages = given.pages == written.pages;
+        m_samePages += samePages;
+        if (!samePages)
+            std::printf("PAGES\t%s\t%d, not %d\n", qUtf8Printable(sample.name), written.pages,
+                        given.pages);
+        const Likeness likeness = compare(given, written);
+        m_likeness += likeness;
+        const auto miss = [&](const char* what, const Share& share) {
+            if (share.alike < share.all)
+                std::printf("%s\t%s\t%.1f %% of %lld\n", what, qUtf8Printable(sample.name),
+                            share.perCent(), static_cast<long long>(share.all));
+        };
+        miss("FONT", likeness.font);
+        miss("SIZE", likeness.size);
+        miss("WEIGHT", likeness.weight);
+        miss("COLOUR", likeness.color);
+        miss("PLACE", likeness.place);
+        if (!sample.aside)
+            measureOwn(sample, given);
+    }
+
+    void measureText(const Sample& sample) {
+        const QString given =
+            folded(QString::fromUtf8(contentOf(path(u"given-txt"_s, sample, u".txt"_s))));
+        const QString written =
+            folded(QString::fromUtf8(contentOf(path(u"written-txt"_s, sample, u".txt"_s))));
+        if (given.isEmpty())
+            return;
+        ++m_texts;
+        if (given == written) {
+            ++m_sameTexts;
+            return;
+        }
+        const auto ends = std::mismatch(given.begin(), given.end(), written.begin(), written.end());
+        const qsizetype at = ends.first - given.begin();
+        const qsizetype from = std::max<qsizetype>(at - 20, 0);
+        std::printf("TEXT\t%s\tat %lld: \"%s\", then \"%s\"\n", qUtf8Printable(sample.name),
+                    static_cast<long long>(at), qUtf8Printable(given.mid(from, 60)),
+                    qUtf8Printable(written.mid(from, 60)));
+    }
+
+    void measureOwn(const Sample& sample, const PdfText& given) {
+        const PdfText own = readPdf(path(u"own-pdf"_s, sample, u".pdf"_s));
+        QString miss;
+        const Share edges = compareLeftEdges(given, own, miss);
+        if (edges.all == 0)
+            return;
+        ++m_own;
+        m_edges += edges;
+        if (edges.alike == edges.all)
+            ++m_ownAlike;
+        else
+            std::printf("OWN\t%s\t%.1f %% of %lld: %s\n", qUtf8Printable(sample.name),
+                        edges.perCent(), static_cast<long long>(edges.all), qUtf8Printable(miss));
+    }
+
+    void tell() const {
+        const auto line = [](const char* what, const Share& share) {
+            std::printf("%-58s %8lld of %8lld  %6.2f %%\n", what,
+                        static_cast<long long>(share.alike), static_cast<long long>(share.all),
+                        share.perCent());
+        };
+        line("what we write: text equal, of the files with a text", {m_sameTexts, m_texts});
+        line("pages equal", {m_samePages, m_files});
+        line("characters with the same font", m_likeness.font);
+        line("characters with the same size", m_likeness.size);
+        line("characters with the same weight", m_likeness.weight);
+        line("characters with the same colour", m_likeness.color);
+        line("characters in place", m_likeness.place);
+        line("own pages: files with all words of page one in place", {m_ownAlike, m_own});
+        line("own pages: words in place", m_edges);
+    }
+
+    QString m_folder;
+    QDir m_place;
+    Office m_office;
+    QList<Sample> m_samples;
+    qint64 m_files = 0;
+    qint64 m_texts = 0;
+    qint64 m_sameTexts = 0;
+    qint64 m_samePages = 0;
+    qint64 m_own = 0;
+    qint64 m_ownAlike = 0;
+    Likeness m_likeness;
+    Share m_edges;
+};
+
+} // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    QStringList arguments = QApplication::arguments().sliced(1);
+    QTemporaryDir temporary;
+    QString place = temporary.path();
+    if (arguments.size() == 3 && arguments.first() == u"--keep"_s) {
+        place = QFileInfo(arguments.at(1)).absoluteFilePath();
+        arguments.remove(0, 2);
+    }
+    if (arguments.size() != 1) {
+        std::fprintf(stderr, "usage: rtf_likeness [--keep OTHER] FOLDER\n");
+        return 2;
+    }
+    return Measurement(QFileInfo(arguments.first()).absoluteFilePath(), place).run();
+}

@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "own_pages.h"
+
+#include "controls/format_range.h"
+#include "controls/rich_text_box.h"
+
+#include <QPageLayout>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace orvalis::likeness {
+
+namespace {
+
+constexpr double TwipsPerPoint = 20;
+constexpr int DotsPerInch = 1200;
+
+/// The number behind a word where it comes first in the file.
+int numberOf(const QByteArray& rtf, const char* word, int usual) {
+    const QRegularExpression pattern(u"\\\\%1(\\d{1,6})(?!\\d)"_s.arg(QLatin1StringView(word)));
+    const QRegularExpressionMatch match = pattern.match(QString::fromLatin1(rtf));
+    return match.hasMatch() ? match.captured(1).toInt() : usual;
+}
+
+} // namespace
+
+void printOwnPages(const QByteArray& rtf, const QString& path) {
+    RichTextBox box;
+    box.SetFontName(u"Times New Roman"_s);
+    box.SetTextRTF(rtf);
+    const QSizeF paper(std::clamp(numberOf(rtf, "paperw", 12240), 1440, 44640),
+                       std::clamp(numberOf(rtf, "paperh", 15840), 1440, 44640));
+    QRectF text(QPointF(0, 0), paper);
+    text.adjust(numberOf(rtf, "margl", 1440), numberOf(rtf, "margt", 1440),
+                -numberOf(rtf, "margr", 1440), -numberOf(rtf, "margb", 1440));
+    if (text.width() < 1440 || text.height() < 1440)
+        return;
+    QPdfWriter writer(path);
+    writer.setResolution(DotsPerInch);
+    writer.setPageLayout(
+        QPageLayout(QPageSize(paper / TwipsPerPoint, QPageSize::Point, {}, QPageSize::ExactMatch),
+                    QPageLayout::Portrait, {}));
+    QPainter painter(&writer);
+    FormatRange range;
+    range.painter = &painter;
+    range.rect = text;
+    const int length = int(box.Text().size());
+    RangeFormatter pages(box);
+    for (;;) {
+        const int next = pages.FormatPage(range);
+        if (next >= length)
+            break;
+        range.first = next;
+        writer.newPage();
+    }
+}
+
+bool standsAside(const QByteArray& rtf) {
+    static const QRegularExpression aside(
+        u"\\\\(trowd|intbl|cellx|shptxt|dptxbxtext|shpinst|frmtxtbrl|frmtxtbtlr|stextflow[1-9]|"
+        "txflow|pvpara|absw|posx|posy|phpg|cols[2-9]|nestcell)"_s);
+    return aside.match(QString::fromLatin1(rtf)).hasMatch();
+}
+
+} // namespace orvalis::likeness

@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace orvalis::likeness {
+
+/// Prints a file through the program's own rich text box, on the paper that the file names.
+/// \param path of the PDF.
+void printOwnPages(const QByteArray& rtf, const QString& path);
+
+/// Whether the file has anything that stands beside the run of its text: tables, text boxes, or
+/// lines from top to bottom.
+bool standsAside(const QByteArray& rtf);
+
+} // namespace orvalis::likeness

@@ -1,0 +1,126 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "pdf_words.h"
+
+#include <QHash>
+#include <QProcess>
+#include <QXmlStreamReader>
+
+using namespace Qt::StringLiterals;
+
+namespace orvalis::likeness {
+
+namespace {
+
+QByteArray outputOf(const QString& program, const QStringList& arguments) {
+    QProcess process;
+    process.start(program, arguments);
+    process.waitForFinished(60'000);
+    return process.readAllStandardOutput();
+}
+
+// "BAAAAA+LiberationSans-Bold" is of the family "LiberationSans".
+QString familyOf(const QString& font) {
+    return font.section(u'+', -1).section(u'-', 0, 0).section(u',', 0, 0);
+}
+
+bool isBoldFont(const QString& font) {
+    return font.contains("Bold"_L1, Qt::CaseInsensitive);
+}
+
+void readPlaces(const QByteArray& xml, PdfText& text) {
+    QXmlStreamReader reader(xml);
+    while (!reader.atEnd()) {
+        if (reader.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (reader.name() == "page"_L1) {
+            ++text.pages;
+        } else if (reader.name() == "word"_L1) {
+            const auto attributes = reader.attributes();
+            const QPointF corner(attributes.value("xMin"_L1).toDouble(),
+                                 attributes.value("yMin"_L1).toDouble());
+            text.words.append({reader.readElementText(), text.pages, corner});
+        }
+    }
+}
+
+/// Words in their looks: a word ends at a blank, or where a line of the page does.
+class LookReader {
+public:
+    LookReader(const QByteArray& xml, QList<LookedWord>& words)
+        : m_reader(xml)
+        , m_words(words) {}
+
+    void read() {
+        while (!m_reader.atEnd())
+            switch (m_reader.readNext()) {
+            case QXmlStreamReader::StartElement:
+                start();
+                break;
+            case QXmlStreamReader::EndElement:
+                if (m_reader.name() == "text"_L1)
+                    m_inWord = false;
+                m_bold -= m_reader.name() == "b"_L1;
+                break;
+            case QXmlStreamReader::Characters:
+                characters(m_reader.text());
+                break;
+            default:
+                break;
+            }
+    }
+
+private:
+    void start() {
+        const auto attributes = m_reader.attributes();
+        if (m_reader.name() == "fontspec"_L1) {
+            const QString font = attributes.value("family"_L1).toString();
+            m_fonts.insert(attributes.value("id"_L1).toString(),
+                           {familyOf(font), attributes.value("size"_L1).toInt(), isBoldFont(font),
+                            attributes.value("color"_L1).toString()});
+        } else if (m_reader.name() == "text"_L1) {
+            m_look = m_fonts.value(attributes.value("font"_L1).toString());
+            m_inText = true;
+        } else if (m_reader.name() == "b"_L1) {
+            ++m_bold;
+        }
+    }
+
+    void characters(QStringView text) {
+        if (!m_inText)
+            return;
+        for (const QChar c : text) {
+            if (c.isSpace()) {
+                m_inWord = false;
+                continue;
+            }
+            if (!m_inWord) {
+                m_words.append({QString(), m_look});
+                m_words.last().look.bold |= m_bold > 0;
+            }
+            m_inWord = true;
+            m_words.last().text += c;
+        }
+    }
+
+    QXmlStreamReader m_reader;
+    QList<LookedWord>& m_words;
+    QHash<QString, Look> m_fonts;
+    Look m_look;
+    int m_bold = 0;
+    bool m_inText = false;
+    bool m_inWord = false;
+};
+
+} // namespace
+
+PdfText readPdf(const QString& path) {
+    PdfText text;
+    readPlaces(outputOf(u"pdftotext"_s, {u"-raw"_s, u"-bbox"_s, path, u"-"_s}), text);
+    const QByteArray looks =
+        outputOf(u"pdftohtml"_s, {u"-xml"_s, u"-i"_s, u"-nomerge"_s, u"-stdout"_s, path});
+    LookReader(looks, text.looks).read();
+    return text;
+}
+
+} // namespace orvalis::likeness

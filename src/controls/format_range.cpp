@@ -20,6 +20,7 @@
 #include <QTextLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace orvalis {
 namespace {
@@ -127,6 +128,7 @@ void RangeFormatter::prepare(const FormatRange& range, QPaintDevice& device) {
     if (option.wrapMode() != QTextOption::WrapAnywhere) // which long words need
         option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     m_copy->setDefaultTextOption(option);
+    m_marginDots = PixelsPerInch;
     standAcrossMargin(range.rect.left());
     shrinkPictures(page / TwipsPerPixel);
     layOut(device);
@@ -140,6 +142,7 @@ void RangeFormatter::layOut(QPaintDevice& device) {
     const double told = rtf::documentHeight(*m_copy) * narrow * m_dots.height() / PixelsPerInch;
     m_counted = m_dots;
     if (told <= rtf::MostHeight) {
+        countMargins(m_counted);
         m_copy->documentLayout()->setPaintDevice(&device);
         m_copy->setTextWidth(m_page.width() * m_counted.width() / TwipsPerInch);
         return;
@@ -157,6 +160,7 @@ void RangeFormatter::layOut(QPaintDevice& device) {
 /// \returns the height, in these dots.
 double RangeFormatter::layOut(const QSize& dots) {
     m_counted = dots;
+    countMargins(dots);
     auto ruler = std::make_unique<Ruler>(dots);
     m_copy->documentLayout()->setPaintDevice(ruler.get());
     m_ruler = std::move(ruler);
@@ -167,14 +171,33 @@ double RangeFormatter::layOut(const QSize& dots) {
 /// What has no room on the screen left of the margin has it on paper.
 /// \param room twips left of the margin.
 void RangeFormatter::standAcrossMargin(qreal room) {
+    changeParagraphs([room](QTextBlockFormat& paragraph) {
+        if (rtf::overhangOf(paragraph) <= room)
+            rtf::standAcrossMargin(paragraph);
+    });
+}
+
+/// The layout counts most of what formats say in dots of the device by itself, but not these.
+void RangeFormatter::countMargins(const QSize& dots) {
+    const qreal times = dots.width() / std::exchange(m_marginDots, dots.width());
+    changeParagraphs([times](QTextBlockFormat& paragraph) {
+        for (const int length :
+             {QTextFormat::BlockLeftMargin, QTextFormat::BlockRightMargin, QTextFormat::TextIndent})
+            if (const qreal lengthNow = paragraph.doubleProperty(length); lengthNow != 0)
+                paragraph.setProperty(length, lengthNow * times);
+    });
+}
+
+void RangeFormatter::changeParagraphs(const std::function<void(QTextBlockFormat&)>& change) {
+    QTextCursor edit(m_copy.get());
+    edit.beginEditBlock();
     for (QTextBlock block = m_copy->begin(); block.isValid(); block = block.next()) {
         QTextBlockFormat paragraph = block.blockFormat();
-        const int overhang = rtf::overhangOf(paragraph);
-        if (overhang == 0 || overhang > room)
-            continue;
-        rtf::standAcrossMargin(paragraph);
-        QTextCursor(block).setBlockFormat(paragraph);
+        change(paragraph);
+        if (paragraph != block.blockFormat())
+            QTextCursor(block).setBlockFormat(paragraph);
     }
+    edit.endEditBlock();
 }
 
 void RangeFormatter::shrinkPictures(const QSizeF& page) {

@@ -7,11 +7,13 @@
 #include <QSize>
 #include <QTextDocument>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
 class QPainter;
 class QPaintDevice;
+class QTextBlockFormat;
 
 namespace orvalis {
 
@@ -54,6 +56,8 @@ private:
     void layOut(QPaintDevice& device);
     double layOut(const QSize& dots);
     void standAcrossMargin(qreal room);
+    void countMargins(const QSize& dots);
+    void changeParagraphs(const std::function<void(QTextBlockFormat&)>& change);
     void shrinkPictures(const QSizeF& page);
     void collectLines();
     void draw(const FormatRange& range, const Line& first, const Line& last, int from, int to);
@@ -69,6 +73,7 @@ private:
     std::unique_ptr<QPaintDevice> m_ruler;
     QSizeF m_page; ///< twips
     qreal m_left = 0;
+    qreal m_marginDots = 0; ///< to the inch, in which the copy's margins are counted
 };
 
 } // namespace orvalis

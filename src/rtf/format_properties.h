@@ -34,6 +34,8 @@ enum FormatProperty : int {
     /// Of a list item's block format: its first line's indent in twips (int), where its label
     /// begins. textIndent is that of the text behind the label.
     ParagraphFirstIndent,
+    /// Of a list item's block format: where its label begins, in twips from its text (int).
+    LabelOffset,
     /// Of a list format: the number of its first item (int, 1 when absent).
     ListStart,
     /// Of a character format: twips between the characters (int), which the letter spacing shows

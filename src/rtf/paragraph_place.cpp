@@ -157,10 +157,13 @@ void placeParagraph(QTextBlockFormat& block, const ParagraphFormat& format, int 
         block.setProperty(ParagraphOverhang, overhang);
     else
         block.clearProperty(ParagraphOverhang);
-    if (isItem)
+    if (isItem) {
         block.setProperty(ParagraphFirstIndent, format.first);
-    else
+        block.setProperty(LabelOffset, format.left + format.first - start);
+    } else {
         block.clearProperty(ParagraphFirstIndent);
+        block.clearProperty(LabelOffset);
+    }
     setStops(block, format, stops, start, defaultTab);
 }
 
@@ -169,12 +172,14 @@ int overhangOf(const QTextBlockFormat& block) {
 }
 
 void standAcrossMargin(QTextBlockFormat& block) {
+    if (overhangOf(block) == 0)
+        return;
     block.setLeftMargin(block.leftMargin() - pixels(overhangOf(block)));
     block.clearProperty(ParagraphOverhang);
 }
 
 int labelOffset(const QTextBlockFormat& item) {
-    return item.intProperty(ParagraphFirstIndent) - twips(item.textIndent());
+    return item.intProperty(LabelOffset);
 }
 
 QList<TabStop> tabStopsOf(const QTextBlockFormat& block, int start) {

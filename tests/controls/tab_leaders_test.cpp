@@ -36,17 +36,18 @@ bool isInked(RichTextBox& box, int from, int to) {
 }
 
 /// The first inked column of a printed page, in twips from the left edge of the paper.
-int printedFrom(RichTextBox& box) {
-    QImage sheet(576, 300, QImage::Format_RGB32);
-    sheet.setDotsPerMeterX(DotsPerMeter);
-    sheet.setDotsPerMeterY(DotsPerMeter);
+/// \param times how much finer the paper is than the screen.
+int printedFrom(RichTextBox& box, int times = 1) {
+    QImage sheet(576 * times, 100 * times, QImage::Format_RGB32);
+    sheet.setDotsPerMeterX(DotsPerMeter * times);
+    sheet.setDotsPerMeterY(DotsPerMeter * times);
     sheet.fill(Qt::white);
     QPainter painter(&sheet);
     RangeFormatter(box).FormatPage({&painter, &sheet, QRectF(1440, 720, 6000, 3000), 0, -1});
     for (int x = 0; x < sheet.width(); ++x)
         for (int y = 0; y < sheet.height(); ++y)
             if (sheet.pixel(x, y) != qRgb(255, 255, 255))
-                return x * 15;
+                return x * 15 / times;
     return -1;
 }
 
@@ -59,6 +60,8 @@ private slots:
     void theSpaceOfATabIsFilled();
     void anIndentThatIsChangedLeavesTheStopsWhereTheyAre();
     void whatIsLeftOfTheMarginIsSeenAndPrintedThere();
+    void marginsArePrintedInTheSizeOfThePaper_data();
+    void marginsArePrintedInTheSizeOfThePaper();
     void labelsAreDrawnWhereTheListHangsThem();
 };
 
@@ -108,6 +111,25 @@ void TabLeadersTest::whatIsLeftOfTheMarginIsSeenAndPrintedThere() {
     // Paper without room for it.
     show(box, "\\pard\\fi-1500 HHHH\\par");
     QVERIFY(qAbs(printedFrom(box) - 1440) <= 60);
+}
+
+void TabLeadersTest::marginsArePrintedInTheSizeOfThePaper_data() {
+    QTest::addColumn<QByteArray>("shape");
+    QTest::addColumn<int>("left");
+    QTest::newRow("indent") << QByteArray("\\li720") << 720;
+    QTest::newRow("first line") << QByteArray("\\fi1000") << 1000;
+    QTest::newRow("right indent") << QByteArray("\\qr\\ri1440") << 6000 - 1440;
+    QTest::newRow("label of a list")
+        << QByteArray("{\\*\\pn\\pnlvlbody\\pndec{\\pntxta.}}\\fi-360\\li2000") << 1640;
+}
+
+/// On paper with finer dots than the screen's.
+void TabLeadersTest::marginsArePrintedInTheSizeOfThePaper() {
+    QFETCH(QByteArray, shape);
+    QFETCH(int, left);
+    RichTextBox box;
+    show(box, "\\pard" + shape + " I\\par");
+    QVERIFY(qAbs(printedFrom(box, 4) - (1440 + left)) <= 110);
 }
 
 void TabLeadersTest::labelsAreDrawnWhereTheListHangsThem() {

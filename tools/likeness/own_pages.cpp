@@ -34,11 +34,15 @@ void printOwnPages(const QByteArray& rtf, const QString& path) {
     RichTextBox box;
     box.SetFontName(u"Times New Roman"_s);
     box.SetTextRTF(rtf);
-    const QSizeF paper(std::clamp(numberOf(rtf, "paperw", 12240), 1440, 44640),
-                       std::clamp(numberOf(rtf, "paperh", 15840), 1440, 44640));
+    const QSizeF paper(
+        std::clamp(numberOf(rtf, "pgwsxn", numberOf(rtf, "paperw", 12240)), 1440, 44640),
+        std::clamp(numberOf(rtf, "pghsxn", numberOf(rtf, "paperh", 15840)), 1440, 44640));
     QRectF text(QPointF(0, 0), paper);
-    text.adjust(numberOf(rtf, "margl", 1440), numberOf(rtf, "margt", 1440),
-                -numberOf(rtf, "margr", 1440), -numberOf(rtf, "margb", 1440));
+    const auto margin = [&](const char* ofSection, const char* ofDocument) {
+        return numberOf(rtf, ofSection, numberOf(rtf, ofDocument, 1440));
+    };
+    text.adjust(margin("marglsxn", "margl"), margin("margtsxn", "margt"),
+                -margin("margrsxn", "margr"), -margin("margbsxn", "margb"));
     if (text.width() < 1440 || text.height() < 1440)
         return;
     QPdfWriter writer(path);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "likeness.h"
 
+#include <QMultiHash>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -46,6 +47,26 @@ void visitPairs(const QList<Item>& a, const QList<Item>& b,
         }
         visit(a[i++], b[j++]);
     }
+}
+
+/// The words of the first page, without what fills the space of tabs, and with one sign for every
+/// bullet. Characters that the fonts of few machines have stand for no word.
+QList<Word> firstPage(const PdfText& text) {
+    static const QRegularExpression leader(u"([._=\\x{00b7}-]){3,}.*$"_s);
+    static const QRegularExpression bullet(
+        u"^[\\x{2022}\\x{00b7}\\x{25aa}\\x{25cf}\\x{fffd}\\x{e000}-\\x{f8ff}]$"_s);
+    static const QRegularExpression rare(u"[\\x{2e80}-\\x{fffd}\\x{10000}-\\x{10ffff}]"_s);
+    QList<Word> words;
+    for (Word word : text.words) {
+        if (word.page != 1)
+            continue;
+        word.text.remove(leader);
+        if (bullet.match(word.text).hasMatch())
+            word.text = u"\u2022"_s;
+        if (!word.text.isEmpty() && !rare.match(word.text).hasMatch())
+            words.append(word);
+    }
+    return words;
 }
 
 template <class Item>
@@ -97,26 +118,31 @@ Likeness compare(const PdfText& expected, const PdfText& found) {
 }
 
 Share compareLeftEdges(const PdfText& expected, const PdfText& found, QString& miss) {
-    const auto firstPage = [](const PdfText& text) {
-        QList<Word> words = text.words;
-        words.removeIf([](const Word& word) { return word.page != 1; });
-        return words;
-    };
     const QList<Word> words = firstPage(expected);
+    QMultiHash<QString, QPointF> places;
+    for (const Word& word : firstPage(found))
+        places.insert(word.text, word.corner);
     Share share{0, words.size()};
-    qsizetype met = 0;
-    visitPairs<Word>(words, firstPage(found), [&](const Word& one, const Word& other) {
-        ++met;
-        const double apart = other.corner.x() - one.corner.x();
-        if (std::abs(apart) <= NearLeftEdge)
+    for (const Word& word : words) {
+        const auto distance = [&](const QPointF& place) {
+            return (place - word.corner).manhattanLength();
+        };
+        auto nearest = places.end();
+        for (auto it = places.find(word.text); it != places.end() && it.key() == word.text; ++it)
+            if (nearest == places.end() || distance(*it) < distance(*nearest))
+                nearest = it;
+        if (nearest != places.end() && std::abs(nearest->x() - word.corner.x()) <= NearLeftEdge)
             ++share.alike;
         else if (miss.isEmpty())
-            miss = u"\"%1\" stands at %2, not at %3"_s.arg(one.text)
-                       .arg(other.corner.x(), 0, 'f', 1)
-                       .arg(one.corner.x(), 0, 'f', 1);
-    });
-    if (miss.isEmpty() && met < words.size())
-        miss = u"%1 of %2 words are missing"_s.arg(words.size() - met).arg(words.size());
+            miss = u"\"%1\" at %2, %3"_s.arg(word.text)
+                       .arg(word.corner.x(), 0, 'f', 1)
+                       .arg(word.corner.y(), 0, 'f', 1) +
+                   (nearest == places.end() ? u" is missing"_s
+                                            : u" stands at %1, %2"_s.arg(nearest->x(), 0, 'f', 1)
+                                                  .arg(nearest->y(), 0, 'f', 1));
+        if (nearest != places.end())
+            places.erase(nearest);
+    }
     return share;
 }
 

@@ -28,7 +28,9 @@ struct Likeness {
 /// Of the characters of one PDF, those that another has alike; what it lacks is not.
 Likeness compare(const PdfText& expected, const PdfText& found);
 
-/// Of the words of the first page, those whose left edge is within six points of where it is to be.
+/// Of the words of the first page, in whatever order they were drawn, those whose left edge is
+/// within six points of where it is to be. Bullets count as one sign; leaders of tabs, and words in
+/// the scripts of the far east, for which few machines have a font, do not count.
 /// \param miss a word that is not, for whoever looks for the cause.
 Share compareLeftEdges(const PdfText& expected, const PdfText& found, QString& miss);
 

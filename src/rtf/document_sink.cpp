@@ -46,8 +46,6 @@ constexpr qint64 BytesOfTabStop = 64;
 
 constexpr size_t MostFormats = 16384;
 
-// A label as wide as the numbers of any list of people are.
-constexpr int LongestNumber = 8;
 // The part of their size that the letters of labels are wide at most.
 constexpr double WidestLetter = 0.7;
 

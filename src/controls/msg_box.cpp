@@ -23,6 +23,7 @@ namespace {
 
 constexpr int ButtonsMask = 0x0f;
 constexpr int IconMask = 0x70;
+constexpr int RoomForFeet = 2; // pixels
 
 QMessageBox::StandardButtons buttonsOf(int flags) {
     switch (flags & ButtonsMask) {
@@ -116,6 +117,9 @@ void alignText(QMessageBox& box) {
         words->setMinimumHeight(picture->sizeHint().height());
     if (box.icon() == QMessageBox::NoIcon)
         words->setContentsMargins(0, 0, 0, 0);
+    // At a scale between whole numbers the row is rounded down, over the feet of the letters.
+    words->setMinimumHeight(
+        std::max(words->minimumHeight(), words->sizeHint().height() + RoomForFeet));
 }
 
 Answer answerOf(int button) {

@@ -191,9 +191,11 @@ void ChromeWindow::alarmCaptionChanged() {
     m_program.state.alarmCaptionMirror = caption;
     imgSet->setVisible(caption.isEmpty());
     imgStop->setVisible(!caption.isEmpty());
-    // Where the alarm stands on the clock's own glass, the clock makes room for it.
-    const QRect shared = lblVreme->geometry() & lblAlarm->geometry();
-    lblVreme->setContentsMargins(0, 0, 0, caption.isEmpty() ? 0 : shared.height());
+    // Where the alarm stands below the clock on the same glass, the clock makes room for it. Beside
+    // it the two can share a column of pixels, once the layout has rounded their places.
+    const QRect alarm = lblAlarm->geometry();
+    const bool below = lblVreme->geometry().contains(alarm.center());
+    lblVreme->setContentsMargins(0, 0, 0, below && !caption.isEmpty() ? alarm.height() : 0);
 }
 
 QString ChromeWindow::alarmShown() const {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QList>
+#include <QRegularExpression>
 #include <QTextBrowser>
 #include <QUrl>
 
@@ -25,13 +27,20 @@ public:
     /// Goes to a page by its path in the file, perhaps with "#anchor".
     void go(const QString& page);
 
+    /// Marks the words wherever they stand, on this page and those that it is left for.
+    void setMarkedWords(const QList<QRegularExpression>& words);
+    /// Brings the first marked word into sight, where there is one.
+    void goToFirstMark();
+
     QVariant loadResource(int type, const QUrl& name) override;
 
 private:
     /// A picture of the file, made ready for the screen that the page is on.
     QImage picture(const QByteArray& content) const;
+    void markWords();
 
     const ChmFile* m_file = nullptr;
+    QList<QRegularExpression> m_markedWords;
 };
 
 } // namespace orvalis

@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "core/help_search.h"
 
-#include <QRegularExpression>
+#include "skin/palette.h"
+
+#include <QBitArray>
+#include <QColor>
 
 #include <algorithm>
 
@@ -40,11 +43,38 @@ QString excerptAround(const QString& text, qsizetype place) {
 
 } // namespace
 
-QList<HelpFinding> searchHelp(const QList<HelpPage>& pages, const QString& query) {
+QList<QRegularExpression> helpWords(const QString& query) {
     QList<QRegularExpression> words;
     const QStringList parts = query.simplified().split(u' ', Qt::SkipEmptyParts);
     for (const QString& part : parts)
         words.append(wordBeginning(part));
+    return words;
+}
+
+QString markedHtml(const QString& text, const QList<QRegularExpression>& words) {
+    // One word can be the beginning of another: each character is marked once.
+    QBitArray marked(text.size());
+    for (const QRegularExpression& word : words)
+        for (auto hit = word.globalMatch(text); hit.hasNext();) {
+            const QRegularExpressionMatch match = hit.next();
+            marked.fill(true, match.capturedStart(), match.capturedEnd());
+        }
+    QString html;
+    for (qsizetype from = 0; from < text.size();) {
+        qsizetype to = from + 1;
+        while (to < text.size() && marked.testBit(to) == marked.testBit(from))
+            ++to;
+        const QString piece = text.mid(from, to - from).toHtmlEscaped();
+        html += marked.testBit(from) ? u"<span style=\"background-color:%1\">%2</span>"_s.arg(
+                                           QColor(skin::colour::Found).name(), piece)
+                                     : piece;
+        from = to;
+    }
+    return html;
+}
+
+QList<HelpFinding> searchHelp(const QList<HelpPage>& pages, const QString& query) {
+    const QList<QRegularExpression> words = helpWords(query);
     if (words.isEmpty())
         return {};
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QList>
+#include <QRegularExpression>
 #include <QString>
 
 namespace orvalis {
@@ -24,9 +25,15 @@ struct HelpFinding {
     bool operator==(const HelpFinding&) const = default;
 };
 
-/// The pages that hold every word of the query, in either case and also as the beginning of a
-/// longer word. Pages with the words in their title come first, then those that say them most
-/// often; equals keep their order. An empty query finds nothing.
+/// What the words of a query are looked for with: in either case and also as the beginning of a
+/// longer word.
+QList<QRegularExpression> helpWords(const QString& query);
+
+/// A text with the places of the words told by a mark, as HTML.
+QString markedHtml(const QString& text, const QList<QRegularExpression>& words);
+
+/// The pages that hold every word of the query. Pages with the words in their title come first,
+/// then those that say them most often; equals keep their order. An empty query finds nothing.
 QList<HelpFinding> searchHelp(const QList<HelpPage>& pages, const QString& query);
 
 } // namespace orvalis

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/help_viewer.h"
 
+#include "core/help_finding_delegate.h"
 #include "core/help_page_view.h"
 #include "platform/chm_file.h"
 #include "platform/shell.h"
@@ -35,6 +36,7 @@ using namespace Qt::StringLiterals;
 constexpr QSize FirstSize(820, 560);
 constexpr int SideWidth = 230;
 constexpr int AddressRole = Qt::UserRole;
+static_assert(AddressRole != HelpFindingDelegate::HtmlRole);
 
 bool isPage(const QString& file) {
     return file.endsWith(u".html"_s) || file.endsWith(u".htm"_s);
@@ -111,8 +113,10 @@ QWidget* HelpViewer::makeSide() {
     m_findings = new QListWidget(side);
     m_findings->setObjectName(u"helpFindings"_s);
     m_findings->setAccessibleName(tr("Pages found"));
-    m_findings->setWordWrap(true);
-    m_findings->setSpacing(2);
+    m_findings->setItemDelegate(new HelpFindingDelegate(m_findings));
+    // The findings are as wide as the list, also after the list was made wider.
+    m_findings->setResizeMode(QListView::Adjust);
+    m_findings->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_findings->setFrameShape(QFrame::NoFrame);
 
     auto* none = new QLabel(tr("No page has all these words."), side);
@@ -140,8 +144,10 @@ QWidget* HelpViewer::makeSide() {
     connect(m_contents, &QTreeWidget::currentItemChanged, this, showTopic);
     connect(m_contents, &QTreeWidget::itemClicked, this, showTopic);
     const auto showFinding = [this](const QListWidgetItem* item) {
-        if (item != nullptr)
-            m_page->go(item->data(AddressRole).toString());
+        if (item == nullptr)
+            return;
+        m_page->go(item->data(AddressRole).toString());
+        m_page->goToFirstMark();
     };
     connect(m_findings, &QListWidget::currentItemChanged, this, showFinding);
     connect(m_findings, &QListWidget::itemClicked, this, showFinding);
@@ -224,7 +230,9 @@ void HelpViewer::readPages() {
 }
 
 void HelpViewer::search(const QString& query) {
-    if (query.trimmed().isEmpty() || !m_file) {
+    const auto words = m_file ? helpWords(query) : QList<QRegularExpression>();
+    m_page->setMarkedWords(words);
+    if (words.isEmpty()) {
         m_side->setCurrentIndex(0);
         return;
     }
@@ -236,6 +244,9 @@ void HelpViewer::search(const QString& query) {
     for (const HelpFinding& finding : findings) {
         auto* item = new QListWidgetItem(finding.title + u'\n' + finding.excerpt, m_findings);
         item->setData(AddressRole, finding.address);
+        item->setData(HelpFindingDelegate::HtmlRole,
+                      u"<b>%1</b><br>%2"_s.arg(markedHtml(finding.title, words),
+                                               markedHtml(finding.excerpt, words)));
     }
     m_side->setCurrentIndex(findings.isEmpty() ? 2 : 1);
 }

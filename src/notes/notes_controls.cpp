@@ -32,8 +32,8 @@ constexpr QRect RightPage(5880, 1020, 3915, 4395);
 constexpr QRect LeftTitle(480, 720, 3810, 240);
 constexpr QRect RightTitle(6780, 720, 2970, 240);
 constexpr QRect FindPlace(6120, 3180, 3495, 2205);
-constexpr QRect LeftTools(480, 465, 3915, 255);
-constexpr QRect RightTools(5880, 465, 3915, 255);
+constexpr QRect LeftTools(480, 480, 3915, 240);
+constexpr QRect RightTools(5880, 480, 3915, 240);
 constexpr QRgb Grey = 0xFF808080;
 constexpr int CommandsTop = 384; // pixels
 

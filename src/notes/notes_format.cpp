@@ -8,12 +8,15 @@
 #include "notes/page_toolbar.h"
 #include "notes/toolbar_state.h"
 
+#include <QStyle>
 #include <QTextBlock>
 #include <QToolButton>
 
 // The toolbars: what their buttons do, and how they follow the selection.
 
 namespace orvalis {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -198,7 +201,8 @@ void frmnotes2::shiftIndent(int millimetres) {
 
 void frmnotes2::setPageWidth(int width, bool coversBoth) {
     // A sheet that covers the other page lets nothing of it through.
-    ui.rt1->viewport()->setAutoFillBackground(coversBoth);
+    ui.rt1->setProperty("skinSurface", coversBoth ? u"sheet"_s : u"paper"_s);
+    ui.rt1->style()->polish(ui.rt1);
     ui.rt1->resize(width, ui.rt1->height());
 }
 

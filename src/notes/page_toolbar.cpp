@@ -14,8 +14,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize ButtonSize(21, 17);
-constexpr QSize PictureSize(14, 14);
+constexpr QSize ButtonSize(21, 15);
+constexpr QSize PictureSize(13, 13);
 
 } // namespace
 

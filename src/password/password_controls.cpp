@@ -31,6 +31,13 @@ constexpr int CommandsLeft = 5940;
 constexpr int CommandSize = 480;
 constexpr int CommandStep = 866;
 
+/// The font of the two buttons, or the nearest to it that every machine has.
+QFont cryptFont() {
+    QFont font = skin::font(skin::points::Body);
+    font.setFamilies(QStringList{u"MS Sans Serif"_s} + font.families());
+    return font;
+}
+
 /// The two buttons that scramble and bring back.
 constexpr skin::ButtonLook CryptButton{skin::PageButton.backColor, 0xFFFCF8, 0xCBBD86,
                                        skin::PageButton.foreColor, 0x808000, true};
@@ -90,7 +97,7 @@ void PasswordControls::makeFrame(QWidget& panel) {
     for (std::size_t index = 0; index < cmdCrypt.size(); ++index) {
         auto* button = new GGCommand(u"cmdCrypt(%1)"_s.arg(index), Frame4);
         button->setCaption(captions.at(index));
-        button->setFont(QFont(u"MS Sans Serif"_s, skin::points::Body));
+        button->setFont(cryptFont());
         wearLook(*button, CryptButton);
         setTwipsGeometry(*button, {static_cast<qreal>(lefts.at(index)), 1140, 855, 255});
         cmdCrypt.at(index) = button;

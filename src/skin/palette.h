@@ -18,6 +18,7 @@ inline constexpr QRgb IceDeep = 0xFF86BDCB;
 inline constexpr QRgb Line = 0xFF8DB9C4;     ///< the edge of fields and frames
 inline constexpr QRgb LineSoft = 0xFFC9D8D8; ///< the edge of what is disabled, lines inside lists
 inline constexpr QRgb Sage = 0xFFB0C8A0;     ///< behind what is selected
+inline constexpr QRgb Found = 0xFFFFE9A8;    ///< behind words that were looked for
 inline constexpr QRgb SageLight = 0xFFE4EEDB;
 inline constexpr QRgb Green = 0xFF5E8C46;    ///< the one spot of colour in an icon
 inline constexpr QRgb Teal = 0xFF008080;     ///< what is under the pointer

@@ -31,6 +31,17 @@ QColor shade(QRgb rgb) {
     return QColor::fromRgba(rgb);
 }
 
+// What lies behind is covered, also where it is paper with writing on it.
+void layAsSheet(QAbstractScrollArea& area) {
+    QPalette palette = area.palette();
+    palette.setColor(QPalette::Base, shade(colour::Paper));
+    palette.setColor(QPalette::Window, shade(colour::Paper));
+    area.setPalette(palette);
+    area.setFrameShape(QFrame::StyledPanel);
+    area.setAutoFillBackground(true);
+    area.viewport()->setAutoFillBackground(true);
+}
+
 // The text and the rest of the widget show what lies behind.
 void layOnPaper(QWidget* widget) {
     QPalette palette = widget->palette();
@@ -39,6 +50,7 @@ void layOnPaper(QWidget* widget) {
     widget->setPalette(palette);
     if (auto* area = qobject_cast<QAbstractScrollArea*>(widget)) {
         area->setFrameShape(QFrame::NoFrame);
+        area->setAutoFillBackground(false);
         area->viewport()->setAutoFillBackground(false);
     } else if (auto* line = qobject_cast<QLineEdit*>(widget)) {
         line->setFrame(false);
@@ -61,7 +73,8 @@ void drawMenuItem(const QStyle* base, const QStyleOptionMenuItem& item, QPainter
     QStyleOptionMenuItem ours(item);
     ours.palette.setColor(QPalette::Highlight, shade(colour::Teal));
     ours.palette.setColor(QPalette::HighlightedText, Qt::white);
-    if (hasNoSigns(item))
+    const bool isHeading = item.menuItemType == QStyleOptionMenuItem::Separator;
+    if (hasNoSigns(item) && !isHeading)
         ours.rect.adjust(-SignColumn, 0, 0, 0);
     base->drawControl(QStyle::CE_MenuItem, &ours, painter, widget);
 }
@@ -85,6 +98,8 @@ void Style::polish(QWidget* widget) {
         layOnPaper(widget);
     else if (surface == u"glass"_s)
         layOnGlass(widget);
+    else if (auto* area = qobject_cast<QAbstractScrollArea*>(widget); area && surface == u"sheet"_s)
+        layAsSheet(*area);
     if (auto* calendar = qobject_cast<QCalendarWidget*>(widget))
         dressCalendar(*calendar);
 }

@@ -18,7 +18,8 @@ void dress(QApplication& application);
 /// bitmaps.
 ///
 /// The dynamic property "skinSurface" tells what a widget lies on. "paper": a rich text box, list
-/// or line that shows the page or sticker behind it, without a frame. "glass": a label on the dark
+/// or line that shows the page or sticker behind it, without a frame. "sheet": a rich text box that
+/// is a loose sheet over the page and hides what is written there. "glass": a label on the dark
 /// glass, in its pale text.
 class Style : public QProxyStyle {
 public:

@@ -16,6 +16,7 @@ constexpr int ComboArrow = 19;
 constexpr int FieldFrame = 2;
 constexpr int CaptionInset = 9;
 constexpr int Mark = 14;
+constexpr int MenuMargin = 3;
 
 QRect scrollBarRect(const QStyleOptionSlider& bar, QStyle::SubControl part) {
     const bool upright = bar.orientation == Qt::Vertical;
@@ -94,6 +95,8 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
     case PM_ExclusiveIndicatorWidth:
     case PM_ExclusiveIndicatorHeight:
         return Mark;
+    case PM_MenuVMargin:
+        return MenuMargin;
     case PM_ButtonShiftHorizontal:
     case PM_ButtonShiftVertical:
         return 0;

@@ -47,6 +47,7 @@ private slots:
     void aBoxOfFewWordsIsWideEnoughForItsTitle();
     void aBoxStandsOverTheMiddleOfItsWindow();
     void itsWordsStandBesideTheMiddleOfThePicture();
+    void theFeetOfItsLettersHaveRoom();
     void escapeAnswersOkWhereThereIsOkAlone();
     void escapeAnswersCancelWhereThereIsCancel();
     void escapeAndTheCloseButtonLeaveAYesNoBoxOpen();
@@ -173,6 +174,16 @@ void MsgBoxTest::itsWordsStandBesideTheMiddleOfThePicture() {
         box.accept();
     });
     QVERIFY(std::abs(words.y() - picture.y()) <= 2);
+}
+
+void MsgBoxTest::theFeetOfItsLettersHaveRoom() {
+    int room = 0;
+    ask(0, [&](QMessageBox& box) {
+        const auto* words = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+        room = words->height() - words->fontMetrics().height();
+        box.accept();
+    });
+    QVERIFY2(room >= 2, qPrintable(QString::number(room)));
 }
 
 void MsgBoxTest::escapeAnswersOkWhereThereIsOkAlone() {

@@ -36,6 +36,12 @@ private slots:
         QCOMPARE(addresses(u"alarm tray"_s), QStringList{u"tray.html"_s});
         QCOMPARE(addresses(u"alarm zebra"_s), QStringList());
     }
+    void wordsAreMarkedOnceAndTheRestIsNoMarkup() {
+        const QString mark = u"<span style=\"background-color:#ffe9a8\">"_s;
+        QCOMPARE(markedHtml(u"a <b> Bells & bell"_s, helpWords(u"bell bells"_s)),
+                 u"a &lt;b&gt; "_s + mark + u"Bells</span> &amp; "_s + mark + u"bell</span>"_s);
+        QCOMPARE(markedHtml(u"doorbell"_s, helpWords(u"bell"_s)), u"doorbell"_s);
+    }
     void caseMakesNoDifferenceAndABeginningIsEnough() {
         QCOMPARE(addresses(u"RIN"_s), QStringList{u"first.html"_s});
         QCOMPARE(addresses(u"ings"_s), QStringList());

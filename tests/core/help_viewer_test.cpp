@@ -6,6 +6,7 @@
 #include "platform/shell.h"
 #include "runtime/file_saving.h"
 #include "runtime/files.h"
+#include "skin/palette.h"
 #include "support/test_main.h"
 
 #include <QApplication>
@@ -17,6 +18,8 @@
 #include <QStackedWidget>
 #include <QTemporaryDir>
 #include <QTextBlock>
+#include <QTextFrame>
+#include <QTextTable>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
@@ -229,6 +232,70 @@ private slots:
         QCOMPARE(help.shown(), u"first_steps.html"_s);
     }
 
+    void theWordsLookedForAreMarkedOnThePageAndInTheList() {
+        Opened help;
+        auto* search = help.control<QLineEdit>(u"helpSearch"_s);
+        auto* findings = help.control<QListWidget>(u"helpFindings"_s);
+        search->setText(u"recovered.rtf"_s);
+        QVERIFY(findings->count() >= 2);
+        int last = 0;
+        for (int i = 0; i < findings->count(); ++i) {
+            findings->setCurrentRow(i);
+            const auto marks = help.page()->extraSelections();
+            QVERIFY2(!marks.isEmpty(), qPrintable(help.shown()));
+            for (const auto& mark : marks) {
+                QCOMPARE(mark.cursor.selectedText().toLower(), u"recovered.rtf"_s);
+                QVERIFY(mark.format.background().color() == QColor(skin::colour::Found));
+            }
+            // The first of them is in sight.
+            QVERIFY2(help.page()->viewport()->rect().intersects(
+                         help.page()->cursorRect(marks.constFirst().cursor)),
+                     qPrintable(help.shown()));
+            last = qMax(last, help.page()->verticalScrollBar()->value());
+        }
+        QVERIFY(last > 0);
+        const QColor mark(skin::colour::Found);
+        QVERIFY(contains(findings->viewport()->grab().toImage(), mark));
+
+        // Two words are marked each, and on the next page too.
+        search->setText(u"sticker sound"_s);
+        help.choose(u"The alarm"_s);
+        QStringList words;
+        for (const auto& one : help.page()->extraSelections())
+            words << one.cursor.selectedText().toLower();
+        QVERIFY(words.contains(u"sticker"_s) && words.contains(u"sound"_s));
+        search->clear();
+        QVERIFY(help.page()->extraSelections().isEmpty());
+    }
+
+    void aNoteHasRoomAroundItsWords() {
+        Opened help;
+        const auto file = ChmFile::open(HelpFile);
+        int notes = 0;
+        for (const QString& page : file->files()) {
+            if (!page.endsWith(u".html"_s))
+                continue;
+            const qsizetype written =
+                QString::fromUtf8(file->read(page)).count(u"class=\"note\""_s);
+            help.page()->go(page);
+            qsizetype shown = 0;
+            for (const QTextFrame* frame : help.page()->document()->rootFrame()->childFrames()) {
+                const auto* table = qobject_cast<const QTextTable*>(frame);
+                if (table == nullptr || table->rows() != 1 || table->columns() != 1)
+                    continue;
+                ++shown;
+                const QTextTableCellFormat cell = table->cellAt(0, 0).format().toTableCellFormat();
+                QVERIFY2(cell.leftPadding() >= 8 && cell.topPadding() >= 8 &&
+                             cell.rightPadding() >= 8 && cell.bottomPadding() >= 8,
+                         qPrintable(page));
+                QVERIFY(table->format().background().color() == QColor(0xFFEEF4EA));
+            }
+            QVERIFY2(shown == written, qPrintable(page));
+            notes += int(shown);
+        }
+        QVERIFY(notes >= 8);
+    }
+
     void aSearchListsThePagesAndShowsTheOneChosen() {
         Opened help;
         auto* search = help.control<QLineEdit>(u"helpSearch"_s);
@@ -307,6 +374,14 @@ private:
                           QSize(picture.captured(2).toInt(), picture.captured(3).toInt())});
         }
         return found;
+    }
+
+    static bool contains(const QImage& image, const QColor& colour) {
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (image.pixelColor(x, y) == colour)
+                    return true;
+        return false;
     }
 
     static HelpViewer* viewerOnShow() {

@@ -31,6 +31,8 @@ private slots:
     void cleanup() { m_ground.reset(); }
 
     void thePanelSaysWhatItIs();
+    void theClockGoesOnBesideAnAlarm_data();
+    void theClockGoesOnBesideAnAlarm();
     void theCommandsHaveTheirToolTips();
     void thePasswordIsHiddenOnItsOwnPaper();
     void theFrameAndItsButtonsHaveTheirWords();
@@ -71,6 +73,27 @@ private:
 void PasswordPanelTest::init() {
     m_ground = std::make_unique<PasswordGround>();
     m_ground->shown();
+}
+
+void PasswordPanelTest::theClockGoesOnBesideAnAlarm_data() {
+    QTest::addColumn<int>("width");
+    for (const int width : {800, 822, 864, 898, 1024})
+        QTest::addRow("%d", width) << width;
+}
+
+void PasswordPanelTest::theClockGoesOnBesideAnAlarm() {
+    QFETCH(int, width);
+    m_ground->screen.screenSize = QSize(width, width);
+    frmnotes4& panel = m_ground->shown();
+    m_ground->program.state.alarmArmed = true;
+    m_ground->program.state.alarmTimeText = u"23:00:00"_s;
+    panel.showAlarm();
+    QCOMPARE(panel.alarmShown(), u"23:00:00"_s);
+    Label& clock = m_ground->control<Label>(u"lblVreme"_s);
+    const auto drawn = [&] { return panel.grab(clock.geometry().adjusted(0, 0, -4, 0)).toImage(); };
+    const QImage told = drawn();
+    clock.setCaption({});
+    QVERIFY(drawn() != told);
 }
 
 void PasswordPanelTest::thePanelSaysWhatItIs() {

@@ -128,6 +128,7 @@ private slots:
     void theIconsOfMessageBoxesAreOurs();
     void aChosenMenuEntryIsTeal();
     void aMenuOfWordsAloneHasNoEmptyColumn();
+    void theHeadingOfAMenuIsReadWhole();
     void aFrameTitleLiesOnOneGround();
     void theCalendarHasAnEdgeAndAQuietHead();
     void theMonthOfTheCalendarHasNoArrowInItsCorner();
@@ -480,6 +481,22 @@ void StyleTest::aMenuOfWordsAloneHasNoEmptyColumn() {
     plain.addAction(u"HHH"_s);
     plain.addAction(u"HHH"_s);
     QVERIFY(menu.sizeHint().width() > plain.sizeHint().width());
+}
+
+void StyleTest::theHeadingOfAMenuIsReadWhole() {
+    QMenu menu;
+    QAction* heading = menu.addSection(u"HHHHHHHH"_s);
+    menu.addAction(u"Date"_s);
+    menu.ensurePolished();
+    menu.resize(menu.sizeHint());
+    const QImage drawn = menu.grab().toImage();
+    const QRect place = menu.actionGeometry(heading);
+    int first = drawn.width();
+    for (int y = place.top(); y <= place.bottom(); ++y)
+        for (int x = 1; x < drawn.width() - 1; ++x)
+            if (qGray(drawn.pixel(x, y)) < 100)
+                first = std::min(first, x);
+    QVERIFY2(first >= 3 && first <= 20, qPrintable(QString::number(first)));
 }
 
 void StyleTest::aFrameTitleLiesOnOneGround() {

@@ -12,7 +12,8 @@ namespace orvalis {
 
 class GGCommand;
 
-/// Lets a key of a window do something, wherever in the window the focus is.
+/// Lets a key of a window do something, wherever in the window the focus is. Its lines must be
+/// there already, for they would take some keys for themselves.
 void onKey(QWidget& window, const QKeySequence& key, const std::function<void()>& command);
 
 /// The same for a skinned button, which answers no key itself: the key presses it while it shows

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "notes/find_window.h"
 
+#include "controls/edit_menu.h"
 #include "controls/label.h"
 #include "controls/message_boxes.h"
 #include "controls/rich_text_box.h"
@@ -29,6 +30,7 @@ QLineEdit* line(QWidget& parent, const QString& name, const Label& caption, cons
     made->setObjectName(name);
     made->setGeometry(place);
     made->setAccessibleName(caption.Caption());
+    giveEditMenu(*made);
     return made;
 }
 

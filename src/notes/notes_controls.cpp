@@ -2,12 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "notes/notes_controls.h"
 
+#include "controls/edit_menu.h"
 #include "controls/image.h"
 #include "controls/label.h"
 #include "controls/rich_text_box.h"
 #include "controls/twips_geometry.h"
 #include "core/button_look.h"
-#include "core/skin_picture.h"
+#include "core/picture_button.h"
 #include "notes/document_rules.h"
 #include "notes/page_toolbar.h"
 #include "skin/ink.h"
@@ -38,13 +39,8 @@ constexpr QRgb Grey = 0xFF808080;
 constexpr int CommandsTop = 384; // pixels
 
 Image* command(QWidget& panel, const QString& name, int left, const QString& toolTip,
-               const QString& pictureName) {
-    auto* image = new Image(name, &panel);
-    image->setGeometry(left, CommandsTop, 32, 32);
-    image->setToolTip(toolTip);
-    image->setPicture(skinPicture(pictureName));
-    image->setHoverPicture(skinPicture(pictureName + u"_hover"_s));
-    return image;
+               const QString& picture) {
+    return pictureButton(panel, name, {left, CommandsTop, 32, 32}, toolTip, picture);
 }
 
 GGCommand* button(QWidget& parent, const QString& name, const QRect& place,
@@ -91,6 +87,7 @@ QLineEdit* line(QWidget& parent, const QString& name, const QRect& place,
     made->setGeometry(place);
     made->setFont(skin::font(skin::points::Body));
     made->setAccessibleName(accessibleName);
+    giveEditMenu(*made);
     return made;
 }
 
@@ -124,6 +121,7 @@ void NotesControls::makePages(QWidget& panel) {
     rt5 = page(panel, u"rt5"_s, LeftPage, {});
     rt5->hide();
     rt1 = page(panel, u"rt1"_s, LeftPage, u"Left page"_s);
+    rt1->setTabChangesFocus(true);
 }
 
 void NotesControls::makeToolbars(QWidget& panel) {
@@ -196,24 +194,13 @@ void NotesControls::makeFindFrame(QWidget& panel) {
 }
 
 void NotesControls::setTabOrder() {
-    const std::initializer_list<QWidget*> order{rt1,
-                                                rt1a,
-                                                Button1,
-                                                Text1,
-                                                Text2,
-                                                Check4,
-                                                Check3,
-                                                FindButton,
-                                                FindNextButton,
-                                                ReplaceButton,
-                                                ReplaceAllButton,
-                                                Command5};
-    QWidget* before = nullptr;
-    for (QWidget* control : order) {
-        if (before)
-            QWidget::setTabOrder(before, control);
-        before = control;
-    }
+    QWidgetList order{rt1, Text1, Text2, Check4, Check3};
+    for (const PageToolbar* toolbar : {Toolbar1, Toolbar2})
+        for (QToolButton* tool : toolbar->buttons())
+            order << tool;
+    order << QWidgetList{imgNew, imgSave, imgSlika, imgFind, imgMail, rt1a, imgOpen, imgPrint};
+    for (qsizetype i = 1; i < order.size(); ++i)
+        QWidget::setTabOrder(order[i - 1], order[i]);
 }
 
 } // namespace orvalis

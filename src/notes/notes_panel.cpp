@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "notes/notes_panel.h"
 
+#include "controls/image.h"
 #include "controls/label.h"
 #include "controls/message_boxes.h"
 #include "controls/rich_text_box.h"
@@ -33,6 +34,8 @@ frmnotes2::frmnotes2(Program& program)
     connectToolbars();
     connectFind();
     connectCommands();
+    connectKeys();
+    tabToChromeAfter(*ui.imgPrint);
 }
 
 void frmnotes2::connectChrome() {

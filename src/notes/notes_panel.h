@@ -50,6 +50,7 @@ public:
 protected:
     void onLoad() override;
     bool exitExtra() override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     // notes_panel.cpp
@@ -89,6 +90,9 @@ private:
     void FindNextButton_Click();
     void ReplaceButton_Click();
     void ReplaceAllButton_Click();
+
+    // notes_keys.cpp
+    void connectKeys();
 
     // notes_commands.cpp: letters, mail, pictures, printing
     void connectCommands();

@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "notes/page_toolbar.h"
 
+#include "core/window_keys.h"
 #include "skin/skin.h"
 
 #include <QButtonGroup>
+#include <QKeyEvent>
 #include <QLayout>
 #include <QToolButton>
 
@@ -16,6 +18,20 @@ namespace {
 
 constexpr QSize ButtonSize(21, 15);
 constexpr QSize PictureSize(13, 13);
+
+/// Enter presses it, as it presses the pictures.
+class ToolbarButton final : public QToolButton {
+public:
+    using QToolButton::QToolButton;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (isEnter(*event) && !event->isAutoRepeat())
+            click();
+        else
+            QToolButton::keyPressEvent(event);
+    }
+};
 
 } // namespace
 
@@ -33,7 +49,7 @@ PageToolbar::PageToolbar(const QString& name, QWidget* parent)
 }
 
 QToolButton* PageToolbar::addPlain(const QString& toolTip, const QString& picture) {
-    auto* made = new QToolButton(this);
+    auto* made = new ToolbarButton(this);
     const auto index = static_cast<int>(m_buttons.size());
     made->setObjectName(u"%1(%2)"_s.arg(objectName()).arg(index));
     made->setAutoRaise(true);
@@ -66,6 +82,14 @@ void PageToolbar::addGap() {
 
 QToolButton& PageToolbar::button(int index) const {
     return *m_buttons.at(static_cast<std::size_t>(index));
+}
+
+QList<QToolButton*> PageToolbar::buttons() const {
+    QList<QToolButton*> all;
+    for (QToolButton* button : m_buttons)
+        if (button != nullptr)
+            all << button;
+    return all;
 }
 
 int PageToolbar::value(int index) const {

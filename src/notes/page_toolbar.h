@@ -28,6 +28,8 @@ public:
 
     /// The button of that index, which must be no separator's.
     QToolButton& button(int index) const;
+    /// All of them, from left to right.
+    QList<QToolButton*> buttons() const;
     /// Whether the button is down. Setting it is no click.
     int value(int index) const;
     void setValue(int index, bool down);

@@ -7,6 +7,7 @@
 #include "skin/skin.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QCalendarWidget>
 #include <QEvent>
 #include <QPainter>
@@ -41,13 +42,20 @@ public:
         calendar.installEventFilter(this);
         if (head)
             head->setAutoFillBackground(false);
-        for (QAbstractItemView* days : calendar.findChildren<QAbstractItemView*>())
+        for (QAbstractItemView* days : calendar.findChildren<QAbstractItemView*>()) {
             days->viewport()->setAutoFillBackground(false);
+            days->installEventFilter(this);
+        }
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::Paint)
-            paint(*static_cast<QWidget*>(watched));
+        auto& calendar = *static_cast<QWidget*>(parent());
+        if (watched == &calendar && event->type() == QEvent::Paint)
+            paint(calendar);
+        // The days have the keyboard for the whole calendar.
+        const bool turns = event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut;
+        if (watched != &calendar && turns)
+            calendar.update();
         return QObject::eventFilter(watched, event);
     }
 
@@ -56,7 +64,11 @@ private:
 
     void paint(QWidget& calendar) {
         QPainter painter(&calendar);
-        faces::field(painter, calendar.rect(), Qt::white, QStyle::State_Enabled);
+        const QWidget* focused = QApplication::focusWidget();
+        const bool hasFocus = focused != nullptr && calendar.isAncestorOf(focused);
+        faces::field(painter, calendar.rect(), Qt::white,
+                     QStyle::State_Enabled |
+                         (hasFocus ? QStyle::State_HasFocus : QStyle::State_None));
         if (!m_head || !m_head->isVisibleTo(&calendar))
             return;
         QPainterPath inside;

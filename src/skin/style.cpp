@@ -16,6 +16,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QStyleOption>
+#include <QToolButton>
 #include <QToolTip>
 
 using namespace Qt::StringLiterals;
@@ -151,8 +152,11 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
     case PE_PanelItemViewRow:
         return;
     case PE_FrameFocusRect:
-        if (state.testFlag(State_KeyboardFocusChange))
-            faces::focus(*painter, option->rect);
+        if (state.testFlag(State_KeyboardFocusChange)) {
+            // A small tool has no room for a ring inside its edge.
+            const bool isTool = qobject_cast<const QToolButton*>(widget) != nullptr;
+            faces::focus(*painter, isTool ? widget->rect() : option->rect);
+        }
         return;
     case PE_PanelTipLabel:
         // Filled twice, as a line of one pixel would fall between the pixels of odd scales.

@@ -22,6 +22,9 @@ private slots:
     void aMessageWithAReminderIsWrittenFoundAndSaved();
     void anAlarmIsSetAndStopped();
     void aStickerIsMadeWrittenPinnedAndClosed();
+    void aNoteIsWrittenWithALetterFoundInAndSaved();
+    void aTextIsScrambledAndTheProgramGoesToTheTray();
+    void theManualIsSearched();
 
 private:
     bool waitFocus(const QString& name) {
@@ -218,6 +221,102 @@ void KeyboardJourneyTest::aStickerIsMadeWrittenPinnedAndClosed() {
     m_program->key(u"ctrl+w"_s);
     QVERIFY(waitGone(u"xn"_s));
     QVERIFY(m_program->control(u"frmstick"_s).visible);
+}
+
+void KeyboardJourneyTest::aNoteIsWrittenWithALetterFoundInAndSaved() {
+    QVERIFY(m_program->waitVisible(u"frmnotes"_s));
+    QVERIFY(waitFocus(u"frmnotes/imgopen1"_s));
+    QVERIFY(press(u"frmnotes/imgopen2"_s));
+    QVERIFY(m_program->waitVisible(u"frmnotes2"_s));
+    QVERIFY(waitFocus(u"frmnotes2/rt1"_s));
+    m_program->type(u"Dear Anna, "_s);
+    m_program->key(u"ctrl+a ctrl+b"_s);
+    QVERIFY(
+        waitUntil([&] { return m_program->control(u"frmnotes2/Toolbar1(5)"_s).checked; }, 8000));
+    QVERIFY(waitFocus(u"frmnotes2/rt1"_s));
+    m_program->key(u"ctrl+End"_s);
+    // A tool is pressed like the pictures are.
+    QVERIFY(press(u"frmnotes2/Toolbar2(14)"_s, u"Return"_s));
+    QVERIFY(waitFocus(u"frmnotes2/rt1"_s));
+    QVERIFY(m_program->control(u"frmnotes2/Toolbar2(14)"_s).checked);
+
+    QVERIFY(press(u"frmnotes2/imgFind"_s, u"Return"_s));
+    QVERIFY(m_program->waitVisible(u"frmpisma"_s));
+    QVERIFY(waitFocus(u"frmpisma/TV1"_s));
+    m_program->key(u"Down Down"_s);
+    QVERIFY(
+        waitUntil([&] { return m_program->control(u"frmpisma"_s).title == u"Example 1"; }, 8000));
+    QVERIFY(m_program->tabTo(u"frmpisma/rtp"_s));
+    m_program->key(u"ctrl+Home shift+End ctrl+Return"_s);
+    QVERIFY(m_program->waitText(u"frmnotes2/rt1"_s, u"Dear Anna, Cover Letter, Example 1"_s));
+    m_program->key(u"Escape"_s);
+    QVERIFY(waitGone(u"frmpisma"_s));
+
+    QVERIFY(m_program->tabTo(u"frmnotes2/rt1"_s));
+    m_program->key(u"ctrl+f"_s);
+    QVERIFY(waitFocus(u"frmnotes2/Text1"_s));
+    m_program->type(u"Letter"_s);
+    QVERIFY(m_program->tabTo(u"frmnotes2/Text2"_s));
+    m_program->type(u"Note"_s);
+    QVERIFY(m_program->tabTo(u"frmnotes2/Text1"_s));
+    m_program->key(u"Return"_s);
+    QVERIFY(waitFocus(u"frmnotes2/rt1"_s));
+    m_program->key(u"ctrl+h"_s);
+    QVERIFY(waitUntil([&] { return m_program->messageBox().text == u"String not found."; }, 8000));
+    m_program->key(u"Return"_s);
+    QVERIFY(m_program->waitText(u"frmnotes2/rt1"_s, u"Dear Anna, Cover Note, Example 1"_s));
+    QVERIFY(waitUntil([&] { return !m_program->messageBox().found; }, 8000));
+    m_program->key(u"Escape"_s);
+    QVERIFY(waitGone(u"frmnotes2/Frame1"_s));
+    QVERIFY(waitFocus(u"frmnotes2/rt1"_s));
+
+    m_program->key(u"ctrl+s"_s);
+    QVERIFY(m_program->waitAtRest(u"FileDialog"_s).visible);
+    m_program->type(m_program->folder() + u"/anna.rtf"_s);
+    m_program->key(u"Return"_s);
+    QVERIFY(m_program->waitText(u"frmnotes2/Label3"_s, u"anna.rtf"_s));
+    QVERIFY(m_program->fileBytes(u"anna.rtf"_s).contains("Cover Note"));
+}
+
+void KeyboardJourneyTest::aTextIsScrambledAndTheProgramGoesToTheTray() {
+    QVERIFY(m_program->waitVisible(u"frmnotes"_s));
+    QVERIFY(waitFocus(u"frmnotes/imgopen1"_s));
+    QVERIFY(press(u"frmnotes/imgopen4"_s));
+    QVERIFY(m_program->waitVisible(u"frmnotes4"_s));
+    QVERIFY(m_program->tabTo(u"frmnotes4/txtText"_s));
+    m_program->type(u"the harbour"_s);
+    QVERIFY(m_program->tabTo(u"frmnotes4/txtPW"_s));
+    m_program->type(u"rose"_s);
+    // Some desktops have lines take this key for themselves.
+    m_program->key(u"ctrl+e"_s);
+    QVERIFY(waitUntil(
+        [&] { return m_program->control(u"frmnotes4/txtText"_s).text != u"the harbour"; }, 8000));
+    m_program->key(u"ctrl+d"_s);
+    QVERIFY(m_program->waitText(u"frmnotes4/txtText"_s, u"the harbour"_s));
+    QVERIFY(press(u"frmnotes4/imgMini"_s));
+    QVERIFY(waitGone(u"frmnotes4"_s));
+    QVERIFY(m_program->isRunning());
+}
+
+void KeyboardJourneyTest::theManualIsSearched() {
+    QVERIFY(m_program->waitVisible(u"frmnotes"_s));
+    QVERIFY(waitFocus(u"frmnotes/imgopen1"_s));
+    QVERIFY(press(u"frmnotes/imgHelp"_s));
+    QVERIFY(m_program->waitVisible(u"mnuhelp"_s));
+    m_program->key(u"c"_s);
+    QVERIFY(m_program->waitVisible(u"helpViewer"_s));
+    QVERIFY(waitFocus(u"helpViewer/helpSearch"_s));
+    m_program->type(u"recovered"_s);
+    QVERIFY(waitUntil(
+        [&] { return m_program->control(u"helpViewer/helpFindings"_s).rows.size() >= 2; }, 8000));
+    QVERIFY(m_program->tabTo(u"helpViewer/helpFindings"_s));
+    m_program->key(u"Down"_s);
+    QVERIFY(waitUntil(
+        [&] { return m_program->control(u"helpViewer/helpPage"_s).text.contains(u"recovered"); },
+        8000));
+    m_program->key(u"Escape"_s);
+    QVERIFY(waitGone(u"helpViewer"_s));
+    QVERIFY(waitFocus(u"frmnotes/imgHelp"_s));
 }
 
 ORVALIS_TEST_MAIN_WITH(QCoreApplication, KeyboardJourneyTest)

@@ -186,6 +186,34 @@ private slots:
         QCOMPARE(ground.rt1().Text(), u"My note"_s);
     }
 
+    void theKeyboardReachesAllButTheButtonsThatHaveKeys() {
+        LettersGround ground;
+        ground.window().Show();
+        QApplication::setActiveWindow(&ground.window());
+        ground.tree().setFocus(Qt::TabFocusReason);
+        QStringList reached;
+        do {
+            QTest::keyClick(ground.window().focusWidget(), Qt::Key_Tab);
+            reached << ground.window().focusWidget()->objectName();
+        } while (reached.constLast() != u"TV1"_s && reached.size() < 20);
+        QCOMPARE(reached, (QStringList{u"optLet(0)"_s, u"rtp"_s, u"TV1"_s}));
+    }
+
+    void controlAndEnterInsertsWhereverTheFocusIs() {
+        LettersGround ground;
+        ground.window().Show();
+        QApplication::setActiveWindow(&ground.window());
+        ground.choose(u"Gift..."_s);
+        for (QWidget* from :
+             std::initializer_list<QWidget*>{&ground.rtp(), &ground.tree(), &ground.option(0)}) {
+            ground.rt1().SetText({});
+            ground.rtp().Find(u"quilt"_s);
+            from->setFocus();
+            QTest::keyClick(from, Qt::Key_Return, Qt::ControlModifier);
+            QCOMPARE(ground.rt1().Text(), u"quilt"_s);
+        }
+    }
+
     void aWindowOpenedAgainBeginsAnew() {
         LettersGround ground;
         ground.window().Show();

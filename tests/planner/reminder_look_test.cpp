@@ -28,6 +28,7 @@ private slots:
     void everyWordStandsOutFromItsGround();
     void wordsUnderThePointerStandOutFromTheirGround();
     void daysOfOtherMonthsStandOutAndAreQuieter();
+    void theCalendarShowsThatItHasTheKeyboard();
     void signAndCaptionStandInTheMiddleAsOne();
     void everyCaptionHasItsRoom_data() { theCalendarShowsItsWeeksAndNamesWhole_data(); }
     void everyCaptionHasItsRoom();
@@ -197,6 +198,24 @@ void ReminderLookTest::daysOfOtherMonthsStandOutAndAreQuieter() {
     QVERIFY(contrastOf(2, 0) >= ReadableContrast);
     QVERIFY(contrastOf(0, 0) >= ReadableContrast);
     QVERIFY(contrastOf(0, 3) >= ReadableContrast);
+}
+
+void ReminderLookTest::theCalendarShowsThatItHasTheKeyboard() {
+    PanelGround ground;
+    ground.shown();
+    QApplication::processEvents();
+    auto* days = ground.calendar().findChild<QTableView*>();
+    const auto edge = [&] {
+        QApplication::processEvents();
+        return ground.calendar().grab(QRect(0, 60, 2, 20)).toImage();
+    };
+    ground.rt1().setFocus();
+    const QImage without = edge();
+    days->setFocus(Qt::TabFocusReason);
+    const QImage with = edge();
+    QVERIFY(with != without);
+    ground.rt1().setFocus();
+    QCOMPARE(edge(), without);
 }
 
 void ReminderLookTest::signAndCaptionStandInTheMiddleAsOne() {

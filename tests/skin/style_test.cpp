@@ -22,6 +22,7 @@
 #include <QScrollBar>
 #include <QStyleOption>
 #include <QTextEdit>
+#include <QToolButton>
 #include <QToolTip>
 
 using namespace Qt::StringLiterals;
@@ -129,6 +130,7 @@ private slots:
     void aChosenMenuEntryIsTeal();
     void aMenuOfWordsAloneHasNoEmptyColumn();
     void theHeadingOfAMenuIsReadWhole();
+    void aToolThatHasTheKeyboardHasARingAroundIt();
     void aFrameTitleLiesOnOneGround();
     void theCalendarHasAnEdgeAndAQuietHead();
     void theMonthOfTheCalendarHasNoArrowInItsCorner();
@@ -497,6 +499,27 @@ void StyleTest::theHeadingOfAMenuIsReadWhole() {
             if (qGray(drawn.pixel(x, y)) < 100)
                 first = std::min(first, x);
     QVERIFY2(first >= 3 && first <= 20, qPrintable(QString::number(first)));
+}
+
+void StyleTest::aToolThatHasTheKeyboardHasARingAroundIt() {
+    QWidget window;
+    window.setFixedSize(60, 40);
+    auto* tool = new QToolButton(&window);
+    tool->setAutoRaise(true);
+    tool->setGeometry(10, 10, 21, 15);
+    auto* other = new QLineEdit(&window);
+    other->setGeometry(40, 10, 15, 20);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    window.setAttribute(Qt::WA_KeyboardFocusChange);
+    other->setFocus();
+    const QImage without = tool->grab().toImage();
+    tool->setFocus(Qt::TabFocusReason);
+    const QImage with = tool->grab().toImage();
+    QVERIFY(with != without);
+    // Around it, not across its picture.
+    const QRect middle(5, 4, 11, 7);
+    QCOMPARE(with.copy(middle), without.copy(middle));
 }
 
 void StyleTest::aFrameTitleLiesOnOneGround() {

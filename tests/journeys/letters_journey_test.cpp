@@ -53,6 +53,48 @@ private:
 class LettersJourneyTest : public QObject {
     Q_OBJECT
 private slots:
+    /// The words go in bold, as the preview was made; what the note held stays as it was.
+    void theFormatOfAnInsertedSentenceIsKept() {
+        OpenedLetters letters;
+        const QString trouble = letters.open();
+        QVERIFY2(trouble.isEmpty(), qPrintable(trouble));
+        DrivenProgram& program = letters.program();
+        // What is written bold at the caret makes the preview's font that of the note; its own
+        // format is that of the letter.
+        program.key(u"Down Down"_s);
+        QVERIFY(letters.shows(u"Cover Letter, Example 1\n"_s));
+        QVERIFY(program.click(u"frmpisma/Command2"_s));
+        QVERIFY(waitUntil([&] { return !program.control(u"frmpisma"_s).visible; }, 5000));
+
+        // A larger size, chosen in the note, is the size of what comes in.
+        QVERIFY(program.click(u"frmnotes2/rt1"_s));
+        program.key(u"ctrl+a ctrl+d"_s);
+        QVERIFY(program.waitAtRest(u"FontDialog"_s).visible);
+        QVERIFY(program.click(u"FontDialog/size"_s));
+        program.key(u"ctrl+a"_s);
+        program.type(u"17"_s);
+        program.key(u"Return"_s);
+        QVERIFY(waitUntil([&] { return !program.control(u"FontDialog"_s).visible; }, 5000));
+        program.key(u"ctrl+End ctrl+b"_s);
+        QVERIFY(program.click(u"frmnotes2/imgFind"_s));
+        QVERIFY(program.waitAtRest(u"frmpisma/TV1"_s).found);
+        program.key(u"Down Down"_s);
+        QVERIFY(letters.shows(u"Cover Letter, Example 1\n"_s));
+        QVERIFY(program.click(u"frmpisma/rtp"_s));
+        program.key(u"ctrl+Home shift+End ctrl+Return"_s);
+        QVERIFY(program.waitText(u"frmnotes2/rt1"_s, u"Dear Anne, Cover Letter, Example 1"_s));
+        program.key(u"Escape"_s);
+        QVERIFY(waitUntil([&] { return !program.control(u"frmpisma"_s).visible; }, 5000));
+        QVERIFY(program.click(u"frmnotes2/imgSave"_s));
+        QVERIFY(program.waitAtRest(u"FileDialog"_s).visible);
+        program.type(program.folder() + u"/letter.rtf"_s);
+        program.key(u"Return"_s);
+        QVERIFY(program.waitText(u"frmnotes2/Label3"_s, u"letter.rtf"_s));
+        const QByteArray written = program.fileBytes(u"letter.rtf"_s);
+        QVERIFY2(written.contains("\\fs34") && !written.contains("\\fs16"), written);
+        QVERIFY(written.contains("Cover Letter, Example 1"));
+    }
+
     void aPhraseIsChosenAndInsertedIntoTheNote() {
         OpenedLetters letters;
         const QString trouble = letters.open();

@@ -52,6 +52,7 @@ private slots:
     void wordsAreFoundAndReplaced();
     void aPictureIsPutInAndTakenAway();
     void aDocumentIsMailed();
+    void aMailWithoutAMailToolIsToldOf();
     void theRightPageIsPrintedInPages();
     void theTimeIsWrittenFromTheClocksMenu();
     void aFindThatOverflowsEndsTheProgramAndNothingIsLost();
@@ -251,6 +252,25 @@ void NotesJourneyTest::aDocumentIsMailed() {
     QVERIFY(waitUntil([this] { return m_program->messageBox().found; }, 8000));
     QVERIFY(!m_program->messageBox().text.isEmpty());
     m_program->key(u"Return"_s);
+}
+
+void NotesJourneyTest::aMailWithoutAMailToolIsToldOf() {
+    m_program->terminate();
+    QVERIFY(m_program->waitForEnd());
+    m_program->setVariable(u"PATH"_s, m_program->binFolder());
+    QVERIFY(m_program->start());
+    QVERIFY(openPanel());
+    m_program->type(u"for you"_s);
+    QVERIFY(m_program->click(u"frmnotes2/imgSave"_s));
+    QVERIFY(chooseFile(file(u"you.txt"_s)));
+    QVERIFY(m_program->waitText(u"frmnotes2/Label3"_s, u"you.txt"_s));
+    QVERIFY(m_program->click(u"frmnotes2/imgMail"_s));
+    QVERIFY(
+        boxIs(u"There is no mail program to send the document with."_s, u"Orvalis"_s, {u"OK"_s}));
+    QVERIFY(m_program->answer(u"OK"_s));
+    QCOMPARE(left(), u"for you"_s);
+    m_program->type(u"!"_s);
+    QVERIFY(m_program->waitText(u"frmnotes2/rt1"_s, u"for you!"_s));
 }
 
 void NotesJourneyTest::theRightPageIsPrintedInPages() {

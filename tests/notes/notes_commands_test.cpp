@@ -8,6 +8,7 @@
 #include <QBuffer>
 #include <QClipboard>
 #include <QDataStream>
+#include <QDir>
 #include <QMimeData>
 #include <QWindow>
 
@@ -63,6 +64,9 @@ private slots:
     void aPictureIsTakenByWhatItHoldsNotByItsName();
     void whatIsNoPictureEndsSilently_data();
     void whatIsNoPictureEndsSilently();
+    void aPictureOfAHundredMegapixelsIsPutInOrLeftOutWhole();
+    void aPictureThatVanishesBehindTheDialogEndsSilently();
+    void aFolderIsNoPicture();
     void oneUndoTakesThePictureAway();
 
     // Print
@@ -262,6 +266,38 @@ void NotesCommandsTest::whatIsNoPictureEndsSilently_data() {
 void NotesCommandsTest::whatIsNoPictureEndsSilently() {
     QFETCH(QByteArray, bytes);
     insert(m_ground->put(u"a.bmp"_s, bytes));
+    QCOMPARE(rt1().Text(), QString());
+    QVERIFY(clipboardIsEmpty());
+}
+
+/// A real one, of one bit a pixel: small on the disk, large in the memory.
+void NotesCommandsTest::aPictureOfAHundredMegapixelsIsPutInOrLeftOutWhole() {
+    const QString file = m_ground->folder.file(u"huge.png"_s);
+    {
+        QImage huge(10000, 10000, QImage::Format_Mono);
+        huge.fill(1);
+        QVERIFY(huge.save(file, "PNG"));
+    }
+    m_ground->write(u"text"_s);
+    insert(file);
+    const bool isIn = rt1().Text() == u"text "_s;
+    QVERIFY(isIn || rt1().Text() == u"text"_s);
+    QCOMPARE(rt1().TextRTF().contains("\\pict"), isIn);
+    m_ground->write(u" goes on"_s);
+    QVERIFY(rt1().Text().endsWith(u" goes on"_s));
+}
+
+void NotesCommandsTest::aPictureThatVanishesBehindTheDialogEndsSilently() {
+    const QString file = m_ground->put(u"a.png"_s, pictureBytes("PNG"));
+    m_ground->dialogs.whileOpen = [&file] { QVERIFY(QFile::remove(file)); };
+    insert(file);
+    QCOMPARE(rt1().Text(), QString());
+    QVERIFY(clipboardIsEmpty());
+}
+
+void NotesCommandsTest::aFolderIsNoPicture() {
+    QVERIFY(QDir(m_ground->folder.file({})).mkpath(u"folder.png"_s));
+    insert(m_ground->folder.file(u"folder.png"_s));
     QCOMPARE(rt1().Text(), QString());
     QVERIFY(clipboardIsEmpty());
 }

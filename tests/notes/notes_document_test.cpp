@@ -47,6 +47,7 @@ private slots:
     void textUnderANameOfRichTextEndsSilently();
     void anUnreadableTextEmptiesTheRightPageAndKeepsItsTitle();
     void aFileThatVanishesIsASilentEnd();
+    void aFileThatIsGoneWhenTheDialogClosesIsNotFound();
     void openTakesNulsAsTheyAre();
     void aTextOfTwoHundredMegabytesIsRefusedOrTaken();
 
@@ -250,6 +251,15 @@ void NotesDocumentTest::aFileThatVanishesIsASilentEnd() {
     // A path with wildcards exists when anything matches, and is no file to be read.
     m_ground->put(u"a.rtf"_s, Bold);
     open(path(u"*.rtf"_s));
+    QCOMPARE(m_ground->rt1a().Text(), QString());
+    QCOMPARE(m_ground->rt1().Tag(), QString());
+}
+
+void NotesDocumentTest::aFileThatIsGoneWhenTheDialogClosesIsNotFound() {
+    const QString file = m_ground->put(u"a.rtf"_s, Bold);
+    m_ground->dialogs.whileOpen = [&file] { QVERIFY(QFile::remove(file)); };
+    m_ground->boxes.expect(u"File not found!"_s, 64, Answer::Ok);
+    open(file);
     QCOMPARE(m_ground->rt1a().Text(), QString());
     QCOMPARE(m_ground->rt1().Tag(), QString());
 }

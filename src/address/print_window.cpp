@@ -38,8 +38,8 @@ constexpr QSize ButtonSize(26, 24);
 constexpr QSize PictureSize(16, 16);
 constexpr qint64 GrowthIsAnswered = 500; // milliseconds
 
-constexpr quint32 Red = 255;
-constexpr quint32 Black = 0;
+constexpr quint32 HeadingRed = 255;
+constexpr quint32 BlockBlack = 0;
 
 struct ToolbarButton {
     const char16_t* key;
@@ -156,9 +156,9 @@ void frmPrint::stampaAll() {
 
 void frmPrint::insertNumbered(int number, const AddressRecord& contact) {
     m_rtb->SetSelText(u"\r\n"_s);
-    m_rtb->SetSelColor(Red);
+    m_rtb->SetSelColor(HeadingRed);
     m_rtb->SetSelText(u"---------- Item No %1 ---------\r\n"_s.arg(number));
-    m_rtb->SetSelColor(Black);
+    m_rtb->SetSelColor(BlockBlack);
     insertContact(*m_rtb, contact, BoldLines::Values);
     m_rtb->SetSelBold(false);
 }

@@ -369,12 +369,11 @@ void AddressFindingTest::everyEditEndsTheSearch() {
     AddressGround::choose(m_ground->combo(u"Combo2"_s), u"First"_s);
     QVERIFY(!m_ground->searchIsIdle());
     m_ground->line(u"Text1"_s).setText(u"new"_s);
-    if (button == u"imgDel")
+    if (button == u"imgDel") {
         m_ground->answerDelete(Answer::Yes);
-    else if (button == u"imgNew")
-        m_ground->press(button);
-    else {
-        m_ground->boxes.answer(Answer::Ok);
+    } else {
+        if (button != u"imgNew")
+            m_ground->boxes.answer(Answer::Ok);
         m_ground->press(button);
     }
     QVERIFY(m_ground->searchIsIdle());

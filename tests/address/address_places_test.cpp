@@ -47,11 +47,14 @@ void AddressPlacesTest::aFullBookIsNoLimit() {
 void AddressPlacesTest::whatStandsBehindAGapMovesUp_data() {
     QTest::addColumn<int>("gap");
     QTest::addColumn<QString>("left");
-    QTest::newRow("first") << 0 << u"bccd"_s;
-    QTest::newRow("middle") << 1 << u"accd"_s;
-    QTest::newRow("last") << 2 << u"abcd"_s;
-    QTest::newRow("spare") << 3 << u"abcd"_s;
-    QTest::newRow("none") << -1 << u"abcd"_s;
+    const auto row = [](const char* name, int gap, const QString& left) {
+        QTest::newRow(name) << gap << left;
+    };
+    row("first", 0, u"bccd"_s);
+    row("middle", 1, u"accd"_s);
+    row("last", 2, u"abcd"_s);
+    row("spare", 3, u"abcd"_s);
+    row("none", -1, u"abcd"_s);
 }
 
 void AddressPlacesTest::whatStandsBehindAGapMovesUp() {

@@ -330,8 +330,8 @@ void PrintWindowTest::theOverflowEndsTheProgramWithItsBox() {
 
 void PrintWindowTest::aSnapshotThatCannotBeOpenedEndsPrintAllAhead_data() {
     QTest::addColumn<int>("contacts");
-    QTest::newRow("no contact") << 0;
-    QTest::newRow("some contacts") << 3;
+    for (const int contacts : {0, 3})
+        QTest::addRow("%d", contacts) << contacts;
 }
 
 void PrintWindowTest::aSnapshotThatCannotBeOpenedEndsPrintAllAhead() {

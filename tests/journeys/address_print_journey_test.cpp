@@ -154,11 +154,6 @@ void AddressPrintJourneyTest::theNextPageBeginsEmpty() {
     QVERIFY(pageHas(u"Mill Lane 4"_s));
     QVERIFY(!page().contains(u"Item No"_s));
     QCOMPARE(m_program->control(u"frmPrint"_s).title, u"Address Print"_s);
-
-    // Another panel takes the page along.
-    QVERIFY(m_program->click(u"frmnotes3/lblNot"_s));
-    QVERIFY(m_program->waitVisible(u"frmnotes1"_s));
-    QVERIFY(waitUntil([this] { return !m_program->control(u"frmPrint"_s).visible; }, 10000));
 }
 
 void AddressPrintJourneyTest::moreContactsThanCanBeCountedEndTheProgramAndTheBookStays() {

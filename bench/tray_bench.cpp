@@ -14,6 +14,7 @@
 #include "platform/registry.h"
 #include "platform/screen.h"
 #include "platform/sound_player.h"
+#include "platform/tray_icon.h"
 #include "runtime/app.h"
 
 #include <QApplication>
@@ -136,7 +137,7 @@ int main(int argc, char** argv) {
                  50);
     good &= tell("to the tray",
                  milliseconds([&] { windows.get<MainWindow>().Pocni(); },
-                              [&] { emit tray.mouse(TrayMouse::LeftDoubleClick); }),
+                              [&] { emit tray->mouse(TrayMouse::LeftDoubleClick); }),
                  100);
     return good ? 0 : 1;
 }

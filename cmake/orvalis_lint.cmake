@@ -5,12 +5,16 @@
 # folder as one text: orvalis_lint_texts() makes BUILD/lint/FOLDER.cpp, which includes them, for every folder
 # of the tree that has targets, and BUILD/lint/sources.txt, the list of them all. The libraries of a folder
 # share their names anyway; each program and each test is put into a namespace of its own, behind all headers.
+# So the tests of several folders can be one text: BUILD/lint/tests_NUMBER.cpp.
 set(ORVALIS_LINT ${CMAKE_BINARY_DIR}/lint)
 
 function(orvalis_lint_texts)
   file(REMOVE_RECURSE ${ORVALIS_LINT})
   set_property(GLOBAL PROPERTY ORVALIS_LINTED "")
+  set_property(GLOBAL PROPERTY ORVALIS_LINT_TESTS "")
+  set_property(GLOBAL PROPERTY ORVALIS_LINT_TEST_OWNERS "")
   orvalis_lint_folder(${CMAKE_SOURCE_DIR})
+  orvalis_lint_tests()
   get_property(linted GLOBAL PROPERTY ORVALIS_LINTED)
   list(SORT linted)
   list(JOIN linted "\n" lines)
@@ -53,8 +57,28 @@ function(orvalis_lint_folder folder)
   if(owners)
     list(REMOVE_DUPLICATES shared)
     list(REMOVE_DUPLICATES apart)
-    orvalis_lint_text(${folder})
+    # The tests of the documents below all windows have names of their own for what windows name too.
+    if(folder MATCHES "^${CMAKE_SOURCE_DIR}/tests/" AND NOT folder MATCHES "/(runtime|rtf)$" AND NOT shared)
+      set_property(GLOBAL APPEND PROPERTY ORVALIS_LINT_TESTS ${apart})
+      set_property(GLOBAL APPEND PROPERTY ORVALIS_LINT_TEST_OWNERS ${owners})
+    else()
+      orvalis_lint_text(${folder})
+    endif()
   endif()
+endfunction()
+
+function(orvalis_lint_tests)
+  set(at_once 48)
+  get_property(tests GLOBAL PROPERTY ORVALIS_LINT_TESTS)
+  get_property(owners GLOBAL PROPERTY ORVALIS_LINT_TEST_OWNERS)
+  set(shared "")
+  set(text_number 0)
+  while(tests)
+    math(EXPR text_number "${text_number} + 1")
+    list(SUBLIST tests 0 ${at_once} apart)
+    orvalis_lint_text(${CMAKE_SOURCE_DIR}/tests/${text_number})
+    list(REMOVE_ITEM tests ${apart})
+  endwhile()
 endfunction()
 
 # Writes the text of one folder and a target that is never built, for the sake of its line in

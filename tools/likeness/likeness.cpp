@@ -117,8 +117,13 @@ Likeness compare(const PdfText& expected, const PdfText& found) {
     return likeness;
 }
 
-Share compareLeftEdges(const PdfText& expected, const PdfText& found, QString& miss) {
-    const QList<Word> words = firstPage(expected);
+Share compareLeftEdges(const PdfText& expected, const PdfText& found, double top, double bottom,
+                       QString& miss) {
+    QList<Word> words = firstPage(expected);
+    constexpr double Rounding = 4;
+    words.removeIf([&](const Word& word) {
+        return word.corner.y() < top - Rounding || word.corner.y() > bottom;
+    });
     QMultiHash<QString, QPointF> places;
     for (const Word& word : firstPage(found))
         places.insert(word.text, word.corner);

@@ -32,7 +32,9 @@ Likeness compare(const PdfText& expected, const PdfText& found);
 /// within six points of where it is to be. Bullets count as one sign; leaders of tabs, and words in
 /// the scripts of the far east, for which few machines have a font, do not count.
 /// \param miss a word that is not, for whoever looks for the cause.
-Share compareLeftEdges(const PdfText& expected, const PdfText& found, QString& miss);
+/// \param top,bottom of the text in points; what stands above and below them does not count.
+Share compareLeftEdges(const PdfText& expected, const PdfText& found, double top, double bottom,
+                       QString& miss);
 
 /// Text without what readers set differently: runs of blanks, and marks without a width.
 QString folded(QString text);

@@ -34,6 +34,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr double TwipsPerPoint = 20;
 const QString TextFilter = u"txt:Text (encoded):UTF8"_s;
 
 QByteArray contentOf(const QString& path) {
@@ -50,6 +51,8 @@ struct Sample {
     QString name;
     QString label; ///< of the files that are made of it
     bool aside = false;
+    double top = 0; ///< of the text on a page, in points
+    double bottom = 0;
 };
 
 class Measurement {
@@ -87,6 +90,9 @@ private:
             if (rtf::readRtf(bytes, document).fault == rtf::Fault::NotRtf)
                 continue;
             Sample sample{name, QString(name).replace(u'/', u'~').chopped(4), standsAside(bytes)};
+            const QRectF area = textArea(bytes);
+            sample.top = area.top() / TwipsPerPoint;
+            sample.bottom = area.bottom() / TwipsPerPoint;
             leave(path(u"given"_s, sample, u".rtf"_s), bytes);
             leave(path(u"written"_s, sample, u".rtf"_s), rtf::writeRtf(document));
             printOwnPages(bytes, path(u"own-pdf"_s, sample, u".pdf"_s));
@@ -167,7 +173,7 @@ private:
     void measureOwn(const Sample& sample, const PdfText& given) {
         const PdfText own = readPdf(path(u"own-pdf"_s, sample, u".pdf"_s));
         QString miss;
-        const Share edges = compareLeftEdges(given, own, miss);
+        const Share edges = compareLeftEdges(given, own, sample.top, sample.bottom, miss);
         if (edges.all == 0)
             return;
         ++m_own;

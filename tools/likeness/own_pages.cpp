@@ -28,21 +28,31 @@ int numberOf(const QByteArray& rtf, const char* word, int usual) {
     return match.hasMatch() ? match.captured(1).toInt() : usual;
 }
 
+QSizeF paperOf(const QByteArray& rtf) {
+    constexpr int Narrowest = 1440;
+    constexpr int Widest = 44640;
+    const int width = numberOf(rtf, "pgwsxn", numberOf(rtf, "paperw", 12240));
+    const int height = numberOf(rtf, "pghsxn", numberOf(rtf, "paperh", 15840));
+    return QSizeF(std::clamp(width, Narrowest, Widest), std::clamp(height, Narrowest, Widest));
+}
+
 } // namespace
+
+QRectF textArea(const QByteArray& rtf) {
+    const auto margin = [&](const char* ofSection, const char* ofDocument) {
+        return numberOf(rtf, ofSection, numberOf(rtf, ofDocument, 1440));
+    };
+    return QRectF(QPointF(0, 0), paperOf(rtf))
+        .adjusted(margin("marglsxn", "margl"), margin("margtsxn", "margt"),
+                  -margin("margrsxn", "margr"), -margin("margbsxn", "margb"));
+}
 
 void printOwnPages(const QByteArray& rtf, const QString& path) {
     RichTextBox box;
     box.SetFontName(u"Times New Roman"_s);
     box.SetTextRTF(rtf);
-    const QSizeF paper(
-        std::clamp(numberOf(rtf, "pgwsxn", numberOf(rtf, "paperw", 12240)), 1440, 44640),
-        std::clamp(numberOf(rtf, "pghsxn", numberOf(rtf, "paperh", 15840)), 1440, 44640));
-    QRectF text(QPointF(0, 0), paper);
-    const auto margin = [&](const char* ofSection, const char* ofDocument) {
-        return numberOf(rtf, ofSection, numberOf(rtf, ofDocument, 1440));
-    };
-    text.adjust(margin("marglsxn", "margl"), margin("margtsxn", "margt"),
-                -margin("margrsxn", "margr"), -margin("margbsxn", "margb"));
+    const QSizeF paper = paperOf(rtf);
+    const QRectF text = textArea(rtf);
     if (text.width() < 1440 || text.height() < 1440)
         return;
     QPdfWriter writer(path);

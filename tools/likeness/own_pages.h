@@ -3,9 +3,13 @@
 #pragma once
 
 #include <QByteArray>
+#include <QRectF>
 #include <QString>
 
 namespace orvalis::likeness {
+
+/// Where the text of a page stands on the paper that the file names, in twips.
+QRectF textArea(const QByteArray& rtf);
 
 /// Prints a file through the program's own rich text box, on the paper that the file names.
 /// \param path of the PDF.

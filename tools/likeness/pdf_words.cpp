@@ -39,7 +39,9 @@ void readPlaces(const QByteArray& xml, PdfText& text) {
             const auto attributes = reader.attributes();
             const QPointF corner(attributes.value("xMin"_L1).toDouble(),
                                  attributes.value("yMin"_L1).toDouble());
-            text.words.append({reader.readElementText(), text.pages, corner});
+            // Ligatures are drawn as one sign by the one, as letters by the other.
+            const QString word = reader.readElementText().normalized(QString::NormalizationForm_KC);
+            text.words.append({word, text.pages, corner});
         }
     }
 }

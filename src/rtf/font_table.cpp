@@ -77,10 +77,10 @@ void FontTable::commit(Names& names, const CodePage& documentPage) {
     own.decode(m_bytes, m_name);
     const QString plain = cleanName(m_plainName);
     const QString name = plain.isEmpty() ? withoutScript(cleanName(m_name)) : plain;
-    if (symbols) {
-        const SymbolFont font = symbolFontOf(name);
-        m_entry.page = font == SymbolFont::None ? &latin : &CodePage::forSymbols(font);
-    }
+    m_entry.symbols = symbolFontOf(name);
+    if (symbols)
+        m_entry.page =
+            m_entry.symbols == SymbolFont::None ? &latin : &CodePage::forSymbols(m_entry.symbols);
     if (!name.isEmpty())
         m_entry.family = names.family(name);
     if (m_fonts.size() >= MostNumberedFonts && !m_fonts.contains(m_number))

@@ -18,7 +18,8 @@ class FontTable {
 public:
     struct Font {
         int family = NoName;
-        const CodePage* page = nullptr; ///< null: the document's own
+        const CodePage* page = nullptr;        ///< null: the document's own
+        SymbolFont symbols = SymbolFont::None; ///< by its name, whatever its page
     };
 
     /// Begins an entry; what is told until commit() belongs to it.

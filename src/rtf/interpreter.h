@@ -52,6 +52,7 @@ private:
         CharFormat chars;
         ParagraphFormat paragraph;
         const CodePage* page = nullptr;
+        SymbolFont symbols = SymbolFont::None; ///< that the font is
         int font = NoName; ///< number in the font table; none stands for the default font
         int fontsVersion = 0;
         int unicodeSkip = 1;

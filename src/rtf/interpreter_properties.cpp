@@ -214,6 +214,7 @@ void Interpreter::selectFont() {
     if (!font)
         font = m_fonts.find(m_defaultFont);
     m_state.chars.family = font ? font->family : NoName;
+    m_state.symbols = font ? font->symbols : SymbolFont::None;
     m_state.page = font && font->page ? font->page : m_documentPage;
 }
 

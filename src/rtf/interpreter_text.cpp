@@ -158,8 +158,15 @@ void Interpreter::append(QStringView text) {
         return;
     }
     prepareText();
-    for (const QChar character : text)
-        m_text.append(QChar(harmless(character.unicode())));
+    for (const QChar character : text) {
+        // Word processors tell signs by their bytes, in the area for private use.
+        const uchar byte =
+            m_state.symbols == SymbolFont::None ? uchar(0) : privateByte(character.unicode());
+        if (byte)
+            m_text.append(QChar::fromUcs4(symbolCharacter(m_state.symbols, byte)));
+        else
+            m_text.append(QChar(harmless(character.unicode())));
+    }
 }
 
 void Interpreter::character(char16_t character) {
@@ -187,10 +194,6 @@ void Interpreter::unicode(int code) {
     }
     if (!shows() && !captures())
         return;
-    // Word processors tell the signs of such fonts by their bytes, in the area for private use.
-    const SymbolFont symbols = pageOfText().symbols();
-    if (const uchar byte = privateByte(char32_t(code)); byte && symbols != SymbolFont::None)
-        code = int(symbolCharacter(symbols, byte));
     if (QChar::isHighSurrogate(char32_t(code))) {
         if (m_state.destination == Destination::Body)
             prepareText();

@@ -203,6 +203,7 @@ private slots:
     void onlyAsciiIsWritten();
     void signsKeepTheirFontAndTheirCodes_data();
     void signsKeepTheirFontAndTheirCodes();
+    void signsOfAFontWithoutACharsetStay();
 };
 
 void RoundTripTest::randomDocumentsSurviveWritingAndReading() {
@@ -358,6 +359,17 @@ void RoundTripTest::signsKeepTheirFontAndTheirCodes() {
     const QByteArray written = writeRtf(document);
     QVERIFY(written.contains("{\\f0\\fnil\\fcharset2 " + font + ";}"));
     QVERIFY(written.contains("\\f0\\fs24" + codes + "\\par"));
+}
+
+void RoundTripTest::signsOfAFontWithoutACharsetStay() {
+    QTextDocument document;
+    readRtf("{\\rtf1{\\fonttbl{\\f0\\fnil Symbol;}{\\f1\\fnil\\fcharset0 Wingdings;}}"
+            "\\f0\\u-3913?b\\f1\\u-3844?\\par}",
+            document);
+    QCOMPARE(document.toRawText(), QStringLiteral("\u2022b\u2713"));
+    QTextDocument again;
+    readRtf(writeRtf(document), again);
+    QCOMPARE(again.toRawText(), document.toRawText());
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, RoundTripTest)

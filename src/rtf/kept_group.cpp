@@ -13,7 +13,7 @@ namespace orvalis::rtf {
 
 namespace {
 
-constexpr size_t MostGroups = 4096;
+constexpr size_t MostKeptGroups = 4096;
 
 // Which editing session typed it: of use to who compares versions of a file, and as long as the
 // text itself.
@@ -34,7 +34,7 @@ QString GroupKeeper::kept(QByteArrayView head, bool ownText, qsizetype limit) {
     Token token;
     for (m_tokenizer.next(token); token.kind != TokenKind::End; m_tokenizer.next(token)) {
         take(token);
-        if (m_out.bytes().size() > limit || m_groups.size() > MostGroups)
+        if (m_out.bytes().size() > limit || m_groups.size() > MostKeptGroups)
             return {};
     }
     flushPending();

@@ -18,11 +18,11 @@ namespace {
 constexpr int WidestPage = 11520; // twips
 constexpr int MostSteps = 32;
 
-double pixels(int twips) {
+double placeInPixels(int twips) {
     return twips / TwipsPerPixel;
 }
 
-int twips(double pixels) {
+int placeInTwips(double pixels) {
     return int(std::lround(pixels * TwipsPerPixel));
 }
 
@@ -88,7 +88,7 @@ int textStart(const ParagraphFormat& format, const QList<TabStop>& stops, int de
 }
 
 QTextOption::Tab shownStop(const TabStop& stop, int start) {
-    return {pixels(stop.position - start), stop.type,
+    return {placeInPixels(stop.position - start), stop.type,
             stop.type == QTextOption::DelimiterTab ? QChar(u'.') : QChar()};
 }
 
@@ -135,7 +135,7 @@ void setLength(QTextBlockFormat& block, QTextFormat::Property property, int twip
     if (twips == 0)
         block.clearProperty(property);
     else
-        block.setProperty(property, pixels(twips));
+        block.setProperty(property, placeInPixels(twips));
 }
 
 } // namespace
@@ -174,7 +174,7 @@ int overhangOf(const QTextBlockFormat& block) {
 void standAcrossMargin(QTextBlockFormat& block) {
     if (overhangOf(block) == 0)
         return;
-    block.setLeftMargin(block.leftMargin() - pixels(overhangOf(block)));
+    block.setLeftMargin(block.leftMargin() - placeInPixels(overhangOf(block)));
     block.clearProperty(ParagraphOverhang);
 }
 
@@ -194,7 +194,7 @@ QList<TabStop> tabStopsOf(const QTextBlockFormat& block, int start) {
     }
     const auto shown = block.tabPositions();
     for (const QTextOption::Tab& stop : shown)
-        stops.append(TabStop{start + twips(stop.position), stop.type});
+        stops.append(TabStop{start + placeInTwips(stop.position), stop.type});
     return stops;
 }
 

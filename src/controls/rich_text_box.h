@@ -33,7 +33,7 @@ class RichTextBox : public QTextEdit {
     Q_OBJECT
 
 public:
-    /// What files().files().LoadFile() and files().files().SaveFile() read and write.
+    /// What files().LoadFile() and files().SaveFile() read and write.
     enum FileFlags : int { rtfRTF = 0, rtfText = 1 };
     /// Options of Find(), to be added up.
     enum FindOptions : int { rtfWholeWord = 2, rtfMatchCase = 4 };

@@ -307,12 +307,19 @@ void RichTextBox::SetSelText(const QString& text) {
     if (text.isEmpty() && !editCursor().hasSelection())
         return;
     const QTextCharFormat format = formatAtStart(editCursor());
+    const QTextCharFormat anchors = anchorsAtEnd(editCursor());
     editAt(editCursor(), [&](QTextCursor& cursor) {
+        const int from = cursor.selectionStart();
         cursor.beginEditBlock();
         cursor.removeSelectedText();
         insertPlain(cursor, text, format);
+        if (!anchors.isEmpty() && cursor.position() > from && !cursor.atBlockStart()) {
+            QTextCursor last(cursor);
+            last.movePosition(QTextCursor::PreviousCharacter, QTextCursor::KeepAnchor);
+            last.mergeCharFormat(anchors);
+        }
         cursor.endEditBlock();
-        cursor.setCharFormat(format);
+        cursor.setCharFormat(anchors.isEmpty() ? format : cursor.charFormat());
     });
 }
 

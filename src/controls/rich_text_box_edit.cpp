@@ -9,6 +9,7 @@
 #include "controls/text_positions.h"
 #include "rtf/control_marks.h"
 #include "rtf/document_room.h"
+#include "rtf/format_properties.h"
 #include "rtf/intake.h"
 #include "rtf/picture_format.h"
 #include "runtime/failure.h"
@@ -57,12 +58,30 @@ bool atBullet(const QTextCursor& cursor) {
     return !cursor.hasSelection() && cursor.atBlockStart() && hasBullet(cursor.block());
 }
 
-/// What is typed behind a mark is no mark. \returns whether the cursor's format changed.
-bool leaveMarks(QTextCursor& cursor) {
+/// Whether the cursor stands in a run to whose end a footnote, or its like, is anchored.
+bool insideAnchored(const QTextCursor& cursor) {
+    if (cursor.atBlockEnd())
+        return false;
+    QTextCursor next(cursor);
+    next.setPosition(cursor.position() + 1);
+    return next.charFormat().property(rtf::KeptAnchors) ==
+           cursor.charFormat().property(rtf::KeptAnchors);
+}
+
+/// What is typed behind a mark is no mark. What is anchored to a word's end goes on with the word,
+/// and stays where it is when anything else follows. \returns whether the cursor's format changed.
+bool leaveMarks(QTextCursor& cursor, const QString& typed) {
     QTextCharFormat format = cursor.charFormat();
-    if (!format.boolProperty(rtf::ControlMarks))
+    const bool leavesAnchors = format.hasProperty(rtf::KeptAnchors) && !typed.isEmpty() &&
+                               !typed.front().isLetterOrNumber() && !insideAnchored(cursor);
+    const bool leavesMark =
+        format.boolProperty(rtf::ControlMarks) || format.hasProperty(rtf::CellShape);
+    if (!leavesMark && !leavesAnchors)
         return false;
     format.clearProperty(rtf::ControlMarks);
+    format.clearProperty(rtf::CellShape);
+    if (leavesAnchors)
+        format.clearProperty(rtf::KeptAnchors);
     cursor.setCharFormat(format);
     return true;
 }
@@ -223,7 +242,7 @@ void RichTextBox::typeText(QKeyEvent* event) {
         ensureCursorVisible();
         return;
     }
-    if (leaveMarks(cursor))
+    if (leaveMarks(cursor, event->text()))
         takeCursor(cursor);
     QTextEdit::keyPressEvent(event);
 }
@@ -237,7 +256,7 @@ void RichTextBox::typeParagraphEnd() {
     }
     editAt(editCursor(), [](QTextCursor& cursor) {
         const QTextCharFormat format = formatAtStart(cursor);
-        const QTextBlockFormat paragraph = followingParagraph(cursor.blockFormat());
+        const QTextBlockFormat paragraph = paragraphBehind(cursor);
         cursor.beginEditBlock();
         cursor.removeSelectedText();
         cursor.insertBlock(paragraph, format);
@@ -267,7 +286,7 @@ void RichTextBox::inputMethodEvent(QInputMethodEvent* event) {
         event->accept();
         return;
     }
-    if (writes && leaveMarks(cursor))
+    if (writes && leaveMarks(cursor, event->commitString()))
         takeCursor(cursor);
     QTextEdit::inputMethodEvent(event);
 }

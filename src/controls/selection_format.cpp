@@ -105,14 +105,37 @@ QTextCharFormat formatAtStart(const QTextCursor& selection) {
           int(QTextFormat::ImageAltText), int(QTextFormat::IsAnchor), int(QTextFormat::AnchorHref),
           int(QTextFormat::AnchorName), int(rtf::PictureSource), int(rtf::PictureSourceKind),
           int(rtf::PictureSourceSize), int(rtf::PictureIsBox), int(rtf::PictureFallback),
-          int(rtf::HiddenPictureSize)})
+          int(rtf::HiddenPictureSize), int(rtf::KeptAnchors), int(rtf::CellShape)})
         format.clearProperty(property);
     return format;
+}
+
+QTextCharFormat anchorsAtEnd(const QTextCursor& selection) {
+    QTextCharFormat anchors;
+    if (!selection.hasSelection())
+        return anchors;
+    QTextCursor last(selection);
+    last.setPosition(selection.selectionEnd());
+    const QTextCharFormat format = last.charFormat();
+    if (!last.atBlockStart() && format.hasProperty(rtf::KeptAnchors))
+        anchors.setProperty(rtf::KeptAnchors, format.stringProperty(rtf::KeptAnchors));
+    return anchors;
 }
 
 QTextBlockFormat followingParagraph(QTextBlockFormat format) {
     format.clearProperty(QTextFormat::PageBreakPolicy);
     format.clearProperty(rtf::KeptOfSection);
+    format.clearProperty(rtf::KeptAtStart);
+    format.clearProperty(rtf::RowBegins);
+    return format;
+}
+
+QTextBlockFormat paragraphBehind(const QTextCursor& cursor) {
+    QTextBlockFormat format = followingParagraph(cursor.blockFormat());
+    const QTextBlockFormat next = cursor.block().next().blockFormat();
+    const bool rowGoesOn = next.hasProperty(rtf::TableRow) && !next.boolProperty(rtf::RowBegins);
+    if (!cursor.hasSelection() && cursor.atBlockEnd() && !rowGoesOn)
+        format.clearProperty(rtf::TableRow);
     return format;
 }
 

@@ -21,8 +21,15 @@ namespace orvalis {
 /// without what makes it a picture or a link.
 QTextCharFormat formatAtStart(const QTextCursor& selection);
 
+/// A footnote, or its like, that is anchored to the last selected character, as a format to merge:
+/// text that takes the place of the selection has it too. Empty where there is none.
+QTextCharFormat anchorsAtEnd(const QTextCursor& selection);
+
 /// The format of a paragraph that goes on behind one of this format: it begins no page again.
 QTextBlockFormat followingParagraph(QTextBlockFormat format);
+/// The format of the paragraph that the end of one at the cursor makes: as above, but behind the
+/// last line of a table's row it is no part of the row.
+QTextBlockFormat paragraphBehind(const QTextCursor& cursor);
 
 /// Hands over the format of each run of the selection, until the visitor returns false. Pictures
 /// count only where there is nothing else: they have no font to speak of.

@@ -57,6 +57,13 @@ void readLineSpacing(const QTextBlockFormat& block, ParagraphFormat& format) {
 }
 
 void setKept(QTextBlockFormat& block, const ParagraphFormat& format, const Names& names) {
+    if (format.row != NothingKept) {
+        block.setProperty(TableRow, names.keptAt(format.row));
+        if (format.rowBegins)
+            block.setProperty(RowBegins, true);
+    }
+    if (format.anchors != NothingKept)
+        block.setProperty(KeptAtStart, names.keptAt(format.anchors));
     if (format.section != NothingKept)
         block.setProperty(KeptOfSection, names.keptAt(format.section));
     if (format.kept == NothingKept)
@@ -117,6 +124,9 @@ ParagraphFormat paragraphFormat(const QTextBlockFormat& format, const QTextList*
     result.tabs =
         tabStopsOf(format, result.left + (list ? twips(format.textIndent()) : result.first));
     result.kept = names.kept(format.stringProperty(KeptOfParagraph));
+    result.row = names.kept(format.stringProperty(TableRow));
+    result.rowBegins = format.boolProperty(RowBegins);
+    result.anchors = names.kept(format.stringProperty(KeptAtStart));
     result.section = names.kept(format.stringProperty(KeptOfSection));
     if (list)
         result.list = labelOf(*list);

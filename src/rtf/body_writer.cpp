@@ -77,12 +77,9 @@ BodyWriter::BodyWriter()
 }
 
 void BodyWriter::beginParagraph(const ParagraphFormat& paragraph, int number) {
-    if (paragraph.section == NothingKept)
-        endLastParagraph();
-    else
-        beginSection(names().keptAt(paragraph.section));
-    m_paragraphIsEmpty = true;
+    goTo(paragraph);
     m_paragraphs.begin(paragraph, number);
+    writeAnchors(paragraph.anchors);
 }
 
 void BodyWriter::toggle(bool on, bool was, QByteArrayView word) {
@@ -197,6 +194,11 @@ void BodyWriter::changeLink(int link) {
     m_format.link = link;
 }
 
+void BodyWriter::writeAnchors(int anchors) {
+    if (anchors != NothingKept)
+        writeKept(m_out, m_tables, names().keptAt(anchors));
+}
+
 void BodyWriter::text(QStringView text, const CharFormat& format) {
     m_paragraphIsEmpty = false;
     change(format);
@@ -204,6 +206,7 @@ void BodyWriter::text(QStringView text, const CharFormat& format) {
         m_out.text(text);
     else
         m_out.symbols(m_symbols, text);
+    writeAnchors(format.anchors);
 }
 
 void BodyWriter::picture(const Picture& picture, const CharFormat& format) {
@@ -214,6 +217,7 @@ void BodyWriter::picture(const Picture& picture, const CharFormat& format) {
     change(own);
     if (!picture.bytes.isEmpty())
         m_out.structure(pictureGroups(picture));
+    writeAnchors(format.anchors);
 }
 
 void BodyWriter::endParagraph(const CharFormat* mark) {
@@ -225,6 +229,41 @@ void BodyWriter::endParagraph(const CharFormat* mark) {
         atEnd.script = Script::Normal;
     change(atEnd);
     m_paragraphEnds = true;
+}
+
+/// Ends the paragraph ahead, and the section if another one begins.
+void BodyWriter::goTo(const ParagraphFormat& paragraph) {
+    if (paragraph.section == NothingKept)
+        endLastParagraph();
+    else
+        beginSection(names().keptAt(paragraph.section));
+    m_paragraphIsEmpty = true;
+}
+
+void BodyWriter::beginRow(int row, const ParagraphFormat& first) {
+    goTo(first);
+    m_out.structure(kept(names().keptAt(row)));
+    m_paragraphs.forget();
+}
+
+void BodyWriter::beginCell(int shape, int anchors) {
+    endLastParagraph();
+    writeKept(m_out, m_tables, names().keptAt(shape));
+    writeAnchors(anchors);
+    m_paragraphs.forget();
+}
+
+void BodyWriter::endCell(const CharFormat& look) {
+    CharFormat unlinked = look;
+    unlinked.link = NoName;
+    change(unlinked);
+    m_out.structure("\\cell\r\n");
+}
+
+void BodyWriter::endRow() {
+    m_paragraphEnds = false;
+    m_out.structure("\\cell\\row\r\n");
+    m_paragraphs.forget();
 }
 
 void BodyWriter::endLastParagraph() {

@@ -34,6 +34,16 @@ public:
     /// \param mark format of the paragraph's mark, null for that of its last run.
     void endParagraph(const CharFormat* mark);
 
+    /// A row of a table, whose cells are begun and ended; the last one ends with the row.
+    /// \param row what is kept of it.
+    /// \param first of its paragraphs, which a section may begin with.
+    void beginRow(int row, const ParagraphFormat& first);
+    /// \param shape of its paragraph, as it is kept.
+    /// \param anchors what is kept ahead of its first character.
+    void beginCell(int shape, int anchors);
+    void endCell(const CharFormat& look);
+    void endRow();
+
     /// The whole file.
     /// \param defaultTab twips between default tab stops.
     /// \param parts what is kept of the document.
@@ -43,8 +53,10 @@ private:
     /// What is kept, on lines of its own.
     QByteArray kept(QStringView text);
     void endLastParagraph();
+    void goTo(const ParagraphFormat& paragraph);
     void beginSection(QStringView text);
     void change(const CharFormat& format);
+    void writeAnchors(int anchors);
     void changeKept(int kept);
     void changeHighlight(const CharFormat& format);
     void changeStrike(const CharFormat& format);

@@ -25,6 +25,9 @@ enum class Action : quint8 {
     PageEnd,
     CellEnd,
     RowEnd,
+    RowDefaults,
+    CellRight,
+    InTable,
     Binary,
     // Characters
     PlainCharacters,
@@ -65,6 +68,7 @@ enum class Action : quint8 {
     // What is kept as it came
     Keep, ///< value: a packed KeptWord
     SectionDefaults,
+    AnchorMark, ///< stands for the number of a note
     // Destinations
     SkipGroup,
     KeepGroup, ///< value: the KeptPlace
@@ -78,6 +82,7 @@ enum class Action : quint8 {
     Field,
     FieldInstruction,
     IndexEntry,  ///< text for an index or a table of contents, and for the document unless hidden
+    NestedTable, ///< says what a row inside a cell is
     PassThrough, ///< an ignorable group whose content is shown
     UnicodePair,
     UnicodeHalf,

@@ -88,6 +88,26 @@ bool DocumentSink::takesStyles(const QString& styles) {
     return m_options.replacesDocument || styles == keptParts(*m_cursor.document()).styles;
 }
 
+void DocumentSink::anchor(const QString& kept) {
+    if (m_runs.empty() || m_runs.back().length == 0 || !spend(BytesOfFormat))
+        return;
+    if (m_runs.back().image != NoName) {
+        QTextImageFormat& image = m_images.back();
+        image.setProperty(KeptAnchors, image.stringProperty(KeptAnchors) + kept);
+        return;
+    }
+    if (m_runs.back().anchors == NoName) {
+        const bool pair = m_text.back().isLowSurrogate() && m_runs.back().length > 1;
+        const Run last{pair ? 2 : 1, m_runs.back().format, NoName, int(m_anchors.size())};
+        m_runs.back().length -= last.length;
+        if (m_runs.back().length == 0)
+            m_runs.pop_back();
+        m_runs.push_back(last);
+        m_anchors.emplace_back();
+    }
+    m_anchors.back() += kept;
+}
+
 void DocumentSink::kept(const KeptParts& parts) {
     if (m_options.replacesDocument)
         setKeptParts(*m_cursor.document(), parts);
@@ -127,7 +147,8 @@ void DocumentSink::text(QStringView text, const CharFormat& format) {
         text.truncate(wholeCharacters(text, room));
     }
     m_text.append(text);
-    if (!m_runs.empty() && m_runs.back().format == index && m_runs.back().image == NoName) {
+    if (!m_runs.empty() && m_runs.back().format == index && m_runs.back().image == NoName &&
+        m_runs.back().anchors == NoName) {
         m_runs.back().length += text.size();
         return;
     }
@@ -239,6 +260,13 @@ void DocumentSink::shapeFirst() {
     joinList(m_firstParagraph, m_firstStart);
 }
 
+QTextCharFormat DocumentSink::formatOf(const Run& run) const {
+    QTextCharFormat format = m_formats[size_t(run.format)];
+    if (run.anchors != NoName)
+        format.setProperty(KeptAnchors, m_anchors[size_t(run.anchors)]);
+    return format;
+}
+
 void DocumentSink::insertRuns(const ParagraphShape& shape) {
     qsizetype at = 0;
     for (const Run& run : m_runs) {
@@ -251,13 +279,13 @@ void DocumentSink::insertRuns(const ParagraphShape& shape) {
         } else if (const qsizetype taken = m_intake.taken(text, letters, shape); taken > 0) {
             // A paragraph of one run, which most are, is handed over as it is.
             const bool whole = taken == m_text.size();
-            m_cursor.insertText(whole ? m_text : m_text.mid(at, taken),
-                                m_formats[size_t(run.format)]);
+            m_cursor.insertText(whole ? m_text : m_text.mid(at, taken), formatOf(run));
         }
         at += run.length;
     }
     m_runs.clear();
     m_images.clear();
+    m_anchors.clear();
     m_text.resize(0);
 }
 

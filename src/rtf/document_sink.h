@@ -41,6 +41,7 @@ public:
     void end(const ParagraphFormat& paragraph, const CharFormat& mark) override;
     void defaultTab(int twips) override { m_defaultTab = twips; }
     bool takesStyles(const QString& styles) override;
+    void anchor(const QString& kept) override;
     void kept(const KeptParts& parts) override;
     bool isFull() const override { return m_full || m_intake.isFull(); }
 
@@ -51,16 +52,19 @@ public:
     int defaultTabTwips() const { return m_defaultTab; }
 
 private:
-    /// A part of the paragraph's text with one format; a picture when it has an image.
+    /// A part of the paragraph's text with one format; a picture when it has an image, a single
+    /// character when something is anchored to it.
     struct Run {
         qsizetype length = 0;
         int format = 0;
         int image = NoName;
+        int anchors = NoName;
     };
 
     int formatIndex(const CharFormat& format);
     void insertParagraph(const ParagraphFormat& paragraph, const CharFormat& mark);
     void shapeFirst();
+    QTextCharFormat formatOf(const Run& run) const;
     void insertRuns(const ParagraphShape& shape);
     void joinList(const ParagraphFormat& paragraph, int start);
     LabelSize labelSize(const ParagraphFormat& paragraph, int start);
@@ -92,6 +96,7 @@ private:
     QString m_text;
     std::vector<Run> m_runs;
     std::vector<QTextImageFormat> m_images;
+    std::vector<QString> m_anchors;
 
     ParagraphFormat m_paragraph;
     QTextBlockFormat m_blockFormat;

@@ -68,6 +68,19 @@ enum FormatProperty : int {
     /// Of a block format: twips by which the paragraph stands further right than its file has it,
     /// so that nothing of it is left of the margin (int).
     ParagraphOverhang,
+    /// Of a character format: what is kept of the place behind the last character of the run, a
+    /// footnote say (QString, the same). A run that is typed on to takes it along to its end.
+    KeptAnchors,
+    /// Of a block format: the same, ahead of the paragraph's first character.
+    KeptAtStart,
+    /// Of a character format: the tab ends a cell of a table, and this shapes the paragraph in it
+    /// (QString, the same).
+    CellShape,
+    /// Of a block format: what a file says of the row that the paragraph is of (QString, the same).
+    /// Its cells are written as such where all of them are there, as text with tabs otherwise.
+    TableRow,
+    /// Of a block format: the row begins with the paragraph (bool).
+    RowBegins,
 };
 
 } // namespace orvalis::rtf

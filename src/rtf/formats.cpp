@@ -14,7 +14,8 @@ size_t qHash(const CharFormat& format, size_t seed) noexcept {
         static_cast<unsigned>(format.doubleStrike) << 29 |
         static_cast<unsigned>(format.shading) << 30;
     return qHashMulti(seed, format.family, format.link, format.halfPoints, format.raise,
-                      format.spacing, format.kept, format.color, format.highlight, small);
+                      format.spacing, format.kept, format.anchors, format.cell, format.color,
+                      format.highlight, small);
 }
 
 int Names::intern(QStringList& list, QHash<QString, int>& index, const QString& name) {

@@ -65,6 +65,8 @@ struct CharFormat {
     int raise = 0;   ///< half points above the base line
     int spacing = 0; ///< twips between the characters
     int kept = NothingKept;
+    int cell = NothingKept;    ///< of a tab that ends a cell: the shape of its paragraph
+    int anchors = NothingKept; ///< what is kept behind the last of the characters
     QRgb color = AutomaticColor;
     QRgb highlight = AutomaticColor;
     Underline underline = Underline::None;
@@ -133,6 +135,10 @@ struct ParagraphFormat {
     int after = 0;
     int lineSpacing = 0; ///< 0 automatic, above 0 at least, below 0 exactly
     int kept = NothingKept;
+    int anchors = NothingKept; ///< what is kept ahead of its first character
+    int row = NothingKept;     ///< of the table that the paragraph's cells are of
+    bool rowBegins = false;    ///< with the paragraph
+    bool inTable = false;      ///< the paragraph is written as one of a cell
     int section = NothingKept; ///< what the file says of the section that begins here
     QList<TabStop> tabs;
     ListLabel list;

@@ -191,8 +191,8 @@ void Interpreter::word(const Token& token) {
     }
     // A word that no fallback can be made of ends the wait for one.
     m_fallbackToSkip = 0;
-    if (characterWord(token) || paragraphWord(token) || keptWord(token) || pictureWord(token) ||
-        tableWord(token))
+    if (characterWord(token) || paragraphWord(token) || rowWord(token) || keptWord(token) ||
+        pictureWord(token) || tableWord(token))
         return;
     destinationWord(token);
 }
@@ -212,7 +212,7 @@ void Interpreter::finish() {
     flushPending();
     if (m_state.ownsDestination && m_state.destination == Destination::Picture)
         deliverPicture();
-    cellTabs(m_cellTabs);
+    cellTabs(m_cellShapes.size());
     flushText();
     tellKept();
     m_sink.end(shapedParagraph(), m_state.chars);

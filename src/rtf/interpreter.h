@@ -66,6 +66,8 @@ private:
         Destination destination = Destination::Body;
         bool ownsDestination = false;
         bool deleted = false;
+        bool inTable = false;
+        bool nested = false; ///< words for rows are of a table in a cell
         bool indexEntry = false;
         bool fallback = false; ///< pictures are other forms of the one that came last
         bool hasContent =
@@ -93,8 +95,6 @@ private:
     void prepareText();
     void flushText();
     void paragraphEnd();
-    void cellTabs(int count);
-    void rowEnd();
     const ParagraphFormat& shapedParagraph();
     bool shows() const;
     bool captures() const;
@@ -117,12 +117,21 @@ private:
     void colorBytes(QByteArrayView run);
     void fontBytes(QByteArrayView run);
 
+    // Tables (interpreter_tables.cpp)
+    bool rowWord(const Token& token);
+    void keepOfRow(KeptLevel level, const KeptCall& call);
+    int row();
+    int cellShape();
+    void cellTabs(size_t count);
+    void rowEnd(bool outermost);
+
     // What is kept as it came (interpreter_keeping.cpp)
     bool keptWord(const Token& token);
     void keepCharacters(int set);
     void keepParagraph(int set);
     void keepGroup(const Token& token);
     void placeGroup(KeptPlace place, const QString& group);
+    void anchor(const QString& kept);
     void sectionEnd();
     QString sectionBreak() const;
     void tellFirstSection();
@@ -157,6 +166,7 @@ private:
     int m_keptOfSection = 0;
     int m_keptOfDocument = 0;
     QString m_sectionGroups;
+    QString m_anchorsAtStart;              ///< of the paragraph
     bool m_sectionBegins = false;          ///< with the paragraph, and is not the first one
     bool m_paragraphBeforeSection = false; ///< it ended by itself, not by the section's end
     bool m_firstSectionTold = false;
@@ -170,7 +180,18 @@ private:
     int m_numberings = 0;
     int m_fallbackToSkip = 0;
     char16_t m_highSurrogate = 0;
-    int m_cellTabs = 0;
+    std::vector<int> m_cellShapes; ///< of cells whose tabs are still to come
+    ParagraphFormat m_lastOfCell;
+    ParagraphFormat m_shapeOfCell; ///< the last one that was written down, as m_cellShape
+    int m_cellShape = NothingKept;
+    int m_keptOfRow = 0;
+    int m_keptOfCell = 0;
+    QString m_cells; ///< of the row, as they are kept
+    int m_cellCount = 0;
+    int m_row = NothingKept;
+    bool m_rowIsNew = false; ///< m_row does not tell it yet
+    bool m_inRow = false;    ///< a paragraph of the row has ended
+    bool m_rowEnds = false;
     bool m_inParagraph = false;
     bool m_pageBreak = false;
     QString m_label;

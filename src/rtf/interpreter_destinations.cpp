@@ -88,6 +88,9 @@ bool Interpreter::destinationWord(const Token& token) {
     case Action::IndexEntry:
         m_state.indexEntry = true;
         return true;
+    case Action::NestedTable:
+        m_state.nested = true;
+        return true;
     case Action::FieldInstruction:
         openInBody(Destination::FieldInstruction);
         return true;

@@ -4,16 +4,20 @@
 #include "rtf/kept_group.h"
 #include "rtf/kept_text.h"
 
+using namespace Qt::StringLiterals;
+
 namespace orvalis::rtf {
 
 namespace {
 
 bool isStarred(KeptPlace place) {
-    return place == KeptPlace::StarredInfo || place == KeptPlace::Notes;
+    return place == KeptPlace::StarredInfo || place == KeptPlace::Notes ||
+           place == KeptPlace::StarredAnchor || place == KeptPlace::StarredNote;
 }
 
 bool hasLook(KeptPlace place) {
-    return place == KeptPlace::Section || place == KeptPlace::Notes;
+    return place == KeptPlace::Section || place == KeptPlace::Notes || place == KeptPlace::Anchor ||
+           place == KeptPlace::StarredNote;
 }
 
 } // namespace
@@ -22,6 +26,12 @@ bool Interpreter::keptWord(const Token& token) {
     if (token.word->action == Action::SectionDefaults) {
         m_keptOfSection = 0;
         m_state.border = nullptr;
+        return true;
+    }
+    if (token.word->action == Action::AnchorMark) {
+        const QString mark = u'\\' + QString::fromLatin1(token.bytes) + u'}';
+        if (shows())
+            anchor((m_state.chars.script == Script::Super ? u"{\\super"_s : u"{"_s) + mark);
         return true;
     }
     if (token.word->action != Action::Keep)
@@ -58,9 +68,14 @@ bool Interpreter::keptWord(const Token& token) {
     case KeptLevel::Document:
         m_keptOfDocument = m_kept.with(m_keptOfDocument, call);
         return true;
-    default:
+    case KeptLevel::Row:
+    case KeptLevel::Cell:
+        keepOfRow(kept.level, call);
         return true;
+    case KeptLevel::Border:
+        break;
     }
+    return true;
 }
 
 void Interpreter::keepCharacters(int set) {
@@ -104,7 +119,24 @@ void Interpreter::placeGroup(KeptPlace place, const QString& group) {
     case KeptPlace::Section:
         m_sectionGroups += group;
         return;
+    case KeptPlace::Anchor:
+    case KeptPlace::StarredAnchor:
+    case KeptPlace::StarredNote:
+        anchor(group);
+        return;
     }
+}
+
+void Interpreter::anchor(const QString& kept) {
+    if (kept.isEmpty())
+        return;
+    cellTabs(m_cellShapes.size());
+    if (!m_inParagraph) {
+        m_anchorsAtStart += kept;
+        return;
+    }
+    flushText();
+    m_sink.anchor(kept);
 }
 
 /// What was gathered so far belongs to the section that ends; its words go on to hold.

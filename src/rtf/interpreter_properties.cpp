@@ -115,6 +115,7 @@ bool Interpreter::paragraphWord(const Token& token) {
     case Action::PlainParagraph:
         paragraph = {};
         m_state.keptOfParagraph = 0;
+        m_state.inTable = false;
         m_state.border = nullptr;
         m_state.listOverride = 0;
         m_state.listLevel = 0;
@@ -183,14 +184,6 @@ bool Interpreter::paragraphWord(const Token& token) {
                 paragraphEnd();
             m_pageBreak = true;
         }
-        return true;
-    case Action::CellEnd:
-        if (inBody)
-            ++m_cellTabs;
-        return true;
-    case Action::RowEnd:
-        if (inBody)
-            rowEnd();
         return true;
     default:
         return false;

@@ -211,8 +211,8 @@ void Interpreter::unicode(int code) {
 
 void Interpreter::prepareText() {
     m_fieldText.clear();
-    if (m_cellTabs > 0)
-        cellTabs(std::exchange(m_cellTabs, 0));
+    if (!m_cellShapes.empty())
+        cellTabs(m_cellShapes.size());
     if (!m_text.isEmpty() && (m_textFormat != m_state.chars || m_text.size() > LongestRun))
         flushText();
     if (m_text.isEmpty())
@@ -237,38 +237,34 @@ void Interpreter::flushText() {
 }
 
 void Interpreter::paragraphEnd() {
-    cellTabs(std::exchange(m_cellTabs, 0));
+    cellTabs(m_cellShapes.size());
     flushText();
-    m_sink.paragraphEnd(shapedParagraph(), m_state.chars);
+    const ParagraphFormat& paragraph = shapedParagraph();
+    m_sink.paragraphEnd(paragraph, m_state.chars);
+    m_inRow = paragraph.row != NothingKept && !m_rowEnds;
+    m_rowEnds = false;
     m_inParagraph = false;
     m_pageBreak = false;
     m_sectionBegins = false;
+    m_anchorsAtStart.clear();
     m_label.clear();
     askForRoom();
 }
 
-void Interpreter::cellTabs(int count) {
-    m_cellTabs = 0;
-    static const QString tabs(64, u'\t');
-    for (; count > 0; count -= int(tabs.size()))
-        append(QStringView(tabs).first(std::min<qsizetype>(count, tabs.size())));
-}
-
-void Interpreter::rowEnd() {
-    const bool anyCell = m_cellTabs > 0;
-    if (anyCell)
-        cellTabs(m_cellTabs - 1);
-    if (anyCell || m_inParagraph)
-        paragraphEnd();
-}
-
 const ParagraphFormat& Interpreter::shapedParagraph() {
-    if (m_state.listOverride == 0 && m_label.isEmpty() && !m_pageBreak && !m_sectionBegins) {
+    const bool ofRow = (m_rowEnds || m_state.inTable) && row() != NothingKept;
+    if (!ofRow && m_state.listOverride == 0 && m_label.isEmpty() && !m_pageBreak &&
+        !m_sectionBegins && m_anchorsAtStart.isEmpty()) {
         m_lastListKind = m_state.paragraph.list.kind;
         return m_state.paragraph;
     }
     m_shaped = m_state.paragraph;
     m_shaped.pageBreakBefore |= m_pageBreak;
+    if (ofRow) {
+        m_shaped.row = row();
+        m_shaped.rowBegins = !m_inRow;
+    }
+    m_shaped.anchors = m_names.kept(m_anchorsAtStart);
     if (m_sectionBegins)
         m_shaped.section = m_names.kept(sectionBreak());
     const auto known = m_lists.label(m_state.listOverride, m_state.listLevel);

@@ -28,6 +28,8 @@ void setKeptParts(QTextDocument& document, const KeptParts& parts) {
 
 void clearKept(QTextCharFormat& format) {
     format.clearProperty(KeptOfCharacters);
+    format.clearProperty(KeptAnchors);
+    format.clearProperty(CellShape);
 }
 
 void clearKept(QTextBlockFormat& format) {
@@ -35,6 +37,9 @@ void clearKept(QTextBlockFormat& format) {
         format.clearBackground();
     format.clearProperty(KeptOfParagraph);
     format.clearProperty(KeptOfSection);
+    format.clearProperty(KeptAtStart);
+    format.clearProperty(TableRow);
+    format.clearProperty(RowBegins);
 }
 
 } // namespace orvalis::rtf

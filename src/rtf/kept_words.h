@@ -40,7 +40,10 @@ enum class KeptPlace : quint8 {
     Info,
     StarredInfo, ///< the same, in a group that readers may ignore
     Section,
-    Notes, ///< the document: what stands between text and footnotes
+    Notes,         ///< the document: what stands between text and footnotes
+    Anchor,        ///< the character ahead of it
+    StarredAnchor, ///< the same, in a group that readers may ignore and that holds but a name
+    StarredNote,   ///< the same, with text to read
 };
 
 /// A word as the value of its entry in the table, and back.

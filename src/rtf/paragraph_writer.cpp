@@ -126,11 +126,17 @@ void ParagraphWriter::numberingText(QByteArrayView group, const QString& text) {
 }
 
 void ParagraphWriter::shape(const ParagraphFormat& paragraph) {
+    if (paragraph.inTable)
+        m_out.word("\\intbl");
+    writeKept(m_out, m_tables, m_tables.names().keptAt(paragraph.kept));
+    geometry(paragraph);
+}
+
+void ParagraphWriter::geometry(const ParagraphFormat& paragraph) {
     const auto unlessZero = [this](const char* name, int number) {
         if (number != 0)
             m_out.word(name, number);
     };
-    writeKept(m_out, m_tables, m_tables.names().keptAt(paragraph.kept));
     if (paragraph.rightToLeft)
         m_out.word("\\rtlpar");
     if (paragraph.pageBreakBefore)

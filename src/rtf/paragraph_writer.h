@@ -18,6 +18,10 @@ public:
 
     /// \param number of a numbered list item.
     void begin(const ParagraphFormat& paragraph, int number);
+    /// The next paragraph tells its whole shape.
+    void forget() { m_any = false; }
+    /// Indents, spacing, alignment and tab stops.
+    void geometry(const ParagraphFormat& paragraph);
 
 private:
     void shape(const ParagraphFormat& paragraph);

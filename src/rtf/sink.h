@@ -46,6 +46,8 @@ public:
     virtual void end(const ParagraphFormat& paragraph, const CharFormat& mark) = 0;
     /// Whether entries of the file's style sheet mean anything where the text goes.
     virtual bool takesStyles(const QString& /*styles*/) { return true; }
+    /// What is kept of the place behind the text or picture that came last in the paragraph.
+    virtual void anchor(const QString& /*kept*/) {}
     /// Comes once, ahead of end().
     virtual void kept(const KeptParts& /*parts*/) {}
     /// Whether nothing more can be taken. The reading ends there.

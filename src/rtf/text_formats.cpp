@@ -126,6 +126,8 @@ QTextCharFormat textFormat(const CharFormat& format, const Names& names) {
     }
     if (format.kept != NothingKept)
         text.setProperty(KeptOfCharacters, names.keptAt(format.kept));
+    if (format.cell != NothingKept)
+        text.setProperty(CellShape, names.keptAt(format.cell));
     if (format.hidden) {
         text.setProperty(HiddenText, int(format.color));
         text.setForeground(QColor(Qt::transparent));
@@ -150,6 +152,8 @@ CharFormat charFormat(const QTextCharFormat& format, Names& names, const QFont& 
     result.doubleStrike = result.strike && format.boolProperty(DoubleStrike);
     result.spacing = format.intProperty(CharacterSpacing);
     result.kept = names.kept(format.stringProperty(KeptOfCharacters));
+    result.cell = names.kept(format.stringProperty(CellShape));
+    result.anchors = names.kept(format.stringProperty(KeptAnchors));
     result.controlMarks = format.boolProperty(ControlMarks);
     result.underline = underlineOf(format);
     result.hidden = format.hasProperty(HiddenText);

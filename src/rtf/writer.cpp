@@ -31,9 +31,15 @@ public:
     QByteArray rtf() {
         QTextBlock block = m_document.findBlock(m_from);
         int position = block.position();
-        for (; block.isValid() && position <= m_to; block = block.next()) {
-            paragraph(block, position);
-            position += block.length();
+        while (block.isValid() && position <= m_to) {
+            const int rows = rowAt(block, position);
+            for (int line = 0; line < std::max(rows, 1); ++line, block = block.next()) {
+                if (rows == 0)
+                    paragraph(block, position);
+                else
+                    rowLine(block, position, line == 0, line == rows - 1);
+                position += block.length();
+            }
         }
         return m_body.file(m_defaultTab, partsToWrite());
     }
@@ -50,10 +56,98 @@ private:
         return ofPart;
     }
 
+    /// The paragraphs of a row that begins with this one and is all there; 0 for none. A row that
+    /// somebody has torn is text with tabs.
+    int rowAt(const QTextBlock& first, int position) {
+        if (position < m_rowsToldTo)
+            return 0;
+        const ParagraphFormat begin = shape(first);
+        if (begin.row == NothingKept || !begin.rowBegins || position < m_from)
+            return 0;
+        int marks = 0;
+        int count = 0;
+        int row = begin.row;
+        int end = position;
+        for (QTextBlock block = first; block.isValid(); block = block.next()) {
+            const ParagraphFormat& line = shape(block);
+            if (count > 0 &&
+                (line.row == NothingKept || line.rowBegins || line.section != NothingKept))
+                break;
+            row = line.row;
+            marks += marksIn(block);
+            end += block.length();
+            ++count;
+        }
+        m_rowsToldTo = end;
+        const auto cells = m_body.names().keptAt(row).count(QStringLiteral("\\cellx"));
+        if (marks + 1 != cells || end - 1 > m_to)
+            return 0;
+        m_rowsToldTo = position;
+        m_row = row;
+        return count;
+    }
+
+    int marksIn(const QTextBlock& block) {
+        int marks = 0;
+        for (auto it = block.begin(); !it.atEnd(); ++it)
+            if (const QTextFragment run = it.fragment(); endsCells(run))
+                marks += run.length();
+        return marks;
+    }
+
+    /// Whether the run is tabs that end cells.
+    bool endsCells(const QTextFragment& run) {
+        return lookOf(run).cell != NothingKept && run.text().count(u'\t') == run.length();
+    }
+
     // Positions are counted along the way: a block and a fragment find theirs only by a search.
     void paragraph(const QTextBlock& block, int position) {
-        const ParagraphFormat& paragraphShape = shape(block);
-        m_body.beginParagraph(paragraphShape, number(block));
+        if (shape(block).row == NothingKept) {
+            m_body.beginParagraph(m_shape, number(block));
+        } else {
+            ParagraphFormat torn = m_shape;
+            torn.row = NothingKept;
+            torn.rowBegins = false;
+            m_body.beginParagraph(torn, number(block));
+        }
+        runs(block, position, [](const QTextFragment&) { return false; });
+    }
+
+    /// A line of the document that holds cells of a row.
+    void rowLine(const QTextBlock& block, int position, bool first, bool last) {
+        ParagraphFormat own = shape(block);
+        own.inTable = true;
+        if (first)
+            m_body.beginRow(m_row, own);
+        own.section = NothingKept;
+        std::vector<int> shapes;
+        for (auto it = block.begin(); !it.atEnd(); ++it)
+            if (const QTextFragment run = it.fragment(); endsCells(run))
+                shapes.insert(shapes.end(), size_t(run.length()), lookOf(run).cell);
+        size_t cell = 0;
+        const auto beginCell = [&] {
+            if (cell < shapes.size())
+                m_body.beginCell(shapes[cell++], std::exchange(own.anchors, NothingKept));
+            else
+                m_body.beginParagraph(own, number(block));
+        };
+        beginCell();
+        runs(block, position, [&](const QTextFragment& run) {
+            if (!endsCells(run))
+                return false;
+            for (int mark = 0; mark < run.length(); ++mark) {
+                m_body.endCell(lookOf(run));
+                beginCell();
+            }
+            return true;
+        });
+        if (last)
+            m_body.endRow();
+    }
+
+    /// \param takes whether a run has been written otherwise.
+    template <class Takes>
+    void runs(const QTextBlock& block, int position, const Takes& takes) {
         const QString text = block.text();
         bool empty = true;
         int at = 0;
@@ -66,9 +160,10 @@ private:
             if (start >= end)
                 continue;
             empty = false;
-            const int index = fragment.charFormatIndex();
-            const CharFormat& look = cachedFormat(index, fragment);
-            if (m_isImage[size_t(index)]) {
+            if (takes(fragment))
+                continue;
+            const CharFormat& look = lookOf(fragment);
+            if (m_isImage[size_t(fragment.charFormatIndex())]) {
                 const Picture picture =
                     pictureOfFormat(m_document, fragment.charFormat().toImageFormat());
                 for (int i = start; i < end; ++i)
@@ -90,8 +185,8 @@ private:
     }
 
     // Documents share their formats among the runs, and so does the work on them.
-    const CharFormat& cachedFormat(int index, const QTextFragment& fragment) {
-        const auto at = size_t(index);
+    const CharFormat& lookOf(const QTextFragment& fragment) {
+        const auto at = size_t(fragment.charFormatIndex());
         if (at >= m_known.size()) {
             m_known.resize(at + 1);
             m_formats.resize(at + 1);
@@ -130,6 +225,8 @@ private:
     std::vector<char> m_known;
     std::vector<CharFormat> m_formats;
     std::vector<char> m_isImage;
+    int m_rowsToldTo = 0;    ///< torn rows reach up to there
+    int m_row = NothingKept; ///< what is kept of the row that is written
     int m_shapeIndex = -1;
     ParagraphFormat m_shape;
     QHash<const QTextList*, int> m_items;

@@ -41,7 +41,83 @@ private slots:
     void bothHalvesOfAParagraphAreKeptTogether();
     void aSectionBeginsWithOneHalfOnly();
     void theSelectionTakesItsParagraphsAlong();
+    void aFootnoteGoesOnWithItsWord();
+    void aFootnoteStaysWithAWordThatIsReplaced_data();
+    void aFootnoteStaysWithAWordThatIsReplaced();
+    void aFootnoteGoesWithItsWord();
+    void whatIsTypedInACellStaysInIt();
+    void aParagraphBehindATableIsNoPartOfIt();
 };
+
+namespace {
+
+const QByteArray Table =
+    "{\\rtf1\\trowd\\cellx1000\\cellx2000\\pard\\intbl one\\cell two\\cell\\row"
+    "\\trowd\\cellx1000\\cellx2000\\pard\\intbl three\\cell four\\cell\\row}";
+
+} // namespace
+
+void RichTextBoxRtfTest::whatIsTypedInACellStaysInIt() {
+    RichTextBox box;
+    box.SetTextRTF(Table);
+    QCOMPARE(box.Text(), u"one\ttwo\r\nthree\tfour"_s);
+    box.SetSelStart(4);
+    QTest::keyClicks(&box, u"a\tb"_s);
+    QTest::keyClick(&box, Qt::Key_Return);
+    QCOMPARE(box.Text(), u"one\ta\tb\r\ntwo\r\nthree\tfour"_s);
+    const QByteArray rtf = box.TextRTF();
+    QCOMPARE(rtf.count("\\row"), 2);
+    QCOMPARE(rtf.count("\\cell\r") + rtf.count("\\cell\\row"), 4);
+    QVERIFY2(rtf.contains("a\\tab b\\par\r\n"), rtf);
+}
+
+void RichTextBoxRtfTest::aParagraphBehindATableIsNoPartOfIt() {
+    RichTextBox box;
+    box.SetTextRTF(Table);
+    box.SetSelStart(int(box.Text().size()));
+    QTest::keyClick(&box, Qt::Key_Return);
+    QTest::keyClicks(&box, u"behind"_s);
+    const QByteArray rtf = box.TextRTF();
+    QVERIFY2(rtf.contains("\\cell\\row\r\n\\pard behind\\par"), rtf);
+}
+
+void RichTextBoxRtfTest::aFootnoteGoesOnWithItsWord() {
+    RichTextBox box;
+    box.SetTextRTF("{\\rtf1 word{\\footnote below} on\\par}"_ba);
+    box.SetSelStart(4);
+    QTest::keyClicks(&box, u"s, no"_s);
+    QCOMPARE(box.Text(), u"words, no on"_s);
+    QVERIFY2(box.TextRTF().contains("words{\\footnote\\f0 below}, no on"), box.TextRTF());
+}
+
+void RichTextBoxRtfTest::aFootnoteStaysWithAWordThatIsReplaced_data() {
+    QTest::addColumn<bool>("typed");
+    QTest::newRow("typed") << true;
+    QTest::newRow("set") << false;
+}
+
+void RichTextBoxRtfTest::aFootnoteStaysWithAWordThatIsReplaced() {
+    QFETCH(bool, typed);
+    RichTextBox box;
+    box.SetTextRTF("{\\rtf1 a word{\\footnote below} on\\par}"_ba);
+    box.SetSelStart(2);
+    box.SetSelLength(4);
+    if (typed)
+        QTest::keyClicks(&box, u"deed"_s);
+    else
+        box.SetSelText(u"deed"_s);
+    QCOMPARE(box.Text(), u"a deed on"_s);
+    QVERIFY2(box.TextRTF().contains("a deed{\\footnote\\f0 below} on"), box.TextRTF());
+}
+
+void RichTextBoxRtfTest::aFootnoteGoesWithItsWord() {
+    RichTextBox box;
+    box.SetTextRTF("{\\rtf1 a word{\\footnote below} on\\par}"_ba);
+    box.SetSelStart(2);
+    box.SetSelLength(4);
+    box.SetSelText(QString());
+    QVERIFY2(!box.TextRTF().contains("footnote"), box.TextRTF());
+}
 
 void RichTextBoxRtfTest::newTextKeepsNothingOfTheFile() {
     RichTextBox box;

@@ -97,6 +97,21 @@ void KeepingTest::whatIsNotShownIsKept_data() {
         "{\\footer\\f0{\\field{\\*\\fldinst PAGE}{\\fldrslt 1}}}\r\n");
     row("separator of footnotes", "{\\*\\ftnsep\\f0\\chftnsep\\par}word\\par",
         "{\\*\\ftnsep\\f0\\chftnsep\\par}\r\n");
+    row("footnote", "word{\\super\\chftn}{\\footnote\\pard\\f0 {\\super\\chftn} below} on\\par",
+        "deed{\\super\\chftn}{\\footnote\\pard\\f0{\\super\\chftn} below} on\\par");
+    row("footnote of another program", "x{\\*\\footnote\\f0 below} word\\par",
+        "x{\\footnote\\f0 below} deed\\par");
+    row("footnote ahead of all text", "{\\footnote\\f0 below}word\\par",
+        "\\pard{\\footnote\\f0 below}\\f0\\fs24 deed\\par");
+    row("footnote of an empty paragraph", "word\\par{\\footnote\\f0 below}\\par",
+        "deed\\par\r\n\\pard{\\footnote\\f0 below}\\par");
+    row("footnote behind two units", "\\u-10179?\\u-9047?{\\footnote\\f0 below} word\\par",
+        "\\u-10179?\\u-9047?{\\footnote\\f0 below} deed\\par");
+    row("bookmark", "a {\\*\\bkmkstart Here}word{\\*\\bkmkend Here} b\\par",
+        "a {\\*\\bkmkstart Here}deed{\\*\\bkmkend Here} b");
+    row("comment",
+        "word{\\*\\atnid AB}{\\*\\atnauthor Al B}\\chatn{\\*\\annotation\\f0 Is it?}\\par",
+        "deed{\\*\\atnid AB}{\\*\\atnauthor Al B}{\\chatn}{\\*\\annotation\\f0 Is it?}\\par");
     row("info", "{\\info{\\title A title}{\\author J\\'e4ger}}word\\par",
         "{\\info{\\title A title}{\\author J\\'e4ger}}\r\n");
     row("properties of the user",

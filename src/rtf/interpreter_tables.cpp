@@ -1,0 +1,123 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/interpreter.h"
+#include "rtf/kept_text.h"
+#include "rtf/paragraph_writer.h"
+#include "rtf/rtf_output.h"
+#include "rtf/writer_tables.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace orvalis::rtf {
+
+namespace {
+
+constexpr int MostCells = 64; // word processors know 63
+
+} // namespace
+
+bool Interpreter::rowWord(const Token& token) {
+    switch (token.word->action) {
+    case Action::RowDefaults:
+        if (!shows() || m_state.nested)
+            return true;
+        m_keptOfRow = m_keptOfCell = 0;
+        m_cells.clear();
+        m_cellCount = 0;
+        m_rowIsNew = true;
+        m_state.border = nullptr;
+        return true;
+    case Action::CellRight:
+        if (!shows() || m_state.nested || m_cellCount >= MostCells)
+            return true;
+        ++m_cellCount;
+        m_cells += m_names.keptAt(m_kept.name(m_keptOfCell)) + QStringLiteral("\\cellx") +
+                   QString::number(token.parameter);
+        m_keptOfCell = 0;
+        m_rowIsNew = true;
+        return true;
+    case Action::InTable:
+        m_state.inTable = true;
+        return true;
+    case Action::CellEnd:
+        if (shows())
+            m_cellShapes.push_back(token.word->value == 0 ? cellShape() : NothingKept);
+        return true;
+    case Action::RowEnd:
+        if (shows())
+            rowEnd(token.word->value == 0);
+        return true;
+    default:
+        return false;
+    }
+}
+
+void Interpreter::keepOfRow(KeptLevel level, const KeptCall& call) {
+    if (m_state.nested)
+        return;
+    int& set = level == KeptLevel::Row ? m_keptOfRow : m_keptOfCell;
+    set = m_kept.with(set, call);
+    m_rowIsNew = true;
+}
+
+/// What the file says of the row and its cells; NothingKept where it says nothing.
+int Interpreter::row() {
+    if (!std::exchange(m_rowIsNew, false))
+        return m_row;
+    m_row = NothingKept;
+    if (m_cellCount > 0 && m_keptLeft > 0) {
+        const QString text =
+            QStringLiteral("\\trowd") + m_names.keptAt(m_kept.name(m_keptOfRow)) + m_cells;
+        m_keptLeft -= text.size();
+        m_row = m_names.kept(text);
+    }
+    return m_row;
+}
+
+/// How the paragraph is shaped that a cell ends with: a line of the document holds all cells of a
+/// row, and has one shape.
+int Interpreter::cellShape() {
+    if (row() == NothingKept)
+        return NothingKept;
+    m_lastOfCell = m_state.paragraph;
+    if (m_cellShape != NothingKept && m_shapeOfCell == m_state.paragraph)
+        return m_cellShape;
+    RtfOutput shape;
+    shape.word("\\pard\\intbl");
+    const QByteArray kept = m_names.keptAt(m_state.paragraph.kept).toUtf8();
+    if (!kept.isEmpty())
+        shape.word(kept);
+    WriterTables tables;
+    ParagraphWriter(shape, tables).geometry(m_state.paragraph);
+    m_shapeOfCell = m_state.paragraph;
+    m_cellShape = m_names.kept(QString::fromUtf8(shape.bytes()));
+    return m_cellShape;
+}
+
+void Interpreter::cellTabs(size_t count) {
+    const std::vector<int> shapes = std::exchange(m_cellShapes, {});
+    for (size_t i = 0; i < std::min(count, shapes.size()); ++i) {
+        m_state.chars.cell = shapes[i];
+        append(u"\t");
+    }
+    m_state.chars.cell = NothingKept;
+}
+
+void Interpreter::rowEnd(bool outermost) {
+    const bool anyCell = !m_cellShapes.empty();
+    const bool kept = anyCell && outermost && m_cellShapes.back() != NothingKept;
+    if (anyCell)
+        cellTabs(m_cellShapes.size() - 1);
+    if (!anyCell && !m_inParagraph)
+        return;
+    m_rowEnds = kept;
+    // What stands between the last cell and the row's end shapes no text.
+    const ParagraphFormat behind = m_state.paragraph;
+    if (kept)
+        m_state.paragraph = m_lastOfCell;
+    paragraphEnd();
+    m_state.paragraph = behind;
+}
+
+} // namespace orvalis::rtf

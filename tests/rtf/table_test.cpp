@@ -1,0 +1,263 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/format_properties.h"
+#include "rtf/reader.h"
+#include "rtf/writer.h"
+#include "support/test_main.h"
+
+#include <QGuiApplication>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+
+using namespace orvalis;
+using namespace orvalis::rtf;
+
+namespace {
+
+QByteArray file(const QByteArray& body) {
+    return "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0\\fnil\\fcharset0 Arial;}}"
+           "{\\colortbl;\\red255\\green0\\blue0;\\red0\\green128\\blue0;}" +
+           body + "}";
+}
+
+const QByteArray Row = "\\trowd\\trgaph70\\clbrdrt\\brdrs\\brdrw10\\clcbpat2\\cellx1000"
+                       "\\clvmgf\\cellx2000";
+
+/// What is written of a document, which must be written the same once it is read again.
+QByteArray written(const QTextDocument& document) {
+    const QByteArray rtf = writeRtf(document);
+    QTextDocument again;
+    readRtf(rtf, again);
+    if (again.toRawText() != document.toRawText())
+        return "other text: " + rtf;
+    return writeRtf(again) == rtf ? rtf : "not stable: " + rtf + writeRtf(again);
+}
+
+} // namespace
+
+class TableTest : public QObject {
+    Q_OBJECT
+private slots:
+    void aTableIsATableAgain();
+    void cellsKeepTheirParagraphs();
+    void aCellOfSeveralParagraphsStaysOne();
+    void emptyCellsStay_data();
+    void emptyCellsStay();
+    void bordersAndShadingOfCellsStay();
+    void theShapeOfARowMayComeBehindItsCellsToo();
+    void aRowWhoseTabIsGoneIsText();
+    void joinedRowsAreText();
+    void aDeletedRowTakesItsShapeAlong();
+    void moreCellsThanTheRowHasAreText();
+    void aTabInACellIsText();
+    void aPartOfARowIsText();
+    void wholeRowsOfAPartAreATable();
+    void aTableInACellIsReadableText();
+    void aLinkInACellEndsWithIt();
+    void aSectionMayBeginWithATable();
+    void aFloodOfRowsIsBounded();
+};
+
+void TableTest::aTableIsATableAgain() {
+    QTextDocument document;
+    QVERIFY(readRtf(file(Row + "\\pard\\intbl one\\cell two\\cell\\row\\pard after\\par"), document)
+                .ok());
+    QCOMPARE(document.toPlainText(), QStringLiteral("one\ttwo\nafter"));
+    const QByteArray rtf = written(document);
+    QVERIFY2(rtf.contains("\\trowd\\trgaph70\\clcbpat1\\clbrdrt\\brdrs\\brdrw10\\cellx1000"
+                          "\\clvmgf\\cellx2000\r\n\\pard\\intbl\\f0\\fs24 one\\cell\r\n"
+                          "\\pard\\intbl two\\cell\\row\r\n\\pard after\\par"),
+             rtf);
+}
+
+void TableTest::cellsKeepTheirParagraphs() {
+    QTextDocument document;
+    QVERIFY(
+        readRtf(
+            file(Row +
+                 "\\pard\\intbl\\qc\\keep one\\cell\\pard\\intbl\\qr two\\cell\\pard\\intbl\\row"),
+            document)
+            .ok());
+    const QByteArray rtf = written(document);
+    QVERIFY2(rtf.contains("\\pard\\intbl\\keep\\qc\\f0\\fs24 one\\cell"), rtf);
+    QVERIFY2(rtf.contains("\\pard\\intbl\\qr two\\cell\\row"), rtf);
+}
+
+void TableTest::aCellOfSeveralParagraphsStaysOne() {
+    QTextDocument document;
+    QVERIFY(
+        readRtf(file(Row + "\\pard\\intbl one\\par more\\cell two\\par last\\cell\\row"), document)
+            .ok());
+    QCOMPARE(document.toPlainText(), QStringLiteral("one\nmore\ttwo\nlast"));
+    const QByteArray rtf = written(document);
+    QVERIFY2(rtf.contains("one\\par\r\n\\pard\\intbl more\\cell\r\n\\pard\\intbl two\\par\r\n"
+                          "last\\cell\\row"),
+             rtf);
+    QCOMPARE(rtf.count("\\trowd"), 1);
+}
+
+void TableTest::emptyCellsStay_data() {
+    QTest::addColumn<QByteArray>("cells");
+    QTest::newRow("all") << QByteArray("\\cell\\cell");
+    QTest::newRow("first") << QByteArray("\\cell x\\cell");
+    QTest::newRow("last") << QByteArray("x\\cell\\cell");
+    QTest::newRow("bold, behind what is not") << QByteArray("x\\cell\\b\\cell");
+}
+
+void TableTest::emptyCellsStay() {
+    QFETCH(QByteArray, cells);
+    QTextDocument document;
+    QVERIFY(readRtf(file(Row + "\\pard\\intbl " + cells + "\\row\\pard y\\par"), document).ok());
+    const QByteArray rtf = written(document);
+    QCOMPARE(rtf.count("\\cell\r\n"), 1);
+    QCOMPARE(rtf.count("\\cell\\row"), 1);
+}
+
+void TableTest::bordersAndShadingOfCellsStay() {
+    QTextDocument document;
+    const QByteArray row =
+        "\\trowd\\trqc\\trhdr\\trftsWidth3\\trwWidth5000\\trbrdrt\\brdrs\\brdrw20"
+        "\\clmgf\\clvertalc\\clftsWidth3\\clwWidth900\\clbrdrl\\brdrdb\\brdrcf1\\cellx900"
+        "\\clmrg\\cellx1800";
+    QVERIFY(readRtf(file(row + "\\pard\\intbl a\\cell\\cell\\row"), document).ok());
+    const QByteArray rtf = written(document);
+    QVERIFY2(rtf.contains("\\trowd\\trqc\\trhdr\\trftsWidth3\\trwWidth5000\\trbrdrt\\brdrs\\brdrw20"
+                          "\\clmgf\\clvertalc\\clftsWidth3\\clwWidth900\\clbrdrl\\brdrdb\\brdrcf1"
+                          "\\cellx900\\clmrg\\cellx1800\r\n"),
+             rtf);
+}
+
+void TableTest::theShapeOfARowMayComeBehindItsCellsToo() {
+    QTextDocument document;
+    QVERIFY(readRtf(file(Row + "\\pard\\intbl\\qc one\\cell two\\cell\\pard{" + Row +
+                         "\\row}\\pard y\\par"),
+                    document)
+                .ok());
+    const QByteArray rtf = written(document);
+    QCOMPARE(rtf.count("\\trowd"), 1);
+    QVERIFY2(rtf.contains("\\pard\\intbl\\qc two\\cell\\row"), rtf);
+}
+
+void TableTest::aRowWhoseTabIsGoneIsText() {
+    QTextDocument document;
+    QVERIFY(
+        readRtf(file(Row + "\\pard\\intbl one\\cell two\\cell\\row\\pard y\\par"), document).ok());
+    QTextCursor cursor(&document);
+    cursor.setPosition(3);
+    cursor.deleteChar();
+    const QByteArray rtf = written(document);
+    QVERIFY2(!rtf.contains("\\trowd") && !rtf.contains("\\cell") && !rtf.contains("\\intbl"), rtf);
+    QVERIFY2(rtf.contains("onetwo\\par"), rtf);
+}
+
+void TableTest::joinedRowsAreText() {
+    QTextDocument document;
+    const QByteArray row = Row + "\\pard\\intbl a\\cell b\\cell\\row";
+    QVERIFY(readRtf(file(row + row + row), document).ok());
+    QCOMPARE(written(document).count("\\trowd"), 3);
+    QTextCursor cursor(document.findBlockByNumber(1));
+    cursor.deletePreviousChar();
+    QCOMPARE(document.toPlainText(), QStringLiteral("a\tba\tb\na\tb"));
+    const QByteArray rtf = written(document);
+    QCOMPARE(rtf.count("\\trowd"), 1);
+    QVERIFY2(rtf.contains("a\\tab ba\\tab b\\par"), rtf);
+}
+
+void TableTest::aDeletedRowTakesItsShapeAlong() {
+    QTextDocument document;
+    const QByteArray row = Row + "\\pard\\intbl a\\cell b\\cell\\row";
+    QVERIFY(readRtf(file(row + row + row), document).ok());
+    QTextCursor cursor(document.findBlockByNumber(1));
+    cursor.movePosition(QTextCursor::NextBlock, QTextCursor::KeepAnchor);
+    cursor.removeSelectedText();
+    QCOMPARE(written(document).count("\\trowd"), 2);
+}
+
+void TableTest::moreCellsThanTheRowHasAreText() {
+    QTextDocument document;
+    QVERIFY(readRtf(file("\\trowd\\cellx1000\\pard\\intbl a\\cell b\\cell\\row"), document).ok());
+    const QByteArray rtf = written(document);
+    QVERIFY2(rtf.contains("a\\tab b\\par") && !rtf.contains("\\trowd"), rtf);
+}
+
+void TableTest::aTabInACellIsText() {
+    QTextDocument document;
+    QVERIFY(readRtf(file(Row + "\\pard\\intbl a\\tab b\\cell c\\cell\\row"), document).ok());
+    QCOMPARE(document.toPlainText(), QStringLiteral("a\tb\tc"));
+    const QByteArray rtf = written(document);
+    QVERIFY2(rtf.contains("a\\tab b\\cell\r\n\\pard\\intbl c\\cell\\row"), rtf);
+}
+
+void TableTest::aPartOfARowIsText() {
+    QTextDocument document;
+    QVERIFY(
+        readRtf(file(Row + "\\pard\\intbl one\\cell two\\cell\\row\\pard y\\par"), document).ok());
+    const QByteArray rtf = writeRtf(document, 1, 6);
+    QVERIFY2(rtf.contains("ne\\tab tw\\par") && !rtf.contains("\\trowd"), rtf);
+}
+
+void TableTest::wholeRowsOfAPartAreATable() {
+    QTextDocument document;
+    const QByteArray row = Row + "\\pard\\intbl a\\cell b\\cell\\row";
+    QVERIFY(readRtf(file("x\\par" + row + row + "\\pard y\\par"), document).ok());
+    const QByteArray rtf = writeRtf(document, 2, 5);
+    QCOMPARE(rtf.count("\\trowd"), 1);
+    QTextDocument target;
+    QTextCursor cursor(&target);
+    QVERIFY(insertRtf(rtf, cursor).ok());
+    QCOMPARE(target.toPlainText(), QStringLiteral("a\tb"));
+    QCOMPARE(written(target).count("\\trowd"), 1);
+}
+
+void TableTest::aTableInACellIsReadableText() {
+    QTextDocument document;
+    QVERIFY(
+        readRtf(file(Row +
+                     "\\pard\\intbl\\itap1 a\\par\\pard\\intbl\\itap2 in\\nestcell ner\\nestcell"
+                     "{\\*\\nesttableprops\\trowd\\cellx300\\cellx600\\nestrow}"
+                     "{\\nonesttables\\par}\\pard\\intbl\\cell b\\cell\\row"),
+                document)
+            .ok());
+    QCOMPARE(document.toPlainText(), QStringLiteral("a\nin\tner\n\tb"));
+    const QByteArray rtf = written(document);
+    QCOMPARE(rtf.count("\\trowd"), 1);
+    QVERIFY2(rtf.contains("in\\tab ner\\par"), rtf);
+}
+
+void TableTest::aLinkInACellEndsWithIt() {
+    QTextDocument document;
+    QVERIFY(readRtf(file(Row + "\\pard\\intbl{\\field{\\*\\fldinst{HYPERLINK \"http://a.b/\"}}"
+                               "{\\fldrslt one\\cell two}}\\cell\\row"),
+                    document)
+                .ok());
+    const QByteArray rtf = written(document);
+    QVERIFY2(rtf.contains("one}}\\f0\\fs24\\cell"), rtf);
+}
+
+void TableTest::aSectionMayBeginWithATable() {
+    QTextDocument document;
+    QVERIFY(readRtf(file("x\\sect\\sectd\\cols2" + Row + "\\pard\\intbl one\\cell two\\cell\\row"),
+                    document)
+                .ok());
+    const QByteArray rtf = written(document);
+    QVERIFY2(rtf.contains("x\\sect\\sectd\\cols2\r\n\\trowd"), rtf);
+}
+
+void TableTest::aFloodOfRowsIsBounded() {
+    QByteArray flood = "\\trowd";
+    for (int i = 0; i < 1000; ++i)
+        flood += "\\clbrdrt\\brdrs\\brdrw7\\clbrdrb\\brdrs\\cellx" + QByteArray::number(i);
+    for (int i = 0; i < 100000; ++i)
+        flood += "\\trgaph" + QByteArray::number(i) + "\\cell\\row";
+    QTextDocument document;
+    QVERIFY(readRtf(file(flood), document).ok());
+    QVERIFY(document.blockCount() > 10000);
+    QSet<QString> kept;
+    for (const QTextFormat& format : document.allFormats())
+        kept.insert(format.stringProperty(TableRow));
+    QVERIFY2(kept.size() < 5000, QByteArray::number(kept.size()));
+}
+
+ORVALIS_TEST_MAIN_WITH(QGuiApplication, TableTest)
+#include "table_test.moc"

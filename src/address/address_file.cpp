@@ -26,14 +26,14 @@ QByteArray addressFileBytes(std::span<const AddressRecord> records, const AnsiPa
     for (const AddressRecord& record : records)
         for (const auto field : AddressFields)
             size += (record.*field).size() + 2 + LineEnd.size();
-    QByteArray bytes;
-    bytes.reserve(size);
+    QByteArray bytes(size, Qt::Uninitialized);
+    char* to = bytes.data();
     for (const AddressRecord& record : records)
         for (const auto field : AddressFields) {
-            bytes += Quote;
-            bytes += page.encode(record.*field);
-            bytes += Quote;
-            bytes += LineEnd;
+            *to++ = Quote;
+            to = page.encode(record.*field, to);
+            *to++ = Quote;
+            to = std::copy(LineEnd.begin(), LineEnd.end(), to);
         }
     return bytes;
 }

@@ -121,10 +121,16 @@ bool AnsiPage::holds(QStringView text) const {
 
 QByteArray AnsiPage::encode(QStringView text) const {
     QByteArray bytes(text.size(), Qt::Uninitialized);
-    std::transform(text.utf16(), text.utf16() + text.size(), bytes.begin(), [this](char16_t c) {
-        return static_cast<char>(code(c).value_or(OutsideThePage));
-    });
+    encode(text, bytes.data());
     return bytes;
+}
+
+char* AnsiPage::encode(QStringView text, char* to) const {
+    return std::transform(
+        text.utf16(), text.utf16() + text.size(), to,
+        [this](char16_t c) {
+            return static_cast<char>(c < 128 ? c : code(c).value_or(OutsideThePage));
+        });
 }
 
 QString AnsiPage::decode(QByteArrayView bytes) const {

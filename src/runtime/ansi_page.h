@@ -36,6 +36,8 @@ public:
     bool holds(QStringView text) const;
     /// One byte for each UTF-16 unit; what is outside the page becomes "?".
     QByteArray encode(QStringView text) const;
+    /// The same into a place that has room for as many bytes. \returns the place behind them.
+    char* encode(QStringView text, char* to) const;
     /// One character for each byte.
     QString decode(QByteArrayView bytes) const;
 

@@ -362,7 +362,8 @@ void AddressFileTest::aReaderAndWriterOfAnotherKindAgree() {
 
 void AddressFileTest::theyAgreeOnAnyBytesToo() {
     constexpr int Files = 5000;
-    const QByteArray signs("\"\"\"\"\",,\r\n\r\n  \tab\0\x1A\xE9\xEF\xBB\xBF", 24);
+    static constexpr char Signs[] = "\"\"\"\"\",,\r\n\r\n  \tab\0\x1A\xE9\xEF\xBB\xBF";
+    const QByteArrayView signs(Signs, std::size(Signs) - 1);
     const AnsiPage& ansi = AnsiPage::of(1252);
     QRandomGenerator random(1);
     for (int file = 0; file < Files; ++file) {

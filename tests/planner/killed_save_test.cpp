@@ -249,19 +249,22 @@ void KilledSaveTest::aKillAtAnySystemCallLeavesOldFilesOrNewOnes() {
     QFETCH(QString, call);
     QFETCH(int, fewest);
     const Outcome outcome(how);
-    const QList<int> numbers = numbersOfCalls(how, call);
     int kills = 0;
-    for (const int number : numbers) {
-        Saver saver(how,
-                    {u"strace"_s, u"-f"_s, u"-o"_s, u"/dev/null"_s, u"-e"_s, u"trace="_s + call,
-                     u"-e"_s, u"inject=%1:signal=KILL:when=%2"_s.arg(call).arg(number)});
-        if (!saver.waitUntilReady())
-            continue; // killed on its way there
-        saver.go();
-        kills += saver.finish() ? 0 : 1;
-        const QString fault = outcome.faultOf(saver.files());
-        QVERIFY2(fault.isEmpty(), qPrintable(u"%1 at call %2"_s.arg(fault).arg(number)));
-    }
+    // What came ahead of the save when it was counted, as a cache that was filled, can be missing
+    // from then on: no number meets the save then, and they are counted anew.
+    constexpr int MostCounts = 3;
+    for (int counts = 0; counts < MostCounts && (counts == 0 || kills < fewest); ++counts)
+        for (const int number : numbersOfCalls(how, call)) {
+            Saver saver(how,
+                        {u"strace"_s, u"-f"_s, u"-o"_s, u"/dev/null"_s, u"-e"_s, u"trace="_s + call,
+                         u"-e"_s, u"inject=%1:signal=KILL:when=%2"_s.arg(call).arg(number)});
+            if (!saver.waitUntilReady())
+                continue; // killed on its way there
+            saver.go();
+            kills += saver.finish() ? 0 : 1;
+            const QString fault = outcome.faultOf(saver.files());
+            QVERIFY2(fault.isEmpty(), qPrintable(u"%1 at call %2"_s.arg(fault).arg(number)));
+        }
     QVERIFY2(kills >= fewest, qPrintable(u"only %1 kills"_s.arg(kills)));
 }
 

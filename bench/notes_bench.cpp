@@ -6,14 +6,21 @@
 #include "controls/rich_text_box.h"
 #include "notes/find_commands.h"
 #include "notes/notes_panel.h"
+#include "notes/print_rtf.h"
+#include "platform/printer.h"
 #include "runtime/failure.h"
 #include "support/test_program.h"
 #include "timing.h"
+#include "widgets/gg_command.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QKeyEvent>
+#include <QPrinter>
 
+#include <algorithm>
 #include <cstdio>
+#include <utility>
 
 using namespace orvalis;
 using namespace orvalis::test;
@@ -92,16 +99,76 @@ void measureTyping(const char* what, const QString& text, double limit) {
     tell(what, time, limit);
 }
 
-void measureFile() {
-    Desk desk;
-    Form& form = desk.open();
-    const QString path = desk.folder.write(u"large.rtf"_s, richText(5 * Megabyte));
+/// The longest time, in milliseconds, in which nobody heard how far long work is.
+class Silence {
+public:
+    Silence() { m_timer.start(); }
+
+    void hear() {
+        const qint64 now = m_timer.nsecsElapsed();
+        m_longest = std::max(m_longest, now - std::exchange(m_heard, now));
+    }
+    double longest() const { return double(m_longest) / 1e6; }
+    qint64 milliseconds() const { return m_timer.elapsed(); }
+
+private:
+    QElapsedTimer m_timer;
+    qint64 m_heard = 0;
+    qint64 m_longest = 0;
+};
+
+void tellSilence(const Silence& silence) {
+    tell("    at the most, in which nothing could be painted", silence.longest(), 0);
+}
+
+/// Who hears of the work asks the clock whether it is time to paint.
+void measureLongWork(const char* what, Desk& desk, const QString& name, double limit) {
+    QWidget& form = desk.program.windows.get<NotesPanel>().form();
+    const QDateTime start = desk.clock.now();
+    Silence silence;
+    desk.clock.whenAsked = [&] {
+        silence.hear();
+        desk.clock.set(start.addMSecs(silence.milliseconds()));
+    };
     const double time = bench::millisecondsOf([&] {
-        desk.dialogs.answerOpen(path);
-        emit form.findChild<Image*>(u"imgOpen"_s)->Click();
+        if (auto* picture = form.findChild<Image*>(name))
+            emit picture->Click();
+        else
+            form.findChild<GGCommand*>(name)->setValue(true);
+        silence.hear();
         QApplication::processEvents();
     });
-    tell("a rich text of 5 MB opens on the right page", time, 1500);
+    desk.clock.whenAsked = {};
+    tell(what, time, limit);
+    tellSilence(silence);
+}
+
+void measurePrinting(Desk& desk) {
+    DesktopPrinter printer;
+    printer.device().setOutputFileName(desk.folder.file(u"large.pdf"_s));
+    Silence silence;
+    const double time = bench::millisecondsOf([&] {
+        printPages(desk.box(u"rt1a"_s), printer, {}, [&](double) { silence.hear(); });
+        silence.hear();
+    });
+    tell("it is printed", time, 0);
+    tellSilence(silence);
+}
+
+void measureFiles() {
+    Desk desk;
+    desk.open();
+    const QString path = desk.folder.write(u"large.rtf"_s, richText(5 * Megabyte));
+    desk.dialogs.answerOpen(path);
+    measureLongWork("a rich text of 5 MB opens on the right page", desk, u"imgOpen"_s, 1500);
+    measureLongWork("it is taken over", desk, u"Button1"_s, 0);
+    desk.dialogs.answerSave(desk.folder.file(u"copy.rtf"_s));
+    measureLongWork("it is saved as rich text", desk, u"imgSave"_s, 0);
+    measurePrinting(desk);
+    desk.dialogs.answerSave(desk.folder.file(u"copy.txt"_s));
+    measureLongWork("it is saved as plain text", desk, u"imgSave"_s, 0);
+    desk.dialogs.answerOpen(desk.folder.file(u"copy.txt"_s));
+    measureLongWork("it is opened as plain text", desk, u"imgOpen"_s, 0);
 }
 
 void measureReplacing(const char* what, const QString& text, double limit) {
@@ -138,7 +205,7 @@ int main(int argc, char** argv) {
     measureTyping("a key at the end of 1 MB in many lines", lines(Megabyte), 16);
     // A paragraph is laid out anew at each key, however long it is.
     measureTyping("a key at the end of one line of 32 KB", QString(u"word "_s).repeated(6400), 0);
-    measureFile();
+    measureFiles();
     measureReplacing("5,000 hits in many lines replaced", QString(u"a two\r\n"_s).repeated(4500),
                      300);
     measureReplacing("5,000 hits in one line replaced", QString(u"a two "_s).repeated(5000), 300);

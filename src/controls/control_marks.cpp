@@ -37,11 +37,16 @@ public:
         m_marks.setProperty(rtf::ControlMarks, true);
     }
 
-    bool insert(QStringView text) {
+    bool insert(QStringView text, const rtf::Progress& progress) {
         m_run.reserve(std::min(text.size(), LongestPiece));
+        qsizetype tellAt = progress ? 0 : text.size();
         for (qsizetype at = 0; at < text.size() && !m_intake.isFull(); ++at) {
             if (m_run.size() >= LongestPiece && !text[at].isLowSurrogate())
                 flush();
+            if (at >= tellAt) {
+                progress(double(at) / double(text.size()));
+                tellAt = at + LongestPiece;
+            }
             const char16_t c = text[at].unicode();
             if (c == u'\r' && at + 1 < text.size() && text[at + 1] == u'\n') {
                 endParagraph();
@@ -59,7 +64,7 @@ public:
     }
 
 private:
-    static constexpr qsizetype LongestPiece = 1 << 22;
+    static constexpr qsizetype LongestPiece = 1 << 16;
 
     enum class Kind { Any, Marks, Typed };
 
@@ -144,8 +149,9 @@ QString rawPart(const QTextBlock& block, int from, int to) {
 
 } // namespace
 
-bool insertPlain(QTextCursor& cursor, QStringView text, const QTextCharFormat& format) {
-    return PlainInserter(cursor, format).insert(text);
+bool insertPlain(QTextCursor& cursor, QStringView text, const QTextCharFormat& format,
+                 const rtf::Progress& progress) {
+    return PlainInserter(cursor, format).insert(text, progress);
 }
 
 void appendPlain(QString& plain, const QTextBlock& block, int from, int to) {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "rtf/progress.h"
+
 #include <QString>
 #include <QStringView>
 
@@ -20,8 +22,10 @@ namespace orvalis {
 
 /// Inserts plain text at the cursor in the format given: CR LF breaks the paragraph, U+2028 the
 /// line, and control characters become marks.
+/// \param progress hears how much of the text is in.
 /// \returns whether all of it had room; where it had not, the beginning came in.
-bool insertPlain(QTextCursor& cursor, QStringView text, const QTextCharFormat& format);
+bool insertPlain(QTextCursor& cursor, QStringView text, const QTextCharFormat& format,
+                 const rtf::Progress& progress = {});
 
 /// Appends the plain characters of a part of a block, \a from and \a to counted from its start:
 /// marks become codes, a line break inside the paragraph CR LF, a picture a blank.

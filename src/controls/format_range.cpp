@@ -121,7 +121,9 @@ void RangeFormatter::prepare(const FormatRange& range, QPaintDevice& device) {
     m_dots = dots;
     m_page = page;
     m_left = range.rect.left();
+    tell(0);
     m_copy.reset(document.clone());
+    tell(0);
     m_copy->setUndoRedoEnabled(false);
     m_copy->setDocumentMargin(0);
     QTextOption option = m_copy->defaultTextOption();
@@ -131,6 +133,7 @@ void RangeFormatter::prepare(const FormatRange& range, QPaintDevice& device) {
     m_marginDots = PixelsPerInch;
     standAcrossMargin(range.rect.left());
     shrinkPictures(page / TwipsPerPixel);
+    tell(0);
     layOut(device);
     collectLines();
 }
@@ -165,6 +168,7 @@ double RangeFormatter::layOut(const QSize& dots) {
     m_copy->documentLayout()->setPaintDevice(ruler.get());
     m_ruler = std::move(ruler);
     m_copy->setTextWidth(m_page.width() * dots.width() / TwipsPerInch);
+    layOutToEnd();
     return m_copy->documentLayout()->documentSize().height();
 }
 
@@ -238,9 +242,28 @@ void RangeFormatter::shrinkPictures(const QSizeF& page) {
     }
 }
 
+void RangeFormatter::tell(double share) const {
+    if (m_progress)
+        m_progress(share);
+}
+
+/// Lays the copy out bit by bit, so that whoever waits hears of it.
+void RangeFormatter::layOutToEnd() {
+    constexpr int ToldCharacters = 1 << 12;
+    int tellAt = 0;
+    for (QTextBlock block = m_copy->begin(); block.isValid(); block = block.next()) {
+        if (block.position() < tellAt)
+            continue;
+        m_copy->documentLayout()->blockBoundingRect(block);
+        tell(double(block.position()) / m_copy->characterCount());
+        tellAt = block.position() + ToldCharacters;
+    }
+    m_copy->documentLayout()->documentSize();
+}
+
 void RangeFormatter::collectLines() {
     m_lines.clear();
-    m_copy->documentLayout()->documentSize(); // lays all of it out
+    layOutToEnd();
     for (QTextBlock block = m_copy->begin(); block.isValid(); block = block.next()) {
         m_copy->documentLayout()->blockBoundingRect(block);
         const QTextLayout& layout = *block.layout();

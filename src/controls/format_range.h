@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "rtf/progress.h"
+
 #include <QRectF>
 #include <QRegion>
 #include <QSize>
@@ -9,6 +11,7 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 class QPainter;
@@ -34,8 +37,10 @@ struct FormatRange {
 /// characters alone are drawn.
 class RangeFormatter {
 public:
-    explicit RangeFormatter(const RichTextBox& box)
-        : m_box(box) {}
+    /// \param progress hears how much of the document is laid out.
+    explicit RangeFormatter(const RichTextBox& box, rtf::Progress progress = {})
+        : m_box(box)
+        , m_progress(std::move(progress)) {}
 
     /// Formats one page's worth of text and renders it where a painter is given.
     /// \returns the position of the first character that did not fit; it always advances, for a
@@ -59,11 +64,14 @@ private:
     void countMargins(const QSize& dots);
     void changeParagraphs(const std::function<void(QTextBlockFormat&)>& change);
     void shrinkPictures(const QSizeF& page);
+    void tell(double share) const;
+    void layOutToEnd();
     void collectLines();
     void draw(const FormatRange& range, const Line& first, const Line& last, int from, int to);
     QRegion partOf(const Line& line, const QRectF& room, int from, int to) const;
 
     const RichTextBox& m_box;
+    rtf::Progress m_progress;
     std::unique_ptr<QTextDocument> m_copy;
     std::vector<Line> m_lines;
     int m_revision = 0;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/progress_bar.h"
 
+#include "controls/window_pixels.h"
 #include "runtime/failure.h"
 
 namespace orvalis {
@@ -22,6 +23,18 @@ ProgressBar::ProgressBar(const QString& name, QWidget* parent)
 }
 
 void ProgressBar::SetValue(float value) {
+    takeValue(value);
+    if (m_painted.elapsed() >= RepaintMilliseconds && isVisible())
+        PaintValue(value);
+}
+
+void ProgressBar::PaintValue(float value) {
+    takeValue(value);
+    repaint();
+    showPixelsAgain(*this);
+}
+
+void ProgressBar::takeValue(float value) {
     if (!(value >= static_cast<float>(minimum()) && value <= static_cast<float>(maximum())))
         throw RuntimeError(ErrorNumber::InvalidPropertyValue);
     m_value = value;
@@ -33,8 +46,6 @@ void ProgressBar::SetValue(float value) {
         setValue(whole);
         setUpdatesEnabled(updates);
     }
-    if (m_painted.elapsed() >= RepaintMilliseconds && isVisible())
-        window()->repaint();
 }
 
 void ProgressBar::paintEvent(QPaintEvent* event) {

@@ -20,6 +20,8 @@ public:
     float Value() const { return m_value; }
     /// \throws RuntimeError InvalidPropertyValue outside Min() to Max(); nothing changes then.
     void SetValue(float value);
+    /// Sets it and paints it at once, whenever it was painted last.
+    void PaintValue(float value);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -27,6 +29,8 @@ protected:
 private:
     using QProgressBar::setValue;
     using QProgressBar::value;
+
+    void takeValue(float value);
 
     float m_value = 0;
     QElapsedTimer m_painted;

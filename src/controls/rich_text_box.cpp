@@ -8,7 +8,6 @@
 #include "controls/text_positions.h"
 #include "controls/text_search.h"
 #include "rtf/document_room.h"
-#include "rtf/kept_parts.h"
 #include "rtf/reader.h"
 #include "rtf/writer.h"
 #include "runtime/failure.h"
@@ -76,93 +75,7 @@ void RichTextBox::takeChange(int from, int removed, int added) {
     m_changeToTell = true;
 }
 
-// --- the whole document
-
-QString RichTextBox::Text() const {
-    return m_positions->text();
-}
-
-void RichTextBox::SetText(const QString& text) {
-    replaceEverything(text, formatAtStart(editCursor()), editCursor().blockFormat());
-}
-
-/// \returns whether all of it had room.
-bool RichTextBox::replaceEverything(const QString& text, QTextCharFormat format,
-                                    QTextBlockFormat paragraph) {
-    // What a file said and nobody sees goes with its text.
-    rtf::setKeptParts(*document(), {});
-    rtf::clearKept(format);
-    rtf::clearKept(paragraph);
-    const bool keepsHistory = document()->isUndoRedoEnabled();
-    const bool inBatch = m_batches > 0;
-    bool whole = true;
-    hold();
-    if (!inBatch)
-        document()->setUndoRedoEnabled(false);
-    QTextCursor everything(document());
-    everything.select(QTextCursor::Document);
-    editAt(everything, [&](QTextCursor& cursor) {
-        cursor.beginEditBlock();
-        cursor.removeSelectedText();
-        cursor.setBlockFormat(paragraph);
-        cursor.setBlockCharFormat(format);
-        whole = insertPlain(cursor, text, format);
-        cursor.endEditBlock();
-    });
-    // What a document says of all its tabs goes with it.
-    QTextOption option = document()->defaultTextOption();
-    if (option.tabStopDistance() != m_usualTabs) {
-        option.setTabStopDistance(m_usualTabs);
-        document()->setDefaultTextOption(option);
-    }
-    if (!inBatch)
-        document()->setUndoRedoEnabled(keepsHistory);
-    contentWasSet(format);
-    release();
-    return whole;
-}
-
-/// The caret goes to the start, in the format given for what is typed into an empty document; the
-/// selection counts as changed even where it stands as it stood.
-void RichTextBox::contentWasSet(const QTextCharFormat& format) {
-    QTextCursor caret(document());
-    if (document()->isEmpty())
-        caret.setCharFormat(format);
-    m_toldAnchor = -1;
-    takeCursor(caret);
-}
-
-QByteArray RichTextBox::TextRTF() const {
-    return rtf::writeRtf(*document());
-}
-
-void RichTextBox::SetTextRTF(const QByteArray& rtf) {
-    if (rtf::looksLikeRtf(rtf))
-        takeRtf(rtf);
-    else
-        SetText(decodeText(rtf));
-}
-
-/// \returns whether all of it could be read.
-bool RichTextBox::takeRtf(const QByteArray& rtf) {
-    QTextCursor everything(document());
-    everything.select(QTextCursor::Document);
-    rtf::ReadResult result;
-    hold();
-    editAt(everything, [&](QTextCursor& cursor) {
-        if (m_batches > 0) {
-            rtf::ReadOptions options = readOptions();
-            options.replacesDocument = true;
-            result = rtf::insertRtf(rtf, cursor, options);
-            return;
-        }
-        result = rtf::readRtf(rtf, *document(), readOptions());
-        cursor = QTextCursor(document());
-    });
-    contentWasSet(QTextCursor(document()).charFormat());
-    release();
-    return result.ok();
-}
+// --- the whole document, but for what stands in rich_text_box_content.cpp
 
 void RichTextBox::SetTextRTF(const QString& rtf) {
     const QByteArray bytes = bytesOfRtf(rtf);

@@ -4,6 +4,7 @@
 
 #include "controls/rich_text_files.h"
 #include "controls/undo_kind.h"
+#include "rtf/progress.h"
 
 #include <QByteArray>
 #include <QString>
@@ -170,6 +171,21 @@ public:
         int m_exceptions = std::uncaught_exceptions();
     };
 
+    /// Somebody who hears, while it lives, how far long work on the document is: reading, loading,
+    /// writing and saving it as RTF, and setting its text. What they paint meanwhile shows nothing
+    /// of the box, which is not painted until then; its document may be in pieces.
+    class Listener {
+    public:
+        Listener(RichTextBox& box, rtf::Progress progress);
+        ~Listener();
+        /// Hears of what follows in another way.
+        void turnTo(rtf::Progress progress);
+        Q_DISABLE_COPY_MOVE(Listener)
+
+    private:
+        RichTextBox& m_box;
+    };
+
     /// The index in Text() of each place of the document.
     const TextPositions& positions() const { return *m_positions; }
 
@@ -272,6 +288,7 @@ private:
     int m_toldPosition = 0;
     QTextCursor m_batchCursor;
     mutable std::optional<bool> m_clipboardFits; ///< unknown until it is asked
+    rtf::Progress m_progress;
     std::unique_ptr<TextPositions> m_positions;
     std::unique_ptr<UndoKinds> m_undoKinds;
 };

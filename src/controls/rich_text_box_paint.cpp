@@ -11,10 +11,27 @@
 #include <QTextDocument>
 #include <QTextLayout>
 
+#include <utility>
+
 // What the box draws over the text: the labels of lists, what fills the space of tabs, and the
-// marks of blanks that do not break.
+// marks of blanks that do not break; and when it draws nothing at all.
 
 namespace orvalis {
+
+RichTextBox::Listener::Listener(RichTextBox& box, rtf::Progress progress)
+    : m_box(box) {
+    m_box.setUpdatesEnabled(false);
+    turnTo(std::move(progress));
+}
+
+RichTextBox::Listener::~Listener() {
+    m_box.m_progress = {};
+    m_box.setUpdatesEnabled(true);
+}
+
+void RichTextBox::Listener::turnTo(rtf::Progress progress) {
+    m_box.m_progress = std::move(progress);
+}
 
 void RichTextBox::paintEvent(QPaintEvent* event) {
     QTextEdit::paintEvent(event);

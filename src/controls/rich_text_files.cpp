@@ -3,6 +3,7 @@
 #include "controls/rich_text_files.h"
 
 #include "controls/rich_text_box.h"
+#include "rtf/document_room.h"
 #include "rtf/reader.h"
 #include "rtf/writer.h"
 #include "runtime/ansi_page.h"
@@ -31,10 +32,14 @@ bool endsLinesWithLf(QStringView text) {
                });
 }
 
+/// More bytes than any document has room for, of whichever characters: of a far larger file only
+/// its beginning is worth the memory.
+constexpr qsizetype MostBytes = qsizetype{4} * rtf::MostCharacters;
+
 QString plainTextOf(QByteArrayView bytes, RichTextFiles::Plain kind) {
     if (kind == RichTextFiles::Plain::Ansi)
-        return AnsiPage::ofUser().decode(bytes);
-    QString text = decodeText(bytes);
+        return AnsiPage::ofUser().decode(bytes.first(std::min(MostBytes, bytes.size())));
+    QString text = decodeTextStart(bytes, MostBytes);
     if (endsLinesWithLf(text))
         text.replace(QStringLiteral("\n"), QStringLiteral("\r\n"));
     return text;

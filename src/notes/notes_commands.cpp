@@ -5,8 +5,8 @@
 #include "controls/load_picture.h"
 #include "controls/message_boxes.h"
 #include "controls/rich_text_box.h"
+#include "core/long_work.h"
 #include "core/program.h"
-#include "notes/busy.h"
 #include "notes/document_rules.h"
 #include "notes/notes_panel.h"
 #include "notes/print_rtf.h"
@@ -66,7 +66,7 @@ void frmnotes2::imgSlika_Click() {
                                "*.bmp;*.jpg;*.jpeg;*.gif;*.wmf|All Files (*.*)|*.*"_s;
         CommonDialog1.DialogTitle = u"Insert Image"_s;
         CommonDialog1.ShowOpen();
-        const Busy busy(*this);
+        const LongWork work(*this, ui.PB1, program().services.clock);
         const LoadedPicture picture = LoadPicture(CommonDialog1.FileName);
         ui.ImUbaci->setPicture(picture.picture);
         setClipboardPicture(picture);
@@ -95,12 +95,15 @@ void frmnotes2::imgPrint_Click() {
 void frmnotes2::PrintRTF(RichTextBox& RTF, int LeftMarginWidth, int TopMarginHeight,
                          int RightMarginWidth, int BottomMarginHeight) {
     endSilently([&] {
-        const Busy busy(*this);
+        // Other windows print their pages here too.
+        QWidget& window = *RTF.window();
+        LongWork work(window, &window == this ? ui.PB2 : nullptr, program().services.clock);
         printPages(RTF, program().services.printer,
                    {.left = LeftMarginWidth,
                     .top = TopMarginHeight,
                     .right = RightMarginWidth,
-                    .bottom = BottomMarginHeight});
+                    .bottom = BottomMarginHeight},
+                   work.part(1));
     });
 }
 

@@ -5,6 +5,7 @@
 #include "controls/edit_menu.h"
 #include "controls/image.h"
 #include "controls/label.h"
+#include "controls/progress_bar.h"
 #include "controls/rich_text_box.h"
 #include "controls/twips_geometry.h"
 #include "core/button_look.h"
@@ -32,6 +33,8 @@ constexpr QRect LeftPage(480, 1020, 3915, 4395);
 constexpr QRect RightPage(5880, 1020, 3915, 4395);
 constexpr QRect LeftTitle(480, 720, 3810, 240);
 constexpr QRect RightTitle(6780, 720, 2970, 240);
+constexpr QRect LeftProgress(480, 5550, 3915, 105);
+constexpr QRect RightProgress(5880, 5550, 3915, 105);
 constexpr QRect FindPlace(6120, 3180, 3495, 2205);
 constexpr QRect LeftTools(480, 480, 3915, 240);
 constexpr QRect RightTools(5880, 480, 3915, 240);
@@ -77,6 +80,13 @@ RichTextBox* page(QWidget& panel, const QString& name, const QRect& twips,
     made->setProperty("skinSurface", u"paper"_s);
     setTwipsGeometry(*made, twips);
     made->setFont(skin::font(skin::points::Body));
+    return made;
+}
+
+ProgressBar* progress(QWidget& panel, const QString& name, const QRect& twips) {
+    auto* made = new ProgressBar(name, &panel);
+    setTwipsGeometry(*made, twips);
+    made->hide();
     return made;
 }
 
@@ -167,6 +177,8 @@ void NotesControls::makeCommands(QWidget& panel) {
     imgMail = command(panel, u"imgMail"_s, 216, u"Send Email"_s, u"mail"_s);
     imgOpen = command(panel, u"imgOpen"_s, 392, u"Open"_s, u"open_file"_s);
     imgPrint = command(panel, u"imgPrint"_s, 438, u"Print"_s, u"print"_s);
+    PB1 = progress(panel, u"PB1"_s, LeftProgress);
+    PB2 = progress(panel, u"PB2"_s, RightProgress);
     ImUbaci = new Image(u"ImUbaci"_s, &panel);
     ImUbaci->hide();
 }

@@ -13,6 +13,7 @@ class GGCommand;
 class Image;
 class Label;
 class PageToolbar;
+class ProgressBar;
 class RichTextBox;
 
 /// The controls of the Notes panel beside the chrome, made on the panel in their design places. The
@@ -40,7 +41,9 @@ public:
     Image* imgMail;
     Image* imgOpen;
     Image* imgPrint;
-    Image* ImUbaci; ///< hidden: a picture on its way to the clipboard
+    ProgressBar* PB1; ///< hidden: how far long work on the left page is
+    ProgressBar* PB2; ///< hidden: the same of the right one
+    Image* ImUbaci;   ///< hidden: a picture on its way to the clipboard
 
     // Find and replace.
     QFrame* Frame1;

@@ -4,19 +4,42 @@
 #include "controls/label.h"
 #include "controls/message_boxes.h"
 #include "controls/rich_text_box.h"
+#include "core/long_work.h"
 #include "core/program.h"
-#include "notes/busy.h"
 #include "notes/document_rules.h"
 #include "notes/notes_panel.h"
 #include "runtime/app.h"
 #include "runtime/files.h"
 #include "widgets/gg_command.h"
 
+#include <utility>
+
 // What is on the pages: new, opened, taken over, changed, saved.
 
 namespace orvalis {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// Where the parts of a command end, as shares of its time.
+constexpr double TakenOut = 0.1;
+constexpr double TakenOver = 0.55;
+constexpr double Saved = 0.2;
+constexpr double Reloaded = 0.3;
+constexpr double Copied = 0.5;
+
+QByteArray writtenDocument(RichTextBox& page, rtf::Progress progress) {
+    const RichTextBox::Listener writing(page, std::move(progress));
+    return page.TextRTF();
+}
+
+void readDocument(RichTextBox& page, const QByteArray& document, rtf::Progress progress) {
+    const RichTextBox::Listener reading(page, std::move(progress));
+    page.SetTextRTF(document);
+}
+
+} // namespace
 
 void frmnotes2::connectDocument() {
     connect(ui.rt1, &RichTextBox::Change, this, &frmnotes2::rt1_Change);
@@ -68,7 +91,8 @@ void frmnotes2::imgOpen_Click() {
             program().boxes().MsgBox(u"File not found!"_s, MsgFlags::InformationIcon);
             return;
         }
-        const Busy busy(*this);
+        LongWork work(*this, ui.PB2, program().services.clock);
+        const RichTextBox::Listener reading(*ui.rt1a, work.part(1));
         const int flags = documentFlags(CommonDialog1.FileTitle);
         if (flags == RichTextBox::rtfText)
             ui.rt1a->SetText({});
@@ -82,10 +106,10 @@ void frmnotes2::Button1_Click() {
     if (!mayLoseChanges(MsgFlags::YesNo + MsgFlags::ExclamationIcon))
         return;
     endSilently([this] {
-        const Busy busy(*this);
-        const QByteArray document = ui.rt1a->TextRTF();
-        ui.rt1->SetTextRTF(document);
-        ui.rt5->SetTextRTF(document);
+        LongWork work(*this, ui.PB1, program().services.clock);
+        const QByteArray document = writtenDocument(*ui.rt1a, work.part(TakenOut));
+        readDocument(*ui.rt1, document, work.part(TakenOver));
+        readDocument(*ui.rt5, document, work.part(1));
         ui.Label3->setCaption(ui.Label1->Caption());
         m_Changed = false;
         ui.rt1->setFocus();
@@ -124,15 +148,20 @@ std::optional<int> frmnotes2::askWhereToSave() {
 }
 
 void frmnotes2::saveAs(int flags) {
-    const Busy busy(*this);
-    ui.rt1->files().SaveFile(CommonDialog1.FileName, flags);
-    if (flags == RichTextBox::rtfText) {
-        // The page shows what the file keeps.
-        ui.rt1->SetText({});
-        ui.rt1->files().LoadFile(CommonDialog1.FileName, RichTextBox::rtfText);
-        setDocumentPath(CommonDialog1.FileName);
+    LongWork work(*this, ui.PB1, program().services.clock);
+    {
+        RichTextBox::Listener saving(*ui.rt1, work.part(Saved));
+        ui.rt1->files().SaveFile(CommonDialog1.FileName, flags);
+        if (flags == RichTextBox::rtfText) {
+            // The page shows what the file keeps.
+            saving.turnTo(work.part(Reloaded));
+            ui.rt1->SetText({});
+            ui.rt1->files().LoadFile(CommonDialog1.FileName, RichTextBox::rtfText);
+            setDocumentPath(CommonDialog1.FileName);
+        }
     }
-    ui.rt5->SetTextRTF(ui.rt1->TextRTF());
+    const QByteArray document = writtenDocument(*ui.rt1, work.part(Copied));
+    readDocument(*ui.rt5, document, work.part(1));
     m_Changed = false;
     ui.Label3->setCaption(CommonDialog1.FileTitle);
     ui.rt1->setFocus();

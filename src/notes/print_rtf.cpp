@@ -35,19 +35,26 @@ QRect printArea(const Printer& printer, const PrintMargins& margins) {
     return {topLeft, QSize(bottomRight.x() - topLeft.x(), bottomRight.y() - topLeft.y())};
 }
 
-void printPages(RichTextBox& box, Printer& printer, const PrintMargins& margins) {
+void printPages(RichTextBox& box, Printer& printer, const PrintMargins& margins,
+                const rtf::Progress& progress) {
+    constexpr double LayoutShare = 0.5; // of the time
+    const auto tell = [&progress](double share) {
+        if (progress)
+            progress(share);
+    };
     // A blank begins the job: until then there is no device context.
     printer.Print(u" "_s);
     FormatRange range;
     range.rect = printArea(printer, margins);
     useDevice(range, printer);
     const auto textLength = static_cast<int>(box.Text().size());
-    RangeFormatter pages(box);
+    RangeFormatter pages(box, [&](double share) { tell(LayoutShare * share); });
     for (;;) {
         const int next = pages.FormatPage(range);
         if (next >= textLength)
             break;
         range.first = next;
+        tell(LayoutShare + (1 - LayoutShare) * next / textLength);
         printer.NewPage();
         printer.Print(u" "_s);
         useDevice(range, printer);

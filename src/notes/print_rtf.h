@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "rtf/progress.h"
+
 #include <QRect>
 
 namespace orvalis {
@@ -22,8 +24,10 @@ struct PrintMargins {
 QRect printArea(const Printer& printer, const PrintMargins& margins);
 
 /// Prints a whole text in pages of these margins.
+/// \param progress hears how much of it is laid out and printed.
 /// \throws RuntimeError PrinterError where there is no printer, or it gives up; the job is left as
 /// it stands then.
-void printPages(RichTextBox& box, Printer& printer, const PrintMargins& margins);
+void printPages(RichTextBox& box, Printer& printer, const PrintMargins& margins,
+                const rtf::Progress& progress = {});
 
 } // namespace orvalis

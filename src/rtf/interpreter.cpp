@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/interpreter.h"
 
+#include <limits>
+
 namespace orvalis::rtf {
 
 namespace {
@@ -14,11 +16,17 @@ constexpr size_t MostGroups = 4096;
 constexpr qint64 KeptShare = 4;
 constexpr qint64 KeptGround = qint64(1) << 20;
 
+// What is read between two words of progress.
+constexpr qsizetype ToldBytes = qsizetype(1) << 14;
+
 } // namespace
 
-Interpreter::Interpreter(QByteArrayView bytes, Sink& sink)
+Interpreter::Interpreter(QByteArrayView bytes, Sink& sink, const Progress& progress)
     : m_tokenizer(bytes)
     , m_sink(sink)
+    , m_progress(progress)
+    , m_size(bytes.size())
+    , m_tellAt(progress ? 0 : std::numeric_limits<qsizetype>::max())
     , m_documentPage(&CodePage::forNumber(Latin1Page))
     , m_kept(m_names)
     , m_keptLeft(KeptShare * bytes.size() + KeptGround) {
@@ -28,9 +36,11 @@ Interpreter::Interpreter(QByteArrayView bytes, Sink& sink)
 ReadResult Interpreter::run() {
     m_sink.begin(m_names);
     Token token;
-    do
+    do {
         m_tokenizer.next(token);
-    while (step(token) && !m_sinkIsFull);
+        if (m_tokenizer.position() >= m_tellAt)
+            tellProgress();
+    } while (step(token) && !m_sinkIsFull);
     finish();
     return m_result;
 }
@@ -206,6 +216,11 @@ void Interpreter::askForRoom() {
     m_sinkIsFull = m_sink.isFull();
     if (m_sinkIsFull)
         fault(Fault::TooLarge);
+}
+
+void Interpreter::tellProgress() {
+    m_tellAt = m_tokenizer.position() + ToldBytes;
+    m_progress(double(m_tokenizer.position()) / double(m_size));
 }
 
 void Interpreter::finish() {

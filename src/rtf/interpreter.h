@@ -22,7 +22,7 @@ namespace orvalis::rtf {
 /// and gathers text until its format changes. One object reads one file.
 class Interpreter {
 public:
-    Interpreter(QByteArrayView bytes, Sink& sink);
+    Interpreter(QByteArrayView bytes, Sink& sink, const Progress& progress);
     ReadResult run();
 
 private:
@@ -83,6 +83,7 @@ private:
     void word(const Token& token);
     void fault(Fault fault);
     void askForRoom();
+    void tellProgress();
     void finish();
 
     // Text (interpreter_text.cpp)
@@ -145,6 +146,9 @@ private:
 
     Tokenizer m_tokenizer;
     Sink& m_sink;
+    const Progress& m_progress;
+    qsizetype m_size;
+    qsizetype m_tellAt; ///< the place in the bytes behind which the progress is told next
     ReadResult m_result;
     Names m_names;
 

@@ -37,8 +37,8 @@ QByteArrayView withoutPadding(QByteArrayView bytes) {
     return bytes;
 }
 
-ReadResult readInto(QByteArrayView bytes, DocumentSink& sink) {
-    const ReadResult result = readRtf(bytes, sink);
+ReadResult readInto(QByteArrayView bytes, DocumentSink& sink, const Progress& progress) {
+    const ReadResult result = readRtf(bytes, sink, progress);
     return result.ok() && sink.leftOut() ? ReadResult{Fault::TooLarge, bytes.size()} : result;
 }
 
@@ -53,11 +53,11 @@ bool looksLikeRtf(QByteArrayView bytes) {
     return start.startsWith("\\rtf") || start.startsWith("\\urtf");
 }
 
-ReadResult readRtf(QByteArrayView bytes, Sink& sink) {
+ReadResult readRtf(QByteArrayView bytes, Sink& sink, const Progress& progress) {
     if (!looksLikeRtf(bytes))
         return NotRtf;
     const qsizetype start = startOfGroup(bytes);
-    ReadResult result = Interpreter(withoutPadding(bytes.sliced(start)), sink).run();
+    ReadResult result = Interpreter(withoutPadding(bytes.sliced(start)), sink, progress).run();
     if (!result.ok())
         result.position += start;
     return result;
@@ -75,7 +75,7 @@ ReadResult readRtf(QByteArrayView bytes, QTextDocument& document, const ReadOpti
     ReadOptions whole = options;
     whole.replacesDocument = true;
     DocumentSink sink(cursor, whole, bytes.size());
-    const ReadResult result = readInto(bytes, sink);
+    const ReadResult result = readInto(bytes, sink, options.progress);
     cursor.endEditBlock();
     // Only now is it known how the lines of long words are to be broken; to set the tabs lays the
     // document out.
@@ -97,7 +97,7 @@ ReadResult insertRtf(QByteArrayView bytes, QTextCursor& cursor, const ReadOption
     const double tabs = cursor.document()->defaultTextOption().tabStopDistance();
     DocumentSink sink(cursor, options, bytes.size(),
                       std::max(1, int(std::lround(tabs * TwipsPerPixel))));
-    const ReadResult result = readInto(bytes, sink);
+    const ReadResult result = readInto(bytes, sink, options.progress);
     cursor.endEditBlock();
     return result;
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "rtf/progress.h"
+
 #include <QByteArrayView>
 
 class QTextCursor;
@@ -38,6 +40,7 @@ struct ReadOptions {
     /// Whether what is inserted becomes all that the document holds: then what the file says of the
     /// whole document holds for it too. Reading into a document always means that.
     bool replacesDocument = false;
+    Progress progress = {}; ///< hears how much of the bytes is read
 };
 
 /// Whether the bytes begin as RTF does: "{\rtf" or "{\urtf", behind nothing but blanks, line ends,
@@ -45,7 +48,7 @@ struct ReadOptions {
 bool looksLikeRtf(QByteArrayView bytes);
 
 /// Tells the sink what the bytes hold. Bytes that do not look like RTF are not read at all.
-ReadResult readRtf(QByteArrayView bytes, Sink& sink);
+ReadResult readRtf(QByteArrayView bytes, Sink& sink, const Progress& progress = {});
 
 /// Replaces the document's content and drops its undo history. The paragraph mark that ends the
 /// last paragraph makes no further, empty paragraph. On Fault::NotRtf the document is untouched.

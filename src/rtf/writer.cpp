@@ -13,6 +13,7 @@
 #include <QTextList>
 
 #include <algorithm>
+#include <limits>
 #include <vector>
 
 namespace orvalis::rtf {
@@ -22,16 +23,20 @@ namespace {
 /// Walks through a part of a document and tells the body writer what stands there.
 class DocumentWalk {
 public:
-    DocumentWalk(const QTextDocument& document, int from, int to)
+    DocumentWalk(const QTextDocument& document, int from, int to, const Progress& progress)
         : m_document(document)
         , m_from(from)
         , m_to(to)
+        , m_progress(progress)
+        , m_tellAt(progress ? from : std::numeric_limits<int>::max())
         , m_defaultTab(int(document.defaultTextOption().tabStopDistance() * TwipsPerPixel)) {}
 
     QByteArray rtf() {
         QTextBlock block = m_document.findBlock(m_from);
         int position = block.position();
         while (block.isValid() && position <= m_to) {
+            if (position >= m_tellAt)
+                tellProgress(position);
             const int rows = rowAt(block, position);
             for (int line = 0; line < std::max(rows, 1); ++line, block = block.next()) {
                 if (rows == 0)
@@ -45,6 +50,12 @@ public:
     }
 
 private:
+    void tellProgress(int position) {
+        constexpr int ToldCharacters = 1 << 13;
+        m_tellAt = position + ToldCharacters;
+        m_progress(double(position - m_from) / (m_to - m_from + 1));
+    }
+
     /// A part of a document has a page of its own wherever it goes.
     KeptParts partsToWrite() const {
         KeptParts parts = keptParts(m_document);
@@ -220,6 +231,8 @@ private:
     const QTextDocument& m_document;
     int m_from;
     int m_to;
+    const Progress& m_progress;
+    int m_tellAt; ///< the place behind which the progress is told next
     int m_defaultTab;
     BodyWriter m_body;
     std::vector<char> m_known;
@@ -234,15 +247,15 @@ private:
 
 } // namespace
 
-QByteArray writeRtf(const QTextDocument& document) {
-    return writeRtf(document, 0, document.characterCount() - 1);
+QByteArray writeRtf(const QTextDocument& document, const Progress& progress) {
+    return DocumentWalk(document, 0, document.characterCount() - 1, progress).rtf();
 }
 
 QByteArray writeRtf(const QTextDocument& document, int from, int to) {
     const int last = document.characterCount() - 1;
     from = std::clamp(from, 0, last);
     to = std::clamp(to, 0, last);
-    return DocumentWalk(document, std::min(from, to), std::max(from, to)).rtf();
+    return DocumentWalk(document, std::min(from, to), std::max(from, to), {}).rtf();
 }
 
 } // namespace orvalis::rtf

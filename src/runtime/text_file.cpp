@@ -31,9 +31,15 @@ QByteArray encodeText(QStringView text, const AnsiPage& page) {
 }
 
 QString decodeText(QByteArrayView bytes, const AnsiPage& page) {
+    return decodeTextStart(bytes, bytes.size(), page);
+}
+
+QString decodeTextStart(QByteArrayView bytes, qsizetype wanted, const AnsiPage& page) {
+    const bool utf8 = takenForUtf8(bytes);
     if (bytes.startsWith(Utf8Mark))
-        return QString::fromUtf8(bytes.sliced(Utf8Mark.size()));
-    return takenForUtf8(bytes) ? QString::fromUtf8(bytes) : page.decode(bytes);
+        bytes = bytes.sliced(Utf8Mark.size());
+    bytes.truncate(std::min(wanted, bytes.size()));
+    return utf8 ? QString::fromUtf8(bytes) : page.decode(bytes);
 }
 
 } // namespace orvalis

@@ -15,4 +15,9 @@ QByteArray encodeText(QStringView text, const AnsiPage& page = AnsiPage::ofUser(
 /// A mark is not part of the text.
 QString decodeText(QByteArrayView bytes, const AnsiPage& page = AnsiPage::ofUser());
 
+/// The beginning of such a text, where no more of it is wanted: that of so many bytes behind the
+/// mark. All of the bytes say how they are read; the last character may be cut.
+QString decodeTextStart(QByteArrayView bytes, qsizetype wanted,
+                        const AnsiPage& page = AnsiPage::ofUser());
+
 } // namespace orvalis

@@ -3,6 +3,7 @@
 #include "controls/format_range.h"
 #include "controls/rich_text_box.h"
 #include "runtime/failure.h"
+#include "support/heard_progress.h"
 #include "support/test_main.h"
 
 #include <QApplication>
@@ -92,6 +93,7 @@ class FormatRangeTest : public QObject {
     Q_OBJECT
 private slots:
     void oneLineIsOnePage();
+    void whoWaitsHearsHowMuchIsLaidOut();
     void anEmptyBoxIsDoneAtOnce();
     void aBoxOfFormatsAloneHasNothingToPrint();
     void manyLinesBecomePagesThatFollowEachOther();
@@ -522,6 +524,19 @@ void FormatRangeTest::theBoxItselfStaysAsItWas() {
     pagesOf(box);
     QCOMPARE(box.TextRTF(), before);
     QCOMPARE(box.SelStart(), 1);
+}
+
+void FormatRangeTest::whoWaitsHearsHowMuchIsLaidOut() {
+    RichTextBox box;
+    box.SetText(QString(u"A line of a long text.\r\n"_s).repeated(4000));
+    QImage paper = sheet();
+    FormatRange range;
+    range.device = &paper;
+    range.rect = WholePage;
+    test::HeardProgress heard;
+    const int next = RangeFormatter(box, heard.hears()).FormatPage(range);
+    QCOMPARE(next, RangeFormatter(box).FormatPage(range));
+    QVERIFY(heard.roseInSteps(0.1));
 }
 
 ORVALIS_TEST_MAIN_WITH(QApplication, FormatRangeTest)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/rich_text_box.h"
 #include "runtime/failure.h"
+#include "support/heard_progress.h"
 #include "support/test_main.h"
 
 #include <QApplication>
@@ -50,6 +51,9 @@ private slots:
     void loadingDropsTheHistoryOfUndo();
     void savingKeepsTheHistoryOfUndo();
     void aPictureIsABlankInPlainText();
+    void whoWaitsHearsOfLoadingAndSaving_data();
+    void whoWaitsHearsOfLoadingAndSaving();
+    void aBoxIsNotPaintedWhileSomebodyWaits();
 
     void aFileThatIsNotRichTextIsRefused();
     void anEmptyFileIsNotRichText();
@@ -326,6 +330,47 @@ void RichTextBoxFilesTest::aPictureIsABlankInPlainText() {
     box.textCursor().insertImage(picture);
     box.files().SaveFile(path(u"note.txt"_s), 1);
     QCOMPARE(content(u"note.txt"_s), QByteArray("a b"));
+}
+
+void RichTextBoxFilesTest::whoWaitsHearsOfLoadingAndSaving_data() {
+    QTest::addColumn<int>("flags");
+    QTest::newRow("rich text") << int(RichTextBox::rtfRTF);
+    QTest::newRow("plain text") << int(RichTextBox::rtfText);
+}
+
+void RichTextBoxFilesTest::whoWaitsHearsOfLoadingAndSaving() {
+    QFETCH(int, flags);
+    const QString text = QString(u"A line of a long text.\r\n"_s).repeated(40000);
+    RichTextBox box;
+    box.SetText(text);
+    test::HeardProgress written;
+    {
+        const RichTextBox::Listener listener(box, written.hears());
+        box.files().SaveFile(path(u"long"_s), flags);
+    }
+    // Plain text is written in a moment, whatever its length.
+    QVERIFY(flags == RichTextBox::rtfText ? written.times == 0 : written.roseInSteps(0.1));
+    RichTextBox other;
+    test::HeardProgress read;
+    {
+        const RichTextBox::Listener listener(other, read.hears());
+        other.files().LoadFile(path(u"long"_s), flags);
+    }
+    QVERIFY(read.roseInSteps(0.1));
+    QCOMPARE(other.Text(), text);
+    const int times = read.times;
+    other.files().LoadFile(path(u"long"_s), flags);
+    QCOMPARE(read.times, times);
+}
+
+void RichTextBoxFilesTest::aBoxIsNotPaintedWhileSomebodyWaits() {
+    RichTextBox box;
+    box.show();
+    {
+        const RichTextBox::Listener listener(box, [](double) {});
+        QVERIFY(!box.viewport()->updatesEnabled());
+    }
+    QVERIFY(box.viewport()->updatesEnabled());
 }
 
 void RichTextBoxFilesTest::aFileThatIsNotRichTextIsRefused() {

@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "notes/notes_ground.h"
 
+#include "notes/document_rules.h"
 #include "runtime/failure.h"
+#include "support/counted_memory.h"
 #include "support/without_root.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 using namespace orvalis;
 using namespace orvalis::test;
@@ -15,6 +18,7 @@ namespace {
 
 constexpr int YesNoExclamation = 52;
 constexpr int OkCancelExclamation = 49;
+constexpr qint64 Megabyte = qint64{1} << 20;
 const QString OpenFilter = u"RTF (*.rtf)|*.rtf|Text (*.txt)|*.txt|All Files (*.*)|*.*"_s;
 const QString SaveFilter = u"Notes (*.rtf)|*.rtf|Text (*.txt)|*.txt"_s;
 const QByteArray Bold = "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\f0\\fs20 plain \\b bold\\b0\\par}";
@@ -49,7 +53,9 @@ private slots:
     void aFileThatVanishesIsASilentEnd();
     void aFileThatIsGoneWhenTheDialogClosesIsNotFound();
     void openTakesNulsAsTheyAre();
-    void aTextOfTwoHundredMegabytesIsRefusedOrTaken();
+    void aFileThatIsTooLargeIsASilentEnd();
+    void aTextOfTwoHundredMegabytesShowsItsBeginningAndIsKept();
+    void aTextOfTwoHundredMegabytesUnderANameOfRichTextEndsSilently();
 
     // Edit
     void editCarriesTheRightPageOver();
@@ -94,6 +100,7 @@ private:
                                u"Save Changes"_s);
     }
     QString path(const QString& name) { return m_ground->folder.file(name); }
+    QString huge(const QString& name, qint64 megabytes);
 
     std::unique_ptr<NotesGround> m_ground;
 };
@@ -269,14 +276,45 @@ void NotesDocumentTest::openTakesNulsAsTheyAre() {
     QCOMPARE(m_ground->rt1a().Text(), QString(u"a\0b"_s));
 }
 
-void NotesDocumentTest::aTextOfTwoHundredMegabytesIsRefusedOrTaken() {
-    QFile file(path(u"huge.rtf"_s));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QVERIFY(file.resize(qint64{300} * 1024 * 1024));
-    file.close();
-    open(file.fileName());
+/// A text of so many megabytes: two lines, and NULs that take no place on the disk.
+QString NotesDocumentTest::huge(const QString& name, qint64 megabytes) {
+    const QString made = m_ground->put(name, "A first line.\r\nA second one.\r\n");
+    if (!QFile::resize(made, megabytes * Megabyte))
+        qFatal("no room for a sparse file");
+    return made;
+}
+
+void NotesDocumentTest::aFileThatIsTooLargeIsASilentEnd() {
+    huge(u"huge.rtf"_s, 300);
+    open(path(u"huge.rtf"_s));
     QCOMPARE(m_ground->rt1a().Text(), QString());
     QCOMPARE(m_ground->rt1().Tag(), QString());
+}
+
+void NotesDocumentTest::aTextOfTwoHundredMegabytesShowsItsBeginningAndIsKept() {
+    constexpr qint64 Size = 200;
+    constexpr qint64 BesideTheFile = 160; // of which a document and its text take most
+    const QString file = huge(u"huge.txt"_s, Size);
+    const TakenMemory taken = memoryTakenBy([&] { open(file); });
+    QVERIFY2(taken.peak < (Size + BesideTheFile) * Megabyte,
+             qPrintable(QString::number(taken.peak / Megabyte)));
+    QVERIFY(m_ground->rt1a().Text().startsWith(u"A first line.\r\nA second one.\r\n"_s));
+    QCOMPARE(m_ground->caption(u"Label1"_s), u"huge.txt"_s);
+    QCOMPARE(m_ground->rt1().Tag(), file);
+    // Whoever saves what they see over it has the whole beside it.
+    m_ground->press(u"Button1"_s);
+    m_ground->boxes.expect(replaceQuestion(file), 1, Answer::Ok);
+    save(file);
+    QVERIFY(QFileInfo(file).size() < Size * Megabyte);
+    QCOMPARE(QFileInfo(file + u".unreadable"_s).size(), Size * Megabyte);
+}
+
+void NotesDocumentTest::aTextOfTwoHundredMegabytesUnderANameOfRichTextEndsSilently() {
+    open(m_ground->put(u"a.rtf"_s, Bold));
+    open(huge(u"huge.rtf"_s, 200));
+    QCOMPARE(m_ground->rt1a().Text(), u"plain bold"_s);
+    QCOMPARE(m_ground->caption(u"Label1"_s), u"a.rtf"_s);
+    QCOMPARE(m_ground->rt1().Tag(), path(u"a.rtf"_s));
 }
 
 // --- Edit

@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "recording_sink.h"
 #include "rtf/reader.h"
+#include "support/heard_progress.h"
 #include "support/test_main.h"
 
 #include <QGuiApplication>
+#include <QTextDocument>
 
 using namespace orvalis;
 using namespace orvalis::rtf;
@@ -16,6 +18,8 @@ private slots:
     void onlyWhatBeginsAsRtfIsRead_data();
     void onlyWhatBeginsAsRtfIsRead();
     void paragraphsEndAtTheirMarks();
+    void whoWaitsHearsHowMuchIsRead_data();
+    void whoWaitsHearsHowMuchIsRead();
 };
 
 void ReaderTest::onlyWhatBeginsAsRtfIsRead_data() {
@@ -49,6 +53,24 @@ void ReaderTest::paragraphsEndAtTheirMarks() {
     RecordingSink sink;
     QVERIFY(readRtf("{\\rtf1\\ansi one\\par two\\par\r\n}\r\n", sink).ok());
     QCOMPARE(sink.whole, QStringLiteral("one\ntwo\n"));
+}
+
+void ReaderTest::whoWaitsHearsHowMuchIsRead_data() {
+    QTest::addColumn<QByteArray>("piece");
+    QTest::newRow("short paragraphs") << QByteArray("a {\\b line}\\par\n");
+    QTest::newRow("one paragraph") << QByteArray("a {\\b line} ");
+    QTest::newRow("groups alone") << QByteArray("{}{}{}{}");
+    QTest::newRow("unknown words") << QByteArray("\\xyzzy");
+}
+
+void ReaderTest::whoWaitsHearsHowMuchIsRead() {
+    QFETCH(QByteArray, piece);
+    const QByteArray rtf = "{\\rtf1 " + piece.repeated(400'000 / piece.size()) + "}";
+    test::HeardProgress heard;
+    QTextDocument document;
+    QVERIFY(readRtf(rtf, document, {.progress = heard.hears()}).ok());
+    QVERIFY(heard.roseInSteps(0.1));
+    QVERIFY2(heard.times < 100, qPrintable(QString::number(heard.times)));
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, ReaderTest)

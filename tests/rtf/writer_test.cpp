@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/reader.h"
 #include "rtf/writer.h"
+#include "support/heard_progress.h"
 #include "support/test_main.h"
 
 #include <QGuiApplication>
@@ -28,6 +29,7 @@ private slots:
     void unassignedCodesOfThePageAreWrittenByNumber();
     void fontNamesOfMixedCharactersStay();
     void aFontNamedLikeAScriptKeepsItsName();
+    void whoWaitsHearsHowMuchIsWritten();
     void oddFontNamesAreWrittenTheSameAgain_data();
     void oddFontNamesAreWrittenTheSameAgain();
 };
@@ -227,6 +229,15 @@ void WriterTest::aFontNamedLikeAScriptKeepsItsName() {
     QVERIFY(readRtf(writeRtf(document), again).ok());
     QCOMPARE(again.begin().begin().fragment().charFormat().fontFamilies().toStringList(),
              QStringList{name});
+}
+
+void WriterTest::whoWaitsHearsHowMuchIsWritten() {
+    QTextDocument document;
+    document.setPlainText(QStringLiteral("A line of a long text.\n").repeated(10000));
+    test::HeardProgress heard;
+    QCOMPARE(writeRtf(document, heard.hears()), writeRtf(document));
+    QVERIFY(heard.roseInSteps(0.1));
+    QVERIFY2(heard.times < 200, qPrintable(QString::number(heard.times)));
 }
 
 void WriterTest::oddFontNamesAreWrittenTheSameAgain_data() {

@@ -17,6 +17,8 @@ private slots:
     void bytesAreReadInTheFormTheyHave_data();
     void bytesAreReadInTheFormTheyHave();
     void everyTextComesBack();
+    void theBeginningIsReadInTheFormOfTheWhole_data();
+    void theBeginningIsReadInTheFormOfTheWhole();
 };
 
 void TextFileTest::aTextIsWrittenInTheFormThatFits_data() {
@@ -70,6 +72,29 @@ void TextFileTest::everyTextComesBack() {
             }
         }
     }
+}
+
+void TextFileTest::theBeginningIsReadInTheFormOfTheWhole_data() {
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("beginning");
+    QTest::newRow("ASCII") << QByteArray("abcdef") << u"abcd"_s;
+    QTest::newRow("UTF-8") << QByteArray("\xC3\xA9"
+                                         "abc")
+                           << u"éab"_s;
+    QTest::newRow("the mark is no part of it") << QByteArray("\xEF\xBB\xBF"
+                                                             "abcde")
+                                               << u"abcd"_s;
+    QTest::newRow("the page, as its end says") << QByteArray("\xC3\xA9"
+                                                             "abc\xE9")
+                                               << u"Ã©ab"_s;
+    QTest::newRow("a character that is cut") << QByteArray("abc\xC3\xA9") << u"abc\uFFFD"_s;
+    QTest::newRow("shorter than that") << QByteArray("ab") << u"ab"_s;
+}
+
+void TextFileTest::theBeginningIsReadInTheFormOfTheWhole() {
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, beginning);
+    QCOMPARE(decodeTextStart(bytes, 4, AnsiPage::of(1252)), beginning);
 }
 
 ORVALIS_TEST_MAIN_WITH(QCoreApplication, TextFileTest)

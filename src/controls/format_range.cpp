@@ -30,10 +30,11 @@ constexpr qreal PixelsPerInch = 96;
 /// The height of a layout that was measured; beyond twice MostHeight layouts do not end.
 constexpr double MostDots = 1.5 * rtf::MostHeight;
 
-/// What a layout is measured by whose dots are no device's.
+/// What a layout is measured by, whose dots are no device's.
 class Ruler final : public QPaintDevice {
 public:
-    explicit Ruler(const QSize& dots)
+    /// \param dots to the inch
+    explicit Ruler(int dots)
         : m_dots(dots) {}
 
     QPaintEngine* paintEngine() const override { return nullptr; }
@@ -43,10 +44,9 @@ protected:
         switch (which) {
         case PdmDpiX:
         case PdmPhysicalDpiX:
-            return m_dots.width();
         case PdmDpiY:
         case PdmPhysicalDpiY:
-            return m_dots.height();
+            return m_dots;
         case PdmDevicePixelRatio:
             return 1;
         case PdmDevicePixelRatioScaled:
@@ -57,11 +57,22 @@ protected:
     }
 
 private:
-    QSize m_dots;
+    int m_dots;
 };
 
-QSize scaledDown(const QSize& dots, double factor) {
-    return {std::max(1, int(dots.width() * factor)), std::max(1, int(dots.height() * factor))};
+/// The dots of the layout: with one to the twip every size of letters is a whole number of them, so
+/// that lines break where they do on every other printer.
+constexpr int LayoutDots = 1440;
+
+/// Twips that a line may be longer: of a fixed width, and counted in whole twips as it is
+/// elsewhere, as many letters fit as there are to be.
+constexpr qreal Slack = 2;
+
+/// As many dots as that, or fewer, in which whole points are whole as long as that is possible.
+int scaledDown(double factor) {
+    constexpr int DotsOfWholePoints = 72;
+    const int dots = std::max(1, int(LayoutDots * factor));
+    return dots > DotsOfWholePoints ? dots - dots % DotsOfWholePoints : dots;
 }
 
 /// The size of a picture in logical pixels as the layout will take it.
@@ -84,8 +95,9 @@ int RangeFormatter::FormatPage(const FormatRange& range) {
     if (!range.painter && !range.device)
         throw RuntimeError(ErrorNumber::InvalidProcedureCall);
     const TextPositions& positions = m_box.positions();
-    QPaintDevice& device = range.device ? *range.device : *range.painter->device();
-    prepare(range, device);
+    const QPaintDevice& device = range.device ? *range.device : *range.painter->device();
+    m_dots = QSize(device.logicalDpiX(), device.logicalDpiY());
+    prepare(range);
     const int length = positions.length();
     const int stop = range.last < 0 ? length : std::min(range.last, length);
     if (m_lines.empty())
@@ -97,7 +109,7 @@ int RangeFormatter::FormatPage(const FormatRange& range) {
     auto first = std::upper_bound(m_lines.begin(), m_lines.end(), firstPosition, behind);
     if (first != m_lines.begin())
         --first;
-    const qreal height = range.rect.height() * m_counted.height() / TwipsPerInch;
+    const qreal height = range.rect.height() * m_counted / TwipsPerInch;
     auto line = first + 1;
     while (line != m_lines.end() && line->bottom - first->top <= height && !line->startsPage &&
            (line->position < stopPosition || stop == length))
@@ -108,17 +120,13 @@ int RangeFormatter::FormatPage(const FormatRange& range) {
     return toTheEnd ? stop : std::min(stop, positions.indexOf(line->position));
 }
 
-void RangeFormatter::prepare(const FormatRange& range, QPaintDevice& device) {
+void RangeFormatter::prepare(const FormatRange& range) {
     const QTextDocument& document = *m_box.document();
     const QSizeF page = range.rect.size();
-    // Another device can stand where one stood before.
-    const QSize dots(device.logicalDpiX(), device.logicalDpiY());
-    if (m_copy && m_revision == document.revision() && m_device == &device && m_dots == dots &&
-        m_page == page && m_left == range.rect.left())
+    if (m_copy && m_revision == document.revision() && m_page == page &&
+        m_left == range.rect.left())
         return;
     m_revision = document.revision();
-    m_device = &device;
-    m_dots = dots;
     m_page = page;
     m_left = range.rect.left();
     tell(0);
@@ -126,6 +134,7 @@ void RangeFormatter::prepare(const FormatRange& range, QPaintDevice& device) {
     tell(0);
     m_copy->setUndoRedoEnabled(false);
     m_copy->setDocumentMargin(0);
+    m_copy->setUseDesignMetrics(true);
     QTextOption option = m_copy->defaultTextOption();
     if (option.wrapMode() != QTextOption::WrapAnywhere) // which long words need
         option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
@@ -134,40 +143,36 @@ void RangeFormatter::prepare(const FormatRange& range, QPaintDevice& device) {
     standAcrossMargin(range.rect.left());
     shrinkPictures(page / TwipsPerPixel);
     tell(0);
-    layOut(device);
+    layOut();
     collectLines();
 }
 
-/// Lays the copy out in dots of the device, or in the smallest larger ones that are few enough.
-void RangeFormatter::layOut(QPaintDevice& device) {
+/// Lays the copy out in dots of its own, or in the smallest larger ones that are few enough.
+void RangeFormatter::layOut() {
     const double width = m_page.width() / TwipsPerPixel;
     const double narrow = width > 0 ? std::max(1.0, rtf::NarrowestBox / width) : 1;
-    const double told = rtf::documentHeight(*m_copy) * narrow * m_dots.height() / PixelsPerInch;
-    m_counted = m_dots;
+    const double told = rtf::documentHeight(*m_copy) * narrow * LayoutDots / PixelsPerInch;
     if (told <= rtf::MostHeight) {
-        countMargins(m_counted);
-        m_copy->documentLayout()->setPaintDevice(&device);
-        m_copy->setTextWidth(m_page.width() * m_counted.width() / TwipsPerInch);
+        layOut(LayoutDots);
         return;
     }
     // What is told is far more than most documents need, so a layout that is sure to be possible
     // tells how fine a one is.
-    m_copy->setUseDesignMetrics(true);
-    const double height = layOut(scaledDown(m_dots, rtf::MostHeight / told));
-    const double share = double(m_counted.height()) / m_dots.height();
-    const double finest = std::min(1.0, share * MostDots / height);
-    if (finest > share)
-        layOut(scaledDown(m_dots, finest));
+    const int sure = scaledDown(rtf::MostHeight / told);
+    const double height = layOut(sure);
+    const int finest = scaledDown(std::min(1.0, sure * MostDots / height / LayoutDots));
+    if (finest > sure)
+        layOut(finest);
 }
 
 /// \returns the height, in these dots.
-double RangeFormatter::layOut(const QSize& dots) {
+double RangeFormatter::layOut(int dots) {
     m_counted = dots;
     countMargins(dots);
     auto ruler = std::make_unique<Ruler>(dots);
     m_copy->documentLayout()->setPaintDevice(ruler.get());
     m_ruler = std::move(ruler);
-    m_copy->setTextWidth(m_page.width() * dots.width() / TwipsPerInch);
+    m_copy->setTextWidth((m_page.width() + Slack) * dots / TwipsPerInch);
     layOutToEnd();
     return m_copy->documentLayout()->documentSize().height();
 }
@@ -181,9 +186,9 @@ void RangeFormatter::standAcrossMargin(qreal room) {
     });
 }
 
-/// The layout counts most of what formats say in dots of the device by itself, but not these.
-void RangeFormatter::countMargins(const QSize& dots) {
-    const qreal times = dots.width() / std::exchange(m_marginDots, dots.width());
+/// The layout counts most of what formats say in its dots by itself, but not these.
+void RangeFormatter::countMargins(int dots) {
+    const qreal times = dots / std::exchange(m_marginDots, dots);
     changeParagraphs([times](QTextBlockFormat& paragraph) {
         for (const int length :
              {QTextFormat::BlockLeftMargin, QTextFormat::BlockRightMargin, QTextFormat::TextIndent})
@@ -263,7 +268,6 @@ void RangeFormatter::layOutToEnd() {
 
 void RangeFormatter::collectLines() {
     m_lines.clear();
-    layOutToEnd();
     for (QTextBlock block = m_copy->begin(); block.isValid(); block = block.next()) {
         m_copy->documentLayout()->blockBoundingRect(block);
         const QTextLayout& layout = *block.layout();
@@ -308,15 +312,12 @@ QRegion RangeFormatter::partOf(const Line& line, const QRectF& room, int from, i
 void RangeFormatter::draw(const FormatRange& range, const Line& first, const Line& last, int from,
                           int to) {
     QPainter& painter = *range.painter;
-    const qreal unitsX = m_counted.width() / TwipsPerInch;
-    const qreal unitsY = m_counted.height() / TwipsPerInch;
-    const QRectF band(-range.rect.left() * unitsX, first.top,
-                      (range.rect.right() + range.rect.left()) * unitsX, last.bottom - first.top);
+    const qreal units = m_counted / TwipsPerInch;
+    const QRectF band(-range.rect.left() * units, first.top,
+                      (range.rect.right() + range.rect.left()) * units, last.bottom - first.top);
     painter.save();
-    if (m_counted != m_dots)
-        painter.scale(qreal(m_dots.width()) / m_counted.width(),
-                      qreal(m_dots.height()) / m_counted.height());
-    painter.translate(range.rect.left() * unitsX, range.rect.top() * unitsY - first.top);
+    painter.scale(qreal(m_dots.width()) / m_counted, qreal(m_dots.height()) / m_counted);
+    painter.translate(range.rect.left() * units, range.rect.top() * units - first.top);
     painter.setClipRect(band, Qt::IntersectClip);
     const bool cutsFirst = from > first.position;
     const bool cutsLast =

@@ -31,8 +31,9 @@ struct FormatRange {
     int last = -1;                  ///< where to stop; -1: the end of the text
 };
 
-/// Breaks the document of a box into pages: lays a copy of it out for the device once, for as long
-/// as the document stays as it is, and hands its lines out page by page. No line is cut in two, and
+/// Breaks the document of a box into pages: lays a copy of it out once, for as long as the document
+/// stays as it is, in dots that are no device's, so that every printer breaks its lines alike, and
+/// hands the lines out page by page. No line is cut in two, and
 /// a picture larger than the page shrinks to it. Of a line that a range only touches, its own
 /// characters alone are drawn.
 class RangeFormatter {
@@ -57,11 +58,11 @@ private:
         bool startsPage;
     };
 
-    void prepare(const FormatRange& range, QPaintDevice& device);
-    void layOut(QPaintDevice& device);
-    double layOut(const QSize& dots);
+    void prepare(const FormatRange& range);
+    void layOut();
+    double layOut(int dots);
     void standAcrossMargin(qreal room);
-    void countMargins(const QSize& dots);
+    void countMargins(int dots);
     void changeParagraphs(const std::function<void(QTextBlockFormat&)>& change);
     void shrinkPictures(const QSizeF& page);
     void tell(double share) const;
@@ -75,9 +76,8 @@ private:
     std::unique_ptr<QTextDocument> m_copy;
     std::vector<Line> m_lines;
     int m_revision = 0;
-    QPaintDevice* m_device = nullptr;
-    QSize m_dots;    ///< of the device to the inch
-    QSize m_counted; ///< of the layout to the inch; as many, or fewer
+    QSize m_dots;      ///< of the device to the inch
+    int m_counted = 0; ///< dots of the layout to the inch
     std::unique_ptr<QPaintDevice> m_ruler;
     QSizeF m_page; ///< twips
     qreal m_left = 0;

@@ -30,8 +30,8 @@ int shownIndent(int twips) {
     return qBound(0, twips, MostShownIndent);
 }
 
-constexpr Qt::Alignment Alignments[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter,
-                                        Qt::AlignJustify};
+constexpr Qt::Alignment Alignments[] = {Qt::AlignLeft, Qt::AlignRight | Qt::AlignAbsolute,
+                                        Qt::AlignHCenter, Qt::AlignJustify};
 
 struct Run {
     int from;

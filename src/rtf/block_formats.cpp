@@ -78,12 +78,13 @@ void setKept(QTextBlockFormat& block, const ParagraphFormat& format, const Names
 
 QTextBlockFormat blockFormat(const ParagraphFormat& format, const Names& names, int defaultTab) {
     QTextBlockFormat block;
+    // What is set to the right stands there whichever way its text runs.
     switch (format.alignment) {
     case Alignment::Left:
         block.setAlignment(Qt::AlignLeft);
         break;
     case Alignment::Right:
-        block.setAlignment(Qt::AlignRight);
+        block.setAlignment(Qt::AlignRight | Qt::AlignAbsolute);
         break;
     case Alignment::Center:
         block.setAlignment(Qt::AlignHCenter);

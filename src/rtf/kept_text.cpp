@@ -47,6 +47,18 @@ QRgb colorBehind(QStringView kept, QStringView word, QRgb otherwise) {
     return QRgb(rest.first(std::max<qsizetype>(rest.indexOf(PlaceEnd), 0)).toUInt(nullptr, 16));
 }
 
+/// The number of a kept word, 0 where it is not there.
+int numberBehind(QStringView kept, QStringView word) {
+    const qsizetype at = kept.indexOf(word);
+    if (at < 0)
+        return 0;
+    const qsizetype start = at + word.size();
+    qsizetype end = start;
+    while (end < kept.size() && kept[end].isDigit())
+        ++end;
+    return kept.sliced(start, end - start).toInt();
+}
+
 } // namespace
 
 QString keptFont(const QString& family) {
@@ -77,19 +89,20 @@ void writeKept(RtfOutput& out, WriterTables& tables, QStringView kept) {
     }
 }
 
+int stretchOf(QStringView kept) {
+    constexpr int Usual = 100;
+    constexpr int Widest = 600; // that word processors know
+    const int share = numberBehind(kept, u"\\charscalex");
+    return share > 0 && share <= Widest ? share : Usual;
+}
+
 QRgb shadeOf(QStringView kept) {
     static const QString Ground = u"\\cbpat"_s + PlaceStart + ColorPlace;
     static const QString Pattern = u"\\cfpat"_s + PlaceStart + ColorPlace;
     static constexpr QStringView Share = u"\\shading";
     const QRgb ground = colorBehind(kept, Ground, AutomaticColor);
-    const qsizetype at = kept.indexOf(Share);
-    if (at < 0)
-        return ground;
     constexpr int Whole = 10000;
-    qsizetype end = at + Share.size();
-    while (end < kept.size() && kept[end].isDigit())
-        ++end;
-    const int share = kept.sliced(at + Share.size(), end - at - Share.size()).toInt();
+    const int share = numberBehind(kept, Share);
     if (share <= 0 || share > Whole)
         return ground;
     const QRgb below = ground == AutomaticColor ? qRgb(255, 255, 255) : ground;

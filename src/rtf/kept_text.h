@@ -26,6 +26,9 @@ void writeKept(RtfOutput& out, WriterTables& tables, QStringView kept);
 /// paragraph of its own, which most readers show as a further one.
 inline constexpr QStringView ParagraphEndsFirst = u"\\par";
 
+/// How wide kept words of characters make them, in per cent of their own width; 100 for none.
+int stretchOf(QStringView kept);
+
 /// The colour that kept words of a paragraph lay behind it; AutomaticColor for none.
 QRgb shadeOf(QStringView kept);
 

@@ -60,7 +60,8 @@ double linesOf(QChar character, double ofThird) {
 
 LetterHeight letterHeight(const QTextCharFormat& format, const QFont& defaultFont) {
     const double size = pixelSize(format, defaultFont);
-    return {size, size * (LineOfSize + std::abs(format.baselineOffset()) / 100)};
+    const double wider = std::max(1.0, format.fontStretch() / 100.0);
+    return {size * wider, size * (LineOfSize + std::abs(format.baselineOffset()) / 100)};
 }
 
 ParagraphShape paragraphShape(const QTextBlockFormat& format) {

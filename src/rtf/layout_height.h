@@ -37,7 +37,7 @@ inline constexpr double LargestPoints = 1638;
 
 /// The letters of a run, in pixels.
 struct LetterHeight {
-    double size = 0;
+    double size = 0; ///< of which their widths are shares; more than theirs where they are wider
     double line = 0; ///< that they need
 };
 

@@ -5,6 +5,7 @@
 #include "rtf/control_marks.h"
 #include "rtf/format_properties.h"
 #include "rtf/format_readers.h"
+#include "rtf/kept_text.h"
 
 #include <QBrush>
 #include <QFont>
@@ -124,8 +125,12 @@ QTextCharFormat textFormat(const CharFormat& format, const Names& names) {
         text.setFontLetterSpacingType(QFont::AbsoluteSpacing);
         text.setFontLetterSpacing(shownSpacing(format));
     }
-    if (format.kept != NothingKept)
-        text.setProperty(KeptOfCharacters, names.keptAt(format.kept));
+    if (format.kept != NothingKept) {
+        const QString kept = names.keptAt(format.kept);
+        text.setProperty(KeptOfCharacters, kept);
+        if (const int stretch = stretchOf(kept); stretch != QFont::Unstretched)
+            text.setFontStretch(stretch);
+    }
     if (format.cell != NothingKept)
         text.setProperty(CellShape, names.keptAt(format.cell));
     if (format.hidden) {

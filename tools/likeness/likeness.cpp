@@ -2,12 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "likeness.h"
 
-#include <QMultiHash>
+#include <QHash>
 #include <QRegularExpression>
 
 #include <algorithm>
 #include <cmath>
 #include <functional>
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 
@@ -49,24 +50,70 @@ void visitPairs(const QList<Item>& a, const QList<Item>& b,
     }
 }
 
-/// The words of the first page, without what fills the space of tabs, and with one sign for every
-/// bullet. Characters that the fonts of few machines have stand for no word.
-QList<Word> firstPage(const PdfText& text) {
+/// A word that runs from right to left: a PDF may hold it in the order in which it was drawn.
+QString inOneOrder(const QString& word) {
+    const auto runsLeft = [](QChar c) {
+        return c.direction() == QChar::DirR || c.direction() == QChar::DirAL;
+    };
+    if (std::none_of(word.cbegin(), word.cend(), runsLeft))
+        return word;
+    QString turned(word);
+    std::reverse(turned.begin(), turned.end());
+    return std::min(word, turned);
+}
+
+/// The words of the first pages, without what fills the space of tabs, and with one sign for every
+/// bullet and every hyphen. Characters that the fonts of few machines have stand for no word.
+QList<Word> firstPages(const PdfText& text, int pages) {
     static const QRegularExpression leader(u"([._=\\x{00b7}-]){3,}.*$"_s);
     static const QRegularExpression bullet(
         u"^[\\x{2022}\\x{00b7}\\x{25aa}\\x{25cf}\\x{fffd}\\x{e000}-\\x{f8ff}]$"_s);
-    static const QRegularExpression rare(u"[\\x{2e80}-\\x{fffd}\\x{10000}-\\x{10ffff}]"_s);
+    static const QRegularExpression rare(
+        u"[\\x{900}-\\x{109f}\\x{1780}-\\x{17ff}\\x{2e80}-\\x{fffd}\\x{10000}-\\x{10ffff}]"_s);
     QList<Word> words;
     for (Word word : text.words) {
-        if (word.page != 1)
+        if (word.page > pages)
             continue;
+        word.text.replace(QChar(0x2010), u'-');
         word.text.remove(leader);
+        word.text = inOneOrder(word.text);
         if (bullet.match(word.text).hasMatch())
             word.text = u"\u2022"_s;
         if (!word.text.isEmpty() && !rare.match(word.text).hasMatch())
             words.append(word);
     }
+    const auto ahead = [](const Word& one, const Word& other) {
+        return std::tuple(one.page, one.corner.y(), one.corner.x()) <
+               std::tuple(other.page, other.corner.y(), other.corner.x());
+    };
+    std::sort(words.begin(), words.end(), ahead);
     return words;
+}
+
+/// Of places in their order down the page, the most that have their like among others in the same
+/// order: for each, whether it has.
+QList<bool> alikeInOrder(const QList<double>& expected, const QList<double>& found) {
+    const qsizetype columns = found.size() + 1;
+    const auto near = [&](qsizetype i, qsizetype j) {
+        return std::abs(expected[i] - found[j]) <= NearLeftEdge;
+    };
+    QList<int> most((expected.size() + 1) * columns, 0);
+    for (qsizetype i = expected.size() - 1; i >= 0; --i)
+        for (qsizetype j = found.size() - 1; j >= 0; --j)
+            most[i * columns + j] =
+                std::max({most[(i + 1) * columns + j], most[i * columns + j + 1],
+                          most[(i + 1) * columns + j + 1] + int(near(i, j))});
+    QList<bool> alike(expected.size(), false);
+    for (qsizetype i = 0, j = 0; i < expected.size() && j < found.size();) {
+        const int here = most[i * columns + j];
+        if (near(i, j) && here == most[(i + 1) * columns + j + 1] + 1)
+            alike[i++] = ++j > 0;
+        else if (here == most[(i + 1) * columns + j])
+            ++i;
+        else
+            ++j;
+    }
+    return alike;
 }
 
 template <class Item>
@@ -119,34 +166,30 @@ Likeness compare(const PdfText& expected, const PdfText& found) {
 
 Share compareLeftEdges(const PdfText& expected, const PdfText& found, double top, double bottom,
                        QString& miss) {
-    QList<Word> words = firstPage(expected);
     constexpr double Rounding = 4;
+    constexpr int PagesOfFound = 2;
+    QHash<QString, QList<double>> places;
+    for (const Word& word : firstPages(found, PagesOfFound))
+        places[word.text] << word.corner.x();
+    QList<Word> words = firstPages(expected, 1);
     words.removeIf([&](const Word& word) {
         return word.corner.y() < top - Rounding || word.corner.y() > bottom;
     });
-    QMultiHash<QString, QPointF> places;
-    for (const Word& word : firstPage(found))
-        places.insert(word.text, word.corner);
+    QHash<QString, QList<double>> wanted;
+    for (const Word& word : std::as_const(words))
+        wanted[word.text] << word.corner.x();
+    QHash<QString, QList<bool>> alike;
+    for (auto it = wanted.cbegin(); it != wanted.cend(); ++it)
+        alike.insert(it.key(), alikeInOrder(*it, places.value(it.key())));
     Share share{0, words.size()};
-    for (const Word& word : words) {
-        const auto distance = [&](const QPointF& place) {
-            return (place - word.corner).manhattanLength();
-        };
-        auto nearest = places.end();
-        for (auto it = places.find(word.text); it != places.end() && it.key() == word.text; ++it)
-            if (nearest == places.end() || distance(*it) < distance(*nearest))
-                nearest = it;
-        if (nearest != places.end() && std::abs(nearest->x() - word.corner.x()) <= NearLeftEdge)
+    for (const Word& word : std::as_const(words)) {
+        if (alike[word.text].takeFirst())
             ++share.alike;
         else if (miss.isEmpty())
             miss = u"\"%1\" at %2, %3"_s.arg(word.text)
                        .arg(word.corner.x(), 0, 'f', 1)
                        .arg(word.corner.y(), 0, 'f', 1) +
-                   (nearest == places.end() ? u" is missing"_s
-                                            : u" stands at %1, %2"_s.arg(nearest->x(), 0, 'f', 1)
-                                                  .arg(nearest->y(), 0, 'f', 1));
-        if (nearest != places.end())
-            places.erase(nearest);
+                   (places.contains(word.text) ? u" stands elsewhere"_s : u" is missing"_s);
     }
     return share;
 }

@@ -3,7 +3,7 @@
 //
 // Measures how like a word processor's our rich text is:
 //
-//     rtf_likeness [--keep OTHER] FOLDER
+//     rtf_likeness [--keep OTHER [--own]] FOLDER
 //
 // takes all RTF files of a folder, in any depth, and has LibreOffice (soffice) make PDF and text of
 // each, and of what the program writes of it. Prints a line for each file that differs, and totals:
@@ -12,6 +12,8 @@
 // pages: of the files without a table, text box or lines from top to bottom, those whose words
 // stand on the first page where LibreOffice sets them, each left edge within six points. With
 // --keep what was made stays in OTHER, and what lies there of the files themselves is used again.
+// With --own only the program's own pages are measured, against the PDFs that lie in OTHER: that
+// takes no soffice, and a minute.
 // Needs soffice, and pdftotext and pdftohtml of poppler.
 #include "likeness.h"
 #include "office.h"
@@ -47,6 +49,16 @@ bool leave(const QString& path, const QByteArray& bytes) {
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
 }
 
+/// LibreOffice takes no Type 1 fonts, of which many stand beside the same face in a newer format
+/// that knows which letters go closer together.
+void useFontsOfOffice(const QTemporaryDir& folder) {
+    const QString path = folder.filePath(u"fonts.conf"_s);
+    if (leave(path, "<fontconfig><include>/etc/fonts/fonts.conf</include><selectfont><rejectfont>"
+                    "<pattern><patelt name=\"fontformat\"><string>Type 1</string></patelt>"
+                    "</pattern></rejectfont></selectfont></fontconfig>"))
+        qputenv("FONTCONFIG_FILE", path.toUtf8());
+}
+
 struct Sample {
     QString name;
     QString label; ///< of the files that are made of it
@@ -57,9 +69,10 @@ struct Sample {
 
 class Measurement {
 public:
-    Measurement(QString folder, const QString& place)
+    Measurement(QString folder, const QString& place, bool onlyOwn)
         : m_folder(std::move(folder))
         , m_place(place)
+        , m_onlyOwn(onlyOwn)
         , m_office(m_place.filePath(u"office"_s)) {
         for (const char* part : {"given", "written", "given-pdf", "given-txt", "written-pdf",
                                  "written-txt", "own-pdf", "office"})
@@ -68,8 +81,10 @@ public:
 
     int run() {
         collect();
-        convert(u"given"_s);
-        convert(u"written"_s);
+        if (!m_onlyOwn) {
+            convert(u"given"_s);
+            convert(u"written"_s);
+        }
         for (const Sample& sample : std::as_const(m_samples))
             measure(sample);
         tell();
@@ -86,6 +101,8 @@ private:
         names.sort();
         for (const QString& name : std::as_const(names)) {
             const QByteArray bytes = contentOf(m_folder + u'/' + name);
+            if (m_onlyOwn && standsAside(bytes))
+                continue;
             QTextDocument document;
             if (rtf::readRtf(bytes, document).fault == rtf::Fault::NotRtf)
                 continue;
@@ -93,9 +110,10 @@ private:
             const QRectF area = textArea(bytes);
             sample.top = area.top() / TwipsPerPoint;
             sample.bottom = area.bottom() / TwipsPerPoint;
-            leave(path(u"given"_s, sample, u".rtf"_s), bytes);
-            leave(path(u"written"_s, sample, u".rtf"_s), rtf::writeRtf(document));
-            printOwnPages(bytes, path(u"own-pdf"_s, sample, u".pdf"_s));
+            if (!m_onlyOwn) {
+                leave(path(u"given"_s, sample, u".rtf"_s), bytes);
+                leave(path(u"written"_s, sample, u".rtf"_s), rtf::writeRtf(document));
+            }
             m_samples.append(sample);
         }
     }
@@ -125,9 +143,16 @@ private:
             std::printf("NONE\t%s\tLibreOffice makes nothing of it\n", qUtf8Printable(sample.name));
             return;
         }
+        const PdfText given = readPdf(givenPdf);
+        if (!m_onlyOwn)
+            measureWritten(sample, given);
+        if (!sample.aside)
+            measureOwn(sample, given);
+    }
+
+    void measureWritten(const Sample& sample, const PdfText& given) {
         ++m_files;
         measureText(sample);
-        const PdfText given = readPdf(givenPdf);
         const PdfText written = readPdf(path(u"written-pdf"_s, sample, u".pdf"_s));
         const bool samePages = given.pages == written.pages;
         m_samePages += samePages;
@@ -146,8 +171,6 @@ private:
         miss("WEIGHT", likeness.weight);
         miss("COLOUR", likeness.color);
         miss("PLACE", likeness.place);
-        if (!sample.aside)
-            measureOwn(sample, given);
     }
 
     void measureText(const Sample& sample) {
@@ -171,7 +194,10 @@ private:
     }
 
     void measureOwn(const Sample& sample, const PdfText& given) {
-        const PdfText own = readPdf(path(u"own-pdf"_s, sample, u".pdf"_s));
+        const QString ownPdf = path(u"own-pdf"_s, sample, u".pdf"_s);
+        const QByteArray text = contentOf(path(u"given-txt"_s, sample, u".txt"_s));
+        printOwnPages(contentOf(m_folder + u'/' + sample.name), ownPdf, widensBlanks(text));
+        const PdfText own = readPdf(ownPdf);
         QString miss;
         const Share edges = compareLeftEdges(given, own, sample.top, sample.bottom, miss);
         if (edges.all == 0)
@@ -191,19 +217,22 @@ private:
                         static_cast<long long>(share.alike), static_cast<long long>(share.all),
                         share.perCent());
         };
-        line("what we write: text equal, of the files with a text", {m_sameTexts, m_texts});
-        line("pages equal", {m_samePages, m_files});
-        line("characters with the same font", m_likeness.font);
-        line("characters with the same size", m_likeness.size);
-        line("characters with the same weight", m_likeness.weight);
-        line("characters with the same colour", m_likeness.color);
-        line("characters in place", m_likeness.place);
+        if (!m_onlyOwn) {
+            line("what we write: text equal, of the files with a text", {m_sameTexts, m_texts});
+            line("pages equal", {m_samePages, m_files});
+            line("characters with the same font", m_likeness.font);
+            line("characters with the same size", m_likeness.size);
+            line("characters with the same weight", m_likeness.weight);
+            line("characters with the same colour", m_likeness.color);
+            line("characters in place", m_likeness.place);
+        }
         line("own pages: files with all words of page one in place", {m_ownAlike, m_own});
         line("own pages: words in place", m_edges);
     }
 
     QString m_folder;
     QDir m_place;
+    bool m_onlyOwn;
     Office m_office;
     QList<Sample> m_samples;
     qint64 m_files = 0;
@@ -220,17 +249,21 @@ private:
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    QTemporaryDir fonts;
+    useFontsOfOffice(fonts);
     QApplication app(argc, argv);
     QStringList arguments = QApplication::arguments().sliced(1);
     QTemporaryDir temporary;
     QString place = temporary.path();
-    if (arguments.size() == 3 && arguments.first() == u"--keep"_s) {
+    bool onlyOwn = false;
+    if (arguments.size() >= 3 && arguments.first() == u"--keep"_s) {
         place = QFileInfo(arguments.at(1)).absoluteFilePath();
         arguments.remove(0, 2);
+        onlyOwn = arguments.removeAll(u"--own"_s) > 0;
     }
     if (arguments.size() != 1) {
-        std::fprintf(stderr, "usage: rtf_likeness [--keep OTHER] FOLDER\n");
+        std::fprintf(stderr, "usage: rtf_likeness [--keep OTHER [--own]] FOLDER\n");
         return 2;
     }
-    return Measurement(QFileInfo(arguments.first()).absoluteFilePath(), place).run();
+    return Measurement(QFileInfo(arguments.first()).absoluteFilePath(), place, onlyOwn).run();
 }

@@ -9,6 +9,8 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QRegularExpression>
+#include <QTextCursor>
+#include <QTextDocument>
 
 #include <algorithm>
 
@@ -36,6 +38,22 @@ QSizeF paperOf(const QByteArray& rtf) {
     return QSizeF(std::clamp(width, Narrowest, Widest), std::clamp(height, Narrowest, Widest));
 }
 
+constexpr char16_t SixthOfEm = 0x2006;
+
+void widenRunsOfBlanks(QTextDocument& document) {
+    QTextCursor cursor(&document);
+    for (int at = document.characterCount() - 1; at >= 0; --at) {
+        const auto isBlank = [&](int place) { return document.characterAt(place) == u' '; };
+        if (!isBlank(at) || (!isBlank(at - 1) && !isBlank(at + 1)))
+            continue;
+        cursor.setPosition(at);
+        cursor.setPosition(at + 1, QTextCursor::KeepAnchor);
+        const QTextCharFormat format = cursor.charFormat();
+        cursor.setPosition(at);
+        cursor.insertText(QString(QChar(SixthOfEm)), format);
+    }
+}
+
 } // namespace
 
 QRectF textArea(const QByteArray& rtf) {
@@ -47,10 +65,16 @@ QRectF textArea(const QByteArray& rtf) {
                   -margin("margrsxn", "margr"), -margin("margbsxn", "margb"));
 }
 
-void printOwnPages(const QByteArray& rtf, const QString& path) {
+bool widensBlanks(const QByteArray& text) {
+    return QString::fromUtf8(text).contains(QChar(SixthOfEm));
+}
+
+void printOwnPages(const QByteArray& rtf, const QString& path, bool wideBlanks) {
     RichTextBox box;
     box.SetFontName(u"Times New Roman"_s);
     box.SetTextRTF(rtf);
+    if (wideBlanks)
+        widenRunsOfBlanks(*box.document());
     const QSizeF paper = paperOf(rtf);
     const QRectF text = textArea(rtf);
     if (text.width() < 1440 || text.height() < 1440)

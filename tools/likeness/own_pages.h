@@ -13,7 +13,14 @@ QRectF textArea(const QByteArray& rtf);
 
 /// Prints a file through the program's own rich text box, on the paper that the file names.
 /// \param path of the PDF.
-void printOwnPages(const QByteArray& rtf, const QString& path);
+/// \param wideBlanks whether the blanks of a run of them stand as far apart as LibreOffice sets
+/// them, which is further than in any other program.
+void printOwnPages(const QByteArray& rtf, const QString& path, bool wideBlanks);
+
+/// Whether LibreOffice widened the blanks of runs as it read a file: it puts a sixth of an em ahead
+/// of each, in most files.
+/// \param text of the file as LibreOffice tells it.
+bool widensBlanks(const QByteArray& text);
 
 /// Whether the file has anything that stands beside the run of its text: tables, text boxes, or
 /// lines from top to bottom.

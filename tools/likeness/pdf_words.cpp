@@ -6,6 +6,8 @@
 #include <QProcess>
 #include <QXmlStreamReader>
 
+#include <cmath>
+
 using namespace Qt::StringLiterals;
 
 namespace orvalis::likeness {
@@ -28,6 +30,19 @@ bool isBoldFont(const QString& font) {
     return font.contains("Bold"_L1, Qt::CaseInsensitive);
 }
 
+bool isLetterThatRunsLeft(const QString& text) {
+    return text.size() == 1 &&
+           (text[0].direction() == QChar::DirR || text[0].direction() == QChar::DirAL);
+}
+
+/// What is drawn letter by letter from right to left is found in pieces.
+bool goesOn(const Word& word, double rightEdge, const Word& piece) {
+    constexpr double Touching = 0.3;
+    return piece.page == word.page && isLetterThatRunsLeft(piece.text) &&
+           isLetterThatRunsLeft(word.text.last(1)) && piece.corner.y() == word.corner.y() &&
+           std::abs(rightEdge - word.corner.x()) < Touching;
+}
+
 void readPlaces(const QByteArray& xml, PdfText& text) {
     QXmlStreamReader reader(xml);
     while (!reader.atEnd()) {
@@ -41,7 +56,13 @@ void readPlaces(const QByteArray& xml, PdfText& text) {
                                  attributes.value("yMin"_L1).toDouble());
             // Ligatures are drawn as one sign by the one, as letters by the other.
             const QString word = reader.readElementText().normalized(QString::NormalizationForm_KC);
-            text.words.append({word, text.pages, corner});
+            Word found{word, text.pages, corner};
+            const double rightEdge = attributes.value("xMax"_L1).toDouble();
+            if (!text.words.isEmpty() && goesOn(text.words.last(), rightEdge, found)) {
+                found.text.prepend(text.words.last().text);
+                text.words.removeLast();
+            }
+            text.words.append(found);
         }
     }
 }

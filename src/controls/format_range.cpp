@@ -60,6 +60,9 @@ private:
     int m_dots;
 };
 
+/// Forbids a break, and is in more fonts than what is there for nothing else.
+constexpr char16_t Joiner = 0x200d;
+
 /// The dots of the layout: with one to the twip every size of letters is a whole number of them, so
 /// that lines break where they do on every other printer.
 constexpr int LayoutDots = 1440;
@@ -73,6 +76,14 @@ int scaledDown(double factor) {
     constexpr int DotsOfWholePoints = 72;
     const int dots = std::max(1, int(LayoutDots * factor));
     return dots > DotsOfWholePoints ? dots - dots % DotsOfWholePoints : dots;
+}
+
+/// Whether a character looks alike with a joiner ahead of it, which letters of other scripts do
+/// not.
+bool standsAlone(QChar c) {
+    const QChar::Script script = c.script();
+    return c.isDigit() || script == QChar::Script_Latin || script == QChar::Script_Greek ||
+           script == QChar::Script_Cyrillic;
 }
 
 /// The size of a picture in logical pixels as the layout will take it.
@@ -102,8 +113,8 @@ int RangeFormatter::FormatPage(const FormatRange& range) {
     const int stop = range.last < 0 ? length : std::min(range.last, length);
     if (m_lines.empty())
         return stop;
-    const int firstPosition = positions.positionOf(range.first);
-    const int stopPosition = positions.positionOf(stop);
+    const int firstPosition = inCopy(positions.positionOf(range.first));
+    const int stopPosition = inCopy(positions.positionOf(stop));
 
     const auto behind = [](int position, const Line& line) { return position < line.position; };
     auto first = std::upper_bound(m_lines.begin(), m_lines.end(), firstPosition, behind);
@@ -117,7 +128,18 @@ int RangeFormatter::FormatPage(const FormatRange& range) {
     const bool toTheEnd = line == m_lines.end();
     if (range.painter)
         draw(range, *first, *(line - 1), firstPosition, stopPosition);
-    return toTheEnd ? stop : std::min(stop, positions.indexOf(line->position));
+    return toTheEnd ? stop : std::min(stop, positions.indexOf(inDocument(line->position)));
+}
+
+int RangeFormatter::inCopy(int position) const {
+    const auto behind = std::upper_bound(m_joined.begin(), m_joined.end(), position);
+    return position + int(behind - m_joined.begin());
+}
+
+int RangeFormatter::inDocument(int position) const {
+    const auto isAhead = [&](const int& at) { return at + int(&at - m_joined.data()) < position; };
+    const auto behind = std::partition_point(m_joined.begin(), m_joined.end(), isAhead);
+    return position - int(behind - m_joined.begin());
 }
 
 void RangeFormatter::prepare(const FormatRange& range) {
@@ -141,6 +163,7 @@ void RangeFormatter::prepare(const FormatRange& range) {
     m_copy->setDefaultTextOption(option);
     m_marginDots = PixelsPerInch;
     standAcrossMargin(range.rect.left());
+    joinAtSlashes();
     shrinkPictures(page / TwipsPerPixel);
     tell(0);
     layOut();
@@ -175,6 +198,26 @@ double RangeFormatter::layOut(int dots) {
     m_copy->setTextWidth((m_page.width() + Slack) * dots / TwipsPerInch);
     layOutToEnd();
     return m_copy->documentLayout()->documentSize().height();
+}
+
+/// An address that fits into a line stays whole, as word processors keep it: behind its slashes
+/// stands what forbids a break.
+void RangeFormatter::joinAtSlashes() {
+    constexpr size_t MostJoined = 20'000; // more than a text of addresses has
+    m_joined.clear();
+    for (QTextBlock block = m_copy->begin(); block.isValid(); block = block.next()) {
+        const QString text = block.text();
+        for (qsizetype at = text.indexOf(u'/'); at >= 0; at = text.indexOf(u'/', at + 1))
+            if (at + 1 < text.size() && standsAlone(text[at + 1]) && m_joined.size() < MostJoined)
+                m_joined.push_back(block.position() + int(at) + 1);
+    }
+    QTextCursor edit(m_copy.get());
+    edit.beginEditBlock();
+    for (auto place = m_joined.crbegin(); place != m_joined.crend(); ++place) {
+        edit.setPosition(*place);
+        edit.insertText(QString(QChar(Joiner)));
+    }
+    edit.endEditBlock();
 }
 
 /// What has no room on the screen left of the margin has it on paper.

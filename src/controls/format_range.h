@@ -62,6 +62,9 @@ private:
     void layOut();
     double layOut(int dots);
     void standAcrossMargin(qreal room);
+    void joinAtSlashes();
+    int inCopy(int position) const;
+    int inDocument(int position) const;
     void countMargins(int dots);
     void changeParagraphs(const std::function<void(QTextBlockFormat&)>& change);
     void shrinkPictures(const QSizeF& page);
@@ -75,6 +78,7 @@ private:
     rtf::Progress m_progress;
     std::unique_ptr<QTextDocument> m_copy;
     std::vector<Line> m_lines;
+    std::vector<int> m_joined; ///< positions of the document at which the copy has a joiner more
     int m_revision = 0;
     QSize m_dots;      ///< of the device to the inch
     int m_counted = 0; ///< dots of the layout to the inch

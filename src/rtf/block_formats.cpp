@@ -78,13 +78,15 @@ void setKept(QTextBlockFormat& block, const ParagraphFormat& format, const Names
 
 QTextBlockFormat blockFormat(const ParagraphFormat& format, const Names& names, int defaultTab) {
     QTextBlockFormat block;
-    // What is set to the right stands there whichever way its text runs.
+    // What is set to the right stands there whichever way its text runs; but the labels of items
+    // that run to the left need the room that is beside them.
+    const bool hangsRight = format.rightToLeft && format.list.kind != ListKind::None;
     switch (format.alignment) {
     case Alignment::Left:
         block.setAlignment(Qt::AlignLeft);
         break;
     case Alignment::Right:
-        block.setAlignment(Qt::AlignRight | Qt::AlignAbsolute);
+        block.setAlignment(hangsRight ? Qt::AlignRight : Qt::AlignRight | Qt::AlignAbsolute);
         break;
     case Alignment::Center:
         block.setAlignment(Qt::AlignHCenter);

@@ -74,7 +74,7 @@ inline QString differenceOfParagraphs(const QTextBlock& one, const QTextBlock& o
     using namespace Qt::StringLiterals;
     const QTextBlockFormat a = one.blockFormat();
     const QTextBlockFormat b = other.blockFormat();
-    if (a.alignment() != b.alignment())
+    if ((a.alignment() ^ b.alignment()) & ~Qt::AlignAbsolute)
         return u"alignment"_s;
     if (!near(a.leftMargin(), b.leftMargin()) || !near(a.rightMargin(), b.rightMargin()) ||
         !near(a.textIndent(), b.textIndent()))

@@ -30,21 +30,35 @@ bool isBoldFont(const QString& font) {
     return font.contains("Bold"_L1, Qt::CaseInsensitive);
 }
 
-bool isLetterThatRunsLeft(const QString& text) {
-    return text.size() == 1 &&
-           (text[0].direction() == QChar::DirR || text[0].direction() == QChar::DirAL);
-}
+/// A word, and where it ends to the right.
+struct Piece {
+    Word word;
+    double right = 0;
+};
 
-/// What is drawn letter by letter from right to left is found in pieces.
-bool goesOn(const Word& word, double rightEdge, const Word& piece) {
+/// Words are found in pieces where they are drawn in several, and letter by letter where they run
+/// from right to left. What stands without a gap behind the other is one word.
+bool goOn(Piece& piece, const Piece& next) {
     constexpr double Touching = 0.3;
-    return piece.page == word.page && isLetterThatRunsLeft(piece.text) &&
-           isLetterThatRunsLeft(word.text.last(1)) && piece.corner.y() == word.corner.y() &&
-           std::abs(rightEdge - word.corner.x()) < Touching;
+    const QPointF corner = piece.word.corner;
+    if (next.word.page != piece.word.page || next.word.corner.y() != corner.y())
+        return false;
+    if (std::abs(next.word.corner.x() - piece.right) < Touching) {
+        piece.word.text += next.word.text;
+        piece.right = next.right;
+        return true;
+    }
+    if (std::abs(next.right - corner.x()) < Touching) {
+        piece.word.text.prepend(next.word.text);
+        piece.word.corner = next.word.corner;
+        return true;
+    }
+    return false;
 }
 
 void readPlaces(const QByteArray& xml, PdfText& text) {
     QXmlStreamReader reader(xml);
+    QList<Piece> pieces;
     while (!reader.atEnd()) {
         if (reader.readNext() != QXmlStreamReader::StartElement)
             continue;
@@ -56,15 +70,14 @@ void readPlaces(const QByteArray& xml, PdfText& text) {
                                  attributes.value("yMin"_L1).toDouble());
             // Ligatures are drawn as one sign by the one, as letters by the other.
             const QString word = reader.readElementText().normalized(QString::NormalizationForm_KC);
-            Word found{word, text.pages, corner};
-            const double rightEdge = attributes.value("xMax"_L1).toDouble();
-            if (!text.words.isEmpty() && goesOn(text.words.last(), rightEdge, found)) {
-                found.text.prepend(text.words.last().text);
-                text.words.removeLast();
-            }
-            text.words.append(found);
+            const Piece found{{word, text.pages, corner}, attributes.value("xMax"_L1).toDouble()};
+            if (!pieces.isEmpty() && goOn(pieces.last(), found))
+                continue;
+            pieces.append(found);
         }
     }
+    for (const Piece& piece : std::as_const(pieces))
+        text.words.append(piece.word);
 }
 
 /// Words in their looks: a word ends at a blank, or where a line of the page does.

@@ -1,0 +1,189 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "controls/format_range.h"
+#include "controls/rich_text_box.h"
+#include "support/test_main.h"
+
+#include <QApplication>
+#include <QFontInfo>
+#include <QPainter>
+
+using namespace orvalis;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int Inch = 1440;
+
+QImage sheet(int dotsPerInch, int inches = 1) {
+    constexpr double MetersPerInch = 0.0254;
+    QImage image(inches * dotsPerInch, inches * dotsPerInch, QImage::Format_RGB32);
+    image.setDotsPerMeterX(qRound(dotsPerInch / MetersPerInch));
+    image.setDotsPerMeterY(qRound(dotsPerInch / MetersPerInch));
+    image.fill(Qt::white);
+    return image;
+}
+
+/// Where the lines of a box begin on a page of that width: a page that is too low for any line
+/// takes one all the same.
+QList<int> linesOf(RichTextBox& box, double inches, int dotsPerInch = 96) {
+    QImage device = sheet(dotsPerInch);
+    RangeFormatter formatter(box);
+    const int length = int(box.Text().size());
+    QList<int> lines{0};
+    while (lines.last() < length && lines.size() < 1000)
+        lines << formatter.FormatPage(
+            {nullptr, &device, QRectF(0, 0, inches * Inch, 1), lines.last(), -1});
+    lines.removeLast();
+    return lines;
+}
+
+QRect inkOf(RichTextBox& box) {
+    constexpr int Inches = 6;
+    QImage image = sheet(96, Inches);
+    QPainter painter(&image);
+    RangeFormatter(box).FormatPage(
+        {&painter, &image, QRectF(0, 0, Inches * Inch, Inches * Inch), 0, -1});
+    painter.end();
+    QRect bounds;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (image.pixel(x, y) != qRgb(255, 255, 255))
+                bounds |= QRect(x, y, 1, 1);
+    return bounds;
+}
+
+} // namespace
+
+class PageLinesTest : public QObject {
+    Q_OBJECT
+private slots:
+    void linesBreakAlikeOnEveryPrinter_data();
+    void linesBreakAlikeOnEveryPrinter();
+    void anAddressStaysWhole();
+    void anAddressLongerThanALineIsBroken();
+    void behindAnAddressPositionsAreThoseOfTheText();
+    void aRangeThatBeginsBehindAnAddressDrawsItsOwnCharacters();
+    void aLineHasRoomForAsManyLettersOfAFixedWidthAsThereAreToBe();
+    void lettersAreAsWideAsTheirFileSays();
+    void whatIsSetToTheRightStandsThereWhicheverWayItRuns();
+    void whatTheUserSetsToTheRightStandsThereWhicheverWayItRuns();
+};
+
+void PageLinesTest::linesBreakAlikeOnEveryPrinter_data() {
+    QTest::addColumn<int>("dots");
+    for (const int dots : {110, 150, 203, 300, 600})
+        QTest::addRow("%d dots to the inch", dots) << dots;
+}
+
+void PageLinesTest::linesBreakAlikeOnEveryPrinter() {
+    QFETCH(int, dots);
+    RichTextBox box;
+    box.SetText(u"many words of many letters in a paragraph that is wide, "_s.repeated(40));
+    box.selectAll();
+    box.SetSelFontSize(10);
+    const QList<int> lines = linesOf(box, 4);
+    QVERIFY(lines.size() > 20);
+    QCOMPARE(linesOf(box, 4, dots), lines);
+}
+
+void PageLinesTest::anAddressStaysWhole() {
+    RichTextBox box;
+    const QString text = u"words ahead of it http://example.org/some/where/else/1/more and more"_s;
+    box.SetText(text);
+    box.selectAll();
+    box.SetSelFontSize(10);
+    const int address = int(text.indexOf(u"http"_s));
+    for (double width = 2.8; width < 3.6; width += 0.1) {
+        const QList<int> lines = linesOf(box, width);
+        QVERIFY(lines.size() >= 2);
+        for (const int start : lines)
+            QVERIFY2(start <= address || text[start - 1] == u' ', qPrintable(text.mid(start)));
+    }
+}
+
+void PageLinesTest::anAddressLongerThanALineIsBroken() {
+    RichTextBox box;
+    box.SetText(u"http://example.org/"_s + u"some/where/"_s.repeated(30));
+    const QList<int> lines = linesOf(box, 2);
+    QVERIFY(lines.size() > 5);
+    for (qsizetype i = 1; i < lines.size(); ++i)
+        QVERIFY(lines[i] > lines[i - 1]);
+}
+
+void PageLinesTest::behindAnAddressPositionsAreThoseOfTheText() {
+    RichTextBox box;
+    box.SetText(u"a/b/c/d/e one\r\ntwo/three\r\nfour"_s);
+    QCOMPARE(linesOf(box, 6), (QList<int>{0, 15, 26}));
+}
+
+void PageLinesTest::aRangeThatBeginsBehindAnAddressDrawsItsOwnCharacters() {
+    RichTextBox box;
+    box.SetText(u"a/b/c/d/e/f/g/h"_s);
+    const auto inkFrom = [&](int first, int last) {
+        QImage image = sheet(96, 2);
+        QPainter painter(&image);
+        RangeFormatter(box).FormatPage(
+            {&painter, &image, QRectF(0, 0, 2 * Inch, Inch), first, last});
+        painter.end();
+        int columns = 0;
+        for (int x = 0; x < image.width(); ++x)
+            for (int y = 0; y < image.height(); ++y)
+                if (image.pixel(x, y) != qRgb(255, 255, 255)) {
+                    ++columns;
+                    break;
+                }
+        return columns;
+    };
+    const int all = inkFrom(0, 15);
+    const int parts = inkFrom(0, 7) + inkFrom(7, 15);
+    QVERIFY(inkFrom(7, 15) > all / 3);
+    QVERIFY2(std::abs(all - parts) <= 2, qPrintable(u"%1 and %2"_s.arg(all).arg(parts)));
+}
+
+void PageLinesTest::aLineHasRoomForAsManyLettersOfAFixedWidthAsThereAreToBe() {
+    const QString family = u"Liberation Mono"_s;
+    if (QFontInfo(QFont(family)).family() != family)
+        QSKIP("The font is not there.");
+    RichTextBox box;
+    box.SetText(u"x"_s.repeated(38) + u' ' + u"y"_s.repeated(39) + u" z"_s);
+    box.selectAll();
+    box.SetSelFontName(family);
+    box.SetSelFontSize(10); // twelve to the inch
+    QCOMPARE(linesOf(box, 6.5), (QList<int>{0, 79}));
+}
+
+void PageLinesTest::lettersAreAsWideAsTheirFileSays() {
+    RichTextBox box;
+    box.SetTextRTF(QByteArrayLiteral("{\\rtf1\\fs24 HHHHHHHH\\par}"));
+    const int usual = inkOf(box).width();
+    for (const int share : {50, 150, 200}) {
+        box.SetTextRTF("{\\rtf1\\fs24\\charscalex" + QByteArray::number(share) + " HHHHHHHH\\par}");
+        const int width = inkOf(box).width();
+        QVERIFY2(std::abs(width - usual * share / 100) <= 4,
+                 qPrintable(u"%1 of %2"_s.arg(width).arg(usual)));
+        QVERIFY(box.TextRTF().contains("\\charscalex" + QByteArray::number(share)));
+    }
+}
+
+void PageLinesTest::whatIsSetToTheRightStandsThereWhicheverWayItRuns() {
+    for (const QByteArray& direction :
+         {QByteArray(), QByteArray("\\rtlpar"), QByteArray("\\ltrpar")}) {
+        RichTextBox box;
+        box.SetTextRTF("{\\rtf1\\pard" + direction + "\\qr \\u1513?\\u1500?\\u1493?\\u1501?\\par}");
+        QVERIFY2(inkOf(box).left() > 5 * 96, direction.constData());
+        QCOMPARE(box.SelAlignment(), std::optional<int>(RichTextBox::rtfRight));
+        QVERIFY(box.TextRTF().contains("\\qr"));
+    }
+}
+
+void PageLinesTest::whatTheUserSetsToTheRightStandsThereWhicheverWayItRuns() {
+    RichTextBox box;
+    box.SetText(u"\u05e9\u05dc\u05d5\u05dd"_s);
+    box.SetSelAlignment(RichTextBox::rtfRight);
+    QVERIFY(inkOf(box).left() > 5 * 96);
+    QCOMPARE(box.SelAlignment(), std::optional<int>(RichTextBox::rtfRight));
+}
+
+ORVALIS_TEST_MAIN_WITH(QApplication, PageLinesTest)
+#include "page_lines_test.moc"

@@ -176,27 +176,29 @@ void RangeFormatter::layOut() {
     const double narrow = width > 0 ? std::max(1.0, rtf::NarrowestBox / width) : 1;
     const double told = rtf::documentHeight(*m_copy) * narrow * LayoutDots / PixelsPerInch;
     if (told <= rtf::MostHeight) {
-        layOut(LayoutDots);
+        layOut(LayoutDots, {0, 1});
         return;
     }
     // What is told is far more than most documents need, so a layout that is sure to be possible
     // tells how fine a one is.
     const int sure = scaledDown(rtf::MostHeight / told);
-    const double height = layOut(sure);
+    constexpr double Half = 0.5;
+    const double height = layOut(sure, {0, Half});
     const int finest = scaledDown(std::min(1.0, sure * MostDots / height / LayoutDots));
     if (finest > sure)
-        layOut(finest);
+        layOut(finest, {Half, 1});
 }
 
+/// \param part of all the work that this is.
 /// \returns the height, in these dots.
-double RangeFormatter::layOut(int dots) {
+double RangeFormatter::layOut(int dots, std::pair<double, double> part) {
     m_counted = dots;
     countMargins(dots);
     auto ruler = std::make_unique<Ruler>(dots);
     m_copy->documentLayout()->setPaintDevice(ruler.get());
     m_ruler = std::move(ruler);
     m_copy->setTextWidth((m_page.width() + Slack) * dots / TwipsPerInch);
-    layOutToEnd();
+    layOutToEnd(part);
     return m_copy->documentLayout()->documentSize().height();
 }
 
@@ -296,14 +298,15 @@ void RangeFormatter::tell(double share) const {
 }
 
 /// Lays the copy out bit by bit, so that whoever waits hears of it.
-void RangeFormatter::layOutToEnd() {
+void RangeFormatter::layOutToEnd(std::pair<double, double> part) {
     constexpr int ToldCharacters = 1 << 12;
     int tellAt = 0;
     for (QTextBlock block = m_copy->begin(); block.isValid(); block = block.next()) {
         if (block.position() < tellAt)
             continue;
         m_copy->documentLayout()->blockBoundingRect(block);
-        tell(double(block.position()) / m_copy->characterCount());
+        const double share = double(block.position()) / m_copy->characterCount();
+        tell(part.first + (part.second - part.first) * share);
         tellAt = block.position() + ToldCharacters;
     }
     m_copy->documentLayout()->documentSize();

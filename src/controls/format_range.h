@@ -60,7 +60,7 @@ private:
 
     void prepare(const FormatRange& range);
     void layOut();
-    double layOut(int dots);
+    double layOut(int dots, std::pair<double, double> part);
     void standAcrossMargin(qreal room);
     void joinAtSlashes();
     int inCopy(int position) const;
@@ -69,7 +69,7 @@ private:
     void changeParagraphs(const std::function<void(QTextBlockFormat&)>& change);
     void shrinkPictures(const QSizeF& page);
     void tell(double share) const;
-    void layOutToEnd();
+    void layOutToEnd(std::pair<double, double> part);
     void collectLines();
     void draw(const FormatRange& range, const Line& first, const Line& last, int from, int to);
     QRegion partOf(const Line& line, const QRectF& room, int from, int to) const;

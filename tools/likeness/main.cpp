@@ -11,12 +11,11 @@
 // font, size, weight, colour, and place within two points. Then the same for the program's own
 // pages: of the files without a table, text box or lines from top to bottom, those whose words
 // stand on the first page where LibreOffice sets them, each left edge within six points, in the
-// same order down the page, with the fonts that LibreOffice takes and with runs of blanks as wide as
-// it sets them. With
-// --keep what was made stays in OTHER, and what lies there of the files themselves is used again.
-// With --own only the program's own pages are measured, against the PDFs that lie in OTHER: that
-// takes no soffice, and a minute.
-// Needs soffice, and pdftotext and pdftohtml of poppler.
+// same order down the page, with the fonts that LibreOffice takes and with runs of blanks as wide
+// as it sets them. With --keep what was made stays in OTHER, and what lies there of the files
+// themselves is used again. With --own only the program's own pages are measured, against the PDFs
+// that lie in OTHER: that takes no soffice, and a minute. Needs soffice, and pdftotext and
+// pdftohtml of poppler.
 #include "likeness.h"
 #include "office.h"
 #include "own_pages.h"

@@ -141,9 +141,10 @@ void Interpreter::anchor(const QString& kept) {
 
 /// What was gathered so far belongs to the section that ends; its words go on to hold.
 void Interpreter::sectionEnd() {
-    m_paragraphBeforeSection = !m_inParagraph;
+    const bool paragraphEndedItself = !m_inParagraph;
     if (m_inParagraph)
         paragraphEnd();
+    m_paragraphBeforeSection = paragraphEndedItself;
     tellFirstSection();
     m_sectionGroups.clear();
     m_sectionBegins = true;

@@ -57,6 +57,7 @@ private slots:
     void sectionsKeepWhatEachOfThemSays();
     void aSectionGoesWithTheParagraphThatItBeginsWith();
     void anEmptyParagraphAheadOfASectionStays();
+    void eachSectionEndsItsParagraphInItsOwnWay();
     void aDeletedParagraphTakesItsPropertiesAlong();
     void anotherDocumentBringsItsOwn();
     void whatIsInsertedLeavesTheDocumentAsItIs();
@@ -271,6 +272,13 @@ void KeepingTest::anEmptyParagraphAheadOfASectionStays() {
     QVERIFY(readRtf(writeRtf(document), again).ok());
     QCOMPARE(again.toPlainText(), QStringLiteral("\ntwo"));
     QCOMPARE(writeRtf(again), writeRtf(document));
+}
+
+void KeepingTest::eachSectionEndsItsParagraphInItsOwnWay() {
+    const QByteArray written =
+        changedAndSaved(file("word\\par\\sect\\sectd two\\sect\\sectd three\\par"));
+    QVERIFY2(written.contains("deed\\par\r\n\\sect\\sectd\r\n"), written);
+    QVERIFY2(written.contains("two\\sect\\sectd\r\n"), written);
 }
 
 void KeepingTest::aDeletedParagraphTakesItsPropertiesAlong() {

@@ -130,7 +130,10 @@ private:
         own.inTable = true;
         if (first)
             m_body.beginRow(m_row, own);
+        // What holds for the whole row is told by now.
         own.section = NothingKept;
+        own.row = NothingKept;
+        own.rowBegins = false;
         std::vector<int> shapes;
         for (auto it = block.begin(); !it.atEnd(); ++it)
             if (const QTextFragment run = it.fragment(); endsCells(run))

@@ -227,7 +227,7 @@ void Interpreter::finish() {
     flushPending();
     if (m_state.ownsDestination && m_state.destination == Destination::Picture)
         deliverPicture();
-    cellTabs(m_cellShapes.size());
+    cellTabs(m_cellsEnded.size());
     flushText();
     tellKept();
     m_sink.end(shapedParagraph(), m_state.chars);

@@ -184,7 +184,7 @@ private:
     int m_numberings = 0;
     int m_fallbackToSkip = 0;
     char16_t m_highSurrogate = 0;
-    std::vector<int> m_cellShapes; ///< of cells whose tabs are still to come
+    std::vector<CharFormat> m_cellsEnded; ///< the looks of tabs that are still to come
     ParagraphFormat m_lastOfCell;
     ParagraphFormat m_shapeOfCell; ///< the last one that was written down, as m_cellShape
     int m_cellShape = NothingKept;

@@ -130,7 +130,7 @@ void Interpreter::placeGroup(KeptPlace place, const QString& group) {
 void Interpreter::anchor(const QString& kept) {
     if (kept.isEmpty())
         return;
-    cellTabs(m_cellShapes.size());
+    cellTabs(m_cellsEnded.size());
     if (!m_inParagraph) {
         m_anchorsAtStart += kept;
         return;

@@ -73,7 +73,7 @@ void Interpreter::deliverPicture() {
     }
     m_shapePictureShown = true;
     m_fieldText.clear();
-    cellTabs(m_cellShapes.size());
+    cellTabs(m_cellsEnded.size());
     flushText();
     if (m_sink.picture(m_picture, m_state.chars))
         m_inParagraph = true;

@@ -41,8 +41,10 @@ bool Interpreter::rowWord(const Token& token) {
         m_state.inTable = true;
         return true;
     case Action::CellEnd:
-        if (shows())
-            m_cellShapes.push_back(token.word->value == 0 ? cellShape() : NothingKept);
+        if (shows()) {
+            m_cellsEnded.push_back(m_state.chars);
+            m_cellsEnded.back().cell = token.word->value == 0 ? cellShape() : NothingKept;
+        }
         return true;
     case Action::RowEnd:
         if (shows())
@@ -96,19 +98,20 @@ int Interpreter::cellShape() {
 }
 
 void Interpreter::cellTabs(size_t count) {
-    const std::vector<int> shapes = std::exchange(m_cellShapes, {});
-    for (size_t i = 0; i < std::min(count, shapes.size()); ++i) {
-        m_state.chars.cell = shapes[i];
+    const std::vector<CharFormat> looks = std::exchange(m_cellsEnded, {});
+    const CharFormat around = m_state.chars;
+    for (size_t i = 0; i < std::min(count, looks.size()); ++i) {
+        m_state.chars = looks[i];
         append(u"\t");
     }
-    m_state.chars.cell = NothingKept;
+    m_state.chars = around;
 }
 
 void Interpreter::rowEnd(bool outermost) {
-    const bool anyCell = !m_cellShapes.empty();
-    const bool kept = anyCell && outermost && m_cellShapes.back() != NothingKept;
+    const bool anyCell = !m_cellsEnded.empty();
+    const bool kept = anyCell && outermost && m_cellsEnded.back().cell != NothingKept;
     if (anyCell)
-        cellTabs(m_cellShapes.size() - 1);
+        cellTabs(m_cellsEnded.size() - 1);
     if (!anyCell && !m_inParagraph)
         return;
     m_rowEnds = kept;

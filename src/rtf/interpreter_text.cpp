@@ -211,8 +211,8 @@ void Interpreter::unicode(int code) {
 
 void Interpreter::prepareText() {
     m_fieldText.clear();
-    if (!m_cellShapes.empty())
-        cellTabs(m_cellShapes.size());
+    if (!m_cellsEnded.empty())
+        cellTabs(m_cellsEnded.size());
     if (!m_text.isEmpty() && (m_textFormat != m_state.chars || m_text.size() > LongestRun))
         flushText();
     if (m_text.isEmpty())
@@ -237,7 +237,7 @@ void Interpreter::flushText() {
 }
 
 void Interpreter::paragraphEnd() {
-    cellTabs(m_cellShapes.size());
+    cellTabs(m_cellsEnded.size());
     flushText();
     const ParagraphFormat& paragraph = shapedParagraph();
     m_sink.paragraphEnd(paragraph, m_state.chars);

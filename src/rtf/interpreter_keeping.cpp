@@ -30,8 +30,10 @@ bool Interpreter::keptWord(const Token& token) {
     }
     if (token.word->action == Action::AnchorMark) {
         const QString mark = u'\\' + QString::fromLatin1(token.bytes) + u'}';
+        // The mark stands by itself: what is written around it need not be as it was here.
         if (shows())
-            anchor((m_state.chars.script == Script::Super ? u"{\\super"_s : u"{"_s) + mark);
+            anchor((m_state.chars.script == Script::Super ? u"{\\super"_s : u"{\\nosupersub"_s) +
+                   mark);
         return true;
     }
     if (token.word->action != Action::Keep)

@@ -45,6 +45,13 @@ int KeptSets::with(int set, const KeptCall& call) {
 
 void KeptSets::apply(std::vector<Entry>& entries, const Entry& entry) {
     const KeptWord kind = keptWord(*entry.source);
+    // A border that was named for something else, a cell ahead say, is not this one's.
+    const auto namesSide = [&](const Entry& other) {
+        return other.side == entry.side && other.word == 0;
+    };
+    if (entry.side != 0 && entry.word != 0 &&
+        std::none_of(entries.begin(), entries.end(), namesSide))
+        return;
     const auto givesWay = [&](const Entry& other) {
         if (other.side != entry.side)
             return false;

@@ -81,6 +81,9 @@ void RtfOutput::text(QStringView text) {
 }
 
 void RtfOutput::special(char16_t character) {
+    // Nothing is written for it, so that the word ahead still needs its end.
+    if (character == QChar::ObjectReplacementCharacter)
+        return;
     m_needsDelimiter = false;
     switch (character) {
     case u'\\':
@@ -102,8 +105,6 @@ void RtfOutput::special(char16_t character) {
         return;
     case NonBreakingHyphen:
         m_bytes.append("\\_");
-        return;
-    case QChar::ObjectReplacementCharacter:
         return;
     default:
         if (const uchar byte = latin1Byte(character); byte >= 0x20)

@@ -257,6 +257,9 @@ void GroupKeeper::flushPending() {
 }
 
 void GroupKeeper::text(QStringView text) {
+    // A picture has digits alone.
+    if (m_state.picture)
+        return;
     if (m_state.needsFont && !m_state.quiet) {
         m_state.needsFont = false;
         const FontTable::Font* font = m_tables.fonts.find(m_tables.defaultFont);

@@ -233,10 +233,12 @@ void BodyWriter::endParagraph(const CharFormat* mark) {
 
 /// Ends the paragraph ahead, and the section if another one begins.
 void BodyWriter::goTo(const ParagraphFormat& paragraph) {
-    if (paragraph.section == NothingKept)
+    if (paragraph.section == NothingKept) {
         endLastParagraph();
-    else
+    } else {
         beginSection(names().keptAt(paragraph.section));
+        m_paragraphs.forget();
+    }
     m_paragraphIsEmpty = true;
 }
 

@@ -129,6 +129,9 @@ void GroupKeeper::word(const Token& token) {
     case Action::ListLevel:
         // The lists of the file are numbered anew by those of its text.
         return;
+    case Action::Binary:
+        // It has no data.
+        return;
     case Action::PictureGroup:
         m_state.picture = true;
         copy(token);

@@ -112,7 +112,8 @@ void KeepingTest::whatIsNotShownIsKept_data() {
         "a {\\*\\bkmkstart Here}deed{\\*\\bkmkend Here} b");
     row("comment",
         "word{\\*\\atnid AB}{\\*\\atnauthor Al B}\\chatn{\\*\\annotation\\f0 Is it?}\\par",
-        "deed{\\*\\atnid AB}{\\*\\atnauthor Al B}{\\nosupersub\\chatn}{\\*\\annotation\\f0 Is it?}\\par");
+        "deed{\\*\\atnid AB}{\\*\\atnauthor Al B}{\\nosupersub\\chatn}{\\*\\annotation\\f0 Is "
+        "it?}\\par");
     row("info", "{\\info{\\title A title}{\\author J\\'e4ger}}word\\par",
         "{\\info{\\title A title}{\\author J\\'e4ger}}\r\n");
     row("properties of the user",

@@ -14,6 +14,7 @@ using namespace orvalis::driver;
 namespace {
 
 const QString Box = u"frmnotes1/rt1"_s;
+const QString Notes = u"frmnotes2/rt1"_s;
 
 /// A program of somebody else's that puts bytes on the clipboard of the stage, and takes them.
 class OtherProgram {
@@ -75,8 +76,12 @@ private slots:
     void aMegabyteTravelsBothWays();
     void anOwnerThatIsStoppedHoldsNobody_data();
     void anOwnerThatIsStoppedHoldsNobody();
+    void anOwnerThatIsStoppedHoldsNeitherTheNotesNorTheirClock();
+    void anOwnerThatIsGoneLeavesNothingToPaste();
 
 private:
+    bool openNotes();
+    bool offer(QProcess& owner);
     void paste(const QString& target, const QByteArray& bytes);
     QByteArray copied(const QString& target);
 
@@ -177,6 +182,22 @@ void ClipboardJourneyTest::aMegabyteTravelsBothWays() {
     QVERIFY(m_other->take(u"text/rtf"_s).size() > text.size());
 }
 
+bool ClipboardJourneyTest::openNotes() {
+    return m_program->click(u"frmnotes1/lblNot"_s) && m_program->waitVisible(Notes) &&
+           m_program->click(Notes);
+}
+
+/// Somebody who serves the clipboard for as long as they live. \returns whether they do.
+bool ClipboardJourneyTest::offer(QProcess& owner) {
+    owner.setProcessEnvironment(m_stage->environment());
+    owner.start(u"xclip"_s, {u"-quiet"_s, u"-selection"_s, u"clipboard"_s, u"-i"_s});
+    owner.write("from elsewhere");
+    if (!owner.waitForBytesWritten())
+        return false;
+    owner.closeWriteChannel();
+    return waitUntil([&] { return m_other->take(u"UTF8_STRING"_s) == "from elsewhere"; }, 10000);
+}
+
 void ClipboardJourneyTest::anOwnerThatIsStoppedHoldsNobody_data() {
     QTest::addColumn<QString>("box");
     QTest::newRow("message") << Box;
@@ -187,12 +208,7 @@ void ClipboardJourneyTest::anOwnerThatIsStoppedHoldsNobody() {
     constexpr int LessThanTheToolkitWaits = 1500;
     QFETCH(QString, box);
     QProcess owner;
-    owner.setProcessEnvironment(m_stage->environment());
-    owner.start(u"xclip"_s, {u"-quiet"_s, u"-selection"_s, u"clipboard"_s, u"-i"_s});
-    owner.write("from elsewhere");
-    QVERIFY(owner.waitForBytesWritten());
-    owner.closeWriteChannel();
-    QVERIFY(waitUntil([&] { return m_other->take(u"UTF8_STRING"_s) == "from elsewhere"; }, 10000));
+    QVERIFY(offer(owner));
     QVERIFY(m_program->click(box));
     m_program->key(u"ctrl+a"_s);
     m_program->type(u"typed"_s);
@@ -215,6 +231,53 @@ void ClipboardJourneyTest::anOwnerThatIsStoppedHoldsNobody() {
         20000));
     owner.kill();
     owner.waitForFinished();
+}
+
+void ClipboardJourneyTest::anOwnerThatIsStoppedHoldsNeitherTheNotesNorTheirClock() {
+    constexpr int LessThanTheToolkitWaits = 3000;
+    QVERIFY(openNotes());
+    QProcess owner;
+    QVERIFY(offer(owner));
+    m_program->type(u"typed"_s);
+    QVERIFY(m_program->waitText(Notes, u"typed"_s));
+    const auto clock = [this] { return m_program->control(u"frmnotes2/lblVreme"_s).text; };
+
+    ::kill(static_cast<pid_t>(owner.processId()), SIGSTOP);
+    for (const QString& way : {u"key"_s, u"button"_s}) {
+        const QString before = clock();
+        if (way == u"key"_s)
+            m_program->key(u"ctrl+v"_s);
+        else
+            m_program->click(u"frmnotes2/Toolbar1(11)"_s);
+        QVERIFY2(waitUntil([&] { return clock() != before; }, LessThanTheToolkitWaits),
+                 qPrintable(way));
+    }
+    QVERIFY(m_program->click(Notes));
+    m_program->key(u"ctrl+End"_s);
+    m_program->type(u"!"_s);
+    QVERIFY(m_program->waitText(Notes, u"typed!"_s));
+    ::kill(static_cast<pid_t>(owner.processId()), SIGCONT);
+    owner.kill();
+    owner.waitForFinished();
+}
+
+void ClipboardJourneyTest::anOwnerThatIsGoneLeavesNothingToPaste() {
+    QVERIFY(openNotes());
+    const auto canPaste = [this] {
+        return m_program->control(u"frmnotes2/Toolbar1(11)"_s).enabled;
+    };
+    QProcess owner;
+    QVERIFY(offer(owner));
+    m_program->key(u"ctrl+v"_s);
+    QVERIFY(m_program->waitText(Notes, u"from elsewhere"_s));
+    QVERIFY(waitUntil(canPaste, 5000));
+
+    owner.kill();
+    owner.waitForFinished();
+    m_program->key(u"ctrl+v"_s);
+    m_program->type(u"!"_s);
+    QVERIFY(m_program->waitText(Notes, u"from elsewhere!"_s));
+    QVERIFY(waitUntil([&] { return !canPaste(); }, 5000));
 }
 
 ORVALIS_TEST_MAIN_WITH(QCoreApplication, ClipboardJourneyTest)

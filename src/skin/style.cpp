@@ -151,6 +151,8 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
         return;
     case PE_PanelItemViewRow:
         return;
+    case PE_PanelScrollAreaCorner: // where two scroll bars meet, the page goes on
+        return;
     case PE_FrameFocusRect:
         if (state.testFlag(State_KeyboardFocusChange)) {
             // A small tool has no room for a ring inside its edge.

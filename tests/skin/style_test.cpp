@@ -124,6 +124,7 @@ private slots:
     void theSliderOfAScrollBarShowsThePart();
     void theSliderOfALongListCanStillBeGrasped();
     void aScrollBarHasNoArrowButtons();
+    void whereTwoScrollBarsMeetThePageGoesOn();
     void progressIsGreenAsFarAsItCame();
     void aButtonSinksWhenItIsPressed();
     void theIconsOfMessageBoxesAreOurs();
@@ -367,6 +368,14 @@ void StyleTest::aScrollBarHasNoArrowButtons() {
     const QStyleOptionSlider option = bar(100, 100, 10, 0);
     QVERIFY(!sliderOf(option, QStyle::SC_ScrollBarAddLine).isValid());
     QVERIFY(!sliderOf(option, QStyle::SC_ScrollBarSubLine).isValid());
+}
+
+void StyleTest::whereTwoScrollBarsMeetThePageGoesOn() {
+    const QImage corner =
+        drawn(QStyle::PE_PanelScrollAreaCorner, QStyle::State_Enabled, QSize(12, 12));
+    QImage page(corner.size(), corner.format());
+    page.fill(Qt::white);
+    QCOMPARE(corner, page);
 }
 
 void StyleTest::progressIsGreenAsFarAsItCame() {

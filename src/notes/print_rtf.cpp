@@ -16,6 +16,23 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// Less than this, in twips, holds no line of letters.
+constexpr int LeastRoom = 360;
+
+/// The area, or on a sheet whose margins leave it no room all that the printer reaches in that
+/// direction: blank pages, one for each line, would serve nobody.
+QRect roomOn(const Printer& printer, QRect area) {
+    if (area.width() < LeastRoom) {
+        area.setLeft(0);
+        area.setWidth(printer.ScaleWidth());
+    }
+    if (area.height() < LeastRoom) {
+        area.setTop(0);
+        area.setHeight(printer.ScaleHeight());
+    }
+    return area;
+}
+
 /// The device context changes with each page and is asked for anew.
 void useDevice(FormatRange& range, Printer& printer) {
     range.painter = printer.hDC();
@@ -45,7 +62,7 @@ void printPages(RichTextBox& box, Printer& printer, const PrintMargins& margins,
     // A blank begins the job: until then there is no device context.
     printer.Print(u" "_s);
     FormatRange range;
-    range.rect = printArea(printer, margins);
+    range.rect = roomOn(printer, printArea(printer, margins));
     useDevice(range, printer);
     const auto textLength = static_cast<int>(box.Text().size());
     RangeFormatter pages(box, [&](double share) { tell(LayoutShare * share); });

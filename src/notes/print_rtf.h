@@ -23,7 +23,8 @@ struct PrintMargins {
 /// margins, moved by what the printer cannot reach at its left and upper edge.
 QRect printArea(const Printer& printer, const PrintMargins& margins);
 
-/// Prints a whole text in pages of these margins.
+/// Prints a whole text in pages of these margins, which give way on a sheet so small that they
+/// leave it no room.
 /// \param progress hears how much of it is laid out and printed.
 /// \throws RuntimeError PrinterError where there is no printer, or it gives up; the job is left as
 /// it stands then.

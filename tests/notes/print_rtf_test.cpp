@@ -33,13 +33,18 @@ QRect inkOf(const QImage& page) {
 
 } // namespace
 
+Q_DECLARE_METATYPE(orvalis::PrintMargins)
+
 class PrintRtfTest : public QObject {
     Q_OBJECT
 private slots:
     void theAreaIsTheSheetWithoutItsMarginsSeenFromThePrintableCorner();
     void offsetsAreRoundedToWholeTwips();
     void eachMarginMovesItsOwnEdge();
-    void marginsThatLeaveNothingStillPrintALineAPage();
+    void marginsThatLeaveNoRoomGiveWay_data();
+    void marginsThatLeaveNoRoomGiveWay();
+    void aSheetOfThreeCentimetresIsPrintedWhole();
+    void aSheetSmallerThanALetterEndsAsWell();
     void aBlankBeginsTheJobAndEachFurtherPage();
     void aDocumentOfExactlyOnePageStartsNoOther();
     void eachPageHasTheSameMarginsAndNothingBesideTheText();
@@ -78,13 +83,61 @@ void PrintRtfTest::eachMarginMovesItsOwnEdge() {
              all.adjusted(0, 0, 0, -100));
 }
 
-void PrintRtfTest::marginsThatLeaveNothingStillPrintALineAPage() {
+void PrintRtfTest::marginsThatLeaveNoRoomGiveWay_data() {
+    QTest::addColumn<PrintMargins>("margins");
+    // The printer reaches 7.5 by 10 inches, and of the sheet's 8 by 11 a quarter of an inch is room
+    // enough.
+    QTest::addColumn<QRect>("area");
+    QTest::newRow("a quarter of an inch wide")
+        << PrintMargins{.left = 5760, .top = 1440, .right = 5400, .bottom = 1440}
+        << QRect(360, 48, 24, 9 * 96);
+    QTest::newRow("less than that wide")
+        << PrintMargins{.left = 5760, .top = 1440, .right = 5401, .bottom = 1440}
+        << QRect(0, 48, 720, 9 * 96);
+    QTest::newRow("nothing of the height")
+        << PrintMargins{.left = 1440, .top = 9000, .right = 1440, .bottom = 9000}
+        << QRect(72, 0, 6 * 96, 960);
+}
+
+void PrintRtfTest::marginsThatLeaveNoRoomGiveWay() {
+    QFETCH(PrintMargins, margins);
+    QFETCH(QRect, area);
     RecordingPrinter printer;
     RichTextBox box;
-    box.SetText(lines(3));
-    printPages(box, printer, {.left = 1440, .top = 9000, .right = 1440, .bottom = 9000});
-    QCOMPARE(printer.pages.size(), std::size_t(3));
+    box.SetText(u"Mill Lane and the harbour "_s.repeated(40));
+    printPages(box, printer, margins);
     QCOMPARE(printer.jobs, 1);
+    for (const QImage& page : printer.pages) {
+        const QRect ink = inkOf(page);
+        QVERIFY(!ink.isEmpty() && area.contains(ink));
+    }
+    QVERIFY(inkOf(printer.pages[0]).width() > area.width() * 3 / 4);
+}
+
+void PrintRtfTest::aSheetOfThreeCentimetresIsPrintedWhole() {
+    RecordingPrinter printer;
+    printer.paper = {
+        .paper = QSize(113, 113), .margins = QMargins(4, 4, 4, 4), .resolution = {96, 96}};
+    RichTextBox box;
+    box.SetText(u"Anna Lee\r\nMill Lane 4\r\nHarbour Town\r\n"_s + lines(20));
+    printPages(box, printer, {});
+    QCOMPARE(printer.jobs, 1);
+    QVERIFY(printer.pages.size() > 1 && printer.pages.size() < 10);
+    for (const QImage& page : printer.pages)
+        QVERIFY(!inkOf(page).isEmpty());
+}
+
+void PrintRtfTest::aSheetSmallerThanALetterEndsAsWell() {
+    RecordingPrinter printer;
+    printer.paper = {.paper = QSize(9, 9), .margins = QMargins(4, 4, 4, 4), .resolution = {96, 96}};
+    RichTextBox box;
+    box.SetText(u"Anna"_s);
+    QImage picture(300, 300, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    box.textCursor().insertImage(picture);
+    printPages(box, printer, {});
+    QCOMPARE(printer.jobs, 1);
+    QVERIFY(printer.pages.size() <= 5); // each character, at the worst
 }
 
 void PrintRtfTest::aBlankBeginsTheJobAndEachFurtherPage() {

@@ -10,6 +10,8 @@
 #include <QTest>
 
 #include <cstring>
+#include <thread>
+#include <vector>
 
 #include <sys/socket.h>
 #include <sys/un.h>
@@ -20,10 +22,11 @@ using namespace orvalis::driver;
 
 namespace {
 
-/// A session bus that takes every connection and answers none.
+/// A session bus that takes every connection, answers those that come first as a bus in good health
+/// does, and no others.
 class SilentBus {
 public:
-    SilentBus() {
+    explicit SilentBus(int answered = 0) {
         m_listener = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
         sockaddr_un address{};
         address.sun_family = AF_UNIX;
@@ -32,16 +35,39 @@ public:
         if (::bind(m_listener, reinterpret_cast<sockaddr*>(&address), sizeof(address)) != 0 ||
             ::listen(m_listener, 64) != 0)
             qFatal("no bus can be made");
+        m_answering = std::thread([this, answered] { answer(answered); });
     }
-    ~SilentBus() { ::close(m_listener); }
+    ~SilentBus() {
+        ::shutdown(m_listener, SHUT_RDWR);
+        m_answering.join();
+        for (const int client : m_clients)
+            ::close(client);
+        ::close(m_listener);
+    }
     SilentBus(const SilentBus&) = delete;
     SilentBus& operator=(const SilentBus&) = delete;
 
     QString path() const { return m_folder.filePath(u"bus"_s); }
 
 private:
+    void answer(int count) {
+        while (count-- > 0) {
+            const int client = ::accept4(m_listener, nullptr, nullptr, SOCK_CLOEXEC);
+            if (client < 0)
+                return;
+            m_clients.push_back(client);
+            const QByteArray words = "OK 1234deadbeef\r\nl\2\1\1";
+            char greeting[256];
+            if (::read(client, greeting, sizeof(greeting)) <= 0 ||
+                ::write(client, words.constData(), static_cast<std::size_t>(words.size())) < 0)
+                return;
+        }
+    }
+
     QTemporaryDir m_folder;
     int m_listener = -1;
+    std::thread m_answering;
+    std::vector<int> m_clients;
 };
 
 } // namespace
@@ -50,13 +76,22 @@ private:
 class StartJourneyTest : public QObject {
     Q_OBJECT
 private slots:
+    void aSilentSessionBusKeepsNoWindowAway_data();
     void aSilentSessionBusKeepsNoWindowAway();
+    void aSessionBusThatFallsSilentHoldsNoWindow();
     void leftoversOfAKilledRunGoAtTheNextStart();
     void aClickIsAnsweredFromTheMomentThatTheWindowCanBeSeen();
 };
 
+void StartJourneyTest::aSilentSessionBusKeepsNoWindowAway_data() {
+    QTest::addColumn<int>("answered");
+    QTest::newRow("from the beginning") << 0;
+    QTest::newRow("once it has answered") << 1;
+}
+
 void StartJourneyTest::aSilentSessionBusKeepsNoWindowAway() {
-    const SilentBus bus;
+    QFETCH(int, answered);
+    const SilentBus bus(answered);
     Stage stage({.tray = true});
     QVERIFY2(stage.trouble().isEmpty(), qPrintable(stage.trouble()));
     DrivenProgram program(stage, QStringLiteral(ORVALIS_EXECUTABLE));
@@ -68,6 +103,25 @@ void StartJourneyTest::aSilentSessionBusKeepsNoWindowAway() {
     QVERIFY(program.click(u"frmnotes1/imgMini"_s));
     QVERIFY(waitUntil([&] { return !program.control(u"frmnotes1"_s).visible; }, 10000));
     QVERIFY(program.isRunning());
+}
+
+void StartJourneyTest::aSessionBusThatFallsSilentHoldsNoWindow() {
+    Stage stage({.sessionBus = true});
+    QVERIFY2(stage.trouble().isEmpty(), qPrintable(stage.trouble()));
+    DrivenProgram program(stage, QStringLiteral(ORVALIS_EXECUTABLE));
+    QVERIFY(program.start());
+    // The tray is the one that asks the bus.
+    QVERIFY(program.click(u"frmnotes/imgMini"_s));
+    QVERIFY(program.waitVisible(u"trayWindow"_s));
+    QVERIFY(program.doubleClick(u"trayWindow"_s));
+    QVERIFY(program.waitVisible(u"frmnotes"_s));
+    stage.freezeSessionBus();
+    QVERIFY(program.click(u"frmnotes/imgMini"_s));
+    QVERIFY(program.waitVisible(u"trayWindow"_s));
+    QVERIFY(program.doubleClick(u"trayWindow"_s));
+    QVERIFY(program.waitVisible(u"frmnotes"_s));
+    QVERIFY(program.click(u"frmnotes/imgopen1"_s));
+    QVERIFY(program.waitVisible(u"frmnotes1"_s));
 }
 
 void StartJourneyTest::leftoversOfAKilledRunGoAtTheNextStart() {

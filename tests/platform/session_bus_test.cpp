@@ -3,6 +3,7 @@
 #include "platform/dbus/session_bus.h"
 
 #include "platform/child_environment.h"
+#include "platform/dbus/session_bus_guard.h"
 #include "support/environment.h"
 #include "support/temporary_folder.h"
 #include "support/test_main.h"
@@ -10,7 +11,9 @@
 #include <QCoreApplication>
 #include <QProcess>
 
+#include <atomic>
 #include <cstring>
+#include <thread>
 
 #include <sys/socket.h>
 #include <sys/un.h>
@@ -53,6 +56,26 @@ public:
 private:
     int m_listener = -1;
     int m_client = -1;
+};
+
+/// A client of the bus that waits for its answer.
+class Connection {
+public:
+    explicit Connection(const QByteArray& path) {
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        std::strncpy(address.sun_path, path.constData(), sizeof(address.sun_path) - 1);
+        if (::connect(m_number, reinterpret_cast<sockaddr*>(&address), sizeof(address)) != 0)
+            qFatal("no connection can be made");
+    }
+    ~Connection() { ::close(m_number); }
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+
+    int number() const { return m_number; }
+
+private:
+    int m_number = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
 };
 
 } // namespace
@@ -137,6 +160,34 @@ private slots:
         QCOMPARE(qgetenv("DBUS_SESSION_BUS_ADDRESS"), told);
         daemon.kill();
         daemon.waitForFinished();
+    }
+
+    void whoWaitsForABusThatStoppedIsLetGo() {
+        const QuietBus bus(path());
+        const Connection waiting(path());
+        {
+            const SessionBusGuard guard(5ms);
+            char byte = 0;
+            QCOMPARE(::recv(waiting.number(), &byte, 1, 0), 0);
+        }
+    }
+
+    void aBusThatAnswersKeepsItsConnections() {
+        QuietBus bus(path());
+        const Connection waiting(path());
+        bus.say({}); // to that one
+        std::atomic<bool> asked = false;
+        std::thread answers([&] {
+            bus.say("REJECTED\r\n");
+            asked = true;
+        });
+        {
+            const SessionBusGuard guard(300ms);
+            QTRY_VERIFY_WITH_TIMEOUT(asked, 30000);
+        }
+        answers.join();
+        char byte = 0;
+        QCOMPARE(::recv(waiting.number(), &byte, 1, MSG_DONTWAIT), -1);
     }
 
     // The last one: what is hidden stays so.

@@ -4,6 +4,8 @@
 
 #include <QFile>
 
+#include <csignal>
+
 using namespace Qt::StringLiterals;
 
 namespace orvalis::driver {
@@ -30,6 +32,8 @@ Stage::Stage(const Plan& plan)
 }
 
 Stage::~Stage() {
+    if (m_bus)
+        ::kill(static_cast<pid_t>(m_bus->processId()), SIGCONT);
     for (auto process = m_processes.rbegin(); process != m_processes.rend(); ++process) {
         (*process)->terminate();
         if (!(*process)->waitForFinished(3000)) {
@@ -97,6 +101,7 @@ void Stage::startSessionBus() {
         start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address=1"_s});
     if (!bus)
         return;
+    m_bus = bus;
     if (!bus->waitForReadyRead(10000)) {
         m_trouble = u"dbus-daemon tells no address"_s;
         return;
@@ -108,6 +113,10 @@ void Stage::startSessionBus() {
 void Stage::killDisplay() {
     m_server->kill();
     m_server->waitForFinished(3000);
+}
+
+void Stage::freezeSessionBus() {
+    ::kill(static_cast<pid_t>(m_bus->processId()), SIGSTOP);
 }
 
 void Stage::startTray() {

@@ -40,6 +40,8 @@ public:
 
     /// The display goes away under everybody who uses it.
     void killDisplay();
+    /// The session bus stays and says no word from now on, until the stage ends.
+    void freezeSessionBus();
     void startTray();
     void stopTray();
 
@@ -54,6 +56,7 @@ private:
     std::vector<std::unique_ptr<QProcess>> m_processes;
     QProcess* m_server = nullptr;
     QProcess* m_tray = nullptr;
+    QProcess* m_bus = nullptr;
     QString m_trouble;
 };
 

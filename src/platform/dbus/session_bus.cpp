@@ -30,27 +30,6 @@ constexpr char NoBus[] = "disabled:";
 /// may take its time. Nobody with a bus that works ever waits as long as this.
 constexpr milliseconds BusPatience{500};
 
-/// The path of the bus's socket, one that begins with NUL for an abstract one; empty where the
-/// address names none.
-QByteArray socketName() {
-    const QByteArray addresses = qgetenv(AddressVariable);
-    if (addresses.isEmpty()) {
-        const QByteArray folder = qgetenv("XDG_RUNTIME_DIR");
-        return folder.isEmpty() ? QByteArray() : folder + "/bus";
-    }
-    for (const QByteArray& address : addresses.split(';')) {
-        if (!address.startsWith("unix:"))
-            continue;
-        for (const QByteArray& part : address.mid(5).split(',')) {
-            if (part.startsWith("path="))
-                return QByteArray::fromPercentEncoding(part.mid(5));
-            if (part.startsWith("abstract="))
-                return '\0' + QByteArray::fromPercentEncoding(part.mid(9));
-        }
-    }
-    return {};
-}
-
 void pad(QByteArray& message, qsizetype alignment) {
     while (message.size() % alignment != 0)
         message += '\0';
@@ -104,8 +83,27 @@ bool isAnswer(QByteArrayView bytes) {
 
 } // namespace
 
+QByteArray sessionBusSocket() {
+    const QByteArray addresses = qgetenv(AddressVariable);
+    if (addresses.isEmpty()) {
+        const QByteArray folder = qgetenv("XDG_RUNTIME_DIR");
+        return folder.isEmpty() ? QByteArray() : folder + "/bus";
+    }
+    for (const QByteArray& address : addresses.split(';')) {
+        if (!address.startsWith("unix:"))
+            continue;
+        for (const QByteArray& part : address.mid(5).split(',')) {
+            if (part.startsWith("path="))
+                return QByteArray::fromPercentEncoding(part.mid(5));
+            if (part.startsWith("abstract="))
+                return '\0' + QByteArray::fromPercentEncoding(part.mid(9));
+        }
+    }
+    return {};
+}
+
 SessionBusQuestion::SessionBusQuestion() {
-    if (const QByteArray name = socketName(); !name.isEmpty())
+    if (const QByteArray name = sessionBusSocket(); !name.isEmpty())
         connectTo(name);
 }
 

@@ -8,6 +8,10 @@
 
 namespace orvalis {
 
+/// The path of the socket on which the user's session bus listens, one that begins with NUL for an
+/// abstract one; empty where the environment names none.
+QByteArray sessionBusSocket();
+
 /// A question to the user's session bus that is on its way while the program starts. The toolkit
 /// asks that bus at its own start and waits as long as it takes: one that accepts connections and
 /// never answers would keep the first window away for ever. So the toolkit is shown a bus only once

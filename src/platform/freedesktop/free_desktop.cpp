@@ -8,6 +8,9 @@
 #include "platform/x11/x11_screen.h"
 #include "platform/x11/x11_toolkit.h"
 
+#include <QCoreApplication>
+#include <QTimer>
+
 namespace orvalis {
 
 std::unique_ptr<Platform> makePlatform() {
@@ -20,10 +23,13 @@ std::optional<QSizeF> FreeDesktop::primaryScreenSize() {
 
 void FreeDesktop::applicationBegins() {
     hideSilentSessionBus(m_bus);
+    m_guard.emplace();
 }
 
 void FreeDesktop::applicationStands() {
     releaseX11Screen();
+    // Once events are served the first windows are up, and the toolkit has asked what it wants.
+    QTimer::singleShot(0, qApp, [this] { m_guard.reset(); });
 }
 
 std::unique_ptr<TrayIcon> FreeDesktop::makeTray() {

@@ -3,12 +3,15 @@
 #pragma once
 
 #include "platform/dbus/session_bus.h"
+#include "platform/dbus/session_bus_guard.h"
 #include "platform/platform.h"
 #include "platform/x11/x11_clipboard_owner.h"
 #include "platform/x11/x11_window_cutter.h"
 #include "platform/xdg/xdg_logon_entry.h"
 #include "platform/xdg/xdg_mail.h"
 #include "platform/xdg/xdg_shell.h"
+
+#include <optional>
 
 namespace orvalis {
 
@@ -30,7 +33,8 @@ public:
     bool displayIsLost(QStringView warning) const override;
 
 private:
-    SessionBusQuestion m_bus; ///< on its way while the screen is asked for
+    SessionBusQuestion m_bus;               ///< on its way while the screen is asked for
+    std::optional<SessionBusGuard> m_guard; ///< from there on until the first windows are up
     XdgLogonEntry m_logonEntry;
     XdgShell m_shell;
     XdgMail m_mail;

@@ -91,7 +91,7 @@ void FontDialog::buildPages() {
     auto* effects = new QGroupBox(tr("Effects"), this);
     m_strikethrough = check(tr("Stri&keout"), QStringLiteral("strikethrough"), effects);
     m_underline = check(tr("&Underline"), QStringLiteral("underline"), effects);
-    m_colourButton = new QPushButton(tr("&Colour..."), effects);
+    m_colourButton = new QPushButton(tr("&Color..."), effects);
     m_colourButton->setObjectName(QStringLiteral("colour"));
     auto* effectsLayout = new QVBoxLayout(effects);
     effectsLayout->addWidget(m_strikethrough);

@@ -34,6 +34,9 @@ private slots:
     void unpinningSwapsTheImagesAndLetsTheWindowSink();
     void pinningAgainBringsTheWindowBackOnTop();
     void titleAndClockStandOutFromThePaper();
+    void whatIsTypedStandsOutFromThePaper();
+    void theSignsStandOutFromTheEdgeOfThePaper_data();
+    void theSignsStandOutFromTheEdgeOfThePaper();
     void thePaperIsLightEnoughForTheRedOfAlarms();
     void theCrossIsDrawnAsTheSignsBesideIt();
     void captionAndTitleBeginWithTheNumber();
@@ -144,6 +147,37 @@ void StickerTest::titleAndClockStandOutFromThePaper() {
     sticker.form().Show();
     for (const char* name : {"txtLabel1", "lblVreme"})
         QVERIFY2(textContrast(drawnLarge(find<QWidget>(sticker, name))) >= ReadableContrast, name);
+}
+
+void StickerTest::whatIsTypedStandsOutFromThePaper() {
+    StickerWindow& sticker = m_stickers->newFrmstick();
+    sticker.Text1().SetText(u"Milk and bread"_s);
+    sticker.form().Show();
+    QVERIFY(textContrast(drawnLarge(sticker.Text1())) >= ReadableContrast);
+}
+
+void StickerTest::theSignsStandOutFromTheEdgeOfThePaper_data() {
+    QTest::addColumn<QByteArray>("name");
+    for (const char* name : {"imgOff", "imgOn", "Image1", "Image3", "Image2"})
+        QTest::newRow(name) << QByteArray(name);
+}
+
+void StickerTest::theSignsStandOutFromTheEdgeOfThePaper() {
+    QFETCH(QByteArray, name);
+    StickerWindow& sticker = m_stickers->newFrmstick();
+    sticker.form().Show();
+    if (name == "imgOn")
+        click(find<Image>(sticker, "imgOff"));
+    auto& sign = find<QWidget>(sticker, name.constData());
+    // Within the edges that rise under the pointer.
+    const QRect inside(sign.mapTo(sign.window(), QPoint(2, 2)), sign.size() - QSize(4, 4));
+    const auto measure = [&] { return textContrast(drawnLarge(*sign.window(), inside)); };
+    const double apart = measure();
+    QVERIFY2(apart >= ReadableContrast, qPrintable(QString::number(apart)));
+    QEnterEvent enter({5, 5}, {5, 5}, sign.mapToGlobal(QPointF(5, 5)));
+    QApplication::sendEvent(&sign, &enter);
+    const double underPointer = measure();
+    QVERIFY2(underPointer >= ReadableContrast, qPrintable(QString::number(underPointer)));
 }
 
 void StickerTest::thePaperIsLightEnoughForTheRedOfAlarms() {

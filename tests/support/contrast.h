@@ -66,6 +66,8 @@ inline double textContrast(const QImage& picture) {
     for (const double one : all)
         if (darkInk ? one > between : one < between)
             grounds.push_back(one);
+    if (grounds.empty())
+        return 1; // nothing is drawn
     if (!darkInk)
         std::reverse(grounds.begin(), grounds.end());
     return contrast(ink, grounds[static_cast<std::size_t>(grounds.size() * EdgePart)]);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "driver/reminder_road.h"
 
+#include "session_manager.h"
 #include "support/test_main.h"
 
 #include <QCoreApplication>
@@ -9,6 +10,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace orvalis::driver;
+using namespace orvalis::test;
 
 namespace {
 
@@ -64,6 +66,8 @@ private slots:
     void aDisplayThatGoesAwayTakesNothing_data();
     void aDisplayThatGoesAwayTakesNothing();
     void aSecondEndWritesASecondFile();
+    void aLogOutKeepsWhatWasTyped();
+    void aLogOutThatIsCalledOffLeavesTheProgramAsItIs();
 };
 
 void EndJourneyTest::aTerminatedProgramKeepsWhatWasTyped() {
@@ -127,6 +131,41 @@ void EndJourneyTest::aSecondEndWritesASecondFile() {
         QVERIFY(typed.program().waitForEnd());
         QVERIFY(typed.kept(name));
     }
+}
+
+void EndJourneyTest::aLogOutKeepsWhatWasTyped() {
+    SessionManager session;
+    QVERIFY(session.isUp());
+    TypedProgram typed;
+    typed.program().setVariable(u"SESSION_MANAGER"_s, session.address());
+    const QString trouble = typed.begin();
+    QVERIFY2(trouble.isEmpty(), qPrintable(trouble));
+    QVERIFY(session.hasProgram());
+    session.beginLogOut();
+    QVERIFY(waitUntil([&] { return session.hasKept(); }, 10000));
+    QVERIFY2(typed.kept(u"recovered.rtf"_s), "before the program says that it is done");
+    QVERIFY(typed.program().isRunning());
+    session.finishLogOut();
+    QVERIFY(typed.program().waitForEnd());
+    QVERIFY(typed.program().fileBytes(u"recovered 2.rtf"_s).isEmpty());
+    QCOMPARE(typed.program().output(), QByteArray());
+}
+
+void EndJourneyTest::aLogOutThatIsCalledOffLeavesTheProgramAsItIs() {
+    SessionManager session;
+    QVERIFY(session.isUp());
+    TypedProgram typed;
+    typed.program().setVariable(u"SESSION_MANAGER"_s, session.address());
+    const QString trouble = typed.begin();
+    QVERIFY2(trouble.isEmpty(), qPrintable(trouble));
+    session.beginLogOut();
+    QVERIFY(waitUntil([&] { return session.hasKept(); }, 10000));
+    session.callOff();
+    typed.program().type(u" and bread"_s);
+    QVERIFY(typed.program().waitText(u"frmstick/Text1"_s, u"milk and bread"_s));
+    session.beginLogOut();
+    QVERIFY(waitUntil([&] { return session.hasKept(); }, 10000));
+    QVERIFY(typed.program().fileBytes(u"recovered 2.rtf"_s).contains("milk and bread"));
 }
 
 ORVALIS_TEST_MAIN_WITH(QCoreApplication, EndJourneyTest)

@@ -10,6 +10,7 @@
 #include "controls/rich_text_box.h"
 #include "core/dialog_controls.h"
 #include "core/program.h"
+#include "core/tool_button.h"
 #include "runtime/twips.h"
 #include "runtime/whole_file.h"
 #include "skin/skin.h"
@@ -88,6 +89,7 @@ frmPrint::frmPrint(Program& program, AddressBook& book, std::function<ContactPan
     makeToolbar();
     m_rtb->setObjectName(u"rtb"_s);
     m_rtb->setAccessibleName(u"Page"_s);
+    m_rtb->setTabChangesFocus(true);
     m_rtb->setFocus();
     resize(twipsToPixels(ClientWidth), twipsToPixels(ClientHeight));
     layOut();
@@ -105,14 +107,14 @@ void frmPrint::makeToolbar() {
             continue;
         }
         const QString toolTip = QString::fromUtf16(button.toolTip);
-        auto* made = new QToolButton(m_tb1);
+        auto* made = new ToolButton(m_tb1);
         made->setObjectName(u"tb1(%1)"_s.arg(key));
         made->setAutoRaise(true);
         made->setFixedSize(ButtonSize);
         made->setIcon(skin::icon(QString::fromUtf16(button.picture)));
         made->setToolTip(toolTip);
         made->setAccessibleName(toolTip.trimmed());
-        connect(made, &QToolButton::clicked, this, [this, key] { tb1_ButtonClick(key); });
+        connect(made, &ToolButton::clicked, this, [this, key] { tb1_ButtonClick(key); });
         m_tb1->addWidget(made);
     }
 }

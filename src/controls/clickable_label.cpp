@@ -32,6 +32,15 @@ void ClickableLabel::setTabStop(bool on) {
     setFocusPolicy(on ? Qt::TabFocus : Qt::NoFocus);
 }
 
+void ClickableLabel::takeFocusFrom(ClickableLabel& other) {
+    if (window()->focusWidget() != &other)
+        return;
+    const bool marked = other.m_marked;
+    setFocus(Qt::OtherFocusReason);
+    m_marked = marked;
+    update();
+}
+
 void ClickableLabel::press() {
     if (!isEnabled())
         return;

@@ -21,6 +21,10 @@ public:
     /// has the focus when its window opens shows its mark, and answers keys, from the first Tab on.
     void setTabStop(bool on);
 
+    /// Takes the focus, and its mark, from a control whose place it takes; nothing where that has
+    /// none. Its window need not be the active one.
+    void takeFocusFrom(ClickableLabel& other);
+
     void press() override;
     /// True as soon as somebody listens to MouseDown or Click.
     bool isPressable() const override;

@@ -200,6 +200,9 @@ signals:
     void Click();
     /// When a mouse button goes down inside the text, before the caret follows it.
     void MouseDown(Qt::MouseButton button);
+    /// The key that opens menus was pressed in a box without its editing menu.
+    /// \param place below the caret, on the screen.
+    void menuAskedByKey(QPoint place);
 
 protected:
     bool canInsertFromMimeData(const QMimeData* source) const override;

@@ -343,6 +343,8 @@ void RichTextBox::setEditMenu(bool on) {
 
 void RichTextBox::contextMenuEvent(QContextMenuEvent* event) {
     if (!m_editMenu) {
+        if (event->reason() == QContextMenuEvent::Keyboard)
+            emit menuAskedByKey(viewport()->mapToGlobal(cursorRect().bottomLeft()));
         event->ignore();
         return;
     }

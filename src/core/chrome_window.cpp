@@ -158,14 +158,12 @@ void ChromeWindow::onActivate() {
 void ChromeWindow::showAlarm() {
     lblAlarm->setCaption(m_program.state.alarmTimeText);
     lblAlarm->setVisible(true);
-    imgSet->setVisible(false);
-    imgStop->setVisible(true);
+    showBell(true);
     m_alarmShownHere = true;
 }
 
 void ChromeWindow::AlarmOff() {
-    imgSet->setVisible(true);
-    imgStop->setVisible(false);
+    showBell(false);
     lblAlarm->setCaption({});
     if (m_tray)
         m_tray->TrayReset();
@@ -179,18 +177,25 @@ void ChromeWindow::resetTray() {
 }
 
 void ChromeWindow::stopClick() {
-    imgSet->setVisible(true);
-    imgStop->setVisible(false);
+    showBell(false);
     lblAlarm->setCaption({});
     m_program.state.alarmArmed = false;
     m_alarmShownHere = false;
 }
 
+/// One bell stands in for the other, for the keyboard too.
+void ChromeWindow::showBell(bool armed) {
+    Image& shown = armed ? *imgStop : *imgSet;
+    Image& hidden = armed ? *imgSet : *imgStop;
+    shown.setVisible(true);
+    shown.takeFocusFrom(hidden);
+    hidden.setVisible(false);
+}
+
 void ChromeWindow::alarmCaptionChanged() {
     const QString caption = lblAlarm->Caption();
     m_program.state.alarmCaptionMirror = caption;
-    imgSet->setVisible(caption.isEmpty());
-    imgStop->setVisible(!caption.isEmpty());
+    showBell(!caption.isEmpty());
     // Where the alarm stands below the clock on the same glass, the clock makes room for it. Beside
     // it the two can share a column of pixels, once the layout has rounded their places.
     const QRect alarm = lblAlarm->geometry();

@@ -100,6 +100,7 @@ private:
     void updateClock();
     void showDateInClock();
     void stopClick();
+    void showBell(bool armed);
     void alarmCaptionChanged();
     void run(const std::vector<ChromeStep>& steps);
 

@@ -57,10 +57,10 @@ QMenu* frmdel1::makeHelpMenu() {
     return menu;
 }
 
-void frmdel1::PopupMenu(const QString& name) {
+void frmdel1::popUpMenu(const QString& name, std::optional<QPoint> place) {
     auto* menu = findChild<QMenu*>(name);
     Q_ASSERT(menu != nullptr);
-    menu->exec(menuPlace());
+    menu->exec(place.value_or(menuPlace()));
     throwIfEnded();
 }
 

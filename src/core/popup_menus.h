@@ -26,7 +26,9 @@ public:
     frmdel1(Program& program, HelpDisplay& help, const std::vector<MenuMaker>& menusOfPanels = {});
 
     Form& form() override { return *this; }
-    void PopupMenu(const QString& name) override;
+
+protected:
+    void popUpMenu(const QString& name, std::optional<QPoint> place) override;
 
 private:
     QMenu* makeHelpMenu();

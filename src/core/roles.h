@@ -4,6 +4,10 @@
 
 #include "core/windows.h"
 
+#include <QPoint>
+
+#include <optional>
+
 namespace orvalis {
 
 class Label;
@@ -115,8 +119,14 @@ class LettersWindow : public WindowRole {};
 /// `frmdel1`: the hidden form that owns the popup menus.
 class PopupMenus : public WindowRole {
 public:
-    /// Pops a menu up at the pointer and holds the caller until it is closed.
-    virtual void PopupMenu(const QString& name) = 0;
+    /// Pops a menu up and holds the caller until it is closed.
+    /// \param place of the screen where a key asked for the menu: the pointer is elsewhere then.
+    void PopupMenu(const QString& name, std::optional<QPoint> place = {}) {
+        popUpMenu(name, place);
+    }
+
+protected:
+    virtual void popUpMenu(const QString& name, std::optional<QPoint> place) = 0;
 };
 
 /// One sticker window, of either class.

@@ -32,6 +32,9 @@ void frmnotes2::connectKeys() {
     toolOnKey(Qt::CTRL | Qt::Key_U, *ui.Toolbar1, Toolbar1Button::Underline);
     toolOnKey(Qt::CTRL | Qt::Key_D, *ui.Toolbar2, Toolbar2Button::Font);
     toolOnKey(QKeySequence::Find, *ui.Toolbar2, Toolbar2Button::Find);
+    onKey(*this, Qt::Key_F5, [this] {
+        showDateMenu(ui.rt1->viewport()->mapToGlobal(ui.rt1->cursorRect().bottomLeft()));
+    });
     pressOnKey(*this, Qt::CTRL | Qt::Key_E, *ui.Button1);
     pressOnKey(*this, Qt::CTRL | Qt::Key_H, *ui.ReplaceButton);
     pressOnKey(*this, Qt::CTRL | Qt::SHIFT | Qt::Key_H, *ui.ReplaceAllButton);

@@ -42,9 +42,14 @@ void frmnotes2::connectChrome() {
     connect(
         lblVreme, &Label::MouseDown, this,
         [this](int button) {
-            if (button == RightMouseButton && program().windows.knows<PopupMenus>())
-                program().windows.get<PopupMenus>().PopupMenu(u"mnudate"_s);
+            if (button == RightMouseButton)
+                showDateMenu();
         });
+}
+
+void frmnotes2::showDateMenu(std::optional<QPoint> place) {
+    if (program().windows.knows<PopupMenus>())
+        program().windows.get<PopupMenus>().PopupMenu(u"mnudate"_s, place);
 }
 
 void frmnotes2::onLoad() {

@@ -55,6 +55,8 @@ protected:
 private:
     // notes_panel.cpp
     void connectChrome();
+    /// \param place of the screen where a key asked for it.
+    void showDateMenu(std::optional<QPoint> place = {});
     std::vector<UnsavedText> unsavedTexts() const;
 
     // notes_document.cpp: what is on the pages

@@ -2,13 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "notes/page_toolbar.h"
 
-#include "core/window_keys.h"
+#include "core/tool_button.h"
 #include "skin/skin.h"
 
 #include <QButtonGroup>
-#include <QKeyEvent>
 #include <QLayout>
-#include <QToolButton>
 
 namespace orvalis {
 
@@ -18,20 +16,6 @@ namespace {
 
 constexpr QSize ButtonSize(21, 15);
 constexpr QSize PictureSize(13, 13);
-
-/// Enter presses it, as it presses the pictures.
-class ToolbarButton final : public QToolButton {
-public:
-    using QToolButton::QToolButton;
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override {
-        if (isEnter(*event) && !event->isAutoRepeat())
-            click();
-        else
-            QToolButton::keyPressEvent(event);
-    }
-};
 
 } // namespace
 
@@ -49,7 +33,7 @@ PageToolbar::PageToolbar(const QString& name, QWidget* parent)
 }
 
 QToolButton* PageToolbar::addPlain(const QString& toolTip, const QString& picture) {
-    auto* made = new ToolbarButton(this);
+    auto* made = new ToolButton(this);
     const auto index = static_cast<int>(m_buttons.size());
     made->setObjectName(u"%1(%2)"_s.arg(objectName()).arg(index));
     made->setAutoRaise(true);

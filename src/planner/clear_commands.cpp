@@ -44,15 +44,18 @@ void frmnotes1::connectClearMenu() {
         if (button == Qt::RightButton)
             showClearMenu();
     });
+    connect(ui.rt1a, &RichTextBox::menuAskedByKey, this, &frmnotes1::showClearMenu);
     for (MSFlexGrid* grid : {ui.MS1, ui.MS3}) {
         grid->setContextMenuPolicy(Qt::CustomContextMenu);
-        connect(grid, &QWidget::customContextMenuRequested, this, &frmnotes1::showClearMenu);
+        connect(grid, &QWidget::customContextMenuRequested, this, [this, grid](QPoint place) {
+            showClearMenu(grid->viewport()->mapToGlobal(place));
+        });
     }
 }
 
-void frmnotes1::showClearMenu() {
+void frmnotes1::showClearMenu(std::optional<QPoint> place) {
     HoverReset();
-    program().windows.get<PopupMenus>().PopupMenu(u"mnibrisi"_s);
+    program().windows.get<PopupMenus>().PopupMenu(u"mnibrisi"_s, place);
 }
 
 bool frmnotes1::isSelected(std::size_t subPanel, const QString& otherwise) {

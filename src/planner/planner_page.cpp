@@ -50,6 +50,7 @@ void writeHead(RichTextBox& page, const PlannerWeek& week, FirstDay firstDay) {
 
 void writePlannerPage(RichTextBox& page, const PlannerWeek& week, FirstDay firstDay) {
     const QString rule = QString(WeekRuleLength, u'_') + lineBreak();
+    const bool hasFocus = page.window()->focusWidget() == &page;
     page.setVisible(false);
     {
         const RichTextBox::Batch batch(page);
@@ -66,6 +67,9 @@ void writePlannerPage(RichTextBox& page, const PlannerWeek& week, FirstDay first
         page.SetSelColor(Black);
     }
     page.setVisible(true);
+    // Hiding it sent the keyboard on to the next control.
+    if (hasFocus)
+        page.setFocus(Qt::OtherFocusReason);
 }
 
 } // namespace orvalis

@@ -126,7 +126,7 @@ private:
 
     // clear_commands.cpp
     void connectClearMenu();
-    void showClearMenu();
+    void showClearMenu(std::optional<QPoint> place = {});
     bool isSelected(std::size_t subPanel, const QString& otherwise);
     bool isToDoSelected();
     bool isPrioritySelected();

@@ -26,18 +26,6 @@ QString replaceQuestion(const QString& path) {
     return u"The File "_s + path + u" already exists.\nDo you want to replace it?"_s;
 }
 
-/// The owner of the popup menus as far as the panel asks for one.
-class MenuLog final : public PlainWindow<PopupMenus> {
-public:
-    explicit MenuLog(QStringList& shown)
-        : PlainWindow(u"frmdel1"_s)
-        , m_shown(shown) {}
-    void PopupMenu(const QString& name) override { m_shown << name; }
-
-private:
-    QStringList& m_shown;
-};
-
 } // namespace
 
 class AddressActionsTest : public QObject {

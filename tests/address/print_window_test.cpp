@@ -35,6 +35,8 @@ private slots:
 
     void theWindowHasItsWordsAndSize();
     void theButtonsStandInTheirOrderWithTheirToolTips();
+    void tabLeavesThePageAndCtrlTabWritesOne();
+    void enterPressesATool();
     void itBeginsWithTheFontOfTheSettings();
     void withoutSettingsItBeginsWithArialOf10Points();
     void aFontSettingThatIsNoSizeIsPassedOver_data();
@@ -106,6 +108,27 @@ void PrintWindowTest::theButtonsStandInTheirOrderWithTheirToolTips() {
         QVERIFY(!m_test->button(key).icon().isNull());
         QVERIFY(!m_test->button(key).accessibleName().isEmpty());
     }
+}
+
+void PrintWindowTest::tabLeavesThePageAndCtrlTabWritesOne() {
+    m_test->window().Show();
+    m_test->window().activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&m_test->window()));
+    RichTextBox& page = m_test->rtb();
+    page.setFocus();
+    QTest::keyClick(&page, Qt::Key_Tab, Qt::ControlModifier);
+    QCOMPARE(page.Text(), u"\t"_s);
+    QVERIFY(page.hasFocus());
+    QTest::keyClick(&page, Qt::Key_Tab);
+    QVERIFY(!page.hasFocus());
+    QCOMPARE(page.Text(), u"\t"_s);
+}
+
+void PrintWindowTest::enterPressesATool() {
+    m_test->panel.shown.First = u"Ann"_s;
+    m_test->window().Show();
+    QTest::keyClick(&m_test->button(u"add"_s), Qt::Key_Return);
+    QVERIFY(m_test->rtb().Text().contains(u"Ann"));
 }
 
 void PrintWindowTest::itBeginsWithTheFontOfTheSettings() {

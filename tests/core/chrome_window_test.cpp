@@ -38,8 +38,10 @@ private:
 class FakeMenus final : public LoggedWindow<PopupMenus> {
 public:
     using LoggedWindow::LoggedWindow;
-    void PopupMenu(const QString& name) override { popped << name; }
     QStringList popped;
+
+protected:
+    void popUpMenu(const QString& name, std::optional<QPoint>) override { popped << name; }
 };
 
 /// Counts what is painted.
@@ -112,6 +114,7 @@ private slots:
     void aFailureAtActivationIsPassedOver();
     void stopDisarms();
     void aCaptionThatChangesMovesTheImagesAndTheMirror();
+    void oneBellHandsTheKeyboardOnToTheOther();
 
     // Closing.
     void closingIsRefusedWhileTheAlarmIsShown();
@@ -529,6 +532,23 @@ void ChromeWindowTest::aCaptionThatChangesMovesTheImagesAndTheMirror() {
     QCOMPARE(m_test->program.state.alarmCaptionMirror, QString());
     QVERIFY(image(main, u"imgSet"_s)->isVisible());
     QVERIFY(!image(main, u"imgStop"_s)->isVisible());
+}
+
+void ChromeWindowTest::oneBellHandsTheKeyboardOnToTheOther() {
+    setAlarm();
+    m_test->program.state.alarmArmed = false;
+    ChromeWindow& main = show(ChromeKind::Main);
+    QApplication::setActiveWindow(&main);
+    image(main, u"imgSet"_s)->setFocus(Qt::TabFocusReason);
+    // The dialog that sets the alarm has the keyboard meanwhile.
+    QApplication::setActiveWindow(nullptr);
+    m_test->program.state.alarmArmed = true;
+    main.showAlarm();
+    QCOMPARE(main.focusWidget(), image(main, u"imgStop"_s));
+    QApplication::setActiveWindow(&main);
+    QTest::keyClick(image(main, u"imgStop"_s), Qt::Key_Space);
+    QVERIFY(!m_test->program.state.alarmArmed);
+    QCOMPARE(main.focusWidget(), image(main, u"imgSet"_s));
 }
 
 void ChromeWindowTest::closingIsRefusedWhileTheAlarmIsShown() {

@@ -7,6 +7,7 @@
 #include "controls/rich_text_box.h"
 #include "notes/notes_panel.h"
 #include "notes/page_toolbar.h"
+#include "support/plain_windows.h"
 #include "support/test_main.h"
 #include "support/test_program.h"
 #include "widgets/gg_command.h"

@@ -25,6 +25,7 @@ private slots:
     void boldItalicAndUnderlineHaveTheirKeys_data();
     void boldItalicAndUnderlineHaveTheirKeys();
     void fontAndFindHaveTheirKeys();
+    void f5OpensTheDateMenuAtTheCaret();
     void controlAndECarriesTheRightPageOver();
     void replaceAndReplaceAllHaveTheirKeysWhileTheyCanBePressed();
     void escapeClosesTheFindFrame();
@@ -167,6 +168,19 @@ void NotesKeysTest::fontAndFindHaveTheirKeys() {
     QVERIFY(m_ground->isUp(u"Frame1"_s));
     QCOMPARE(m_ground->control<QLineEdit>(u"Text1"_s).text(), u"word"_s);
     QCOMPARE(focused(), u"Text1"_s);
+}
+
+void NotesKeysTest::f5OpensTheDateMenuAtTheCaret() {
+    QStringList asked;
+    std::optional<QPoint> place;
+    m_ground->program.windows.registerMaker<PopupMenus>(
+        [&] { return std::make_unique<MenuLog>(asked, &place); });
+    m_ground->write(u"word"_s);
+    key(Qt::Key_F5);
+    QCOMPARE(asked, QStringList{u"mnudate"_s});
+    RichTextBox& page = m_ground->rt1();
+    QCOMPARE(place, page.viewport()->mapToGlobal(page.cursorRect().bottomLeft()));
+    m_ground->program.windows.unload<PopupMenus>();
 }
 
 void NotesKeysTest::controlAndECarriesTheRightPageOver() {

@@ -17,23 +17,6 @@ using namespace orvalis;
 using namespace orvalis::test;
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// The hidden form of the menus, which only tells which one was asked for.
-class AskedMenus final : public Form, public PopupMenus {
-public:
-    explicit AskedMenus(QStringList& asked)
-        : Form(u"frmdel1"_s)
-        , m_asked(asked) {}
-    Form& form() override { return *this; }
-    void PopupMenu(const QString& name) override { m_asked << name; }
-
-private:
-    QStringList& m_asked;
-};
-
-} // namespace
-
 class NotesPanelTest : public QObject {
     Q_OBJECT
 private slots:
@@ -213,7 +196,7 @@ void NotesPanelTest::theRightPageWritesInTenPoints() {
 void NotesPanelTest::aRightPressOnTheClockOpensTheDateMenu() {
     QStringList asked;
     m_ground->program.windows.registerMaker<PopupMenus>(
-        [&asked] { return std::make_unique<AskedMenus>(asked); });
+        [&asked] { return std::make_unique<MenuLog>(asked); });
     auto& clock = m_ground->control<ClockLabel>(u"lblVreme"_s);
     Pointer(clock).press({5, 5}, Qt::LeftButton);
     QCOMPARE(asked, QStringList());

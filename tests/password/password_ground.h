@@ -7,6 +7,7 @@
 #include "controls/progress_bar.h"
 #include "controls/rich_text_box.h"
 #include "password/password_panel.h"
+#include "support/plain_windows.h"
 #include "support/test_main.h"
 #include "support/test_program.h"
 #include "widgets/gg_command.h"
@@ -20,22 +21,16 @@
 namespace orvalis::test {
 
 /// The owner of the popup menus: holds the save menu, and writes down which menus were asked for.
-class SaveMenuOwner final : public Form, public PopupMenus {
+class SaveMenuOwner final : public MenuLog {
 public:
     SaveMenuOwner(Program& program, QStringList& shown)
-        : Form(QStringLiteral("frmdel1"))
-        , m_shown(shown) {
+        : MenuLog(shown) {
         makeSaveMenu(
             this, program.services.dialogs,
             [&program]() -> PasswordTexts& {
                 return static_cast<frmnotes4&>(program.windows.get<PasswordPanel>());
             });
     }
-    Form& form() override { return *this; }
-    void PopupMenu(const QString& name) override { m_shown << name; }
-
-private:
-    QStringList& m_shown;
 };
 
 /// A Password panel in a program over doubles.

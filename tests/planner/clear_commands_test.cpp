@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "planner/grid_file.h"
 #include "planner/panel_ground.h"
+#include "support/plain_windows.h"
 
 #include <QContextMenuEvent>
 #include <QMenu>
@@ -15,19 +16,6 @@ namespace {
 constexpr int Information = 64;
 constexpr int YesNoDefaultNo = 308;
 constexpr int YesNoExclamation = 52;
-
-/// The owner of the popup menus, which only writes down what was asked for.
-class RecordingMenus final : public Form, public PopupMenus {
-public:
-    explicit RecordingMenus(QStringList& shown)
-        : Form(u"frmdel1"_s)
-        , m_shown(shown) {}
-    Form& form() override { return *this; }
-    void PopupMenu(const QString& name) override { m_shown << name; }
-
-private:
-    QStringList& m_shown;
-};
 
 /// Writes the commands down.
 class RecordingCommands final : public ClearCommands {
@@ -64,6 +52,7 @@ private slots:
     void eachEntryDoesItsCommand();
     void theClearPictureOpensTheMenuWithTheLeftButtonAlone();
     void aRightClickOnAListOrTheToDoDocumentOpensTheMenu();
+    void theKeyOfMenusOpensItAtTheCaretOrTheRow();
     void aCommandOfAnotherSubPanelIsRefused_data();
     void aCommandOfAnotherSubPanelIsRefused();
     void aRightClickOnAnotherListDoesNotSelectIt();
@@ -97,13 +86,14 @@ private:
 
     std::unique_ptr<PanelGround> m_ground;
     QStringList m_shown;
+    std::optional<QPoint> m_place; ///< where a key asked for a menu
 };
 
 void ClearCommandsTest::init() {
     m_ground = std::make_unique<PanelGround>();
     m_shown.clear();
     m_ground->program.windows.registerMaker<PopupMenus>(
-        [this] { return std::make_unique<RecordingMenus>(m_shown); });
+        [this] { return std::make_unique<MenuLog>(m_shown, &m_place); });
     m_ground->folder.write(u"tmp1.brf"_s, " 5  1 \r\n\r\nFriday\r\nurgent\r\nMonday\r\nlater\r\n");
     m_ground->folder.write(u"tmp2.brf"_s, " 5  1 \r\n\r\nh1\r\nb1\r\nh2\r\nb2\r\n");
     m_ground->folder.write(u"Vazno.rtf"_s, "{\\rtf1 water \\b the\\b0  roses}");
@@ -173,6 +163,22 @@ void ClearCommandsTest::aRightClickOnAListOrTheToDoDocumentOpensTheMenu() {
         QApplication::sendEvent(grid->viewport(), &event);
         QCOMPARE(m_shown, QStringList{u"mnibrisi"_s});
     }
+}
+
+void ClearCommandsTest::theKeyOfMenusOpensItAtTheCaretOrTheRow() {
+    const auto askByKey = [](QWidget& widget, QPoint place) {
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, place, widget.mapToGlobal(place));
+        QApplication::sendEvent(&widget, &event);
+    };
+    RichTextBox& document = m_ground->rt1a();
+    askByKey(document, {});
+    QCOMPARE(m_shown, QStringList{u"mnibrisi"_s});
+    QCOMPARE(m_place, document.viewport()->mapToGlobal(document.cursorRect().bottomLeft()));
+    m_shown.clear();
+    MSFlexGrid& grid = m_ground->MS3();
+    askByKey(*grid.viewport(), QPoint(30, 40));
+    QCOMPARE(m_shown, QStringList{u"mnibrisi"_s});
+    QCOMPARE(m_place, grid.viewport()->mapToGlobal(QPoint(30, 40)));
 }
 
 void ClearCommandsTest::aCommandOfAnotherSubPanelIsRefused_data() {

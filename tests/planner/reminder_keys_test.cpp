@@ -19,6 +19,7 @@ private slots:
     void controlAndSDoesNothingWhileSavingIsDisabled();
     void controlAndDSetsTheFontOfThePageThatIsWorkedOn();
     void controlAndNBeginsThePageThatIsWorkedOnAnew();
+    void aWeekThatIsBegunAnewKeepsTheKeyboard();
     void theWeeklySheetOpensAndSavesAsByKey();
     void controlAndFFindsInTheToDoList();
     void enterInTheReminderIsOkAndEscapeIsCancel_data();
@@ -112,6 +113,13 @@ void ReminderKeysTest::controlAndNBeginsThePageThatIsWorkedOnAnew() {
     QSignalSpy messages(&m_ground->control<Image>(u"imgNew"_s), &Image::Click);
     QCOMPARE(presses(u"Button4"_s, [&] { key(Qt::Key_N, Qt::ControlModifier); }), 1);
     QCOMPARE(messages.count(), 0);
+}
+
+void ReminderKeysTest::aWeekThatIsBegunAnewKeepsTheKeyboard() {
+    key(Qt::Key_4, Qt::ControlModifier);
+    key(Qt::Key_N, Qt::ControlModifier);
+    QVERIFY(m_ground->control<RichTextBox>(u"rt2"_s).Text().contains(u"Monday"));
+    QCOMPARE(m_ground->panel().focusWidget()->objectName(), u"rt2"_s);
 }
 
 void ReminderKeysTest::theWeeklySheetOpensAndSavesAsByKey() {

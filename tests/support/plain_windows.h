@@ -47,6 +47,26 @@ private:
     bool m_builtIn;
 };
 
+/// The owner of the popup menus, which only writes down what was asked for, and by a key where.
+class MenuLog : public PlainWindow<PopupMenus> {
+public:
+    explicit MenuLog(QStringList& asked, std::optional<QPoint>* place = nullptr)
+        : PlainWindow(QStringLiteral("frmdel1"))
+        , m_asked(asked)
+        , m_place(place) {}
+
+protected:
+    void popUpMenu(const QString& name, std::optional<QPoint> place) override {
+        m_asked << name;
+        if (m_place != nullptr)
+            *m_place = place;
+    }
+
+private:
+    QStringList& m_asked;
+    std::optional<QPoint>* m_place;
+};
+
 /// Makes stickers that only count.
 class PlainStickers final : public StickerMaker {
 public:

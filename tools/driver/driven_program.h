@@ -20,6 +20,7 @@ struct Control {
     bool enabled = false;
     bool checked = false;
     bool focused = false; ///< it has the keyboard
+    bool active = false;  ///< its window is the one that keys go to
     quint32 window = 0;   ///< the display's number of the window that it lies in
     QRect rect;
     QString name;
@@ -29,6 +30,7 @@ struct Control {
     QString tip;
     QStringList rows;    ///< of a list
     QStringList entries; ///< of a menu
+    QString marked;      ///< of a menu the entry that Enter would choose
     QStringList buttons; ///< of a message box
     QList<QRect> buttonRects;
 };
@@ -96,6 +98,9 @@ public:
     void key(const QString& keys);
     /// Presses Tab until the control has the keyboard. \returns whether it came to have it.
     bool tabTo(const QString& name);
+    /// Walks down an open menu by the arrow key and chooses an entry by Enter. \returns whether the
+    /// entry came to be marked.
+    bool chooseByKeys(const QString& menu, const QString& entryText);
     /// Asks the window manager to close the window, as a task bar does.
     bool closeThroughWindowManager(const QString& window);
     /// Takes hold of what stands at the beginning of a text and pulls it along, without letting go.

@@ -76,9 +76,20 @@ QJsonObject describe(const QWidget& widget) {
     answer[u"visible"_s] = widget.isVisible();
     answer[u"enabled"_s] = widget.isEnabled();
     answer[u"focus"_s] = widget.hasFocus();
+    answer[u"active"_s] = widget.isActiveWindow();
     answer[u"tip"_s] = widget.toolTip();
     if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
         answer[u"checked"_s] = button->isChecked();
+    if (const auto* menu = qobject_cast<const QMenu*>(&widget)) {
+        QJsonArray entries;
+        const auto actions = menu->actions();
+        for (const QAction* action : actions)
+            if (action->isVisible())
+                entries << action->text();
+        answer[u"entries"_s] = entries;
+        if (menu->activeAction())
+            answer[u"marked"_s] = menu->activeAction()->text();
+    }
     if (const auto* view = qobject_cast<const QAbstractItemView*>(&widget)) {
         QJsonArray rows;
         const auto* model = view->model();
@@ -144,14 +155,6 @@ QJsonObject listWindows() {
                 buttons << entry;
             }
             window[u"buttons"_s] = buttons;
-        }
-        if (auto* menu = qobject_cast<QMenu*>(widget)) {
-            QJsonArray entries;
-            const auto actions = menu->actions();
-            for (QAction* action : actions)
-                if (action->isVisible())
-                    entries << action->text();
-            window[u"entries"_s] = entries;
         }
         windows << window;
     }

@@ -90,7 +90,13 @@ protected:
     }
     /// Waits for a box with these words and answers it.
     bool answerBox(const QString& words, const Keys& keys = QStringLiteral("Return")) {
-        if (!driver::waitUntil([&] { return m_program->messageBox().text == words; }, Patience))
+        const bool asks = driver::waitUntil(
+            [&] {
+                const driver::Control box = m_program->messageBox();
+                return box.text == words && box.active;
+            },
+            Patience);
+        if (!asks)
             return false;
         key(keys);
         return driver::waitUntil([&] { return m_program->messageBox().text != words; }, Patience);

@@ -266,6 +266,7 @@ private:
     void changeScattered(const std::function<void()>& change);
     void typeParagraphEnd();
     void typeText(QKeyEvent* event);
+    QString signsAt(const QTextCursor& cursor, const QString& text) const;
     bool dropsOntoItself(const QDropEvent& event) const;
     void tellChange();
     void tellSelection();

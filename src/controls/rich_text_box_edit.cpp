@@ -12,6 +12,7 @@
 #include "rtf/format_properties.h"
 #include "rtf/intake.h"
 #include "rtf/picture_format.h"
+#include "rtf/symbol_font.h"
 #include "runtime/failure.h"
 
 #include <QApplication>
@@ -232,19 +233,31 @@ void RichTextBox::beginTyping() {
         document()->setModified(false);
 }
 
+/// What is typed in a font of signs is the signs, as what a file has in it is.
+QString RichTextBox::signsAt(const QTextCursor& cursor, const QString& text) const {
+    const QString family = familyOf(formatAtStart(cursor), document()->defaultFont());
+    return rtf::inSigns(rtf::symbolFontOf(family), text);
+}
+
 /// What is typed over a selection takes the format at its start; the editor's own way would ask at
 /// which end the caret stands.
 void RichTextBox::typeText(QKeyEvent* event) {
     QTextCursor cursor = editCursor();
     beginTyping();
+    const QString text = signsAt(cursor, event->text());
     if (cursor.hasSelection()) {
-        SetSelText(event->text());
+        SetSelText(text);
         ensureCursorVisible();
         return;
     }
-    if (leaveMarks(cursor, event->text()))
+    if (leaveMarks(cursor, text))
         takeCursor(cursor);
-    QTextEdit::keyPressEvent(event);
+    if (text == event->text()) {
+        QTextEdit::keyPressEvent(event);
+        return;
+    }
+    QKeyEvent sign(event->type(), event->key(), event->modifiers(), text, event->isAutoRepeat());
+    QTextEdit::keyPressEvent(&sign);
 }
 
 /// The new paragraph goes on in the format of the old one; the editor's own way would go back to no

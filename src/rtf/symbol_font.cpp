@@ -96,6 +96,23 @@ char32_t symbolCharacter(SymbolFont font, uchar byte) {
     return sign != 0 ? sign : char32_t(PrivateArea + byte);
 }
 
+QString inSigns(SymbolFont font, const QString& text) {
+    constexpr char16_t FirstSign = 0x21;
+    constexpr char16_t LastSign = 0xff;
+    QString signs;
+    for (const QChar c : text) {
+        const char16_t code = c.unicode();
+        const bool isCode = code >= FirstSign && code <= LastSign;
+        const char32_t sign = isCode ? symbolCharacter(font, uchar(code)) : code;
+        // A sign that Unicode does not have shows as the letter.
+        if (font == SymbolFont::None || privateByte(sign) != 0)
+            signs += c;
+        else
+            signs += QChar::fromUcs4(sign);
+    }
+    return signs;
+}
+
 uchar symbolByte(SymbolFont font, char32_t character) {
     const dingbats::Signs* const signs = signsOf(font);
     if (!signs) {

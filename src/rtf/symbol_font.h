@@ -20,6 +20,9 @@ SymbolFont symbolFontOf(const QString& family);
 /// private use where Unicode has none.
 char32_t symbolCharacter(SymbolFont font, uchar byte);
 
+/// Letters as a font shows them: the signs of those that it has signs for.
+QString inSigns(SymbolFont font, const QString& text);
+
 /// The byte at which a font shows a character, 0 when it does not.
 uchar symbolByte(SymbolFont font, char32_t character);
 

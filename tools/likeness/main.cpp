@@ -11,11 +11,12 @@
 // font, size, weight, colour, and place within two points. Then the same for the program's own
 // pages: of the files without a table, text box or lines from top to bottom, those whose words
 // stand on the first page where LibreOffice sets them, each left edge within six points, in the
-// same order down the page, with the fonts that LibreOffice takes and with runs of blanks as wide
-// as it sets them. With --keep what was made stays in OTHER, and what lies there of the files
-// themselves is used again. With --own only the program's own pages are measured, against the PDFs
-// that lie in OTHER: that takes no soffice, and a minute. Needs soffice, and pdftotext and
-// pdftohtml of poppler.
+// same order down the page. For that, LibreOffice is given the files without their footnotes, which
+// the program does not show; and the program takes the fonts that LibreOffice takes, its font for
+// files that name none, and runs of blanks as wide as it sets them. With --keep what was made stays
+// in OTHER, and what lies there of the files themselves is used again. With --own only the
+// program's own pages are measured, against the PDFs that lie in OTHER: that takes a minute. Needs
+// soffice, and pdftotext and pdftohtml of poppler.
 #include "likeness.h"
 #include "office.h"
 #include "own_pages.h"
@@ -76,7 +77,7 @@ public:
         , m_onlyOwn(onlyOwn)
         , m_office(m_place.filePath(u"office"_s)) {
         for (const char* part : {"given", "written", "given-pdf", "given-txt", "written-pdf",
-                                 "written-txt", "own-pdf", "office"})
+                                 "written-txt", "own-pdf", "bare", "bare-pdf", "office"})
             m_place.mkpath(QString::fromLatin1(part));
     }
 
@@ -86,6 +87,7 @@ public:
             convert(u"given"_s);
             convert(u"written"_s);
         }
+        convertBare();
         for (const Sample& sample : std::as_const(m_samples))
             measure(sample);
         tell();
@@ -138,6 +140,20 @@ private:
         }
     }
 
+    /// The files with notes, for the program's own pages.
+    void convertBare() {
+        QStringList files;
+        for (const Sample& sample : std::as_const(m_samples)) {
+            const QByteArray bytes = contentOf(m_folder + u'/' + sample.name);
+            const QByteArray bare = withoutNotes(bytes);
+            if (sample.aside || bare == bytes)
+                continue;
+            files << path(u"bare"_s, sample, u".rtf"_s);
+            leave(files.last(), bare);
+        }
+        m_office.convert(files, u"pdf"_s, m_place.filePath(u"bare-pdf"_s));
+    }
+
     void measure(const Sample& sample) {
         const QString givenPdf = path(u"given-pdf"_s, sample, u".pdf"_s);
         if (!QFile::exists(givenPdf)) {
@@ -147,8 +163,9 @@ private:
         const PdfText given = readPdf(givenPdf);
         if (!m_onlyOwn)
             measureWritten(sample, given);
+        const QString barePdf = path(u"bare-pdf"_s, sample, u".pdf"_s);
         if (!sample.aside)
-            measureOwn(sample, given);
+            measureOwn(sample, QFile::exists(barePdf) ? barePdf : givenPdf);
     }
 
     void measureWritten(const Sample& sample, const PdfText& given) {
@@ -194,13 +211,18 @@ private:
                     qUtf8Printable(written.mid(from, 60)));
     }
 
-    void measureOwn(const Sample& sample, const PdfText& given) {
+    void measureOwn(const Sample& sample, const QString& givenPdf) {
+        const QByteArray bytes = contentOf(m_folder + u'/' + sample.name);
+        // A file without fonts is shown in those of whoever shows it.
+        const QString family =
+            bytes.contains("{\\fonttbl") ? u"Times New Roman"_s : firstFamily(givenPdf);
         const QString ownPdf = path(u"own-pdf"_s, sample, u".pdf"_s);
         const QByteArray text = contentOf(path(u"given-txt"_s, sample, u".txt"_s));
-        printOwnPages(contentOf(m_folder + u'/' + sample.name), ownPdf, widensBlanks(text));
+        printOwnPages(bytes, ownPdf, widensBlanks(text), family);
         const PdfText own = readPdf(ownPdf);
         QString miss;
-        const Share edges = compareLeftEdges(given, own, sample.top, sample.bottom, miss);
+        const Share edges =
+            compareLeftEdges(readPdf(givenPdf), own, sample.top, sample.bottom, miss);
         if (edges.all == 0)
             return;
         ++m_own;

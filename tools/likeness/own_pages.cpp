@@ -65,13 +65,31 @@ QRectF textArea(const QByteArray& rtf) {
                   -margin("margrsxn", "margr"), -margin("margbsxn", "margb"));
 }
 
+QByteArray withoutNotes(QByteArray rtf) {
+    for (const QByteArray note : {"{\\footnote", "{\\*\\footnote"})
+        for (qsizetype at = rtf.indexOf(note); at >= 0; at = rtf.indexOf(note, at)) {
+            qsizetype end = at;
+            int depth = 0;
+            do {
+                if (rtf[end] == '\\')
+                    ++end;
+                else if (rtf[end] == '{' || rtf[end] == '}')
+                    depth += rtf[end] == '{' ? 1 : -1;
+                ++end;
+            } while (depth > 0 && end < rtf.size());
+            rtf.remove(at, end - at);
+        }
+    return rtf.replace("\\chftn", "");
+}
+
 bool widensBlanks(const QByteArray& text) {
     return QString::fromUtf8(text).contains(QChar(SixthOfEm));
 }
 
-void printOwnPages(const QByteArray& rtf, const QString& path, bool wideBlanks) {
+void printOwnPages(const QByteArray& rtf, const QString& path, bool wideBlanks,
+                   const QString& family) {
     RichTextBox box;
-    box.SetFontName(u"Times New Roman"_s);
+    box.SetFontName(family);
     box.SetTextRTF(rtf);
     if (wideBlanks)
         widenRunsOfBlanks(*box.document());

@@ -15,7 +15,13 @@ QRectF textArea(const QByteArray& rtf);
 /// \param path of the PDF.
 /// \param wideBlanks whether the blanks of a run of them stand as far apart as LibreOffice sets
 /// them, which is further than in any other program.
-void printOwnPages(const QByteArray& rtf, const QString& path, bool wideBlanks);
+/// \param family of what the file names no font for.
+void printOwnPages(const QByteArray& rtf, const QString& path, bool wideBlanks,
+                   const QString& family);
+
+/// A file without its footnotes and the marks of them, of which the program's pages have neither;
+/// unchanged where there are none.
+QByteArray withoutNotes(QByteArray rtf);
 
 /// Whether LibreOffice widened the blanks of runs as it read a file: it puts a sixth of an em ahead
 /// of each, in most files.

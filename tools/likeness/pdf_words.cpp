@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "pdf_words.h"
 
+#include <QFontDatabase>
 #include <QHash>
 #include <QProcess>
 #include <QXmlStreamReader>
@@ -149,6 +150,17 @@ private:
 };
 
 } // namespace
+
+QString firstFamily(const QString& path) {
+    const QString list = QString::fromUtf8(outputOf(u"pdffonts"_s, {u"-l"_s, u"1"_s, path}));
+    // Two lines are the head of the list.
+    const QString name = familyOf(list.section(u'\n', 2, 2).section(u' ', 0, 0));
+    const QStringList families = QFontDatabase::families();
+    for (const QString& family : families)
+        if (QString(family).remove(u' ') == name)
+            return family;
+    return u"Times New Roman"_s;
+}
 
 PdfText readPdf(const QString& path) {
     PdfText text;

@@ -36,6 +36,9 @@ struct PdfText {
     QList<LookedWord> looks;
 };
 
+/// The family of the first font of a PDF, as this machine names it.
+QString firstFamily(const QString& path);
+
 /// What poppler's tools read in a PDF; no page where it cannot be read.
 PdfText readPdf(const QString& path);
 

@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "controls/rich_text_box.h"
+#include "support/test_main.h"
+
+#include <QApplication>
+
+using namespace orvalis;
+using namespace Qt::StringLiterals;
+
+class SignTypingTest : public QObject {
+    Q_OBJECT
+private slots:
+    void lettersTypedInAFontOfSignsAreTheSigns_data();
+    void lettersTypedInAFontOfSignsAreTheSigns();
+    void signsAreWrittenInTheirFontByTheirCode();
+    void lettersOfOtherFontsStay();
+    void blanksAndCodesWithoutASignStay();
+    void whatIsTypedOverSignsIsSigns();
+    void oneUndoTakesBackTheSignsThatWereTyped();
+};
+
+void SignTypingTest::lettersTypedInAFontOfSignsAreTheSigns_data() {
+    QTest::addColumn<QString>("family");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("Greek") << u"Symbol"_s << u"abG"_s << u"\u03b1\u03b2\u0393"_s;
+    QTest::newRow("whatever the case of its name") << u"symbol"_s << u"p"_s << u"\u03c0"_s;
+    QTest::newRow("dingbats") << u"Wingdings"_s << u"J"_s << u"\u263a"_s;
+}
+
+void SignTypingTest::lettersTypedInAFontOfSignsAreTheSigns() {
+    QFETCH(QString, family);
+    QFETCH(QString, typed);
+    QFETCH(QString, shown);
+    RichTextBox box;
+    box.SetSelFontName(family);
+    QTest::keyClicks(&box, typed);
+    QCOMPARE(box.Text(), shown);
+    QCOMPARE(box.SelStart(), int(shown.size()));
+}
+
+void SignTypingTest::signsAreWrittenInTheirFontByTheirCode() {
+    RichTextBox box;
+    box.SetSelFontName(u"Symbol"_s);
+    QTest::keyClicks(&box, u"ab"_s);
+    const QByteArray rtf = box.TextRTF();
+    QVERIFY(rtf.contains("Symbol;}"));
+    QVERIFY2(rtf.contains("\\'61\\'62"), rtf.constData());
+    RichTextBox again;
+    again.SetTextRTF(rtf);
+    QCOMPARE(again.Text(), box.Text());
+}
+
+void SignTypingTest::lettersOfOtherFontsStay() {
+    RichTextBox box;
+    box.SetSelFontName(u"Arial"_s);
+    QTest::keyClicks(&box, u"abc"_s);
+    QCOMPARE(box.Text(), u"abc"_s);
+}
+
+void SignTypingTest::blanksAndCodesWithoutASignStay() {
+    RichTextBox box;
+    box.SetSelFontName(u"Symbol"_s);
+    QTest::keyClicks(&box, u"a b\u0436"_s);
+    QCOMPARE(box.Text(), u"\u03b1 \u03b2\u0436"_s);
+}
+
+void SignTypingTest::whatIsTypedOverSignsIsSigns() {
+    RichTextBox box;
+    box.SetSelFontName(u"Symbol"_s);
+    QTest::keyClicks(&box, u"ab"_s);
+    box.SetSelStart(0);
+    box.SetSelLength(1);
+    QTest::keyClicks(&box, u"d"_s);
+    QCOMPARE(box.Text(), u"\u03b4\u03b2"_s);
+}
+
+void SignTypingTest::oneUndoTakesBackTheSignsThatWereTyped() {
+    RichTextBox box;
+    box.SetSelFontName(u"Symbol"_s);
+    QTest::keyClicks(&box, u"abc"_s);
+    QCOMPARE(box.UndoType(), UndoKind::Typing);
+    box.Undo();
+    QCOMPARE(box.Text(), QString());
+}
+
+ORVALIS_TEST_MAIN_WITH(QApplication, SignTypingTest)
+#include "sign_typing_test.moc"

@@ -302,7 +302,7 @@ double DocumentSink::advance(int format, QChar character) {
 /// Of a label that hangs well within its room nobody has to know the size.
 LabelSize DocumentSink::labelSize(const ParagraphFormat& paragraph, int start) {
     const ListLabel& label = paragraph.list;
-    const QString text = labelText(label, m_lists.number());
+    const QString text = labelText(m_lists.newLabel(), m_lists.number());
     const double room = paragraph.first / -TwipsPerPixel;
     const bool hangs = label.follow == LabelFollow::Tab && label.side == LabelSide::Left &&
                        paragraph.tabs.isEmpty() && label.tab == 0;

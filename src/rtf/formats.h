@@ -105,6 +105,9 @@ enum class LabelFollow : quint8 { Tab, Blank, Nothing };
 /// Which side of a label stands at the hanging indent.
 enum class LabelSide : quint8 { Left, Center, Right };
 
+/// How many levels a list has, whose numbers are told by the codes from 0 on.
+inline constexpr int NumberCodes = 9;
+
 /// The label of a list item. Items of one list of the list tables share the identity; 0 stands for
 /// a list that is held together only by its paragraphs following each other.
 struct ListLabel {
@@ -116,6 +119,8 @@ struct ListLabel {
     LabelFollow follow = LabelFollow::Tab;
     LabelSide side = LabelSide::Left;
     int numbering = 0; ///< which \pn the label comes from, 0 for none
+    /// Ahead of the number and behind it. A code below NumberCodes stands for the number that the
+    /// level of that index has above the item.
     QString prefix;
     QString suffix;
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/list_keeper.h"
 
+#include "rtf/list_number.h"
+
 namespace orvalis::rtf {
 
 namespace {
@@ -61,7 +63,23 @@ bool ListKeeper::isFull(const Entry& entry) const {
     return entry.items >= (whole ? MostNumbers : MostItems);
 }
 
+void ListKeeper::takeNumbersAbove(QString& text) const {
+    for (int level = 0; level < NumberCodes; ++level)
+        if (const QChar code(level); text.contains(code))
+            text.replace(code, m_numbers.value({m_new.identity, level}, QStringLiteral("1")));
+}
+
 QTextList* ListKeeper::goOn(const ParagraphFormat& item) {
+    QTextList* const list = find(item);
+    if (m_new.identity == 0 || m_new.kind == ListKind::Bullet)
+        return list;
+    takeNumbersAbove(m_new.prefix);
+    takeNumbersAbove(m_new.suffix);
+    m_numbers[{m_new.identity, m_new.level}] = listNumber(m_new.kind, m_number);
+    return list;
+}
+
+QTextList* ListKeeper::find(const ParagraphFormat& item) {
     const ListLabel& label = item.list;
     Entry* found = entry(shapeKey(item), label);
     if (!found && label.identity == 0) {
@@ -97,7 +115,9 @@ QTextList* ListKeeper::goOn(const ParagraphFormat& item) {
 
 void ListKeeper::began(const ParagraphFormat& item, QTextList* list) {
     const int index = int(m_entries.size());
-    m_entries.append(Entry{m_new, list, 1});
+    ListLabel label = item.list;
+    label.start = m_new.start;
+    m_entries.append(Entry{label, list, 1});
     m_byShape[shapeKey(item)] = index;
     m_byLabel[labelKey(item.list)] = index;
 }

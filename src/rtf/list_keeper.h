@@ -21,7 +21,8 @@ class ListKeeper {
 public:
     /// The list to go on with, null when the item begins a new one. The item counts as its member.
     QTextList* goOn(const ParagraphFormat& item);
-    /// The label of the new list that the item last asked for begins.
+    /// The label of the list that the item last asked for, with the numbers of the levels above it;
+    /// of a new list, the one that it begins with.
     const ListLabel& newLabel() const { return m_new; }
     /// The number of the item that last asked.
     int number() const { return m_number; }
@@ -37,6 +38,8 @@ private:
         int items = 0;
     };
 
+    QTextList* find(const ParagraphFormat& item);
+    void takeNumbersAbove(QString& text) const;
     Entry* entry(size_t key, const ListLabel& label);
     bool isFull(const Entry& entry) const;
     bool goesOn(const Entry& entry, const ParagraphFormat& item, bool adjacent) const;
@@ -44,7 +47,8 @@ private:
     QHash<size_t, int> m_byShape; ///< the last list of each label and indent
     QHash<size_t, int> m_byLabel; ///< the last list of each label
     QList<Entry> m_entries;
-    QHash<int, int> m_levels; ///< of the last item of each identity
+    QHash<int, int> m_levels;                      ///< of the last item of each identity
+    QHash<std::pair<int, int>, QString> m_numbers; ///< the last ones by identity and level
     ListLabel m_last;
     ListLabel m_new;
     int m_members = 0; ///< of all lists

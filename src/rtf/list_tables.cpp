@@ -8,7 +8,7 @@ namespace orvalis::rtf {
 
 namespace {
 
-constexpr qsizetype MostLevels = 9;
+constexpr qsizetype MostLevels = NumberCodes;
 constexpr qsizetype MostLists = 32768;
 constexpr int LevelFormatBullet = 23;
 constexpr int LevelFormatNone = 255;
@@ -160,12 +160,13 @@ void ListTables::setLevelText(const QString& text) {
     const qsizetype number = label.indexOf(QChar(own));
     if (level->kind == ListKind::Bullet || number < 0)
         return;
-    const auto isPlaceholder = [](QChar c) { return c.unicode() < MostLevels; };
+    // The levels above have their numbers by then.
+    const auto isLater = [own](QChar c) { return c.unicode() < MostLevels && c.unicode() >= own; };
     const QString before = label.first(number);
-    if (std::none_of(before.begin(), before.end(), isPlaceholder))
+    if (std::none_of(before.begin(), before.end(), isLater))
         level->prefix = before;
     const QString after = label.mid(number + 1);
-    if (std::none_of(after.begin(), after.end(), isPlaceholder))
+    if (std::none_of(after.begin(), after.end(), isLater))
         level->suffix = after;
 }
 

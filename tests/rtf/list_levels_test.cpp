@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/list_formats.h"
+#include "rtf/reader.h"
+#include "rtf/writer.h"
+#include "support/test_main.h"
+
+#include <QGuiApplication>
+#include <QTextBlock>
+#include <QTextDocument>
+
+using namespace orvalis;
+using namespace orvalis::rtf;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr const char* Head =
+    "{\\rtf1{\\*\\listtable{\\list"
+    "{\\listlevel\\levelnfc0\\levelstartat1{\\leveltext\\'02\\'00.;}{\\levelnumbers\\'01;}}"
+    "{\\listlevel\\levelnfc0\\levelstartat1{\\leveltext\\'04\\'00.\\'01.;}"
+    "{\\levelnumbers\\'01\\'03;}}"
+    "{\\listlevel\\levelnfc4\\levelstartat1{\\leveltext\\'06\\'00.\\'01.\\'02);}"
+    "{\\levelnumbers\\'01\\'03\\'05;}}\\listid7}}"
+    "{\\*\\listoverridetable{\\listoverride\\listid7\\listoverridecount0\\ls1}}";
+
+/// A document of items of these levels.
+QByteArray itemsOf(const QList<int>& levels) {
+    QByteArray rtf = Head;
+    for (const int level : levels)
+        rtf += "\\pard\\ls1\\ilvl" + QByteArray::number(level) + "\\fi-360\\li720 item\\par";
+    return rtf + '}';
+}
+
+QStringList labelsOf(const QByteArray& rtf) {
+    QTextDocument document;
+    readRtf(rtf, document);
+    QStringList labels;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+        labels << shownLabel(block);
+    return labels;
+}
+
+} // namespace
+
+class ListLevelsTest : public QObject {
+    Q_OBJECT
+private slots:
+    void anItemTellsTheNumbersOfTheLevelsAboveIt();
+    void theNumbersAboveAreThoseOfTheLastItems();
+    void aLevelWithoutAnItemAboveItCountsFromOne();
+    void theLabelsAreWrittenAsTheyAre();
+    void aCodeInATextThatIsNoLevelTextIsNoNumber();
+};
+
+void ListLevelsTest::anItemTellsTheNumbersOfTheLevelsAboveIt() {
+    QCOMPARE(labelsOf(itemsOf({0, 1, 1, 2, 2, 1})),
+             (QStringList{u"1."_s, u"1.1."_s, u"1.2."_s, u"1.2.a)"_s, u"1.2.b)"_s, u"1.3."_s}));
+}
+
+void ListLevelsTest::theNumbersAboveAreThoseOfTheLastItems() {
+    QCOMPARE(
+        labelsOf(itemsOf({0, 1, 0, 1, 2, 0, 1})),
+        (QStringList{u"1."_s, u"1.1."_s, u"2."_s, u"2.1."_s, u"2.1.a)"_s, u"3."_s, u"3.1."_s}));
+}
+
+void ListLevelsTest::aLevelWithoutAnItemAboveItCountsFromOne() {
+    QCOMPARE(labelsOf(itemsOf({2, 1})), (QStringList{u"1.1.a)"_s, u"1.1."_s}));
+}
+
+void ListLevelsTest::theLabelsAreWrittenAsTheyAre() {
+    const QByteArray rtf = itemsOf({0, 1, 2, 0, 1, 1});
+    QTextDocument document;
+    readRtf(rtf, document);
+    const QByteArray written = writeRtf(document);
+    QCOMPARE(labelsOf(written), labelsOf(rtf));
+    QTextDocument again;
+    readRtf(written, again);
+    QCOMPARE(writeRtf(again), written);
+}
+
+void ListLevelsTest::aCodeInATextThatIsNoLevelTextIsNoNumber() {
+    QCOMPARE(labelsOf("{\\rtf1\\pard{\\*\\pn\\pnlvlbody\\pndec{\\pntxtb \\'01(}{\\pntxta )}}"
+                      "\\fi-360\\li720 item\\par}"),
+             QStringList{u"(1)"_s});
+}
+
+ORVALIS_TEST_MAIN_WITH(QGuiApplication, ListLevelsTest)
+#include "list_levels_test.moc"

@@ -54,6 +54,24 @@ void widenRunsOfBlanks(QTextDocument& document) {
     }
 }
 
+/// Whether a control word goes on there.
+bool goesOn(const QByteArray& rtf, qsizetype at) {
+    return at < rtf.size() && QChar::isLetter(uchar(rtf[at]));
+}
+
+qsizetype groupLength(const QByteArray& rtf, qsizetype start) {
+    qsizetype end = start;
+    int depth = 0;
+    do {
+        if (rtf[end] == '\\')
+            ++end;
+        else if (rtf[end] == '{' || rtf[end] == '}')
+            depth += rtf[end] == '{' ? 1 : -1;
+        ++end;
+    } while (depth > 0 && end < rtf.size());
+    return end - start;
+}
+
 } // namespace
 
 QRectF textArea(const QByteArray& rtf) {
@@ -66,20 +84,21 @@ QRectF textArea(const QByteArray& rtf) {
 }
 
 QByteArray withoutNotes(QByteArray rtf) {
+    bool hasNotes = false;
     for (const QByteArray note : {"{\\footnote", "{\\*\\footnote"})
         for (qsizetype at = rtf.indexOf(note); at >= 0; at = rtf.indexOf(note, at)) {
-            qsizetype end = at;
-            int depth = 0;
-            do {
-                if (rtf[end] == '\\')
-                    ++end;
-                else if (rtf[end] == '{' || rtf[end] == '}')
-                    depth += rtf[end] == '{' ? 1 : -1;
-                ++end;
-            } while (depth > 0 && end < rtf.size());
-            rtf.remove(at, end - at);
+            if (goesOn(rtf, at + note.size())) {
+                ++at;
+                continue;
+            }
+            rtf.remove(at, groupLength(rtf, at));
+            hasNotes = true;
         }
-    return rtf.replace("\\chftn", "");
+    const QByteArray mark = "\\chftn";
+    for (qsizetype at = rtf.indexOf(mark); hasNotes && at >= 0; at = rtf.indexOf(mark, at + 1))
+        if (!goesOn(rtf, at + mark.size()))
+            rtf.remove(at, mark.size());
+    return rtf;
 }
 
 bool widensBlanks(const QByteArray& text) {

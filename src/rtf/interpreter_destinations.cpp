@@ -3,6 +3,7 @@
 #include "rtf/equation_text.h"
 #include "rtf/hyperlink.h"
 #include "rtf/interpreter.h"
+#include "rtf/symbol_field.h"
 
 #include <algorithm>
 
@@ -203,7 +204,7 @@ void Interpreter::closeDestination(Destination destination) {
         const QString target = hyperlinkTarget(captured);
         if (!target.isEmpty())
             m_state.chars.link = m_names.link(target);
-        m_fieldText = equationText(captured);
+        m_fieldText = equationText(captured) + symbolFieldText(captured);
         return;
     }
     case Destination::ShapePropertyName:

@@ -130,6 +130,21 @@ void ReaderTextTest::everyFormOfTextIsRead_data() {
     row("equation with a picture for a result",
         "{\\field{\\*\\fldinst EQ \\\\f(1,2)}{\\fldrslt{\\pict\\pngblip 00}}}c",
         QStringLiteral("\ufffcc"));
+    row("sign of a font of signs",
+        "{\\field{\\*\\fldinst SYMBOL 97 \\\\f \"Symbol\" \\\\s 12}"
+        "{\\fldrslt\\fs24}}b",
+        QStringLiteral("\u03b1b"));
+    row("sign by its hexadecimal code", "{\\field{\\*\\fldinst symbol 0xF04A \\\\f Wingdings}}b",
+        QStringLiteral("\u263ab"));
+    row("sign of no font", "{\\field{\\*\\fldinst SYMBOL 128}}b", QStringLiteral("\u20acb"));
+    row("sign by its number in Unicode", "{\\field{\\*\\fldinst SYMBOL 1078 \\\\u}}b",
+        QStringLiteral("\u0436b"));
+    row("sign with a result", "{\\field{\\*\\fldinst SYMBOL 97 \\\\f Symbol}{\\fldrslt x}}b",
+        QStringLiteral("xb"));
+    row("signs that are none",
+        "{\\field{\\*\\fldinst SYMBOL 7}}{\\field{\\*\\fldinst SYMBOL}}"
+        "{\\field{\\*\\fldinst SYMBOL 55296 \\\\u}}{\\field{\\*\\fldinst SYMBOLS 97}}b",
+        QStringLiteral("b"));
     row("other field without a result", " a{\\field{\\*\\fldinst EQUALS (b)}{\\fldrslt }}c",
         QStringLiteral("ac"));
     row("a second brace too many", " a}b\\par c", QStringLiteral("ab\nc"));

@@ -5,17 +5,16 @@
 #include "address/address_search.h"
 #include "address/plain_text_box.h"
 #include "controls/combo_box.h"
-#include "controls/edit_menu.h"
 #include "controls/image.h"
 #include "controls/label.h"
 #include "controls/progress_bar.h"
 #include "controls/title_line.h"
 #include "core/button_look.h"
+#include "core/page_controls.h"
 #include "core/picture_button.h"
 #include "core/skin_picture.h"
 #include "skin/ink.h"
 #include "skin/palette.h"
-#include "skin/type.h"
 #include "widgets/gg_command.h"
 
 #include <QCheckBox>
@@ -52,29 +51,17 @@ constexpr QRect NotesPlace(380, 242, 296, 180);
 /// How long a line may become; the usual bound of lines would cut what a file holds.
 constexpr int MostCharacters = std::numeric_limits<int>::max();
 
-Label* label(QWidget& parent, const QString& name, const QRect& place, const QString& caption) {
-    auto* made = new Label(name, caption, &parent);
-    made->setGeometry(place);
-    made->setFont(skin::font(skin::points::Body));
-    return made;
-}
-
 Label* quietLabel(QWidget& parent, const QString& name, const QRect& place,
                   const QString& caption) {
-    Label* made = label(parent, name, place, caption);
+    Label* made = pageLabel(parent, name, place, caption);
     skin::setInk(*made, skin::colour::Quiet);
     return made;
 }
 
 QLineEdit* line(QWidget& parent, const QString& name, const QRect& place,
                 const QString& accessibleName) {
-    auto* made = new QLineEdit(&parent);
-    made->setObjectName(name);
-    made->setGeometry(place);
-    made->setFont(skin::font(skin::points::Body));
-    made->setAccessibleName(accessibleName);
+    QLineEdit* made = pageLine(parent, name, place, accessibleName);
     made->setMaxLength(MostCharacters);
-    giveEditMenu(*made);
     keepEditsToOneLine(*made);
     return made;
 }
@@ -92,20 +79,13 @@ QLineEdit* saidLine(QWidget& parent, const QString& name, const QRect& place,
 RichTextBox* textArea(QWidget& parent, const QString& name, const QRect& place,
                       const QString& accessibleName) {
     auto* made = new PlainTextBox(&parent);
-    made->setObjectName(name);
-    made->setGeometry(place);
-    made->setFont(skin::font(skin::points::Body));
-    made->setAccessibleName(accessibleName);
-    made->setTabChangesFocus(true);
+    makePageText(*made, name, place, accessibleName);
     return made;
 }
 
 ComboBox* combo(QWidget& parent, const QString& name, const QRect& place,
                 const QString& accessibleName) {
-    auto* made = new ComboBox(name, &parent);
-    made->setGeometry(place);
-    made->setFont(skin::font(skin::points::Body));
-    made->setAccessibleName(accessibleName);
+    ComboBox* made = pageCombo(parent, name, place, accessibleName);
     made->lineEdit()->setMaxLength(MostCharacters);
     keepEditsToOneLine(*made->lineEdit());
     return made;
@@ -162,7 +142,8 @@ void AddressControls::makeCard(QWidget& panel) {
     card->setPicture(skinPicture(u"address_card"_s));
     int number = 0;
     const auto said = [&](int top, const QString& caption) {
-        label(panel, u"Label%1"_s.arg(++number), {LabelLeft, top, LabelWidth, LineHeight}, caption);
+        pageLabel(panel, u"Label%1"_s.arg(++number), {LabelLeft, top, LabelWidth, LineHeight},
+                  caption);
         return caption;
     };
     const auto place = [](int top, int left = FieldLeft, int right = FieldRight,
@@ -215,28 +196,18 @@ void AddressControls::makePicture(QWidget& panel) {
 }
 
 void AddressControls::makeFind(QWidget& panel) {
-    Frame2 = new QGroupBox(u"Find"_s, &panel);
-    Frame2->setObjectName(u"Frame2"_s);
-    Frame2->setGeometry(FindPlace);
-    Frame2->setFont(skin::font(skin::points::Body));
-    const Label* by = label(*Frame2, u"Label17"_s, {10, 18, 136, 16}, u"Search by:"_s);
+    Frame2 = pageFrame(panel, u"Frame2"_s, FindPlace, u"Find"_s);
+    const Label* by = pageLabel(*Frame2, u"Label17"_s, {10, 18, 136, 16}, u"Search by:"_s);
     Combo2 = combo(*Frame2, u"Combo2"_s, {10, 35, 136, 22}, by->Caption());
     for (const QString& method : searchMethods().first(2))
         Combo2->AddItem(method);
     Combo2->setText(noMethod());
     new OpensByText(*Combo2);
-    const Label* value = label(*Frame2, u"Label18"_s, {10, 64, 136, 16}, u"Search for:"_s);
+    const Label* value = pageLabel(*Frame2, u"Label18"_s, {10, 64, 136, 16}, u"Search for:"_s);
     Combo3 = combo(*Frame2, u"Combo3"_s, {10, 81, 136, 22}, value->Caption());
     Combo3->setEnabled(false);
-    chCase = new QCheckBox(u"&Match Case"_s, Frame2);
-    chCase->setObjectName(u"chCase"_s);
-    chCase->setGeometry(10, 111, 136, 18);
-    chCase->setFont(skin::font(skin::points::Body));
-    cmdFind = new GGCommand(u"cmdFind"_s, Frame2);
-    cmdFind->setGeometry(42, 138, 72, 24);
-    cmdFind->setCaption(u"Find"_s);
-    cmdFind->setFont(skin::font(skin::points::Body));
-    wearLook(*cmdFind, skin::PageButton);
+    chCase = pageCheck(*Frame2, u"chCase"_s, {10, 111, 136, 18}, u"&Match Case"_s);
+    cmdFind = pageButton(*Frame2, u"cmdFind"_s, {42, 138, 72, 24}, u"Find"_s);
     wearPicture(*cmdFind, u"find_small"_s);
     cmdFind->setEnabled(false);
     Combo4 = combo(panel, u"Combo4"_s, {0, 0, 136, 22}, {});
@@ -244,7 +215,7 @@ void AddressControls::makeFind(QWidget& panel) {
 }
 
 void AddressControls::makeNotes(QWidget& panel) {
-    Label* words = label(panel, u"Label19"_s, {380, 224, 200, 16}, u"NOTES"_s);
+    Label* words = pageLabel(panel, u"Label19"_s, {380, 224, 200, 16}, u"NOTES"_s);
     Text13 = textArea(panel, u"Text13"_s, NotesPlace, words->Caption());
     PB1 = new ProgressBar(u"PB1"_s, &panel);
     PB1->setGeometry(380, 425, 296, 8);
@@ -287,17 +258,11 @@ void AddressControls::makeCommands(QWidget& panel) {
 }
 
 void AddressControls::setTabOrder() {
-    const std::initializer_list<QWidget*> order{
-        Text1,   Text2,    Combo1,   Text3,    Text4,    Text5,    Text6,    Text7,
-        Text8,   Text9,    imgPhone, Text10,   Text11,   imgEmail, Text12,   imgNet,
-        Text13,  Combo2,   Combo3,   chCase,   imgNew,   imgAdd,   imgSave,  imgDel,
-        imgSort, imgPrint, imgBack,  Command2, Command3, Command4, Command5, imgAdresa1};
-    QWidget* before = nullptr;
-    for (QWidget* control : order) {
-        if (before)
-            QWidget::setTabOrder(before, control);
-        before = control;
-    }
+    orvalis::setTabOrder({Text1,    Text2,    Combo1,   Text3,     Text4,    Text5,   Text6,
+                          Text7,    Text8,    Text9,    imgPhone,  Text10,   Text11,  imgEmail,
+                          Text12,   imgNet,   Text13,   Combo2,    Combo3,   chCase,  imgNew,
+                          imgAdd,   imgSave,  imgDel,   imgSort,   imgPrint, imgBack, Command2,
+                          Command3, Command4, Command5, imgAdresa1});
 }
 
 std::array<QLineEdit*, 11> AddressControls::lines() const {

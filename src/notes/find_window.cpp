@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "notes/find_window.h"
 
-#include "controls/edit_menu.h"
 #include "controls/label.h"
 #include "controls/message_boxes.h"
 #include "controls/rich_text_box.h"
 #include "core/dialog_controls.h"
+#include "core/page_controls.h"
 #include "core/program.h"
 #include "core/top_most.h"
 #include "runtime/twips.h"
@@ -24,22 +24,6 @@ namespace {
 
 constexpr int ClientWidth = 4950; // twips
 constexpr int ClientHeight = 1950;
-
-QLineEdit* line(QWidget& parent, const QString& name, const Label& caption, const QRect& place) {
-    auto* made = new QLineEdit(&parent);
-    made->setObjectName(name);
-    made->setGeometry(place);
-    made->setAccessibleName(caption.Caption());
-    giveEditMenu(*made);
-    return made;
-}
-
-QCheckBox* check(QWidget& parent, const QString& name, const QString& caption, const QRect& place) {
-    auto* made = new QCheckBox(caption, &parent);
-    made->setObjectName(name);
-    made->setGeometry(place);
-    return made;
-}
 
 QPushButton* button(QWidget& parent, const QString& name, const QString& caption, int top) {
     auto* made = new QPushButton(caption, &parent);
@@ -63,14 +47,12 @@ frmFind::frmFind(Program& program)
 }
 
 void frmFind::makeControls() {
-    auto* findWhat = new Label(u"Label1"_s, u"Find what:"_s, this);
-    findWhat->setGeometry(10, 13, 78, 16);
-    m_Text1 = line(*this, u"Text1"_s, *findWhat, {90, 10, 134, 22});
-    auto* replaceWith = new Label(u"Label2"_s, u"Replace with:"_s, this);
-    replaceWith->setGeometry(10, 43, 78, 16);
-    m_Text2 = line(*this, u"Text2"_s, *replaceWith, {90, 40, 134, 22});
-    m_Check1 = check(*this, u"Check1"_s, u"&Case sensitive"_s, {90, 72, 134, 20});
-    m_Check2 = check(*this, u"Check2"_s, u"&Whole word only"_s, {90, 96, 134, 20});
+    const Label* findWhat = pageLabel(*this, u"Label1"_s, {10, 13, 78, 16}, u"Find what:"_s);
+    m_Text1 = pageLine(*this, u"Text1"_s, {90, 10, 134, 22}, findWhat->Caption());
+    const Label* replaceWith = pageLabel(*this, u"Label2"_s, {10, 43, 78, 16}, u"Replace with:"_s);
+    m_Text2 = pageLine(*this, u"Text2"_s, {90, 40, 134, 22}, replaceWith->Caption());
+    m_Check1 = pageCheck(*this, u"Check1"_s, {90, 72, 134, 20}, u"&Case sensitive"_s);
+    m_Check2 = pageCheck(*this, u"Check2"_s, {90, 96, 134, 20}, u"&Whole word only"_s);
     m_FindButton = button(*this, u"FindButton"_s, u"Find"_s, 9);
     m_FindNextButton = button(*this, u"FindNextButton"_s, u"Find Next"_s, 32);
     m_ReplaceButton = button(*this, u"ReplaceButton"_s, u"Replace"_s, 55);

@@ -2,19 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "notes/notes_controls.h"
 
-#include "controls/edit_menu.h"
 #include "controls/image.h"
 #include "controls/label.h"
 #include "controls/progress_bar.h"
 #include "controls/rich_text_box.h"
 #include "controls/twips_geometry.h"
-#include "core/button_look.h"
+#include "core/page_controls.h"
 #include "core/picture_button.h"
 #include "notes/document_rules.h"
 #include "notes/page_toolbar.h"
 #include "skin/ink.h"
 #include "skin/palette.h"
-#include "skin/type.h"
 #include "widgets/gg_command.h"
 
 #include <QCheckBox>
@@ -46,24 +44,8 @@ Image* command(QWidget& panel, const QString& name, int left, const QString& too
     return pictureButton(panel, name, {left, CommandsTop, 32, 32}, toolTip, picture);
 }
 
-GGCommand* button(QWidget& parent, const QString& name, const QRect& place,
-                  const QString& caption) {
-    auto* made = new GGCommand(name, &parent);
-    made->setGeometry(place);
-    made->setCaption(caption);
-    made->setFont(skin::font(skin::points::Body));
-    wearLook(*made, skin::PageButton);
-    return made;
-}
-
-Label* label(QWidget& parent, const QString& name, const QString& caption) {
-    auto* made = new Label(name, caption, &parent);
-    made->setFont(skin::font(skin::points::Body));
-    return made;
-}
-
 Label* title(QWidget& panel, const QString& name, const QRect& twips) {
-    Label* made = label(panel, name, untitled());
+    Label* made = pageLabel(panel, name, {}, untitled());
     setTwipsGeometry(*made, twips);
     made->setTextFormat(Qt::PlainText);
     made->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -75,11 +57,9 @@ Label* title(QWidget& panel, const QString& name, const QRect& twips) {
 RichTextBox* page(QWidget& panel, const QString& name, const QRect& twips,
                   const QString& accessibleName) {
     auto* made = new RichTextBox(&panel);
-    made->setObjectName(name);
-    made->setAccessibleName(accessibleName);
+    makePageText(*made, name, {}, accessibleName);
     made->setProperty("skinSurface", u"paper"_s);
     setTwipsGeometry(*made, twips);
-    made->setFont(skin::font(skin::points::Body));
     return made;
 }
 
@@ -87,25 +67,6 @@ ProgressBar* progress(QWidget& panel, const QString& name, const QRect& twips) {
     auto* made = new ProgressBar(name, &panel);
     setTwipsGeometry(*made, twips);
     made->hide();
-    return made;
-}
-
-QLineEdit* line(QWidget& parent, const QString& name, const QRect& place,
-                const QString& accessibleName) {
-    auto* made = new QLineEdit(&parent);
-    made->setObjectName(name);
-    made->setGeometry(place);
-    made->setFont(skin::font(skin::points::Body));
-    made->setAccessibleName(accessibleName);
-    giveEditMenu(*made);
-    return made;
-}
-
-QCheckBox* check(QWidget& parent, const QString& name, const QRect& place, const QString& caption) {
-    auto* made = new QCheckBox(caption, &parent);
-    made->setObjectName(name);
-    made->setGeometry(place);
-    made->setFont(skin::font(skin::points::Body));
     return made;
 }
 
@@ -124,14 +85,12 @@ void NotesControls::makePages(QWidget& panel) {
     Label1 = title(panel, u"Label1"_s, RightTitle);
     skin::setInk(*Label3, skin::colour::Ink);
     skin::setInk(*Label1, Grey);
-    Button1 = button(panel, u"Button1"_s, {390, 48, 56, 18}, u"Edit"_s);
+    Button1 = pageButton(panel, u"Button1"_s, {390, 48, 56, 18}, u"Edit"_s);
     rt1a = page(panel, u"rt1a"_s, RightPage, u"Right page"_s);
     rt1a->setReadOnly(true);
-    rt1a->setTabChangesFocus(true);
     rt5 = page(panel, u"rt5"_s, LeftPage, {});
     rt5->hide();
     rt1 = page(panel, u"rt1"_s, LeftPage, u"Left page"_s);
-    rt1->setTabChangesFocus(true);
 }
 
 void NotesControls::makeToolbars(QWidget& panel) {
@@ -189,19 +148,18 @@ void NotesControls::makeFindFrame(QWidget& panel) {
     Frame1->setFrameShape(QFrame::StyledPanel);
     Frame1->setAutoFillBackground(true);
     setTwipsGeometry(*Frame1, FindPlace);
-    Label5 = label(*Frame1, u"Label5"_s, u"Find what:"_s);
-    Label5->setGeometry(10, 10, 74, 18);
-    Text1 = line(*Frame1, u"Text1"_s, {86, 8, 137, 22}, Label5->Caption());
-    Label4 = label(*Frame1, u"Label4"_s, u"Replace with:"_s);
-    Label4->setGeometry(10, 36, 74, 18);
-    Text2 = line(*Frame1, u"Text2"_s, {86, 34, 137, 22}, Label4->Caption());
-    Check4 = check(*Frame1, u"Check4"_s, {10, 62, 100, 20}, u"&Case sensitive"_s);
-    Check3 = check(*Frame1, u"Check3"_s, {112, 62, 116, 20}, u"&Whole word only"_s);
-    FindButton = button(*Frame1, u"FindButton"_s, {10, 89, 68, 23}, u"Find"_s);
-    FindNextButton = button(*Frame1, u"FindNextButton"_s, {10, 116, 68, 23}, u"Next"_s);
-    ReplaceButton = button(*Frame1, u"ReplaceButton"_s, {82, 89, 74, 23}, u"Replace"_s);
-    ReplaceAllButton = button(*Frame1, u"ReplaceAllButton"_s, {82, 116, 74, 23}, u"Replace All"_s);
-    Command5 = button(*Frame1, u"Command5"_s, {160, 116, 63, 23}, u"Close"_s);
+    Label5 = pageLabel(*Frame1, u"Label5"_s, {10, 10, 74, 18}, u"Find what:"_s);
+    Text1 = pageLine(*Frame1, u"Text1"_s, {86, 8, 137, 22}, Label5->Caption());
+    Label4 = pageLabel(*Frame1, u"Label4"_s, {10, 36, 74, 18}, u"Replace with:"_s);
+    Text2 = pageLine(*Frame1, u"Text2"_s, {86, 34, 137, 22}, Label4->Caption());
+    Check4 = pageCheck(*Frame1, u"Check4"_s, {10, 62, 100, 20}, u"&Case sensitive"_s);
+    Check3 = pageCheck(*Frame1, u"Check3"_s, {112, 62, 116, 20}, u"&Whole word only"_s);
+    FindButton = pageButton(*Frame1, u"FindButton"_s, {10, 89, 68, 23}, u"Find"_s);
+    FindNextButton = pageButton(*Frame1, u"FindNextButton"_s, {10, 116, 68, 23}, u"Next"_s);
+    ReplaceButton = pageButton(*Frame1, u"ReplaceButton"_s, {82, 89, 74, 23}, u"Replace"_s);
+    ReplaceAllButton =
+        pageButton(*Frame1, u"ReplaceAllButton"_s, {82, 116, 74, 23}, u"Replace All"_s);
+    Command5 = pageButton(*Frame1, u"Command5"_s, {160, 116, 63, 23}, u"Close"_s);
     Frame1->hide();
 }
 
@@ -211,8 +169,7 @@ void NotesControls::setTabOrder() {
         for (QToolButton* tool : toolbar->buttons())
             order << tool;
     order << QWidgetList{imgNew, imgSave, imgSlika, imgFind, imgMail, rt1a, imgOpen, imgPrint};
-    for (qsizetype i = 1; i < order.size(); ++i)
-        QWidget::setTabOrder(order[i - 1], order[i]);
+    orvalis::setTabOrder(order);
 }
 
 } // namespace orvalis

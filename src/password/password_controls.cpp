@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "password/password_controls.h"
 
-#include "controls/edit_menu.h"
 #include "controls/image.h"
 #include "controls/label.h"
 #include "controls/progress_bar.h"
 #include "controls/rich_text_box.h"
 #include "controls/twips_geometry.h"
-#include "core/button_look.h"
+#include "core/page_controls.h"
 #include "core/picture_button.h"
 #include "core/skin_picture.h"
 #include "skin/type.h"
@@ -45,11 +44,8 @@ constexpr skin::ButtonLook CryptButton{skin::PageButton.backColor, 0xFFFCF8, 0xC
 RichTextBox* textArea(QWidget& panel, const QString& name, const QRectF& twips,
                       const QString& accessibleName) {
     auto* made = new RichTextBox(&panel);
-    made->setObjectName(name);
-    made->setAccessibleName(accessibleName);
-    made->setFont(skin::font(skin::points::Body));
+    makePageText(*made, name, {}, accessibleName);
     made->files().setPlain(RichTextFiles::Plain::Ansi);
-    made->setTabChangesFocus(true);
     made->setMarksNoBreakBlanks(true); // which are codes among others here
     setTwipsGeometry(*made, twips);
     return made;
@@ -74,20 +70,13 @@ void PasswordControls::makeTexts(QWidget& panel) {
 }
 
 void PasswordControls::makeFrame(QWidget& panel) {
-    Frame4 = new QGroupBox(u"Encrypt/Decrypt text "_s, &panel);
-    Frame4->setObjectName(u"Frame4"_s);
-    Frame4->setFont(skin::font(skin::points::Body));
+    Frame4 = pageFrame(panel, u"Frame4"_s, {}, u"Encrypt/Decrypt text "_s);
     setTwipsGeometry(*Frame4, {5940, 4110, 3945, 1575});
-    Label6 = new Label(u"Label6"_s, u"Password"_s, Frame4);
-    Label6->setFont(skin::font(skin::points::Body));
+    Label6 = pageLabel(*Frame4, u"Label6"_s, {}, u"Password"_s);
     Label6->setAlignment(Qt::AlignCenter);
     setTwipsGeometry(*Label6, {1605, 240, 750, 210});
-    txtPW = new QLineEdit(Frame4);
-    txtPW->setObjectName(u"txtPW"_s);
-    txtPW->setAccessibleName(u"Password"_s);
+    txtPW = pageLine(*Frame4, u"txtPW"_s, {}, Label6->Caption());
     txtPW->setEchoMode(QLineEdit::Password);
-    giveEditMenu(*txtPW);
-    txtPW->setFont(skin::font(skin::points::Body));
     QPalette palette = txtPW->palette();
     palette.setColor(QPalette::Base, QColor(FieldPaper));
     txtPW->setPalette(palette);
@@ -95,10 +84,9 @@ void PasswordControls::makeFrame(QWidget& panel) {
     const std::array captions{u"Encrypt"_s, u"Decrypt"_s};
     const std::array lefts{600, 2520};
     for (std::size_t index = 0; index < cmdCrypt.size(); ++index) {
-        auto* button = new GGCommand(u"cmdCrypt(%1)"_s.arg(index), Frame4);
-        button->setCaption(captions.at(index));
+        GGCommand* button =
+            pageButton(*Frame4, u"cmdCrypt(%1)"_s.arg(index), {}, captions.at(index), CryptButton);
         button->setFont(cryptFont());
-        wearLook(*button, CryptButton);
         setTwipsGeometry(*button, {static_cast<qreal>(lefts.at(index)), 1140, 855, 255});
         cmdCrypt.at(index) = button;
     }
@@ -132,8 +120,7 @@ void PasswordControls::makeMethods(QWidget& panel) {
 }
 
 void PasswordControls::setTabOrder() {
-    QWidget::setTabOrder(txtrt1, txtText);
-    QWidget::setTabOrder(txtText, txtPW);
+    orvalis::setTabOrder({txtrt1, txtText, txtPW});
 }
 
 } // namespace orvalis

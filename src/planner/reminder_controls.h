@@ -89,7 +89,6 @@ private:
     void makeReminderFrame(QWidget& panel);
     void makeFindFrame(QWidget& panel);
     void makeSubPanels(QWidget& panel);
-    void setEditMenus();
     void setTabOrder();
 };
 

@@ -6,18 +6,13 @@
 #include "address/address_file.h"
 #include "address/address_panel.h"
 #include "controls/combo_box.h"
-#include "controls/image.h"
-#include "controls/label.h"
 #include "controls/progress_bar.h"
 #include "controls/rich_text_box.h"
 #include "support/plain_windows.h"
 #include "support/test_main.h"
-#include "support/test_program.h"
-#include "widgets/gg_command.h"
+#include "support/window_ground.h"
 
 #include <QAbstractItemView>
-#include <QApplication>
-#include <QCheckBox>
 #include <QGroupBox>
 #include <QLineEdit>
 
@@ -45,7 +40,7 @@ inline AddressRecord named(const QString& first, const QString& second) {
 }
 
 /// An Address panel in a program over doubles. It is made by the first panel().
-class AddressGround : public TestProgram {
+class AddressGround : public WindowGround<AddressPanel, frmnotes3> {
 public:
     AddressGround() {
         screen.screenSize = QSize(800, 600);
@@ -64,14 +59,6 @@ public:
         layDown(contacts);
         return panel();
     }
-    frmnotes3& panel() { return static_cast<frmnotes3&>(program.windows.get<AddressPanel>()); }
-    /// The panel on the screen and in use.
-    frmnotes3& shown() {
-        frmnotes3& form = panel();
-        form.Show();
-        QApplication::setActiveWindow(&form);
-        return form;
-    }
     /// The run ends and another one begins: the array is gone, the files stay.
     void startAgain() {
         program.windows.unload<AddressPanel>();
@@ -79,13 +66,6 @@ public:
         book.AddressCount = 0;
     }
 
-    template <class Control>
-    Control& control(const QString& name) {
-        auto* found = panel().findChild<Control*>(name);
-        if (!found)
-            qFatal("no control %s", qPrintable(name));
-        return *found;
-    }
     QLineEdit& line(const QString& name) { return control<QLineEdit>(name); }
     ComboBox& combo(const QString& name) { return control<ComboBox>(name); }
     Image& image(const QString& name) { return control<Image>(name); }
@@ -98,13 +78,6 @@ public:
         line(QStringLiteral("Text2")).setText(second);
     }
 
-    void press(const QString& name) {
-        QWidget& widget = control<QWidget>(name);
-        if (auto* button = qobject_cast<GGCommand*>(&widget))
-            button->setValue(true);
-        else
-            emit static_cast<Image&>(widget).Click();
-    }
     void first() { press(QStringLiteral("Command2")); }
     void previous() { press(QStringLiteral("Command3")); }
     void next() { press(QStringLiteral("Command4")); }

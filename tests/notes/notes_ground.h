@@ -2,26 +2,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "controls/image.h"
-#include "controls/label.h"
 #include "controls/rich_text_box.h"
 #include "notes/notes_panel.h"
 #include "notes/page_toolbar.h"
 #include "support/plain_windows.h"
 #include "support/test_main.h"
-#include "support/test_program.h"
-#include "widgets/gg_command.h"
+#include "support/window_ground.h"
 
-#include <QApplication>
-#include <QCheckBox>
 #include <QFile>
 #include <QLineEdit>
-#include <QToolButton>
 
 namespace orvalis::test {
 
 /// A Notes panel in a program over doubles. The panel is made by the first panel().
-class NotesGround : public TestProgram {
+class NotesGround : public WindowGround<NotesPanel, frmnotes2> {
 public:
     explicit NotesGround(QSize screenSize = QSize(800, 600)) {
         screen.screenSize = screenSize;
@@ -29,43 +23,12 @@ public:
             [this] { return std::make_unique<frmnotes2>(program); });
     }
 
-    frmnotes2& panel() { return static_cast<frmnotes2&>(program.windows.get<NotesPanel>()); }
-    /// The panel on the screen and in use.
-    frmnotes2& shown() {
-        frmnotes2& form = panel();
-        form.Show();
-        QApplication::setActiveWindow(&form);
-        return form;
-    }
-    void leave() { program.windows.unload<NotesPanel>(); }
-
-    template <class Control>
-    Control& control(const QString& name) {
-        auto* found = panel().findChild<Control*>(name);
-        if (!found)
-            qFatal("no control %s", qPrintable(name));
-        return *found;
-    }
     RichTextBox& rt1() { return control<RichTextBox>(QStringLiteral("rt1")); }
     RichTextBox& rt1a() { return control<RichTextBox>(QStringLiteral("rt1a")); }
     RichTextBox& rt5() { return control<RichTextBox>(QStringLiteral("rt5")); }
-    QString caption(const QString& label) { return control<Label>(label).Caption(); }
-    bool isUp(const QString& name) { return !control<QWidget>(name).isHidden(); }
     bool isEnabled(const QString& name) { return control<QWidget>(name).isEnabled(); }
     /// Whether a toolbar's button is down.
     bool isDown(const QString& name) { return control<QToolButton>(name).isChecked(); }
-
-    /// Presses a button or a picture the way its handler hears of it.
-    void press(const QString& name) {
-        QWidget& widget = control<QWidget>(name);
-        if (auto* button = qobject_cast<GGCommand*>(&widget))
-            button->setValue(true);
-        else if (auto* tool = qobject_cast<QToolButton*>(&widget))
-            tool->click();
-        else
-            emit static_cast<Image&>(widget).Click();
-    }
-    void tick(const QString& name, bool on = true) { control<QCheckBox>(name).setChecked(on); }
 
     /// Selects part of the left page.
     void select(int start, int length) {

@@ -2,17 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "controls/image.h"
-#include "controls/label.h"
 #include "controls/progress_bar.h"
 #include "controls/rich_text_box.h"
 #include "password/password_panel.h"
 #include "support/plain_windows.h"
 #include "support/test_main.h"
-#include "support/test_program.h"
-#include "widgets/gg_command.h"
+#include "support/window_ground.h"
 
-#include <QApplication>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QMenu>
@@ -34,7 +30,7 @@ public:
 };
 
 /// A Password panel in a program over doubles.
-class PasswordGround : public TestProgram {
+class PasswordGround : public WindowGround<PasswordPanel, frmnotes4> {
 public:
     PasswordGround() {
         program.windows.registerMaker<PasswordPanel>(
@@ -43,33 +39,11 @@ public:
             [this] { return std::make_unique<SaveMenuOwner>(program, menus); });
     }
 
-    frmnotes4& panel() { return static_cast<frmnotes4&>(program.windows.get<PasswordPanel>()); }
-    frmnotes4& shown() {
-        frmnotes4& form = panel();
-        form.Show();
-        QApplication::setActiveWindow(&form);
-        return form;
-    }
-
-    template <class Control>
-    Control& control(const QString& name) {
-        auto* found = panel().findChild<Control*>(name);
-        if (!found)
-            qFatal("no control %s", qPrintable(name));
-        return *found;
-    }
     RichTextBox& left() { return control<RichTextBox>(QStringLiteral("txtrt1")); }
     RichTextBox& right() { return control<RichTextBox>(QStringLiteral("txtText")); }
     QLineEdit& password() { return control<QLineEdit>(QStringLiteral("txtPW")); }
     ProgressBar& bar() { return control<ProgressBar>(QStringLiteral("PB1")); }
 
-    void press(const QString& name) {
-        QWidget& widget = control<QWidget>(name);
-        if (auto* button = qobject_cast<GGCommand*>(&widget))
-            button->setValue(true);
-        else
-            emit static_cast<Image&>(widget).Click();
-    }
     void encrypt() { press(QStringLiteral("cmdCrypt(0)")); }
     void decrypt() { press(QStringLiteral("cmdCrypt(1)")); }
     /// Chooses an entry of the save menu.

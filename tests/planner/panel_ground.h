@@ -3,19 +3,14 @@
 #pragma once
 
 #include "controls/combo_box.h"
-#include "controls/image.h"
-#include "controls/label.h"
 #include "controls/month_view.h"
 #include "controls/ms_flex_grid.h"
 #include "controls/rich_text_box.h"
 #include "planner/reminder_panel.h"
 #include "support/sticker_doubles.h"
 #include "support/test_main.h"
-#include "support/test_program.h"
-#include "widgets/gg_command.h"
+#include "support/window_ground.h"
 
-#include <QApplication>
-#include <QCheckBox>
 #include <QGroupBox>
 #include <QLineEdit>
 
@@ -39,7 +34,7 @@ private:
 };
 
 /// A Reminder panel in a program over doubles. The panel is made by the first panel().
-class PanelGround : public TestProgram {
+class PanelGround : public WindowGround<ReminderPanel, frmnotes1> {
 public:
     explicit PanelGround(QSize screenSize = QSize(800, 600)) {
         screen.screenSize = screenSize;
@@ -49,24 +44,8 @@ public:
         program.stickers = &stickers;
     }
 
-    frmnotes1& panel() { return static_cast<frmnotes1&>(program.windows.get<ReminderPanel>()); }
-    /// The panel on the screen and in use.
-    frmnotes1& shown() {
-        frmnotes1& form = panel();
-        form.Show();
-        QApplication::setActiveWindow(&form);
-        return form;
-    }
-    void leave() { program.windows.unload<ReminderPanel>(); }
     MSFlexGrid& MS2() { return program.windows.get<StartWindow>().MS2(); }
 
-    template <class Control>
-    Control& control(const QString& name) {
-        auto* found = panel().findChild<Control*>(name);
-        if (!found)
-            qFatal("no control %s", qPrintable(name));
-        return *found;
-    }
     RichTextBox& rt1() { return control<RichTextBox>(QStringLiteral("rt1")); }
     RichTextBox& rt1a() { return control<RichTextBox>(QStringLiteral("rt1a")); }
     RichTextBox& rtMs2() { return control<RichTextBox>(QStringLiteral("rtMs2")); }
@@ -74,18 +53,6 @@ public:
     MSFlexGrid& MS3() { return control<MSFlexGrid>(QStringLiteral("MS3")); }
     MonthView& calendar() { return control<MonthView>(QStringLiteral("MonthView1")); }
     ComboBox& combo(int number) { return control<ComboBox>(QStringLiteral("Combo%1").arg(number)); }
-    QString caption(const QString& label) { return control<Label>(label).Caption(); }
-    bool isUp(const QString& name) { return !control<QWidget>(name).isHidden(); }
-
-    /// Presses a button or a picture the way its handler hears of it.
-    void press(const QString& name) {
-        QWidget& widget = control<QWidget>(name);
-        if (auto* button = qobject_cast<GGCommand*>(&widget))
-            button->setValue(true);
-        else
-            emit static_cast<Image&>(widget).Click();
-    }
-    void tick(const QString& name, bool on = true) { control<QCheckBox>(name).setChecked(on); }
     /// Types into a combo's field.
     void type(ComboBox& combo, const QString& text) {
         combo.lineEdit()->selectAll();

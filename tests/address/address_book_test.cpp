@@ -6,6 +6,7 @@
 #include "address/second_address_file.h"
 #include "runtime/app.h"
 #include "runtime/failure.h"
+#include "support/failure_of.h"
 #include "support/folder_watch.h"
 #include "support/scripted_boxes.h"
 #include "support/small_disk.h"
@@ -30,11 +31,6 @@ const QString NotFound =
 /// Fifteen lines of a contact of whom only the name is known.
 QByteArray linesOf(const QByteArray& first) {
     return '"' + first + "\"\r\n" + QByteArray("\"\"\r\n").repeated(14);
-}
-
-std::optional<ErrorNumber> failureOf(const std::function<void()>& work) {
-    const std::optional<RuntimeError> failure = firstFailure(work);
-    return failure ? std::optional(failure->number()) : std::nullopt;
 }
 
 /// A program's folder and the book in it.

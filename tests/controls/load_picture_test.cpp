@@ -5,6 +5,7 @@
 #include "controls/rich_text_box.h"
 #include "rtf/picture_format.h"
 #include "runtime/failure.h"
+#include "support/failure_of.h"
 #include "support/test_main.h"
 
 #include <QApplication>
@@ -16,6 +17,7 @@
 #include <QTextBlock>
 
 using namespace orvalis;
+using namespace orvalis::test;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -28,12 +30,6 @@ QByteArray picture(const char* format, const QColor& color = Qt::red) {
     buffer.open(QIODevice::WriteOnly);
     image.save(&buffer, format);
     return bytes;
-}
-
-template <class Work>
-int failureOf(const Work& work) {
-    const auto failure = firstFailure(work);
-    return failure ? int(failure->number()) : 0;
 }
 
 /// The bytes of the picture that stands at a place of the text.
@@ -123,12 +119,12 @@ void LoadPictureTest::whatIsNoPictureFails_data() {
 void LoadPictureTest::whatIsNoPictureFails() {
     QFETCH(QByteArray, bytes);
     const QString path = file(bytes, u"x.bmp"_s);
-    QCOMPARE(failureOf([&] { LoadPicture(path); }), int(ErrorNumber::InvalidPicture));
+    QCOMPARE(failureOf([&] { LoadPicture(path); }), ErrorNumber::InvalidPicture);
 }
 
 void LoadPictureTest::aMissingFileFails() {
     QCOMPARE(failureOf([&] { LoadPicture(m_folder->filePath(u"no"_s)); }),
-             int(ErrorNumber::FileNotFound));
+             ErrorNumber::FileNotFound);
 }
 
 void LoadPictureTest::theClipboardHasThePictureAndItsOwnBytes() {
@@ -185,7 +181,7 @@ void LoadPictureTest::aPictureGoesInInsideABatchToo() {
         box.SetSelStart(1);
         box.SetSelLength(2);
         box.InsertPicture(picture("PNG"));
-        QCOMPARE(failureOf([&] { box.InsertPicture("none"); }), int(ErrorNumber::InvalidPicture));
+        QCOMPARE(failureOf([&] { box.InsertPicture("none"); }), ErrorNumber::InvalidPicture);
         QCOMPARE(box.SelStart(), 2);
         box.SetSelText(u"x"_s);
         QCOMPARE(box.Find(u"d"_s), 3);
@@ -198,7 +194,7 @@ void LoadPictureTest::aRefusedPictureChangesNothing() {
     box.SetText(u"abcd"_s);
     box.SetSelStart(1);
     box.SetSelLength(2);
-    QCOMPARE(failureOf([&] { box.InsertPicture("no picture"); }), int(ErrorNumber::InvalidPicture));
+    QCOMPARE(failureOf([&] { box.InsertPicture("no picture"); }), ErrorNumber::InvalidPicture);
     QCOMPARE(box.Text(), u"abcd"_s);
     QCOMPARE(box.SelText(), u"bc"_s);
     QVERIFY(!box.CanUndo());

@@ -4,14 +4,14 @@
 
 #include "controls/rich_text_box.h"
 #include "runtime/failure.h"
+#include "support/failure_of.h"
 #include "support/test_main.h"
 
 #include <QApplication>
 #include <QSignalSpy>
 
-#include <functional>
-
 using namespace orvalis;
+using namespace orvalis::test;
 using namespace Qt::StringLiterals;
 
 class FindCommandsTest : public QObject {
@@ -37,11 +37,6 @@ private slots:
     void aSearchFrom32768OverflowsHitOrNoHit();
 
 private:
-    int failureOf(const std::function<void()>& command) {
-        const auto failure = firstFailure(command);
-        return failure ? static_cast<int>(failure->number()) : 0;
-    }
-
     std::unique_ptr<RichTextBox> m_box;
     FindCommands m_find;
 };
@@ -139,7 +134,7 @@ void FindCommandsTest::replaceAllIsOneStepOfUndoAndOneChange() {
 void FindCommandsTest::replaceAllGoesOnInsideAReplacementThatHoldsTheTextUntilItOverflows() {
     m_box->SetText(u"x a"_s);
     const FindRequest request{.text = u"a"_s, .replacement = u"aa"_s};
-    QCOMPARE(failureOf([&] { m_find.replaceAll(*m_box, request); }), 6);
+    QCOMPARE(failureOf([&] { m_find.replaceAll(*m_box, request); }), ErrorNumber::Overflow);
     QCOMPARE(m_find.foundPosition(), 32767);
     QVERIFY(m_box->Text().size() > 32767);
     m_box->Undo();
@@ -168,16 +163,16 @@ void FindCommandsTest::aHitAt32767IsTakenAndOneBeyondOverflows() {
     QVERIFY(m_find.find(*m_box, request));
     QCOMPARE(m_find.foundPosition(), 32'767);
     m_box->SetText(QString(32'768, u'.') + u"two"_s);
-    QCOMPARE(failureOf([&] { m_find.find(*m_box, request); }), 6);
+    QCOMPARE(failureOf([&] { m_find.find(*m_box, request); }), ErrorNumber::Overflow);
 }
 
 void FindCommandsTest::aSearchFrom32768OverflowsHitOrNoHit() {
     const FindRequest request{.text = u"two"_s};
     m_box->SetText(QString(32'767, u'.') + u"two"_s);
     QVERIFY(m_find.find(*m_box, request));
-    QCOMPARE(failureOf([&] { m_find.findNext(*m_box, request); }), 6);
+    QCOMPARE(failureOf([&] { m_find.findNext(*m_box, request); }), ErrorNumber::Overflow);
     QVERIFY(m_find.find(*m_box, request));
-    QCOMPARE(failureOf([&] { m_find.replace(*m_box, request); }), 6);
+    QCOMPARE(failureOf([&] { m_find.replace(*m_box, request); }), ErrorNumber::Overflow);
     QVERIFY(m_box->Text().endsWith(u'.'));
 }
 

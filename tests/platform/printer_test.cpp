@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/printer.h"
 
+#include "support/failure_of.h"
 #include "support/recording_printer.h"
 #include "support/test_main.h"
 
@@ -37,13 +38,7 @@ int pagesOf(const QString& pdf) {
     return all.mid(all.indexOf(u"Pages:"_s) + 6).section(u'\n', 0, 0).trimmed().toInt();
 }
 
-template <class Work>
-int failureOf(const Work& work) {
-    const auto failure = firstFailure(work);
-    return failure ? int(failure->number()) : 0;
-}
-
-constexpr int Refused = int(ErrorNumber::PrinterError);
+constexpr auto Refused = ErrorNumber::PrinterError;
 
 } // namespace
 

@@ -5,6 +5,7 @@
 #include "runtime/failure.h"
 #include "runtime/unreadable_files.h"
 #include "runtime/whole_file.h"
+#include "support/failure_of.h"
 #include "support/small_disk.h"
 #include "support/temporary_folder.h"
 #include "support/test_main.h"
@@ -14,20 +15,9 @@
 
 #include <sys/stat.h>
 
-#include <functional>
-
 using namespace Qt::StringLiterals;
 using namespace orvalis;
 using namespace orvalis::test;
-
-namespace {
-
-std::optional<ErrorNumber> failureOf(const std::function<void()>& block) {
-    const auto failure = firstFailure(block);
-    return failure ? std::optional(failure->number()) : std::nullopt;
-}
-
-} // namespace
 
 class FileSavingTest : public QObject {
     Q_OBJECT

@@ -3,24 +3,16 @@
 #include "runtime/integer16.h"
 
 #include "runtime/failure.h"
+#include "support/failure_of.h"
 #include "support/test_main.h"
 
 #include <QCoreApplication>
 
-#include <functional>
 #include <limits>
 
 using namespace Qt::StringLiterals;
 using namespace orvalis;
-
-namespace {
-
-std::optional<ErrorNumber> failureOf(const std::function<void()>& block) {
-    const auto failure = firstFailure(block);
-    return failure ? std::optional(failure->number()) : std::nullopt;
-}
-
-} // namespace
+using namespace orvalis::test;
 
 class Integer16Test : public QObject {
     Q_OBJECT

@@ -17,6 +17,12 @@
 #include <X11/SM/SMlib.h>
 #include <poll.h>
 
+// The library's words for plain numbers are names elsewhere.
+#undef Bool
+#undef False
+#undef Status
+#undef True
+
 namespace orvalis::test {
 
 /// A desktop's session manager, as far as a log-out needs one: programs sign on with it, and at the
@@ -62,7 +68,7 @@ public:
     void beginLogOut() {
         m_kept = false;
         tell([](SmsConn program) {
-            SmsSaveYourself(program, SmSaveBoth, True, SmInteractStyleAny, False);
+            SmsSaveYourself(program, SmSaveBoth, 1, SmInteractStyleAny, 0);
         });
     }
     void callOff() { tell(SmsShutdownCancelled); }
@@ -71,10 +77,10 @@ public:
 private:
     using Word = void (*)(SmsConn);
 
-    static Bool anyHost(char*) { return True; }
+    static int anyHost(char*) { return 1; }
 
-    static Status signOn(SmsConn program, SmPointer manager, unsigned long* mask,
-                         SmsCallbacks* callbacks, char**) {
+    static int signOn(SmsConn program, SmPointer manager, unsigned long* mask,
+                      SmsCallbacks* callbacks, char**) {
         *mask = SmsRegisterClientProcMask | SmsInteractRequestProcMask | SmsInteractDoneProcMask |
                 SmsSaveYourselfRequestProcMask | SmsSaveYourselfP2RequestProcMask |
                 SmsSaveYourselfDoneProcMask | SmsCloseConnectionProcMask |
@@ -82,8 +88,8 @@ private:
         callbacks->register_client = {&SessionManager::name, manager};
         callbacks->interact_request = {[](SmsConn who, SmPointer, int) { SmsInteract(who); },
                                        manager};
-        callbacks->interact_done = {[](SmsConn, SmPointer, Bool) {}, manager};
-        callbacks->save_yourself_request = {[](SmsConn, SmPointer, int, Bool, int, Bool, Bool) {},
+        callbacks->interact_done = {[](SmsConn, SmPointer, int) {}, manager};
+        callbacks->save_yourself_request = {[](SmsConn, SmPointer, int, int, int, int, int) {},
                                             manager};
         callbacks->save_yourself_phase2_request = {
             [](SmsConn who, SmPointer) { SmsSaveYourselfPhase2(who); }, manager};
@@ -107,7 +113,7 @@ private:
         return 1;
     }
 
-    static Status name(SmsConn program, SmPointer manager, char* former) {
+    static int name(SmsConn program, SmPointer manager, char* former) {
         if (former != nullptr) {
             std::free(former);
             return 0; // nobody is known from an earlier session
@@ -119,7 +125,7 @@ private:
         return 1;
     }
 
-    static void keeps(SmsConn program, SmPointer manager, Bool) {
+    static void keeps(SmsConn program, SmPointer manager, int) {
         static_cast<SessionManager*>(manager)->m_kept = true;
         SmsSaveComplete(program);
     }
@@ -131,7 +137,7 @@ private:
         std::erase(self.m_signedOn, program);
         std::erase(self.m_connections, connection);
         SmsCleanUp(program);
-        IceSetShutdownNegotiation(connection, False);
+        IceSetShutdownNegotiation(connection, 0);
         IceCloseConnection(connection);
         --self.m_programs;
     }
@@ -186,7 +192,7 @@ private:
         std::erase(m_connections, connection);
         std::erase_if(m_signedOn,
                       [&](SmsConn program) { return SmsGetIceConnection(program) == connection; });
-        IceSetShutdownNegotiation(connection, False);
+        IceSetShutdownNegotiation(connection, 0);
         IceCloseConnection(connection);
     }
 

@@ -33,8 +33,6 @@ QRect inkOf(const QImage& page) {
 
 } // namespace
 
-Q_DECLARE_METATYPE(orvalis::PrintMargins)
-
 class PrintRtfTest : public QObject {
     Q_OBJECT
 private slots:

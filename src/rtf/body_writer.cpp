@@ -76,14 +76,27 @@ BodyWriter::BodyWriter()
     m_format.halfPoints = 0;
 }
 
+/// The font of text that names none is the first of the table, or none of it.
+void BodyWriter::expect(const KeptParts& parts, const QString& shownFamily) {
+    const bool unsaid = parts.defaultFont == DefaultFont::Unsaid;
+    const bool styled = parts.defaultFont == DefaultFont::Named && !parts.styles.isEmpty();
+    if (parts.defaultFont == DefaultFont::Missing || (unsaid && parts.unnamedFamily.isEmpty())) {
+        m_tables.leaveOutFirstFont();
+        m_unnamedFamily = names().family(shownFamily);
+    } else if (unsaid || styled) {
+        m_unnamedFamily = names().family(parts.unnamedFamily);
+        m_tables.font(m_unnamedFamily);
+    }
+}
+
 void BodyWriter::beginParagraph(const ParagraphFormat& paragraph, int number) {
     goTo(paragraph);
     m_paragraphs.begin(paragraph, number);
     writeAnchors(paragraph.anchors);
 }
 
-void BodyWriter::toggle(bool on, bool was, QByteArrayView word) {
-    if (on == was)
+void BodyWriter::toggle(bool on, bool was, int bit, QByteArrayView word) {
+    if (!tells(on != was, bit))
         return;
     if (on)
         m_out.word(word);
@@ -91,32 +104,84 @@ void BodyWriter::toggle(bool on, bool was, QByteArrayView word) {
         m_out.word(word, 0);
 }
 
+/// Whether words for a part of the look are due: it changes, or is stated and was not so far.
+bool BodyWriter::tells(bool changes, int bit) {
+    const bool due = changes || (m_states & bit) != 0;
+    if (due)
+        m_stated |= bit;
+    return due;
+}
+
+/// What a format leaves out: of what has its usual value, that of which it is known.
+int BodyWriter::leftOut(const CharFormat& format) const {
+    if ((format.stated & (stated::KnowsFont | stated::KnowsLook)) == 0)
+        return 0;
+    int usual = format.family == m_unnamedFamily ? stated::Font : 0;
+    if ((format.stated & stated::KnowsLook) != 0) {
+        const auto is = [&](bool isUsual, int bit) { usual |= isUsual ? bit : 0; };
+        is(format.halfPoints == DefaultHalfPoints, stated::Size);
+        is(format.color == AutomaticColor, stated::Color);
+        is(format.highlight == AutomaticColor, stated::Highlight);
+        is(!format.bold, stated::Bold);
+        is(!format.italic, stated::Italic);
+        is(!format.strike, stated::Strike);
+        is(format.underline == Underline::None, stated::Underline);
+        is(format.script == Script::Normal, stated::Script);
+        is(format.raise == 0, stated::Raise);
+        is(format.capitals == Capitals::AsTyped, stated::Capitals);
+        is(format.spacing == 0, stated::Spacing);
+        is(!format.hidden, stated::Hidden);
+    }
+    return usual & ~format.stated;
+}
+
+/// Nothing but the end of the whole look takes a word back.
+void BodyWriter::plain() {
+    const int link = m_format.link;
+    const int field = m_format.field;
+    // Some readers hold raised text back until its end is told.
+    if (m_format.script != Script::Normal)
+        m_out.word(scriptWord(Script::Normal));
+    m_out.word("\\plain");
+    m_format = {};
+    m_format.link = link;
+    m_format.field = field;
+    m_stated = 0;
+}
+
 void BodyWriter::change(const CharFormat& format) {
     if (format == m_format)
         return;
     changeLink(format.link);
+    changeField(format.field);
+    const int leftOut = this->leftOut(format);
+    if ((leftOut & m_stated) != 0)
+        plain();
     changeKept(format.kept);
-    if (format.color != m_format.color)
+    m_states = format.stated & ~m_stated & stated::All;
+    if (tells(format.color != m_format.color, stated::Color))
         m_out.word("\\cf", m_tables.color(format.color));
     changeHighlight(format);
-    if (format.underline != m_format.underline)
+    if (tells(format.underline != m_format.underline, stated::Underline))
         m_out.word(underlineWord(format.underline));
-    toggle(format.bold, m_format.bold, "\\b");
-    toggle(format.italic, m_format.italic, "\\i");
+    toggle(format.bold, m_format.bold, stated::Bold, "\\b");
+    toggle(format.italic, m_format.italic, stated::Italic, "\\i");
     changeStrike(format);
-    toggle(format.controlMarks, m_format.controlMarks, "\\orvmarks");
-    toggle(format.hidden, m_format.hidden, "\\v");
+    toggle(format.controlMarks, m_format.controlMarks, 0, "\\orvmarks");
+    toggle(format.hidden, m_format.hidden, stated::Hidden, "\\v");
     changeCapitals(format.capitals);
     changeSpacing(format.spacing);
-    if (format.raise != m_format.raise)
+    if (tells(format.raise != m_format.raise, stated::Raise))
         m_out.word(format.raise < 0 ? "\\dn" : "\\up", std::abs(format.raise));
-    if (format.script != m_format.script)
+    if (tells(format.script != m_format.script, stated::Script))
         m_out.word(scriptWord(format.script));
-    if (format.family != m_format.family) {
+    if ((leftOut & stated::Font) == 0 &&
+        tells(format.family != m_format.family, stated::Font))
         m_out.word("\\f", m_tables.font(format.family));
+    if (format.family != m_format.family)
         m_symbols = m_tables.symbolFontOf(format.family);
-    }
-    if (format.halfPoints != m_format.halfPoints)
+    if ((leftOut & stated::Size) == 0 &&
+        tells(format.halfPoints != m_format.halfPoints, stated::Size))
         m_out.word("\\fs", format.halfPoints);
     m_format = format;
 }
@@ -126,37 +191,40 @@ void BodyWriter::change(const CharFormat& format) {
 void BodyWriter::changeKept(int kept) {
     if (kept == m_format.kept)
         return;
-    if (m_format.kept != NothingKept) {
-        const int link = m_format.link;
-        m_out.word("\\plain");
-        m_format = {};
-        m_format.link = link;
-    }
+    if (m_format.kept != NothingKept)
+        plain();
     writeKept(m_out, m_tables, names().keptAt(kept));
 }
 
 void BodyWriter::changeHighlight(const CharFormat& format) {
-    if (format.highlight == m_format.highlight && format.shading == m_format.shading)
+    const bool changes =
+        format.highlight != m_format.highlight || format.shading != m_format.shading;
+    if (!tells(changes, stated::Highlight))
         return;
-    if (format.shading != m_format.shading && m_format.highlight != AutomaticColor)
+    const bool kindChanges = format.shading != m_format.shading;
+    if (kindChanges && m_format.highlight != AutomaticColor)
         m_out.word(m_format.shading ? "\\chcbpat" : "\\highlight", 0);
-    if (format.highlight != AutomaticColor || format.shading == m_format.shading)
+    if (format.highlight != AutomaticColor || !kindChanges)
         m_out.word(format.shading ? "\\chcbpat" : "\\highlight", m_tables.color(format.highlight));
 }
 
 void BodyWriter::changeStrike(const CharFormat& format) {
+    const bool changes =
+        format.strike != m_format.strike || format.doubleStrike != m_format.doubleStrike;
+    if (!tells(changes, stated::Strike))
+        return;
     if (format.doubleStrike != m_format.doubleStrike && m_format.strike)
         m_out.word(m_format.doubleStrike ? "\\striked" : "\\strike", 0);
-    else if (format.strike == m_format.strike)
-        return;
     if (format.doubleStrike)
         m_out.word("\\striked", 1);
-    else
-        toggle(format.strike, m_format.strike && !m_format.doubleStrike, "\\strike");
+    else if (format.strike)
+        m_out.word("\\strike");
+    else if (!m_format.doubleStrike)
+        m_out.word("\\strike", 0);
 }
 
 void BodyWriter::changeSpacing(int spacing) {
-    if (spacing == m_format.spacing)
+    if (!tells(spacing != m_format.spacing, stated::Spacing))
         return;
     // Older readers know it in quarters of a point only; the last word holds.
     constexpr int TwipsPerQuarter = 5;
@@ -165,33 +233,59 @@ void BodyWriter::changeSpacing(int spacing) {
 }
 
 void BodyWriter::changeCapitals(Capitals capitals) {
-    if (capitals == m_format.capitals)
+    if (!tells(capitals != m_format.capitals, stated::Capitals))
         return;
     // The one kind ends before the other begins: many readers keep them in one place.
     const auto word = [](Capitals kind) { return kind == Capitals::Small ? "\\scaps" : "\\caps"; };
-    if (m_format.capitals != Capitals::AsTyped)
+    if (m_format.capitals != Capitals::AsTyped || capitals == Capitals::AsTyped)
         m_out.word(word(m_format.capitals), 0);
     if (capitals != Capitals::AsTyped)
         m_out.word(word(capitals));
 }
 
+/// The braces of a link or a field bring back what held before it.
+void BodyWriter::closeGroup() {
+    m_out.structure("}}");
+    const Look& before = m_lookBefore[m_openGroups - 1];
+    --m_openGroups;
+    m_format = before.format;
+    m_stated = before.stated;
+    m_symbols = m_tables.symbolFontOf(m_format.family);
+}
+
+void BodyWriter::openGroup() {
+    m_lookBefore[m_openGroups++] = {m_format, m_stated};
+}
+
 void BodyWriter::changeLink(int link) {
     if (link == m_format.link)
         return;
-    if (m_format.link != NoName) {
-        // The closing braces bring back what held before the link.
-        m_out.structure("}}");
-        m_format = m_formatBeforeLink;
-        m_symbols = m_tables.symbolFontOf(m_format.family);
-    }
+    changeField(NothingKept);
+    if (m_format.link != NoName)
+        closeGroup();
     if (link == NoName)
         return;
-    m_formatBeforeLink = m_format;
+    openGroup();
     m_out.structure("{\\field{\\*\\fldinst{");
     m_out.text(hyperlinkInstruction(m_tables.names().linkAt(link)));
     m_out.structure("}}");
     m_out.word("{\\fldrslt");
     m_format.link = link;
+}
+
+void BodyWriter::changeField(int field) {
+    if (field == m_format.field)
+        return;
+    if (m_format.field != NothingKept)
+        closeGroup();
+    if (field == NothingKept)
+        return;
+    openGroup();
+    const QString instruction = names().keptAt(field);
+    m_out.structure("{\\field");
+    writeKept(m_out, m_tables, QStringView(instruction).sliced(instruction.indexOf(NumberEnd) + 1));
+    m_out.word("{\\fldrslt");
+    m_format.field = field;
 }
 
 void BodyWriter::writeAnchors(int anchors) {
@@ -224,6 +318,7 @@ void BodyWriter::endParagraph(const CharFormat* mark) {
     // A link ends with its paragraph: fields that span paragraphs confuse many readers.
     CharFormat atEnd = mark ? *mark : m_format;
     atEnd.link = NoName;
+    atEnd.field = NothingKept;
     // A raised text that goes on beyond its paragraph some readers lose, end of paragraph and all.
     if (!mark)
         atEnd.script = Script::Normal;
@@ -258,6 +353,7 @@ void BodyWriter::beginCell(int shape, int anchors) {
 void BodyWriter::endCell(const CharFormat& look) {
     CharFormat unlinked = look;
     unlinked.link = NoName;
+    unlinked.field = NothingKept;
     change(unlinked);
     m_out.structure("\\cell\r\n");
 }
@@ -299,12 +395,17 @@ QByteArray BodyWriter::file(int defaultTab, const KeptParts& parts) {
         kept(parts.info) + kept(parts.words) + kept(parts.notes) + kept(parts.section);
     RtfOutput out;
     out.reserve(m_out.bytes().size() + 1024);
-    out.structure("{\\rtf1\\ansi\\ansicpg1252\\deff0");
+    out.structure("{\\rtf1\\ansi\\ansicpg1252");
+    if (parts.defaultFont == DefaultFont::Missing)
+        out.word("\\deff", m_tables.unusedFont());
+    else if (parts.defaultFont != DefaultFont::Unsaid)
+        out.structure("\\deff0");
     out.word("\\deflang", parts.language);
     if (defaultTab != FactoryTab && defaultTab > 0)
         out.word("\\deftab", defaultTab);
     m_tables.write(out, styles);
-    out.structure("{\\*\\generator Orvalis;}");
+    if (!parts.nameless)
+        out.structure("{\\*\\generator Orvalis;}");
     out.structure(head);
     out.structure("\\viewkind4\\uc1");
     out.structure(m_out.bytes());

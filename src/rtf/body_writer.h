@@ -12,6 +12,8 @@
 #include <QByteArray>
 #include <QStringView>
 
+#include <array>
+
 namespace orvalis::rtf {
 
 /// Writes paragraphs as RTF and makes the file of them.
@@ -26,6 +28,10 @@ public:
 
     /// The families and links by which character formats are told.
     Names& names() { return m_tables.names(); }
+
+    /// Comes first, if at all: what is kept of the document that it writes of.
+    /// \param shownFamily in which text shows that no font is known of.
+    void expect(const KeptParts& parts, const QString& shownFamily);
 
     /// \param number of a numbered list item.
     void beginParagraph(const ParagraphFormat& paragraph, int number);
@@ -63,13 +69,27 @@ private:
     void changeSpacing(int spacing);
     void changeCapitals(Capitals capitals);
     void changeLink(int link);
-    void toggle(bool on, bool was, QByteArrayView word);
+    void changeField(int field);
+    void openGroup();
+    void closeGroup();
+    int leftOut(const CharFormat& format) const;
+    bool tells(bool changes, int bit);
+    void plain();
+    void toggle(bool on, bool was, int bit, QByteArrayView word);
 
     WriterTables m_tables;
     RtfOutput m_out;
     ParagraphWriter m_paragraphs;
     CharFormat m_format;
-    CharFormat m_formatBeforeLink;
+    int m_stated = 0; ///< of the look: what was written since it began
+    int m_states = 0; ///< what the next text states beyond that
+    struct Look {
+        CharFormat format;
+        int stated = 0;
+    };
+    std::array<Look, 2> m_lookBefore; ///< a link or field that is open
+    size_t m_openGroups = 0;
+    int m_unnamedFamily = NoName; ///< of text that names no font
     SymbolFont m_symbols = SymbolFont::None;
     bool m_paragraphEnds = false; ///< and the word for it is still to come
     bool m_paragraphIsEmpty = true;

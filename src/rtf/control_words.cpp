@@ -168,6 +168,7 @@ constexpr ControlWord Words[] = {
     {"atrfstart", Action::KeepGroup, as(KeptPlace::StarredAnchor)},
     {"atrfend", Action::KeepGroup, as(KeptPlace::StarredAnchor)},
     {"bkmkstart", Action::KeepGroup, as(KeptPlace::StarredAnchor)},
+    {"do", Action::KeepGroup, as(KeptPlace::StarredNote)},
     {"bkmkend", Action::KeepGroup, as(KeptPlace::StarredAnchor)},
     {"xe", Action::IndexEntry, 0},
     {"tc", Action::IndexEntry, 0},
@@ -211,7 +212,7 @@ constexpr ControlWord Words[] = {
     {"levelmarker", Action::SkipGroup, 0},
     {"listname", Action::SkipGroup, 0},
     {"liststylename", Action::SkipGroup, 0},
-    {"generator", Action::SkipGroup, 0},
+    {"generator", Action::Generator, 0},
 
     {"fonttbl", Action::FontTable, 0},
     {"colortbl", Action::ColorTable, 0},

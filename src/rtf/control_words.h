@@ -71,6 +71,7 @@ enum class Action : quint8 {
     AnchorMark, ///< stands for the number of a note
     // Destinations
     SkipGroup,
+    Generator,
     KeepGroup, ///< value: the KeptPlace
     FontTable,
     ColorTable,

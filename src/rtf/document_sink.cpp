@@ -323,7 +323,7 @@ void DocumentSink::joinList(const ParagraphFormat& paragraph, int start) {
     }
     QTextList* list = m_lists.goOn(paragraph);
     if (!list) {
-        if (!spend(BytesOfList))
+        if (!spend(BytesOfList + label.keptList.size() + label.keptOverride.size()))
             return;
         list = m_cursor.createList(listFormat(m_lists.newLabel()));
         m_lists.began(paragraph, list);

@@ -81,6 +81,21 @@ enum FormatProperty : int {
     TableRow,
     /// Of a block format: the row begins with the paragraph (bool).
     RowBegins,
+    /// Of a character format: the field that shows the text (QString, its number, U+0003 and its
+    /// instruction as it is kept). Adjoining runs of one value are one field.
+    KeptField,
+    /// Of a character format: what the file says of it (int, bits of stated). What has a value that
+    /// is not the default is said in any case.
+    StatedOfCharacters,
+    /// Of a block format: the same.
+    StatedOfParagraph,
+    /// Of a list format: how the file tells of the list (int, a ListSource, Made when absent).
+    ListToldBy,
+    /// Of a list format: the list in the file's list table, and its override (QString, the number
+    /// in the file, U+0003 and the group as it is kept), and the level (int).
+    KeptList,
+    KeptListOverride,
+    KeptListLevel,
 };
 
 } // namespace orvalis::rtf

@@ -15,7 +15,7 @@ size_t qHash(const CharFormat& format, size_t seed) noexcept {
         static_cast<unsigned>(format.shading) << 30;
     return qHashMulti(seed, format.family, format.link, format.halfPoints, format.raise,
                       format.spacing, format.kept, format.anchors, format.cell, format.color,
-                      format.highlight, small);
+                      format.highlight, format.field, format.stated, small);
 }
 
 int Names::intern(QStringList& list, QHash<QString, int>& index, const QString& name) {

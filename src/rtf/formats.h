@@ -56,6 +56,39 @@ enum class ListKind : quint8 {
     UpperRoman,
 };
 
+/// What a file may say of its characters, as bits of CharFormat::stated.
+namespace stated {
+inline constexpr int Font = 1 << 0;
+inline constexpr int Size = 1 << 1;
+inline constexpr int Color = 1 << 2;
+inline constexpr int Highlight = 1 << 3;
+inline constexpr int Bold = 1 << 4;
+inline constexpr int Italic = 1 << 5;
+inline constexpr int Strike = 1 << 6;
+inline constexpr int Underline = 1 << 7;
+inline constexpr int Script = 1 << 8;
+inline constexpr int Raise = 1 << 9;
+inline constexpr int Capitals = 1 << 10;
+inline constexpr int Spacing = 1 << 11;
+inline constexpr int Hidden = 1 << 12;
+inline constexpr int All = (1 << 13) - 1;
+/// Whether anything is known of the font, and of the others. Where nothing is, what a file leaves
+/// out and what it says by its default are one.
+inline constexpr int KnowsFont = 1 << 16;
+inline constexpr int KnowsLook = 1 << 17;
+
+// The same of paragraphs, as bits of ParagraphFormat::stated.
+inline constexpr int Alignment = 1 << 0;
+inline constexpr int Direction = 1 << 1;
+inline constexpr int PageBreak = 1 << 2;
+inline constexpr int Left = 1 << 3;
+inline constexpr int First = 1 << 4;
+inline constexpr int Right = 1 << 5;
+inline constexpr int Before = 1 << 6;
+inline constexpr int After = 1 << 7;
+inline constexpr int LineSpacing = 1 << 8;
+} // namespace stated
+
 /// How a run of characters looks. Family, link and what is kept are indexes into the Names of the
 /// reading.
 struct CharFormat {
@@ -67,6 +100,8 @@ struct CharFormat {
     int kept = NothingKept;
     int cell = NothingKept;    ///< of a tab that ends a cell: the shape of its paragraph
     int anchors = NothingKept; ///< what is kept behind the last of the characters
+    int field = NothingKept;   ///< the instruction of the field that the characters are shown by
+    int stated = 0;            ///< what the file says; styles tell the rest where it has any
     QRgb color = AutomaticColor;
     QRgb highlight = AutomaticColor;
     Underline underline = Underline::None;
@@ -108,6 +143,15 @@ enum class LabelSide : quint8 { Left, Center, Right };
 /// How many levels a list has, whose numbers are told by the codes from 0 on.
 inline constexpr int NumberCodes = 9;
 
+/// How a file tells of a list.
+enum class ListSource : quint8 {
+    Made,      ///< no file does: the window has made it, or wrote it so
+    Tables,    ///< by its list tables
+    Both,      ///< by these, and by \pn in the paragraph for those who know no tables
+    Numbering, ///< by \\pn in the paragraph
+    Text,      ///< by the text of the label alone
+};
+
 /// The label of a list item. Items of one list of the list tables share the identity; 0 stands for
 /// a list that is held together only by its paragraphs following each other.
 struct ListLabel {
@@ -123,7 +167,11 @@ struct ListLabel {
     /// level of that index has above the item.
     QString prefix;
     QString suffix;
+    ListSource source = ListSource::Made;
+    QString keptList; ///< of the list tables: the list and its override, as they are kept
+    QString keptOverride;
 
+    bool hasTables() const { return source == ListSource::Tables || source == ListSource::Both; }
     bool operator==(const ListLabel&) const = default;
 };
 
@@ -145,6 +193,7 @@ struct ParagraphFormat {
     bool rowBegins = false;    ///< with the paragraph
     bool inTable = false;      ///< the paragraph is written as one of a cell
     int section = NothingKept; ///< what the file says of the section that begins here
+    int stated = 0;            ///< what the file says, as in CharFormat
     QList<TabStop> tabs;
     ListLabel list;
 

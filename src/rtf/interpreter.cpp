@@ -31,6 +31,7 @@ Interpreter::Interpreter(QByteArrayView bytes, Sink& sink, const Progress& progr
     , m_kept(m_names)
     , m_keptLeft(KeptShare * bytes.size() + KeptGround) {
     m_state.page = m_documentPage;
+    knowWhatIsStated();
 }
 
 ReadResult Interpreter::run() {
@@ -230,7 +231,7 @@ void Interpreter::finish() {
     cellTabs(m_cellsEnded.size());
     flushText();
     tellKept();
-    m_sink.end(shapedParagraph(), m_state.chars);
+    m_sink.end(shapedParagraph(), told(m_state.chars));
 }
 
 } // namespace orvalis::rtf

@@ -58,6 +58,7 @@ private:
         int unicodeSkip = 1;
         int listOverride = 0;
         int listLevel = 0;
+        int fieldsAround = 0;
         int keptOfChars = 0; ///< sets of m_kept
         int keptOfParagraph = 0;
         const ControlWord* border = nullptr; ///< the one that was named last
@@ -108,6 +109,9 @@ private:
     void tabStop(int position);
     void selectFont();
     void plainCharacters();
+    DefaultFont defaultFont() const;
+    void knowWhatIsStated();
+    CharFormat told(CharFormat chars) const;
     QRgb color(int index) const;
 
     // Destinations (interpreter_destinations.cpp)
@@ -123,6 +127,7 @@ private:
     void keepOfRow(KeptLevel level, const KeptCall& call);
     int row();
     int cellShape();
+    int keptInCell();
     void cellTabs(size_t count);
     void rowEnd(bool outermost);
 
@@ -131,6 +136,8 @@ private:
     void keepCharacters(int set);
     void keepParagraph(int set);
     void keepGroup(const Token& token);
+    void keepField();
+    QString keptOfLists(const Token& token);
     void placeGroup(KeptPlace place, const QString& group);
     void anchor(const QString& kept);
     void sectionEnd();
@@ -162,6 +169,11 @@ private:
     FontTable m_fonts;
     size_t m_fontEntryDepth = 0; ///< of the groups, where the entry of the font table began
     int m_defaultFont = 0;
+    bool m_defaultFontSaid = false;
+    int m_known = 0;              ///< flags of stated
+    int m_statedOfCharacters = 0; ///< bits of stated that are of use
+    int m_statedOfParagraph = 0;
+    bool m_nameless = true;
     QList<QRgb> m_colors;
     QRgb m_color = AutomaticColor;
     ListTables m_lists;
@@ -176,6 +188,7 @@ private:
     bool m_firstSectionTold = false;
     KeptParts m_parts;
     bool m_stylesKept = false;
+    qsizetype m_listKeptTo = 0; ///< where the list ends that was kept last
     qint64 m_keptLeft; ///< bytes that groups may still take
 
     QString m_text;
@@ -205,9 +218,11 @@ private:
     QString m_capture;
     CharFormat m_captureFormat;
     QString m_fieldText;     ///< to show where the field brings no result
+    int m_fields = 0;        ///< that are kept
     size_t m_fieldDepth = 0; ///< of the groups, where that field stands
     QString m_shapeProperty;
     ListLabel m_numbering;
+    bool m_numberingShows = false; ///< a number, and not the room for one alone
     Picture m_picture;
     int m_halfByte = -1;
     bool m_shapePictureShown = false;

@@ -41,6 +41,10 @@ bool Interpreter::destinationWord(const Token& token) {
     case Action::SkipGroup:
         skipGroup();
         return true;
+    case Action::Generator:
+        m_nameless = false;
+        skipGroup();
+        return true;
     case Action::KeepGroup:
         keepGroup(token);
         return true;
@@ -85,6 +89,8 @@ bool Interpreter::destinationWord(const Token& token) {
     case Action::Field:
         m_fieldText.clear();
         m_fieldDepth = inBody ? m_groups.size() : 0;
+        if (inBody)
+            keepField();
         return true;
     case Action::IndexEntry:
         m_state.indexEntry = true;
@@ -133,7 +139,9 @@ bool Interpreter::destinationWord(const Token& token) {
         return true;
     case Action::Numbering:
         m_numbering = {};
+        m_numberingShows = true;
         m_numbering.numbering = ++m_numberings;
+        m_numbering.source = ListSource::Numbering;
         openInBody(Destination::Numbering);
         return true;
     case Action::NumberingTextBefore:
@@ -184,7 +192,11 @@ void Interpreter::closeDestination(Destination destination) {
     switch (destination) {
     case Destination::FontTable:
         m_fonts.commit(m_names, *m_documentPage);
+        knowWhatIsStated();
         selectFont();
+        return;
+    case Destination::ListOverrideTable:
+        knowWhatIsStated();
         return;
     case Destination::ColorTable:
         // The last entry may lack its semicolon.
@@ -202,8 +214,10 @@ void Interpreter::closeDestination(Destination destination) {
         return;
     case Destination::FieldInstruction: {
         const QString target = hyperlinkTarget(captured);
-        if (!target.isEmpty())
+        if (!target.isEmpty()) {
             m_state.chars.link = m_names.link(target);
+            m_state.chars.field = NothingKept;
+        }
         m_fieldText = equationText(captured) + symbolFieldText(captured);
         return;
     }
@@ -243,6 +257,8 @@ bool Interpreter::tableWord(const Token& token) {
         return true;
     case Action::DefaultFont:
         m_defaultFont = number;
+        m_defaultFontSaid = true;
+        knowWhatIsStated();
         selectFont();
         return true;
     case Action::DefaultTab:
@@ -269,10 +285,10 @@ bool Interpreter::tableWord(const Token& token) {
         m_color = OpaqueBlack | (m_color & 0xffff00u) | QRgb(std::clamp(number, 0, 255));
         return true;
     case Action::List:
-        m_lists.beginList();
+        m_lists.beginList(keptOfLists(token));
         return true;
     case Action::ListOverrideEntry:
-        m_lists.beginOverride();
+        m_lists.beginOverride(keptOfLists(token));
         return true;
     case Action::ListOverrideLevel:
         m_lists.beginOverrideLevel();
@@ -309,9 +325,10 @@ bool Interpreter::tableWord(const Token& token) {
         return true;
     case Action::NumberingContinued:
         m_numbering.kind = ListKind::None;
+        m_numberingShows = false;
         return true;
     case Action::NumberingKind:
-        if (m_numbering.kind != ListKind::Bullet)
+        if (m_numbering.kind != ListKind::Bullet && m_numberingShows)
             m_numbering.kind = static_cast<ListKind>(token.word->value);
         return true;
     case Action::NumberingStart:

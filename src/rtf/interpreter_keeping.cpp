@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "rtf/interpreter.h"
+#include "rtf/field_scan.h"
 #include "rtf/kept_group.h"
 #include "rtf/kept_text.h"
 
@@ -105,10 +106,53 @@ void Interpreter::keepGroup(const Token& token) {
     placeGroup(place, group);
 }
 
+/// The instruction of a field goes with the text that shows it, within a paragraph; where nothing
+/// does, the field is kept at its place.
+void Interpreter::keepField() {
+    constexpr int MostFieldsAround = 4; // each look ahead reads all that is in a field
+    constexpr int MostFields = 4096;    // each makes a format of its own
+    if (++m_state.fieldsAround > MostFieldsAround || m_state.chars.field != NothingKept ||
+        m_fields >= MostFields || !shows())
+        return;
+    const FieldScan scan = scanField(m_tokenizer.groupAhead());
+    const bool isLink = scan.name == "HYPERLINK";
+    const bool showsItself = !scan.hasResult && scan.name == "EQ";
+    if (scan.instruction.isEmpty() || scan.hasStructure || isLink || showsItself)
+        return;
+    const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, m_defaultFont};
+    const QString kept =
+        GroupKeeper(scan.instruction, tables).kept("{\\*\\fldinst", false, m_keptLeft);
+    m_keptLeft -= kept.size();
+    if (kept.isEmpty())
+        return;
+    if (scan.hasResult)
+        m_state.chars.field = m_names.kept(QString::number(++m_fields) + NumberEnd + kept);
+    else
+        anchor(u"{\\field"_s + kept + u"{\\fldrslt}}"_s);
+}
+
+/// The list or override whose word has come, in the list tables.
+QString Interpreter::keptOfLists(const Token& token) {
+    constexpr qint64 LongestList = 65536; // real ones have some thousand bytes
+    const bool inTable = m_state.destination == Destination::ListTable ||
+                         m_state.destination == Destination::ListOverrideTable;
+    if (!inTable || m_tokenizer.position() < m_listKeptTo)
+        return {};
+    const QByteArrayView content = m_tokenizer.groupAhead();
+    m_listKeptTo = m_tokenizer.position() + content.size();
+    const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, m_defaultFont};
+    const QString kept =
+        GroupKeeper(content, tables)
+            .kept("{\\" + token.bytes.toByteArray(), false, std::min(LongestList, m_keptLeft));
+    m_keptLeft -= kept.size();
+    return kept;
+}
+
 void Interpreter::placeGroup(KeptPlace place, const QString& group) {
     switch (place) {
     case KeptPlace::Styles:
         m_stylesKept = m_sink.takesStyles(group);
+        knowWhatIsStated();
         m_parts.styles = group;
         return;
     case KeptPlace::Info:
@@ -171,6 +215,12 @@ QString Interpreter::sectionText() const {
 void Interpreter::tellKept() {
     tellFirstSection();
     m_parts.words = m_names.keptAt(m_kept.name(m_keptOfDocument));
+    m_parts.nameless = m_nameless;
+    m_parts.defaultFont = defaultFont();
+    // A file that leaves it unsaid has its first font read for it.
+    const FontTable::Font* unnamed = m_fonts.find(m_defaultFont);
+    if (unnamed && unnamed->family != NoName)
+        m_parts.unnamedFamily = m_names.familyAt(unnamed->family);
     m_sink.kept(m_parts);
 }
 

@@ -44,28 +44,35 @@ bool Interpreter::characterWord(const Token& token) {
         }
         return true;
     case Action::FontSize:
+        chars.stated |= stated::Size & m_statedOfCharacters;
         chars.halfPoints = token.hasParameter && token.parameter > 0
                                ? std::min(token.parameter, LargestHalfPoints)
                                : DefaultHalfPoints;
         return true;
     case Action::Color:
+        chars.stated |= stated::Color & m_statedOfCharacters;
         chars.color = color(token.parameter);
         return true;
     case Action::Highlight:
+        chars.stated |= stated::Highlight & m_statedOfCharacters;
         chars.highlight = color(token.parameter);
         chars.shading = chars.highlight != AutomaticColor && token.word->value != 0;
         return true;
     case Action::Bold:
+        chars.stated |= stated::Bold & m_statedOfCharacters;
         chars.bold = isOn(token);
         return true;
     case Action::Italic:
+        chars.stated |= stated::Italic & m_statedOfCharacters;
         chars.italic = isOn(token);
         return true;
     case Action::Strike:
+        chars.stated |= stated::Strike & m_statedOfCharacters;
         chars.strike = isOn(token);
         chars.doubleStrike = chars.strike && token.word->value != 0;
         return true;
     case Action::Spacing:
+        chars.stated |= stated::Spacing & m_statedOfCharacters;
         chars.spacing =
             token.word->value * std::clamp(token.parameter, -LargestSpacing, LargestSpacing);
         return true;
@@ -73,26 +80,32 @@ bool Interpreter::characterWord(const Token& token) {
         chars.controlMarks = isOn(token);
         return true;
     case Action::Hidden:
+        chars.stated |= stated::Hidden & m_statedOfCharacters;
         chars.hidden = isOn(token);
         return true;
     case Action::Deleted:
         m_state.deleted = isOn(token);
         return true;
     case Action::UnderlineKind:
+        chars.stated |= stated::Underline & m_statedOfCharacters;
         chars.underline = isOn(token) ? static_cast<Underline>(token.word->value) : Underline::None;
         return true;
     case Action::NoUnderline:
+        chars.stated |= stated::Underline & m_statedOfCharacters;
         chars.underline = Underline::None;
         return true;
     case Action::ScriptKind:
+        chars.stated |= stated::Script & m_statedOfCharacters;
         chars.script = isOn(token) ? static_cast<Script>(token.word->value) : Script::Normal;
         return true;
     case Action::Raise:
+        chars.stated |= stated::Raise & m_statedOfCharacters;
         // Without a number the words mean six half points.
         chars.raise = token.word->value *
                       (token.hasParameter ? std::clamp(token.parameter, 0, LargestRaise) : 6);
         return true;
     case Action::CapitalsKind:
+        chars.stated |= stated::Capitals & m_statedOfCharacters;
         // Switched off, the one kind leaves the other alone.
         if (isOn(token))
             chars.capitals = static_cast<Capitals>(token.word->value);
@@ -123,24 +136,31 @@ bool Interpreter::paragraphWord(const Token& token) {
         m_state.tabLeader = TabLeader::None;
         return true;
     case Action::Align:
+        paragraph.stated |= stated::Alignment & m_statedOfParagraph;
         paragraph.alignment = static_cast<Alignment>(token.word->value);
         return true;
     case Action::LeftIndent:
+        paragraph.stated |= stated::Left & m_statedOfParagraph;
         paragraph.left = length(token.parameter);
         return true;
     case Action::FirstIndent:
+        paragraph.stated |= stated::First & m_statedOfParagraph;
         paragraph.first = length(token.parameter);
         return true;
     case Action::RightIndent:
+        paragraph.stated |= stated::Right & m_statedOfParagraph;
         paragraph.right = length(token.parameter);
         return true;
     case Action::SpaceBefore:
+        paragraph.stated |= stated::Before & m_statedOfParagraph;
         paragraph.before = std::max(length(token.parameter), 0);
         return true;
     case Action::SpaceAfter:
+        paragraph.stated |= stated::After & m_statedOfParagraph;
         paragraph.after = std::max(length(token.parameter), 0);
         return true;
     case Action::LineSpacing:
+        paragraph.stated |= stated::LineSpacing & m_statedOfParagraph;
         paragraph.lineSpacing = length(token.parameter);
         return true;
     case Action::LineMultiple:
@@ -156,9 +176,11 @@ bool Interpreter::paragraphWord(const Token& token) {
         tabStop(length(token.parameter));
         return true;
     case Action::Direction:
+        paragraph.stated |= stated::Direction & m_statedOfParagraph;
         paragraph.rightToLeft = token.word->value != 0;
         return true;
     case Action::PageBreakBefore:
+        paragraph.stated |= stated::PageBreak & m_statedOfParagraph;
         paragraph.pageBreakBefore = isOn(token);
         return true;
     case Action::ListOverride:
@@ -207,18 +229,49 @@ void Interpreter::selectFont() {
     if (!font)
         font = m_fonts.find(m_defaultFont);
     m_state.chars.family = font ? font->family : NoName;
+    m_state.chars.stated &= ~stated::Font;
+    m_state.chars.stated |= m_state.font == NoName ? 0 : stated::Font & m_statedOfCharacters;
     m_state.symbols = font ? font->symbols : SymbolFont::None;
     m_state.page = font && font->page ? font->page : m_documentPage;
 }
 
 void Interpreter::plainCharacters() {
     const int link = m_state.chars.link;
+    const int field = m_state.chars.field;
     m_state.chars = {};
     m_state.chars.link = link;
+    m_state.chars.field = field;
     m_state.keptOfChars = 0;
     m_state.deleted = false;
     m_state.font = NoName;
     selectFont();
+}
+
+DefaultFont Interpreter::defaultFont() const {
+    if (!m_defaultFontSaid)
+        return DefaultFont::Unsaid;
+    return m_fonts.find(m_defaultFont) ? DefaultFont::Named : DefaultFont::Missing;
+}
+
+/// Where the file has styles they tell what the text leaves out, to whoever follows them; and lists
+/// tell indents.
+void Interpreter::knowWhatIsStated() {
+    m_statedOfParagraph = m_stylesKept || m_lists.any() ? ~0 : 0;
+    m_statedOfCharacters = 0;
+    m_known = 0;
+    if (m_stylesKept) {
+        m_known = stated::KnowsFont | stated::KnowsLook;
+        m_statedOfCharacters = ~0;
+    } else if (defaultFont() != DefaultFont::Named) {
+        m_known = stated::KnowsFont;
+        m_statedOfCharacters = stated::Font;
+    }
+}
+
+/// The characters, with whether anything is known of what is stated of them.
+CharFormat Interpreter::told(CharFormat chars) const {
+    chars.stated |= m_known;
+    return chars;
 }
 
 QRgb Interpreter::color(int index) const {

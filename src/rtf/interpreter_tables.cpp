@@ -82,19 +82,34 @@ int Interpreter::row() {
 int Interpreter::cellShape() {
     if (row() == NothingKept)
         return NothingKept;
-    m_lastOfCell = m_state.paragraph;
-    if (m_cellShape != NothingKept && m_shapeOfCell == m_state.paragraph)
+    ParagraphFormat shaped = m_state.paragraph;
+    shaped.kept = keptInCell();
+    m_lastOfCell = shaped;
+    m_label.clear();
+    if (m_cellShape != NothingKept && m_shapeOfCell == shaped)
         return m_cellShape;
     RtfOutput shape;
     shape.word("\\pard\\intbl");
-    const QByteArray kept = m_names.keptAt(m_state.paragraph.kept).toUtf8();
+    const QByteArray kept = m_names.keptAt(shaped.kept).toUtf8();
     if (!kept.isEmpty())
         shape.word(kept);
     WriterTables tables;
-    ParagraphWriter(shape, tables).geometry(m_state.paragraph);
-    m_shapeOfCell = m_state.paragraph;
+    ParagraphWriter(shape, tables).geometry(shaped);
+    m_shapeOfCell = shaped;
     m_cellShape = m_names.kept(QString::fromUtf8(shape.bytes()));
     return m_cellShape;
+}
+
+/// What is kept of a cell's paragraph, its place in a list among it: a cell has no label to show.
+int Interpreter::keptInCell() {
+    const auto label = m_lists.label(m_state.listOverride, m_state.listLevel, false);
+    if (m_state.listOverride == 0 || !label || !label->hasTables() || m_keptLeft <= 0)
+        return m_state.paragraph.kept;
+    const QString list = QStringLiteral("\\ls") +
+                         keptList(label->keptList, label->keptOverride) +
+                         QStringLiteral("\\ilvl") + QString::number(label->level);
+    m_keptLeft -= list.size();
+    return m_names.kept(m_names.keptAt(m_state.paragraph.kept) + list);
 }
 
 void Interpreter::cellTabs(size_t count) {

@@ -231,7 +231,7 @@ void Interpreter::flushText() {
     }
     if (m_text.isEmpty())
         return;
-    m_sink.text(m_text, m_textFormat);
+    m_sink.text(m_text, told(m_textFormat));
     m_text.resize(0);
     askForRoom();
 }
@@ -240,7 +240,7 @@ void Interpreter::paragraphEnd() {
     cellTabs(m_cellsEnded.size());
     flushText();
     const ParagraphFormat& paragraph = shapedParagraph();
-    m_sink.paragraphEnd(paragraph, m_state.chars);
+    m_sink.paragraphEnd(paragraph, told(m_state.chars));
     m_inRow = paragraph.row != NothingKept && !m_rowEnds;
     m_rowEnds = false;
     m_inParagraph = false;
@@ -267,11 +267,15 @@ const ParagraphFormat& Interpreter::shapedParagraph() {
     m_shaped.anchors = m_names.kept(m_anchorsAtStart);
     if (m_sectionBegins)
         m_shaped.section = m_names.kept(sectionBreak());
-    const auto known = m_lists.label(m_state.listOverride, m_state.listLevel);
+    const bool numbered = m_shaped.list.kind != ListKind::None;
+    const auto known = m_lists.label(m_state.listOverride, m_state.listLevel, numbered);
+    ListLabel& list = m_shaped.list;
     if (m_state.listOverride != 0 && known)
-        m_shaped.list = *known;
-    else if (m_shaped.list.kind == ListKind::None)
-        m_shaped.list = labelFromText(m_label, m_lastListKind);
+        list = *known;
+    else if (list.kind == ListKind::None)
+        list = labelFromText(m_label, m_lastListKind);
+    else if (m_state.listOverride != 0) // which goes before the other, though nobody knows it
+        list.source = ListSource::Text;
     m_lastListKind = m_shaped.list.kind;
     return m_shaped;
 }

@@ -127,6 +127,7 @@ void GroupKeeper::word(const Token& token) {
         return;
     case Action::ListOverride:
     case Action::ListLevel:
+    case Action::ListIdentity:
         // The lists of the file are numbered anew by those of its text.
         return;
     case Action::Binary:
@@ -269,7 +270,16 @@ void GroupKeeper::text(QStringView text) {
         m_out.word("\\f");
         m_out.word(keptFont(font ? m_tables.names.familyAt(font->family) : QString()).toUtf8());
     }
-    m_out.text(text);
+    // Codes below a blank are numbers, in the labels of lists.
+    for (qsizetype at = 0; at < text.size();) {
+        qsizetype end = at;
+        while (end < text.size() && (text[end] >= u' ' || text[end] == u'\t'))
+            ++end;
+        m_out.text(text.sliced(at, end - at));
+        if (end < text.size())
+            m_out.code(uchar(text[end].unicode()));
+        at = end + 1;
+    }
 }
 
 } // namespace orvalis::rtf

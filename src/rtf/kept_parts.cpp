@@ -30,6 +30,8 @@ void clearKept(QTextCharFormat& format) {
     format.clearProperty(KeptOfCharacters);
     format.clearProperty(KeptAnchors);
     format.clearProperty(CellShape);
+    format.clearProperty(KeptField);
+    format.clearProperty(StatedOfCharacters);
 }
 
 void clearKept(QTextBlockFormat& format) {
@@ -40,6 +42,7 @@ void clearKept(QTextBlockFormat& format) {
     format.clearProperty(KeptAtStart);
     format.clearProperty(TableRow);
     format.clearProperty(RowBegins);
+    format.clearProperty(StatedOfParagraph);
 }
 
 } // namespace orvalis::rtf

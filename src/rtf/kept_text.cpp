@@ -18,13 +18,30 @@ constexpr QChar PlaceStart(0x1);
 constexpr QChar PlaceEnd(0x2);
 constexpr QChar FontPlace = u'f';
 constexpr QChar ColorPlace = u'c';
+constexpr QChar ListPlace = u'l';
+// In the place of a list, for the places in what is kept of it.
+constexpr QChar InnerStart(0x4);
+constexpr QChar InnerEnd(0x5);
+constexpr QChar OverrideStart(0x6);
 
 QString place(QChar kind, const QString& what) {
     return QString(PlaceStart) + kind + what + PlaceEnd;
 }
 
+ParagraphFormat keptItem(QString lists) {
+    lists.replace(InnerStart, PlaceStart).replace(InnerEnd, PlaceEnd);
+    ParagraphFormat item;
+    item.list.source = ListSource::Tables;
+    const qsizetype at = std::max<qsizetype>(lists.indexOf(OverrideStart), 0);
+    item.list.keptList = lists.first(at);
+    item.list.keptOverride = lists.sliced(std::min(at + 1, lists.size()));
+    return item;
+}
+
 int number(QStringView place, WriterTables& tables) {
     const QString what = place.sliced(1).toString();
+    if (place.front() == ListPlace)
+        return tables.list(keptItem(what));
     if (place.front() == FontPlace && what.isEmpty())
         return 0;
     if (place.front() == FontPlace)
@@ -67,6 +84,11 @@ QString keptFont(const QString& family) {
 
 QString keptColor(QRgb color) {
     return place(ColorPlace, QString::number(color, 16));
+}
+
+QString keptList(const QString& list, const QString& listOverride) {
+    QString lists = list + OverrideStart + listOverride;
+    return place(ListPlace, lists.replace(PlaceStart, InnerStart).replace(PlaceEnd, InnerEnd));
 }
 
 void writeKept(RtfOutput& out, WriterTables& tables, QStringView kept) {

@@ -19,6 +19,12 @@ QString keptFont(const QString& family);
 /// The place of a colour's number.
 QString keptColor(QRgb color);
 
+/// The place of the number of a list of the list tables, told by it and its override.
+QString keptList(const QString& list, const QString& listOverride);
+
+/// What stands between the number that a file gave something and what is kept of it.
+inline constexpr QChar NumberEnd(0x3);
+
 /// Writes what is kept, its fonts and colours by the numbers of these tables.
 void writeKept(RtfOutput& out, WriterTables& tables, QStringView kept);
 

@@ -73,6 +73,13 @@ QTextListFormat listFormat(const ListLabel& label) {
         list.setProperty(ListLabelSide, int(label.side));
     if (label.tab != 0)
         list.setProperty(ListLabelTab, label.tab);
+    if (label.source != ListSource::Made)
+        list.setProperty(ListToldBy, int(label.source));
+    if (label.hasTables()) {
+        list.setProperty(KeptList, label.keptList);
+        list.setProperty(KeptListOverride, label.keptOverride);
+        list.setProperty(KeptListLevel, label.level);
+    }
     if (label.kind == ListKind::Bullet)
         return list;
     list.setNumberPrefix(cleanText(label.prefix));
@@ -89,6 +96,12 @@ ListLabel labelOf(const QTextList& list) {
     label.follow = static_cast<LabelFollow>(format.intProperty(ListLabelFollow));
     label.side = static_cast<LabelSide>(format.intProperty(ListLabelSide));
     label.tab = format.intProperty(ListLabelTab);
+    label.source = static_cast<ListSource>(format.intProperty(ListToldBy));
+    if (label.hasTables()) {
+        label.keptList = format.stringProperty(KeptList);
+        label.keptOverride = format.stringProperty(KeptListOverride);
+        label.level = format.intProperty(KeptListLevel);
+    }
     // Bullets look alike whichever list they are of, numbers do not.
     if (label.kind == ListKind::Bullet)
         return label;

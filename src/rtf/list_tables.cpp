@@ -2,7 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/list_tables.h"
 
+#include "rtf/kept_text.h"
+
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace orvalis::rtf {
 
@@ -30,6 +34,16 @@ ListKind kindOfFormat(int format) {
     default:
         return ListKind::Decimal;
     }
+}
+
+QString numbered(int number, const QString& kept) {
+    return kept.isEmpty() ? QString() : QString::number(number) + NumberEnd + kept;
+}
+
+/// Whether a list looks as those do that this program tells of in both ways.
+bool isMade(int identity, const QString& kept) {
+    const QString head = u"\\list\\listtemplateid%1\\listsimple{"_s.arg(identity);
+    return QStringView(kept).sliced(std::max<qsizetype>(kept.indexOf(u'{'), 0) + 1).startsWith(head);
 }
 
 int romanValue(const QString& text) {
@@ -81,14 +95,15 @@ ListLabel labelOfWord(const QString& label, qsizetype start, qsizetype end, List
 
 } // namespace
 
-void ListTables::beginList() {
+void ListTables::beginList(const QString& kept) {
     m_levels.clear();
+    m_kept = kept;
     m_identity = 0;
     m_overrideLevel = NoLevel;
 }
 
-void ListTables::beginOverride() {
-    beginList();
+void ListTables::beginOverride(const QString& kept) {
+    beginList(kept);
     m_starts.clear();
 }
 
@@ -115,7 +130,7 @@ ListLabel* ListTables::openLevel() {
 void ListTables::setIdentity(int identity) {
     m_identity = identity;
     if (!m_levels.isEmpty() && m_lists.size() < MostLists)
-        m_lists.insert(identity, std::exchange(m_levels, {}));
+        m_lists.insert(identity, List{std::exchange(m_levels, {}), numbered(identity, m_kept)});
 }
 
 void ListTables::setLevelKind(int format) {
@@ -172,7 +187,8 @@ void ListTables::setLevelText(const QString& text) {
 
 void ListTables::addOverride(int number) {
     if (m_overrides.size() < MostLists) {
-        m_overrides.insert(number, Override{m_identity, m_starts, m_levels});
+        m_overrides.insert(number,
+                           Override{m_identity, m_starts, m_levels, numbered(number, m_kept)});
         if (m_starts.isEmpty() && m_levels.isEmpty() && !m_plainOverrides.contains(m_identity))
             m_plainOverrides.insert(m_identity, number);
     }
@@ -181,24 +197,33 @@ void ListTables::addOverride(int number) {
     m_overrideLevel = NoLevel;
 }
 
-std::optional<ListLabel> ListTables::label(int overrideNumber, int level) const {
+std::optional<ListLabel> ListTables::label(int overrideNumber, int level, bool numbered) const {
     const auto own = m_overrides.constFind(overrideNumber);
     if (own == m_overrides.constEnd())
         return std::nullopt;
-    const auto levels = m_lists.constFind(own->identity);
-    if (levels == m_lists.constEnd() || levels->isEmpty())
+    const auto list = m_lists.constFind(own->identity);
+    if (list == m_lists.constEnd() || list->levels.isEmpty())
         return std::nullopt;
-    ListLabel label = levels->at(std::clamp<qsizetype>(level, 0, levels->size() - 1));
+    const Levels& levels = list->levels;
+    ListLabel label = levels.at(std::clamp<qsizetype>(level, 0, levels.size() - 1));
     for (const ListLabel& changed : own->labels)
         if (changed.level == label.level)
             label = changed;
     label.start = own->starts.value(label.level, label.start);
+    const bool made = numbered && isMade(own->identity, list->kept);
+    if (!made && !list->kept.isEmpty() && !own->kept.isEmpty()) {
+        label.source = numbered ? ListSource::Both : ListSource::Tables;
+        label.keptList = list->kept;
+        label.keptOverride = own->kept;
+    }
     // Bullets look alike whichever list they are of, and follow each other by their shape.
-    if (label.kind == ListKind::Bullet)
+    if (label.kind == ListKind::Bullet && label.source == ListSource::Made)
         return label;
     // Overrides that change nothing stand for the list itself, whose numbers go on.
     const bool plain = own->starts.isEmpty() && own->labels.isEmpty();
     label.identity = plain ? m_plainOverrides.value(own->identity, overrideNumber) : overrideNumber;
+    if (label.hasTables() && label.identity != overrideNumber)
+        label.keptOverride = m_overrides.value(label.identity).kept;
     return label;
 }
 
@@ -214,13 +239,15 @@ ListLabel labelFromText(const QString& text, ListKind previous) {
     const auto last =
         std::find_if(std::make_reverse_iterator(lastEnd), label.rend(), isSign).base();
     for (const auto& [start, end] : {std::pair(first, firstEnd), std::pair(last, lastEnd)}) {
-        const ListLabel numbered =
+        ListLabel numbered =
             labelOfWord(label, start - label.begin(), end - label.begin(), previous);
+        numbered.source = ListSource::Text;
         if (start < end && numbered.kind != ListKind::None)
             return numbered;
     }
     ListLabel bullet;
     bullet.kind = ListKind::Bullet;
+    bullet.source = ListSource::Text;
     return bullet;
 }
 

@@ -16,9 +16,11 @@ inline constexpr int NoLevel = -1;
 /// The list table and the override table, by which a paragraph's \ls and \ilvl name its label.
 class ListTables {
 public:
-    void beginList();
+    /// \param kept the list as it is kept, which says nothing of its identity; may be empty.
+    void beginList(const QString& kept);
     void beginLevel();
-    void beginOverride();
+    /// \param kept the same of the override.
+    void beginOverride(const QString& kept);
     /// An override may let its levels begin at numbers of their own, and give them a label.
     void beginOverrideLevel();
     /// \param identity of the list one stands in, or the one that the next override stands for.
@@ -36,22 +38,31 @@ public:
     void setLevelText(const QString& text);
     void addOverride(int number);
 
+    /// Whether there are overrides.
+    bool any() const { return !m_overrides.isEmpty(); }
     /// The label for a paragraph; none where the tables do not know the override.
-    std::optional<ListLabel> label(int overrideNumber, int level) const;
+    /// \param numbered whether a \pn tells of it too, as in what this program makes.
+    std::optional<ListLabel> label(int overrideNumber, int level, bool numbered) const;
 
 private:
     using Levels = QList<ListLabel>;
+    struct List {
+        Levels levels;
+        QString kept;
+    };
     struct Override {
         int identity = 0;       ///< of the list
         QHash<int, int> starts; ///< by level
         Levels labels;
+        QString kept;
     };
     ListLabel* openLevel();
 
-    QHash<int, Levels> m_lists;
+    QHash<int, List> m_lists;
     QHash<int, Override> m_overrides;
     QHash<int, int> m_plainOverrides; ///< by the list: the first one that changes nothing of it
     Levels m_levels;
+    QString m_kept; ///< of the list or override that is read
     QHash<int, int> m_starts;
     int m_identity = 0;
     int m_overrideLevel = NoLevel;

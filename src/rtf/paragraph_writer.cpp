@@ -56,9 +56,11 @@ const char* sideWord(LabelSide side) {
 void ParagraphWriter::begin(const ParagraphFormat& paragraph, int number) {
     // An inherited \pn numbers on by itself, so it is repeated only where the number does not.
     const ListKind kind = paragraph.list.kind;
+    const ListSource source = paragraph.list.source;
+    const bool counts = kind != ListKind::None && kind != ListKind::Bullet &&
+                        source != ListSource::Text && source != ListSource::Tables;
     const bool goesOn =
-        m_any && paragraph == m_last &&
-        (kind == ListKind::None || kind == ListKind::Bullet || number == m_lastNumber + 1);
+        m_any && paragraph == m_last && (!counts || number == m_lastNumber + 1);
     m_lastNumber = number;
     ListLabel shown = paragraph.list;
     shown.start = number;
@@ -71,18 +73,25 @@ void ParagraphWriter::begin(const ParagraphFormat& paragraph, int number) {
         label(shown);
     if (goesOn)
         return;
-    if (kind != ListKind::None) {
-        // Some readers know the one way to tell a list and some the other; only the list tables
-        // keep lists of one look apart.
-        numbering(shown);
-        m_out.word("\\ls", m_tables.list(paragraph));
-        m_out.word("\\ilvl0");
-    }
+    if (kind != ListKind::None)
+        list(paragraph, shown);
     shape(paragraph);
 }
 
+/// As the file told of it. Of one that the window made, some readers know the one way to tell and
+/// some the other; only the list tables keep lists of one look apart.
+void ParagraphWriter::list(const ParagraphFormat& paragraph, const ListLabel& shown) {
+    const ListSource source = paragraph.list.source;
+    if (source != ListSource::Text && source != ListSource::Tables)
+        numbering(shown);
+    if (source != ListSource::Text && source != ListSource::Numbering) {
+        m_out.word("\\ls", m_tables.list(paragraph));
+        m_out.word("\\ilvl", paragraph.list.hasTables() ? paragraph.list.level : 0);
+    }
+}
+
 void ParagraphWriter::label(const ListLabel& label) {
-    m_out.word("{\\pntext");
+    m_out.word(label.source == ListSource::Tables ? "{\\listtext" : "{\\pntext");
     if (label.kind == ListKind::Bullet) {
         m_out.word("\\f", m_tables.symbolFont());
         m_out.structure(BulletByte);
@@ -133,24 +142,33 @@ void ParagraphWriter::shape(const ParagraphFormat& paragraph) {
 }
 
 void ParagraphWriter::geometry(const ParagraphFormat& paragraph) {
-    const auto unlessZero = [this](const char* name, int number) {
-        if (number != 0)
+    // What is stated as it would be anyway is stated against a style.
+    const auto isStated = [&](int bit) { return (paragraph.stated & bit) != 0; };
+    const auto length = [&](const char* name, int number, int bit) {
+        if (number != 0 || isStated(bit))
             m_out.word(name, number);
     };
     if (paragraph.rightToLeft)
         m_out.word("\\rtlpar");
+    else if (isStated(stated::Direction))
+        m_out.word("\\ltrpar");
     if (paragraph.pageBreakBefore)
         m_out.word("\\pagebb");
-    unlessZero("\\fi", paragraph.first);
-    unlessZero("\\li", paragraph.left);
-    unlessZero("\\ri", paragraph.right);
-    unlessZero("\\sb", paragraph.before);
-    unlessZero("\\sa", paragraph.after);
-    if (paragraph.lineSpacing != 0) {
+    else if (isStated(stated::PageBreak))
+        m_out.word("\\pagebb", 0);
+    length("\\fi", paragraph.first, stated::First);
+    length("\\li", paragraph.left, stated::Left);
+    length("\\ri", paragraph.right, stated::Right);
+    length("\\sb", paragraph.before, stated::Before);
+    length("\\sa", paragraph.after, stated::After);
+    if (paragraph.lineSpacing != 0 || isStated(stated::LineSpacing)) {
         m_out.word("\\sl", paragraph.lineSpacing);
         m_out.word("\\slmult", paragraph.lineMultiple ? 1 : 0);
     }
-    alignment(paragraph.alignment);
+    if (paragraph.alignment != Alignment::Left)
+        alignment(paragraph.alignment);
+    else if (isStated(stated::Alignment))
+        m_out.word("\\ql");
     tabs(paragraph.tabs);
 }
 

@@ -27,6 +27,7 @@ private:
     void shape(const ParagraphFormat& paragraph);
     void alignment(Alignment alignment);
     void tabs(const QList<TabStop>& tabs);
+    void list(const ParagraphFormat& paragraph, const ListLabel& shown);
     void label(const ListLabel& label);
     void numbering(const ListLabel& label);
     void side(const ListLabel& label);

@@ -12,6 +12,14 @@ namespace orvalis::rtf {
 /// The language of text in a file that tells of none.
 inline constexpr int UsualLanguage = 1033;
 
+/// What a file says of the font of text that names none.
+enum class DefaultFont : quint8 {
+    Unknown, ///< no file tells
+    Named,
+    Unsaid,
+    Missing, ///< its font table has no such font
+};
+
 /// What is kept of a whole document, as the file had it (see kept_text.h).
 struct KeptParts {
     int language = UsualLanguage; ///< of text that names none, by Windows' numbers
@@ -20,6 +28,9 @@ struct KeptParts {
     QString words;
     QString notes;   ///< what stands between text and footnotes
     QString section; ///< the first one
+    bool nameless = false; ///< the file does not say what wrote it
+    DefaultFont defaultFont = DefaultFont::Unknown;
+    QString unnamedFamily; ///< of text that names no font; empty for that of whoever shows it
 
     bool operator==(const KeptParts&) const = default;
 };

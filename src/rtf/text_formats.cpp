@@ -131,6 +131,10 @@ QTextCharFormat textFormat(const CharFormat& format, const Names& names) {
         if (const int stretch = stretchOf(kept); stretch != QFont::Unstretched)
             text.setFontStretch(stretch);
     }
+    if (format.field != NothingKept)
+        text.setProperty(KeptField, names.keptAt(format.field));
+    if (format.stated != 0)
+        text.setProperty(StatedOfCharacters, format.stated);
     if (format.cell != NothingKept)
         text.setProperty(CellShape, names.keptAt(format.cell));
     if (format.hidden) {
@@ -158,6 +162,8 @@ CharFormat charFormat(const QTextCharFormat& format, Names& names, const QFont& 
     result.spacing = format.intProperty(CharacterSpacing);
     result.kept = names.kept(format.stringProperty(KeptOfCharacters));
     result.cell = names.kept(format.stringProperty(CellShape));
+    result.field = names.kept(format.stringProperty(KeptField));
+    result.stated = format.intProperty(StatedOfCharacters);
     result.anchors = names.kept(format.stringProperty(KeptAnchors));
     result.controlMarks = format.boolProperty(ControlMarks);
     result.underline = underlineOf(format);

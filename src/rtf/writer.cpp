@@ -29,7 +29,9 @@ public:
         , m_to(to)
         , m_progress(progress)
         , m_tellAt(progress ? from : std::numeric_limits<int>::max())
-        , m_defaultTab(int(document.defaultTextOption().tabStopDistance() * TwipsPerPixel)) {}
+        , m_defaultTab(int(document.defaultTextOption().tabStopDistance() * TwipsPerPixel)) {
+        m_body.expect(keptParts(document), document.defaultFont().family());
+    }
 
     QByteArray rtf() {
         QTextBlock block = m_document.findBlock(m_from);
@@ -64,6 +66,8 @@ private:
         KeptParts ofPart;
         ofPart.language = parts.language;
         ofPart.styles = parts.styles;
+        ofPart.defaultFont = parts.defaultFont;
+        ofPart.unnamedFamily = parts.unnamedFamily;
         return ofPart;
     }
 

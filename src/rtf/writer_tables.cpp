@@ -3,7 +3,12 @@
 #include "rtf/writer_tables.h"
 
 #include "rtf/font_table.h"
+#include "rtf/kept_text.h"
 #include "rtf/rtf_output.h"
+
+#include <QSet>
+
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -55,7 +60,7 @@ int WriterTables::font(int family) {
     const auto found = m_fontNumbers.constFind(family);
     if (found != m_fontNumbers.constEnd())
         return *found;
-    const int number = int(m_fonts.size());
+    const int number = unusedFont();
     m_fonts.append(family);
     m_fontNumbers.insert(family, number);
     return number;
@@ -77,9 +82,18 @@ int WriterTables::color(QRgb color) {
 }
 
 int WriterTables::list(const ParagraphFormat& item) {
-    const bool isBullet = item.list.kind == ListKind::Bullet;
-    int& number = m_listNumbers[{item.list.identity, isBullet ? item.left : 0, item.list.tab,
-                                 int(item.list.follow), int(item.list.side)}];
+    const ListLabel& label = item.list;
+    if (label.hasTables()) {
+        int& number = m_keptNumbers[{label.keptList, label.keptOverride}];
+        if (number == 0) {
+            m_lists.append(item);
+            number = int(m_lists.size());
+        }
+        return number;
+    }
+    const bool isBullet = label.kind == ListKind::Bullet;
+    int& number = m_listNumbers[{label.identity, isBullet ? item.left : 0, label.tab,
+                                 int(label.follow), int(label.side)}];
     if (number == 0) {
         m_lists.append(item);
         number = int(m_lists.size());
@@ -87,19 +101,21 @@ int WriterTables::list(const ParagraphFormat& item) {
     return number;
 }
 
-void WriterTables::write(RtfOutput& out, QByteArrayView styles) const {
+void WriterTables::write(RtfOutput& out, QByteArrayView styles) {
+    // What is kept of lists may name fonts and colours that nothing else has.
+    const QByteArray lists = listTables();
     writeFonts(out);
     writeColors(out);
     if (!styles.isEmpty())
         out.structure(styles);
-    writeLists(out);
+    out.structure(lists);
 }
 
 void WriterTables::writeFonts(RtfOutput& out) const {
     out.structure("{\\fonttbl");
     for (qsizetype number = 0; number < m_fonts.size(); ++number) {
         QString name = m_names.familyAt(m_fonts[number]);
-        out.word("{\\f", int(number));
+        out.word("{\\f", m_firstFont + int(number));
         out.word(isSymbolFamily(name) ? "\\fnil\\fcharset2" : "\\fnil\\fcharset0");
         name.remove(u';');
         // A reader would take the end of such a name for the script of its letters.
@@ -127,35 +143,70 @@ void WriterTables::writeColors(RtfOutput& out) const {
     out.structure("}\r\n");
 }
 
-void WriterTables::writeLists(RtfOutput& out) const {
+/// A list of the window's making.
+void WriterTables::writeMade(RtfOutput& out, const ParagraphFormat& item, int number) {
+    out.word("{\\list\\listtemplateid", number);
+    out.word("\\listsimple{\\listlevel\\levelnfc", levelFormat(item.list.kind));
+    out.word("\\leveljc", int(item.list.side));
+    out.word("\\levelfollow", int(item.list.follow));
+    out.word("\\levelstartat", item.list.start);
+    levelText(out, item.list);
+    // Some readers take the indents of the level, whatever the item says.
+    out.word("\\fi", item.first);
+    out.word("\\li", item.left);
+    if (item.list.tab != 0)
+        out.word("\\jclisttab\\tx", item.list.tab);
+    out.structure("}");
+    out.word("\\listid", number);
+    out.structure("}");
+}
+
+/// What is kept of a list or an override, up to the brace that closes it.
+void WriterTables::writeKeptHead(RtfOutput& out, QStringView kept) {
+    writeKept(out, *this, kept.sliced(kept.indexOf(NumberEnd) + 1).chopped(1));
+}
+
+QByteArray WriterTables::listTables() {
     if (m_lists.isEmpty())
-        return;
-    out.structure("{\\*\\listtable");
+        return {};
+    RtfOutput lists;
+    RtfOutput overrides;
+    lists.structure("{\\*\\listtable");
+    overrides.structure("{\\*\\listoverridetable");
+    QHash<QString, int> identities; ///< of kept lists
+    QSet<int> taken;
+    for (qsizetype number = 1; number <= m_lists.size(); ++number)
+        taken.insert(int(number));
     for (qsizetype index = 0; index < m_lists.size(); ++index) {
         const ParagraphFormat& item = m_lists[index];
         const int number = int(index) + 1;
-        out.word("{\\list\\listtemplateid", number);
-        out.word("\\listsimple{\\listlevel\\levelnfc", levelFormat(item.list.kind));
-        out.word("\\leveljc", int(item.list.side));
-        out.word("\\levelfollow", int(item.list.follow));
-        out.word("\\levelstartat", item.list.start);
-        levelText(out, item.list);
-        // Some readers take the indents of the level, whatever the item says.
-        out.word("\\fi", item.first);
-        out.word("\\li", item.left);
-        if (item.list.tab != 0)
-            out.word("\\jclisttab\\tx", item.list.tab);
-        out.structure("}");
-        out.word("\\listid", number);
-        out.structure("}");
+        if (!item.list.hasTables()) {
+            writeMade(lists, item, number);
+            overrides.word("{\\listoverride\\listid", number);
+            overrides.word("\\listoverridecount0\\ls", number);
+            overrides.structure("}");
+            continue;
+        }
+        const QString& kept = item.list.keptList;
+        auto known = identities.constFind(kept);
+        if (known == identities.constEnd()) {
+            int identity = kept.first(kept.indexOf(NumberEnd)).toInt();
+            while (taken.contains(identity))
+                identity = identity < std::numeric_limits<int>::max() ? identity + 1 : 1;
+            taken.insert(identity);
+            known = identities.insert(kept, identity);
+            writeKeptHead(lists, kept);
+            lists.word("\\listid", identity);
+            lists.structure("}");
+        }
+        writeKeptHead(overrides, item.list.keptOverride);
+        overrides.word("\\listid", *known);
+        overrides.word("\\ls", number);
+        overrides.structure("}");
     }
-    out.structure("}\r\n{\\*\\listoverridetable");
-    for (qsizetype number = 1; number <= m_lists.size(); ++number) {
-        out.word("{\\listoverride\\listid", int(number));
-        out.word("\\listoverridecount0\\ls", int(number));
-        out.structure("}");
-    }
-    out.structure("}\r\n");
+    lists.structure("}\r\n");
+    overrides.structure("}\r\n");
+    return lists.bytes() + overrides.bytes();
 }
 
 } // namespace orvalis::rtf

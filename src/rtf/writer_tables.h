@@ -24,30 +24,39 @@ public:
 
     /// The number of a family of names().
     int font(int family);
+    /// Lets the fonts be numbered from 1.
+    void leaveOutFirstFont() { m_firstFont = 1; }
+    /// A number that no font has.
+    int unusedFont() const { return m_firstFont + int(m_fonts.size()); }
     /// The number of the font that bullets are drawn in.
     int symbolFont() { return font(m_symbolFamily); }
     SymbolFont symbolFontOf(int family) const;
     /// The number of a colour; 0 is the automatic one.
     int color(QRgb color);
-    /// The number of the list of an item; of several lists of bullets with one indent there is one.
+    /// The number of the list of an item; of several lists of bullets with one indent there is one,
+    /// and of what the file's list tables tell once.
     int list(const ParagraphFormat& item);
 
     /// Appends the tables with all that was used so far.
     /// \param styles the style sheet, which has its place among them.
-    void write(RtfOutput& out, QByteArrayView styles) const;
+    void write(RtfOutput& out, QByteArrayView styles);
 
 private:
     void writeFonts(RtfOutput& out) const;
     void writeColors(RtfOutput& out) const;
-    void writeLists(RtfOutput& out) const;
+    QByteArray listTables();
+    static void writeMade(RtfOutput& out, const ParagraphFormat& item, int number);
+    void writeKeptHead(RtfOutput& out, QStringView kept);
 
     Names m_names;
     int m_symbolFamily;
+    int m_firstFont = 0;
     QList<int> m_fonts; ///< families in the order of the font table
     QHash<int, int> m_fontNumbers;
     QList<QRgb> m_colors;
     QHash<QRgb, int> m_colorNumbers;
     QList<ParagraphFormat> m_lists; ///< by their first items
+    QHash<std::pair<QString, QString>, int> m_keptNumbers; ///< by list and override
     /// By identity, the indent of bullets, and the place of the labels.
     std::map<std::array<int, 5>, int> m_listNumbers;
 };

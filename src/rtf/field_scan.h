@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+
+namespace orvalis::rtf {
+
+/// What a look ahead tells of a field.
+struct FieldScan {
+    QByteArrayView instruction; ///< what stands behind the word of its group, up to the brace
+    QByteArray name;            ///< the instruction's first word, in capitals
+    bool hasResult = false;     ///< something to show
+    bool hasStructure = false;  ///< paragraphs, cells or sections end in the result
+};
+
+/// \param content of the field's group, behind its first word.
+FieldScan scanField(QByteArrayView content);
+
+} // namespace orvalis::rtf

@@ -57,6 +57,8 @@ void readLineSpacing(const QTextBlockFormat& block, ParagraphFormat& format) {
 }
 
 void setKept(QTextBlockFormat& block, const ParagraphFormat& format, const Names& names) {
+    if (format.mark != NothingKept)
+        block.setProperty(ParagraphMark, names.keptAt(format.mark));
     if (format.stated != 0)
         block.setProperty(StatedOfParagraph, format.stated);
     if (format.row != NothingKept) {
@@ -131,6 +133,8 @@ ParagraphFormat paragraphFormat(const QTextBlockFormat& format, const QTextList*
     result.kept = names.kept(format.stringProperty(KeptOfParagraph));
     result.row = names.kept(format.stringProperty(TableRow));
     result.rowBegins = format.boolProperty(RowBegins);
+    if (list)
+        result.mark = names.kept(format.stringProperty(ParagraphMark));
     result.stated = format.intProperty(StatedOfParagraph);
     result.anchors = names.kept(format.stringProperty(KeptAtStart));
     result.section = names.kept(format.stringProperty(KeptOfSection));

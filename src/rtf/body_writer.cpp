@@ -4,6 +4,7 @@
 
 #include "rtf/hyperlink.h"
 #include "rtf/kept_text.h"
+#include "rtf/look_words.h"
 #include "rtf/picture_writer.h"
 
 #include <cstdlib>
@@ -13,60 +14,6 @@ namespace orvalis::rtf {
 namespace {
 
 constexpr int FactoryTab = 720; // twips, what every reader assumes
-
-const char* underlineWord(Underline underline) {
-    switch (underline) {
-    case Underline::None:
-        return "\\ulnone";
-    case Underline::Single:
-        return "\\ul";
-    case Underline::Words:
-        return "\\ulw";
-    case Underline::Double:
-        return "\\uldb";
-    case Underline::Dotted:
-        return "\\uld";
-    case Underline::Dash:
-        return "\\uldash";
-    case Underline::DashDot:
-        return "\\uldashd";
-    case Underline::Wave:
-        return "\\ulwave";
-    case Underline::Thick:
-        return "\\ulth";
-    case Underline::DashDotDot:
-        return "\\uldashdd";
-    case Underline::LongDash:
-        return "\\ulldash";
-    case Underline::ThickDotted:
-        return "\\ulthd";
-    case Underline::ThickDash:
-        return "\\ulthdash";
-    case Underline::ThickLongDash:
-        return "\\ulthldash";
-    case Underline::ThickDashDot:
-        return "\\ulthdashd";
-    case Underline::ThickDashDotDot:
-        return "\\ulthdashdd";
-    case Underline::HeavyWave:
-        return "\\ulhwave";
-    case Underline::DoubleWave:
-        return "\\ululdbwave";
-    }
-    return "\\ul";
-}
-
-const char* scriptWord(Script script) {
-    switch (script) {
-    case Script::Super:
-        return "\\super";
-    case Script::Sub:
-        return "\\sub";
-    case Script::Normal:
-        break;
-    }
-    return "\\nosupersub";
-}
 
 } // namespace
 
@@ -79,11 +26,10 @@ BodyWriter::BodyWriter()
 /// The font of text that names none is the first of the table, or none of it.
 void BodyWriter::expect(const KeptParts& parts, const QString& shownFamily) {
     const bool unsaid = parts.defaultFont == DefaultFont::Unsaid;
-    const bool styled = parts.defaultFont == DefaultFont::Named && !parts.styles.isEmpty();
     if (parts.defaultFont == DefaultFont::Missing || (unsaid && parts.unnamedFamily.isEmpty())) {
         m_tables.leaveOutFirstFont();
         m_unnamedFamily = names().family(shownFamily);
-    } else if (unsaid || styled) {
+    } else if (parts.defaultFont != DefaultFont::Unknown) {
         m_unnamedFamily = names().family(parts.unnamedFamily);
         m_tables.font(m_unnamedFamily);
     }
@@ -92,6 +38,8 @@ void BodyWriter::expect(const KeptParts& parts, const QString& shownFamily) {
 void BodyWriter::beginParagraph(const ParagraphFormat& paragraph, int number) {
     goTo(paragraph);
     m_paragraphs.begin(paragraph, number);
+    m_mark = paragraph.mark;
+    m_rowEnds = false;
     writeAnchors(paragraph.anchors);
 }
 
@@ -175,8 +123,7 @@ void BodyWriter::change(const CharFormat& format) {
         m_out.word(format.raise < 0 ? "\\dn" : "\\up", std::abs(format.raise));
     if (tells(format.script != m_format.script, stated::Script))
         m_out.word(scriptWord(format.script));
-    if ((leftOut & stated::Font) == 0 &&
-        tells(format.family != m_format.family, stated::Font))
+    if ((leftOut & stated::Font) == 0 && tells(format.family != m_format.family, stated::Font))
         m_out.word("\\f", m_tables.font(format.family));
     if (format.family != m_format.family)
         m_symbols = m_tables.symbolFontOf(format.family);
@@ -339,12 +286,14 @@ void BodyWriter::goTo(const ParagraphFormat& paragraph) {
 
 void BodyWriter::beginRow(int row, const ParagraphFormat& first) {
     goTo(first);
+    m_rowEnds = false;
     m_out.structure(kept(names().keptAt(row)));
     m_paragraphs.forget();
 }
 
 void BodyWriter::beginCell(int shape, int anchors) {
     endLastParagraph();
+    m_mark = NothingKept;
     writeKept(m_out, m_tables, names().keptAt(shape));
     writeAnchors(anchors);
     m_paragraphs.forget();
@@ -359,14 +308,23 @@ void BodyWriter::endCell(const CharFormat& look) {
 }
 
 void BodyWriter::endRow() {
+    m_rowEnds = true;
     m_paragraphEnds = false;
+    m_mark = NothingKept;
     m_out.structure("\\cell\\row\r\n");
     m_paragraphs.forget();
 }
 
 void BodyWriter::endLastParagraph() {
-    if (std::exchange(m_paragraphEnds, false))
+    if (!std::exchange(m_paragraphEnds, false))
+        return;
+    if (m_mark == NothingKept) {
         m_out.structure("\\par\r\n");
+        return;
+    }
+    m_out.structure("{");
+    writeKept(m_out, m_tables, names().keptAt(m_mark));
+    m_out.structure("\\par}\r\n");
 }
 
 /// The word that ends a section ends its last paragraph too, if that holds anything.
@@ -375,6 +333,9 @@ void BodyWriter::beginSection(QStringView text) {
     if (endsFirst || m_paragraphIsEmpty)
         endLastParagraph();
     m_paragraphEnds = false;
+    // Many readers end a table at its paragraphs only.
+    if (std::exchange(m_rowEnds, false))
+        m_out.structure("\\pard");
     m_out.structure(kept(text.sliced(endsFirst ? ParagraphEndsFirst.size() : 0)));
 }
 

@@ -93,6 +93,8 @@ private:
     SymbolFont m_symbols = SymbolFont::None;
     bool m_paragraphEnds = false; ///< and the word for it is still to come
     bool m_paragraphIsEmpty = true;
+    bool m_rowEnds = false;   ///< and nothing has come since
+    int m_mark = NothingKept; ///< how the paragraph's mark looks, if other than its text
 };
 
 } // namespace orvalis::rtf

@@ -66,7 +66,6 @@ constexpr ControlWord Words[] = {
 
     {"plain", Action::PlainCharacters, 0},
     {"f", Action::Font, 0},
-    {"af", Action::FurtherFont, 0},
     {"pnf", Action::FurtherFont, 0},
     {"fs", Action::FontSize, 0},
     {"expnd", Action::Spacing, 5},

@@ -145,11 +145,10 @@ inline constexpr int NumberCodes = 9;
 
 /// How a file tells of a list.
 enum class ListSource : quint8 {
-    Made,      ///< no file does: the window has made it, or wrote it so
-    Tables,    ///< by its list tables
-    Both,      ///< by these, and by \pn in the paragraph for those who know no tables
-    Numbering, ///< by \\pn in the paragraph
-    Text,      ///< by the text of the label alone
+    Made,   ///< by \pn in the paragraph, or not at all: the window has made it
+    Tables, ///< by its list tables
+    Both,   ///< by these, and by \pn for those who know no tables
+    Text,   ///< by the text of the label alone
 };
 
 /// The label of a list item. Items of one list of the list tables share the identity; 0 stands for
@@ -191,6 +190,7 @@ struct ParagraphFormat {
     int anchors = NothingKept; ///< what is kept ahead of its first character
     int row = NothingKept;     ///< of the table that the paragraph's cells are of
     bool rowBegins = false;    ///< with the paragraph
+    int mark = NothingKept;    ///< of a list item: its mark's look, where its text has another
     bool inTable = false;      ///< the paragraph is written as one of a cell
     int section = NothingKept; ///< what the file says of the section that begins here
     int stated = 0;            ///< what the file says, as in CharFormat

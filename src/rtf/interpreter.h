@@ -62,6 +62,7 @@ private:
         int keptOfChars = 0; ///< sets of m_kept
         int keptOfParagraph = 0;
         const ControlWord* border = nullptr; ///< the one that was named last
+        const ControlWord* script = nullptr; ///< the same
         QTextOption::TabType tabType = QTextOption::LeftTab;
         TabLeader tabLeader = TabLeader::None;
         Destination destination = Destination::Body;
@@ -98,6 +99,7 @@ private:
     void flushText();
     void paragraphEnd();
     const ParagraphFormat& shapedParagraph();
+    int lookOfParagraphMark();
     bool shows() const;
     bool captures() const;
     const CodePage& pageOfText() const;
@@ -133,6 +135,7 @@ private:
 
     // What is kept as it came (interpreter_keeping.cpp)
     bool keptWord(const Token& token);
+    bool furtherFont(KeptCall& call) const;
     void keepCharacters(int set);
     void keepParagraph(int set);
     void keepGroup(const Token& token);
@@ -140,6 +143,7 @@ private:
     QString keptOfLists(const Token& token);
     void placeGroup(KeptPlace place, const QString& group);
     void anchor(const QString& kept);
+    QString lookOfMark() const;
     void sectionEnd();
     QString sectionBreak() const;
     void tellFirstSection();
@@ -189,7 +193,7 @@ private:
     KeptParts m_parts;
     bool m_stylesKept = false;
     qsizetype m_listKeptTo = 0; ///< where the list ends that was kept last
-    qint64 m_keptLeft; ///< bytes that groups may still take
+    qint64 m_keptLeft;          ///< bytes that groups may still take
 
     QString m_text;
     CharFormat m_textFormat;

@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
-#include "rtf/interpreter.h"
 #include "rtf/field_scan.h"
+#include "rtf/interpreter.h"
 #include "rtf/kept_group.h"
 #include "rtf/kept_text.h"
+#include "rtf/look_words.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,11 +17,6 @@ bool isStarred(KeptPlace place) {
            place == KeptPlace::StarredAnchor || place == KeptPlace::StarredNote;
 }
 
-bool hasLook(KeptPlace place) {
-    return place == KeptPlace::Section || place == KeptPlace::Notes || place == KeptPlace::Anchor ||
-           place == KeptPlace::StarredNote;
-}
-
 } // namespace
 
 bool Interpreter::keptWord(const Token& token) {
@@ -30,11 +26,8 @@ bool Interpreter::keptWord(const Token& token) {
         return true;
     }
     if (token.word->action == Action::AnchorMark) {
-        const QString mark = u'\\' + QString::fromLatin1(token.bytes) + u'}';
-        // The mark stands by itself: what is written around it need not be as it was here.
         if (shows())
-            anchor((m_state.chars.script == Script::Super ? u"{\\super"_s : u"{\\nosupersub"_s) +
-                   mark);
+            anchor(lookOfMark() + u'\\' + QString::fromLatin1(token.bytes) + u'}');
         return true;
     }
     if (token.word->action != Action::Keep)
@@ -57,6 +50,14 @@ bool Interpreter::keptWord(const Token& token) {
         call.number = int(color(token.parameter));
     }
     if (kept.kind == KeptKind::Style && !m_stylesKept)
+        return true;
+    if (kept.kind == KeptKind::Script)
+        m_state.script = call.side = token.word;
+    else if (kept.kind == KeptKind::Direction)
+        m_state.script = nullptr;
+    else if (kept.kind == KeptKind::Associate && m_state.script)
+        return true;
+    else if (kept.kind == KeptKind::Font && !furtherFont(call))
         return true;
     switch (kept.level) {
     case KeptLevel::Characters:
@@ -81,6 +82,28 @@ bool Interpreter::keptWord(const Token& token) {
     return true;
 }
 
+/// What begins the group of a note's number: it looks like the text ahead of it, but raised, or
+/// else in a way of its own.
+QString Interpreter::lookOfMark() const {
+    CharFormat look = m_textFormat;
+    look.script = m_state.chars.script;
+    look.stated = m_state.chars.stated;
+    look.anchors = m_state.chars.anchors;
+    if (m_text.isEmpty() || look != m_state.chars)
+        return u'{' + keptLook(told(m_state.chars), m_names);
+    return m_state.chars.script == Script::Super ? u"{\\super"_s : u"{\\nosupersub"_s;
+}
+
+/// The font of text in a script, or in the other direction, that the run has not by itself.
+bool Interpreter::furtherFont(KeptCall& call) const {
+    const FontTable::Font* font = m_fonts.find(call.number);
+    if (!call.hasNumber || !font || font->family == NoName)
+        return false;
+    call.side = m_state.script;
+    call.number = font->family;
+    return true;
+}
+
 void Interpreter::keepCharacters(int set) {
     m_state.keptOfChars = set;
     m_state.chars.kept = m_kept.name(set);
@@ -100,7 +123,7 @@ void Interpreter::keepGroup(const Token& token) {
     const QByteArrayView content = m_tokenizer.groupAhead();
     const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, m_defaultFont};
     const QByteArray head = (isStarred(place) ? "{\\*\\" : "{\\") + token.bytes.toByteArray();
-    const QString group = GroupKeeper(content, tables).kept(head, hasLook(place), m_keptLeft);
+    const QString group = GroupKeeper(content, tables).kept(head, m_keptLeft);
     m_keptLeft -= group.size();
     skipGroup();
     placeGroup(place, group);
@@ -120,8 +143,7 @@ void Interpreter::keepField() {
     if (scan.instruction.isEmpty() || scan.hasStructure || isLink || showsItself)
         return;
     const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, m_defaultFont};
-    const QString kept =
-        GroupKeeper(scan.instruction, tables).kept("{\\*\\fldinst", false, m_keptLeft);
+    const QString kept = GroupKeeper(scan.instruction, tables).kept("{\\*\\fldinst", m_keptLeft);
     m_keptLeft -= kept.size();
     if (kept.isEmpty())
         return;
@@ -143,7 +165,7 @@ QString Interpreter::keptOfLists(const Token& token) {
     const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, m_defaultFont};
     const QString kept =
         GroupKeeper(content, tables)
-            .kept("{\\" + token.bytes.toByteArray(), false, std::min(LongestList, m_keptLeft));
+            .kept("{\\" + token.bytes.toByteArray(), std::min(LongestList, m_keptLeft));
     m_keptLeft -= kept.size();
     return kept;
 }

@@ -75,6 +75,7 @@ void Interpreter::deliverPicture() {
     m_fieldText.clear();
     cellTabs(m_cellsEnded.size());
     flushText();
+    m_textFormat = m_state.chars;
     if (m_sink.picture(m_picture, told(m_state.chars)))
         m_inParagraph = true;
     else

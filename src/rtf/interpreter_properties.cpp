@@ -242,6 +242,7 @@ void Interpreter::plainCharacters() {
     m_state.chars.link = link;
     m_state.chars.field = field;
     m_state.keptOfChars = 0;
+    m_state.script = nullptr;
     m_state.deleted = false;
     m_state.font = NoName;
     selectFont();

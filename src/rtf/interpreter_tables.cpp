@@ -105,8 +105,7 @@ int Interpreter::keptInCell() {
     const auto label = m_lists.label(m_state.listOverride, m_state.listLevel, false);
     if (m_state.listOverride == 0 || !label || !label->hasTables() || m_keptLeft <= 0)
         return m_state.paragraph.kept;
-    const QString list = QStringLiteral("\\ls") +
-                         keptList(label->keptList, label->keptOverride) +
+    const QString list = QStringLiteral("\\ls") + keptList(label->keptList, label->keptOverride) +
                          QStringLiteral("\\ilvl") + QString::number(label->level);
     m_keptLeft -= list.size();
     return m_names.kept(m_names.keptAt(m_state.paragraph.kept) + list);
@@ -132,10 +131,14 @@ void Interpreter::rowEnd(bool outermost) {
     m_rowEnds = kept;
     // What stands between the last cell and the row's end shapes no text.
     const ParagraphFormat behind = m_state.paragraph;
-    if (kept)
+    const int list = m_state.listOverride;
+    if (kept) {
         m_state.paragraph = m_lastOfCell;
+        m_state.listOverride = 0;
+    }
     paragraphEnd();
     m_state.paragraph = behind;
+    m_state.listOverride = list;
 }
 
 } // namespace orvalis::rtf

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "rtf/interpreter.h"
+#include "rtf/look_words.h"
 
 #include <algorithm>
 
@@ -251,6 +252,23 @@ void Interpreter::paragraphEnd() {
     askForRoom();
 }
 
+/// Many programs show the label of a list item in the look of its paragraph's mark.
+int Interpreter::lookOfParagraphMark() {
+    CharFormat mark = m_state.chars;
+    mark.link = m_textFormat.link;
+    mark.field = m_textFormat.field;
+    mark.cell = m_textFormat.cell;
+    mark.script = m_textFormat.script;
+    mark.stated = m_textFormat.stated;
+    if (mark == m_textFormat || m_keptLeft <= 0)
+        return NothingKept;
+    mark.script = Script::Normal;
+    mark.stated = m_state.chars.stated;
+    const QString look = keptLook(told(mark), m_names);
+    m_keptLeft -= look.size();
+    return m_names.kept(look);
+}
+
 const ParagraphFormat& Interpreter::shapedParagraph() {
     const bool ofRow = (m_rowEnds || m_state.inTable) && row() != NothingKept;
     if (!ofRow && m_state.listOverride == 0 && m_label.isEmpty() && !m_pageBreak &&
@@ -277,6 +295,8 @@ const ParagraphFormat& Interpreter::shapedParagraph() {
     else if (m_state.listOverride != 0) // which goes before the other, though nobody knows it
         list.source = ListSource::Text;
     m_lastListKind = m_shaped.list.kind;
+    if (list.kind != ListKind::None && m_inParagraph)
+        m_shaped.mark = lookOfParagraphMark();
     return m_shaped;
 }
 

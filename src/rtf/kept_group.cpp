@@ -27,8 +27,7 @@ GroupKeeper::GroupKeeper(QByteArrayView content, const FileTables& tables)
     : m_tokenizer(content)
     , m_tables(tables) {}
 
-QString GroupKeeper::kept(QByteArrayView head, bool ownText, qsizetype limit) {
-    m_state.quiet = !ownText;
+QString GroupKeeper::kept(QByteArrayView head, qsizetype limit) {
     plain();
     m_out.word(head);
     Token token;
@@ -140,6 +139,10 @@ void GroupKeeper::word(const Token& token) {
     default:
         break;
     }
+    if (action == Action::Keep && keptWord(*token.word).kind == KeptKind::Font) {
+        selectFont(token);
+        return;
+    }
     m_fallbackToSkip = 0;
     const bool isColor = action == Action::Color || action == Action::Highlight ||
                          (action == Action::Keep && keptWord(*token.word).kind == KeptKind::Color);
@@ -171,20 +174,15 @@ void GroupKeeper::selectFont(const Token& token) {
     m_out.word(keptFont(family).toUtf8());
     if (token.word->action != Action::Font)
         return;
-    m_state.needsFont = false;
     m_state.page = font->page ? font->page : &m_tables.page;
     m_state.symbols = isSymbolFamily(family);
 }
 
-/// Text behind it is of the file's default font, which need not be that of the file to be written.
+/// Text behind it is of the file's default font.
 void GroupKeeper::plain() {
     m_state.page = &m_tables.page;
     m_state.symbols = false;
-    m_state.needsFont = false;
-    if (m_state.quiet)
-        return;
     const FontTable::Font* font = m_tables.fonts.find(m_tables.defaultFont);
-    m_state.needsFont = true;
     if (!font)
         return;
     if (font->page)
@@ -195,7 +193,6 @@ void GroupKeeper::plain() {
 void GroupKeeper::symbol(uchar character) {
     switch (character) {
     case '*':
-        m_state.quiet = true;
         m_out.structure("\\*");
         return;
     case '~':
@@ -264,12 +261,6 @@ void GroupKeeper::text(QStringView text) {
     // A picture has digits alone.
     if (m_state.picture)
         return;
-    if (m_state.needsFont && !m_state.quiet) {
-        m_state.needsFont = false;
-        const FontTable::Font* font = m_tables.fonts.find(m_tables.defaultFont);
-        m_out.word("\\f");
-        m_out.word(keptFont(font ? m_tables.names.familyAt(font->family) : QString()).toUtf8());
-    }
     // Codes below a blank are numbers, in the labels of lists.
     for (qsizetype at = 0; at < text.size();) {
         qsizetype end = at;

@@ -29,9 +29,8 @@ public:
     GroupKeeper(QByteArrayView content, const FileTables& tables);
 
     /// \param head the opening brace and the first word.
-    /// \param ownText false for what has no look: then no font is named for text that names none.
     /// \returns nothing when it would be longer than the limit.
-    QString kept(QByteArrayView head, bool ownText, qsizetype limit);
+    QString kept(QByteArrayView head, qsizetype limit);
 
 private:
     struct Group {
@@ -39,8 +38,6 @@ private:
         int unicodeSkip = 1;
         bool symbols = false;
         bool picture = false;
-        bool quiet = false;     ///< its text names no font by itself
-        bool needsFont = false; ///< text without a font of its own would take the first of the file
     };
 
     void take(const Token& token);

@@ -3,9 +3,12 @@
 #include "rtf/kept_sets.h"
 
 #include "rtf/kept_text.h"
+#include "rtf/kept_word_table.h"
 
 #include <algorithm>
 #include <tuple>
+
+using namespace Qt::StringLiterals;
 
 namespace orvalis::rtf {
 
@@ -20,7 +23,7 @@ int KeptSets::with(int set, const KeptCall& call) {
     Entry entry{.source = call.word, .hasNumber = call.hasNumber, .number = call.number};
     if (call.side)
         entry.side = keptOrder(*call.side) + 1;
-    if (kind.kind != KeptKind::Side)
+    if (kind.kind != KeptKind::Side && kind.kind != KeptKind::Script)
         entry.word = keptOrder(*call.word) + 1;
     const Step step{set, entry.side, entry.word, entry.hasNumber, entry.number};
     if (const auto known = m_steps.constFind(step); known != m_steps.constEnd())
@@ -43,13 +46,25 @@ int KeptSets::with(int set, const KeptCall& call) {
     return number;
 }
 
+namespace {
+
+bool isAssociate(KeptKind kind) {
+    return kind == KeptKind::Associate || kind == KeptKind::Font;
+}
+
+} // namespace
+
 void KeptSets::apply(std::vector<Entry>& entries, const Entry& entry) {
     const KeptWord kind = keptWord(*entry.source);
+    if (kind.kind == KeptKind::Script) {
+        applyScript(entries, entry);
+        return;
+    }
     // A border that was named for something else, a cell ahead say, is not this one's.
     const auto namesSide = [&](const Entry& other) {
         return other.side == entry.side && other.word == 0;
     };
-    if (entry.side != 0 && entry.word != 0 &&
+    if (entry.side != 0 && entry.word != 0 && kind.kind != KeptKind::Font &&
         std::none_of(entries.begin(), entries.end(), namesSide))
         return;
     const auto givesWay = [&](const Entry& other) {
@@ -63,34 +78,103 @@ void KeptSets::apply(std::vector<Entry>& entries, const Entry& entry) {
     entries.erase(std::remove_if(entries.begin(), entries.end(), givesWay), entries.end());
     const bool taken = entry.hasNumber && entry.number == 0 &&
                        (kind.kind == KeptKind::Switch || kind.kind == KeptKind::Color);
-    if (taken)
-        return;
+    // Text from left to right is that anyway, where nothing is said of the other.
+    const bool usual = kind.kind == KeptKind::Direction && isLeftToRight(entry) &&
+                       std::none_of(entries.begin(), entries.end(), [](const Entry& other) {
+                           return other.side == 0 && isAssociate(keptWord(*other.source).kind);
+                       });
+    if (!taken && !usual)
+        insert(entries, entry);
+}
+
+/// The script that was named last is that of the text, Latin unless it is that of the east; of the
+/// others only their fonts count.
+void KeptSets::applyScript(std::vector<Entry>& entries, Entry entry) {
+    const auto isScript = [](const Entry& other) {
+        return keptWord(*other.source).kind == KeptKind::Script;
+    };
+    entries.erase(std::remove_if(entries.begin(), entries.end(), isScript), entries.end());
+    entry.hasNumber = false;
+    const bool anyFont = std::any_of(entries.begin(), entries.end(), [](const Entry& other) {
+        return other.side != 0 && keptWord(*other.source).kind == KeptKind::Font;
+    });
+    if (!isEastern(entry)) {
+        entry.source = &KeptWordTable[size_t(latinScript() - 1)];
+        entry.side = latinScript();
+    }
+    if (anyFont || isEastern(entry))
+        insert(entries, entry);
+}
+
+bool KeptSets::isLeftToRight(const Entry& entry) {
+    return QByteArrayView(entry.source->name) == "ltrch";
+}
+
+bool KeptSets::isEastern(const Entry& entry) {
+    return QByteArrayView(entry.source->name) == "dbch";
+}
+
+int KeptSets::latinScript() {
+    static const auto Latin =
+        std::find_if(KeptWordTable.begin(), KeptWordTable.end(),
+                     [](const ControlWord& word) { return QByteArrayView(word.name) == "loch"; });
+    return int(Latin - KeptWordTable.begin()) + 1;
+}
+
+void KeptSets::insert(std::vector<Entry>& entries, const Entry& entry) {
     const auto order = [](const Entry& a, const Entry& b) {
         return std::tie(a.side, a.word) < std::tie(b.side, b.word);
     };
     entries.insert(std::upper_bound(entries.begin(), entries.end(), entry, order), entry);
 }
 
-QString KeptSets::text(const std::vector<Entry>& entries) {
-    QString words;
+QString KeptSets::text(const std::vector<Entry>& entries) const {
+    const Entry* direction = nullptr;
+    const Entry* script = nullptr;
+    QString associates;
+    QString fonts; ///< of scripts
+    QString others;
     for (const Entry& entry : entries) {
-        words += u'\\';
-        words += QLatin1StringView(entry.source->name);
-        if (!entry.hasNumber)
-            continue;
-        switch (keptWord(*entry.source).kind) {
-        case KeptKind::Color:
-            words += keptColor(QRgb(entry.number));
-            break;
-        case KeptKind::Number:
-        case KeptKind::Style:
-            words += QString::number(entry.number);
-            break;
-        default:
-            break;
-        }
+        const KeptKind kind = keptWord(*entry.source).kind;
+        if (kind == KeptKind::Direction)
+            direction = &entry;
+        else if (kind == KeptKind::Script)
+            script = &entry;
+        else if (kind == KeptKind::Font && entry.side != 0)
+            fonts += scriptWord(entry.side) + word(entry);
+        else
+            (entry.side == 0 && isAssociate(kind) ? associates : others) += word(entry);
     }
-    return words;
+    // What holds for the other direction stands behind the word for that.
+    if (direction && !associates.isEmpty())
+        associates.prepend(isLeftToRight(*direction) ? u"\\rtlch"_s : u"\\ltrch"_s);
+    if (direction)
+        associates += word(*direction);
+    if (script)
+        fonts += word(*script);
+    return associates + fonts + others;
+}
+
+QString KeptSets::scriptWord(int side) {
+    return u'\\' + QLatin1StringView(KeptWordTable[size_t(side - 1)].name);
+}
+
+QString KeptSets::word(const Entry& entry) const {
+    const QString name = u'\\' + QLatin1StringView(entry.source->name);
+    if (!entry.hasNumber)
+        return name;
+    switch (keptWord(*entry.source).kind) {
+    case KeptKind::Color:
+        return name + keptColor(QRgb(entry.number));
+    case KeptKind::Font:
+        return name + keptFont(m_names.familyAt(entry.number));
+    case KeptKind::Number:
+    case KeptKind::Style:
+    case KeptKind::Associate:
+        return name + QString::number(entry.number);
+    default:
+        return name;
+    }
 }
 
 } // namespace orvalis::rtf

@@ -34,6 +34,7 @@ enum Rivals : quint8 {
     RowDirection,
     CellAlign,
     CellFlow,
+    RunDirection,
 };
 
 struct KeptEntry {
@@ -48,6 +49,16 @@ constexpr auto keptEntries() {
     using enum KeptKind;
     return std::to_array<KeptEntry>({
         // Characters
+        {"af", Characters, Font},
+        {"afs", Characters, Associate},
+        {"ab", Characters, Associate},
+        {"ai", Characters, Associate},
+        {"alang", Characters, Associate},
+        {"ltrch", Characters, Direction, RunDirection},
+        {"rtlch", Characters, Direction, RunDirection},
+        {"loch", Characters, Script},
+        {"hich", Characters, Script},
+        {"dbch", Characters, Script},
         {"cs", Characters, Style},
         {"lang", Characters, Number},
         {"langfe", Characters, Number},

@@ -23,9 +23,13 @@ enum class KeptLevel : quint8 {
 enum class KeptKind : quint8 {
     Switch, ///< 0 takes it away again
     Number,
-    Color, ///< the number is an index of the colour table
-    Style, ///< the number is an entry of the style sheet
-    Side,  ///< a border: what follows about borders belongs to it
+    Color,     ///< the number is an index of the colour table
+    Style,     ///< the number is an entry of the style sheet
+    Side,      ///< a border: what follows about borders belongs to it
+    Font,      ///< the number is an entry of the font table
+    Associate, ///< a number that holds for text of the other direction
+    Direction, ///< of the text, which the words that have a form for each follow
+    Script,    ///< of the text: a further font that follows belongs to it
 };
 
 struct KeptWord {

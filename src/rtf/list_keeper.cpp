@@ -16,8 +16,9 @@ constexpr int MembersOfRealDocuments = 4 * MostNumbers;
 
 bool sameLabel(const ListLabel& a, const ListLabel& b) {
     return a.kind == b.kind && a.identity == b.identity && a.level == b.level &&
-           a.source == b.source && a.prefix == b.prefix && a.suffix == b.suffix && a.tab == b.tab && a.follow == b.follow &&
-           a.side == b.side && a.keptList == b.keptList && a.keptOverride == b.keptOverride;
+           a.source == b.source && a.prefix == b.prefix && a.suffix == b.suffix && a.tab == b.tab &&
+           a.follow == b.follow && a.side == b.side && a.keptList == b.keptList &&
+           a.keptOverride == b.keptOverride;
 }
 
 size_t labelKey(const ListLabel& label) {

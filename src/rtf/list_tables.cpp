@@ -43,7 +43,9 @@ QString numbered(int number, const QString& kept) {
 /// Whether a list looks as those do that this program tells of in both ways.
 bool isMade(int identity, const QString& kept) {
     const QString head = u"\\list\\listtemplateid%1\\listsimple{"_s.arg(identity);
-    return QStringView(kept).sliced(std::max<qsizetype>(kept.indexOf(u'{'), 0) + 1).startsWith(head);
+    return QStringView(kept)
+        .sliced(std::max<qsizetype>(kept.indexOf(u'{'), 0) + 1)
+        .startsWith(head);
 }
 
 int romanValue(const QString& text) {

@@ -26,8 +26,8 @@ struct KeptParts {
     QString styles;
     QString info;
     QString words;
-    QString notes;   ///< what stands between text and footnotes
-    QString section; ///< the first one
+    QString notes;         ///< what stands between text and footnotes
+    QString section;       ///< the first one
     bool nameless = false; ///< the file does not say what wrote it
     DefaultFont defaultFont = DefaultFont::Unknown;
     QString unnamedFamily; ///< of text that names no font; empty for that of whoever shows it

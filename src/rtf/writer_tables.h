@@ -55,7 +55,7 @@ private:
     QHash<int, int> m_fontNumbers;
     QList<QRgb> m_colors;
     QHash<QRgb, int> m_colorNumbers;
-    QList<ParagraphFormat> m_lists; ///< by their first items
+    QList<ParagraphFormat> m_lists;                        ///< by their first items
     QHash<std::pair<QString, QString>, int> m_keptNumbers; ///< by list and override
     /// By identity, the indent of bullets, and the place of the labels.
     std::map<std::array<int, 5>, int> m_listNumbers;

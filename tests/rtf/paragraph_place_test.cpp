@@ -273,17 +273,15 @@ void ParagraphPlaceTest::aLabelLongerThanItsRoomPushesTheTextOn() {
 void ParagraphPlaceTest::whatAListSaysOfItsLabelsIsWrittenAgain_data() {
     QTest::addColumn<QByteArray>("level");
     QTest::addColumn<QByteArray>("written");
-    QTest::newRow("usual") << QByteArray() << QByteArray("\\leveljc0\\levelfollow0\\levelstartat1");
-    QTest::newRow("blank") << QByteArray("\\levelfollow1")
-                           << QByteArray("\\leveljc0\\levelfollow1\\levelstartat1");
-    QTest::newRow("right side, nothing") << QByteArray("\\leveljc2\\levelfollow2")
-                                         << QByteArray("\\leveljc2\\levelfollow2\\levelstartat1");
-    QTest::newRow("middle") << QByteArray("\\leveljc1")
-                            << QByteArray("\\leveljc1\\levelfollow0\\levelstartat1");
-    QTest::newRow("stop") << QByteArray("\\jclisttab\\tx1000")
-                          << QByteArray("\\fi-360\\li720\\jclisttab\\tx1000}\\listid1");
-    QTest::newRow("out of range") << QByteArray("\\leveljc77\\levelfollow-3\\tx-5")
-                                  << QByteArray("\\leveljc0\\levelfollow0\\levelstartat1");
+    const auto row = [](const char* name, const char* level) {
+        QTest::newRow(name) << QByteArray(level) << QByteArray(level);
+    };
+    row("usual", "\\levelnfc0");
+    row("blank", "\\levelfollow1");
+    row("right side, nothing", "\\leveljc2\\levelfollow2");
+    row("middle", "\\leveljc1");
+    row("stop", "\\jclisttab\\tx1000");
+    row("out of range", "\\leveljc77\\levelfollow-3\\tx-5");
 }
 
 void ParagraphPlaceTest::whatAListSaysOfItsLabelsIsWrittenAgain() {
@@ -291,7 +289,7 @@ void ParagraphPlaceTest::whatAListSaysOfItsLabelsIsWrittenAgain() {
     QFETCH(QByteArray, written);
     const QByteArray first = rewritten(listed(level, "\\fi-360\\li720 a\\par b\\par"));
     QVERIFY2(first.contains(written), first.constData());
-    QVERIFY(first.contains("\\pard{\\pntext 1.\\tab}"));
+    QVERIFY2(first.contains("\\pard{\\listtext 1.\\tab}\\ls1\\ilvl0"), first.constData());
     QTextDocument document;
     readRtf(first, document);
     QCOMPARE(writeRtf(document), first);

@@ -53,7 +53,8 @@ void WriterTest::whatIsWrittenIsReadAgain() {
 }
 
 void WriterTest::theTablesHoldOnlyWhatIsUsed() {
-    const QByteArray tables = "{\\rtf1{\\fonttbl{\\f0 Arial;}{\\f1 Times;}{\\f2 Courier;}}"
+    const QByteArray tables = "{\\rtf1\\deff1{\\fonttbl{\\f0 Arial;}{\\f1 Times;}{\\f2 Courier;}}"
+                              "{\\*\\generator Any;}"
                               "{\\colortbl;\\red1\\green2\\blue3;\\red4\\green5\\blue6;}";
     const auto written = [&tables](const QByteArray& body) {
         QTextDocument document;
@@ -66,11 +67,11 @@ void WriterTest::theTablesHoldOnlyWhatIsUsed() {
                                                  "\\pard\\f0\\fs24 x\\par\r\n}\r\n"));
     QCOMPARE(written("\\f2\\cf2 x\\f1\\cf0 y\\par}"),
              QByteArray("{\\rtf1\\ansi\\ansicpg1252\\deff0\\deflang1033"
-                        "{\\fonttbl{\\f0\\fnil\\fcharset0 Courier;}"
-                        "{\\f1\\fnil\\fcharset0 Times;}}\r\n"
+                        "{\\fonttbl{\\f0\\fnil\\fcharset0 Times;}"
+                        "{\\f1\\fnil\\fcharset0 Courier;}}\r\n"
                         "{\\colortbl ;\\red4\\green5\\blue6;}\r\n"
                         "{\\*\\generator Orvalis;}\\viewkind4\\uc1"
-                        "\\pard\\cf1\\f0\\fs24 x\\cf0\\f1 y\\par\r\n}\r\n"));
+                        "\\pard\\cf1\\f1\\fs24 x\\cf0\\f0 y\\par\r\n}\r\n"));
 }
 
 void WriterTest::charactersBeyondThePageAreSignedNumbers() {
@@ -120,7 +121,7 @@ void WriterTest::listsAreToldByTheListTablesToo() {
         "{\\listoverride\\listid1\\listoverridecount0\\ls1}"
         "{\\listoverride\\listid2\\listoverridecount0\\ls2}}\r\n";
     QVERIFY2(written.contains(tables), written.constData());
-    const QByteArray bullet = "{\\*\\pn\\pnlvlblt\\pnf0\\pnindent0{\\pntxtb\\'B7}}\\ls1\\ilvl0";
+    const QByteArray bullet = "{\\*\\pn\\pnlvlblt\\pnf1\\pnindent0{\\pntxtb\\'B7}}\\ls1\\ilvl0";
     QCOMPARE(written.count(bullet), 2);
     QVERIFY(written.contains("{\\*\\pn\\pnlvlbody\\pnindent0\\pnstart3\\pnlcrm"
                              "{\\pntxtb(}{\\pntxta)}}\\ls2\\ilvl0"));

@@ -1,0 +1,261 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "kept_file.h"
+#include "rtf/list_formats.h"
+#include "rtf/reader.h"
+#include "rtf/writer.h"
+#include "support/test_main.h"
+
+#include <QGuiApplication>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextList>
+
+using namespace orvalis;
+using namespace orvalis::rtf;
+using orvalis::test::changedAndSaved;
+using orvalis::test::file;
+
+namespace {
+
+const QByteArray Lists =
+    "{\\*\\listtable{\\list\\listtemplateid7{\\listlevel\\levelnfc0\\levelstartat1"
+    "{\\leveltext\\'02\\'00.;}{\\levelnumbers\\'01;}\\fi-360\\li720}"
+    "{\\listlevel\\levelnfc0\\levelstartat1{\\leveltext\\'04\\'00.\\'01.;}"
+    "{\\levelnumbers\\'01\\'03;}\\fi-360\\li1080}{\\listname ;}\\listid77}"
+    "{\\list\\listtemplateid8{\\listlevel\\levelnfc23{\\leveltext\\'01\\u9702 ?;}"
+    "{\\levelnumbers;}\\f2\\cf1}\\listid88}}"
+    "{\\*\\listoverridetable{\\listoverride\\listid77\\listoverridecount0\\ls3}"
+    "{\\listoverride\\listid88\\listoverridecount0\\ls4}}";
+
+} // namespace
+
+/// A file that is opened, changed and saved says what it said, in the way in which it said it:
+/// other programs tell what is left out from what is said by its usual value.
+class SayingTest : public QObject {
+    Q_OBJECT
+private slots:
+    void whatIsSaidStays_data();
+    void whatIsSaidStays();
+    void aFileWithoutAWriterNamesNone();
+    void textShowsInTheSameFontWhereNoneIsNamed();
+    void boldThatIsSetWhereNothingWasSaidIsSaid();
+    void aFieldGoesWithItsText();
+    void fieldsSideBySideStayApart();
+    void fieldsInFieldsAreBounded();
+    void aListGoesWithItsLastItem();
+    void listsOfTwoFilesStayApart();
+    void bulletsThatTheWindowMakesStandBesideThoseOfTheTables();
+    void aLabelInTextAloneIsShownAndStaysText();
+};
+
+void SayingTest::whatIsSaidStays_data() {
+    QTest::addColumn<QByteArray>("given");
+    QTest::addColumn<QByteArray>("kept");
+    const auto row = [](const char* name, const QByteArray& body, const QByteArray& kept) {
+        QTest::newRow(name) << file(body) << kept;
+    };
+    const QByteArray styles = "{\\stylesheet{\\s1\\b\\fs40 a;}}";
+    // What styles tell
+    row("nothing", styles + "\\pard\\plain\\s1 word\\par", "\\pard\\s1 deed\\par");
+    row("not bold", styles + "\\pard\\plain\\s1\\b0 word\\par", "\\pard\\s1\\b0 deed\\par");
+    row("the usual size", styles + "\\pard\\plain\\s1\\fs24 word\\par",
+        "\\pard\\s1\\fs24 deed\\par");
+    row("the font of text that names none", styles + "\\pard\\plain\\s1\\f0 word\\par",
+        "\\pard\\s1\\f0 deed\\par");
+    row("every part of a look",
+        styles + "\\pard\\s1\\cf0\\highlight0\\ul0\\i0\\strike0\\v0\\caps0"
+                 "\\expndtw0\\up0\\nosupersub word\\par",
+        "\\cf0\\highlight0\\ulnone\\i0\\strike0\\v0\\caps0\\expnd0\\expndtw0\\up0\\nosupersub "
+        "deed");
+    row("back to nothing", styles + "\\pard\\plain\\s1{\\i\\fs30 b }word\\par",
+        "\\i\\fs30 b \\plain deed\\par");
+    row("back from raised text", styles + "\\pard\\plain\\s1{\\super b }word\\par",
+        "\\super b \\nosupersub\\plain deed\\par");
+    row("indents and spacing", styles + "\\pard\\s1\\ql\\fi0\\li0\\ri0\\sb0\\sa0\\ltrpar word\\par",
+        "\\pard\\s1\\ltrpar\\fi0\\li0\\ri0\\sb0\\sa0\\ql deed\\par");
+    row("nothing of indents", styles + "\\pard\\s1\\li720 word\\par", "\\pard\\s1\\li720 deed");
+    // Fields
+    row("field", "on {\\field{\\*\\fldinst DATE \\\\@ \"yyyy\"}{\\fldrslt{word}}}.\\par",
+        "on {\\field{\\*\\fldinst DATE \\\\@ \"yyyy\"}{\\fldrslt deed}}.\\par");
+    row("field without a result", "word{\\field{\\*\\fldinst{\\b PAGE}}{\\fldrslt}} on\\par",
+        "deed{\\field{\\*\\fldinst{\\b PAGE}}{\\fldrslt}} on\\par");
+    row("field in a link",
+        "{\\field{\\*\\fldinst{HYPERLINK \"http://a.b\"}}{\\fldrslt word "
+        "{\\field{\\*\\fldinst PAGEREF x}{\\fldrslt 8}}}} on\\par",
+        "deed {\\field{\\*\\fldinst PAGEREF x}{\\fldrslt 8}}}} on\\par");
+    row("plain text in a field", "{\\field{\\*\\fldinst X}{\\fldrslt{a\\plain  word}}}\\par",
+        "{\\field{\\*\\fldinst X}{\\fldrslt\\f0\\fs24 a deed}}");
+    row("paragraphs in a field", "{\\field{\\*\\fldinst TOC}{\\fldrslt a\\par word}}\\par",
+        "a\\par\r\ndeed\\par");
+    // Lists
+    row("outline", Lists + "\\pard\\ls3 word\\par\\pard\\ls3\\ilvl1 b\\par",
+        "\\pard{\\listtext 1.\\tab}\\ls1\\ilvl0\\f0\\fs24 deed\\par\r\n"
+        "\\pard{\\listtext 1.\\tab}\\ls1\\ilvl1 b\\par");
+    row("table of the outline", Lists + "\\pard\\ls3 word\\par",
+        "{\\leveltext\\'04\\'00.\\'01.;}{\\levelnumbers\\'01\\'03;}\\fi-360\\li1080}{\\listname;}"
+        "\\listid77}}\r\n{\\*\\listoverridetable"
+        "{\\listoverride\\listoverridecount0\\listid77\\ls1}}");
+    row("bullet of its own", Lists + "\\pard\\ls4 word\\par",
+        "{\\leveltext\\'01\\u9702?;}{\\levelnumbers;}\\f2\\cf1}\\listid88}");
+    row("tables and \\pn", Lists + "\\pard{\\*\\pn\\pnlvlbody\\pndec}\\ls3 word\\par",
+        "\\pard{\\pntext 1.\\tab}{\\*\\pn\\pnlvlbody\\pnindent0\\pnstart1\\pndec{\\pntxta.}}"
+        "\\ls1\\ilvl0");
+    row("label in text alone", "\\pard{\\pntext 4.\\tab}\\fi-360\\li720 word\\par",
+        "\\pard{\\pntext 4.\\tab}\\fi-360\\li720\\f0\\fs24 deed\\par");
+    row("room for a number alone", "\\pard{\\*\\pn\\pnlvlcont\\pndec}word\\par",
+        "\\pard\\f0\\fs24 deed\\par");
+    row("list in a cell",
+        Lists + "\\trowd\\cellx900\\cellx1800\\pard\\intbl\\ls3 word\\cell\\ls4 b\\cell\\row",
+        "\\pard\\intbl\\ls1\\ilvl0\\f0\\fs24 deed\\cell\r\n\\pard\\intbl\\ls2\\ilvl0 b\\cell\\row");
+    row("label in the look of the mark", Lists + "\\pard\\ls3{\\i word}\\b\\fs30\\par",
+        "\\i\\f0\\fs24 deed{\\plain\\b\\f0\\fs30\\par}\r\n");
+    // Scripts
+    row("right to left", "{\\ltrch\\fcs0\\af1\\afs20\\ab\\rtlch\\fcs1\\f2\\fs40 word}\\par",
+        "\\pard\\ltrch\\af1\\afs20\\ab\\rtlch\\f2\\fs40 deed\\par");
+    row("left to right", "{\\rtlch\\fcs1\\af1\\afs20\\ltrch\\fcs0\\f2\\fs40 word}\\par",
+        "\\pard\\rtlch\\af1\\afs20\\ltrch\\f2\\fs40 deed\\par");
+    row("nothing but left to right", "{\\ltrch word}\\par", "\\pard\\f0\\fs24 deed\\par");
+    row("Latin", "{\\hich\\af1\\dbch\\af2\\loch\\f0 word}\\par",
+        "\\pard\\hich\\af1\\dbch\\af2\\loch\\f0\\fs24 deed\\par");
+    row("of the east", "{\\loch\\af1\\hich\\af1\\dbch\\f2 word}\\par",
+        "\\pard\\loch\\af1\\hich\\af1\\dbch\\f2\\fs24 deed\\par");
+    row("the upper half is Latin", "{\\dbch\\af2\\hich\\af1 word}\\par",
+        "\\pard\\hich\\af1\\dbch\\af2\\loch\\f0\\fs24 deed\\par");
+    // Marks
+    row("number of a note", "word{\\i\\super\\chftn}{\\footnote x} on\\par",
+        "deed{\\plain\\i\\super\\f0\\fs24\\chftn}{\\footnote x} on");
+    row("drawing", "word{\\*\\do\\dobxpage\\dptxbx{\\dptxbxtext a}\\dpx9} on\\par",
+        "deed{\\*\\do\\dobxpage\\dptxbx{\\dptxbxtext a}\\dpx9} on");
+    row("section behind a table",
+        "\\trowd\\cellx900\\pard\\intbl word\\cell\\row\\pard\\sect\\sectd\\sbknone b\\par",
+        "\\cell\\row\r\n\\pard\\sect\\sectd\\sbknone\r\n");
+    // Fonts
+    QTest::newRow("no default font")
+        << QByteArray("{\\rtf1{\\fonttbl{\\f0 Arial;}{\\f1 Times;}}\\f1 a\\plain  word\\par}")
+        << QByteArray("{\\rtf1\\ansi\\ansicpg1252\\deflang1033{\\fonttbl"
+                      "{\\f0\\fnil\\fcharset0 Arial;}{\\f1\\fnil\\fcharset0 Times;}}\r\n"
+                      "\\viewkind4\\uc1\\pard\\f1\\fs24 a\\plain  deed\\par");
+    QTest::newRow("no font at all")
+        << QByteArray("{\\rtf1 word\\par}")
+        << QByteArray("{\\fonttbl}\r\n\\viewkind4\\uc1\\pard\\fs24 deed");
+    QTest::newRow("a default font that is missing")
+        << QByteArray("{\\rtf1\\deff5{\\fonttbl{\\f1 Arial;}}a{\\f1 word}\\par}")
+        << QByteArray("\\deff2\\deflang1033{\\fonttbl{\\f1\\fnil\\fcharset0 Arial;}}");
+}
+
+void SayingTest::whatIsSaidStays() {
+    QFETCH(QByteArray, given);
+    QFETCH(QByteArray, kept);
+    const QByteArray written = changedAndSaved(given);
+    QVERIFY2(written.contains(kept), written);
+    QCOMPARE(written.count("deed"), 1);
+}
+
+void SayingTest::aFileWithoutAWriterNamesNone() {
+    QVERIFY(!changedAndSaved(file("word\\par")).contains("generator"));
+    QVERIFY(changedAndSaved(file("{\\*\\generator A;}word\\par"))
+                .contains("{\\*\\generator Orvalis;}"));
+    QVERIFY(writeRtf(QTextDocument()).contains("{\\*\\generator Orvalis;}"));
+}
+
+void SayingTest::textShowsInTheSameFontWhereNoneIsNamed() {
+    QTextDocument document;
+    QVERIFY(readRtf("{\\rtf1{\\fonttbl{\\f3 Times;}{\\f0 Arial;}}\\f3 a\\plain b\\par}", document)
+                .ok());
+    const auto familyOfB = [](const QTextDocument& in) {
+        return in.find(QStringLiteral("b")).charFormat().fontFamilies().toStringList();
+    };
+    QCOMPARE(familyOfB(document), QStringList{QStringLiteral("Arial")});
+    QTextDocument again;
+    QVERIFY(readRtf(writeRtf(document), again).ok());
+    QCOMPARE(familyOfB(again), QStringList{QStringLiteral("Arial")});
+}
+
+void SayingTest::boldThatIsSetWhereNothingWasSaidIsSaid() {
+    QTextDocument document;
+    QVERIFY(readRtf(file("{\\stylesheet{\\s1 a;}}\\pard\\s1 a word\\par"), document).ok());
+    QTextCharFormat look;
+    look.setFontWeight(QFont::Bold);
+    look.setFontPointSize(30);
+    look.setFontFamilies({QStringLiteral("Verdana")});
+    document.find(QStringLiteral("word")).mergeCharFormat(look);
+    QVERIFY2(writeRtf(document).contains("a \\b\\f1\\fs60 word"), writeRtf(document));
+}
+
+void SayingTest::aFieldGoesWithItsText() {
+    QTextDocument document;
+    QVERIFY(readRtf(file("a {\\field{\\*\\fldinst DATE}{\\fldrslt word}} b\\par"), document).ok());
+    document.find(QStringLiteral("word")).removeSelectedText();
+    const QByteArray written = writeRtf(document);
+    QVERIFY2(!written.contains("DATE") && written.contains("a  b"), written);
+}
+
+void SayingTest::fieldsSideBySideStayApart() {
+    const QByteArray field = "{\\field{\\*\\fldinst PAGE}{\\fldrslt 1}}";
+    const QByteArray written = changedAndSaved(file("word " + field + field + "\\par"));
+    QVERIFY2(written.contains(field + field), written);
+}
+
+void SayingTest::fieldsInFieldsAreBounded() {
+    constexpr int Depth = 1500;
+    QByteArray body;
+    for (int i = 0; i < Depth; ++i)
+        body += "{\\field{\\*\\fldinst X}{\\fldrslt ";
+    body += "word" + QByteArray(2 * Depth, '}') + "\\par";
+    const QByteArray written = changedAndSaved(file(body));
+    QCOMPARE(written.count("fldinst"), 1);
+    QVERIFY(written.contains("deed"));
+}
+
+void SayingTest::aListGoesWithItsLastItem() {
+    QTextDocument document;
+    QVERIFY(readRtf(file(Lists + "\\pard\\ls3 word\\par\\pard\\ls4 b\\par"), document).ok());
+    QTextCursor cursor(document.firstBlock());
+    cursor.movePosition(QTextCursor::NextBlock, QTextCursor::KeepAnchor);
+    cursor.removeSelectedText();
+    const QByteArray written = writeRtf(document);
+    QVERIFY2(!written.contains("\\listid77") && written.contains("\\listid88"), written);
+}
+
+void SayingTest::listsOfTwoFilesStayApart() {
+    QTextDocument document;
+    QVERIFY(readRtf(file(Lists + "\\pard\\ls3 a\\par"), document).ok());
+    QByteArray other = Lists;
+    other.replace("\\levelstartat1", "\\levelstartat5");
+    QTextCursor end(&document);
+    end.movePosition(QTextCursor::End);
+    end.insertBlock();
+    QVERIFY(insertRtf(file(other + "\\pard\\ls3 b\\par"), end).ok());
+    const QByteArray written = writeRtf(document);
+    QVERIFY2(
+        written.contains("\\listid77\\ls1}{\\listoverride\\listoverridecount0\\listid78\\ls2}"),
+        written);
+    QVERIFY(written.contains("\\levelstartat1") && written.contains("\\levelstartat5"));
+}
+
+void SayingTest::bulletsThatTheWindowMakesStandBesideThoseOfTheTables() {
+    QTextDocument document;
+    QVERIFY(readRtf(file(Lists + "\\pard\\ls4 a\\par\\pard b\\par"), document).ok());
+    QTextCursor(document.lastBlock()).createList(QTextListFormat::ListDisc);
+    const QByteArray written = writeRtf(document);
+    QVERIFY2(written.contains("\\listid88}{\\list\\listtemplateid2\\listsimple"), written);
+    QVERIFY(written.contains("{\\*\\pn\\pnlvlblt"));
+    QTextDocument again;
+    QVERIFY(readRtf(written, again).ok());
+    QCOMPARE(writeRtf(again), written);
+}
+
+void SayingTest::aLabelInTextAloneIsShownAndStaysText() {
+    QTextDocument document;
+    QVERIFY(readRtf(file("\\pard{\\pntext 4.\\tab}a\\par{\\pntext 5.\\tab}b\\par"), document).ok());
+    QCOMPARE(shownLabel(document.firstBlock()), QStringLiteral("4."));
+    QCOMPARE(shownLabel(document.lastBlock()), QStringLiteral("5."));
+    const QByteArray written = writeRtf(document);
+    QVERIFY2(!written.contains("\\pn\\") && !written.contains("\\ls"), written);
+    QCOMPARE(written.count("{\\pntext"), 2);
+}
+
+ORVALIS_TEST_MAIN_WITH(QGuiApplication, SayingTest)
+#include "saying_test.moc"

@@ -145,10 +145,11 @@ inline constexpr int NumberCodes = 9;
 
 /// How a file tells of a list.
 enum class ListSource : quint8 {
-    Made,   ///< by \pn in the paragraph, or not at all: the window has made it
-    Tables, ///< by its list tables
-    Both,   ///< by these, and by \pn for those who know no tables
-    Text,   ///< by the text of the label alone
+    Made,      ///< not at all: the window has made it
+    Tables,    ///< by its list tables
+    Both,      ///< by these, and by \pn for those who know no tables
+    Numbering, ///< by \pn in the paragraph
+    Text,      ///< by the text of the label alone
 };
 
 /// The label of a list item. Items of one list of the list tables share the identity; 0 stands for

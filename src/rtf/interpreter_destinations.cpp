@@ -141,6 +141,7 @@ bool Interpreter::destinationWord(const Token& token) {
         m_numbering = {};
         m_numberingShows = true;
         m_numbering.numbering = ++m_numberings;
+        m_numbering.source = ListSource::Numbering;
         openInBody(Destination::Numbering);
         return true;
     case Action::NumberingTextBefore:

@@ -58,7 +58,7 @@ void ParagraphWriter::begin(const ParagraphFormat& paragraph, int number) {
     const ListKind kind = paragraph.list.kind;
     const ListSource source = paragraph.list.source;
     const bool counts = kind != ListKind::None && kind != ListKind::Bullet &&
-                        (source == ListSource::Made || source == ListSource::Both);
+                        source != ListSource::Tables && source != ListSource::Text;
     const bool goesOn = m_any && paragraph == m_last && (!counts || number == m_lastNumber + 1);
     m_lastNumber = number;
     ListLabel shown = paragraph.list;
@@ -81,9 +81,9 @@ void ParagraphWriter::begin(const ParagraphFormat& paragraph, int number) {
 /// some the other; only the list tables keep lists of one look apart.
 void ParagraphWriter::list(const ParagraphFormat& paragraph, const ListLabel& shown) {
     const ListSource source = paragraph.list.source;
-    if (source == ListSource::Made || source == ListSource::Both)
+    if (source != ListSource::Tables && source != ListSource::Text)
         numbering(shown);
-    if (source != ListSource::Text) {
+    if (source != ListSource::Numbering && source != ListSource::Text) {
         m_out.word("\\ls", m_tables.list(paragraph));
         m_out.word("\\ilvl", paragraph.list.hasTables() ? paragraph.list.level : 0);
     }

@@ -84,7 +84,7 @@ void SayingTest::whatIsSaidStays_data() {
     row("field in a link",
         "{\\field{\\*\\fldinst{HYPERLINK \"http://a.b\"}}{\\fldrslt word "
         "{\\field{\\*\\fldinst PAGEREF x}{\\fldrslt 8}}}} on\\par",
-        "deed {\\field{\\*\\fldinst PAGEREF x}{\\fldrslt 8}}}} on\\par");
+        "deed {\\field{\\*\\fldinst PAGEREF x}{\\fldrslt 8}}}}");
     row("plain text in a field", "{\\field{\\*\\fldinst X}{\\fldrslt{a\\plain  word}}}\\par",
         "{\\field{\\*\\fldinst X}{\\fldrslt\\f0\\fs24 a deed}}");
     row("paragraphs in a field", "{\\field{\\*\\fldinst TOC}{\\fldrslt a\\par word}}\\par",
@@ -102,6 +102,8 @@ void SayingTest::whatIsSaidStays_data() {
     row("tables and \\pn", Lists + "\\pard{\\*\\pn\\pnlvlbody\\pndec}\\ls3 word\\par",
         "\\pard{\\pntext 1.\\tab}{\\*\\pn\\pnlvlbody\\pnindent0\\pnstart1\\pndec{\\pntxta.}}"
         "\\ls1\\ilvl0");
+    row("\\pn alone", "\\pard{\\*\\pn\\pnlvlbody\\pndec{\\pntxta.}}word\\par",
+        "{\\*\\pn\\pnlvlbody\\pnindent0\\pnstart1\\pndec{\\pntxta.}}\\f0\\fs24 deed\\par");
     row("label in text alone", "\\pard{\\pntext 4.\\tab}\\fi-360\\li720 word\\par",
         "\\pard{\\pntext 4.\\tab}\\fi-360\\li720\\f0\\fs24 deed\\par");
     row("room for a number alone", "\\pard{\\*\\pn\\pnlvlcont\\pndec}word\\par",

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
+#include "rtf/format_properties.h"
 #include "rtf/reader.h"
 #include "rtf/writer.h"
 #include "support/heard_progress.h"
@@ -100,6 +101,20 @@ void WriterTest::numbersKeepTheDotThatTheyShow() {
     }
 }
 
+namespace {
+
+/// Takes the lists of a file for ones that the window has made.
+void makeListsOwn(QTextDocument& document) {
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+        if (QTextList* list = block.textList()) {
+            QTextListFormat format = list->format();
+            format.clearProperty(ListToldBy);
+            list->setFormat(format);
+        }
+}
+
+} // namespace
+
 void WriterTest::listsAreToldByTheListTablesToo() {
     QTextDocument document;
     QVERIFY(readRtf("{\\rtf1{\\fonttbl{\\f0 Arial;}}\\f0"
@@ -108,6 +123,7 @@ void WriterTest::listsAreToldByTheListTablesToo() {
                     "\\pard{\\*\\pn\\pnlvlblt}\\fi-360\\li720 c\\par}",
                     document)
                 .ok());
+    makeListsOwn(document);
     const QByteArray written = writeRtf(document);
     const QByteArray tables =
         "{\\*\\listtable"
@@ -134,6 +150,7 @@ void WriterTest::bulletsOfEachIndentAreAListOfTheTables() {
                     "\\pard{\\*\\pn\\pnlvlblt}\\fi-360\\li720 c\\par}",
                     document)
                 .ok());
+    makeListsOwn(document);
     const QByteArray written = writeRtf(document);
     QCOMPARE(written.count("{\\list\\"), 2);
     QVERIFY(written.contains("\\fi-360\\li720}\\listid1}"));
@@ -150,6 +167,7 @@ void WriterTest::listsThatAreToldByTheListTablesAloneStayApart() {
                     "{\\pard{\\*\\pn\\pnlvlblt}e\\par}}",
                     document)
                 .ok());
+    makeListsOwn(document);
     QByteArray written = writeRtf(document);
     for (const QByteArray& head : {QByteArray("{\\pntext"), QByteArray("{\\*\\pn")}) {
         for (qsizetype at = written.indexOf(head); at >= 0; at = written.indexOf(head, at)) {

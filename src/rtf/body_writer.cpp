@@ -236,8 +236,10 @@ void BodyWriter::changeField(int field) {
 }
 
 void BodyWriter::writeAnchors(int anchors) {
-    if (anchors != NothingKept)
-        writeKept(m_out, m_tables, names().keptAt(anchors));
+    if (anchors == NothingKept)
+        return;
+    const QString kept = names().keptAt(anchors);
+    writeKept(m_out, m_tables, QStringView(kept).sliced(kept.indexOf(NumberEnd) + 1));
 }
 
 void BodyWriter::text(QStringView text, const CharFormat& format) {

@@ -5,6 +5,7 @@
 #include "rtf/block_formats.h"
 #include "rtf/format_properties.h"
 #include "rtf/kept_parts.h"
+#include "rtf/kept_text.h"
 #include "rtf/list_formats.h"
 #include "rtf/text_formats.h"
 
@@ -13,6 +14,7 @@
 #include <QTextDocument>
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 
 namespace orvalis::rtf {
@@ -48,6 +50,12 @@ constexpr size_t MostFormats = 16384;
 
 // The part of their size that the letters of labels are wide at most.
 constexpr double WidestLetter = 0.7;
+
+/// What tells anchors apart that hold the same: no two of the program have one number.
+QString ownNumber() {
+    static std::atomic<int> last = 0;
+    return QString::number(++last) + NumberEnd;
+}
 
 QTextCharFormat withoutFont(QTextCharFormat format) {
     for (const int property :
@@ -93,7 +101,8 @@ void DocumentSink::anchor(const QString& kept) {
         return;
     if (m_runs.back().image != NoName) {
         QTextImageFormat& image = m_images.back();
-        image.setProperty(KeptAnchors, image.stringProperty(KeptAnchors) + kept);
+        const QString before = image.stringProperty(KeptAnchors);
+        image.setProperty(KeptAnchors, (before.isEmpty() ? ownNumber() : before) + kept);
         return;
     }
     if (m_runs.back().anchors == NoName) {
@@ -103,7 +112,7 @@ void DocumentSink::anchor(const QString& kept) {
         if (m_runs.back().length == 0)
             m_runs.pop_back();
         m_runs.push_back(last);
-        m_anchors.emplace_back();
+        m_anchors.push_back(ownNumber());
     }
     m_anchors.back() += kept;
 }

@@ -69,7 +69,9 @@ enum FormatProperty : int {
     /// so that nothing of it is left of the margin (int).
     ParagraphOverhang,
     /// Of a character format: what is kept of the place behind the last character of the run, a
-    /// footnote say (QString, the same). A run that is typed on to takes it along to its end.
+    /// footnote say (QString, a number that no other has, U+0003, and the same). A run that is
+    /// typed
+    /// on to takes it along to its end; of a run that is parted the last part has it.
     KeptAnchors,
     /// Of a block format: the same, ahead of the paragraph's first character.
     KeptAtStart,

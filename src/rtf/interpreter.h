@@ -61,8 +61,9 @@ private:
         int fieldsAround = 0;
         int keptOfChars = 0; ///< sets of m_kept
         int keptOfParagraph = 0;
-        const ControlWord* border = nullptr; ///< the one that was named last
-        const ControlWord* script = nullptr; ///< the same
+        const ControlWord* border = nullptr;  ///< the one that was named last
+        const ControlWord* script = nullptr;  ///< the same
+        const ControlWord* eastern = nullptr; ///< the word for it, where the text is of the east
         QTextOption::TabType tabType = QTextOption::LeftTab;
         TabLeader tabLeader = TabLeader::None;
         Destination destination = Destination::Body;
@@ -136,6 +137,7 @@ private:
     // What is kept as it came (interpreter_keeping.cpp)
     bool keptWord(const Token& token);
     bool furtherFont(KeptCall& call) const;
+    void keepScript();
     void keepCharacters(int set);
     void keepParagraph(int set);
     void keepGroup(const Token& token);

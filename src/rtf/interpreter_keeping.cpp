@@ -51,9 +51,11 @@ bool Interpreter::keptWord(const Token& token) {
     }
     if (kept.kind == KeptKind::Style && !m_stylesKept)
         return true;
-    if (kept.kind == KeptKind::Script)
-        m_state.script = call.side = token.word;
-    else if (kept.kind == KeptKind::Direction)
+    if (kept.kind == KeptKind::Script) {
+        m_state.script = token.word;
+        return true;
+    }
+    if (kept.kind == KeptKind::Direction)
         m_state.script = nullptr;
     else if (kept.kind == KeptKind::Associate && m_state.script)
         return true;
@@ -102,6 +104,17 @@ bool Interpreter::furtherFont(KeptCall& call) const {
     call.side = m_state.script;
     call.number = font->family;
     return true;
+}
+
+/// The script that a font is named in is that of the text.
+void Interpreter::keepScript() {
+    const bool eastern = m_state.script && m_state.script->name == QByteArrayView("dbch");
+    const ControlWord* now = eastern ? m_state.script : nullptr;
+    if (now == m_state.eastern)
+        return;
+    const ControlWord* word = now ? now : std::exchange(m_state.eastern, nullptr);
+    m_state.eastern = now;
+    keepCharacters(m_kept.with(m_state.keptOfChars, {word, nullptr, true, now ? 1 : 0}));
 }
 
 void Interpreter::keepCharacters(int set) {

@@ -40,6 +40,8 @@ bool Interpreter::characterWord(const Token& token) {
             m_fontEntryDepth = m_groups.size();
         } else if (token.hasParameter) {
             m_state.font = token.parameter;
+            if (shows())
+                keepScript();
             selectFont();
         }
         return true;
@@ -243,6 +245,7 @@ void Interpreter::plainCharacters() {
     m_state.chars.field = field;
     m_state.keptOfChars = 0;
     m_state.script = nullptr;
+    m_state.eastern = nullptr;
     m_state.deleted = false;
     m_state.font = NoName;
     selectFont();

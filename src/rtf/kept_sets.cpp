@@ -23,7 +23,7 @@ int KeptSets::with(int set, const KeptCall& call) {
     Entry entry{.source = call.word, .hasNumber = call.hasNumber, .number = call.number};
     if (call.side)
         entry.side = keptOrder(*call.side) + 1;
-    if (kind.kind != KeptKind::Side && kind.kind != KeptKind::Script)
+    if (kind.kind != KeptKind::Side)
         entry.word = keptOrder(*call.word) + 1;
     const Step step{set, entry.side, entry.word, entry.hasNumber, entry.number};
     if (const auto known = m_steps.constFind(step); known != m_steps.constEnd())
@@ -56,10 +56,6 @@ bool isAssociate(KeptKind kind) {
 
 void KeptSets::apply(std::vector<Entry>& entries, const Entry& entry) {
     const KeptWord kind = keptWord(*entry.source);
-    if (kind.kind == KeptKind::Script) {
-        applyScript(entries, entry);
-        return;
-    }
     // A border that was named for something else, a cell ahead say, is not this one's.
     const auto namesSide = [&](const Entry& other) {
         return other.side == entry.side && other.word == 0;
@@ -77,7 +73,8 @@ void KeptSets::apply(std::vector<Entry>& entries, const Entry& entry) {
     };
     entries.erase(std::remove_if(entries.begin(), entries.end(), givesWay), entries.end());
     const bool taken = entry.hasNumber && entry.number == 0 &&
-                       (kind.kind == KeptKind::Switch || kind.kind == KeptKind::Color);
+                       (kind.kind == KeptKind::Switch || kind.kind == KeptKind::Color ||
+                        kind.kind == KeptKind::Script);
     // Text from left to right is that anyway, where nothing is said of the other.
     const bool usual = kind.kind == KeptKind::Direction && isLeftToRight(entry) &&
                        std::none_of(entries.begin(), entries.end(), [](const Entry& other) {
@@ -87,38 +84,8 @@ void KeptSets::apply(std::vector<Entry>& entries, const Entry& entry) {
         insert(entries, entry);
 }
 
-/// The script that was named last is that of the text, Latin unless it is that of the east; of the
-/// others only their fonts count.
-void KeptSets::applyScript(std::vector<Entry>& entries, Entry entry) {
-    const auto isScript = [](const Entry& other) {
-        return keptWord(*other.source).kind == KeptKind::Script;
-    };
-    entries.erase(std::remove_if(entries.begin(), entries.end(), isScript), entries.end());
-    entry.hasNumber = false;
-    const bool anyFont = std::any_of(entries.begin(), entries.end(), [](const Entry& other) {
-        return other.side != 0 && keptWord(*other.source).kind == KeptKind::Font;
-    });
-    if (!isEastern(entry)) {
-        entry.source = &KeptWordTable[size_t(latinScript() - 1)];
-        entry.side = latinScript();
-    }
-    if (anyFont || isEastern(entry))
-        insert(entries, entry);
-}
-
 bool KeptSets::isLeftToRight(const Entry& entry) {
     return QByteArrayView(entry.source->name) == "ltrch";
-}
-
-bool KeptSets::isEastern(const Entry& entry) {
-    return QByteArrayView(entry.source->name) == "dbch";
-}
-
-int KeptSets::latinScript() {
-    static const auto Latin =
-        std::find_if(KeptWordTable.begin(), KeptWordTable.end(),
-                     [](const ControlWord& word) { return QByteArrayView(word.name) == "loch"; });
-    return int(Latin - KeptWordTable.begin()) + 1;
 }
 
 void KeptSets::insert(std::vector<Entry>& entries, const Entry& entry) {
@@ -150,8 +117,11 @@ QString KeptSets::text(const std::vector<Entry>& entries) const {
         associates.prepend(isLeftToRight(*direction) ? u"\\rtlch"_s : u"\\ltrch"_s);
     if (direction)
         associates += word(*direction);
+    // Behind the fonts of all scripts stands the word for that of the text.
     if (script)
         fonts += word(*script);
+    else if (!fonts.isEmpty())
+        fonts += u"\\loch"_s;
     return associates + fonts + others;
 }
 

@@ -61,11 +61,8 @@ private:
     }
 
     static void apply(std::vector<Entry>& entries, const Entry& entry);
-    static void applyScript(std::vector<Entry>& entries, Entry entry);
     static void insert(std::vector<Entry>& entries, const Entry& entry);
     static bool isLeftToRight(const Entry& entry);
-    static bool isEastern(const Entry& entry);
-    static int latinScript();
     QString text(const std::vector<Entry>& entries) const;
     QString word(const Entry& entry) const;
     static QString scriptWord(int side);

@@ -8,6 +8,7 @@
 #include "rtf/picture_format.h"
 #include "rtf/text_formats.h"
 
+#include <QSet>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextList>
@@ -167,6 +168,7 @@ private:
     template <class Takes>
     void runs(const QTextBlock& block, int position, const Takes& takes) {
         const QString text = block.text();
+        const QHash<int, int> ends = anchorEnds(block);
         bool empty = true;
         int at = 0;
         for (auto it = block.begin(); !it.atEnd(); ++it) {
@@ -180,7 +182,9 @@ private:
             empty = false;
             if (takes(fragment))
                 continue;
-            const CharFormat& look = lookOf(fragment);
+            CharFormat look = lookOf(fragment);
+            if (look.anchors != NothingKept && !anchorsEnd(look.anchors, ends, at))
+                look.anchors = NothingKept;
             if (m_isImage[size_t(fragment.charFormatIndex())]) {
                 const Picture picture =
                     pictureOfFormat(m_document, fragment.charFormat().toImageFormat());
@@ -196,6 +200,27 @@ private:
         } else {
             m_body.endParagraph(nullptr);
         }
+    }
+
+    /// Where the runs end that something is anchored to, in the paragraph.
+    QHash<int, int> anchorEnds(const QTextBlock& block) {
+        QHash<int, int> ends;
+        int at = 0;
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextFragment fragment = it.fragment();
+            at += fragment.length();
+            if (const int anchors = lookOf(fragment).anchors; anchors != NothingKept)
+                ends.insert(anchors, at);
+        }
+        return ends;
+    }
+
+    /// Text set into the middle of a run parts it, and leaves the anchor with the last part.
+    bool anchorsEnd(int anchors, const QHash<int, int>& ends, int end) {
+        if (ends.value(anchors) != end || m_anchorsWritten.contains(anchors))
+            return false;
+        m_anchorsWritten.insert(anchors);
+        return true;
     }
 
     CharFormat format(const QTextCharFormat& from) {
@@ -250,6 +275,7 @@ private:
     int m_shapeIndex = -1;
     ParagraphFormat m_shape;
     QHash<const QTextList*, int> m_items;
+    QSet<int> m_anchorsWritten;
 };
 
 } // namespace

@@ -44,6 +44,8 @@ private slots:
     void aFieldGoesWithItsText();
     void fieldsSideBySideStayApart();
     void fieldsInFieldsAreBounded();
+    void aNoteStaysOneWhereItsTextIsParted_data();
+    void aNoteStaysOneWhereItsTextIsParted();
     void aListGoesWithItsLastItem();
     void listsOfTwoFilesStayApart();
     void bulletsThatTheWindowMakesStandBesideThoseOfTheTables();
@@ -123,6 +125,8 @@ void SayingTest::whatIsSaidStays_data() {
         "\\pard\\hich\\af1\\dbch\\af2\\loch\\f0\\fs24 deed\\par");
     row("of the east", "{\\loch\\af1\\hich\\af1\\dbch\\f2 word}\\par",
         "\\pard\\loch\\af1\\hich\\af1\\dbch\\f2\\fs24 deed\\par");
+    row("a font that is named ahead of the script", "{\\loch\\f2\\dbch\\af1 word}\\par",
+        "\\pard\\dbch\\af1\\loch\\f2\\fs24 deed\\par");
     row("the upper half is Latin", "{\\dbch\\af2\\hich\\af1 word}\\par",
         "\\pard\\hich\\af1\\dbch\\af2\\loch\\f0\\fs24 deed\\par");
     // Marks
@@ -209,6 +213,33 @@ void SayingTest::fieldsInFieldsAreBounded() {
     const QByteArray written = changedAndSaved(file(body));
     QCOMPARE(written.count("fldinst"), 1);
     QVERIFY(written.contains("deed"));
+}
+
+void SayingTest::aNoteStaysOneWhereItsTextIsParted_data() {
+    QTest::addColumn<QString>("between");
+    QTest::addColumn<QByteArray>("written");
+    QTest::newRow("text of another look")
+        << QStringLiteral("X") << QByteArray("more \\b X\\b0  on{\\footnote x}. on{\\footnote x}");
+    QTest::newRow("paragraph") << QStringLiteral("\n")
+                               << QByteArray("more {\\footnote x}\\par\r\n on. on{\\footnote x}");
+}
+
+void SayingTest::aNoteStaysOneWhereItsTextIsParted() {
+    QFETCH(QString, between);
+    QFETCH(QByteArray, written);
+    QTextDocument document;
+    QVERIFY(readRtf(file("word{\\footnote x}. on{\\footnote x}\\par"), document).ok());
+    QTextCursor cursor = document.find(QStringLiteral("d"));
+    const QTextCharFormat anchored = cursor.charFormat();
+    cursor.insertText(QStringLiteral("d more  on"), anchored);
+    cursor = document.find(QStringLiteral("more "));
+    cursor.setPosition(cursor.selectionEnd());
+    QTextCharFormat bold;
+    bold.setFontWeight(QFont::Bold);
+    bold.setFontFamilies(anchored.fontFamilies().toStringList());
+    bold.setFontPointSize(anchored.fontPointSize());
+    cursor.insertText(between, bold);
+    QVERIFY2(writeRtf(document).contains(written), writeRtf(document));
 }
 
 void SayingTest::aListGoesWithItsLastItem() {

@@ -152,7 +152,7 @@ void Interpreter::keepField() {
         return;
     const FieldScan scan = scanField(m_tokenizer.groupAhead());
     const bool isLink = scan.name == "HYPERLINK";
-    const bool showsItself = !scan.hasResult && scan.name == "EQ";
+    const bool showsItself = !scan.hasResult && (scan.name == "EQ" || scan.name == "SYMBOL");
     if (scan.instruction.isEmpty() || scan.hasStructure || isLink || showsItself)
         return;
     const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, m_defaultFont};

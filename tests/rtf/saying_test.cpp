@@ -94,7 +94,7 @@ void SayingTest::whatIsSaidStays_data() {
     // Lists
     row("outline", Lists + "\\pard\\ls3 word\\par\\pard\\ls3\\ilvl1 b\\par",
         "\\pard{\\listtext 1.\\tab}\\ls1\\ilvl0\\f0\\fs24 deed\\par\r\n"
-        "\\pard{\\listtext 1.\\tab}\\ls1\\ilvl1 b\\par");
+        "\\pard{\\listtext 1.1.\\tab}\\ls1\\ilvl1 b\\par");
     row("table of the outline", Lists + "\\pard\\ls3 word\\par",
         "{\\leveltext\\'04\\'00.\\'01.;}{\\levelnumbers\\'01\\'03;}\\fi-360\\li1080}{\\listname;}"
         "\\listid77}}\r\n{\\*\\listoverridetable"

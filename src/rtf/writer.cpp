@@ -30,7 +30,7 @@ public:
         , m_to(to)
         , m_progress(progress)
         , m_tellAt(progress ? from : std::numeric_limits<int>::max())
-        , m_defaultTab(int(document.defaultTextOption().tabStopDistance() * TwipsPerPixel)) {
+        , m_defaultTab(qRound(document.defaultTextOption().tabStopDistance() * TwipsPerPixel)) {
         m_body.expect(keptParts(document), document.defaultFont().family());
     }
 

@@ -128,9 +128,8 @@ void GroupKeeper::word(const Token& token) {
     case Action::ListLevel:
     case Action::ListIdentity:
         // The lists of the file are numbered anew by those of its text.
-        return;
     case Action::Binary:
-        // It has no data.
+        // It comes as a word only where it has no data.
         return;
     case Action::PictureGroup:
         m_state.picture = true;

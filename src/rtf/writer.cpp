@@ -21,6 +21,22 @@ namespace orvalis::rtf {
 
 namespace {
 
+/// What a paragraph states by all that is not as usual.
+int writtenAnyway(const ParagraphFormat& paragraph) {
+    int bits = 0;
+    const auto unless = [&bits](bool usual, int bit) { bits |= usual ? 0 : bit; };
+    unless(paragraph.alignment == Alignment::Left, stated::Alignment);
+    unless(!paragraph.rightToLeft, stated::Direction);
+    unless(!paragraph.pageBreakBefore, stated::PageBreak);
+    unless(paragraph.left == 0, stated::Left);
+    unless(paragraph.first == 0, stated::First);
+    unless(paragraph.right == 0, stated::Right);
+    unless(paragraph.before == 0, stated::Before);
+    unless(paragraph.after == 0, stated::After);
+    unless(paragraph.lineSpacing == 0, stated::LineSpacing);
+    return bits;
+}
+
 /// Walks through a part of a document and tells the body writer what stands there.
 class DocumentWalk {
 public:
@@ -31,7 +47,12 @@ public:
         , m_progress(progress)
         , m_tellAt(progress ? from : std::numeric_limits<int>::max())
         , m_defaultTab(qRound(document.defaultTextOption().tabStopDistance() * TwipsPerPixel)) {
-        m_body.expect(keptParts(document), document.defaultFont().family());
+        const KeptParts parts = keptParts(document);
+        m_body.expect(parts, document.defaultFont().family());
+        m_hasStyles = !parts.styles.isEmpty();
+        const bool namesFont =
+            parts.defaultFont == DefaultFont::Unknown || parts.defaultFont == DefaultFont::Named;
+        m_statedOfCharacters = namesFont ? 0 : stated::KnowsFont | stated::Font;
     }
 
     QByteArray rtf() {
@@ -224,7 +245,18 @@ private:
     }
 
     CharFormat format(const QTextCharFormat& from) {
-        return charFormat(from, m_body.names(), m_document.defaultFont());
+        CharFormat format = charFormat(from, m_body.names(), m_document.defaultFont());
+        if (!m_hasStyles)
+            format.stated &= m_statedOfCharacters;
+        return format;
+    }
+
+    /// What the text states counts only where a reader of this document will know of it, wherever
+    /// the text came from.
+    bool statesOf(const ListLabel& list) const {
+        const bool hasTables =
+            list.kind != ListKind::None && (list.source == ListSource::Made || list.hasTables());
+        return m_hasStyles || hasTables;
     }
 
     // Documents share their formats among the runs, and so does the work on them.
@@ -250,6 +282,7 @@ private:
             m_shapeIndex = index;
             m_shape = paragraphFormat(block.blockFormat(), block.textList(),
                                       m_document.indentWidth(), m_body.names());
+            m_shape.stated = statesOf(m_shape.list) ? m_shape.stated | writtenAnyway(m_shape) : 0;
         }
         return m_shape;
     }
@@ -266,6 +299,8 @@ private:
     const Progress& m_progress;
     int m_tellAt; ///< the place behind which the progress is told next
     int m_defaultTab;
+    bool m_hasStyles = false;
+    int m_statedOfCharacters = 0; ///< that count without styles
     BodyWriter m_body;
     std::vector<char> m_known;
     std::vector<CharFormat> m_formats;

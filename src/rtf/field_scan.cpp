@@ -8,7 +8,7 @@ namespace orvalis::rtf {
 
 namespace {
 
-constexpr qsizetype LongestName = 32;
+constexpr qsizetype LongestFieldName = 32;
 
 /// Reads the tokens of a field once, with an eye on which of its two groups they stand in.
 class Scan {
@@ -37,8 +37,6 @@ private:
             word(token);
             return;
         case TokenKind::Text:
-            m_scan.hasResult |= m_resultDepth != NoDepth;
-            return;
         case TokenKind::Byte:
             m_scan.hasResult |= m_resultDepth != NoDepth;
             return;
@@ -86,9 +84,10 @@ private:
         for (words.next(token); token.kind != TokenKind::End; words.next(token)) {
             if (token.kind != TokenKind::Text)
                 continue;
-            const QByteArray text = token.bytes.first(std::min(token.bytes.size(), LongestName))
-                                        .toByteArray()
-                                        .trimmed();
+            const QByteArray text =
+                token.bytes.first(std::min(token.bytes.size(), LongestFieldName))
+                    .toByteArray()
+                    .trimmed();
             if (text.isEmpty())
                 continue;
             m_scan.name = text.first(std::max<qsizetype>(text.indexOf(' '), 0)).toUpper();

@@ -55,12 +55,11 @@ bool Interpreter::keptWord(const Token& token) {
         m_state.script = token.word;
         return true;
     }
+    const bool ofScript = kept.kind == KeptKind::Associate && m_state.script;
+    if (ofScript || (kept.kind == KeptKind::Font && !furtherFont(call)))
+        return true;
     if (kept.kind == KeptKind::Direction)
         m_state.script = nullptr;
-    else if (kept.kind == KeptKind::Associate && m_state.script)
-        return true;
-    else if (kept.kind == KeptKind::Font && !furtherFont(call))
-        return true;
     switch (kept.level) {
     case KeptLevel::Characters:
         keepCharacters(m_kept.with(m_state.keptOfChars, call));

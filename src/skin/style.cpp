@@ -150,7 +150,6 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
         faces::item(*painter, option->rect, state);
         return;
     case PE_PanelItemViewRow:
-        return;
     case PE_PanelScrollAreaCorner: // where two scroll bars meet, the page goes on
         return;
     case PE_FrameFocusRect:

@@ -230,7 +230,9 @@ std::optional<ListLabel> ListTables::label(int overrideNumber, int level, bool n
 }
 
 ListLabel labelFromText(const QString& text, ListKind previous) {
-    const QString label = text.trimmed();
+    QString label = text.trimmed();
+    // In a label the lowest codes stand for numbers of the list.
+    label.removeIf([](QChar c) { return c.unicode() < NumberCodes; });
     if (label.isEmpty())
         return {};
     const auto isSign = [](QChar c) { return !c.isLetterOrNumber(); };

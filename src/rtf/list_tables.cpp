@@ -230,9 +230,12 @@ std::optional<ListLabel> ListTables::label(int overrideNumber, int level, bool n
 }
 
 ListLabel labelFromText(const QString& text, ListKind previous) {
-    QString label = text.trimmed();
-    // In a label the lowest codes stand for numbers of the list.
-    label.removeIf([](QChar c) { return c.unicode() < NumberCodes; });
+    QString label = text;
+    // A label has no signs below a blank: the lowest codes stand for numbers of its list.
+    label.removeIf([](QChar c) {
+        return c < u' ' || c == QChar::LineSeparator || c == QChar::ObjectReplacementCharacter;
+    });
+    label = label.trimmed();
     if (label.isEmpty())
         return {};
     const auto isSign = [](QChar c) { return !c.isLetterOrNumber(); };

@@ -103,11 +103,17 @@ bool DrivenProgram::drag(const QString& name, QPoint by) {
     return xdotool(steps);
 }
 
+void DrivenProgram::waitForKeyboard() {
+    waitUntil([&] { return ask(u"keyboard"_s)[u"found"_s].toBool(); }, 8000);
+}
+
 void DrivenProgram::type(const QString& text) {
+    waitForKeyboard();
     xdotool({u"type"_s, u"--delay"_s, u"15"_s, u"--"_s, text});
 }
 
 void DrivenProgram::key(const QString& keys) {
+    waitForKeyboard();
     xdotool(QStringList{u"key"_s, u"--delay"_s, u"30"_s} + keys.split(u' '));
 }
 

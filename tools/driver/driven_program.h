@@ -112,6 +112,8 @@ private:
     QJsonObject ask(const QString& what, const QString& name = {});
     Control placed(Control control) const;
     Control waitAtRest(const std::function<Control()>& look);
+    /// Waits until keys go to the box that is up, if one is: a person sees where they type.
+    void waitForKeyboard();
     bool xdotool(const QStringList& arguments);
 
     Stage& m_stage;

@@ -172,6 +172,11 @@ QJsonObject answerTo(const QJsonObject& question) {
         const QWidget* focused = QApplication::focusWidget();
         return focused ? describe(*focused) : QJsonObject{{u"found"_s, false}};
     }
+    if (what == u"keyboard") {
+        // A box that has just come up is shown before the window manager gives it the keys.
+        const QWidget* box = QApplication::activeModalWidget();
+        return {{u"found"_s, box == nullptr || box->isActiveWindow()}};
+    }
     if (what == u"picture") {
         QScreen* screen = QGuiApplication::primaryScreen();
         return {{u"found"_s, screen && screen->grabWindow(0).save(name)}};

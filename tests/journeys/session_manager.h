@@ -47,6 +47,10 @@ public:
     ~SessionManager() {
         m_ends = true;
         m_thread->wait();
+        while (!m_signedOn.empty())
+            forget(m_signedOn.back());
+        while (!m_connections.empty())
+            drop(m_connections.back());
         IceFreeListenObjs(m_listenerCount, m_listeners);
     }
     SessionManager(const SessionManager&) = delete;
@@ -134,12 +138,8 @@ private:
         SmFreeReasons(count, reasons);
         auto& self = *static_cast<SessionManager*>(manager);
         IceConn connection = SmsGetIceConnection(program);
-        std::erase(self.m_signedOn, program);
-        std::erase(self.m_connections, connection);
-        SmsCleanUp(program);
-        IceSetShutdownNegotiation(connection, 0);
-        IceCloseConnection(connection);
-        --self.m_programs;
+        self.forget(program);
+        self.drop(connection);
     }
 
     void tell(Word word) {
@@ -189,9 +189,21 @@ private:
     void hear(IceConn connection) {
         if (IceProcessMessages(connection, nullptr, nullptr) != IceProcessMessagesIOError)
             return;
+        const std::vector<SmsConn> signedOn = m_signedOn;
+        for (SmsConn program : signedOn)
+            if (SmsGetIceConnection(program) == connection)
+                forget(program);
+        drop(connection);
+    }
+
+    void forget(SmsConn program) {
+        std::erase(m_signedOn, program);
+        SmsCleanUp(program);
+        --m_programs;
+    }
+
+    void drop(IceConn connection) {
         std::erase(m_connections, connection);
-        std::erase_if(m_signedOn,
-                      [&](SmsConn program) { return SmsGetIceConnection(program) == connection; });
         IceSetShutdownNegotiation(connection, 0);
         IceCloseConnection(connection);
     }

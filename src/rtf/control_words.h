@@ -32,7 +32,7 @@ enum class Action : quint8 {
     // Characters
     PlainCharacters,
     Font,
-    FurtherFont, ///< of which only the groups that are kept know
+    FurtherFont, ///< of a bullet
     FontSize,
     Color,
     Highlight, ///< value: 1 for the shading of the characters

@@ -163,7 +163,8 @@ struct ListLabel {
     LabelFollow follow = LabelFollow::Tab;
     LabelSide side = LabelSide::Left;
     int numbering = 0; ///< which \pn the label comes from, 0 for none
-    /// Ahead of the number and behind it. A code below NumberCodes stands for the number that the
+    /// Ahead of the number and behind it; of a bullet, ahead of nothing, its sign where it is not
+    /// the usual one. A code below NumberCodes stands for the number that the
     /// level of that index has above the item.
     QString prefix;
     QString suffix;

@@ -218,6 +218,7 @@ private:
     bool m_inParagraph = false;
     bool m_pageBreak = false;
     QString m_label;
+    SymbolFont m_labelSymbols = SymbolFont::None; ///< that its font is
     ListKind m_lastListKind = ListKind::None;
     ParagraphFormat m_shaped;
 
@@ -228,7 +229,8 @@ private:
     size_t m_fieldDepth = 0; ///< of the groups, where that field stands
     QString m_shapeProperty;
     ListLabel m_numbering;
-    bool m_numberingShows = false; ///< a number, and not the room for one alone
+    SymbolFont m_numberingSymbols = SymbolFont::None; ///< that the font of its bullet is
+    bool m_numberingShows = false;                    ///< a number, and not the room for one alone
     Picture m_picture;
     int m_halfByte = -1;
     bool m_shapePictureShown = false;

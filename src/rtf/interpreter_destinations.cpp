@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
+#include "rtf/bullet_sign.h"
 #include "rtf/equation_text.h"
 #include "rtf/hyperlink.h"
 #include "rtf/interpreter.h"
@@ -139,6 +140,7 @@ bool Interpreter::destinationWord(const Token& token) {
         return true;
     case Action::Numbering:
         m_numbering = {};
+        m_numberingSymbols = SymbolFont::None;
         m_numberingShows = true;
         m_numbering.numbering = ++m_numberings;
         m_numbering.source = ListSource::Numbering;
@@ -225,6 +227,8 @@ void Interpreter::closeDestination(Destination destination) {
         m_shapeProperty = captured.trimmed();
         return;
     case Destination::Numbering:
+        if (m_numbering.kind == ListKind::Bullet)
+            m_numbering.prefix = bulletSign(m_numbering.prefix, m_numberingSymbols);
         m_state.paragraph.list = m_numbering;
         return;
     case Destination::NumberingTextBefore:
@@ -235,6 +239,7 @@ void Interpreter::closeDestination(Destination destination) {
         return;
     case Destination::Label:
         m_label = captured;
+        m_labelSymbols = symbolFontOf(m_names.familyAt(m_captureFormat.family));
         return;
     default:
         return;
@@ -311,6 +316,11 @@ bool Interpreter::tableWord(const Token& token) {
     case Action::ListLevelSide:
         m_lists.setLevelSide(number);
         return true;
+    case Action::FurtherFont: {
+        const FontTable::Font* font = m_fonts.find(number);
+        m_numberingSymbols = font ? font->symbols : SymbolFont::None;
+        return true;
+    }
     case Action::NumberingSide:
         m_numbering.side = static_cast<LabelSide>(token.word->value);
         return true;

@@ -291,7 +291,7 @@ const ParagraphFormat& Interpreter::shapedParagraph() {
     if (m_state.listOverride != 0 && known)
         list = *known;
     else if (list.kind == ListKind::None)
-        list = labelFromText(m_label, m_lastListKind);
+        list = labelFromText(m_label, m_labelSymbols, m_lastListKind);
     else if (m_state.listOverride != 0) // which goes before the other, though nobody knows it
         list.source = ListSource::Text;
     m_lastListKind = m_shaped.list.kind;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/list_formats.h"
 
+#include "rtf/bullet_sign.h"
 #include "rtf/format_properties.h"
 #include "rtf/list_number.h"
 
@@ -80,8 +81,11 @@ QTextListFormat listFormat(const ListLabel& label) {
         list.setProperty(KeptListOverride, label.keptOverride);
         list.setProperty(KeptListLevel, label.level);
     }
-    if (label.kind == ListKind::Bullet)
+    if (label.kind == ListKind::Bullet) {
+        if (!label.prefix.isEmpty())
+            list.setNumberPrefix(label.prefix);
         return list;
+    }
     list.setNumberPrefix(cleanText(label.prefix));
     list.setNumberSuffix(cleanText(label.suffix));
     if (label.start != 1)
@@ -103,8 +107,10 @@ ListLabel labelOf(const QTextList& list) {
         label.level = format.intProperty(KeptListLevel);
     }
     // Bullets look alike whichever list they are of, numbers do not.
-    if (label.kind == ListKind::Bullet)
+    if (label.kind == ListKind::Bullet) {
+        label.prefix = bulletSign(format.numberPrefix(), SymbolFont::None);
         return label;
+    }
     label.identity = list.objectIndex() + 1;
     label.prefix = cleanText(format.numberPrefix());
     // A list that says nothing of it shows a dot behind its numbers.
@@ -138,7 +144,7 @@ void showLabel(QTextBlockFormat& item) {
 
 QString labelText(const ListLabel& label, int number) {
     if (label.kind == ListKind::Bullet)
-        return QChar(0x2022);
+        return label.prefix.isEmpty() ? QString(QChar(0x2022)) : label.prefix;
     return label.prefix + listNumber(label.kind, number) + label.suffix;
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/list_tables.h"
 
+#include "rtf/bullet_sign.h"
 #include "rtf/kept_text.h"
 
 #include <algorithm>
@@ -121,6 +122,8 @@ void ListTables::beginLevel() {
     label.kind = ListKind::Decimal;
     label.level = level;
     m_levels.append(label);
+    m_bullet.clear();
+    m_bulletFont = SymbolFont::None;
 }
 
 ListLabel* ListTables::openLevel() {
@@ -174,8 +177,13 @@ void ListTables::setLevelText(const QString& text) {
     const char16_t own = char16_t(level->level);
     // The first character counts the others; what follows them is the closing semicolon.
     const QString label = text.mid(1, text.front().unicode());
+    if (level->kind == ListKind::Bullet) {
+        m_bullet = label;
+        level->prefix = bulletSign(m_bullet, m_bulletFont);
+        return;
+    }
     const qsizetype number = label.indexOf(QChar(own));
-    if (level->kind == ListKind::Bullet || number < 0)
+    if (number < 0)
         return;
     // The levels above have their numbers by then.
     const auto isLater = [own](QChar c) { return c.unicode() < MostLevels && c.unicode() >= own; };
@@ -185,6 +193,13 @@ void ListTables::setLevelText(const QString& text) {
     const QString after = label.mid(number + 1);
     if (std::none_of(after.begin(), after.end(), isLater))
         level->suffix = after;
+}
+
+void ListTables::setLevelFont(SymbolFont font) {
+    m_bulletFont = font;
+    ListLabel* level = openLevel();
+    if (level && level->kind == ListKind::Bullet)
+        level->prefix = bulletSign(m_bullet, font);
 }
 
 void ListTables::addOverride(int number) {
@@ -229,7 +244,7 @@ std::optional<ListLabel> ListTables::label(int overrideNumber, int level, bool n
     return label;
 }
 
-ListLabel labelFromText(const QString& text, ListKind previous) {
+ListLabel labelFromText(const QString& text, SymbolFont font, ListKind previous) {
     QString label = text;
     // A label has no signs below a blank: the lowest codes stand for numbers of its list.
     label.removeIf([](QChar c) {
@@ -255,6 +270,7 @@ ListLabel labelFromText(const QString& text, ListKind previous) {
     ListLabel bullet;
     bullet.kind = ListKind::Bullet;
     bullet.source = ListSource::Text;
+    bullet.prefix = bulletSign(label, font);
     return bullet;
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "rtf/formats.h"
+#include "rtf/symbol_font.h"
 
 #include <QHash>
 #include <QList>
@@ -36,6 +37,8 @@ public:
     /// \param text as \leveltext has it: its length, then characters, with the codes 0 to 8 where
     /// the numbers of the levels go.
     void setLevelText(const QString& text);
+    /// \param font with signs that the label is in; none for letters.
+    void setLevelFont(SymbolFont font);
     void addOverride(int number);
 
     /// Whether there are overrides.
@@ -64,12 +67,15 @@ private:
     Levels m_levels;
     QString m_kept; ///< of the list or override that is read
     QHash<int, int> m_starts;
+    QString m_bullet; ///< of the level that is read, as the file has it
+    SymbolFont m_bulletFont = SymbolFont::None;
     int m_identity = 0;
     int m_overrideLevel = NoLevel;
 };
 
 /// What a literal label, as \pntext has it, says about the list; kind None for no label at all.
 /// \param previous kind of the list before it, which tells a roman "i." from the letter.
-ListLabel labelFromText(const QString& text, ListKind previous);
+/// \param font with signs that shows the label, where it is one of these.
+ListLabel labelFromText(const QString& text, SymbolFont font, ListKind previous);
 
 } // namespace orvalis::rtf

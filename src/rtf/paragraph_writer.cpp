@@ -3,7 +3,7 @@
 #include "rtf/paragraph_writer.h"
 
 #include "rtf/kept_text.h"
-#include "rtf/list_number.h"
+#include "rtf/list_formats.h"
 #include "rtf/rtf_output.h"
 #include "rtf/writer_tables.h"
 
@@ -91,11 +91,11 @@ void ParagraphWriter::list(const ParagraphFormat& paragraph, const ListLabel& sh
 
 void ParagraphWriter::label(const ListLabel& label) {
     m_out.word(label.source == ListSource::Tables ? "{\\listtext" : "{\\pntext");
-    if (label.kind == ListKind::Bullet) {
+    if (label.kind == ListKind::Bullet && label.prefix.isEmpty()) {
         m_out.word("\\f", m_tables.symbolFont());
         m_out.structure(BulletByte);
     } else {
-        m_out.text(label.prefix + listNumber(label.kind, label.start) + label.suffix);
+        m_out.text(labelText(label, label.start));
     }
     m_out.structure("\\tab}");
 }
@@ -105,10 +105,16 @@ void ParagraphWriter::numbering(const ListLabel& label) {
     if (label.kind == ListKind::Bullet) {
         m_out.word("\\pnlvlblt");
         side(label);
-        m_out.word("\\pnf", m_tables.symbolFont());
-        m_out.structure("\\pnindent0{\\pntxtb");
-        m_out.structure(BulletByte);
-        m_out.structure("}}");
+        if (label.prefix.isEmpty()) {
+            m_out.word("\\pnf", m_tables.symbolFont());
+            m_out.structure("\\pnindent0{\\pntxtb");
+            m_out.structure(BulletByte);
+            m_out.structure("}}");
+            return;
+        }
+        m_out.word("\\pnindent0");
+        numberingText("{\\pntxtb", label.prefix);
+        m_out.structure("}");
         return;
     }
     m_out.word("\\pnlvlbody\\pnindent0");

@@ -37,8 +37,15 @@ int levelFormat(ListKind kind) {
 /// The label of a level: its length, then its characters, with a zero where the number goes; and
 /// the place of that.
 void levelText(RtfOutput& out, const ListLabel& label) {
-    if (label.kind == ListKind::Bullet) {
+    if (label.kind == ListKind::Bullet && label.prefix.isEmpty()) {
         out.structure("{\\leveltext\\'01\\u8226?;}{\\levelnumbers;}");
+        return;
+    }
+    if (label.kind == ListKind::Bullet) {
+        out.structure("{\\leveltext");
+        out.code(uchar(label.prefix.size()));
+        out.text(label.prefix);
+        out.structure(";}{\\levelnumbers;}");
         return;
     }
     out.structure("{\\leveltext");
@@ -92,8 +99,9 @@ int WriterTables::list(const ParagraphFormat& item) {
         return number;
     }
     const bool isBullet = label.kind == ListKind::Bullet;
-    int& number = m_listNumbers[{label.identity, isBullet ? item.left : 0, label.tab,
-                                 int(label.follow), int(label.side)}];
+    const std::array place{label.identity, isBullet ? item.left : 0, label.tab, int(label.follow),
+                           int(label.side)};
+    int& number = m_listNumbers[{place, isBullet ? label.prefix : QString()}];
     if (number == 0) {
         m_lists.append(item);
         number = int(m_lists.size());

@@ -57,8 +57,8 @@ private:
     QHash<QRgb, int> m_colorNumbers;
     QList<ParagraphFormat> m_lists;                        ///< by their first items
     QHash<std::pair<QString, QString>, int> m_keptNumbers; ///< by list and override
-    /// By identity, the indent of bullets, and the place of the labels.
-    std::map<std::array<int, 5>, int> m_listNumbers;
+    /// By identity, the indent of bullets, and the place of the labels; and the sign of bullets.
+    std::map<std::pair<std::array<int, 5>, QString>, int> m_listNumbers;
 };
 
 } // namespace orvalis::rtf

@@ -328,8 +328,7 @@ void ReaderFormatTest::listsOfAllKindsAreKnown_data() {
                         const QString& prefix = {}, const QString& suffix = {}) {
         QTest::newRow(name) << rtf << int(kind) << start << prefix << suffix;
     };
-    row("bullet", "{\\pntext\\'B7\\tab}{\\*\\pn\\pnlvlblt\\pnf1{\\pntxtb\\'B7}}", ListKind::Bullet,
-        1, QStringLiteral("\u00b7"));
+    row("bullet", "{\\pntext\\'B7\\tab}{\\*\\pn\\pnlvlblt\\pnf1{\\pntxtb\\'B7}}", ListKind::Bullet);
     row("decimal", "{\\*\\pn\\pnlvlbody\\pnstart2\\pndec{\\pntxta.}}", ListKind::Decimal, 2, {},
         QStringLiteral("."));
     row("in parentheses", "{\\*\\pn\\pnlvlbody\\pndec{\\pntxtb(}{\\pntxta)}}", ListKind::Decimal, 1,
@@ -357,7 +356,8 @@ void ReaderFormatTest::listsOfAllKindsAreKnown_data() {
     row("label of two numbers", "{\\listtext 2.1.\\tab}", ListKind::Decimal, 2, {},
         QStringLiteral(".1."));
     row("label of words", "{\\listtext Note well:\\tab}", ListKind::Bullet);
-    row("label of a letter that is a bullet", "{\\pntext o\\tab}", ListKind::Bullet);
+    row("label of a letter that is a bullet", "{\\pntext o\\tab}", ListKind::Bullet, 1,
+        QStringLiteral("o"));
     const QByteArray tables =
         "{\\*\\listtable{\\list{\\listlevel\\levelnfc0\\levelstartat5{\\leveltext\\'03(\\'00);}"
         "{\\levelnumbers\\'02;}}{\\listlevel\\levelnfc23{\\leveltext\\'01\\u-3913 ?;}}\\listid77}}"

@@ -29,7 +29,7 @@ const QTextCharFormat* selectionAt(const QTextBlock& block, const PaintContext& 
     return nullptr;
 }
 
-/// How far left of its text a label begins. One that has outgrown its room stands close to it.
+/// How far ahead of its text a label begins. One that has outgrown its room stands close to it.
 qreal labelDistance(const QTextBlock& item, qreal width, qreal scale) {
     const QTextBlockFormat format = item.blockFormat();
     const int side = item.textList()->format().intProperty(rtf::ListLabelSide);
@@ -52,11 +52,11 @@ void drawNumber(QPainter& painter, const QTextBlock& item, const PaintContext& c
 
     const QRectF text = layout.lineAt(0).naturalTextRect();
     const int width = metrics.horizontalAdvance(label);
-    const int gap = metrics.horizontalAdvance(u' ');
     const QPoint corner = layout.position().toPoint() + text.topLeft().toPoint();
     QRectF box(corner, QSizeF(width, metrics.height()));
     const qreal scale = device ? device->logicalDpiY() / 96.0 : 1;
-    box.translate(leftToRight ? -labelDistance(item, width, scale) : text.width() + gap, 0);
+    const qreal distance = labelDistance(item, width, scale);
+    box.translate(leftToRight ? -distance : text.width() + distance - width, 0);
 
     if (const QTextCharFormat* selection = selectionAt(item, context)) {
         painter.fillRect(box, selection->background());
@@ -66,7 +66,9 @@ void drawNumber(QPainter& painter, const QTextBlock& item, const PaintContext& c
         painter.setPen(QPen(ink == Qt::NoBrush ? context.palette.text() : ink, 0));
     }
     QTextLayout line(label, font, device);
-    line.setTextOption(QTextOption(Qt::AlignLeft | Qt::AlignAbsolute));
+    QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
+    option.setTextDirection(item.textDirection());
+    line.setTextOption(option);
     line.beginLayout();
     line.createLine().setLeadingIncluded(true);
     line.endLayout();

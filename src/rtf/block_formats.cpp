@@ -82,15 +82,13 @@ void setKept(QTextBlockFormat& block, const ParagraphFormat& format, const Names
 
 QTextBlockFormat blockFormat(const ParagraphFormat& format, const Names& names, int defaultTab) {
     QTextBlockFormat block;
-    // What is set to the right stands there whichever way its text runs; but the labels of items
-    // that run to the left need the room that is beside them.
-    const bool hangsRight = format.rightToLeft && format.list.kind != ListKind::None;
     switch (format.alignment) {
     case Alignment::Left:
         block.setAlignment(Qt::AlignLeft);
         break;
     case Alignment::Right:
-        block.setAlignment(hangsRight ? Qt::AlignRight : Qt::AlignRight | Qt::AlignAbsolute);
+        // What is set to the right stands there whichever way its text runs.
+        block.setAlignment(Qt::AlignRight | Qt::AlignAbsolute);
         break;
     case Alignment::Center:
         block.setAlignment(Qt::AlignHCenter);
@@ -104,8 +102,6 @@ QTextBlockFormat blockFormat(const ParagraphFormat& format, const Names& names, 
     if (format.pageBreakBefore)
         block.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
     placeParagraph(block, format, defaultTab);
-    if (format.right != 0)
-        block.setRightMargin(pixels(format.right));
     if (format.before != 0)
         block.setTopMargin(pixels(format.before));
     if (format.after != 0)
@@ -124,12 +120,12 @@ ParagraphFormat paragraphFormat(const QTextBlockFormat& format, const QTextList*
     const Indents indents = indentsOf(format, list, indentWidth);
     result.left = indents.left;
     result.first = indents.first;
-    result.right = twips(format.rightMargin());
+    result.right = indents.right;
     result.before = twips(format.topMargin());
     result.after = twips(format.bottomMargin());
     readLineSpacing(format, result);
-    result.tabs =
-        tabStopsOf(format, result.left + (list ? twips(format.textIndent()) : result.first));
+    result.tabs = tabStopsOf(format, (result.rightToLeft ? result.right : result.left) +
+                                         (list ? twips(format.textIndent()) : result.first));
     result.kept = names.kept(format.stringProperty(KeptOfParagraph));
     result.row = names.kept(format.stringProperty(TableRow));
     result.rowBegins = format.boolProperty(RowBegins);

@@ -77,8 +77,10 @@ Alignment alignmentOf(const QTextBlockFormat& format) {
 
 Indents indentsOf(const QTextBlockFormat& format, const QTextList* list, double indentWidth) {
     Indents result;
-    result.left = twipsOf(format.leftMargin() + steppedMargin(format, list, indentWidth)) -
-                  overhangOf(format);
+    const bool rightToLeft = format.layoutDirection() == Qt::RightToLeft;
+    result.left = twipsOf(format.leftMargin() + steppedMargin(format, list, indentWidth));
+    result.right = twipsOf(format.rightMargin());
+    (rightToLeft ? result.right : result.left) -= overhangOf(format);
     result.first = twipsOf(format.textIndent());
     if (!list)
         return result;

@@ -25,10 +25,11 @@ QRgb colorOf(const QTextCharFormat& format);
 
 Alignment alignmentOf(const QTextBlockFormat& format);
 
-/// Where the lines of a paragraph begin, in twips.
+/// Where the lines of a paragraph begin and end, in twips from the margins.
 struct Indents {
-    int left = 0;  ///< all of them
-    int first = 0; ///< the first, relative to left
+    int left = 0;
+    int right = 0;
+    int first = 0; ///< of the first line, relative to where the others begin
 };
 
 /// \param list of the paragraph, null for none.

@@ -26,6 +26,16 @@ int placeInTwips(double pixels) {
     return int(std::lround(pixels * TwipsPerPixel));
 }
 
+/// Where the lines begin, from the margin of the page on that side. RTF names the indents by their
+/// sides, whichever way the text runs.
+int leadingIndent(const ParagraphFormat& format) {
+    return format.rightToLeft ? format.right : format.left;
+}
+
+QTextFormat::Property leadingMargin(bool rightToLeft) {
+    return rightToLeft ? QTextFormat::BlockRightMargin : QTextFormat::BlockLeftMargin;
+}
+
 /// The multiple of a step that comes next behind a place.
 int nextStep(int place, int step) {
     const int before = place >= 0 ? place / step : -((step - 1 - place) / step);
@@ -58,7 +68,7 @@ int nextStop(const QList<TabStop>& stops, int place, int defaultTab) {
 }
 
 int labelStart(const ParagraphFormat& format, const LabelSize& label) {
-    const int hanging = format.left + format.first;
+    const int hanging = leadingIndent(format) + format.first;
     switch (format.list.side) {
     case LabelSide::Center:
         return hanging - label.width / 2;
@@ -144,22 +154,23 @@ void placeParagraph(QTextBlockFormat& block, const ParagraphFormat& format, int 
                     LabelSize label) {
     const bool isItem = format.list.kind != ListKind::None;
     const QList<TabStop> stops = stopsOf(format);
-    int start = format.left + (isItem ? 0 : format.first);
-    int outermost = start;
-    if (!format.rightToLeft) {
+    const int edge = leadingIndent(format);
+    int start = edge + (isItem ? 0 : format.first);
+    if (!format.rightToLeft)
         start = textStart(format, stops, defaultTab, label);
-        outermost = isItem ? labelStart(format, label) : start;
-    }
-    const int overhang = std::max(0, -std::min(format.left, outermost));
-    setLength(block, QTextFormat::BlockLeftMargin, format.left + overhang);
-    setLength(block, QTextFormat::TextIndent, start - format.left);
+    const int outermost = isItem ? labelStart(format, label) : start;
+    const int overhang = std::max(0, -std::min(edge, outermost));
+    setLength(block, QTextFormat::BlockLeftMargin, format.left);
+    setLength(block, QTextFormat::BlockRightMargin, format.right);
+    setLength(block, leadingMargin(format.rightToLeft), edge + overhang);
+    setLength(block, QTextFormat::TextIndent, start - edge);
     if (overhang > 0)
         block.setProperty(ParagraphOverhang, overhang);
     else
         block.clearProperty(ParagraphOverhang);
     if (isItem) {
         block.setProperty(ParagraphFirstIndent, format.first);
-        block.setProperty(LabelOffset, format.left + format.first - start);
+        block.setProperty(LabelOffset, edge + format.first - start);
     } else {
         block.clearProperty(ParagraphFirstIndent);
         block.clearProperty(LabelOffset);
@@ -174,7 +185,8 @@ int overhangOf(const QTextBlockFormat& block) {
 void standAcrossMargin(QTextBlockFormat& block) {
     if (overhangOf(block) == 0)
         return;
-    block.setLeftMargin(block.leftMargin() - placeInPixels(overhangOf(block)));
+    const auto leading = leadingMargin(block.layoutDirection() == Qt::RightToLeft);
+    block.setProperty(leading, block.doubleProperty(leading) - placeInPixels(overhangOf(block)));
     block.clearProperty(ParagraphOverhang);
 }
 

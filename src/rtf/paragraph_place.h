@@ -21,19 +21,20 @@ struct LabelSize {
     int blank = 0; ///< width of a blank in the same font
 };
 
-/// Sets indents and tab stops. What would begin left of the margin, and so not be seen, moves right
-/// with the whole paragraph.
+/// Sets indents and tab stops, for the direction that the format says. What would begin outside the
+/// margin, and so not be seen, moves inwards with the whole paragraph.
 /// \param defaultTab twips between the stops behind the last one.
 /// \param label of a list item: where it is longer than its room the text begins behind it.
 void placeParagraph(QTextBlockFormat& block, const ParagraphFormat& format, int defaultTab,
                     LabelSize label = {});
 
-/// How far a paragraph was moved right to be seen, in twips.
+/// How far a paragraph was moved inwards to be seen, in twips.
 int overhangOf(const QTextBlockFormat& block);
 /// Takes that back, where there is a page around the margin.
 void standAcrossMargin(QTextBlockFormat& block);
 
-/// Where the label of a list item begins, in twips from the beginning of its text.
+/// Where the label of a list item begins, in twips from the beginning of its text; ahead of it, to
+/// whichever side that is, where it is below 0.
 int labelOffset(const QTextBlockFormat& item);
 
 /// The tab stops of a paragraph as its file has them.

@@ -15,6 +15,9 @@
 #include <QTextLayout>
 #include <QTextList>
 
+#include <algorithm>
+#include <cmath>
+
 using namespace orvalis;
 using namespace orvalis::test;
 using namespace Qt::StringLiterals;
@@ -80,6 +83,8 @@ private slots:
     void selectedNumbersAreLitLikeTheDocumentsOwn();
     void numbersStayWithTheirItemsWhenTheTextIsScrolled();
     void numbersArePrinted();
+    void aNumberStandsWhereItsLineBegins_data();
+    void aNumberStandsWhereItsLineBegins();
     void anItemThatIsAddedTakesTheNextNumber();
     void anItemThatBecomesABulletShowsIt();
     void bulletsOfAPageThatIsPastedBehindAreShown();
@@ -145,6 +150,39 @@ void ListNumbersTest::numbersArePrinted() {
     const QImage expected = printedItem(whole, 7);
     QVERIFY(expected != printedItem(whole, 0));
     QCOMPARE(printedItem(rest, 1), expected);
+}
+
+void ListNumbersTest::aNumberStandsWhereItsLineBegins_data() {
+    QTest::addColumn<QByteArray>("look");
+    QTest::addColumn<bool>("onTheRight");
+    QTest::newRow("from left to right") << QByteArray() << false;
+    QTest::newRow("from right to left") << QByteArray("\\rtlpar\\qr\\li0\\ri720") << true;
+}
+
+void ListNumbersTest::aNumberStandsWhereItsLineBegins() {
+    QFETCH(QByteArray, look);
+    QFETCH(bool, onTheRight);
+    constexpr int Height = 12; // within the line
+    RichTextBox box;
+    show(box, listFrom(1, 1, "\\pndec{\\pntxta.}", look));
+    const QImage picture = itemPicture(box, 0).copy(0, 0, box.viewport()->width(), Height);
+    const QTextBlock block = box.document()->firstBlock();
+    const QRectF text =
+        block.layout()->lineAt(0).naturalTextRect().translated(block.layout()->position());
+    constexpr int Hanging = 24; // pixels
+    int first = picture.width();
+    int last = 0;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            if (picture.pixel(x, y) != picture.pixel(0, 0)) {
+                first = std::min(first, x);
+                last = std::max(last, x);
+            }
+    constexpr double Bearing = 4;
+    const double outer = onTheRight ? last - text.right() : text.left() - first;
+    const double inner = onTheRight ? first - text.left() : text.right() - last;
+    QVERIFY2(std::abs(outer - Hanging) <= Bearing, QByteArray::number(outer));
+    QVERIFY2(std::abs(inner) <= Bearing, QByteArray::number(inner));
 }
 
 void ListNumbersTest::anItemThatIsAddedTakesTheNextNumber() {

@@ -98,6 +98,8 @@ private slots:
     void textBehindALabelBeginsWhereTheListSays_data();
     void textBehindALabelBeginsWhereTheListSays();
     void aLabelBeginsAtTheHangingIndent();
+    void anItemThatRunsToTheLeftHangsOnTheRight_data();
+    void anItemThatRunsToTheLeftHangsOnTheRight();
     void aLabelLongerThanItsRoomPushesTheTextOn();
     void whatAListSaysOfItsLabelsIsWrittenAgain_data();
     void whatAListSaysOfItsLabelsIsWrittenAgain();
@@ -259,6 +261,36 @@ void ParagraphPlaceTest::aLabelBeginsAtTheHangingIndent() {
     QCOMPARE(shownLabel(document.firstBlock()), QStringLiteral("\u2022"));
     // The text stands at the next step.
     QCOMPARE(labelOffset(document.firstBlock().blockFormat()), -740);
+}
+
+void ParagraphPlaceTest::anItemThatRunsToTheLeftHangsOnTheRight_data() {
+    QTest::addColumn<QByteArray>("indents");
+    QTest::addColumn<int>("left");
+    QTest::addColumn<int>("right");
+    QTest::addColumn<int>("onPaper"); // the right one, where there is room beyond the margin
+    QTest::newRow("room") << QByteArray("\\fi-360\\li300\\ri720") << 300 << 720 << 720;
+    QTest::newRow("no room") << QByteArray("\\fi-360\\li300") << 300 << 360 << 0;
+    QTest::newRow("too little") << QByteArray("\\fi-360\\ri150") << 0 << 360 << 150;
+}
+
+void ParagraphPlaceTest::anItemThatRunsToTheLeftHangsOnTheRight() {
+    QFETCH(QByteArray, indents);
+    QTextDocument document;
+    const QByteArray shape = "\\rtlpar" + indents + "\\qr";
+    readRtf(fileOf("\\pard{\\pntext 1.\\tab}{\\*\\pn\\pnlvlbody\\pndec{\\pntxta.}}" + shape +
+                   " a\\par"),
+            document);
+    QTextBlockFormat item = document.firstBlock().blockFormat();
+    const auto twips = [](double pixels) { return int(std::lround(pixels * TwipsPerPixel)); };
+    QTEST(twips(item.leftMargin()), "left");
+    QTEST(twips(item.rightMargin()), "right");
+    QCOMPARE(item.alignment(), Qt::AlignRight | Qt::AlignAbsolute);
+    QCOMPARE(labelOffset(item), -360);
+    standAcrossMargin(item);
+    QTEST(twips(item.leftMargin()), "left");
+    QTEST(twips(item.rightMargin()), "onPaper");
+    const QByteArray written = writeRtf(document);
+    QVERIFY2(written.contains(shape), written);
 }
 
 void ParagraphPlaceTest::aLabelLongerThanItsRoomPushesTheTextOn() {

@@ -251,8 +251,7 @@ void Interpreter::tellKept() {
     m_parts.words = m_names.keptAt(m_kept.name(m_keptOfDocument));
     m_parts.nameless = m_nameless;
     m_parts.defaultFont = defaultFont();
-    // A file that leaves it unsaid has its first font read for it.
-    const FontTable::Font* unnamed = m_fonts.find(m_defaultFont);
+    const FontTable::Font* unnamed = m_defaultFontSaid ? m_fonts.find(m_defaultFont) : nullptr;
     if (unnamed && unnamed->family != NoName)
         m_parts.unnamedFamily = m_names.familyAt(unnamed->family);
     m_sink.kept(m_parts);

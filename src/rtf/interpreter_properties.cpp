@@ -43,6 +43,9 @@ bool Interpreter::characterWord(const Token& token) {
             if (shows())
                 keepScript();
             selectFont();
+            if (m_state.destination == Destination::ListTable ||
+                m_state.destination == Destination::ListOverrideTable)
+                m_lists.setLevelFont(m_state.symbols);
         }
         return true;
     case Action::FontSize:
@@ -230,11 +233,15 @@ void Interpreter::selectFont() {
     const FontTable::Font* font = m_fonts.find(m_state.font);
     if (!font)
         font = m_fonts.find(m_defaultFont);
-    m_state.chars.family = font ? font->family : NoName;
+    // Where the file names no font for such text it is for whoever shows it to choose one.
+    const bool chosen = font && (m_state.font != NoName || m_defaultFontSaid);
+    m_state.chars.family = chosen ? font->family : NoName;
     m_state.chars.stated &= ~stated::Font;
     m_state.chars.stated |= m_state.font == NoName ? 0 : stated::Font & m_statedOfCharacters;
-    m_state.symbols = font ? font->symbols : SymbolFont::None;
-    m_state.page = font && font->page ? font->page : m_documentPage;
+    m_state.symbols = chosen ? font->symbols : SymbolFont::None;
+    const bool hasPage =
+        font && font->page && (chosen || font->page->symbols() == SymbolFont::None);
+    m_state.page = hasPage ? font->page : m_documentPage;
 }
 
 void Interpreter::plainCharacters() {

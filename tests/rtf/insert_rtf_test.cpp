@@ -154,7 +154,7 @@ void InsertRtfTest::readingReplacesTheContentAndItsHistory() {
 
 void InsertRtfTest::everyRunCarriesItsLook() {
     QTextDocument document;
-    readRtf("{\\rtf1{\\fonttbl{\\f0 Arial;}}{\\colortbl;\\red1\\green2\\blue3;}"
+    readRtf("{\\rtf1\\deff0{\\fonttbl{\\f0 Arial;}}{\\colortbl;\\red1\\green2\\blue3;}"
             "\\b\\i\\strike\\uldb\\fs30\\cf1\\highlight1\\super x}",
             document);
     const QTextCharFormat format = document.firstBlock().begin().fragment().charFormat();

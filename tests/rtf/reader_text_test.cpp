@@ -38,6 +38,8 @@ private slots:
     void theFormatOfAnEquationIsThatOfItsInstruction();
     void theDocumentsPageHoldsWhereTheFontNamesNone_data();
     void theDocumentsPageHoldsWhereTheFontNamesNone();
+    void textWithoutAFontIsNotInTheFirstOneButInItsScript_data();
+    void textWithoutAFontIsNotInTheFirstOneButInItsScript();
     void tablesComeAsLinesWithTabs_data();
     void tablesComeAsLinesWithTabs();
     void hyperlinksKeepTheirTargets_data();
@@ -327,6 +329,27 @@ void ReaderTextTest::theDocumentsPageHoldsWhereTheFontNamesNone() {
     RecordingSink sink;
     readRtf("{\\rtf1\\ansi" + head + " " + bytes + "}", sink);
     QCOMPARE(sink.whole, text);
+}
+
+void ReaderTextTest::textWithoutAFontIsNotInTheFirstOneButInItsScript_data() {
+    QTest::addColumn<QByteArray>("font");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("Cyrillic") << QByteArray("\\fcharset204 Arial") << QStringLiteral("\u043fJ");
+    QTest::newRow("signs") << QByteArray("\\fcharset2 Wingdings") << QStringLiteral("\u00efJ");
+}
+
+void ReaderTextTest::textWithoutAFontIsNotInTheFirstOneButInItsScript() {
+    QFETCH(QByteArray, font);
+    QFETCH(QString, text);
+    const QByteArray head = "{\\rtf1\\ansi";
+    const QByteArray body = "{\\fonttbl{\\f0" + font + ";}}\\'efJ\\par}";
+    RecordingSink sink;
+    readRtf(head + body, sink);
+    QCOMPARE(sink.whole, text + u'\n');
+    QCOMPARE(sink.runs.first().format.family, NoName);
+    RecordingSink named;
+    readRtf(head + "\\deff0" + body, named);
+    QVERIFY(named.runs.first().format.family != NoName);
 }
 
 void ReaderTextTest::tablesComeAsLinesWithTabs_data() {

@@ -154,8 +154,8 @@ private:
         place.first = below(3) * 150 - below(2) * 450;
         if (below(4) == 0)
             place.tabs = {{1500, QTextOption::RightTab, TabLeader::Dots}};
+        place.right = below(2) * 240;
         placeParagraph(format, place, DefaultTab);
-        format.setRightMargin(below(2) * 16);
         format.setTopMargin(below(2) * 8);
         format.setBottomMargin(below(2) * 13);
         if (below(4) == 0)
@@ -168,9 +168,9 @@ private:
     void list(QTextCursor& cursor) {
         QTextBlockFormat format = cursor.blockFormat();
         ParagraphFormat place;
-        place.left = 2880;
-        place.first = -2880; // room for the longest of the labels
         place.rightToLeft = format.layoutDirection() == Qt::RightToLeft;
+        (place.rightToLeft ? place.right : place.left) = 2880;
+        place.first = -2880; // room for the longest of the labels
         place.list.kind = ListKind::Bullet;
         placeParagraph(format, place, DefaultTab);
         cursor.setBlockFormat(format);
@@ -352,7 +352,8 @@ void RoundTripTest::signsKeepTheirFontAndTheirCodes() {
     for (int code = 0x21; code <= 0xff; ++code)
         codes += "\\'" + QByteArray::number(code, 16);
     QTextDocument document;
-    readRtf("{\\rtf1{\\fonttbl{\\f0\\fnil\\fcharset2 " + font + ";}}\\f0 " + codes + "\\par}",
+    readRtf("{\\rtf1\\deff0{\\fonttbl{\\f0\\fnil\\fcharset2 " + font + ";}}\\f0 " + codes +
+                "\\par}",
             document);
     QCOMPARE(document.firstBlock().begin().fragment().charFormat().fontFamilies().toStringList(),
              QStringList(QString::fromLatin1(font)));

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "likeness.h"
 
+#include "rtf/symbol_font.h"
+
 #include <QHash>
 #include <QRegularExpression>
 
@@ -50,35 +52,46 @@ void visitPairs(const QList<Item>& a, const QList<Item>& b,
     }
 }
 
-/// A word that runs from right to left: a PDF may hold it in the order in which it was drawn.
-QString inOneOrder(const QString& word) {
+/// A word that runs from right to left: a PDF may hold its letters as they are read, or as they
+/// stand, and with or without what has no width.
+QString inOneOrder(QString word) {
+    static const QRegularExpression unseen(u"[\\x{200b}-\\x{200f}\\x{202a}-\\x{202e}]"_s);
     const auto runsLeft = [](QChar c) {
         return c.direction() == QChar::DirR || c.direction() == QChar::DirAL;
     };
     if (std::none_of(word.cbegin(), word.cend(), runsLeft))
         return word;
-    QString turned(word);
-    std::reverse(turned.begin(), turned.end());
-    return std::min(word, turned);
+    word.remove(unseen);
+    std::sort(word.begin(), word.end());
+    return word;
+}
+
+/// What is one sign whichever of the two PDFs holds it: brackets are turned in text that runs from
+/// right to left, and a sign of a symbol font may stand as the letter of its code.
+QString inOneSpelling(QString word) {
+    word.replace(u')', u'(').replace(u']', u'[').replace(QChar(0x2010), u'-');
+    if (word.size() == 1)
+        if (const uchar code = rtf::symbolByte(rtf::SymbolFont::Symbol, word.front().unicode()))
+            return QString(QChar(char16_t(code)));
+    return word;
 }
 
 /// The words of the first pages, without what fills the space of tabs, and with one sign for every
-/// bullet and every hyphen. Characters that the fonts of few machines have stand for no word.
+/// bullet, every bracket and every hyphen. Characters that the fonts of few machines have stand for
+/// no word.
 QList<Word> firstPages(const PdfText& text, int pages) {
     static const QRegularExpression leader(u"([._=\\x{00b7}-]){3,}.*$"_s);
     static const QRegularExpression bullet(
-        u"^[\\x{2022}\\x{00b7}\\x{25aa}\\x{25cf}\\x{fffd}\\x{e000}-\\x{f8ff}]$"_s);
+        u"^[\\x{2022}\\x{00b7}\\x{25a0}-\\x{27bf}\\x{2b00}-\\x{2bff}\\x{fffd}\\x{e000}-\\x{f8ff}]$"_s);
     static const QRegularExpression rare(
         u"[\\x{900}-\\x{109f}\\x{1780}-\\x{17ff}\\x{2e80}-\\x{fffd}\\x{10000}-\\x{10ffff}]"_s);
     QList<Word> words;
     for (Word word : text.words) {
         if (word.page > pages)
             continue;
-        word.text.replace(QChar(0x2010), u'-');
-        word.text.remove(leader);
-        word.text = inOneOrder(word.text);
         if (bullet.match(word.text).hasMatch())
             word.text = u"\u2022"_s;
+        word.text = inOneSpelling(inOneOrder(word.text.remove(leader)));
         if (!word.text.isEmpty() && !rare.match(word.text).hasMatch())
             words.append(word);
     }

@@ -31,8 +31,9 @@ Likeness compare(const PdfText& expected, const PdfText& found);
 /// Of the words of the first page, those whose left edge is within six points of where it is to be.
 /// How far down they stand is not looked at, but words that are alike follow each other in the same
 /// order; what the one has at the foot of its page the other may have on the next. Bullets count as
-/// one sign; leaders of tabs, and words in the scripts for which few machines have a font, do not
-/// count.
+/// one sign, and so do a bracket and its mirror, and a sign and the letter of its code, as PDFs
+/// tell them in different ways. Leaders of tabs, and words in the scripts for which few machines
+/// have a font, do not count.
 /// \param miss a word that is not, for whoever looks for the cause.
 /// \param top,bottom of the text in points; what stands above and below them does not count.
 Share compareLeftEdges(const PdfText& expected, const PdfText& found, double top, double bottom,

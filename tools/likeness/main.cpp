@@ -13,7 +13,9 @@
 // stand on the first page where LibreOffice sets them, each left edge within six points, in the
 // same order down the page. For that, LibreOffice is given the files without their footnotes, which
 // the program does not show; and the program takes the fonts that LibreOffice takes, its font for
-// files that name none, and runs of blanks as wide as it sets them. With --keep what was made stays
+// files that name none, and runs of blanks as wide as it sets them. What PDFs tell in different
+// ways counts as alike: the order of letters that run to the left, brackets and their mirrors,
+// signs and the letters of their codes. With --keep what was made stays
 // in OTHER, and what lies there of the files themselves is used again. With --own only the
 // program's own pages are measured, against the PDFs that lie in OTHER: that takes a minute. Needs
 // soffice, and pdftotext and pdftohtml of poppler.

@@ -41,16 +41,21 @@ QSizeF paperOf(const QByteArray& rtf) {
 constexpr char16_t SixthOfEm = 0x2006;
 
 void widenRunsOfBlanks(QTextDocument& document) {
+    constexpr double PixelsPerPoint = 96.0 / 72;
+    constexpr double Share = 1.0 / 6; // of the size
     QTextCursor cursor(&document);
-    for (int at = document.characterCount() - 1; at >= 0; --at) {
-        const auto isBlank = [&](int place) { return document.characterAt(place) == u' '; };
+    const auto isBlank = [&](int at) { return document.characterAt(at) == u' '; };
+    for (int at = 0; at < document.characterCount(); ++at) {
         if (!isBlank(at) || (!isBlank(at - 1) && !isBlank(at + 1)))
             continue;
         cursor.setPosition(at);
         cursor.setPosition(at + 1, QTextCursor::KeepAnchor);
         const QTextCharFormat format = cursor.charFormat();
-        cursor.setPosition(at);
-        cursor.insertText(QString(QChar(SixthOfEm)), format);
+        QTextCharFormat wide;
+        wide.setFontLetterSpacingType(QFont::AbsoluteSpacing);
+        wide.setFontLetterSpacing(format.fontLetterSpacing() +
+                                  format.fontPointSize() * PixelsPerPoint * Share);
+        cursor.mergeCharFormat(wide);
     }
 }
 

@@ -7,6 +7,7 @@
 #include <QProcess>
 #include <QXmlStreamReader>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -57,6 +58,38 @@ bool goOn(Piece& piece, const Piece& next) {
     return false;
 }
 
+/// Words that run from right to left stand in a PDF in pieces of any length and in any order. On
+/// their lines, what touches is one word, wherever it stands in the PDF.
+void joinAlongLines(QList<Piece>& pieces) {
+    constexpr double Touching = 0.3;
+    constexpr double OneLine = 1; // marks of another font stand a little higher
+    const auto runsLeft = [](QChar c) {
+        return c.direction() == QChar::DirR || c.direction() == QChar::DirAL;
+    };
+    const auto byPlace = [](const Piece* one, const Piece* other) {
+        return one->word.corner.x() < other->word.corner.x();
+    };
+    for (qsizetype first = 0; first < pieces.size(); ++first) {
+        const Word here = pieces[first].word;
+        if (std::none_of(here.text.cbegin(), here.text.cend(), runsLeft))
+            continue;
+        QList<Piece*> line;
+        for (Piece& piece : pieces)
+            if (!piece.word.text.isEmpty() && piece.word.page == here.page &&
+                std::abs(piece.word.corner.y() - here.corner.y()) < OneLine)
+                line.append(&piece);
+        std::sort(line.begin(), line.end(), byPlace);
+        for (qsizetype i = line.size() - 1; i > 0; --i) {
+            if (line[i]->word.corner.x() - line[i - 1]->right >= Touching)
+                continue;
+            line[i - 1]->word.text += line[i]->word.text;
+            line[i - 1]->right = std::max(line[i - 1]->right, line[i]->right);
+            line[i]->word.text.clear();
+        }
+    }
+    pieces.removeIf([](const Piece& piece) { return piece.word.text.isEmpty(); });
+}
+
 void readPlaces(const QByteArray& xml, PdfText& text) {
     QXmlStreamReader reader(xml);
     QList<Piece> pieces;
@@ -77,6 +110,7 @@ void readPlaces(const QByteArray& xml, PdfText& text) {
             pieces.append(found);
         }
     }
+    joinAlongLines(pieces);
     for (const Piece& piece : std::as_const(pieces))
         text.words.append(piece.word);
 }

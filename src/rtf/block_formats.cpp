@@ -70,6 +70,13 @@ void setKept(QTextBlockFormat& block, const ParagraphFormat& format, const Names
         block.setProperty(KeptAtStart, names.keptAt(format.anchors));
     if (format.section != NothingKept)
         block.setProperty(KeptOfSection, names.keptAt(format.section));
+    if (format.box != NothingKept) {
+        block.setProperty(KeptBox, names.keptAt(format.box));
+        if (format.boxAhead)
+            block.setProperty(BoxAhead, true);
+    }
+    if (format.goesOn)
+        block.setProperty(GoesOnBehindBox, true);
     if (format.kept == NothingKept)
         return;
     const QString kept = names.keptAt(format.kept);
@@ -99,8 +106,11 @@ QTextBlockFormat blockFormat(const ParagraphFormat& format, const Names& names, 
     }
     if (format.rightToLeft)
         block.setLayoutDirection(Qt::RightToLeft);
-    if (format.pageBreakBefore)
+    if (format.pageBreakBefore) {
         block.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+        if (format.pageWord != PageWord::OfParagraph)
+            block.setProperty(PageBreakWord, int(format.pageWord));
+    }
     placeParagraph(block, format, defaultTab);
     if (format.before != 0)
         block.setTopMargin(pixels(format.before));
@@ -117,6 +127,9 @@ ParagraphFormat paragraphFormat(const QTextBlockFormat& format, const QTextList*
     result.alignment = alignmentOf(format);
     result.rightToLeft = format.layoutDirection() == Qt::RightToLeft;
     result.pageBreakBefore = format.pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore;
+    if (result.pageBreakBefore)
+        result.pageWord = static_cast<PageWord>(
+            std::clamp(format.intProperty(PageBreakWord), 0, int(PageWord::Between)));
     const Indents indents = indentsOf(format, list, indentWidth);
     result.left = indents.left;
     result.first = indents.first;
@@ -134,6 +147,9 @@ ParagraphFormat paragraphFormat(const QTextBlockFormat& format, const QTextList*
     result.stated = format.intProperty(StatedOfParagraph);
     result.anchors = names.kept(format.stringProperty(KeptAtStart));
     result.section = names.kept(format.stringProperty(KeptOfSection));
+    result.box = names.kept(format.stringProperty(KeptBox));
+    result.boxAhead = format.boolProperty(BoxAhead);
+    result.goesOn = format.boolProperty(GoesOnBehindBox);
     if (list)
         result.list = labelOf(*list);
     return result;

@@ -36,8 +36,17 @@ void BodyWriter::expect(const KeptParts& parts, const QString& shownFamily) {
 }
 
 void BodyWriter::beginParagraph(const ParagraphFormat& paragraph, int number) {
+    const bool breaks = paragraph.pageBreakBefore && paragraph.pageWord != PageWord::OfParagraph;
+    const bool between = breaks && paragraph.pageWord == PageWord::Between && m_paragraphEnds &&
+                         paragraph.section == NothingKept && paragraph.box == m_box;
+    if (between) {
+        m_paragraphEnds = false;
+        m_out.structure("\\page\r\n");
+    }
     goTo(paragraph);
-    m_paragraphs.begin(paragraph, number);
+    m_pageBreaks = breaks && !between;
+    if (!m_goesOn)
+        m_paragraphs.begin(paragraph, number);
     m_mark = paragraph.mark;
     m_rowEnds = false;
     writeAnchors(paragraph.anchors);
@@ -239,12 +248,24 @@ void BodyWriter::writeAnchors(int anchors) {
     if (anchors == NothingKept)
         return;
     const QString kept = names().keptAt(anchors);
+    // Some readers take raised text ahead of a note's number for a number of its own.
+    if (m_format.script == Script::Super && kept.contains(u"\\chftn}")) {
+        m_out.word(scriptWord(Script::Normal));
+        m_format.script = Script::Normal;
+    }
     writeKept(m_out, m_tables, QStringView(kept).sliced(kept.indexOf(NumberEnd) + 1));
+}
+
+/// Behind the look of what follows: many readers set the line that the break ends in it.
+void BodyWriter::breakPage() {
+    if (std::exchange(m_pageBreaks, false))
+        m_out.word("\\page");
 }
 
 void BodyWriter::text(QStringView text, const CharFormat& format) {
     m_paragraphIsEmpty = false;
     change(format);
+    breakPage();
     if (m_symbols == SymbolFont::None)
         m_out.text(text);
     else
@@ -258,7 +279,8 @@ void BodyWriter::picture(const Picture& picture, const CharFormat& format) {
     CharFormat own = format;
     own.hidden = picture.hidden;
     change(own);
-    if (!picture.bytes.isEmpty())
+    breakPage();
+    if (!picture.bytes.isEmpty() && !framed(picture))
         m_out.structure(pictureGroups(picture));
     writeAnchors(format.anchors);
 }
@@ -272,11 +294,15 @@ void BodyWriter::endParagraph(const CharFormat* mark) {
     if (!mark)
         atEnd.script = Script::Normal;
     change(atEnd);
+    breakPage();
     m_paragraphEnds = true;
 }
 
 /// Ends the paragraph ahead, and the section if another one begins.
 void BodyWriter::goTo(const ParagraphFormat& paragraph) {
+    m_goesOn = false;
+    if (goToBox(paragraph))
+        return;
     if (paragraph.section == NothingKept) {
         endLastParagraph();
     } else {
@@ -284,37 +310,6 @@ void BodyWriter::goTo(const ParagraphFormat& paragraph) {
         m_paragraphs.forget();
     }
     m_paragraphIsEmpty = true;
-}
-
-void BodyWriter::beginRow(int row, const ParagraphFormat& first) {
-    goTo(first);
-    m_rowEnds = false;
-    m_out.structure(kept(names().keptAt(row)));
-    m_paragraphs.forget();
-}
-
-void BodyWriter::beginCell(int shape, int anchors) {
-    endLastParagraph();
-    m_mark = NothingKept;
-    writeKept(m_out, m_tables, names().keptAt(shape));
-    writeAnchors(anchors);
-    m_paragraphs.forget();
-}
-
-void BodyWriter::endCell(const CharFormat& look) {
-    CharFormat unlinked = look;
-    unlinked.link = NoName;
-    unlinked.field = NothingKept;
-    change(unlinked);
-    m_out.structure("\\cell\r\n");
-}
-
-void BodyWriter::endRow() {
-    m_rowEnds = true;
-    m_paragraphEnds = false;
-    m_mark = NothingKept;
-    m_out.structure("\\cell\\row\r\n");
-    m_paragraphs.forget();
 }
 
 void BodyWriter::endLastParagraph() {
@@ -351,6 +346,8 @@ QByteArray BodyWriter::kept(QStringView text) {
 }
 
 QByteArray BodyWriter::file(int defaultTab, const KeptParts& parts) {
+    if (m_box != NothingKept)
+        closeBox();
     endLastParagraph();
     // What is kept may name fonts and colours that the text has not.
     const QByteArray styles = kept(parts.styles);

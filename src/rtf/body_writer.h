@@ -59,6 +59,12 @@ private:
     /// What is kept, on lines of its own.
     QByteArray kept(QStringView text);
     void endLastParagraph();
+    void breakPage();
+    bool goToBox(const ParagraphFormat& paragraph);
+    void openBox(const ParagraphFormat& paragraph);
+    void closeBox();
+    bool goesOn(const ParagraphFormat& paragraph) const;
+    bool framed(const Picture& picture);
     void goTo(const ParagraphFormat& paragraph);
     void beginSection(QStringView text);
     void change(const CharFormat& format);
@@ -89,12 +95,24 @@ private:
     };
     std::array<Look, 2> m_lookBefore; ///< a link or field that is open
     size_t m_openGroups = 0;
+    /// What stands around a text box.
+    struct Around {
+        Look look;
+        ParagraphFormat paragraph;
+        int mark = NothingKept;
+        bool paragraphEnds = false;
+        bool paragraphIsEmpty = true;
+    };
+    Around m_around;
+    int m_box = NothingKept;      ///< that is open
+    bool m_goesOn = false;        ///< the paragraph, which stands behind a box in it
     int m_unnamedFamily = NoName; ///< of text that names no font
     SymbolFont m_symbols = SymbolFont::None;
     bool m_paragraphEnds = false; ///< and the word for it is still to come
     bool m_paragraphIsEmpty = true;
-    bool m_rowEnds = false;   ///< and nothing has come since
-    int m_mark = NothingKept; ///< how the paragraph's mark looks, if other than its text
+    bool m_pageBreaks = false; ///< ahead of the text that comes next
+    bool m_rowEnds = false;    ///< and nothing has come since
+    int m_mark = NothingKept;  ///< how the paragraph's mark looks, if other than its text
 };
 
 } // namespace orvalis::rtf

@@ -87,6 +87,7 @@ enum class Action : quint8 {
     PassThrough, ///< an ignorable group whose content is shown
     UnicodePair,
     UnicodeHalf,
+    ShapeGroup,
     ShapeInstruction,
     ShapeText,
     ShapeProperty,

@@ -215,7 +215,9 @@ void DocumentSink::countTabs(const QTextBlockFormat& format) {
 }
 
 void DocumentSink::end(const ParagraphFormat& paragraph, const CharFormat& mark) {
-    if (!m_runs.empty())
+    // What is kept of a place needs one, where a document has no text.
+    const bool onlyAnchors = m_paragraphs == 0 && m_intoNothing && paragraph.anchors != NothingKept;
+    if (!m_runs.empty() || onlyAnchors)
         insertParagraph(paragraph, mark);
     if (m_paragraphs <= 1 || !m_targetStands)
         return;

@@ -75,12 +75,27 @@ enum FormatProperty : int {
     KeptAnchors,
     /// Of a block format: the same, ahead of the paragraph's first character.
     KeptAtStart,
+    /// Of a block format that begins a page: how the file tells of that (int, a PageWord,
+    /// OfParagraph when absent).
+    PageBreakWord,
     /// Of a character format: the tab ends a cell of a table, and this shapes the paragraph in it
     /// (QString, the same).
     CellShape,
     /// Of a block format: what a file says of the row that the paragraph is of (QString, the same).
     /// Its cells are written as such where all of them are there, as text with tabs otherwise.
     TableRow,
+    /// Of a block format: the paragraph stands in a text box, and this is the frame of it, with a
+    /// word where its text goes (QString, its number, U+0003 and the same). Adjoining paragraphs of
+    /// one value stand in one box.
+    KeptBox,
+    /// Of such a format: the box belongs to the paragraph behind it, not to the one ahead (bool).
+    BoxAhead,
+    /// Of a block format: the paragraph goes on that stands ahead of the box (bool). It means
+    /// nothing where no box stands ahead.
+    GoesOnBehindBox,
+    /// Of an image format: the frame of the shape that is the picture (QString, as that of a box,
+    /// but without a number).
+    PictureFrame,
     /// Of a block format: the row begins with the paragraph (bool).
     RowBegins,
     /// Of a character format: the field that shows the text (QString, its number, U+0003 and its

@@ -120,6 +120,13 @@ struct CharFormat {
 
 size_t qHash(const CharFormat& format, size_t seed = 0) noexcept;
 
+/// How a file tells that a paragraph begins a page.
+enum class PageWord : quint8 {
+    OfParagraph, ///< by the paragraph's shape
+    InFront,     ///< by a break ahead of its text
+    Between,     ///< by a break that ends the paragraph ahead as well
+};
+
 /// What fills the space of a tab.
 enum class TabLeader : quint8 { None, Dots, MiddleDots, Hyphens, Underline, ThickLine, Equals };
 
@@ -181,7 +188,8 @@ struct ParagraphFormat {
     Alignment alignment = Alignment::Left;
     bool rightToLeft = false;
     bool pageBreakBefore = false;
-    bool lineMultiple = false; ///< line spacing counts in 240ths of a line
+    PageWord pageWord = PageWord::OfParagraph; ///< if it begins a page
+    bool lineMultiple = false;                 ///< line spacing counts in 240ths of a line
     int left = 0;
     int first = 0; ///< of the first line, relative to left
     int right = 0;
@@ -195,6 +203,9 @@ struct ParagraphFormat {
     int mark = NothingKept;    ///< of a list item: its mark's look, where its text has another
     bool inTable = false;      ///< the paragraph is written as one of a cell
     int section = NothingKept; ///< what the file says of the section that begins here
+    int box = NothingKept;     ///< the text box that the paragraph stands in
+    bool boxAhead = false;     ///< of the paragraph that follows, and not behind the text ahead
+    bool goesOn = false;       ///< behind a box, with the paragraph that the box stands in
     int stated = 0;            ///< what the file says, as in CharFormat
     QList<TabStop> tabs;
     ListLabel list;

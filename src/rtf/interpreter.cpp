@@ -126,6 +126,8 @@ bool Interpreter::closeGroup() {
     const bool owned = m_state.ownsDestination;
     if (closed == Destination::Body && m_groups.size() == m_fieldDepth)
         showFieldText();
+    if (m_groups.size() == m_boxDepth)
+        endBox();
     m_state = std::move(m_groups.back());
     m_groups.pop_back();
     if (owned)

@@ -59,7 +59,9 @@ private:
         int listOverride = 0;
         int listLevel = 0;
         int fieldsAround = 0;
-        int keptOfChars = 0; ///< sets of m_kept
+        int box = NothingKept;   ///< the frame of the text box that the group is, or stands in
+        int frame = NothingKept; ///< of the shape that shows a picture
+        int keptOfChars = 0;     ///< sets of m_kept
         int keptOfParagraph = 0;
         const ControlWord* border = nullptr;  ///< the one that was named last
         const ControlWord* script = nullptr;  ///< the same
@@ -72,6 +74,7 @@ private:
         bool inTable = false;
         bool nested = false; ///< words for rows are of a table in a cell
         bool indexEntry = false;
+        bool inShape = false;
         bool fallback = false; ///< pictures are other forms of the one that came last
         bool hasContent =
             false; ///< text or groups, so that it cannot become a destination any more
@@ -99,6 +102,7 @@ private:
     void prepareText();
     void flushText();
     void paragraphEnd();
+    void pageEnd();
     const ParagraphFormat& shapedParagraph();
     int lookOfParagraphMark();
     bool shows() const;
@@ -151,6 +155,13 @@ private:
     void tellFirstSection();
     QString sectionText() const;
     void tellKept();
+
+    // Shapes (interpreter_shapes.cpp)
+    void keepShape(const Token& token);
+    void beginBox();
+    void endBox();
+    bool endsBehindBox();
+    void shapeBesideBox();
 
     // Pictures (interpreter_pictures.cpp)
     bool pictureWord(const Token& token);
@@ -217,6 +228,14 @@ private:
     bool m_rowEnds = false;
     bool m_inParagraph = false;
     bool m_pageBreak = false;
+    PageWord m_pageWord = PageWord::InFront;
+    int m_shapes = 0;      ///< that are kept
+    size_t m_boxDepth = 0; ///< of the groups, where the text of a box stands
+    bool m_boxHasParagraph = false;
+    bool m_boxBehind = false; ///< text of the paragraph that it stands in
+    bool m_boxEnded = false;  ///< and the paragraph has not
+    QString m_anchorsAround;  ///< what comes with the paragraph that has the box ahead
+    bool m_pageBreakAround = false;
     QString m_label;
     SymbolFont m_labelSymbols = SymbolFont::None; ///< that its font is
     ListKind m_lastListKind = ListKind::None;

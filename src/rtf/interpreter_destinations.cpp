@@ -109,6 +109,10 @@ bool Interpreter::destinationWord(const Token& token) {
         if (m_state.destination == Destination::UnicodePair)
             openDestination(Destination::Body);
         return true;
+    case Action::ShapeGroup:
+        if (inBody)
+            keepShape(token);
+        return true;
     case Action::ShapeInstruction:
         // A group of shapes holds further ones in its own instruction.
         if (m_state.destination == Destination::Shape)
@@ -117,10 +121,12 @@ bool Interpreter::destinationWord(const Token& token) {
             openInBody(Destination::Shape);
         return true;
     case Action::ShapeText:
-        if (m_state.destination == Destination::Shape || inBody)
+        if (m_state.destination == Destination::Shape || inBody) {
             openDestination(Destination::Body);
-        else
+            beginBox();
+        } else {
             skipGroup();
+        }
         return true;
     case Action::ShapeProperty:
         if (m_state.destination != Destination::Shape)

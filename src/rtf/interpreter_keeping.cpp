@@ -221,7 +221,7 @@ void Interpreter::anchor(const QString& kept) {
 
 /// What was gathered so far belongs to the section that ends; its words go on to hold.
 void Interpreter::sectionEnd() {
-    const bool paragraphEndedItself = !m_inParagraph;
+    const bool paragraphEndedItself = !m_inParagraph && !std::exchange(m_boxEnded, false);
     if (m_inParagraph)
         paragraphEnd();
     m_paragraphBeforeSection = paragraphEndedItself;

@@ -76,6 +76,7 @@ void Interpreter::deliverPicture() {
     cellTabs(m_cellsEnded.size());
     flushText();
     m_textFormat = m_state.chars;
+    m_picture.frame = m_names.keptAt(m_state.frame);
     if (m_sink.picture(m_picture, told(m_state.chars)))
         m_inParagraph = true;
     else

@@ -206,11 +206,8 @@ bool Interpreter::paragraphWord(const Token& token) {
             sectionEnd();
         return true;
     case Action::PageEnd:
-        if (inBody) {
-            if (m_inParagraph)
-                paragraphEnd();
-            m_pageBreak = true;
-        }
+        if (inBody)
+            pageEnd();
         return true;
     default:
         return false;

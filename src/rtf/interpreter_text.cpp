@@ -238,18 +238,31 @@ void Interpreter::flushText() {
 }
 
 void Interpreter::paragraphEnd() {
+    if (endsBehindBox())
+        return;
     cellTabs(m_cellsEnded.size());
     flushText();
     const ParagraphFormat& paragraph = shapedParagraph();
     m_sink.paragraphEnd(paragraph, told(m_state.chars));
     m_inRow = paragraph.row != NothingKept && !m_rowEnds;
     m_rowEnds = false;
+    m_boxEnded = false;
+    m_boxHasParagraph = true;
     m_inParagraph = false;
     m_pageBreak = false;
     m_sectionBegins = false;
     m_anchorsAtStart.clear();
     m_label.clear();
     askForRoom();
+}
+
+void Interpreter::pageEnd() {
+    const bool between = m_inParagraph || std::exchange(m_boxEnded, false);
+    if (m_inParagraph)
+        paragraphEnd();
+    if (!m_pageBreak)
+        m_pageWord = between ? PageWord::Between : PageWord::InFront;
+    m_pageBreak = true;
 }
 
 /// Many programs show the label of a list item in the look of its paragraph's mark.
@@ -271,13 +284,17 @@ int Interpreter::lookOfParagraphMark() {
 
 const ParagraphFormat& Interpreter::shapedParagraph() {
     const bool ofRow = (m_rowEnds || m_state.inTable) && row() != NothingKept;
+    const bool besideBox = m_boxDepth > 0 || m_boxEnded;
     if (!ofRow && m_state.listOverride == 0 && m_label.isEmpty() && !m_pageBreak &&
-        !m_sectionBegins && m_anchorsAtStart.isEmpty()) {
+        !m_sectionBegins && m_anchorsAtStart.isEmpty() && !besideBox) {
         m_lastListKind = m_state.paragraph.list.kind;
         return m_state.paragraph;
     }
     m_shaped = m_state.paragraph;
-    m_shaped.pageBreakBefore |= m_pageBreak;
+    if (m_pageBreak) {
+        m_shaped.pageBreakBefore = true;
+        m_shaped.pageWord = m_pageWord;
+    }
     if (ofRow) {
         m_shaped.row = row();
         m_shaped.rowBegins = !m_inRow;
@@ -297,6 +314,8 @@ const ParagraphFormat& Interpreter::shapedParagraph() {
     m_lastListKind = m_shaped.list.kind;
     if (list.kind != ListKind::None && m_inParagraph)
         m_shaped.mark = lookOfParagraphMark();
+    if (besideBox)
+        shapeBesideBox();
     return m_shaped;
 }
 

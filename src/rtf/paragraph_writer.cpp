@@ -157,7 +157,7 @@ void ParagraphWriter::geometry(const ParagraphFormat& paragraph) {
         m_out.word("\\rtlpar");
     else if (isStated(stated::Direction))
         m_out.word("\\ltrpar");
-    if (paragraph.pageBreakBefore)
+    if (paragraph.pageBreakBefore && paragraph.pageWord == PageWord::OfParagraph)
         m_out.word("\\pagebb");
     else if (isStated(stated::PageBreak))
         m_out.word("\\pagebb", 0);

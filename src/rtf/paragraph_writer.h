@@ -20,6 +20,8 @@ public:
     void begin(const ParagraphFormat& paragraph, int number);
     /// The next paragraph tells its whole shape.
     void forget() { m_any = false; }
+    /// The paragraph that was begun last.
+    const ParagraphFormat& last() const { return m_last; }
     /// Indents, spacing, alignment and tab stops.
     void geometry(const ParagraphFormat& paragraph);
 

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QSizeF>
+#include <QString>
 
 namespace orvalis::rtf {
 
@@ -52,7 +53,8 @@ struct Picture {
     bool hidden = false; ///< of one that a document holds: it does not show
     QByteArray bytes;
     QByteArray
-        fallback; ///< of one that a document holds: a metafile for readers that cannot draw it
+        fallback;  ///< of one that a document holds: a metafile for readers that cannot draw it
+    QString frame; ///< of one that is a shape: what is kept of that
 };
 
 /// A size of which no side is longer than what a document can hold, in the shape it had.

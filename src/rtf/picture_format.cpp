@@ -121,6 +121,7 @@ Picture sourceOf(const QTextImageFormat& format) {
     }
     picture.fallback = format.property(PictureFallback).toByteArray();
     picture.hidden = format.hasProperty(HiddenPictureSize);
+    picture.frame = format.stringProperty(PictureFrame);
     return picture;
 }
 
@@ -157,6 +158,8 @@ QTextImageFormat pictureFormat(QTextDocument& document, const Picture& picture,
     format.setProperty(PictureSourceSize, sourceSize(picture));
     if (shown.isBox)
         format.setProperty(PictureIsBox, true);
+    if (!picture.frame.isEmpty())
+        format.setProperty(PictureFrame, picture.frame);
     return format;
 }
 

@@ -120,6 +120,10 @@ QByteArray metafileGroup(const Picture& picture, const QByteArray& metafile) {
 
 } // namespace
 
+QByteArray pictureOfShape(const Picture& picture) {
+    return isStrange(picture) ? QByteArray() : ownGroup(picture);
+}
+
 QByteArray pictureGroups(const Picture& picture) {
     const QByteArray own = ownGroup(picture);
     const QByteArray first = firstForm(picture, own);

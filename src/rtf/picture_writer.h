@@ -10,4 +10,7 @@ namespace orvalis::rtf {
 /// that know only those.
 QByteArray pictureGroups(const Picture& picture);
 
+/// The group of a picture that is part of a shape; none of one that other readers could not take.
+QByteArray pictureOfShape(const Picture& picture);
+
 } // namespace orvalis::rtf

@@ -27,7 +27,8 @@ int writtenAnyway(const ParagraphFormat& paragraph) {
     const auto unless = [&bits](bool usual, int bit) { bits |= usual ? 0 : bit; };
     unless(paragraph.alignment == Alignment::Left, stated::Alignment);
     unless(!paragraph.rightToLeft, stated::Direction);
-    unless(!paragraph.pageBreakBefore, stated::PageBreak);
+    const bool ofShape = paragraph.pageWord == PageWord::OfParagraph;
+    unless(!paragraph.pageBreakBefore || !ofShape, stated::PageBreak);
     unless(paragraph.left == 0, stated::Left);
     unless(paragraph.first == 0, stated::First);
     unless(paragraph.right == 0, stated::Right);
@@ -107,8 +108,8 @@ private:
         int end = position;
         for (QTextBlock block = first; block.isValid(); block = block.next()) {
             const ParagraphFormat& line = shape(block);
-            if (count > 0 &&
-                (line.row == NothingKept || line.rowBegins || line.section != NothingKept))
+            if (count > 0 && (line.row == NothingKept || line.rowBegins ||
+                              line.section != NothingKept || line.box != begin.box))
                 break;
             row = line.row;
             marks += marksIn(block);
@@ -160,6 +161,8 @@ private:
         own.section = NothingKept;
         own.row = NothingKept;
         own.rowBegins = false;
+        if (own.pageWord != PageWord::OfParagraph)
+            own.pageBreakBefore = false;
         std::vector<int> shapes;
         for (auto it = block.begin(); !it.atEnd(); ++it)
             if (const QTextFragment run = it.fragment(); endsCells(run))

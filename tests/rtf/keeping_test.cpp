@@ -72,6 +72,10 @@ void KeepingTest::whatIsNotShownIsKept_data() {
     row("facing pages", "\\facingp\\gutter300\\margmirror\\pgnstart7 word\\par",
         "\\gutter300\\facingp\\margmirror\\pgnstart7\r\n");
     row("hyphenation", "\\hyphauto1\\hyphhotz425 word\\par", "\\hyphauto1\\hyphhotz425\r\n");
+    row("compatibility", "\\dntblnsbdb\\hyphauto1\\dghspace180\\jexpand word\\par",
+        "\\hyphauto1\\dntblnsbdb\\jexpand\\dghspace180\r\n");
+    row("sections that are not locked", "\\sectd\\sectunlocked1\\cols2 word\\par",
+        "\\sectd\\cols2\\sectunlocked\r\n");
     row("language of the document", "\\deflang1031 word\\par", "\\deff0\\deflang1031{");
     row("section", "\\sectd\\sbkpage\\cols2\\colsx708\\titlepg\\headery709 word\\par",
         "\\sectd\\sbkpage\\headery709\\titlepg\\cols2\\colsx708\r\n");
@@ -95,6 +99,15 @@ void KeepingTest::whatIsNotShownIsKept_data() {
         "deed\\par\r\n\\pard{\\footnote\\f0 below}\\par");
     row("footnote behind two units", "\\u-10179?\\u-9047?{\\footnote\\f0 below} word\\par",
         "\\u-10179?\\u-9047?{\\footnote\\f0 below} deed\\par");
+    row("footnote behind raised text", "{\\super word}{\\super\\chftn}{\\footnote\\f0 below}\\par",
+        "\\super\\f0\\fs24 deed\\nosupersub{\\super\\chftn}{\\footnote\\f0 below}\\par");
+    row("break of a page ahead of a paragraph", "a\\par\\page word\\par",
+        "a\\par\r\n\\pard\\page deed\\par");
+    row("break of a page within a paragraph", "a\\page word\\par", "a\\page\r\n\\pard deed\\par");
+    row("paragraph that begins a page", "a\\par\\pagebb word\\par",
+        "a\\par\r\n\\pard\\pagebb deed\\par");
+    row("break of a page ahead of a table", "a\\par\\page\\trowd\\cellx99\\intbl word\\cell\\row",
+        "a\\par\r\n\\pard\\page\\trowd\\cellx99\r\n");
     row("bookmark", "a {\\*\\bkmkstart Here}word{\\*\\bkmkend Here} b\\par",
         "a {\\*\\bkmkstart Here}deed{\\*\\bkmkend Here} b");
     row("comment",

@@ -103,8 +103,8 @@ void ReaderTextTest::everyFormOfTextIsRead_data() {
         "{\\object\\objemb{\\*\\objclass P}{\\*\\objdata 00ff}"
         "{\\result{ shown}}}",
         QStringLiteral(" shown"));
-    row("text of a shape", "{\\shp{\\*\\shpinst{\\sp{\\sn a}{\\sv b}}{\\shptxt box}}}",
-        QStringLiteral("box"));
+    row("text of a shape", "a{\\shp{\\*\\shpinst{\\sp{\\sn a}{\\sv b}}{\\shptxt box}}}b",
+        QStringLiteral("a\nbox\nb"));
     row("text of shapes in a group",
         "{\\shpgrp{\\*\\shpinst{\\sp{\\sn groupLeft}{\\sv 1}}"
         "{\\shp{\\*\\shpinst{\\sp{\\sn a}{\\sv b}}{\\shptxt one\\par}}}"

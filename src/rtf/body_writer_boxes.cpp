@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/body_writer.h"
+#include "rtf/kept_text.h"
+#include "rtf/picture_writer.h"
+#include "rtf/shape_scan.h"
+
+namespace orvalis::rtf {
+
+namespace {
+
+struct Frame {
+    QString ahead;
+    QString behind;
+};
+
+/// What is kept of a shape, ahead of what it shows and behind that.
+Frame frameOf(const QString& kept) {
+    const QLatin1StringView place(ShapePlace.data(), ShapePlace.size());
+    const qsizetype start = kept.indexOf(NumberEnd) + 1;
+    const qsizetype at = kept.indexOf(place, start);
+    if (at < 0)
+        return {};
+    return {kept.sliced(start, at - start), kept.sliced(at + place.size())};
+}
+
+} // namespace
+
+/// Leaves the text box that is open and enters the one that the paragraph stands in.
+/// \returns whether all is told that stands ahead of the paragraph.
+bool BodyWriter::goToBox(const ParagraphFormat& paragraph) {
+    if (paragraph.box == m_box)
+        return false;
+    const bool leaves = m_box != NothingKept;
+    if (leaves)
+        closeBox();
+    if (paragraph.box != NothingKept) {
+        openBox(paragraph);
+        return true;
+    }
+    m_goesOn = leaves && goesOn(paragraph);
+    if (m_goesOn)
+        m_paragraphEnds = false;
+    return m_goesOn;
+}
+
+/// Whether a paragraph behind a box is the rest of the one ahead of it, shaped as that still is.
+bool BodyWriter::goesOn(const ParagraphFormat& paragraph) const {
+    if (!paragraph.goesOn || !m_paragraphEnds || paragraph.section != NothingKept)
+        return false;
+    const auto shapeOf = [](const ParagraphFormat& whole) {
+        ParagraphFormat shape = whole;
+        shape.goesOn = false;
+        shape.pageBreakBefore = false;
+        shape.pageWord = PageWord::OfParagraph;
+        shape.anchors = shape.section = shape.mark = NothingKept;
+        shape.stated = 0;
+        shape.list = {};
+        return shape;
+    };
+    return shapeOf(paragraph) == shapeOf(m_around.paragraph);
+}
+
+void BodyWriter::openBox(const ParagraphFormat& paragraph) {
+    if (paragraph.section != NothingKept)
+        beginSection(names().keptAt(paragraph.section));
+    else if (paragraph.boxAhead)
+        endLastParagraph();
+    m_around = {
+        {m_format, m_stated}, m_paragraphs.last(), m_mark, m_paragraphEnds, m_paragraphIsEmpty};
+    m_box = paragraph.box;
+    m_mark = NothingKept;
+    m_paragraphEnds = false;
+    m_paragraphIsEmpty = true;
+    m_rowEnds = false;
+    writeKept(m_out, m_tables, frameOf(names().keptAt(m_box)).ahead);
+    plain();
+    m_paragraphs.forget();
+}
+
+/// What ends the last paragraph of a box, if anything does, is part of the frame.
+void BodyWriter::closeBox() {
+    writeKept(m_out, m_tables, frameOf(names().keptAt(m_box)).behind);
+    m_box = NothingKept;
+    m_format = m_around.look.format;
+    m_stated = m_around.look.stated;
+    m_symbols = m_tables.symbolFontOf(m_format.family);
+    m_mark = m_around.mark;
+    m_paragraphEnds = m_around.paragraphEnds;
+    m_paragraphIsEmpty = m_around.paragraphIsEmpty;
+    m_rowEnds = false;
+    m_paragraphs.forget();
+}
+
+/// Writes a picture that is a shape.
+bool BodyWriter::framed(const Picture& picture) {
+    const Frame frame = frameOf(picture.frame);
+    const QByteArray group = frame.ahead.isEmpty() ? QByteArray() : pictureOfShape(picture);
+    if (group.isEmpty())
+        return false;
+    writeKept(m_out, m_tables, frame.ahead);
+    m_out.structure(group);
+    writeKept(m_out, m_tables, frame.behind);
+    return true;
+}
+
+} // namespace orvalis::rtf

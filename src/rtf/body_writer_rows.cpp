@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/body_writer.h"
+#include "rtf/kept_text.h"
+
+namespace orvalis::rtf {
+
+void BodyWriter::beginRow(int row, const ParagraphFormat& first) {
+    goTo(first);
+    m_rowEnds = false;
+    if (first.pageBreakBefore && first.pageWord != PageWord::OfParagraph)
+        m_out.structure("\\pard\\page");
+    m_out.structure(kept(names().keptAt(row)));
+    m_paragraphs.forget();
+}
+
+void BodyWriter::beginCell(int shape, int anchors) {
+    endLastParagraph();
+    m_mark = NothingKept;
+    writeKept(m_out, m_tables, names().keptAt(shape));
+    writeAnchors(anchors);
+    m_paragraphs.forget();
+}
+
+void BodyWriter::endCell(const CharFormat& look) {
+    CharFormat unlinked = look;
+    unlinked.link = NoName;
+    unlinked.field = NothingKept;
+    change(unlinked);
+    m_out.structure("\\cell\r\n");
+}
+
+void BodyWriter::endRow() {
+    m_rowEnds = true;
+    m_paragraphEnds = false;
+    m_mark = NothingKept;
+    m_out.structure("\\cell\\row\r\n");
+    m_paragraphs.forget();
+}
+
+} // namespace orvalis::rtf

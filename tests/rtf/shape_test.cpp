@@ -1,0 +1,204 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "kept_file.h"
+#include "rtf/reader.h"
+#include "rtf/writer.h"
+#include "sample_pictures.h"
+#include "support/test_main.h"
+
+#include <QBuffer>
+#include <QGuiApplication>
+#include <QImage>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+
+using namespace orvalis;
+using namespace orvalis::rtf;
+using orvalis::test::changedAndSaved;
+using orvalis::test::file;
+using orvalis::test::withoutLineEnds;
+
+namespace {
+
+const QByteArray Frame =
+    "{\\shp{\\*\\shpinst\\shpleft10\\shpright90{\\sp{\\sn shapeType}{\\sv 202}}";
+
+QByteArray box(const QByteArray& text) {
+    return Frame + "{\\shptxt" + text + "}}}";
+}
+
+QString textOf(const QByteArray& body) {
+    QTextDocument document;
+    return readRtf(file(body), document).ok() ? document.toPlainText()
+                                              : QStringLiteral("cannot be read");
+}
+
+QByteArray saved(const QByteArray& body) {
+    return withoutLineEnds(changedAndSaved(file(body)));
+}
+
+} // namespace
+
+class ShapeTest : public QObject {
+    Q_OBJECT
+private slots:
+    void theTextOfABoxShowsAsParagraphs_data();
+    void theTextOfABoxShowsAsParagraphs();
+    void aBoxStaysWhereItStood_data();
+    void aBoxStaysWhereItStood();
+    void aPictureKeepsTheShapeThatItIs();
+    void aPictureThatOnlyFillsAShapeIsNotShown();
+    void aShapeThatShowsNothingStays();
+    void severalTextsOfOneShapeShowWithoutIt();
+    void looseTextOfAShapeIsShown();
+    void aBoxInACellIsTextOfTheCell();
+    void theFormForOldReadersIsLeftOut();
+    void aBoxThatRunsIntoTheTextAheadIsDissolved();
+    void whatComesBehindABoxLooksAsAheadOfIt();
+    void aBoxAtTheStartOfASectionStandsInIt();
+    void shapesInsideShapesCostNoMoreThanTheirBytes();
+};
+
+void ShapeTest::theTextOfABoxShowsAsParagraphs_data() {
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char* name, const QByteArray& body, const char* text) {
+        QTest::newRow(name) << body << QString::fromLatin1(text);
+    };
+    row("behind the text of a paragraph", "a" + box(" b") + "\\par c\\par", "a\nb\nc");
+    row("within it", "a" + box(" b") + "c\\par d\\par", "a\nb\nc\nd");
+    row("ahead of it", box(" b") + "a\\par c\\par", "b\na\nc");
+    row("of two paragraphs", "a" + box(" b\\par c\\par") + "\\par d\\par", "a\nb\nc\nd");
+    row("two in a row", "a" + box(" b") + box(" c") + "\\par d\\par", "a\nb\nc\nd");
+    row("ahead of a break of a page", "a" + box(" b") + "\\page c\\par", "a\nb\nc");
+}
+
+void ShapeTest::theTextOfABoxShowsAsParagraphs() {
+    QFETCH(QByteArray, body);
+    QFETCH(QString, text);
+    QCOMPARE(textOf(body), text);
+}
+
+void ShapeTest::aBoxStaysWhereItStood_data() {
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<QByteArray>("kept");
+    const QByteArray shape = Frame + "{\\shptxt\\plain\\pard\\f0";
+    const auto row = [](const char* name, const QByteArray& body, const QByteArray& kept) {
+        QTest::newRow(name) << body << kept;
+    };
+    row("behind the text of a paragraph", "word" + box(" b") + "\\par c\\par",
+        "\\f0\\fs24 deed" + shape + " b}}}\\par\\pard c\\par");
+    row("within it", "word" + box(" b") + "c\\par", "\\f0\\fs24 deed" + shape + " b}}}c\\par");
+    row("ahead of it", box(" b") + "word\\par", shape + " b}}}\\pard\\f0\\fs24 deed\\par");
+    row("of two paragraphs, both ended", "word" + box(" b\\par c\\par") + "\\par",
+        "deed" + shape + " b\\parc\\par}}}\\par");
+    row("of two paragraphs, one ended", "word" + box(" b\\par c") + "\\par",
+        "deed" + shape + " b\\parc}}}\\par");
+    row("two in a row", "word" + box(" b") + box(" c") + "\\par",
+        "deed" + shape + " b}}}" + shape + " c}}}\\par");
+    row("with a table", "word" + box("\\trowd\\cellx99\\intbl b\\cell\\row\\pard c") + "\\par",
+        "\\trowd\\cellx99\\pard\\intbl\\f0 b\\cell\\row\\pard c}}}\\par");
+    row("text in it is changed", "a" + box(" word") + "\\par", "a" + shape + " deed}}}\\par");
+    row("ahead of a break of a page", "word" + box(" b") + "\\page c\\par",
+        "deed" + shape + " b}}}\\par\\pard\\page c\\par");
+}
+
+void ShapeTest::aBoxStaysWhereItStood() {
+    QFETCH(QByteArray, body);
+    QFETCH(QByteArray, kept);
+    const QByteArray written = saved(body);
+    QVERIFY2(written.contains(kept), written.constData());
+    QCOMPARE(written.count("\\shptxt"), body.count("\\shptxt"));
+}
+
+void ShapeTest::aPictureKeepsTheShapeThatItIs() {
+    const QByteArray ahead = Frame + "{\\sp{\\sn pib}{\\sv{\\pict\\pngblip";
+    const QByteArray behind = "}}}{\\sp{\\sn dx}{\\sv 1}}}}";
+    const auto body = [&](const QByteArray& bytes) {
+        return "word" + ahead + "\\picw4\\pich3\\picwgoal60\\pichgoal45 " + bytes.toHex() + behind +
+               "b\\par";
+    };
+    QByteArray png;
+    QBuffer buffer(&png);
+    QImage(4, 3, QImage::Format_RGB32).save(&buffer, "PNG");
+    QCOMPARE(textOf(body(png)), QStringLiteral("word\ufffcb"));
+    const QByteArray written = saved(body(png));
+    QVERIFY2(written.contains("deed" + ahead), written.constData());
+    QVERIFY2(written.contains(png.last(4).toHex() + behind + "b\\par"), written.constData());
+    // What no other program could read would cost it the whole shape.
+    const QByteArray strange = saved(body("strange"));
+    QVERIFY2(strange.contains("deed{\\*\\orvpict{\\pict"), strange.constData());
+}
+
+void ShapeTest::aPictureThatOnlyFillsAShapeIsNotShown() {
+    const QByteArray shape = Frame + "{\\sp{\\sn fillBlip}{\\sv{\\pict\\pngblip 89504e47}}}}}";
+    QCOMPARE(textOf("a" + shape + "b"), QStringLiteral("ab"));
+    QVERIFY(saved(" word" + shape + "\\par").contains("deed" + shape + "\\par"));
+}
+
+void ShapeTest::aShapeThatShowsNothingStays() {
+    const QByteArray line = Frame + "}}";
+    QCOMPARE(textOf("a" + line + "b"), QStringLiteral("ab"));
+    QVERIFY(saved(" word" + line + "b\\par").contains("deed" + line + "b\\par"));
+    QTextDocument alone;
+    readRtf(file(line), alone);
+    QVERIFY(withoutLineEnds(writeRtf(alone)).contains(line));
+}
+
+void ShapeTest::severalTextsOfOneShapeShowWithoutIt() {
+    const QByteArray group =
+        "{\\shpgrp{\\*\\shpinst{\\sp{\\sn a}{\\sv 1}}" + box(" b\\par") + box(" c") + "}}";
+    QCOMPARE(textOf("a" + group), QStringLiteral("ab\nc"));
+}
+
+void ShapeTest::looseTextOfAShapeIsShown() {
+    QCOMPARE(textOf("a{\\shp b{\\*\\shpinst}}"), QStringLiteral("ab"));
+}
+
+void ShapeTest::aBoxInACellIsTextOfTheCell() {
+    QCOMPARE(textOf("\\trowd\\cellx99\\cellx200\\intbl a" + box(" b") + "\\cell c\\cell\\row"),
+             QStringLiteral("ab\tc"));
+}
+
+void ShapeTest::theFormForOldReadersIsLeftOut() {
+    const QByteArray old = "{\\shprslt{\\*\\do{\\dptxbxtext b}}}";
+    const QByteArray written = saved("word" + box(" b").chopped(1) + old + "}\\par");
+    QVERIFY2(written.contains(" b}}}\\par"), written.constData());
+    QVERIFY(!written.contains("shprslt"));
+}
+
+void ShapeTest::aBoxThatRunsIntoTheTextAheadIsDissolved() {
+    QTextDocument document;
+    readRtf(file("a" + box(" b") + "\\par"), document);
+    QTextCursor cursor(document.firstBlock().next());
+    cursor.deletePreviousChar();
+    QCOMPARE(document.toPlainText(), QStringLiteral("ab"));
+    QVERIFY(!writeRtf(document).contains("\\shp"));
+}
+
+void ShapeTest::whatComesBehindABoxLooksAsAheadOfIt() {
+    const QByteArray written = saved("\\b word" + box("\\i b") + "c\\par d\\par");
+    QVERIFY2(written.contains("\\b\\f0\\fs24 deed"), written.constData());
+    QVERIFY2(written.contains("\\b\\i\\f0 b}}}c\\par\\pard d\\par"), written.constData());
+}
+
+void ShapeTest::aBoxAtTheStartOfASectionStandsInIt() {
+    const QByteArray written = saved("a\\par\\sect\\sectd\\cols2" + box(" b") + "word\\par");
+    QVERIFY2(written.contains("\\sect\\sectd\\cols2" + Frame), written.constData());
+    QVERIFY2(written.contains("}}}\\pard\\f0\\fs24 deed\\par"), written.constData());
+}
+
+void ShapeTest::shapesInsideShapesCostNoMoreThanTheirBytes() {
+    constexpr int Depth = 3000;
+    QByteArray deep;
+    for (int i = 0; i < Depth; ++i)
+        deep += "{\\shp{\\*\\shpinst{\\shptxt x";
+    QTextDocument document;
+    readRtf("{\\rtf1 " + deep, document);
+    QCOMPARE(document.toPlainText().count(u'x') > 1000, true);
+    QVERIFY(writeRtf(document).size() < 20 * deep.size());
+}
+
+ORVALIS_TEST_MAIN_WITH(QGuiApplication, ShapeTest)
+#include "shape_test.moc"

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/body_writer.h"
 
-#include "rtf/hyperlink.h"
 #include "rtf/kept_text.h"
 #include "rtf/look_words.h"
 #include "rtf/picture_writer.h"
@@ -25,6 +24,7 @@ BodyWriter::BodyWriter()
 
 /// The font of text that names none is the first of the table, or none of it.
 void BodyWriter::expect(const KeptParts& parts, const QString& shownFamily) {
+    m_tables.expectOdd(parts.oddFamilies);
     const bool unsaid = parts.defaultFont == DefaultFont::Unsaid;
     if (parts.defaultFont == DefaultFont::Missing || (unsaid && parts.unnamedFamily.isEmpty())) {
         m_tables.leaveOutFirstFont();
@@ -199,51 +199,6 @@ void BodyWriter::changeCapitals(Capitals capitals) {
         m_out.word(word(capitals));
 }
 
-/// The braces of a link or a field bring back what held before it.
-void BodyWriter::closeGroup() {
-    m_out.structure("}}");
-    const Look& before = m_lookBefore[m_openGroups - 1];
-    --m_openGroups;
-    m_format = before.format;
-    m_stated = before.stated;
-    m_symbols = m_tables.symbolFontOf(m_format.family);
-}
-
-void BodyWriter::openGroup() {
-    m_lookBefore[m_openGroups++] = {m_format, m_stated};
-}
-
-void BodyWriter::changeLink(int link) {
-    if (link == m_format.link)
-        return;
-    changeField(NothingKept);
-    if (m_format.link != NoName)
-        closeGroup();
-    if (link == NoName)
-        return;
-    openGroup();
-    m_out.structure("{\\field{\\*\\fldinst{");
-    m_out.text(hyperlinkInstruction(m_tables.names().linkAt(link)));
-    m_out.structure("}}");
-    m_out.word("{\\fldrslt");
-    m_format.link = link;
-}
-
-void BodyWriter::changeField(int field) {
-    if (field == m_format.field)
-        return;
-    if (m_format.field != NothingKept)
-        closeGroup();
-    if (field == NothingKept)
-        return;
-    openGroup();
-    const QString instruction = names().keptAt(field);
-    m_out.structure("{\\field");
-    writeKept(m_out, m_tables, QStringView(instruction).sliced(instruction.indexOf(NumberEnd) + 1));
-    m_out.word("{\\fldrslt");
-    m_format.field = field;
-}
-
 void BodyWriter::writeAnchors(int anchors) {
     if (anchors == NothingKept)
         return;
@@ -263,11 +218,15 @@ void BodyWriter::breakPage() {
 }
 
 void BodyWriter::text(QStringView text, const CharFormat& format) {
+    if (format.field != m_format.field && fieldShows(text, format))
+        return;
     m_paragraphIsEmpty = false;
     change(format);
     breakPage();
     if (m_symbols == SymbolFont::None)
         m_out.text(text);
+    else if (format.byNumber)
+        m_out.numbers(text);
     else
         m_out.symbols(m_symbols, text);
     writeAnchors(format.anchors);

@@ -60,6 +60,7 @@ private:
     QByteArray kept(QStringView text);
     void endLastParagraph();
     void breakPage();
+    bool fieldShows(QStringView text, const CharFormat& format);
     bool goToBox(const ParagraphFormat& paragraph);
     void openBox(const ParagraphFormat& paragraph);
     void closeBox();

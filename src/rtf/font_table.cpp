@@ -83,10 +83,24 @@ void FontTable::commit(Names& names, const CodePage& documentPage) {
             m_entry.symbols == SymbolFont::None ? &latin : &CodePage::forSymbols(m_entry.symbols);
     if (!name.isEmpty())
         m_entry.family = names.family(name);
+    if (!name.isEmpty())
+        (symbols ? m_signs : m_letters).insert(m_entry.family);
     if (m_fonts.size() >= MostNumberedFonts && !m_fonts.contains(m_number))
         return;
     m_fonts.insert(m_number, m_entry);
     ++m_version;
+}
+
+QStringList FontTable::oddFamilies(const Names& names) const {
+    QStringList odd;
+    for (const int family : m_signs)
+        if (!isSymbolFamily(names.familyAt(family)))
+            odd << names.familyAt(family);
+    for (const int family : m_letters)
+        if (!m_signs.contains(family) && isSymbolFamily(names.familyAt(family)))
+            odd << names.familyAt(family);
+    odd.sort();
+    return odd;
 }
 
 const FontTable::Font* FontTable::find(int number) const {

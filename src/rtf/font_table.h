@@ -6,6 +6,8 @@
 #include "rtf/formats.h"
 
 #include <QHash>
+#include <QSet>
+#include <QStringList>
 
 namespace orvalis::rtf {
 
@@ -36,11 +38,15 @@ public:
 
     /// Null for a number that the table does not have.
     const Font* find(int number) const;
+    /// Families that the file takes for fonts of signs, or not, where their names tell otherwise.
+    QStringList oddFamilies(const Names& names) const;
     /// Grows with every entry that is kept.
     int version() const { return m_version; }
 
 private:
     QHash<int, Font> m_fonts;
+    QSet<int> m_signs;   ///< families that are told as such
+    QSet<int> m_letters; ///< families that are told otherwise
     Font m_entry;
     QByteArray m_bytes;
     QString m_name;

@@ -99,8 +99,13 @@ enum FormatProperty : int {
     /// Of a block format: the row begins with the paragraph (bool).
     RowBegins,
     /// Of a character format: the field that shows the text (QString, its number, U+0003 and its
-    /// instruction as it is kept). Adjoining runs of one value are one field.
+    /// instruction as it is kept). Adjoining runs of one value are one field. Of a field that its
+    /// instruction alone shows, U+0003 and the text follow: where that is changed, the field is not
+    /// written.
     KeptField,
+    /// Of a character format: the file tells the text by the Unicode numbers of its characters,
+    /// though its font is one of signs (bool).
+    SignsByNumber,
     /// Of a character format: what the file says of it (int, bits of stated). What has a value that
     /// is not the default is said in any case.
     StatedOfCharacters,

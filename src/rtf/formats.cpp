@@ -12,7 +12,7 @@ size_t qHash(const CharFormat& format, size_t seed) noexcept {
         static_cast<unsigned>(format.hidden) << 27 |
         static_cast<unsigned>(format.controlMarks) << 28 |
         static_cast<unsigned>(format.doubleStrike) << 29 |
-        static_cast<unsigned>(format.shading) << 30;
+        static_cast<unsigned>(format.shading) << 30 | static_cast<unsigned>(format.byNumber) << 31;
     return qHashMulti(seed, format.family, format.link, format.halfPoints, format.raise,
                       format.spacing, format.kept, format.anchors, format.cell, format.color,
                       format.highlight, format.field, format.stated, small);

@@ -114,6 +114,7 @@ struct CharFormat {
     bool shading = false;      ///< the highlight is the characters' shading
     bool controlMarks = false; ///< marks stand for control characters
     bool hidden = false;
+    bool byNumber = false; ///< signs of a font of signs, told by their Unicode numbers
 
     bool operator==(const CharFormat&) const = default;
 };

@@ -4,6 +4,7 @@
 #include "rtf/equation_text.h"
 #include "rtf/hyperlink.h"
 #include "rtf/interpreter.h"
+#include "rtf/kept_text.h"
 #include "rtf/symbol_field.h"
 
 #include <algorithm>
@@ -89,6 +90,7 @@ bool Interpreter::destinationWord(const Token& token) {
         return true;
     case Action::Field:
         m_fieldText.clear();
+        m_ownField.clear();
         m_fieldDepth = inBody ? m_groups.size() : 0;
         if (inBody)
             keepField();
@@ -180,9 +182,12 @@ bool Interpreter::destinationWord(const Token& token) {
 void Interpreter::showFieldText() {
     m_fieldDepth = 0;
     const QString text = std::exchange(m_fieldText, {});
+    const QString field = std::exchange(m_ownField, {});
     if (text.isEmpty())
         return;
     const CharFormat around = std::exchange(m_state.chars, m_captureFormat);
+    if (!field.isEmpty())
+        m_state.chars.field = m_names.kept(field + NumberEnd + text);
     if (shows())
         append(text);
     m_state.chars = around;

@@ -90,6 +90,7 @@ QString Interpreter::lookOfMark() const {
     look.script = m_state.chars.script;
     look.stated = m_state.chars.stated;
     look.anchors = m_state.chars.anchors;
+    look.byNumber = m_state.chars.byNumber;
     if (m_text.isEmpty() || look != m_state.chars)
         return u'{' + keptLook(told(m_state.chars), m_names);
     return m_state.chars.script == Script::Super ? u"{\\super"_s : u"{\\nosupersub"_s;
@@ -152,14 +153,16 @@ void Interpreter::keepField() {
     const FieldScan scan = scanField(m_tokenizer.groupAhead());
     const bool isLink = scan.name == "HYPERLINK";
     const bool showsItself = !scan.hasResult && (scan.name == "EQ" || scan.name == "SYMBOL");
-    if (scan.instruction.isEmpty() || scan.hasStructure || isLink || showsItself)
+    if (scan.instruction.isEmpty() || scan.hasStructure || isLink)
         return;
     const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, m_defaultFont};
     const QString kept = GroupKeeper(scan.instruction, tables).kept("{\\*\\fldinst", m_keptLeft);
     m_keptLeft -= kept.size();
     if (kept.isEmpty())
         return;
-    if (scan.hasResult)
+    if (showsItself)
+        m_ownField = QString::number(++m_fields) + NumberEnd + kept;
+    else if (scan.hasResult)
         m_state.chars.field = m_names.kept(QString::number(++m_fields) + NumberEnd + kept);
     else
         anchor(u"{\\field"_s + kept + u"{\\fldrslt}}"_s);
@@ -251,6 +254,7 @@ void Interpreter::tellKept() {
     m_parts.words = m_names.keptAt(m_kept.name(m_keptOfDocument));
     m_parts.nameless = m_nameless;
     m_parts.defaultFont = defaultFont();
+    m_parts.oddFamilies = m_fonts.oddFamilies(m_names);
     const FontTable::Font* unnamed = m_defaultFontSaid ? m_fonts.find(m_defaultFont) : nullptr;
     if (unnamed && unnamed->family != NoName)
         m_parts.unnamedFamily = m_names.familyAt(unnamed->family);

@@ -207,7 +207,12 @@ void Interpreter::unicode(int code) {
         append(high ? QStringView(pair, 2) : QStringView(u"\ufffd"));
         return;
     }
+    const bool ofSigns = m_state.destination == Destination::Body &&
+                         m_state.page->symbols() != SymbolFont::None &&
+                         privateByte(char32_t(code)) == 0;
+    m_state.chars.byNumber = ofSigns;
     append(QChar::fromUcs4(char32_t(code)));
+    m_state.chars.byNumber = false;
 }
 
 void Interpreter::prepareText() {
@@ -273,6 +278,7 @@ int Interpreter::lookOfParagraphMark() {
     mark.cell = m_textFormat.cell;
     mark.script = m_textFormat.script;
     mark.stated = m_textFormat.stated;
+    mark.byNumber = m_textFormat.byNumber;
     if (mark == m_textFormat || m_keptLeft <= 0)
         return NothingKept;
     mark.script = Script::Normal;

@@ -42,6 +42,8 @@ void clearKept(QTextBlockFormat& format) {
     format.clearProperty(KeptAtStart);
     format.clearProperty(TableRow);
     format.clearProperty(RowBegins);
+    format.clearProperty(KeptBox);
+    format.clearProperty(GoesOnBehindBox);
     format.clearProperty(StatedOfParagraph);
     format.clearProperty(ParagraphMark);
 }

@@ -119,6 +119,17 @@ void RtfOutput::code(uchar byte) {
     m_needsDelimiter = false;
 }
 
+void RtfOutput::numbers(QStringView characters) {
+    for (const QChar c : characters) {
+        if (c == u'\t' || c == QChar::LineSeparator || c == QChar::ObjectReplacementCharacter) {
+            text(QStringView(&c, 1));
+            continue;
+        }
+        appendUnicode(m_bytes, c.unicode());
+        m_needsDelimiter = false;
+    }
+}
+
 void RtfOutput::symbols(SymbolFont font, QStringView characters) {
     // What the font does not have by a byte keeps its own code, which no table touches.
     for (qsizetype at = 0; at < characters.size(); ++at) {

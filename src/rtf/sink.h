@@ -5,6 +5,7 @@
 #include "rtf/formats.h"
 #include "rtf/picture.h"
 
+#include <QStringList>
 #include <QStringView>
 
 namespace orvalis::rtf {
@@ -31,6 +32,8 @@ struct KeptParts {
     bool nameless = false; ///< the file does not say what wrote it
     DefaultFont defaultFont = DefaultFont::Unknown;
     QString unnamedFamily; ///< of text that names no font; empty for that of whoever shows it
+    /// Families that are fonts of signs, or are not, where their names tell otherwise.
+    QStringList oddFamilies;
 
     bool operator==(const KeptParts&) const = default;
 };

@@ -133,6 +133,8 @@ QTextCharFormat textFormat(const CharFormat& format, const Names& names) {
     }
     if (format.field != NothingKept)
         text.setProperty(KeptField, names.keptAt(format.field));
+    if (format.byNumber)
+        text.setProperty(SignsByNumber, true);
     if (format.stated != 0)
         text.setProperty(StatedOfCharacters, format.stated);
     if (format.cell != NothingKept)
@@ -166,6 +168,7 @@ CharFormat charFormat(const QTextCharFormat& format, Names& names, const QFont& 
     result.stated = format.intProperty(StatedOfCharacters);
     result.anchors = names.kept(format.stringProperty(KeptAnchors));
     result.controlMarks = format.boolProperty(ControlMarks);
+    result.byNumber = format.boolProperty(SignsByNumber);
     result.underline = underlineOf(format);
     result.hidden = format.hasProperty(HiddenText);
     result.color = colorOf(format);

@@ -91,6 +91,7 @@ private:
         ofPart.styles = parts.styles;
         ofPart.defaultFont = parts.defaultFont;
         ofPart.unnamedFamily = parts.unnamedFamily;
+        ofPart.oddFamilies = parts.oddFamilies;
         return ofPart;
     }
 

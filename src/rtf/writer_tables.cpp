@@ -73,8 +73,13 @@ int WriterTables::font(int family) {
     return number;
 }
 
+void WriterTables::expectOdd(const QStringList& families) {
+    for (const QString& family : families)
+        m_odd.insert(m_names.family(family));
+}
+
 SymbolFont WriterTables::symbolFontOf(int family) const {
-    return rtf::symbolFontOf(m_names.familyAt(family));
+    return m_odd.contains(family) ? SymbolFont::None : rtf::symbolFontOf(m_names.familyAt(family));
 }
 
 int WriterTables::color(QRgb color) {
@@ -124,7 +129,8 @@ void WriterTables::writeFonts(RtfOutput& out) const {
     for (qsizetype number = 0; number < m_fonts.size(); ++number) {
         QString name = m_names.familyAt(m_fonts[number]);
         out.word("{\\f", m_firstFont + int(number));
-        out.word(isSymbolFamily(name) ? "\\fnil\\fcharset2" : "\\fnil\\fcharset0");
+        const bool signs = isSymbolFamily(name) != m_odd.contains(m_fonts[number]);
+        out.word(signs ? "\\fnil\\fcharset2" : "\\fnil\\fcharset0");
         name.remove(u';');
         // A reader would take the end of such a name for the script of its letters.
         if (withoutScript(name) != name) {

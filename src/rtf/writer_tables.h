@@ -5,6 +5,9 @@
 #include "rtf/formats.h"
 #include "rtf/symbol_font.h"
 
+#include <QSet>
+#include <QStringList>
+
 #include <array>
 #include <map>
 
@@ -30,6 +33,8 @@ public:
     int unusedFont() const { return m_firstFont + int(m_fonts.size()); }
     /// The number of the font that bullets are drawn in.
     int symbolFont() { return font(m_symbolFamily); }
+    /// Families that are fonts of signs, or are not, where their names tell otherwise.
+    void expectOdd(const QStringList& families);
     SymbolFont symbolFontOf(int family) const;
     /// The number of a colour; 0 is the automatic one.
     int color(QRgb color);
@@ -55,6 +60,7 @@ private:
     QHash<int, int> m_fontNumbers;
     QList<QRgb> m_colors;
     QHash<QRgb, int> m_colorNumbers;
+    QSet<int> m_odd;
     QList<ParagraphFormat> m_lists;                        ///< by their first items
     QHash<std::pair<QString, QString>, int> m_keptNumbers; ///< by list and override
     /// By identity, the indent of bullets, and the place of the labels; and the sign of bullets.

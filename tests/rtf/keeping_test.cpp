@@ -37,6 +37,9 @@ private slots:
     void aPlainNoteCarriesNothing();
     void whatEndsIsNotKept_data();
     void whatEndsIsNotKept();
+    void theFieldOfASignThatIsChangedIsText();
+    void aFontKeepsWhetherItIsOneOfSigns();
+    void signsThatAreToldByNumberStayNumbers();
     void fontsAndColoursOfAHeaderAreThoseOfTheNewTables();
     void theDefaultFontOfAHeaderStaysItsFont();
     void aHeaderInOtherLettersKeepsItsText();
@@ -101,6 +104,13 @@ void KeepingTest::whatIsNotShownIsKept_data() {
         "\\u-10179?\\u-9047?{\\footnote\\f0 below} deed\\par");
     row("footnote behind raised text", "{\\super word}{\\super\\chftn}{\\footnote\\f0 below}\\par",
         "\\super\\f0\\fs24 deed\\nosupersub{\\super\\chftn}{\\footnote\\f0 below}\\par");
+    row("sign by a field",
+        "word{\\field{\\*\\fldinst SYMBOL 65 \\\\f \"Symbol\"}{\\fldrslt\\fs20}}\\par",
+        "deed{\\field{\\*\\fldinst SYMBOL 65 \\\\f \"Symbol\"}{\\fldrslt}}\\par");
+    row("equation",
+        "word {\\field{\\*\\fldinst EQ \\\\f (1;2)}}{\\field{\\*\\fldinst EQ \\\\f (1;2)}} on\\par",
+        "deed {\\field{\\*\\fldinst EQ \\\\f (1;2)}{\\fldrslt}}"
+        "{\\field{\\*\\fldinst EQ \\\\f (1;2)}{\\fldrslt}} on\\par");
     row("break of a page ahead of a paragraph", "a\\par\\page word\\par",
         "a\\par\r\n\\pard\\page deed\\par");
     row("break of a page within a paragraph", "a\\page word\\par", "a\\page\r\n\\pard deed\\par");
@@ -202,6 +212,33 @@ void KeepingTest::whatEndsIsNotKept() {
     QVERIFY(!word.charFormat().hasProperty(CharacterSpacing));
     QVERIFY(!word.blockFormat().hasProperty(KeptOfParagraph));
     changedAndSaved(file(body));
+}
+
+void KeepingTest::theFieldOfASignThatIsChangedIsText() {
+    QTextDocument document;
+    readRtf(file("{\\field{\\*\\fldinst SYMBOL 65 \\\\f \"Symbol\"}{\\fldrslt}}\\par"), document);
+    QCOMPARE(document.toPlainText(), QStringLiteral("\u0391"));
+    QTextCursor cursor(&document);
+    cursor.movePosition(QTextCursor::End);
+    cursor.insertText(QStringLiteral("!"));
+    QVERIFY(writeRtf(document).contains("\\fs24\\u913?!\\par"));
+}
+
+void KeepingTest::aFontKeepsWhetherItIsOneOfSigns() {
+    const QByteArray written =
+        changedAndSaved("{\\rtf1{\\fonttbl{\\f0 Arial;}{\\f1\\fcharset2 Dingbats;}"
+                        "{\\f2\\fcharset0 Symbol;}{\\f3\\fcharset2 Wingdings;}}"
+                        "word{\\f1 a}{\\f2 a\\u945?_}{\\f3 a}\\par}");
+    QVERIFY2(written.contains("\\fcharset2 Dingbats;"), written.constData());
+    QVERIFY2(written.contains("\\fcharset0 Symbol;"), written.constData());
+    QVERIFY2(written.contains("\\fcharset2 Wingdings;"), written.constData());
+    QVERIFY2(written.contains(" a\\u945?_"), written.constData());
+}
+
+void KeepingTest::signsThatAreToldByNumberStayNumbers() {
+    const QByteArray written = changedAndSaved(
+        "{\\rtf1{\\fonttbl{\\f0 Arial;}{\\f1\\fcharset2 Symbol;}}word{\\f1 a\\u8721?\\'e5}\\par}");
+    QVERIFY2(written.contains("\\'61\\u8721?\\'e5"), written.constData());
 }
 
 void KeepingTest::fontsAndColoursOfAHeaderAreThoseOfTheNewTables() {

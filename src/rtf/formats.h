@@ -15,6 +15,7 @@ namespace orvalis::rtf {
 inline constexpr double TwipsPerPixel = 15.0;
 /// Size of a text that names none, in half points.
 inline constexpr int DefaultHalfPoints = 24;
+inline constexpr int LargestHalfPoints = 3276;
 /// A colour that the file leaves to whoever shows the text.
 inline constexpr QRgb AutomaticColor = 0;
 /// Index of a family or link that there is none of.

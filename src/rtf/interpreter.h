@@ -47,6 +47,16 @@ private:
         Label,
     };
 
+    /// What text of one direction has for itself.
+    struct Side {
+        int font = NoName;
+        int halfPoints = DefaultHalfPoints;
+        bool bold = false;
+        bool italic = false;
+        int stated = 0;
+        int said = 0; ///< bits of stated: what was told of this direction alone
+    };
+
     /// What a closing brace restores.
     struct Group {
         CharFormat chars;
@@ -55,6 +65,12 @@ private:
         SymbolFont symbols = SymbolFont::None; ///< that the font is
         int font = NoName; ///< number in the font table; none stands for the default font
         int fontsVersion = 0;
+        Side other;   ///< text of the other direction
+        Side told;    ///< what the kept words say of that
+        int said = 0; ///< of text of this direction
+        bool rightToLeft = false;
+        bool named = false;  ///< the direction is
+        bool parted = false; ///< the two directions are told apart
         int unicodeSkip = 1;
         int listOverride = 0;
         int listLevel = 0;
@@ -120,6 +136,13 @@ private:
     void knowWhatIsStated();
     CharFormat told(CharFormat chars) const;
     QRgb color(int index) const;
+
+    // Directions (interpreter_directions.cpp)
+    void turn(bool rightToLeft);
+    Side thisSide() const;
+    bool sideWord(const KeptCall& call);
+    void sayOfSide(int bit);
+    void tellOther();
 
     // Destinations (interpreter_destinations.cpp)
     bool destinationWord(const Token& token);

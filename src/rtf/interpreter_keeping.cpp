@@ -55,11 +55,15 @@ bool Interpreter::keptWord(const Token& token) {
         m_state.script = token.word;
         return true;
     }
+    if (!m_state.script && sideWord(call))
+        return true;
     const bool ofScript = kept.kind == KeptKind::Associate && m_state.script;
     if (ofScript || (kept.kind == KeptKind::Font && !furtherFont(call)))
         return true;
-    if (kept.kind == KeptKind::Direction)
+    if (kept.kind == KeptKind::Direction) {
         m_state.script = nullptr;
+        turn(QByteArrayView(token.word->name) == "rtlch");
+    }
     switch (kept.level) {
     case KeptLevel::Characters:
         keepCharacters(m_kept.with(m_state.keptOfChars, call));

@@ -10,9 +10,8 @@ namespace {
 
 // Limits that no page reaches, so that sums and products of lengths stay far from overflow.
 constexpr int LongestLength = 100000; // twips
-constexpr int LargestHalfPoints = 3276;
-constexpr int LargestSpacing = 2000; // twips, or quarters of a point
-constexpr int LargestRaise = 2000;   // half points
+constexpr int LargestSpacing = 2000;  // twips, or quarters of a point
+constexpr int LargestRaise = 2000;    // half points
 constexpr int MostUnicodeSkip = 255;
 constexpr qsizetype MostTabs = 32;
 
@@ -43,6 +42,7 @@ bool Interpreter::characterWord(const Token& token) {
             if (shows())
                 keepScript();
             selectFont();
+            sayOfSide(stated::Font);
             if (m_state.destination == Destination::ListTable ||
                 m_state.destination == Destination::ListOverrideTable)
                 m_lists.setLevelFont(m_state.symbols);
@@ -53,6 +53,7 @@ bool Interpreter::characterWord(const Token& token) {
         chars.halfPoints = token.hasParameter && token.parameter > 0
                                ? std::min(token.parameter, LargestHalfPoints)
                                : DefaultHalfPoints;
+        sayOfSide(stated::Size);
         return true;
     case Action::Color:
         chars.stated |= stated::Color & m_statedOfCharacters;
@@ -66,10 +67,12 @@ bool Interpreter::characterWord(const Token& token) {
     case Action::Bold:
         chars.stated |= stated::Bold & m_statedOfCharacters;
         chars.bold = isOn(token);
+        sayOfSide(stated::Bold);
         return true;
     case Action::Italic:
         chars.stated |= stated::Italic & m_statedOfCharacters;
         chars.italic = isOn(token);
+        sayOfSide(stated::Italic);
         return true;
     case Action::Strike:
         chars.stated |= stated::Strike & m_statedOfCharacters;
@@ -250,6 +253,10 @@ void Interpreter::plainCharacters() {
     m_state.keptOfChars = 0;
     m_state.script = nullptr;
     m_state.eastern = nullptr;
+    m_state.other = m_state.told = {};
+    m_state.said = 0;
+    m_state.rightToLeft = false;
+    m_state.named = m_state.parted = false;
     m_state.deleted = false;
     m_state.font = NoName;
     selectFont();

@@ -25,13 +25,16 @@ int KeptSets::with(int set, const KeptCall& call) {
         entry.side = keptOrder(*call.side) + 1;
     if (kind.kind != KeptKind::Side)
         entry.word = keptOrder(*call.word) + 1;
-    const Step step{set, entry.side, entry.word, entry.hasNumber, entry.number};
+    const Step step{set, entry.side, entry.word, entry.hasNumber, entry.number, call.removes};
     if (const auto known = m_steps.constFind(step); known != m_steps.constEnd())
         return *known;
     if (m_bytesLeft <= 0)
         return set;
     Set made{m_sets[size_t(set)].entries};
-    apply(made.entries, entry);
+    if (call.removes)
+        remove(made.entries, entry);
+    else
+        apply(made.entries, entry);
     const QString words = text(made.entries);
     made.name = m_names.kept(words);
     m_bytesLeft -= BytesOfStep;
@@ -53,6 +56,13 @@ bool isAssociate(KeptKind kind) {
 }
 
 } // namespace
+
+void KeptSets::remove(std::vector<Entry>& entries, const Entry& entry) {
+    const auto isIt = [&](const Entry& other) {
+        return other.side == entry.side && other.word == entry.word;
+    };
+    entries.erase(std::remove_if(entries.begin(), entries.end(), isIt), entries.end());
+}
 
 void KeptSets::apply(std::vector<Entry>& entries, const Entry& entry) {
     const KeptWord kind = keptWord(*entry.source);

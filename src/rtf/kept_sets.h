@@ -16,7 +16,8 @@ struct KeptCall {
     const ControlWord* word = nullptr;
     const ControlWord* side = nullptr; ///< the border that it belongs to, null for none
     bool hasNumber = false;
-    int number = 0; ///< of a colour: the QRgb
+    int number = 0;       ///< of a colour: the QRgb
+    bool removes = false; ///< what was told by the word no longer holds
 };
 
 /// Which words are kept for a run, a paragraph or whatever else they hold for.
@@ -54,13 +55,16 @@ private:
         int word;
         bool hasNumber;
         int number;
+        bool removes;
         bool operator==(const Step&) const = default;
     };
     friend size_t qHash(const Step& step, size_t seed) noexcept {
-        return qHashMulti(seed, step.set, step.side, step.word, step.hasNumber, step.number);
+        return qHashMulti(seed, step.set, step.side, step.word, step.hasNumber, step.number,
+                          step.removes);
     }
 
     static void apply(std::vector<Entry>& entries, const Entry& entry);
+    static void remove(std::vector<Entry>& entries, const Entry& entry);
     static void insert(std::vector<Entry>& entries, const Entry& entry);
     static bool isLeftToRight(const Entry& entry);
     QString text(const std::vector<Entry>& entries) const;

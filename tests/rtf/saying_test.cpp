@@ -118,6 +118,11 @@ void SayingTest::whatIsSaidStays_data() {
     // Scripts
     row("right to left", "{\\ltrch\\fcs0\\af1\\afs20\\ab\\rtlch\\fcs1\\f2\\fs40 word}\\par",
         "\\pard\\ltrch\\af1\\afs20\\ab\\rtlch\\f2\\fs40 deed\\par");
+    row("directions that are not told apart", "\\f1\\rtlch word\\f2\\fs40\\ltrch  b\\rtlch  c\\par",
+        "\\pard\\rtlch\\f1\\fs24 deed\\plain\\f2\\fs40  b\\rtlch  c\\par");
+    row("right to left within left to right",
+        "\\rtlch\\af1\\afs28\\ab\\ltrch\\f2\\fs20{\\ltrch\\afs30\\rtlch\\i word}\\par",
+        "\\pard\\ltrch\\af1\\afs30\\rtlch\\b\\i\\f2\\fs28 deed");
     row("left to right", "{\\rtlch\\fcs1\\af1\\afs20\\ltrch\\fcs0\\f2\\fs40 word}\\par",
         "\\pard\\rtlch\\af1\\afs20\\ltrch\\f2\\fs40 deed\\par");
     row("nothing but left to right", "{\\ltrch word}\\par", "\\pard\\f0\\fs24 deed\\par");

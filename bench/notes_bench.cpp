@@ -13,6 +13,7 @@
 #include "timing.h"
 #include "widgets/gg_command.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QBuffer>
 #include <QElapsedTimer>
@@ -20,9 +21,11 @@
 #include <QKeyEvent>
 #include <QPrinter>
 #include <QRandomGenerator>
+#include <QTextDocument>
 
 #include <algorithm>
 #include <cstdio>
+#include <string>
 #include <utility>
 
 using namespace orvalis;
@@ -47,12 +50,44 @@ QString lines(int characters) {
     return text;
 }
 
-QByteArray richText(int bytes) {
-    QByteArray rtf = "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\f0\\fs18 ";
-    for (int line = 0; rtf.size() < bytes; ++line)
-        rtf += "Line " + QByteArray::number(line) +
-               " of a {\\b long} note, with {\\i enough} words in it to wrap {\\ul once}.\\par\n";
-    return rtf + '}';
+struct RichText {
+    QByteArray rtf;
+    qsizetype characters = -LineEnd; ///< the last paragraph's end is none
+    static constexpr int LineEnd = 2;
+
+    void end() {
+        rtf += "\\par\n";
+        characters += LineEnd;
+    }
+};
+
+RichText richText(int bytes) {
+    RichText text{"{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\f0\\fs18 "};
+    for (int line = 0; text.rtf.size() < bytes; ++line) {
+        const QByteArray number = QByteArray::number(line);
+        text.rtf += "Line " + number +
+                    " of a {\\b long} note, with {\\i enough} words in it to wrap {\\ul once}.";
+        text.characters +=
+            number.size() + qstrlen("Line  of a long note, with enough words in it to wrap once.");
+        text.end();
+    }
+    text.rtf += '}';
+    return text;
+}
+
+/// Plain text in one size, in paragraphs of so many characters.
+RichText plainRichText(int bytes, int halfPoints, int paragraph) {
+    RichText text{"{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\f0\\fs" + QByteArray::number(halfPoints) +
+                  ' '};
+    const QByteArray words = "It was a note like any other, of a day on which little happened. ";
+    const QByteArray piece = words.repeated(paragraph / int(words.size()) + 1).first(paragraph);
+    while (text.rtf.size() < bytes) {
+        text.rtf += piece;
+        text.characters += paragraph;
+        text.end();
+    }
+    text.rtf += '}';
+    return text;
 }
 
 class Desk : public TestProgram {
@@ -159,9 +194,9 @@ void measurePrinting(Desk& desk) {
 }
 
 /// A note of some pages with a photograph, as most files of this size are.
-QByteArray withPhotograph(int bytes) {
-    QByteArray rtf = richText(Megabyte);
-    rtf.chop(1);
+RichText withPhotograph(int bytes) {
+    RichText text = richText(Megabyte);
+    text.rtf.chop(1);
     const int rows = (bytes - Megabyte) / 6 / 1024; // a pixel takes three bytes, a byte two digits
     QImage noise(1024, rows, QImage::Format_RGB32);
     QRandomGenerator dice(1);
@@ -170,19 +205,43 @@ QByteArray withPhotograph(int bytes) {
     QBuffer buffer(&png);
     buffer.open(QIODevice::WriteOnly);
     noise.save(&buffer, "PNG");
-    return rtf + "{\\pict\\pngblip\\picwgoal3600\\pichgoal3600 " + png.toHex() + "}\\par}";
+    text.rtf += "{\\pict\\pngblip\\picwgoal3600\\pichgoal3600 " + png.toHex() + "}";
+    ++text.characters;
+    text.end();
+    text.rtf += '}';
+    return text;
 }
 
-void measureFile(const char* what, const QByteArray& rtf) {
+void measureKeys(const char* what, Desk& desk, QTextCursor::MoveOperation place) {
+    RichTextBox& left = desk.box(u"rt1"_s);
+    for (const auto* box :
+         desk.program.windows.get<NotesPanel>().form().findChildren<RichTextBox*>())
+        box->document()->documentLayout()->documentSize(); // as they are after some seconds
+    left.moveCursor(place);
+    QApplication::processEvents();
+    const auto press = [&] {
+        QKeyEvent key(QEvent::KeyPress, Qt::Key_A, {}, u"a"_s);
+        QApplication::sendEvent(&left, &key);
+        QApplication::processEvents();
+    };
+    tell((what + std::string(", the first one")).c_str(), bench::millisecondsOf(press), 0);
+    tell(what, bench::medianMilliseconds(21, press), 0);
+}
+
+void measureFile(const char* what, const RichText& text) {
     Desk desk;
     desk.open();
-    const QString path = desk.folder.write(u"large.rtf"_s, rtf);
-    std::printf("%s, of %lld bytes\n", what, static_cast<long long>(rtf.size()));
+    const QString path = desk.folder.write(u"large.rtf"_s, text.rtf);
+    std::printf("%s, of %lld bytes\n", what, static_cast<long long>(text.rtf.size()));
     desk.dialogs.answerOpen(path);
     measureLongWork("  it opens on the right page", desk, u"imgOpen"_s, 1500);
-    std::printf("  so many characters of it have room there %25lld\n",
-                static_cast<long long>(desk.box(u"rt1a"_s).Text().size()));
+    const qsizetype shown = desk.box(u"rt1a"_s).Text().size();
+    std::printf("  characters of it that stand there %32lld of %lld  %s\n",
+                static_cast<long long>(shown), static_cast<long long>(text.characters),
+                shown == text.characters ? "all" : "NOT ALL");
     measureLongWork("  it is taken over", desk, u"Button1"_s, 0);
+    measureKeys("  a key at its end", desk, QTextCursor::End);
+    measureKeys("  a key at its beginning", desk, QTextCursor::Start);
     desk.dialogs.answerSave(desk.folder.file(u"copy.rtf"_s));
     measureLongWork("  it is saved as rich text", desk, u"imgSave"_s, 0);
     measurePrinting(desk);
@@ -227,7 +286,11 @@ int main(int argc, char** argv) {
     // A paragraph is laid out anew at each key, however long it is.
     measureTyping("a key at the end of one line of 32 KB", QString(u"word "_s).repeated(6400), 0);
     measureFile("a rich text with a photograph", withPhotograph(5 * Megabyte));
-    measureFile("a rich text, of which a page holds the beginning", richText(5 * Megabyte));
+    measureFile("a rich text of many runs", richText(5 * Megabyte));
+    measureFile("a text of 12 points", plainRichText(5 * Megabyte, 24, 200));
+    measureFile("a text of 8 points", plainRichText(5 * Megabyte, 16, 200));
+    measureFile("a text of short paragraphs of 12 points", plainRichText(5 * Megabyte, 24, 24));
+    measureFile("a text of few paragraphs of 12 points", plainRichText(5 * Megabyte, 24, Megabyte));
     measureReplacing("5,000 hits in many lines replaced", QString(u"a two\r\n"_s).repeated(4500),
                      300);
     measureReplacing("5,000 hits in one line replaced", QString(u"a two "_s).repeated(5000), 300);

@@ -2,8 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "controls/control_marks.h"
 #include "controls/html_import.h"
+#include "rtf/document_height.h"
 #include "rtf/document_room.h"
+#include "rtf/format_heights.h"
 #include "rtf/reader.h"
+#include "rtf/uneven_words.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QFile>
@@ -23,7 +26,7 @@ using namespace orvalis;
 
 namespace {
 
-constexpr QSize Window(220, 160);
+constexpr QSize Window(int(rtf::NarrowestBox), 160);
 /// Seeds may be as large as what they stand for. What a fuzzer makes is small, for the sake of many
 /// executions: the sizes and distances that add up are in few bytes as large as in many.
 constexpr qsizetype LargestInput = ORVALIS_REPLAYS_SEEDS ? 8 << 20 : 1 << 10;
@@ -37,6 +40,7 @@ void require(bool held) {
 class Shown {
 public:
     Shown() {
+        m_document.setDocumentMargin(0);
         m_document.setTextWidth(Window.width());
         m_document.documentLayout();
     }
@@ -46,14 +50,25 @@ public:
     void show() {
         const double height = m_document.documentLayout()->documentSize().height();
         // A run that was cut or split where the room ended stands in a line more, and a line can be
-        // high; what must not be reached is twice the room.
-        require(rtf::documentHeight(m_document) <= 1.5 * rtf::MostHeight);
-        require(height < 2 * rtf::MostHeight);
+        // high; what must not be reached is the height at which no layout ends.
+        const double told = rtf::documentHeight(m_document);
+        require(told <= 1.5 * rtf::MostHeight);
+        require(height < rtf::EndlessHeight);
+        // What is told leaves an eighth, of which lines may lend one another a half.
+        require(height <= (told + heightLent()) * rtf::EndlessHeight / rtf::MostHeight);
         paint(0);
         paint(height - Window.height());
     }
 
 private:
+    double heightLent() const {
+        rtf::FormatHeights heights(m_document.defaultFont(), rtf::letterHeight);
+        double height = 0;
+        for (QTextBlock block = m_document.begin(); block.isValid(); block = block.next())
+            height += rtf::heightLentInWords(block, heights);
+        return height;
+    }
+
     void paint(double top) {
         static QImage image(Window, QImage::Format_RGB32);
         image.fill(Qt::white);
@@ -85,6 +100,29 @@ void insert(QTextCursor& cursor, const QByteArray& bytes, int way) {
     default:
         break;
     }
+}
+
+/// What people do to all of a document.
+void change(QTextCursor& all, int which, int amount) {
+    QTextCharFormat letters;
+    QTextBlockFormat paragraphs;
+    switch (which) {
+    case 0:
+        letters.setFontPointSize(amount);
+        break;
+    case 1:
+        letters.setFontFamilies({QStringLiteral("DejaVu Sans Mono")});
+        letters.setFontWeight(QFont::Bold);
+        break;
+    case 2:
+        paragraphs.setLeftMargin(amount);
+        if (rtf::fitsParagraphs(all, paragraphs))
+            all.mergeBlockFormat(paragraphs);
+        return;
+    default:
+        return;
+    }
+    all.mergeCharFormat(rtf::fittingFormat(all, letters));
 }
 
 /// The input with all behind its first bar repeated, as often as can be.
@@ -135,14 +173,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     cursor.movePosition(QTextCursor::End);
     insert(cursor, "again ", Text);
     shown.show();
-    if (size % 4 == 0) {
-        QTextCharFormat larger;
-        larger.setFontPointSize(data[1]);
-        cursor.select(QTextCursor::Document);
-        cursor.mergeCharFormat(rtf::fittingFormat(cursor, larger));
-        shown.show();
-        document.undo();
-        shown.show();
-    }
+    cursor.select(QTextCursor::Document);
+    change(cursor, int(size % 4), data[1]);
+    shown.show();
+    document.undo();
+    shown.show();
     return 0;
 }

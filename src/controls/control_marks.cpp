@@ -30,7 +30,7 @@ public:
         , m_ordinary(format)
         , m_marks(format)
         , m_intake(cursor)
-        , m_letters(rtf::letterHeight(format, cursor.document()->defaultFont()))
+        , m_letters(rtf::measuredHeight(format, cursor.document()->defaultFont()))
         , m_shape(rtf::paragraphShape(cursor.blockFormat()))
         , m_beginsPage(cursor.blockFormat().hasProperty(QTextFormat::PageBreakPolicy)) {
         m_ordinary.clearProperty(rtf::ControlMarks);

@@ -6,7 +6,7 @@
 #include "controls/rich_text_box.h"
 #include "controls/tab_leaders.h"
 #include "controls/text_positions.h"
-#include "rtf/document_room.h"
+#include "rtf/document_height.h"
 #include "rtf/format_properties.h"
 #include "rtf/paragraph_place.h"
 #include "runtime/failure.h"
@@ -27,8 +27,11 @@ namespace {
 
 constexpr qreal TwipsPerInch = 1440;
 constexpr qreal PixelsPerInch = 96;
-/// The height of a layout that was measured; beyond twice MostHeight layouts do not end.
-constexpr double MostDots = 1.5 * rtf::MostHeight;
+/// The height of a layout that was measured, as far as it can be in other dots.
+constexpr double MostDots = 0.75 * rtf::EndlessHeight;
+/// What letters are wider at most in dots that are finer than those of the screen, where their
+/// widths may be whole numbers.
+constexpr double WiderInFineDots = 1.25;
 
 /// What a layout is measured by, whose dots are no device's.
 class Ruler final : public QPaintDevice {
@@ -174,7 +177,9 @@ void RangeFormatter::prepare(const FormatRange& range) {
 void RangeFormatter::layOut() {
     const double width = m_page.width() / TwipsPerPixel;
     const double narrow = width > 0 ? std::max(1.0, rtf::NarrowestBox / width) : 1;
-    const double told = rtf::documentHeight(*m_copy) * narrow * LayoutDots / PixelsPerInch;
+    // In a narrower line the share that no word fills is larger.
+    const double told = rtf::documentHeight(*m_copy) * narrow * narrow * WiderInFineDots *
+                        LayoutDots / PixelsPerInch;
     if (told <= rtf::MostHeight) {
         layOut(LayoutDots, {0, 1});
         return;

@@ -106,7 +106,7 @@ private:
 
     bool beginsParagraph(const QTextBlock& block) {
         const QFont font = m_target.document()->defaultFont();
-        m_full = !rtf::Intake(m_target).takesParagraph(rtf::letterHeight(markOf(block), font),
+        m_full = !rtf::Intake(m_target).takesParagraph(rtf::measuredHeight(markOf(block), font),
                                                        rtf::paragraphShape(paragraphOf(block)));
         return !m_full;
     }

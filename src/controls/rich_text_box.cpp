@@ -120,6 +120,8 @@ void RichTextBox::setBoxFont(QFont font, QTextCharFormat format) {
     format = rtf::fittingFormat(everything, format);
     if (format.fontPointSize() > 0)
         font.setPointSizeF(format.fontPointSize());
+    else if (!format.hasProperty(QTextFormat::FontFamilies))
+        font.setFamilies(document()->defaultFont().families());
     setFont(font);
     everything.beginEditBlock();
     everything.mergeCharFormat(format);

@@ -3,6 +3,7 @@
 #include "controls/selection_format.h"
 
 #include "rtf/block_formats.h"
+#include "rtf/document_room.h"
 #include "rtf/format_properties.h"
 #include "rtf/format_readers.h"
 #include "rtf/list_formats.h"
@@ -244,6 +245,8 @@ bool hasBullet(const QTextBlock& block) {
 }
 
 void bulletParagraphs(QTextCursor& selection, bool on) {
+    if (on && !rtf::fitsNarrower(selection, BulletTwips / rtf::TwipsPerPixel))
+        return;
     QTextList* list = nullptr;
     changeParagraphs(selection, [&](const QTextBlock& block, QTextBlockFormat& format) {
         if (hasBullet(block) == on)

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/document_room.h"
 
+#include "rtf/document_height.h"
+#include "rtf/format_heights.h"
 #include "rtf/long_words.h"
 #include "rtf/uneven_words.h"
 
@@ -12,6 +14,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
 #include <utility>
 
@@ -21,7 +24,7 @@ namespace {
 
 constexpr double Unknown = std::numeric_limits<double>::infinity();
 /// Of the height that lines may lend one another ahead of breaking anywhere.
-constexpr double MostLent = MostHeight / 4;
+constexpr double MostLent = (EndlessHeight - MostHeight) / 2;
 
 size_t fontKey(const QTextCharFormat& format) {
     return qHashMulti(0, format.fontFamilies().toStringList(),
@@ -30,88 +33,25 @@ size_t fontKey(const QTextCharFormat& format) {
                       format.fontItalic(), int(format.fontCapitalization()));
 }
 
-/// Formats that count for a part of a document beside those that it has.
-struct Changed {
-    int from = 0;
-    int to = 0;
-    QTextCharFormat letters;
-    QTextBlockFormat paragraphs;
-
-    bool touches(int begin, int end) const { return from < end && to > begin; }
-};
-
-/// Measures runs, of which most have the format of the one ahead.
-class RunMeasure {
-public:
-    explicit RunMeasure(const QFont& defaultFont)
-        : m_defaultFont(defaultFont) {}
-
-    const LetterHeight& of(const QTextCharFormat& format) {
-        if (!m_any || format != m_format) {
-            m_any = true;
-            m_format = format;
-            m_letters = letterHeight(format, m_defaultFont);
-        }
-        return m_letters;
-    }
-
-private:
-    QFont m_defaultFont;
-    QTextCharFormat m_format;
-    LetterHeight m_letters;
-    bool m_any = false;
-};
-
-QStringView runText(const QTextFragment& run, const QTextBlock& paragraph, QStringView text) {
-    return text.sliced(run.position() - paragraph.position(), run.length());
+ChangedFormats changedTo(const QTextCursor& selection, const QTextCharFormat& letters) {
+    const int from = selection.selectionStart();
+    return {from, std::max(selection.selectionEnd(), from + 1), letters, {}};
 }
 
-double heightOfFragment(const QTextFragment& run, QStringView text, RunMeasure& measure,
-                        const ParagraphShape& shape, const Changed& changed) {
-    const QTextCharFormat format = run.charFormat();
-    const LetterHeight& own = measure.of(format);
-    if (format.isImageFormat())
-        return run.length() * heightOfPicture(format.toImageFormat().height(), own, shape);
-    const int begin = run.position();
-    const int end = begin + run.length();
-    if (!changed.touches(begin, end) || changed.letters.isEmpty())
-        return heightOfRun(text, own, shape);
-    const int from = std::max(begin, changed.from) - begin;
-    const int to = std::min(end, changed.to) - begin;
-    double height = 0;
-    if (from > 0)
-        height += heightOfRun(text.first(from), own, shape);
-    if (to < text.size())
-        height += heightOfRun(text.sliced(to), own, shape);
-    QTextCharFormat merged = format;
-    merged.merge(changed.letters);
-    return height + heightOfRun(text.sliced(from, to - from), measure.of(merged), shape);
+bool fits(const QTextCursor& selection, const ChangedFormats& changed) {
+    QTextDocument& document = *selection.document();
+    return DocumentRoom::of(document).heightWithoutRoom({}) <= MostHeight ||
+           documentHeight(document, changed) <= MostHeight;
 }
 
-double heightOfDocument(const QTextDocument& document, const Changed& changed) {
-    RunMeasure measure(document.defaultFont());
-    QTextBlockFormat lastFormat;
-    ParagraphShape shape = paragraphShape(lastFormat);
-    double height = 0;
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        QTextBlockFormat format = block.blockFormat();
-        const bool inside = changed.touches(block.position(), block.position() + block.length());
-        if (inside)
-            format.merge(changed.paragraphs);
-        if (format != lastFormat) {
-            lastFormat = format;
-            shape = paragraphShape(format);
-        }
-        QTextCharFormat mark = block.charFormat();
-        if (inside)
-            mark.merge(changed.letters);
-        height += heightOfParagraph(measure.of(mark), shape);
-        const QString text = block.text();
-        for (auto it = block.begin(); !it.atEnd(); ++it)
-            height += heightOfFragment(it.fragment(), runText(it.fragment(), block, text), measure,
-                                       shape, changed);
-    }
-    return height;
+/// Beside the size.
+constexpr int WidthsOfLetters[] = {QTextFormat::FontFamilies, QTextFormat::FontWeight,
+                                   QTextFormat::FontItalic};
+
+bool changesWidths(const QTextCharFormat& format) {
+    return std::any_of(
+        std::begin(WidthsOfLetters), std::end(WidthsOfLetters),
+        [&](int property) { return format.hasProperty(property); });
 }
 
 } // namespace
@@ -169,11 +109,11 @@ bool DocumentRoom::holdsLongWord(int from, int to) const {
 }
 
 double DocumentRoom::heightLent(int from, int to) const {
-    const QFont defaultFont = m_document.defaultFont();
+    FormatHeights heights(m_document.defaultFont(), letterHeight);
     double height = 0;
     for (QTextBlock block = m_document.findBlock(from); block.isValid() && block.position() <= to;
          block = block.next())
-        height += heightLentInWords(block, defaultFont);
+        height += heightLentInWords(block, heights);
     return height;
 }
 
@@ -231,7 +171,8 @@ double DocumentRoom::mostOfOne(LetterHeight letters) {
     learnFormats();
     // What is raised keeps its share of a size that it is given.
     letters.line = std::max({letters.line, m_letters.line, letters.size * m_lineOfSize});
-    return 2 * heightOfPicture(m_pictures, letters, m_shape) + m_shape.margins;
+    constexpr double Lines = 3;
+    return Lines * heightOfPicture(m_pictures, letters, m_shape) + m_shape.margins;
 }
 
 bool DocumentRoom::takesFont(const QTextCharFormat& format) {
@@ -243,56 +184,48 @@ bool DocumentRoom::takesFont(const QTextCharFormat& format) {
     return true;
 }
 
-double paragraphHeight(const QTextBlock& paragraph, const ParagraphShape& shape) {
-    RunMeasure measure(paragraph.document()->defaultFont());
-    double height = heightOfParagraph(measure.of(paragraph.charFormat()), shape);
-    const QString text = paragraph.text();
-    for (auto it = paragraph.begin(); !it.atEnd(); ++it)
-        height += heightOfFragment(it.fragment(), runText(it.fragment(), paragraph, text), measure,
-                                   shape, {});
-    return height;
-}
-
-double documentHeight(const QTextDocument& document) {
-    return heightOfDocument(document, {});
-}
-
-double documentHeight(const QTextCursor& changed, const QTextCharFormat& letters,
-                      const QTextBlockFormat& paragraphs) {
-    return heightOfDocument(*changed.document(),
-                            {changed.selectionStart(),
-                             std::max(changed.selectionEnd(), changed.selectionStart() + 1),
-                             letters, paragraphs});
-}
-
 QTextCharFormat fittingFormat(const QTextCursor& selection, QTextCharFormat format) {
-    if (!format.hasProperty(QTextFormat::FontPointSize))
+    const bool sized = format.hasProperty(QTextFormat::FontPointSize);
+    if (!sized && (!selection.hasSelection() || !changesWidths(format)))
         return format;
-    constexpr double HalfPoints = 2;
-    const auto fits = [&](double points) {
-        format.setFontPointSize(points);
-        return documentHeight(selection, format, {}) <= MostHeight;
-    };
     const double wanted = std::min(format.fontPointSize(), LargestPoints);
-    format.setFontPointSize(wanted);
+    if (sized)
+        format.setFontPointSize(wanted);
     // Most documents are far too short for any of it to matter.
     DocumentRoom& room = DocumentRoom::of(*selection.document());
     const LetterHeight letters = letterHeight(format, selection.document()->defaultFont());
-    if (room.heightWithoutRoom(letters) <= MostHeight || fits(wanted))
+    const auto fits = [&] {
+        return documentHeight(*selection.document(), changedTo(selection, format)) <= MostHeight;
+    };
+    if (room.heightWithoutRoom(letters) <= MostHeight || fits())
         return format;
+    if (!sized) {
+        for (const int property : WidthsOfLetters)
+            format.clearProperty(property);
+        return format;
+    }
+    constexpr double HalfPoints = 2;
     int least = 1;
     int most = int(wanted * HalfPoints);
     while (least + 1 < most) {
         const int middle = (least + most) / 2;
-        (fits(middle / HalfPoints) ? least : most) = middle;
+        format.setFontPointSize(middle / HalfPoints);
+        (fits() ? least : most) = middle;
     }
     format.setFontPointSize(least / HalfPoints);
     return format;
 }
 
 bool fitsParagraphs(const QTextCursor& selection, const QTextBlockFormat& format) {
-    return DocumentRoom::of(*selection.document()).heightWithoutRoom({}) <= MostHeight ||
-           documentHeight(selection, {}, format) <= MostHeight;
+    ChangedFormats changed = changedTo(selection, {});
+    changed.paragraphs = format;
+    return fits(selection, changed);
+}
+
+bool fitsNarrower(const QTextCursor& selection, double pixels) {
+    ChangedFormats changed = changedTo(selection, {});
+    changed.narrower = pixels;
+    return fits(selection, changed);
 }
 
 } // namespace orvalis::rtf

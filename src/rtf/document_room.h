@@ -9,16 +9,15 @@
 #include <QTextFormat>
 #include <QTextOption>
 
-class QTextBlock;
 class QTextCursor;
 class QTextDocument;
 
 namespace orvalis::rtf {
 
-/// The most characters of a document; with them, laying all of it out takes some seconds.
-inline constexpr int MostCharacters = 1 << 22;
+/// The most characters of a document; to lay out all of them takes some seconds, bit by bit.
+inline constexpr int MostCharacters = 1 << 23;
 /// The most paragraphs of a document. Each is looked at where one ahead of them changes its height.
-inline constexpr int MostParagraphs = 1 << 17;
+inline constexpr int MostParagraphs = 1 << 18;
 /// The most characters of a paragraph, which is laid out anew with each that is typed.
 inline constexpr int LongestParagraph = 1 << 20;
 /// The most fonts of a document: families in their sizes and styles. The system looks for each.
@@ -85,18 +84,12 @@ private:
     double m_pictures = 0;
 };
 
-/// The height that a paragraph has at most in a shape.
-double paragraphHeight(const QTextBlock& paragraph, const ParagraphShape& shape);
-
-/// The height that a document has at most, told by layout_height.h.
-/// \param selection whose text counts as if it had these formats too; may be null.
-double documentHeight(const QTextDocument& document);
-double documentHeight(const QTextCursor& changed, const QTextCharFormat& letters,
-                      const QTextBlockFormat& paragraphs);
-
-/// A format for a selection, with its size made small enough for the document that it is set in.
+/// A format for a selection, with its size made small enough for the document that it is set in;
+/// one without a size loses what makes letters too wide for it.
 QTextCharFormat fittingFormat(const QTextCursor& selection, QTextCharFormat format);
 /// Whether the selection's paragraphs may have this format.
 bool fitsParagraphs(const QTextCursor& selection, const QTextBlockFormat& format);
+/// Whether their lines may be so much shorter.
+bool fitsNarrower(const QTextCursor& selection, double pixels);
 
 } // namespace orvalis::rtf

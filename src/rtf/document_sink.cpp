@@ -141,7 +141,7 @@ int DocumentSink::formatIndex(const CharFormat& format) {
             m_fontsLeftOut = true;
             m_formats.back() = withoutFont(m_formats.back());
         }
-        m_letters.push_back(letterHeight(m_formats.back(), defaultFont));
+        m_letters.push_back(measuredHeight(m_formats.back(), defaultFont));
         m_lastIndex = int(m_formats.size()) - 1;
         m_formatIndex.insert(format, m_lastIndex);
     }
@@ -150,7 +150,9 @@ int DocumentSink::formatIndex(const CharFormat& format) {
 
 void DocumentSink::text(QStringView text, const CharFormat& format) {
     const int index = formatIndex(format);
-    const qsizetype room = m_intake.mostInParagraph() - m_text.size();
+    const bool goesOn = m_paragraphs == 0 && m_textBefore;
+    const qsizetype room =
+        (goesOn ? m_intake.mostInParagraph() : m_intake.mostInFurtherParagraph()) - m_text.size();
     if (room < text.size()) {
         m_full = true;
         text.truncate(wholeCharacters(text, room));
@@ -260,6 +262,8 @@ void DocumentSink::insertParagraph(const ParagraphFormat& paragraph, const CharF
     if (first && m_textBefore)
         insertRuns(paragraphShape(m_cursor.blockFormat()));
     else if (first && m_textBehind) // which shape it will have shows later
+        insertRuns(higherShape(paragraphShape(m_cursor.blockFormat()), m_shape));
+    else if (paragraph.list.kind != ListKind::None) // whose label takes room
         insertRuns(higherShape(paragraphShape(m_cursor.blockFormat()), m_shape));
     else
         insertRuns(m_shape);

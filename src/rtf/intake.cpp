@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/intake.h"
 
+#include "rtf/document_height.h"
 #include "rtf/document_room.h"
 
 #include <QFont>
@@ -21,14 +22,20 @@ Intake::Intake(const QTextCursor& cursor)
     , m_paragraphLeft(LongestParagraph - (cursor.block().length() - 1)) {
     if (m_behind == 0)
         return;
-    // A run that is split stands in one line more.
+    // What is behind begins elsewhere in its line.
     const LetterHeight letters =
         letterHeight(cursor.charFormat(), cursor.document()->defaultFont());
-    m_room.take(heightOfLine(letters, paragraphShape(cursor.blockFormat())));
+    m_room.take(heightOfRun({}, letters, paragraphShape(cursor.blockFormat())));
 }
 
 qsizetype Intake::mostInParagraph() const {
     return m_full ? 0 : std::max<qsizetype>(0, std::min(m_charactersLeft, m_paragraphLeft));
+}
+
+qsizetype Intake::mostInFurtherParagraph() const {
+    return m_full ? 0
+                  : std::max<qsizetype>(
+                        0, std::min(m_charactersLeft - 1, LongestParagraph - m_behind));
 }
 
 double Intake::heightLeft(double wanted) {
@@ -41,19 +48,22 @@ void Intake::take(double height) {
         m_gathered += height;
 }
 
-bool Intake::spend(double height) {
+/// \param grown the paragraph with what comes, by a height.
+bool Intake::spend(const ParagraphHeight& grown, double height) {
     if (m_full || heightLeft(height) < height) {
         m_full = true;
         return false;
     }
     take(height);
+    m_paragraph = grown;
     return true;
 }
 
 bool Intake::takesParagraph(const LetterHeight& mark, const ParagraphShape& shape) {
     if (m_charactersLeft <= 0 || m_paragraphsLeft <= 0)
         m_full = true;
-    if (!spend(heightOfParagraph(mark, shape)))
+    const ParagraphHeight begun(mark, shape);
+    if (!spend(begun, begun.height()))
         return false;
     --m_charactersLeft;
     --m_paragraphsLeft;
@@ -72,7 +82,9 @@ bool Intake::takesShape(const QTextBlock& paragraph, const ParagraphShape& shape
 bool Intake::takesPicture(double height, const LetterHeight& letters, const ParagraphShape& shape) {
     if (mostInParagraph() == 0)
         m_full = true;
-    if (!spend(heightOfPicture(height, letters, shape)))
+    ParagraphHeight grown = m_paragraph;
+    grown.addPicture(height, letters, shape);
+    if (!spend(grown, grown.height() - m_paragraph.height()))
         return false;
     --m_charactersLeft;
     --m_paragraphLeft;
@@ -80,14 +92,28 @@ bool Intake::takesPicture(double height, const LetterHeight& letters, const Para
 }
 
 qsizetype Intake::taken(QStringView run, const LetterHeight& letters, const ParagraphShape& shape) {
-    if (m_full)
+    if (m_full || run.isEmpty())
         return 0;
+    const auto with = [&](qsizetype length) {
+        ParagraphHeight grown = m_paragraph;
+        grown.add(run.first(length), letters, shape);
+        return grown;
+    };
     qsizetype length = wholeCharacters(run, std::min(run.size(), mostInParagraph()));
-    const double wanted = heightOfRun(run.first(length), letters, shape);
-    const double left = heightLeft(wanted);
-    if (left < wanted)
-        length = charactersWithin(left, run.first(length), letters, shape);
-    take(heightOfRun(run.first(length), letters, shape));
+    ParagraphHeight grown = with(length);
+    const double before = m_paragraph.height();
+    const double left = heightLeft(grown.height() - before);
+    if (left < grown.height() - before) {
+        qsizetype fits = 0;
+        while (fits + 1 < length) {
+            const qsizetype middle = (fits + length) / 2;
+            (with(middle).height() - before <= left ? fits : length) = middle;
+        }
+        length = wholeCharacters(run, fits);
+        grown = with(length);
+    }
+    take(grown.height() - before);
+    m_paragraph = grown;
     m_charactersLeft -= length;
     m_paragraphLeft -= length;
     m_full = length < run.size();
@@ -115,7 +141,7 @@ qsizetype Intake::takenLines(QStringView text, const LetterHeight& letters,
 
 bool hasRoomFor(const QTextCursor& selection, QStringView typed) {
     QTextDocument& document = *selection.document();
-    const LetterHeight letters = letterHeight(selection.charFormat(), document.defaultFont());
+    const LetterHeight letters = measuredHeight(selection.charFormat(), document.defaultFont());
     const ParagraphShape shape = paragraphShape(selection.blockFormat());
     if (selection.hasSelection()) // which gives way, so that a full document can be changed
         return DocumentRoom::of(document).heightLeft(1) > 0;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "rtf/layout_height.h"
+#include "rtf/paragraph_height.h"
 
 class QTextBlock;
 class QTextCharFormat;
@@ -24,6 +25,8 @@ public:
     bool isFull() const { return m_full; }
     /// The most characters that the paragraph can take yet.
     qsizetype mostInParagraph() const;
+    /// The most characters that another paragraph could take.
+    qsizetype mostInFurtherParagraph() const;
 
     /// Whether a further paragraph may begin.
     bool takesParagraph(const LetterHeight& mark, const ParagraphShape& shape);
@@ -37,17 +40,18 @@ public:
                          const ParagraphShape& shape);
 
 private:
-    bool spend(double height);
+    bool spend(const ParagraphHeight& grown, double height);
     double heightLeft(double wanted);
     void take(double height);
 
     DocumentRoom& m_room;
     qsizetype m_charactersLeft;
     qsizetype m_paragraphsLeft;
-    qsizetype m_behind;        ///< characters behind the insertion in its last paragraph
-    qsizetype m_paragraphLeft; ///< characters
-    bool m_gathers = false;    ///< much is taken before any of it is inserted
-    double m_gathered = 0;     ///< pixels
+    qsizetype m_behind;          ///< characters behind the insertion in its last paragraph
+    qsizetype m_paragraphLeft;   ///< characters
+    ParagraphHeight m_paragraph; ///< as far as it is taken
+    bool m_gathers = false;      ///< much is taken before any of it is inserted
+    double m_gathered = 0;       ///< pixels
     bool m_full = false;
 };
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/layout_height.h"
 
+#include "rtf/letter_widths.h"
+
 #include <QFont>
 #include <QTextCharFormat>
 
@@ -16,6 +18,8 @@ constexpr double PixelsPerPoint = 96.0 / 72;
 constexpr double LineOfSize = 1.5;
 constexpr double LinesOfFullOnes = 2; // where a word that does not fit leaves most of a line empty
 constexpr double ListStep = 40;       // pixels by which a list may stand further in
+/// What a guess may fall short by.
+constexpr double Shortness = 1.75;
 
 double pixelSize(const QTextCharFormat& format, const QFont& defaultFont) {
     if (format.fontPointSize() > 0)
@@ -51,9 +55,16 @@ double linesOfThird(const LetterHeight& letters, const ParagraphShape& shape) {
     return shape.room > 0 ? LinesOfFullOnes * letters.size / 3 / shape.room : 1.0;
 }
 
-double linesOf(QChar character, double ofThird) {
-    const int thirds = thirdsOf(character.unicode());
-    return thirds == ALine ? 1.0 : std::min(1.0, thirds * ofThird);
+/// Whether letters are as wide as those of their font, and stand on their line.
+bool standsAsItsFontHasIt(const QTextCharFormat& format) {
+    for (const int property :
+         {QTextFormat::FontLetterSpacing, QTextFormat::FontWordSpacing, QTextFormat::FontStretch,
+          QTextFormat::FontCapitalization, QTextFormat::TextVerticalAlignment,
+          QTextFormat::TextBaselineOffset, QTextFormat::TextSuperScriptBaseline,
+          QTextFormat::TextSubScriptBaseline, QTextFormat::FontSizeAdjustment})
+        if (format.hasProperty(property))
+            return false;
+    return !format.isImageFormat();
 }
 
 } // namespace
@@ -62,6 +73,16 @@ LetterHeight letterHeight(const QTextCharFormat& format, const QFont& defaultFon
     const double size = pixelSize(format, defaultFont);
     const double wider = std::max(1.0, format.fontStretch() / 100.0);
     return {size * wider, size * (LineOfSize + std::abs(format.baselineOffset()) / 100)};
+}
+
+LetterHeight measuredHeight(const QTextCharFormat& format, const QFont& defaultFont) {
+    LetterHeight letters = letterHeight(format, defaultFont);
+    if (!standsAsItsFontHasIt(format))
+        return letters;
+    letters.widths = LetterWidths::of(format.font().resolve(defaultFont));
+    if (letters.widths->line() > letters.line)
+        letters.widths.reset(); // the height that is guessed is the most that one letter may need
+    return letters;
 }
 
 ParagraphShape paragraphShape(const QTextBlockFormat& format) {
@@ -98,7 +119,7 @@ double heightOfLine(const LetterHeight& letters, const ParagraphShape& shape) {
     return std::max(letters.line * shape.multiple, shape.least);
 }
 
-double heightOfRun(QStringView text, const LetterHeight& letters, const ParagraphShape& shape) {
+double linesOfRun(QStringView text, const LetterHeight& letters, const ParagraphShape& shape) {
     qsizetype lines = 1;
     qsizetype ordinary = 0;
     for (const QChar character : text) {
@@ -110,30 +131,19 @@ double heightOfRun(QStringView text, const LetterHeight& letters, const Paragrap
     const auto wide = double(text.size() - ordinary - (lines - 1));
     const double others = double(ordinary) * std::min(1.0, OrdinaryThirds * third) +
                           wide * std::min(1.0, WideThirds * third);
-    return (double(lines) + others) * heightOfLine(letters, shape);
+    return double(lines) + others;
+}
+
+double heightOfRun(QStringView text, const LetterHeight& letters, const ParagraphShape& shape) {
+    return Shortness * linesOfRun(text, letters, shape) * heightOfLine(letters, shape);
 }
 
 double heightOfParagraph(const LetterHeight& mark, const ParagraphShape& shape) {
-    return shape.margins + heightOfLine(mark, shape);
+    return shape.margins + Shortness * heightOfLine(mark, shape);
 }
 
 double heightOfPicture(double height, const LetterHeight& letters, const ParagraphShape& shape) {
-    return heightOfLine(letters, shape) + height * shape.multiple;
-}
-
-qsizetype charactersWithin(double height, QStringView text, const LetterHeight& letters,
-                           const ParagraphShape& shape) {
-    const double line = heightOfLine(letters, shape);
-    const double third = linesOfThird(letters, shape);
-    double left = height - line;
-    qsizetype taken = 0;
-    while (taken < text.size()) {
-        left -= line * linesOf(text[taken], third);
-        if (left < 0)
-            break;
-        ++taken;
-    }
-    return wholeCharacters(text, taken);
+    return Shortness * heightOfLine(letters, shape) + height * shape.multiple;
 }
 
 qsizetype wholeCharacters(QStringView text, qsizetype length) {

@@ -2,12 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/uneven_words.h"
 
-#include "rtf/layout_height.h"
+#include "rtf/format_heights.h"
 #include "rtf/long_words.h"
 
-#include <QFont>
 #include <QTextBlock>
-#include <QTextCharFormat>
 
 #include <algorithm>
 #include <vector>
@@ -22,14 +20,15 @@ struct Run {
     double line; // that they need there
 };
 
-std::vector<Run> runsOf(const QTextBlock& paragraph, const QFont& defaultFont,
+std::vector<Run> runsOf(const QTextBlock& paragraph, FormatHeights& heights,
                         const ParagraphShape& shape) {
     std::vector<Run> runs;
+    qsizetype end = 0;
     for (auto it = paragraph.begin(); !it.atEnd(); ++it) {
         const QTextFragment fragment = it.fragment();
-        const LetterHeight letters = letterHeight(fragment.charFormat(), defaultFont);
+        const LetterHeight& letters = heights.of(fragment).letters;
         const double line = heightOfLine(letters, shape);
-        const qsizetype end = fragment.position() + fragment.length() - paragraph.position();
+        end += fragment.length();
         if (!runs.empty() && runs.back().line == line)
             runs.back().end = end;
         else
@@ -40,17 +39,17 @@ std::vector<Run> runsOf(const QTextBlock& paragraph, const QFont& defaultFont,
 
 /// The lines that a part of a word fills.
 double linesOf(QStringView text, const Run& run, const ParagraphShape& shape) {
-    return run.line > 0 ? heightOfRun(text, run.letters, shape) / run.line - 1 : 0;
+    return linesOfRun(text, run.letters, shape) - 1;
 }
 
 } // namespace
 
-double heightLentInWords(const QTextBlock& paragraph, const QFont& defaultFont) {
+double heightLentInWords(const QTextBlock& paragraph, FormatHeights& heights) {
     if (paragraph.begin().atEnd() ||
         paragraph.begin().fragment().length() == paragraph.length() - 1)
         return 0; // one run
     const ParagraphShape shape = paragraphShape(paragraph.blockFormat());
-    const std::vector<Run> runs = runsOf(paragraph, defaultFont, shape);
+    const std::vector<Run> runs = runsOf(paragraph, heights, shape);
     if (runs.size() < 2)
         return 0;
     const QString text = paragraph.text();

@@ -1,0 +1,149 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/paragraph_height.h"
+
+#include "rtf/letter_widths.h"
+
+#include <QChar>
+
+#include <algorithm>
+
+namespace orvalis::rtf {
+
+namespace {
+
+/// Of a line whose height is measured, in pixels.
+constexpr double HighestMeasured = 256;
+/// Of a run of which all is guessed where a part must be.
+constexpr qsizetype Piece = 128;
+
+// What a line loses: to pairs of letters that stand further apart than both are wide, and to the
+// last letter, which may lean out of it.
+constexpr double SpreadOfRoom = 0.02;
+constexpr double LeanOfSize = 0.2;
+/// A line takes so many letters, or its words are guessed.
+constexpr double LettersOfRoom = 4;
+
+double measuredRoom(const LetterHeight& letters, const ParagraphShape& shape) {
+    return shape.room * (1 - SpreadOfRoom) - letters.size * LeanOfSize;
+}
+
+/// The height of lines that can be measured; 0 where they can't.
+double measuredLine(const LetterHeight& letters, const ParagraphShape& shape) {
+    if (!letters.widths || measuredRoom(letters, shape) < letters.size * LettersOfRoom)
+        return 0;
+    const double line = std::max(letters.widths->line() * shape.multiple, shape.least);
+    return line <= HighestMeasured ? line : 0;
+}
+
+bool parts(QChar c) {
+    return c == u'\t' || c == QChar::LineSeparator;
+}
+
+bool isMeasured(QStringView text, LetterWidths& widths) {
+    return std::all_of(
+        text.begin(), text.end(), [&](QChar c) { return parts(c) || widths.of(c.unicode()) >= 0; });
+}
+
+} // namespace
+
+bool breaksBetween(char16_t ahead, char16_t behind) {
+    // Opening brackets hold what follows; closing ones, and signs that end a clause, what is ahead.
+    const QStringView holding = u"([{\u00a1\u00ab\u00bf\u2018\u201a\u201b\u201c\u201e\u201f";
+    if (!QChar::isPrint(ahead) || holding.contains(QChar(ahead)))
+        return false;
+    if (behind == u'(') // which quotation marks hold
+        return QChar::isLetterOrNumber(ahead);
+    return QChar::isLetterOrNumber(behind) ||
+           QStringView(u"\"'-*+&=#@$\u2013\u201c").contains(QChar(behind));
+}
+
+ParagraphHeight::ParagraphHeight(const LetterHeight& mark, const ParagraphShape& shape)
+    : m_line(measuredLine(mark, shape)) {
+    m_height = m_line > 0 ? shape.margins + m_line : heightOfParagraph(mark, shape);
+}
+
+void ParagraphHeight::add(QStringView run, const LetterHeight& letters,
+                          const ParagraphShape& shape) {
+    const double line = measuredLine(letters, shape);
+    if (line == 0) {
+        m_height += heightOfRun(run, letters, shape);
+        m_line = 0;
+        return;
+    }
+    const double room = measuredRoom(letters, shape);
+    while (!run.isEmpty()) {
+        const QStringView piece = run.first(std::min(run.size(), Piece));
+        run = run.sliced(piece.size());
+        if (isMeasured(piece, *letters.widths)) {
+            fill(piece, letters, room, line);
+        } else {
+            m_height += heightOfRun(piece, letters, shape);
+            m_line = 0;
+        }
+    }
+}
+
+void ParagraphHeight::addPicture(double height, const LetterHeight& letters,
+                                 const ParagraphShape& shape) {
+    m_height += heightOfPicture(height, letters, shape);
+    m_line = 0;
+}
+
+/// Takes word for word into lines, as the layout does; where that may break a line elsewhere too,
+/// it needs no more of them.
+void ParagraphHeight::fill(QStringView text, const LetterHeight& letters, double room,
+                           double line) {
+    qsizetype lines = 0;
+    if (m_line != line) {
+        // The line that goes on is as high as its highest letters, and where these begin in it
+        // shifts theirs by one at most.
+        lines = 2;
+        if (m_line == 0) {
+            m_words = m_word = m_blanks = 0;
+            m_ahead = 0;
+        }
+        m_line = line;
+    }
+    for (const QChar character : text) {
+        const char16_t c = character.unicode();
+        if (parts(character)) {
+            lines += c == u'\t' ? 2 : 1; // a tab may stand in a line of its own
+            m_words = m_word = m_blanks = 0;
+            m_ahead = 0;
+            continue;
+        }
+        const double width = letters.widths->of(c);
+        if (c == u' ') {
+            m_blanks += width;
+            if (m_blanks > room) { // nobody knows how far they reach out of their line
+                ++lines;
+                m_blanks = 0;
+            }
+            continue;
+        }
+        if (m_blanks > 0 && breaksBetween(m_ahead, c)) {
+            m_words += m_word + m_blanks;
+            m_word = 0;
+        } else {
+            m_word += m_blanks;
+        }
+        m_blanks = 0;
+        m_ahead = c;
+        m_word += width;
+        if (m_words + m_word <= room)
+            continue;
+        if (m_words > 0)
+            ++lines; // begins with the word
+        m_words = 0;
+        if (m_word > room) {
+            // A word that is cut; where it can be broken, two lines hold more than one has room
+            // for.
+            lines += 2;
+            m_word = width;
+        }
+    }
+    m_height += double(lines) * line;
+}
+
+} // namespace orvalis::rtf

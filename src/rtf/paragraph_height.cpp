@@ -96,9 +96,9 @@ void ParagraphHeight::fill(QStringView text, const LetterHeight& letters, double
                            double line) {
     qsizetype lines = 0;
     if (m_line != line) {
-        // The line that goes on is as high as its highest letters, and where these begin in it
-        // shifts theirs by one at most.
-        lines = 2;
+        // A line is as high as its highest letters, and so is the next one where a word goes on in
+        // it; and where letters begin in their line shifts their lines by one at most.
+        m_height += 2 * std::max(m_line, line);
         if (m_line == 0) {
             m_words = m_word = m_blanks = 0;
             m_ahead = 0;

@@ -45,8 +45,8 @@ double linesOf(QStringView text, const Run& run, const ParagraphShape& shape) {
 } // namespace
 
 double heightLentInWords(const QTextBlock& paragraph, FormatHeights& heights) {
-    if (paragraph.begin().atEnd() ||
-        paragraph.begin().fragment().length() == paragraph.length() - 1)
+    const auto first = paragraph.begin();
+    if (first.atEnd() || first.fragment().length() == paragraph.length() - 1)
         return 0; // one run
     const ParagraphShape shape = paragraphShape(paragraph.blockFormat());
     const std::vector<Run> runs = runsOf(paragraph, heights, shape);

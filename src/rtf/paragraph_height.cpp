@@ -48,14 +48,15 @@ bool isMeasured(QStringView text, LetterWidths& widths) {
 } // namespace
 
 bool breaksBetween(char16_t ahead, char16_t behind) {
-    // Opening brackets hold what follows; closing ones, and signs that end a clause, what is ahead.
-    const QStringView holding = u"([{\u00a1\u00ab\u00bf\u2018\u201a\u201b\u201c\u201e\u201f";
-    if (!QChar::isPrint(ahead) || holding.contains(QChar(ahead)))
-        return false;
-    if (behind == u'(') // which quotation marks hold
-        return QChar::isLetterOrNumber(ahead);
-    return QChar::isLetterOrNumber(behind) ||
-           QStringView(u"\"'-*+&=#@$\u2013\u201c").contains(QChar(behind));
+    // Numbers hold what is ahead of them, but letters; opening brackets what follows; and closing
+    // ones, and signs that end a clause, what is ahead.
+    if (QChar::isLetter(ahead))
+        return QChar::isLetterOrNumber(behind) ||
+               QStringView(u"\"'(-*+&=#@\u2013\u201c").contains(QChar(behind));
+    const bool mayPart =
+        QChar::isDigit(ahead) ||
+        QStringView(u".,;:!?)\"'\u2013\u2014\u2019\u201d\u2026").contains(QChar(ahead));
+    return mayPart && QChar::isLetter(behind);
 }
 
 ParagraphHeight::ParagraphHeight(const LetterHeight& mark, const ParagraphShape& shape)
@@ -67,26 +68,30 @@ void ParagraphHeight::add(QStringView run, const LetterHeight& letters,
                           const ParagraphShape& shape) {
     const double line = measuredLine(letters, shape);
     if (line == 0) {
-        m_height += heightOfRun(run, letters, shape);
-        m_line = 0;
+        guess(run, letters, shape);
         return;
     }
     const double room = measuredRoom(letters, shape);
     while (!run.isEmpty()) {
         const QStringView piece = run.first(std::min(run.size(), Piece));
         run = run.sliced(piece.size());
-        if (isMeasured(piece, *letters.widths)) {
+        if (isMeasured(piece, *letters.widths))
             fill(piece, letters, room, line);
-        } else {
-            m_height += heightOfRun(piece, letters, shape);
-            m_line = 0;
-        }
+        else
+            guess(piece, letters, shape);
     }
 }
 
 void ParagraphHeight::addPicture(double height, const LetterHeight& letters,
                                  const ParagraphShape& shape) {
     m_height += heightOfPicture(height, letters, shape);
+    m_line = 0;
+}
+
+void ParagraphHeight::guess(QStringView text, const LetterHeight& letters,
+                            const ParagraphShape& shape) {
+    // A word that goes on in another line takes the height of its highest letters there.
+    m_height += m_line + heightOfRun(text, letters, shape);
     m_line = 0;
 }
 

@@ -24,6 +24,7 @@ public:
     void addPicture(double height, const LetterHeight& letters, const ParagraphShape& shape);
 
 private:
+    void guess(QStringView text, const LetterHeight& letters, const ParagraphShape& shape);
     void fill(QStringView text, const LetterHeight& letters, double room, double line);
 
     double m_height = 0;

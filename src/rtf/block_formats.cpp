@@ -66,6 +66,8 @@ void setKept(QTextBlockFormat& block, const ParagraphFormat& format, const Names
         if (format.rowBegins)
             block.setProperty(RowBegins, true);
     }
+    if (format.afterAhead != NoLength)
+        block.setProperty(SpaceAfterAhead, format.afterAhead);
     if (format.anchors != NothingKept)
         block.setProperty(KeptAtStart, names.keptAt(format.anchors));
     if (format.section != NothingKept)
@@ -136,6 +138,8 @@ ParagraphFormat paragraphFormat(const QTextBlockFormat& format, const QTextList*
     result.right = indents.right;
     result.before = twips(format.topMargin());
     result.after = twips(format.bottomMargin());
+    if (format.hasProperty(SpaceAfterAhead))
+        result.afterAhead = format.intProperty(SpaceAfterAhead);
     readLineSpacing(format, result);
     result.tabs = tabStopsOf(format, (result.rightToLeft ? result.right : result.left) +
                                          (list ? twips(format.textIndent()) : result.first));

@@ -48,6 +48,7 @@ void BodyWriter::beginParagraph(const ParagraphFormat& paragraph, int number) {
     if (!m_goesOn)
         m_paragraphs.begin(paragraph, number);
     m_mark = paragraph.mark;
+    m_afterBehind = paragraph.afterAhead != NoLength ? paragraph.after : NoLength;
     m_rowEnds = false;
     writeAnchors(paragraph.anchors);
 }
@@ -223,10 +224,11 @@ void BodyWriter::text(QStringView text, const CharFormat& format) {
     m_paragraphIsEmpty = false;
     change(format);
     breakPage();
-    if (m_symbols == SymbolFont::None)
-        m_out.text(text);
-    else if (format.byNumber)
+    const bool signs = m_symbols != SymbolFont::None;
+    if (signs ? format.byNumber : m_tables.wantsNumbers(format.family))
         m_out.numbers(text);
+    else if (!signs)
+        m_out.text(text);
     else
         m_out.symbols(m_symbols, text);
     writeAnchors(format.anchors);
@@ -274,6 +276,10 @@ void BodyWriter::goTo(const ParagraphFormat& paragraph) {
 void BodyWriter::endLastParagraph() {
     if (!std::exchange(m_paragraphEnds, false))
         return;
+    if (m_afterBehind != NoLength) {
+        m_out.word("\\sa", std::exchange(m_afterBehind, NoLength));
+        m_paragraphs.forget();
+    }
     if (m_mark == NothingKept) {
         m_out.structure("\\par\r\n");
         return;

@@ -101,6 +101,7 @@ private:
         Look look;
         ParagraphFormat paragraph;
         int mark = NothingKept;
+        int afterBehind = NoLength;
         bool paragraphEnds = false;
         bool paragraphIsEmpty = true;
     };
@@ -111,9 +112,10 @@ private:
     SymbolFont m_symbols = SymbolFont::None;
     bool m_paragraphEnds = false; ///< and the word for it is still to come
     bool m_paragraphIsEmpty = true;
-    bool m_pageBreaks = false; ///< ahead of the text that comes next
-    bool m_rowEnds = false;    ///< and nothing has come since
-    int m_mark = NothingKept;  ///< how the paragraph's mark looks, if other than its text
+    bool m_pageBreaks = false;    ///< ahead of the text that comes next
+    int m_afterBehind = NoLength; ///< the space after the paragraph, to be told behind its text
+    bool m_rowEnds = false;       ///< and nothing has come since
+    int m_mark = NothingKept;     ///< how the paragraph's mark looks, if other than its text
 };
 
 } // namespace orvalis::rtf

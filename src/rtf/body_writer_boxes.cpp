@@ -54,6 +54,7 @@ bool BodyWriter::goesOn(const ParagraphFormat& paragraph) const {
         shape.pageBreakBefore = false;
         shape.pageWord = PageWord::OfParagraph;
         shape.anchors = shape.section = shape.mark = NothingKept;
+        shape.afterAhead = NoLength;
         shape.stated = 0;
         shape.list = {};
         return shape;
@@ -66,10 +67,11 @@ void BodyWriter::openBox(const ParagraphFormat& paragraph) {
         beginSection(names().keptAt(paragraph.section));
     else if (paragraph.boxAhead)
         endLastParagraph();
-    m_around = {
-        {m_format, m_stated}, m_paragraphs.last(), m_mark, m_paragraphEnds, m_paragraphIsEmpty};
+    m_around = {{m_format, m_stated}, m_paragraphs.last(), m_mark,
+                m_afterBehind,        m_paragraphEnds,     m_paragraphIsEmpty};
     m_box = paragraph.box;
     m_mark = NothingKept;
+    m_afterBehind = NoLength;
     m_paragraphEnds = false;
     m_paragraphIsEmpty = true;
     m_rowEnds = false;
@@ -86,6 +88,7 @@ void BodyWriter::closeBox() {
     m_stated = m_around.look.stated;
     m_symbols = m_tables.symbolFontOf(m_format.family);
     m_mark = m_around.mark;
+    m_afterBehind = m_around.afterBehind;
     m_paragraphEnds = m_around.paragraphEnds;
     m_paragraphIsEmpty = m_around.paragraphIsEmpty;
     m_rowEnds = false;

@@ -17,6 +17,7 @@ void BodyWriter::beginRow(int row, const ParagraphFormat& first) {
 void BodyWriter::beginCell(int shape, int anchors) {
     endLastParagraph();
     m_mark = NothingKept;
+    m_afterBehind = NoLength;
     writeKept(m_out, m_tables, names().keptAt(shape));
     writeAnchors(anchors);
     m_paragraphs.forget();

@@ -229,6 +229,7 @@ constexpr ControlWord Words[] = {
     {"ud", Action::UnicodeHalf, 0},
     {"shp", Action::ShapeGroup, 0},
     {"shpgrp", Action::ShapeGroup, 0},
+    {"mmath", Action::ShapeGroup, 1},
     {"shpinst", Action::ShapeInstruction, 0},
     {"shptxt", Action::ShapeText, 0},
     {"sp", Action::ShapeProperty, 0},

@@ -87,7 +87,7 @@ enum class Action : quint8 {
     PassThrough, ///< an ignorable group whose content is shown
     UnicodePair,
     UnicodeHalf,
-    ShapeGroup,
+    ShapeGroup, ///< value: 1 for what only its picture shows
     ShapeInstruction,
     ShapeText,
     ShapeProperty,

@@ -75,6 +75,9 @@ enum FormatProperty : int {
     KeptAnchors,
     /// Of a block format: the same, ahead of the paragraph's first character.
     KeptAtStart,
+    /// Of a block format: the space after the paragraph that the file told ahead of its text, where
+    /// it told another one behind it (int, twips).
+    SpaceAfterAhead,
     /// Of a block format that begins a page: how the file tells of that (int, a PageWord,
     /// OfParagraph when absent).
     PageBreakWord,

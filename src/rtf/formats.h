@@ -185,6 +185,8 @@ struct ListLabel {
     bool operator==(const ListLabel&) const = default;
 };
 
+inline constexpr int NoLength = -1;
+
 /// How a paragraph is shaped, lengths in twips.
 struct ParagraphFormat {
     Alignment alignment = Alignment::Left;
@@ -197,6 +199,9 @@ struct ParagraphFormat {
     int right = 0;
     int before = 0;
     int after = 0;
+    /// What stood for after while the text came, where the file told it only behind; some readers
+    /// hold on to that. NoLength where it did not.
+    int afterAhead = NoLength;
     int lineSpacing = 0; ///< 0 automatic, above 0 at least, below 0 exactly
     int kept = NothingKept;
     int anchors = NothingKept; ///< what is kept ahead of its first character

@@ -47,6 +47,8 @@ private:
         Label,
     };
 
+    static constexpr int NoList = -1;
+
     /// What text of one direction has for itself.
     struct Side {
         int font = NoName;
@@ -72,7 +74,7 @@ private:
         bool named = false;  ///< the direction is
         bool parted = false; ///< the two directions are told apart
         int unicodeSkip = 1;
-        int listOverride = 0;
+        int listOverride = NoList;
         int listLevel = 0;
         int fieldsAround = 0;
         int box = NothingKept;   ///< the frame of the text box that the group is, or stands in
@@ -116,6 +118,7 @@ private:
     void unicode(int code);
     void append(QStringView text);
     void prepareText();
+    void beginText();
     void flushText();
     void paragraphEnd();
     void pageEnd();
@@ -250,6 +253,7 @@ private:
     bool m_inRow = false;    ///< a paragraph of the row has ended
     bool m_rowEnds = false;
     bool m_inParagraph = false;
+    int m_afterAhead = 0; ///< the space after the paragraph as its text began
     bool m_pageBreak = false;
     PageWord m_pageWord = PageWord::InFront;
     int m_shapes = 0;      ///< that are kept
@@ -260,6 +264,7 @@ private:
     QString m_anchorsAround;  ///< what comes with the paragraph that has the box ahead
     bool m_pageBreakAround = false;
     QString m_label;
+    ListLabel m_labelList; ///< what was told where that stands, which a brace may end
     SymbolFont m_labelSymbols = SymbolFont::None; ///< that its font is
     ListKind m_lastListKind = ListKind::None;
     ParagraphFormat m_shaped;

@@ -250,6 +250,7 @@ void Interpreter::closeDestination(Destination destination) {
         return;
     case Destination::Label:
         m_label = captured;
+        m_labelList = m_state.paragraph.list;
         m_labelSymbols = symbolFontOf(m_names.familyAt(m_captureFormat.family));
         return;
     default:

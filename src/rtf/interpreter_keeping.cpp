@@ -181,7 +181,8 @@ QString Interpreter::keptOfLists(const Token& token) {
         return {};
     const QByteArrayView content = m_tokenizer.groupAhead();
     m_listKeptTo = m_tokenizer.position() + content.size();
-    const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, m_defaultFont};
+    // Labels are told in the page of the document, whatever its fonts.
+    const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, NoName};
     const QString kept =
         GroupKeeper(content, tables)
             .kept("{\\" + token.bytes.toByteArray(), std::min(LongestList, m_keptLeft));

@@ -78,7 +78,7 @@ void Interpreter::deliverPicture() {
     m_textFormat = m_state.chars;
     m_picture.frame = m_names.keptAt(m_state.frame);
     if (m_sink.picture(m_picture, told(m_state.chars)))
-        m_inParagraph = true;
+        beginText();
     else
         fault(Fault::BadPicture);
     m_picture = {};

@@ -138,7 +138,7 @@ bool Interpreter::paragraphWord(const Token& token) {
         m_state.keptOfParagraph = 0;
         m_state.inTable = false;
         m_state.border = nullptr;
-        m_state.listOverride = 0;
+        m_state.listOverride = NoList;
         m_state.listLevel = 0;
         m_state.tabType = QTextOption::LeftTab;
         m_state.tabLeader = TabLeader::None;
@@ -195,7 +195,9 @@ bool Interpreter::paragraphWord(const Token& token) {
         if (m_state.destination == Destination::ListOverrideTable)
             m_lists.addOverride(token.parameter);
         else
-            m_state.listOverride = token.parameter;
+            // It takes a paragraph out of its list, but for old files that number from there on.
+            m_state.listOverride =
+                token.parameter == 0 && !m_lists.label(0, 0, false) ? NoList : token.parameter;
         return true;
     case Action::ListLevel:
         m_state.listLevel = token.parameter;

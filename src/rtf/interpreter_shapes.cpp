@@ -21,6 +21,8 @@ void Interpreter::keepShape(const Token& token) {
     // A line of the document holds all cells of a row, and a field ends with its paragraph.
     const bool asText =
         m_state.inTable || m_state.chars.link != NoName || m_state.chars.field != NothingKept;
+    if (token.word->value != 0 && scan.shows != ShapeScan::Shows::Picture)
+        return;
     if (scan.shows == ShapeScan::Shows::More || (scan.shows == ShapeScan::Shows::Text && asText))
         return;
     const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, m_defaultFont};

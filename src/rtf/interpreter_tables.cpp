@@ -103,7 +103,7 @@ int Interpreter::cellShape() {
 /// What is kept of a cell's paragraph, its place in a list among it: a cell has no label to show.
 int Interpreter::keptInCell() {
     const auto label = m_lists.label(m_state.listOverride, m_state.listLevel, false);
-    if (m_state.listOverride == 0 || !label || !label->hasTables() || m_keptLeft <= 0)
+    if (m_state.listOverride == NoList || !label || !label->hasTables() || m_keptLeft <= 0)
         return m_state.paragraph.kept;
     const QString list = QStringLiteral("\\ls") + keptList(label->keptList, label->keptOverride) +
                          QStringLiteral("\\ilvl") + QString::number(label->level);
@@ -134,7 +134,7 @@ void Interpreter::rowEnd(bool outermost) {
     const int list = m_state.listOverride;
     if (kept) {
         m_state.paragraph = m_lastOfCell;
-        m_state.listOverride = 0;
+        m_state.listOverride = NoList;
     }
     paragraphEnd();
     m_state.paragraph = behind;

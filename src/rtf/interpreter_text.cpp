@@ -93,6 +93,8 @@ void Interpreter::bytes(QByteArrayView run) {
 /// An instruction or a label is no text of the font of signs that holds around it.
 const CodePage& Interpreter::pageOfText() const {
     const bool toBody = m_state.destination == Destination::Body;
+    if (m_state.destination == Destination::LevelText)
+        return *m_documentPage;
     return toBody || m_state.page->symbols() == SymbolFont::None ? *m_state.page : *m_documentPage;
 }
 
@@ -227,7 +229,12 @@ void Interpreter::prepareText() {
         m_highSurrogate = 0;
         m_text.append(QChar::ReplacementCharacter);
     }
-    m_inParagraph = true;
+    beginText();
+}
+
+void Interpreter::beginText() {
+    if (!std::exchange(m_inParagraph, true))
+        m_afterAhead = m_state.paragraph.after;
 }
 
 void Interpreter::flushText() {
@@ -291,12 +298,15 @@ int Interpreter::lookOfParagraphMark() {
 const ParagraphFormat& Interpreter::shapedParagraph() {
     const bool ofRow = (m_rowEnds || m_state.inTable) && row() != NothingKept;
     const bool besideBox = m_boxDepth > 0 || m_boxEnded;
-    if (!ofRow && m_state.listOverride == 0 && m_label.isEmpty() && !m_pageBreak &&
-        !m_sectionBegins && m_anchorsAtStart.isEmpty() && !besideBox) {
+    const bool toldLate = m_inParagraph && m_state.paragraph.after != m_afterAhead;
+    if (!ofRow && m_state.listOverride == NoList && m_label.isEmpty() && !m_pageBreak &&
+        !m_sectionBegins && m_anchorsAtStart.isEmpty() && !besideBox && !toldLate) {
         m_lastListKind = m_state.paragraph.list.kind;
         return m_state.paragraph;
     }
     m_shaped = m_state.paragraph;
+    if (toldLate)
+        m_shaped.afterAhead = m_afterAhead;
     if (m_pageBreak) {
         m_shaped.pageBreakBefore = true;
         m_shaped.pageWord = m_pageWord;
@@ -311,11 +321,14 @@ const ParagraphFormat& Interpreter::shapedParagraph() {
     const bool numbered = m_shaped.list.kind != ListKind::None;
     const auto known = m_lists.label(m_state.listOverride, m_state.listLevel, numbered);
     ListLabel& list = m_shaped.list;
-    if (m_state.listOverride != 0 && known)
+    if (m_state.listOverride != NoList && known)
         list = *known;
+    else if (list.kind == ListKind::None && !m_label.isEmpty() &&
+             m_labelList.kind != ListKind::None)
+        list = m_labelList;
     else if (list.kind == ListKind::None)
         list = labelFromText(m_label, m_labelSymbols, m_lastListKind);
-    else if (m_state.listOverride != 0) // which goes before the other, though nobody knows it
+    else if (m_state.listOverride != NoList) // which goes before the other, though nobody knows it
         list.source = ListSource::Text;
     m_lastListKind = m_shaped.list.kind;
     if (list.kind != ListKind::None && m_inParagraph)

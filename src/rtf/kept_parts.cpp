@@ -43,6 +43,7 @@ void clearKept(QTextBlockFormat& format) {
     format.clearProperty(TableRow);
     format.clearProperty(RowBegins);
     format.clearProperty(KeptBox);
+    format.clearProperty(SpaceAfterAhead);
     format.clearProperty(GoesOnBehindBox);
     format.clearProperty(StatedOfParagraph);
     format.clearProperty(ParagraphMark);

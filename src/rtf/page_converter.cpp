@@ -78,6 +78,29 @@ const char* converterName(int page) {
     return nullptr;
 }
 
+// What Windows' page for traditional Chinese leaves to its users stands in the area for private
+// use, row by row; the C library has nothing there. 0 for what is of no such row.
+char16_t userCharacter(int page, uchar lead, uchar trail) {
+    struct Rows {
+        uchar first;
+        uchar last;
+        char16_t start;
+    };
+    static constexpr Rows Areas[] = {
+        {0xfa, 0xfe, 0xe000}, {0x8e, 0xa0, 0xe311}, {0x81, 0x8d, 0xeeb8}};
+    constexpr int Half = 0x7f - 0x40;
+    constexpr int Row = Half + 0xff - 0xa1;
+    const bool isLower = trail >= 0x40 && trail < 0x7f;
+    const bool isUpper = trail >= 0xa1 && trail < 0xff;
+    if (page != 950 || (!isLower && !isUpper))
+        return 0;
+    for (const Rows& rows : Areas)
+        if (lead >= rows.first && lead <= rows.last)
+            return char16_t(rows.start + (lead - rows.first) * Row +
+                            (isLower ? trail - 0x40 : Half + trail - 0xa1));
+    return 0;
+}
+
 constexpr const char* Utf16 = Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? "UTF-16LE" : "UTF-16BE";
 
 } // namespace
@@ -87,7 +110,8 @@ bool PageConverter::knows(int page) {
 }
 
 PageConverter::PageConverter(int page)
-    : m_handle(iconv_open(Utf16, converterName(page))) {}
+    : m_page(page)
+    , m_handle(iconv_open(Utf16, converterName(page))) {}
 
 PageConverter::~PageConverter() {
     if (m_handle != iconv_t(-1))
@@ -115,7 +139,13 @@ qsizetype PageConverter::convert(QByteArrayView bytes, QString& text) {
                     qsizetype((sizeof buffer - room) / sizeof(char16_t)));
         if (error == EINVAL)
             break;
-        if (error == EILSEQ) {
+        const char16_t own =
+            error == EILSEQ && left > 1 ? userCharacter(m_page, uchar(at[0]), uchar(at[1])) : u'\0';
+        if (own != 0) {
+            text.append(QChar(own));
+            at += 2;
+            left -= 2;
+        } else if (error == EILSEQ) {
             text.append(QChar::ReplacementCharacter);
             ++at;
             --left;

@@ -26,6 +26,7 @@ private:
 #ifdef Q_OS_WIN
     uint m_page;
 #else
+    int m_page;
     void* m_handle;
 #endif
 };

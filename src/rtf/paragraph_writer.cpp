@@ -165,7 +165,8 @@ void ParagraphWriter::geometry(const ParagraphFormat& paragraph) {
     length("\\li", paragraph.left, stated::Left);
     length("\\ri", paragraph.right, stated::Right);
     length("\\sb", paragraph.before, stated::Before);
-    length("\\sa", paragraph.after, stated::After);
+    const bool late = paragraph.afterAhead != NoLength;
+    length("\\sa", late ? paragraph.afterAhead : paragraph.after, stated::After);
     if (paragraph.lineSpacing != 0 || isStated(stated::LineSpacing)) {
         m_out.word("\\sl", paragraph.lineSpacing);
         m_out.word("\\slmult", paragraph.lineMultiple ? 1 : 0);

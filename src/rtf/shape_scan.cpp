@@ -10,6 +10,8 @@ namespace orvalis::rtf {
 
 namespace {
 
+constexpr QByteArrayView ShownPicture = "pib"; // the property that holds it
+
 /// Reads the tokens of a shape once, with an eye on its texts and pictures.
 class Scan {
 public:
@@ -19,8 +21,10 @@ public:
 
     ShapeScan run() {
         Token token;
-        for (m_tokenizer.next(token); token.kind != TokenKind::End; m_tokenizer.next(token))
+        for (m_tokenizer.next(token); token.kind != TokenKind::End; m_tokenizer.next(token)) {
             take(token);
+            m_starred = token.kind == TokenKind::Symbol && token.byte == '*';
+        }
         ShapeScan scan;
         scan.shows = shows();
         if (scan.shows == ShapeScan::Shows::Nothing)
@@ -46,8 +50,8 @@ private:
                 m_starts.pop_back();
             return;
         case TokenKind::Word:
-            if (token.word && !m_starts.empty())
-                word(*token.word, token.bytes);
+            if (!m_starts.empty())
+                word(token);
             return;
         case TokenKind::Text:
             m_loose |= m_starts.empty() && !token.bytes.trimmed().isEmpty();
@@ -57,21 +61,26 @@ private:
         }
     }
 
-    void word(const ControlWord& word, QByteArrayView name) {
-        if (word.action == Action::ShapeText)
+    void word(const Token& token) {
+        const Action action = token.word ? token.word->action : Action::Version;
+        if (action == Action::ShapeText)
             text();
-        else if (word.action == Action::ShapePropertyName)
+        else if (action == Action::ShapePropertyName)
             m_property = m_tokenizer.groupAhead().trimmed();
-        else if (word.action == Action::PictureGroup)
+        else if (token.bytes == "mmathPict")
+            m_property = ShownPicture;
+        else if (action == Action::PictureGroup)
             picture();
-        else if (name == "shprslt")
+        else if (token.bytes == "shprslt" || action == Action::NoShapePicture)
             pass(m_others);
+        else if (token.bytes == "moMath")
+            m_loose |= !m_starred;
     }
 
     /// What fills an area, say, is none that the text shows.
     void picture() {
         m_loose |= m_property.isEmpty();
-        if (m_property == "pib")
+        if (m_property == ShownPicture)
             pass(m_pictures);
     }
 
@@ -154,6 +163,7 @@ private:
     std::vector<Piece> m_pictures;
     std::vector<Piece> m_others; ///< forms for readers that know no shapes
     QByteArrayView m_property;   ///< the name of the one that came last
+    bool m_starred = false;      ///< the group that begins
     bool m_textEnds = false;     ///< with a paragraph
     bool m_loose = false;        ///< something shows that stands in no part of a shape
 };

@@ -82,6 +82,11 @@ SymbolFont WriterTables::symbolFontOf(int family) const {
     return m_odd.contains(family) ? SymbolFont::None : rtf::symbolFontOf(m_names.familyAt(family));
 }
 
+bool WriterTables::wantsNumbers(int family) const {
+    const QString name = m_names.familyAt(family);
+    return name == "OpenSymbol"_L1 || name == "StarSymbol"_L1;
+}
+
 int WriterTables::color(QRgb color) {
     if (color == AutomaticColor)
         return 0;

@@ -36,6 +36,8 @@ public:
     /// Families that are fonts of signs, or are not, where their names tell otherwise.
     void expectOdd(const QStringList& families);
     SymbolFont symbolFontOf(int family) const;
+    /// Whether other programs take the bytes of a font for codes of its own, whatever its charset.
+    bool wantsNumbers(int family) const;
     /// The number of a colour; 0 is the automatic one.
     int color(QRgb color);
     /// The number of the list of an item; of several lists of bullets with one indent there is one,

@@ -40,6 +40,7 @@ private slots:
     void theFieldOfASignThatIsChangedIsText();
     void aFontKeepsWhetherItIsOneOfSigns();
     void signsThatAreToldByNumberStayNumbers();
+    void aFontThatOthersTakeForOneOfSignsHasItsTextByNumber();
     void fontsAndColoursOfAHeaderAreThoseOfTheNewTables();
     void theDefaultFontOfAHeaderStaysItsFont();
     void aHeaderInOtherLettersKeepsItsText();
@@ -239,6 +240,12 @@ void KeepingTest::signsThatAreToldByNumberStayNumbers() {
     const QByteArray written = changedAndSaved(
         "{\\rtf1{\\fonttbl{\\f0 Arial;}{\\f1\\fcharset2 Symbol;}}word{\\f1 a\\u8721?\\'e5}\\par}");
     QVERIFY2(written.contains("\\'61\\u8721?\\'e5"), written.constData());
+}
+
+void KeepingTest::aFontThatOthersTakeForOneOfSignsHasItsTextByNumber() {
+    const QByteArray written =
+        changedAndSaved("{\\rtf1{\\fonttbl{\\f0 Arial;}{\\f1 OpenSymbol;}}word{\\f1\\'ac}\\par}");
+    QVERIFY2(written.contains("\\f1\\u172?"), written.constData());
 }
 
 void KeepingTest::fontsAndColoursOfAHeaderAreThoseOfTheNewTables() {

@@ -47,11 +47,24 @@ class ListLevelsTest : public QObject {
     Q_OBJECT
 private slots:
     void anItemTellsTheNumbersOfTheLevelsAboveIt();
+    void aLabelIsToldInThePageOfTheDocument();
     void theNumbersAboveAreThoseOfTheLastItems();
     void aLevelWithoutAnItemAboveItCountsFromOne();
     void theLabelsAreWrittenAsTheyAre();
     void aCodeInATextThatIsNoLevelTextIsNoNumber();
 };
+
+void ListLevelsTest::aLabelIsToldInThePageOfTheDocument() {
+    const QByteArray rtf =
+        "{\\rtf1\\ansi\\ansicpg950\\deff0{\\fonttbl{\\f0\\fcharset0 Arial;}}{\\*\\listtable{\\list"
+        "{\\listlevel\\levelnfc0\\levelstartat1{\\leveltext\\'03\\'ab\\'65\\'00.;}"
+        "{\\levelnumbers\\'02;}}\\listid7}}{\\*\\listoverridetable{\\listoverride\\listid7\\ls1}}"
+        "\\pard\\ls1 item\\par}";
+    QCOMPARE(labelsOf(rtf), QStringList{QStringLiteral("\u524d1.")});
+    QTextDocument document;
+    readRtf(rtf, document);
+    QVERIFY(writeRtf(document).contains("{\\leveltext\\'03\\u21069?\\'00.;}"));
+}
 
 void ListLevelsTest::anItemTellsTheNumbersOfTheLevelsAboveIt() {
     QCOMPARE(labelsOf(itemsOf({0, 1, 1, 2, 2, 1})),

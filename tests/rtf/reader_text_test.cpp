@@ -103,6 +103,9 @@ void ReaderTextTest::everyFormOfTextIsRead_data() {
         "{\\object\\objemb{\\*\\objclass P}{\\*\\objdata 00ff}"
         "{\\result{ shown}}}",
         QStringLiteral(" shown"));
+    row("code that a page leaves to its users",
+        "{\\fonttbl{\\f5\\fcharset136 M;}}\\f5\\'84\\'68\\'fa\\'40\\'a0\\'fe\\'84 ",
+        QStringLiteral("\uf0b7\ue000\ueeb7\ufffd "));
     row("text of a shape", "a{\\shp{\\*\\shpinst{\\sp{\\sn a}{\\sv b}}{\\shptxt box}}}b",
         QStringLiteral("a\nbox\nb"));
     row("text of shapes in a group",

@@ -108,6 +108,16 @@ void SayingTest::whatIsSaidStays_data() {
         "{\\*\\pn\\pnlvlbody\\pnindent0\\pnstart1\\pndec{\\pntxta.}}\\f0\\fs24 deed\\par");
     row("label in text alone", "\\pard{\\pntext 4.\\tab}\\fi-360\\li720 word\\par",
         "\\pard{\\pntext 4.\\tab}\\fi-360\\li720\\f0\\fs24 deed\\par");
+    row("\\pn in a group that ends ahead of the paragraph",
+        "\\pard{{\\*\\pn\\pnlvlbody\\pndec\\pnstart3{\\pntxta.}}{\\pntext 3.\\tab}word}\\par",
+        "{\\*\\pn\\pnlvlbody\\pnindent0\\pnstart3\\pndec{\\pntxta.}}\\f0\\fs24 deed");
+    row("list of the number 0",
+        "{\\*\\listtable{\\list{\\listlevel\\levelnfc0{\\leveltext\\'02\\'00.;}{\\levelnumbers\\'"
+        "01;}}"
+        "\\listid5}}{\\*\\listoverridetable{\\listoverride\\listid5\\ls0}}\\pard\\ls0 word\\par",
+        "\\pard{\\listtext 1.\\tab}\\ls1\\ilvl0\\f0\\fs24 deed\\par");
+    row("no list by the number 0", Lists + "\\pard\\ls3\\ls0 word\\par",
+        "\\pard\\f0\\fs24 deed\\par");
     row("room for a number alone", "\\pard{\\*\\pn\\pnlvlcont\\pndec}word\\par",
         "\\pard\\f0\\fs24 deed\\par");
     row("list in a cell",
@@ -115,6 +125,8 @@ void SayingTest::whatIsSaidStays_data() {
         "\\pard\\intbl\\ls1\\ilvl0\\f0\\fs24 deed\\cell\r\n\\pard\\intbl\\ls2\\ilvl0 b\\cell\\row");
     row("label in the look of the mark", Lists + "\\pard\\ls3{\\i word}\\b\\fs30\\par",
         "\\i\\f0\\fs24 deed{\\plain\\b\\f0\\fs30\\par}\r\n");
+    row("space that is told behind the text", "\\pard\\sa60 word\\sa180\\par\\pard\\sa180 b\\par",
+        "\\pard\\sa60\\f0\\fs24 deed\\sa180\\par\r\n\\pard\\sa180 b\\par");
     // Scripts
     row("right to left", "{\\ltrch\\fcs0\\af1\\afs20\\ab\\rtlch\\fcs1\\f2\\fs40 word}\\par",
         "\\pard\\ltrch\\af1\\afs20\\ab\\rtlch\\f2\\fs40 deed\\par");

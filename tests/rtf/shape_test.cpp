@@ -28,6 +28,13 @@ QByteArray box(const QByteArray& text) {
     return Frame + "{\\shptxt" + text + "}}}";
 }
 
+QByteArray pngBytes() {
+    QByteArray png;
+    QBuffer buffer(&png);
+    QImage(4, 3, QImage::Format_RGB32).save(&buffer, "PNG");
+    return png;
+}
+
 QString textOf(const QByteArray& body) {
     QTextDocument document;
     return readRtf(file(body), document).ok() ? document.toPlainText()
@@ -49,6 +56,7 @@ private slots:
     void aBoxStaysWhereItStood();
     void aPictureKeepsTheShapeThatItIs();
     void aPictureThatOnlyFillsAShapeIsNotShown();
+    void aFormulaKeepsWhatItsPictureIsOf();
     void aShapeThatShowsNothingStays();
     void severalTextsOfOneShapeShowWithoutIt();
     void looseTextOfAShapeIsShown();
@@ -119,9 +127,7 @@ void ShapeTest::aPictureKeepsTheShapeThatItIs() {
         return "word" + ahead + "\\picw4\\pich3\\picwgoal60\\pichgoal45 " + bytes.toHex() + behind +
                "b\\par";
     };
-    QByteArray png;
-    QBuffer buffer(&png);
-    QImage(4, 3, QImage::Format_RGB32).save(&buffer, "PNG");
+    const QByteArray png = pngBytes();
     QCOMPARE(textOf(body(png)), QStringLiteral("word\ufffcb"));
     const QByteArray written = saved(body(png));
     QVERIFY2(written.contains("deed" + ahead), written.constData());
@@ -135,6 +141,19 @@ void ShapeTest::aPictureThatOnlyFillsAShapeIsNotShown() {
     const QByteArray shape = Frame + "{\\sp{\\sn fillBlip}{\\sv{\\pict\\pngblip 89504e47}}}}}";
     QCOMPARE(textOf("a" + shape + "b"), QStringLiteral("ab"));
     QVERIFY(saved(" word" + shape + "\\par").contains("deed" + shape + "\\par"));
+}
+
+void ShapeTest::aFormulaKeepsWhatItsPictureIsOf() {
+    const QByteArray ahead = "{\\mmath{\\*\\moMath{\\mr\\mscr0 x}}{\\mmathPict{\\*\\shppict";
+    const QByteArray body = "word" + ahead +
+                            "{\\pict\\pngblip\\picw4\\pich3\\picwgoal60\\pichgoal45 " +
+                            pngBytes().toHex() + "}}}}b\\par";
+    QCOMPARE(textOf(body), QStringLiteral("word\ufffcb"));
+    const QByteArray written = saved(body);
+    QVERIFY2(written.contains("deed" + ahead + "{\\pict"), written.constData());
+    QVERIFY2(written.contains("}}}}b\\par"), written.constData());
+    // Without a picture its text shows.
+    QCOMPARE(textOf("a{\\mmath{\\moMath x}}"), QStringLiteral("ax"));
 }
 
 void ShapeTest::aShapeThatShowsNothingStays() {

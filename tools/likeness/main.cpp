@@ -8,7 +8,10 @@
 // takes all RTF files of a folder, in any depth, and has LibreOffice (soffice) make PDF and text of
 // each, and of what the program writes of it. Prints a line for each file that differs, and totals:
 // whether the text and the number of pages are equal, and the share of characters with the same
-// font, size, weight, colour, and place within two points. Then the same for the program's own
+// font, size, weight, colour, and place within two points. Files that are broken, so that no two
+// programs read them alike (a brace too many, cells without a row, halves of characters), count
+// among all, but those that differ are told with what is wrong in them, and the texts of the sound
+// files are told once more by themselves. Then the same for the program's own
 // pages: of the files without a table, text box or lines from top to bottom, those whose words
 // stand on the first page where LibreOffice sets them, each left edge within six points, in the
 // same order down the page. For that, LibreOffice is given the files without their footnotes, which
@@ -24,6 +27,7 @@
 #include "own_pages.h"
 #include "rtf/reader.h"
 #include "rtf/writer.h"
+#include "unsound.h"
 
 #include <QApplication>
 #include <QDir>
@@ -65,7 +69,8 @@ void useFontsOfOffice(const QTemporaryDir& folder) {
 
 struct Sample {
     QString name;
-    QString label; ///< of the files that are made of it
+    QString label;   ///< of the files that are made of it
+    QString unsound; ///< what is broken in it
     bool aside = false;
     double top = 0; ///< of the text on a page, in points
     double bottom = 0;
@@ -109,9 +114,11 @@ private:
             if (m_onlyOwn && standsAside(bytes))
                 continue;
             QTextDocument document;
-            if (rtf::readRtf(bytes, document).fault == rtf::Fault::NotRtf)
+            const rtf::Fault fault = rtf::readRtf(bytes, document).fault;
+            if (fault == rtf::Fault::NotRtf)
                 continue;
-            Sample sample{name, QString(name).replace(u'/', u'~').chopped(4), standsAside(bytes)};
+            Sample sample{name, QString(name).replace(u'/', u'~').chopped(4),
+                          unsoundness(bytes, fault), standsAside(bytes)};
             const QRectF area = textArea(bytes);
             sample.top = area.top() / TwipsPerPoint;
             sample.bottom = area.bottom() / TwipsPerPoint;
@@ -200,17 +207,21 @@ private:
             folded(QString::fromUtf8(contentOf(path(u"written-txt"_s, sample, u".txt"_s))));
         if (given.isEmpty())
             return;
+        const bool isSound = sample.unsound.isEmpty();
         ++m_texts;
+        m_soundTexts += isSound;
         if (given == written) {
             ++m_sameTexts;
+            m_sameSoundTexts += isSound;
             return;
         }
+        const QString broken = isSound ? QString() : u" (broken: "_s + sample.unsound + u')';
         const auto ends = std::mismatch(given.begin(), given.end(), written.begin(), written.end());
         const qsizetype at = ends.first - given.begin();
         const qsizetype from = std::max<qsizetype>(at - 20, 0);
-        std::printf("TEXT\t%s\tat %lld: \"%s\", then \"%s\"\n", qUtf8Printable(sample.name),
+        std::printf("TEXT\t%s\tat %lld: \"%s\", then \"%s\"%s\n", qUtf8Printable(sample.name),
                     static_cast<long long>(at), qUtf8Printable(given.mid(from, 60)),
-                    qUtf8Printable(written.mid(from, 60)));
+                    qUtf8Printable(written.mid(from, 60)), qUtf8Printable(broken));
     }
 
     void measureOwn(const Sample& sample, const QString& givenPdf) {
@@ -244,6 +255,8 @@ private:
         };
         if (!m_onlyOwn) {
             line("what we write: text equal, of the files with a text", {m_sameTexts, m_texts});
+            line("text equal, of those among them that are not broken",
+                 {m_sameSoundTexts, m_soundTexts});
             line("pages equal", {m_samePages, m_files});
             line("characters with the same font", m_likeness.font);
             line("characters with the same size", m_likeness.size);
@@ -263,6 +276,8 @@ private:
     qint64 m_files = 0;
     qint64 m_texts = 0;
     qint64 m_sameTexts = 0;
+    qint64 m_soundTexts = 0;
+    qint64 m_sameSoundTexts = 0;
     qint64 m_samePages = 0;
     qint64 m_own = 0;
     qint64 m_ownAlike = 0;

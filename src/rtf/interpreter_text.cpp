@@ -210,8 +210,7 @@ void Interpreter::unicode(int code) {
         return;
     }
     const bool ofSigns = m_state.destination == Destination::Body &&
-                         m_state.page->symbols() != SymbolFont::None &&
-                         privateByte(char32_t(code)) == 0;
+                         m_state.symbols != SymbolFont::None && privateByte(char32_t(code)) == 0;
     m_state.chars.byNumber = ofSigns;
     append(QChar::fromUcs4(char32_t(code)));
     m_state.chars.byNumber = false;

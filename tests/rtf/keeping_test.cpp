@@ -240,6 +240,11 @@ void KeepingTest::signsThatAreToldByNumberStayNumbers() {
     const QByteArray written = changedAndSaved(
         "{\\rtf1{\\fonttbl{\\f0 Arial;}{\\f1\\fcharset2 Symbol;}}word{\\f1 a\\u8721?\\'e5}\\par}");
     QVERIFY2(written.contains("\\'61\\u8721?\\'e5"), written.constData());
+    // One of two entries does not make the font one of signs, but the other does.
+    const QByteArray both =
+        changedAndSaved("{\\rtf1{\\fonttbl{\\f0 Arial;}{\\f1\\fcharset2 Symbol;}"
+                        "{\\f2\\fcharset1 Symbol;}}word{\\f1 a}{\\f2\\u176?}\\par}");
+    QVERIFY2(both.contains("\\'61\\u176?"), both.constData());
 }
 
 void KeepingTest::aFontThatOthersTakeForOneOfSignsHasItsTextByNumber() {

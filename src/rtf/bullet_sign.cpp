@@ -9,7 +9,7 @@ namespace {
 constexpr char32_t Dot = 0x2022;
 // Outside a font of signs, too, it is the code that such a font has its dot at.
 constexpr char32_t MiddleDot = 0xb7;
-constexpr char32_t FirstCode = 0x21;
+constexpr char32_t FirstSignCode = 0x21;
 constexpr char32_t LastCode = 0xff;
 
 // The arrow head of Wingdings, and what looks like it and is in far more fonts.
@@ -32,7 +32,7 @@ QString bulletSign(const QString& label, SymbolFont font) {
         return {};
     char32_t sign = text.front().unicode();
     const uchar byte = privateByte(sign);
-    if (font != SymbolFont::None && (byte || (sign >= FirstCode && sign <= LastCode)))
+    if (font != SymbolFont::None && (byte || (sign >= FirstSignCode && sign <= LastCode)))
         sign = symbolCharacter(font, byte ? byte : uchar(sign));
     if (sign == LateArrowHead)
         sign = ArrowHead;

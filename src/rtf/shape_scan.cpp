@@ -13,9 +13,9 @@ namespace {
 constexpr QByteArrayView ShownPicture = "pib"; // the property that holds it
 
 /// Reads the tokens of a shape once, with an eye on its texts and pictures.
-class Scan {
+class ShapeTokens {
 public:
-    explicit Scan(QByteArrayView content)
+    explicit ShapeTokens(QByteArrayView content)
         : m_content(content)
         , m_tokenizer(content) {}
 
@@ -171,7 +171,7 @@ private:
 } // namespace
 
 ShapeScan scanShape(QByteArrayView content) {
-    return Scan(content).run();
+    return ShapeTokens(content).run();
 }
 
 } // namespace orvalis::rtf

@@ -82,6 +82,8 @@ void BodyWriter::openBox(const ParagraphFormat& paragraph) {
 
 /// What ends the last paragraph of a box, if anything does, is part of the frame.
 void BodyWriter::closeBox() {
+    if (m_afterBehind != NoLength)
+        m_out.word("\\sa", m_afterBehind);
     writeKept(m_out, m_tables, frameOf(names().keptAt(m_box)).behind);
     m_box = NothingKept;
     m_format = m_around.look.format;

@@ -297,7 +297,7 @@ int Interpreter::lookOfParagraphMark() {
 const ParagraphFormat& Interpreter::shapedParagraph() {
     const bool ofRow = (m_rowEnds || m_state.inTable) && row() != NothingKept;
     const bool besideBox = m_boxDepth > 0 || m_boxEnded;
-    const bool toldLate = m_inParagraph && m_state.paragraph.after != m_afterAhead;
+    const bool toldLate = !ofRow && m_inParagraph && m_state.paragraph.after != m_afterAhead;
     if (!ofRow && m_state.listOverride == NoList && m_label.isEmpty() && !m_pageBreak &&
         !m_sectionBegins && m_anchorsAtStart.isEmpty() && !besideBox && !toldLate) {
         m_lastListKind = m_state.paragraph.list.kind;

@@ -4,6 +4,7 @@
 
 #include "rtf/tokenizer.h"
 
+#include <utility>
 #include <vector>
 
 namespace orvalis::rtf {
@@ -104,13 +105,18 @@ private:
         qsizetype end = 0;
         bool any = false;
         bool ended = false;
+        bool starred = false;
         for (inner.next(token); token.kind != TokenKind::End; inner.next(token)) {
+            const bool isUnknown = token.kind == TokenKind::Word && !token.word;
+            if (std::exchange(starred, false) && isUnknown)
+                inner.skipGroup();
+            starred = token.kind == TokenKind::Symbol && token.byte == '*';
             end = inner.position();
             const bool isWord = token.kind == TokenKind::Word && token.word;
             const Action action = isWord ? token.word->action : Action::Version;
             const bool shown = token.kind == TokenKind::Text || token.kind == TokenKind::Byte ||
                                action == Action::Character || action == Action::Unicode ||
-                               action == Action::PictureGroup;
+                               action == Action::PictureGroup || action == Action::CellEnd;
             any |= shown;
             if (action == Action::ParagraphEnd)
                 ended = true;

@@ -127,6 +127,10 @@ void SayingTest::whatIsSaidStays_data() {
         "\\i\\f0\\fs24 deed{\\plain\\b\\f0\\fs30\\par}\r\n");
     row("space that is told behind the text", "\\pard\\sa60 word\\sa180\\par\\pard\\sa180 b\\par",
         "\\pard\\sa60\\f0\\fs24 deed\\sa180\\par\r\n\\pard\\sa180 b\\par");
+    row("space that cells tell one behind the other",
+        "\\trowd\\cellx900\\cellx1800\\pard\\intbl\\sa60 word\\cell\\pard\\intbl\\sa180 "
+        "b\\cell\\row",
+        "\\pard\\intbl\\sa60\\f0\\fs24 deed\\cell\r\n\\pard\\intbl\\sa180 b\\cell\\row");
     // Scripts
     row("right to left", "{\\ltrch\\fcs0\\af1\\afs20\\ab\\rtlch\\fcs1\\f2\\fs40 word}\\par",
         "\\pard\\ltrch\\af1\\afs20\\ab\\rtlch\\f2\\fs40 deed\\par");

@@ -107,6 +107,12 @@ void ShapeTest::aBoxStaysWhereItStood_data() {
         "deed" + shape + " b}}}" + shape + " c}}}\\par");
     row("with a table", "word" + box("\\trowd\\cellx99\\intbl b\\cell\\row\\pard c") + "\\par",
         "\\trowd\\cellx99\\pard\\intbl\\f0 b\\cell\\row\\pard c}}}\\par");
+    row("with cells that are empty",
+        "word" + box("\\trowd\\cellx99\\cellx200\\intbl{\\*\\unknown x}\\cell\\cell\\row") +
+            "\\par",
+        "\\cell\\pard\\intbl\\cell\\row}}}\\par");
+    row("space told behind its text", "word" + box("\\sa60 b\\sa180") + "\\par",
+        "\\pard\\sa60\\f0 b\\sa180}}}\\par");
     row("text in it is changed", "a" + box(" word") + "\\par", "a" + shape + " deed}}}\\par");
     row("ahead of a break of a page", "word" + box(" b") + "\\page c\\par",
         "deed" + shape + " b}}}\\par\\pard\\page c\\par");

@@ -40,6 +40,7 @@ void BodyWriter::beginParagraph(const ParagraphFormat& paragraph, int number) {
     const bool between = breaks && paragraph.pageWord == PageWord::Between && m_paragraphEnds &&
                          paragraph.section == NothingKept && paragraph.box == m_box;
     if (between) {
+        tellAfter();
         m_paragraphEnds = false;
         m_out.structure("\\page\r\n");
     }
@@ -273,13 +274,18 @@ void BodyWriter::goTo(const ParagraphFormat& paragraph) {
     m_paragraphIsEmpty = true;
 }
 
+/// The space after a paragraph that is told behind its text.
+void BodyWriter::tellAfter() {
+    if (m_afterBehind == NoLength)
+        return;
+    m_out.word("\\sa", std::exchange(m_afterBehind, NoLength));
+    m_paragraphs.forget();
+}
+
 void BodyWriter::endLastParagraph() {
     if (!std::exchange(m_paragraphEnds, false))
         return;
-    if (m_afterBehind != NoLength) {
-        m_out.word("\\sa", std::exchange(m_afterBehind, NoLength));
-        m_paragraphs.forget();
-    }
+    tellAfter();
     if (m_mark == NothingKept) {
         m_out.structure("\\par\r\n");
         return;
@@ -294,6 +300,7 @@ void BodyWriter::beginSection(QStringView text) {
     const bool endsFirst = text.startsWith(ParagraphEndsFirst);
     if (endsFirst || m_paragraphIsEmpty)
         endLastParagraph();
+    tellAfter();
     m_paragraphEnds = false;
     // Many readers end a table at its paragraphs only.
     if (std::exchange(m_rowEnds, false))

@@ -59,6 +59,7 @@ private:
     /// What is kept, on lines of its own.
     QByteArray kept(QStringView text);
     void endLastParagraph();
+    void tellAfter();
     void breakPage();
     bool fieldShows(QStringView text, const CharFormat& format);
     bool goToBox(const ParagraphFormat& paragraph);

@@ -67,6 +67,8 @@ void BodyWriter::openBox(const ParagraphFormat& paragraph) {
         beginSection(names().keptAt(paragraph.section));
     else if (paragraph.boxAhead)
         endLastParagraph();
+    else
+        tellAfter();
     m_around = {{m_format, m_stated}, m_paragraphs.last(), m_mark,
                 m_afterBehind,        m_paragraphEnds,     m_paragraphIsEmpty};
     m_box = paragraph.box;
@@ -82,9 +84,12 @@ void BodyWriter::openBox(const ParagraphFormat& paragraph) {
 
 /// What ends the last paragraph of a box, if anything does, is part of the frame.
 void BodyWriter::closeBox() {
-    if (m_afterBehind != NoLength)
-        m_out.word("\\sa", m_afterBehind);
-    writeKept(m_out, m_tables, frameOf(names().keptAt(m_box)).behind);
+    const QString behind = frameOf(names().keptAt(m_box)).behind;
+    tellAfter();
+    // Nothing else would tell of a paragraph without text.
+    if (m_paragraphEnds && m_paragraphIsEmpty && !behind.startsWith(u"\\par"))
+        m_out.word("\\par");
+    writeKept(m_out, m_tables, behind);
     m_box = NothingKept;
     m_format = m_around.look.format;
     m_stated = m_around.look.stated;

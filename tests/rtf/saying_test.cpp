@@ -127,6 +127,9 @@ void SayingTest::whatIsSaidStays_data() {
         "\\i\\f0\\fs24 deed{\\plain\\b\\f0\\fs30\\par}\r\n");
     row("space that is told behind the text", "\\pard\\sa60 word\\sa180\\par\\pard\\sa180 b\\par",
         "\\pard\\sa60\\f0\\fs24 deed\\sa180\\par\r\n\\pard\\sa180 b\\par");
+    row("space that is told ahead of a break",
+        "\\pard\\sa60 word\\sa180\\page b\\sa90\\sect c\\par",
+        "\\sa60\\f0\\fs24 deed\\sa180\\page\r\n\\pard\\sa180 b\\sa90\\sect");
     row("space that cells tell one behind the other",
         "\\trowd\\cellx900\\cellx1800\\pard\\intbl\\sa60 word\\cell\\pard\\intbl\\sa180 "
         "b\\cell\\row",

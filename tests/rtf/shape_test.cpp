@@ -64,6 +64,7 @@ private slots:
     void theFormForOldReadersIsLeftOut();
     void aBoxThatRunsIntoTheTextAheadIsDissolved();
     void whatComesBehindABoxLooksAsAheadOfIt();
+    void anEmptyParagraphAtTheEndOfABoxStays();
     void aBoxAtTheStartOfASectionStandsInIt();
     void shapesInsideShapesCostNoMoreThanTheirBytes();
 };
@@ -111,6 +112,8 @@ void ShapeTest::aBoxStaysWhereItStood_data() {
         "word" + box("\\trowd\\cellx99\\cellx200\\intbl{\\*\\unknown x}\\cell\\cell\\row") +
             "\\par",
         "\\cell\\pard\\intbl\\cell\\row}}}\\par");
+    row("space told behind the text ahead of it", "\\sa60 word\\sa180" + box(" b") + "\\par",
+        "\\pard\\sa60\\f0\\fs24 deed\\sa180" + shape.chopped(3) + "\\sa180\\f0 b}}}\\par");
     row("space told behind its text", "word" + box("\\sa60 b\\sa180") + "\\par",
         "\\pard\\sa60\\f0 b\\sa180}}}\\par");
     row("text in it is changed", "a" + box(" word") + "\\par", "a" + shape + " deed}}}\\par");
@@ -206,6 +209,19 @@ void ShapeTest::whatComesBehindABoxLooksAsAheadOfIt() {
     const QByteArray written = saved("\\b word" + box("\\i b") + "c\\par d\\par");
     QVERIFY2(written.contains("\\b\\f0\\fs24 deed"), written.constData());
     QVERIFY2(written.contains("\\b\\i\\f0 b}}}c\\par\\pard d\\par"), written.constData());
+}
+
+void ShapeTest::anEmptyParagraphAtTheEndOfABoxStays() {
+    QTextDocument document;
+    readRtf(file("a" + box(" b") + "c\\par"), document);
+    QTextCursor cursor(document.firstBlock().next());
+    cursor.movePosition(QTextCursor::EndOfBlock);
+    cursor.insertBlock();
+    const QByteArray written = writeRtf(document);
+    QTextDocument again;
+    readRtf(written, again);
+    QCOMPARE(again.toPlainText(), QStringLiteral("a\nb\n\nc"));
+    QCOMPARE(writeRtf(again), written);
 }
 
 void ShapeTest::aBoxAtTheStartOfASectionStandsInIt() {

@@ -261,9 +261,8 @@ void DocumentSink::insertParagraph(const ParagraphFormat& paragraph, const CharF
     }
     if (first && m_textBefore)
         insertRuns(paragraphShape(m_cursor.blockFormat()));
-    else if (first && m_textBehind) // which shape it will have shows later
-        insertRuns(higherShape(paragraphShape(m_cursor.blockFormat()), m_shape));
-    else if (paragraph.list.kind != ListKind::None) // whose label takes room
+    else if ((first && m_textBehind) ||             // which shape it will have shows later
+             paragraph.list.kind != ListKind::None) // whose label takes room
         insertRuns(higherShape(paragraphShape(m_cursor.blockFormat()), m_shape));
     else
         insertRuns(m_shape);

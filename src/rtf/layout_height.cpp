@@ -16,6 +16,9 @@ namespace {
 
 constexpr double PixelsPerPoint = 96.0 / 72;
 constexpr double LineOfSize = 1.5;
+// What reaches up and what reaches down are whole pixels each, which tells where letters are tiny.
+constexpr double TinyLineOfSize = 1.2;
+constexpr double TinyLine = 2;
 constexpr double LinesOfFullOnes = 2; // where a word that does not fit leaves most of a line empty
 constexpr double ListStep = 40;       // pixels by which a list may stand further in
 /// What a guess may fall short by.
@@ -72,7 +75,8 @@ bool standsAsItsFontHasIt(const QTextCharFormat& format) {
 LetterHeight letterHeight(const QTextCharFormat& format, const QFont& defaultFont) {
     const double size = pixelSize(format, defaultFont);
     const double wider = std::max(1.0, format.fontStretch() / 100.0);
-    return {size * wider, size * (LineOfSize + std::abs(format.baselineOffset()) / 100)};
+    const double line = std::max(size * LineOfSize, size * TinyLineOfSize + TinyLine);
+    return {size * wider, line + size * std::abs(format.baselineOffset()) / 100};
 }
 
 LetterHeight measuredHeight(const QTextCharFormat& format, const QFont& defaultFont) {

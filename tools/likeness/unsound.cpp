@@ -23,27 +23,36 @@ public:
         for (tokenizer.next(token); token.kind != rtf::TokenKind::End && m_found.isEmpty();
              tokenizer.next(token))
             if (token.kind == rtf::TokenKind::GroupStart)
-                m_groups.push_back(m_inTable);
+                m_groups.push_back(m_state);
             else if (token.kind == rtf::TokenKind::GroupEnd && !m_groups.empty())
                 closeGroup();
             else if (token.kind == rtf::TokenKind::Word && token.word)
                 word(token);
+            else if (token.kind == rtf::TokenKind::Text)
+                text(token.bytes.size());
+            else if (token.kind == rtf::TokenKind::Byte)
+                text(1);
         return m_found;
     }
 
 private:
+    struct State {
+        bool inTable = false;
+        int unicodeSkip = 1;
+    };
+
     void closeGroup() {
-        m_inTable = m_groups.back();
+        m_state = m_groups.back();
         m_groups.pop_back();
     }
 
     void word(const rtf::Token& token) {
         switch (token.word->action) {
         case rtf::Action::PlainParagraph:
-            m_inTable = false;
+            m_state.inTable = false;
             return;
         case rtf::Action::InTable:
-            m_inTable = true;
+            m_state.inTable = true;
             return;
         case rtf::Action::RowDefaults:
             m_ends = 0;
@@ -58,6 +67,9 @@ private:
         case rtf::Action::RowEnd:
             m_cells = 0;
             return;
+        case rtf::Action::UnicodeSkip:
+            m_state.unicodeSkip = token.hasParameter ? token.parameter : 1;
+            return;
         case rtf::Action::Unicode:
             half(char32_t(token.parameter < 0 ? token.parameter + 0x10000 : token.parameter));
             return;
@@ -69,7 +81,7 @@ private:
     void cell() {
         if (m_ends == 0)
             m_found = u"cells without a row"_s;
-        else if (!m_inTable)
+        else if (!m_state.inTable)
             m_found = u"cells outside of a table"_s;
         else if (++m_cells > m_ends)
             m_found = u"more cells than the row has"_s;
@@ -80,13 +92,22 @@ private:
         if (second != m_half)
             m_found = u"halves of characters"_s;
         m_half = QChar::isHighSurrogate(unit);
+        m_toSkip = m_state.unicodeSkip;
+    }
+
+    /// Text between the two halves of a character parts them, but for what stands for the first.
+    void text(qsizetype length) {
+        if (m_half && length > m_toSkip)
+            m_found = u"halves of characters"_s;
+        m_toSkip -= length;
     }
 
     QString m_found;
-    std::vector<bool> m_groups; ///< whether what stands around them is in a table
-    bool m_inTable = false;
-    bool m_half = false; ///< the first one of a character has come
-    int m_ends = 0;      ///< of cells, that the row tells
+    State m_state;
+    std::vector<State> m_groups; ///< what stands around them
+    bool m_half = false;         ///< the first one of a character has come
+    qsizetype m_toSkip = 0;
+    int m_ends = 0; ///< of cells, that the row tells
     int m_cells = 0;
 };
 

@@ -124,6 +124,8 @@ void Interpreter::decode(QByteArrayView run) {
         }
         table = CodePage::forNumber(Latin1Page).table();
     }
+    // A font that is named as one of signs, but is none by its page, has letters at its bytes.
+    m_state.chars.byNumber = toBody && m_state.symbols != SymbolFont::None;
     if (toBody)
         prepareText();
     else
@@ -140,6 +142,7 @@ void Interpreter::decode(QByteArrayView run) {
     // A byte below a blank can only stand alone, written as a code.
     if (run.size() == 1 && toBody)
         out[-1] = QChar(harmless(out[-1].unicode()));
+    m_state.chars.byNumber = false;
 }
 
 void Interpreter::flushPending() {

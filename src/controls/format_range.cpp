@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "controls/format_range.h"
 
+#include "controls/break_guides.h"
+#include "controls/layout_ruler.h"
 #include "controls/list_numbers.h"
 #include "controls/rich_text_box.h"
 #include "controls/tab_leaders.h"
@@ -33,39 +35,6 @@ constexpr double MostDots = 0.75 * rtf::EndlessHeight;
 /// widths may be whole numbers.
 constexpr double WiderInFineDots = 1.25;
 
-/// What a layout is measured by, whose dots are no device's.
-class Ruler final : public QPaintDevice {
-public:
-    /// \param dots to the inch
-    explicit Ruler(int dots)
-        : m_dots(dots) {}
-
-    QPaintEngine* paintEngine() const override { return nullptr; }
-
-protected:
-    int metric(PaintDeviceMetric which) const override {
-        switch (which) {
-        case PdmDpiX:
-        case PdmPhysicalDpiX:
-        case PdmDpiY:
-        case PdmPhysicalDpiY:
-            return m_dots;
-        case PdmDevicePixelRatio:
-            return 1;
-        case PdmDevicePixelRatioScaled:
-            return int(devicePixelRatioFScale());
-        default:
-            return 0;
-        }
-    }
-
-private:
-    int m_dots;
-};
-
-/// Forbids a break, and is in more fonts than what is there for nothing else.
-constexpr char16_t Joiner = 0x200d;
-
 /// The dots of the layout: with one to the twip every size of letters is a whole number of them, so
 /// that lines break where they do on every other printer.
 constexpr int LayoutDots = 1440;
@@ -79,14 +48,6 @@ int scaledDown(double factor) {
     constexpr int DotsOfWholePoints = 72;
     const int dots = std::max(1, int(LayoutDots * factor));
     return dots > DotsOfWholePoints ? dots - dots % DotsOfWholePoints : dots;
-}
-
-/// Whether a character looks alike with a joiner ahead of it, which letters of other scripts do
-/// not.
-bool standsAlone(QChar c) {
-    const QChar::Script script = c.script();
-    return c.isDigit() || script == QChar::Script_Latin || script == QChar::Script_Greek ||
-           script == QChar::Script_Cyrillic;
 }
 
 /// The size of a picture in logical pixels as the layout will take it.
@@ -135,14 +96,14 @@ int RangeFormatter::FormatPage(const FormatRange& range) {
 }
 
 int RangeFormatter::inCopy(int position) const {
-    const auto behind = std::upper_bound(m_joined.begin(), m_joined.end(), position);
-    return position + int(behind - m_joined.begin());
+    const auto behind = std::upper_bound(m_guides.begin(), m_guides.end(), position);
+    return position + int(behind - m_guides.begin());
 }
 
 int RangeFormatter::inDocument(int position) const {
-    const auto isAhead = [&](const int& at) { return at + int(&at - m_joined.data()) < position; };
-    const auto behind = std::partition_point(m_joined.begin(), m_joined.end(), isAhead);
-    return position - int(behind - m_joined.begin());
+    const auto isAhead = [&](const int& at) { return at + int(&at - m_guides.data()) < position; };
+    const auto behind = std::partition_point(m_guides.begin(), m_guides.end(), isAhead);
+    return position - int(behind - m_guides.begin());
 }
 
 void RangeFormatter::prepare(const FormatRange& range) {
@@ -166,8 +127,9 @@ void RangeFormatter::prepare(const FormatRange& range) {
     m_copy->setDefaultTextOption(option);
     m_marginDots = PixelsPerInch;
     standAcrossMargin(range.rect.left());
-    joinAtSlashes();
+    guideBreaks();
     shrinkPictures(page / TwipsPerPixel);
+    goOnBeyondMargins(range.rect.left());
     tell(0);
     layOut();
     collectLines();
@@ -175,8 +137,8 @@ void RangeFormatter::prepare(const FormatRange& range) {
 
 /// Lays the copy out in dots of its own, or in the smallest larger ones that are few enough.
 void RangeFormatter::layOut() {
-    const double width = m_page.width() / TwipsPerPixel;
-    const double narrow = width > 0 ? std::max(1.0, rtf::NarrowestBox / width) : 1;
+    const double pixels = width() / TwipsPerPixel;
+    const double narrow = pixels > 0 ? std::max(1.0, rtf::NarrowestBox / pixels) : 1;
     // In a narrower line the share that no word fills is larger.
     const double told = rtf::documentHeight(*m_copy) * narrow * narrow * WiderInFineDots *
                         LayoutDots / PixelsPerInch;
@@ -199,32 +161,58 @@ void RangeFormatter::layOut() {
 double RangeFormatter::layOut(int dots, std::pair<double, double> part) {
     m_counted = dots;
     countMargins(dots);
-    auto ruler = std::make_unique<Ruler>(dots);
+    auto ruler = std::make_unique<LayoutRuler>(dots);
     m_copy->documentLayout()->setPaintDevice(ruler.get());
     m_ruler = std::move(ruler);
-    m_copy->setTextWidth((m_page.width() + Slack) * dots / TwipsPerInch);
+    m_copy->setTextWidth((width() + Slack) * dots / TwipsPerInch);
     layOutToEnd(part);
     return m_copy->documentLayout()->documentSize().height();
 }
 
-/// An address that fits into a line stays whole, as word processors keep it: behind its slashes
-/// stands what forbids a break.
-void RangeFormatter::joinAtSlashes() {
-    constexpr size_t MostJoined = 20'000; // more than a text of addresses has
-    m_joined.clear();
-    for (QTextBlock block = m_copy->begin(); block.isValid(); block = block.next()) {
-        const QString text = block.text();
-        for (qsizetype at = text.indexOf(u'/'); at >= 0; at = text.indexOf(u'/', at + 1))
-            if (at + 1 < text.size() && standsAlone(text[at + 1]) && m_joined.size() < MostJoined)
-                m_joined.push_back(block.position() + int(at) + 1);
-    }
+/// Makes the copy's lines break where word processors break them.
+void RangeFormatter::guideBreaks() {
+    constexpr size_t MostGuides = 20'000; // more than a text of addresses has
+    std::vector<BreakGuide> guides;
+    for (QTextBlock block = m_copy->begin(); block.isValid(); block = block.next())
+        for (const BreakGuide& guide : breakGuides(block.text()))
+            if (guides.size() < MostGuides)
+                guides.push_back({block.position() + guide.position, guide.sign});
+    m_guides.clear();
+    for (const BreakGuide& guide : guides)
+        m_guides.push_back(guide.position);
     QTextCursor edit(m_copy.get());
     edit.beginEditBlock();
-    for (auto place = m_joined.crbegin(); place != m_joined.crend(); ++place) {
-        edit.setPosition(*place);
-        edit.insertText(QString(QChar(Joiner)));
+    for (auto guide = guides.crbegin(); guide != guides.crend(); ++guide) {
+        edit.setPosition(guide->position);
+        edit.insertText(QString(QChar(guide->sign)));
     }
     edit.endEditBlock();
+}
+
+/// Lines that stand beyond the margins have room there on paper, where the layout gives them none:
+/// the copy becomes as much wider as they need it, with that much more of a margin on each side.
+/// \param room twips beyond each margin.
+void RangeFormatter::goOnBeyondMargins(qreal room) {
+    qreal left = 0; // pixels
+    qreal right = 0;
+    for (QTextBlock block = m_copy->begin(); block.isValid(); block = block.next()) {
+        left = std::max(left, -block.blockFormat().leftMargin());
+        right = std::max(right, -block.blockFormat().rightMargin());
+    }
+    left = std::min(left, room / TwipsPerPixel);
+    right = std::min(right, room / TwipsPerPixel);
+    m_leftBeyond = left * TwipsPerPixel;
+    m_rightBeyond = right * TwipsPerPixel;
+    if (left > 0 || right > 0)
+        changeParagraphs([left, right](QTextBlockFormat& paragraph) {
+            paragraph.setLeftMargin(std::max(0.0, paragraph.leftMargin() + left));
+            paragraph.setRightMargin(std::max(0.0, paragraph.rightMargin() + right));
+        });
+}
+
+/// \returns how wide the copy is, in twips.
+qreal RangeFormatter::width() const {
+    return m_leftBeyond + m_page.width() + m_rightBeyond;
 }
 
 /// What has no room on the screen left of the margin has it on paper.
@@ -364,11 +352,12 @@ void RangeFormatter::draw(const FormatRange& range, const Line& first, const Lin
                           int to) {
     QPainter& painter = *range.painter;
     const qreal units = m_counted / TwipsPerInch;
-    const QRectF band(-range.rect.left() * units, first.top,
-                      (range.rect.right() + range.rect.left()) * units, last.bottom - first.top);
+    const qreal left = (range.rect.left() - m_leftBeyond) * units;
+    const QRectF band(-left, first.top, (range.rect.right() + range.rect.left()) * units,
+                      last.bottom - first.top);
     painter.save();
     painter.scale(qreal(m_dots.width()) / m_counted, qreal(m_dots.height()) / m_counted);
-    painter.translate(range.rect.left() * units, range.rect.top() * units - first.top);
+    painter.translate(left, range.rect.top() * units - first.top);
     painter.setClipRect(band, Qt::IntersectClip);
     const bool cutsFirst = from > first.position;
     const bool cutsLast =

@@ -62,7 +62,9 @@ private:
     void layOut();
     double layOut(int dots, std::pair<double, double> part);
     void standAcrossMargin(qreal room);
-    void joinAtSlashes();
+    void guideBreaks();
+    void goOnBeyondMargins(qreal room);
+    qreal width() const;
     int inCopy(int position) const;
     int inDocument(int position) const;
     void countMargins(int dots);
@@ -78,13 +80,15 @@ private:
     rtf::Progress m_progress;
     std::unique_ptr<QTextDocument> m_copy;
     std::vector<Line> m_lines;
-    std::vector<int> m_joined; ///< positions of the document at which the copy has a joiner more
+    std::vector<int> m_guides; ///< positions of the document at which the copy has a sign more
     int m_revision = 0;
     QSize m_dots;      ///< of the device to the inch
     int m_counted = 0; ///< dots of the layout to the inch
     std::unique_ptr<QPaintDevice> m_ruler;
     QSizeF m_page; ///< twips
     qreal m_left = 0;
+    qreal m_leftBeyond = 0; ///< twips that the copy is wider than the page
+    qreal m_rightBeyond = 0;
     qreal m_marginDots = 0; ///< to the inch, in which the copy's margins are counted
 };
 

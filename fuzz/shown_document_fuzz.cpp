@@ -108,7 +108,7 @@ void change(QTextCursor& all, int which, int amount) {
     QTextBlockFormat paragraphs;
     switch (which) {
     case 0:
-        letters.setFontPointSize(amount);
+        letters.setFontPointSize(std::max(amount, 1)); // no window asks for less
         break;
     case 1:
         letters.setFontFamilies({QStringLiteral("DejaVu Sans Mono")});

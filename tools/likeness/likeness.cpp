@@ -67,13 +67,22 @@ QString inOneOrder(QString word) {
 }
 
 /// What is one sign whichever of the two PDFs holds it: brackets are turned in text that runs from
-/// right to left, and a sign of a symbol font may stand as the letter of its code.
+/// right to left, and a sign of a symbol font may stand as the letter of its code. Empty for signs
+/// that Unicode does not have.
 QString inOneSpelling(QString word) {
+    constexpr char32_t FirstBeyondLatin = 0x7f;
     word.replace(u')', u'(').replace(u']', u'[').replace(QChar(0x2010), u'-');
-    if (word.size() == 1)
-        if (const uchar code = rtf::symbolByte(rtf::SymbolFont::Symbol, word.front().unicode()))
-            return QString(QChar(char16_t(code)));
-    return word;
+    if (word.size() != 1)
+        return word;
+    // Its two forms of some letters are one to a PDF.
+    char32_t sign = word.front().unicode();
+    if (sign < FirstBeyondLatin)
+        sign = rtf::symbolCharacter(rtf::SymbolFont::Symbol, uchar(sign));
+    const QString plain = QString::fromUcs4(&sign, 1).normalized(QString::NormalizationForm_KC);
+    const uchar code = rtf::symbolByte(rtf::SymbolFont::Symbol, plain.front().unicode());
+    if (rtf::privateByte(sign) || plain.front().category() == QChar::Other_PrivateUse)
+        return {};
+    return code ? QString(QChar(char16_t(code))) : word;
 }
 
 /// The words of the first pages, without what fills the space of tabs, and with one sign for every

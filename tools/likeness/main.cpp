@@ -15,7 +15,8 @@
 // pages: of the files without a table, text box or lines from top to bottom, those whose words
 // stand on the first page where LibreOffice sets them, each left edge within six points, in the
 // same order down the page. For that, LibreOffice is given the files without their footnotes, which
-// the program does not show; and the program takes the fonts that LibreOffice takes, its font for
+// the program does not show, and with the dates and file names that their fields show as text, as
+// it would fill these anew; and the program takes the fonts that LibreOffice takes, its font for
 // files that name none, and runs of blanks as wide as it sets them. What PDFs tell in different
 // ways counts as alike: the order of letters that run to the left, brackets and their mirrors,
 // signs and the letters of their codes. With --keep what was made stays
@@ -149,12 +150,12 @@ private:
         }
     }
 
-    /// The files with notes, for the program's own pages.
+    /// The files with notes and dates, for the program's own pages.
     void convertBare() {
         QStringList files;
         for (const Sample& sample : std::as_const(m_samples)) {
             const QByteArray bytes = contentOf(m_folder + u'/' + sample.name);
-            const QByteArray bare = withoutNotes(bytes);
+            const QByteArray bare = asShown(bytes);
             if (sample.aside || bare == bytes)
                 continue;
             files << path(u"bare"_s, sample, u".rtf"_s);
@@ -165,6 +166,13 @@ private:
 
     void measure(const Sample& sample) {
         const QString givenPdf = path(u"given-pdf"_s, sample, u".pdf"_s);
+        const QByteArray text = contentOf(path(u"given-txt"_s, sample, u".txt"_s));
+        constexpr qsizetype Beginning = 64;
+        if (text.first(std::min(text.size(), Beginning)).contains("\\rtf1")) {
+            std::printf("NONE\t%s\tLibreOffice shows it byte by byte\n",
+                        qUtf8Printable(sample.name));
+            return;
+        }
         if (!QFile::exists(givenPdf)) {
             std::printf("NONE\t%s\tLibreOffice makes nothing of it\n", qUtf8Printable(sample.name));
             return;

@@ -40,22 +40,29 @@ QSizeF paperOf(const QByteArray& rtf) {
 
 constexpr char16_t SixthOfEm = 0x2006;
 
+/// The last blank of a run stays as it is, for what is behind it may stand closer to it. The others
+/// become wider by its share, too.
 void widenRunsOfBlanks(QTextDocument& document) {
     constexpr double PixelsPerPoint = 96.0 / 72;
-    constexpr double Share = 1.0 / 6; // of the size
+    constexpr double Share = 1.0 / 6; // of the size, for each blank
     QTextCursor cursor(&document);
     const auto isBlank = [&](int at) { return document.characterAt(at) == u' '; };
     for (int at = 0; at < document.characterCount(); ++at) {
-        if (!isBlank(at) || (!isBlank(at - 1) && !isBlank(at + 1)))
-            continue;
-        cursor.setPosition(at);
-        cursor.setPosition(at + 1, QTextCursor::KeepAnchor);
-        const QTextCharFormat format = cursor.charFormat();
-        QTextCharFormat wide;
-        wide.setFontLetterSpacingType(QFont::AbsoluteSpacing);
-        wide.setFontLetterSpacing(format.fontLetterSpacing() +
-                                  format.fontPointSize() * PixelsPerPoint * Share);
-        cursor.mergeCharFormat(wide);
+        int end = at;
+        while (isBlank(end))
+            ++end;
+        const int blanks = end - at;
+        for (; end - at > 1; ++at) {
+            cursor.setPosition(at);
+            cursor.setPosition(at + 1, QTextCursor::KeepAnchor);
+            const QTextCharFormat format = cursor.charFormat();
+            QTextCharFormat wide;
+            wide.setFontLetterSpacingType(QFont::AbsoluteSpacing);
+            wide.setFontLetterSpacing(format.fontLetterSpacing() + format.fontPointSize() *
+                                                                       PixelsPerPoint * Share *
+                                                                       blanks / (blanks - 1));
+            cursor.mergeCharFormat(wide);
+        }
     }
 }
 
@@ -88,7 +95,24 @@ QRectF textArea(const QByteArray& rtf) {
                   -margin("margrsxn", "margr"), -margin("margbsxn", "margb"));
 }
 
-QByteArray withoutNotes(QByteArray rtf) {
+namespace {
+
+/// The instructions of fields that LibreOffice fills anew: what is left of the field is its result.
+void removeFilledFields(QByteArray& rtf) {
+    static const QRegularExpression filled(
+        u"\\b(FILENAME|DATE|TIME|SAVEDATE|PRINTDATE|CREATEDATE|EDITTIME)\\b"_s,
+        QRegularExpression::CaseInsensitiveOption);
+    for (const QByteArray instruction : {"{\\*\\fldinst", "{\\fldinst"})
+        for (qsizetype at = rtf.indexOf(instruction); at >= 0; at = rtf.indexOf(instruction, at)) {
+            const qsizetype length = groupLength(rtf, at);
+            if (filled.match(QString::fromLatin1(rtf.mid(at, length))).hasMatch())
+                rtf.remove(at, length);
+            else
+                ++at;
+        }
+}
+
+void removeNotes(QByteArray& rtf) {
     bool hasNotes = false;
     for (const QByteArray note : {"{\\footnote", "{\\*\\footnote"})
         for (qsizetype at = rtf.indexOf(note); at >= 0; at = rtf.indexOf(note, at)) {
@@ -103,6 +127,13 @@ QByteArray withoutNotes(QByteArray rtf) {
     for (qsizetype at = rtf.indexOf(mark); hasNotes && at >= 0; at = rtf.indexOf(mark, at + 1))
         if (!goesOn(rtf, at + mark.size()))
             rtf.remove(at, mark.size());
+}
+
+} // namespace
+
+QByteArray asShown(QByteArray rtf) {
+    removeFilledFields(rtf);
+    removeNotes(rtf);
     return rtf;
 }
 

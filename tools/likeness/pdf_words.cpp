@@ -32,6 +32,10 @@ bool isBoldFont(const QString& font) {
     return font.contains("Bold"_L1, Qt::CaseInsensitive);
 }
 
+// Points. Signs and marks of another font stand a little higher than the letters beside them.
+constexpr double Touching = 0.3;
+constexpr double OneLine = 1;
+
 /// A word, and where it ends to the right.
 struct Piece {
     Word word;
@@ -41,9 +45,10 @@ struct Piece {
 /// Words are found in pieces where they are drawn in several, and letter by letter where they run
 /// from right to left. What stands without a gap behind the other is one word.
 bool goOn(Piece& piece, const Piece& next) {
-    constexpr double Touching = 0.3;
     const QPointF corner = piece.word.corner;
-    if (next.word.page != piece.word.page || next.word.corner.y() != corner.y())
+    const double higher = std::abs(next.word.corner.y() - corner.y());
+    const bool isMark = !next.word.text.isEmpty() && next.word.text.front().isMark();
+    if (next.word.page != piece.word.page || higher > (isMark ? OneLine : 0))
         return false;
     if (std::abs(next.word.corner.x() - piece.right) < Touching) {
         piece.word.text += next.word.text;
@@ -61,8 +66,6 @@ bool goOn(Piece& piece, const Piece& next) {
 /// Words that run from right to left stand in a PDF in pieces of any length and in any order. On
 /// their lines, what touches is one word, wherever it stands in the PDF.
 void joinAlongLines(QList<Piece>& pieces) {
-    constexpr double Touching = 0.3;
-    constexpr double OneLine = 1; // marks of another font stand a little higher
     const auto runsLeft = [](QChar c) {
         return c.direction() == QChar::DirR || c.direction() == QChar::DirAL;
     };
@@ -102,8 +105,7 @@ void readPlaces(const QByteArray& xml, PdfText& text) {
             const auto attributes = reader.attributes();
             const QPointF corner(attributes.value("xMin"_L1).toDouble(),
                                  attributes.value("yMin"_L1).toDouble());
-            // Ligatures are drawn as one sign by the one, as letters by the other.
-            const QString word = reader.readElementText().normalized(QString::NormalizationForm_KC);
+            const QString word = reader.readElementText();
             const Piece found{{word, text.pages, corner}, attributes.value("xMax"_L1).toDouble()};
             if (!pieces.isEmpty() && goOn(pieces.last(), found))
                 continue;
@@ -111,8 +113,12 @@ void readPlaces(const QByteArray& xml, PdfText& text) {
         }
     }
     joinAlongLines(pieces);
-    for (const Piece& piece : std::as_const(pieces))
+    for (Piece& piece : pieces) {
+        // Ligatures are drawn as one sign by the one, as letters by the other; letters with marks
+        // in one piece or in two.
+        piece.word.text = piece.word.text.normalized(QString::NormalizationForm_KC);
         text.words.append(piece.word);
+    }
 }
 
 /// Words in their looks: a word ends at a blank, or where a line of the page does.

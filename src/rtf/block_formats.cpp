@@ -18,6 +18,8 @@ namespace orvalis::rtf {
 
 namespace {
 
+constexpr Qt::Alignment VisuallyLeft = Qt::AlignLeft | Qt::AlignAbsolute;
+
 constexpr double SingleLine = 240.0; // of \sl with \slmult1
 
 double pixels(int twips) {
@@ -93,7 +95,7 @@ QTextBlockFormat blockFormat(const ParagraphFormat& format, const Names& names, 
     QTextBlockFormat block;
     switch (format.alignment) {
     case Alignment::Left:
-        block.setAlignment(Qt::AlignLeft);
+        block.setAlignment(format.rightToLeft && format.leftIsSaid ? VisuallyLeft : Qt::AlignLeft);
         break;
     case Alignment::Right:
         // What is set to the right stands there whichever way its text runs.
@@ -108,6 +110,8 @@ QTextBlockFormat blockFormat(const ParagraphFormat& format, const Names& names, 
     }
     if (format.rightToLeft)
         block.setLayoutDirection(Qt::RightToLeft);
+    else if (format.leftToRight)
+        block.setLayoutDirection(Qt::LeftToRight);
     if (format.pageBreakBefore) {
         block.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
         if (format.pageWord != PageWord::OfParagraph)
@@ -128,6 +132,9 @@ ParagraphFormat paragraphFormat(const QTextBlockFormat& format, const QTextList*
     ParagraphFormat result;
     result.alignment = alignmentOf(format);
     result.rightToLeft = format.layoutDirection() == Qt::RightToLeft;
+    result.leftToRight = format.hasProperty(QTextFormat::LayoutDirection) &&
+                         format.layoutDirection() == Qt::LeftToRight;
+    result.leftIsSaid = result.rightToLeft && format.alignment() == VisuallyLeft;
     result.pageBreakBefore = format.pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore;
     if (result.pageBreakBefore)
         result.pageWord = static_cast<PageWord>(

@@ -191,6 +191,9 @@ inline constexpr int NoLength = -1;
 struct ParagraphFormat {
     Alignment alignment = Alignment::Left;
     bool rightToLeft = false;
+    bool leftToRight = false; ///< the file says so; where it says neither the text tells
+    /// It is on the left because the file says so. What is left unsaid is where the text begins.
+    bool leftIsSaid = false;
     bool pageBreakBefore = false;
     PageWord pageWord = PageWord::OfParagraph; ///< if it begins a page
     bool lineMultiple = false;                 ///< line spacing counts in 240ths of a line

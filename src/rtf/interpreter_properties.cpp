@@ -146,6 +146,7 @@ bool Interpreter::paragraphWord(const Token& token) {
     case Action::Align:
         paragraph.stated |= stated::Alignment & m_statedOfParagraph;
         paragraph.alignment = static_cast<Alignment>(token.word->value);
+        paragraph.leftIsSaid = paragraph.alignment == Alignment::Left;
         return true;
     case Action::LeftIndent:
         paragraph.stated |= stated::Left & m_statedOfParagraph;
@@ -186,6 +187,7 @@ bool Interpreter::paragraphWord(const Token& token) {
     case Action::Direction:
         paragraph.stated |= stated::Direction & m_statedOfParagraph;
         paragraph.rightToLeft = token.word->value != 0;
+        paragraph.leftToRight = !paragraph.rightToLeft;
         return true;
     case Action::PageBreakBefore:
         paragraph.stated |= stated::PageBreak & m_statedOfParagraph;

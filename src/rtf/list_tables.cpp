@@ -15,6 +15,8 @@ namespace {
 
 constexpr qsizetype MostLevels = NumberCodes;
 constexpr qsizetype MostLists = 32768;
+// What is longer is text that a program has put there by mistake.
+constexpr qsizetype LongestLabel = 60;
 constexpr int LevelFormatBullet = 23;
 constexpr int LevelFormatNone = 255;
 
@@ -251,7 +253,7 @@ ListLabel labelFromText(const QString& text, SymbolFont font, ListKind previous)
         return c < u' ' || c == QChar::LineSeparator || c == QChar::ObjectReplacementCharacter;
     });
     label = label.trimmed();
-    if (label.isEmpty())
+    if (label.isEmpty() || label.size() > LongestLabel)
         return {};
     const auto isSign = [](QChar c) { return !c.isLetterOrNumber(); };
     // The number is nearly always the first word, but that of "Chapter 1" or "Step a)" is the last.

@@ -155,7 +155,7 @@ void ParagraphWriter::geometry(const ParagraphFormat& paragraph) {
     };
     if (paragraph.rightToLeft)
         m_out.word("\\rtlpar");
-    else if (isStated(stated::Direction))
+    else if (paragraph.leftToRight || isStated(stated::Direction))
         m_out.word("\\ltrpar");
     if (paragraph.pageBreakBefore && paragraph.pageWord == PageWord::OfParagraph)
         m_out.word("\\pagebb");
@@ -173,7 +173,7 @@ void ParagraphWriter::geometry(const ParagraphFormat& paragraph) {
     }
     if (paragraph.alignment != Alignment::Left)
         alignment(paragraph.alignment);
-    else if (isStated(stated::Alignment))
+    else if (isStated(stated::Alignment) || paragraph.leftIsSaid)
         m_out.word("\\ql");
     tabs(paragraph.tabs);
 }

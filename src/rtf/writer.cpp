@@ -25,8 +25,8 @@ namespace {
 int writtenAnyway(const ParagraphFormat& paragraph) {
     int bits = 0;
     const auto unless = [&bits](bool usual, int bit) { bits |= usual ? 0 : bit; };
-    unless(paragraph.alignment == Alignment::Left, stated::Alignment);
-    unless(!paragraph.rightToLeft, stated::Direction);
+    unless(paragraph.alignment == Alignment::Left && !paragraph.leftIsSaid, stated::Alignment);
+    unless(!paragraph.rightToLeft && !paragraph.leftToRight, stated::Direction);
     const bool ofShape = paragraph.pageWord == PageWord::OfParagraph;
     unless(!paragraph.pageBreakBefore || !ofShape, stated::PageBreak);
     unless(paragraph.left == 0, stated::Left);

@@ -85,6 +85,7 @@ private slots:
     void numbersArePrinted();
     void aNumberStandsWhereItsLineBegins_data();
     void aNumberStandsWhereItsLineBegins();
+    void theDotOfANumberStandsBehindItWhicheverWayItRuns();
     void anItemThatIsAddedTakesTheNextNumber();
     void anItemThatBecomesABulletShowsIt();
     void bulletsOfAPageThatIsPastedBehindAreShown();
@@ -183,6 +184,28 @@ void ListNumbersTest::aNumberStandsWhereItsLineBegins() {
     const double inner = onTheRight ? first - text.left() : text.right() - last;
     QVERIFY2(std::abs(outer - Hanging) <= Bearing, QByteArray::number(outer));
     QVERIFY2(std::abs(inner) <= Bearing, QByteArray::number(inner));
+}
+
+void ListNumbersTest::theDotOfANumberStandsBehindItWhicheverWayItRuns() {
+    RichTextBox box;
+    show(box, listFrom(8, 1, "\\pndec{\\pntxta.}", "\\rtlpar\\qr\\li0\\ri720\\fs40"));
+    const QImage picture = itemPicture(box, 0).copy(0, 0, box.viewport()->width(), 32);
+    const QTextLayout& layout = *box.document()->firstBlock().layout();
+    const int textRight = int(layout.position().x() + layout.lineAt(0).naturalTextRect().right());
+    const auto highestInk = [&](int x) {
+        for (int y = 0; y < picture.height(); ++y)
+            if (picture.pixel(x, y) != picture.pixel(0, 0))
+                return y;
+        return picture.height();
+    };
+    int highest = picture.height(); // of the whole label
+    int ofTheFirst = picture.height();
+    for (int x = picture.width() - 1; x > textRight + 1; --x)
+        if (const int ink = highestInk(x); ink < picture.height()) {
+            highest = std::min(highest, ink);
+            ofTheFirst = ink;
+        }
+    QVERIFY2(ofTheFirst > highest + 6, QByteArray::number(ofTheFirst));
 }
 
 void ListNumbersTest::anItemThatIsAddedTakesTheNextNumber() {

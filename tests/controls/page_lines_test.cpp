@@ -62,12 +62,18 @@ private slots:
     void linesBreakAlikeOnEveryPrinter();
     void anAddressStaysWhole();
     void anAddressLongerThanALineIsBroken();
+    void linesBreakAtTheMarksThatPartWords_data();
+    void linesBreakAtTheMarksThatPartWords();
+    void linesGoOnBeyondTheMarginWhereTheFileSaysSo();
+    void linesBeginBeyondTheMarginWhereTheFileSaysSo();
     void behindAnAddressPositionsAreThoseOfTheText();
     void aRangeThatBeginsBehindAnAddressDrawsItsOwnCharacters();
     void aLineHasRoomForAsManyLettersOfAFixedWidthAsThereAreToBe();
     void lettersAreAsWideAsTheirFileSays();
     void whatIsSetToTheRightStandsThereWhicheverWayItRuns();
     void whatTheUserSetsToTheRightStandsThereWhicheverWayItRuns();
+    void textRunsTheWayThatItsFileSays_data();
+    void textRunsTheWayThatItsFileSays();
 };
 
 void PageLinesTest::linesBreakAlikeOnEveryPrinter_data() {
@@ -109,6 +115,78 @@ void PageLinesTest::anAddressLongerThanALineIsBroken() {
     QVERIFY(lines.size() > 5);
     for (qsizetype i = 1; i < lines.size(); ++i)
         QVERIFY(lines[i] > lines[i - 1]);
+}
+
+void PageLinesTest::linesBreakAtTheMarksThatPartWords_data() {
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("behind");
+    QTest::addColumn<bool>("breaks");
+    QTest::newRow("numbers") << u"many words, pages 519-526"_s << u"519-"_s << true;
+    QTest::newRow("path") << u"it is found in C:\\Program"_s << u"C:\\"_s << true;
+    QTest::newRow("ahead of a backslash") << u"it is found in C:\\Program"_s << u"C:"_s << false;
+    QTest::newRow("address") << u"many words of http://at-sea.org/a"_s << u"at-"_s << false;
+}
+
+void PageLinesTest::linesBreakAtTheMarksThatPartWords() {
+    QFETCH(QString, text);
+    QFETCH(QString, behind);
+    RichTextBox box;
+    box.SetText(text);
+    const int place = int(text.indexOf(behind) + behind.size());
+    bool found = false;
+    for (double width = 1.2; width < 3; width += 0.02)
+        found |= linesOf(box, width).contains(place);
+    QTEST(found, "breaks");
+}
+
+void PageLinesTest::linesGoOnBeyondTheMarginWhereTheFileSaysSo() {
+    constexpr int Width = 4 * Inch;
+    constexpr int Beyond = 720;
+    const QByteArray words = QByteArray("some words ").repeated(40);
+    const auto lines = [&](const QByteArray& paragraphs, int left, int width) {
+        RichTextBox box;
+        box.SetTextRTF(QString::fromLatin1("{\\rtf1" + paragraphs + '}'));
+        QImage device = sheet(96);
+        RangeFormatter formatter(box);
+        QList<int> starts{0};
+        while (starts.last() < int(box.Text().size()))
+            starts << formatter.FormatPage(
+                {nullptr, &device, QRectF(left, 0, width, 1), starts.last(), -1});
+        return starts;
+    };
+    for (const QByteArray indent : {"\\ri-720 ", "\\li-720 "}) {
+        const QByteArray beyond = "\\pard" + indent + words + "\\par";
+        const QByteArray within = "\\pard " + words + "\\par";
+        QVERIFY(lines(within, Inch, Width + Beyond) != lines(within, Inch, Width));
+        QCOMPARE(lines(beyond, Inch, Width), lines(within, Inch, Width + Beyond));
+        // Where there is no paper they stay within.
+        QCOMPARE(lines(beyond, 0, Width), lines(within, 0, Width));
+        // The paragraphs beside them do, too.
+        const QList<int> both = lines(within + beyond, Inch, Width);
+        const QList<int> alone = lines(within, Inch, Width);
+        QCOMPARE(both.first(alone.size() - 1), alone.first(alone.size() - 1));
+    }
+}
+
+void PageLinesTest::linesBeginBeyondTheMarginWhereTheFileSaysSo() {
+    const auto leftOf = [](const QByteArray& indent) {
+        RichTextBox box;
+        box.SetTextRTF(QString::fromLatin1("{\\rtf1\\pard" + indent + " Here\\par}"));
+        QImage image = sheet(96, 6);
+        QPainter painter(&image);
+        RangeFormatter(box).FormatPage(
+            {&painter, &image, QRectF(2 * Inch, 0, 3 * Inch, 6 * Inch), 0, -1});
+        painter.end();
+        for (int x = 0; x < image.width(); ++x)
+            for (int y = 0; y < image.height(); ++y)
+                if (image.pixel(x, y) != qRgb(255, 255, 255))
+                    return x;
+        return -1;
+    };
+    const int margin = leftOf({});
+    QVERIFY(std::abs(leftOf("\\li-720") - (margin - 48)) <= 1);
+    QVERIFY(std::abs(leftOf("\\li720") - (margin + 48)) <= 1);
+    QVERIFY(std::abs(leftOf("\\li-720\\fi360") - (margin - 24)) <= 1);
 }
 
 void PageLinesTest::behindAnAddressPositionsAreThoseOfTheText() {
@@ -183,6 +261,29 @@ void PageLinesTest::whatTheUserSetsToTheRightStandsThereWhicheverWayItRuns() {
     box.SetSelAlignment(RichTextBox::rtfRight);
     QVERIFY(inkOf(box).left() > 5 * 96);
     QCOMPARE(box.SelAlignment(), std::optional<int>(RichTextBox::rtfRight));
+}
+
+void PageLinesTest::textRunsTheWayThatItsFileSays_data() {
+    QTest::addColumn<QByteArray>("shape");
+    QTest::addColumn<bool>("onTheRight");
+    QTest::newRow("nothing said") << QByteArray() << true;
+    QTest::newRow("to the right") << QByteArray("\\ltrpar") << false;
+    QTest::newRow("to the right, set to the right") << QByteArray("\\ltrpar\\qr") << true;
+    QTest::newRow("to the left") << QByteArray("\\rtlpar") << true;
+    QTest::newRow("to the left, set to the left") << QByteArray("\\rtlpar\\ql") << false;
+}
+
+void PageLinesTest::textRunsTheWayThatItsFileSays() {
+    QFETCH(QByteArray, shape);
+    RichTextBox box;
+    box.SetTextRTF(
+        QString::fromLatin1("{\\rtf1\\pard" + shape + " \\u1513?\\u1500?\\u1493?\\u1501?\\par}"));
+    QTEST(inkOf(box).left() > 5 * 96, "onTheRight");
+    const QByteArray written = box.TextRTF();
+    QVERIFY2(written.contains("\\pard" + shape), written);
+    RichTextBox again;
+    again.SetTextRTF(written);
+    QTEST(inkOf(again).left() > 5 * 96, "onTheRight");
 }
 
 ORVALIS_TEST_MAIN_WITH(QApplication, PageLinesTest)

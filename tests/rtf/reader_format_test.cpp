@@ -152,7 +152,7 @@ void ReaderFormatTest::everyParagraphWordChangesWhatItNames_data() {
         QTest::newRow(words) << QByteArray(words) << change;
     };
     row(
-        "\\ql", [](ParagraphFormat&) {});
+        "\\ql", [](ParagraphFormat& p) { p.leftIsSaid = true; });
     row(
         "\\qr", [](ParagraphFormat& p) { p.alignment = Alignment::Right; });
     row(
@@ -179,9 +179,10 @@ void ReaderFormatTest::everyParagraphWordChangesWhatItNames_data() {
         });
     row(
         "\\sl-300\\slmult0", [](ParagraphFormat& p) { p.lineSpacing = -300; });
-    row("\\rtlpar", [](ParagraphFormat& p) { p.rightToLeft = true; });
     row(
-        "\\rtlpar\\ltrpar", [](ParagraphFormat&) {});
+        "\\rtlpar", [](ParagraphFormat& p) { p.rightToLeft = true; });
+    row(
+        "\\rtlpar\\ltrpar", [](ParagraphFormat& p) { p.leftToRight = true; });
     row(
         "\\pagebb", [](ParagraphFormat& p) { p.pageBreakBefore = true; });
     row("\\tx720\\tqr\\tx1440\\tqc\\tx2000\\tqdec\\tx3000\\tx3500", [](ParagraphFormat& p) {
@@ -356,6 +357,8 @@ void ReaderFormatTest::listsOfAllKindsAreKnown_data() {
     row("label of two numbers", "{\\listtext 2.1.\\tab}", ListKind::Decimal, 2, {},
         QStringLiteral(".1."));
     row("label of words", "{\\listtext Note well:\\tab}", ListKind::Bullet);
+    row("label of a whole paragraph",
+        "{\\listtext " + QByteArray("so many words ").repeated(5) + "}", ListKind::None);
     row("label of a letter that is a bullet", "{\\pntext o\\tab}", ListKind::Bullet, 1,
         QStringLiteral("o"));
     const QByteArray tables =

@@ -6,8 +6,8 @@
 #include "rtf/kept_word_table.h"
 #include "rtf/picture.h"
 
+#include <algorithm>
 #include <array>
-#include <string_view>
 
 namespace orvalis::rtf {
 
@@ -317,8 +317,8 @@ constexpr auto SlotTable = [] {
     table.fill(EmptySlot);
     for (size_t i = 0; i < WordCount; ++i) {
         quint32 hash = ControlWordHashStart;
-        for (const char* letter = wordAt(i).name; *letter; ++letter)
-            hash = controlWordHash(hash, uchar(*letter));
+        for (const char letter : wordAt(i).name)
+            hash = controlWordHash(hash, uchar(letter));
         quint32 slot = slotOf(hash);
         while (table[slot] != EmptySlot)
             slot = (slot + 1) & (SlotCount - 1);
@@ -334,11 +334,11 @@ int keptOrder(const ControlWord& word) {
 }
 
 const ControlWord* findControlWord(QByteArrayView name, quint32 hash) {
-    const std::string_view wanted(name.data(), size_t(name.size()));
     for (quint32 slot = slotOf(hash); SlotTable[slot] != EmptySlot;
          slot = (slot + 1) & (SlotCount - 1)) {
         const ControlWord& word = wordAt(size_t(SlotTable[slot]));
-        if (wanted == word.name)
+        if (name.size() == word.name.size() &&
+            std::equal(name.begin(), name.end(), word.name.begin()))
             return &word;
     }
     return nullptr;

@@ -137,9 +137,9 @@ enum class Action : quint8 {
 };
 
 struct ControlWord {
-    const char* name;
-    Action action;
-    int value;
+    QByteArrayView name;
+    Action action = Action::Version;
+    int value = 0;
 };
 
 inline constexpr quint32 ControlWordHashStart = 2166136261u;

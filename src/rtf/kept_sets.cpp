@@ -25,7 +25,9 @@ int KeptSets::with(int set, const KeptCall& call) {
         entry.side = keptOrder(*call.side) + 1;
     if (kind.kind != KeptKind::Side)
         entry.word = keptOrder(*call.word) + 1;
-    const Step step{set, entry.side, entry.word, entry.hasNumber, entry.number, call.removes};
+    const Step step{quint64(set) << 32 | quint64(entry.side) << 16 | quint64(entry.word),
+                    quint64(call.removes) << 33 | quint64(entry.hasNumber) << 32 |
+                        quint32(entry.number)};
     if (const auto known = m_steps.constFind(step); known != m_steps.constEnd())
         return *known;
     if (m_bytesLeft <= 0)
@@ -95,7 +97,7 @@ void KeptSets::apply(std::vector<Entry>& entries, const Entry& entry) {
 }
 
 bool KeptSets::isLeftToRight(const Entry& entry) {
-    return QByteArrayView(entry.source->name) == "ltrch";
+    return entry.source->name == "ltrch";
 }
 
 void KeptSets::insert(std::vector<Entry>& entries, const Entry& entry) {

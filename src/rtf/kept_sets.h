@@ -7,6 +7,7 @@
 
 #include <QHash>
 
+#include <utility>
 #include <vector>
 
 namespace orvalis::rtf {
@@ -49,19 +50,8 @@ private:
         std::vector<Entry> entries; ///< by side and word
         int name = 0;
     };
-    struct Step {
-        int set;
-        int side;
-        int word;
-        bool hasNumber;
-        int number;
-        bool removes;
-        bool operator==(const Step&) const = default;
-    };
-    friend size_t qHash(const Step& step, size_t seed) noexcept {
-        return qHashMulti(seed, step.set, step.side, step.word, step.hasNumber, step.number,
-                          step.removes);
-    }
+    using Step =
+        std::pair<quint64, quint64>; ///< from a set, by a word, its number and whether it goes
 
     static void apply(std::vector<Entry>& entries, const Entry& entry);
     static void remove(std::vector<Entry>& entries, const Entry& entry);

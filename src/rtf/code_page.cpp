@@ -4,6 +4,7 @@
 
 #include "rtf/page_converter.h"
 
+#include <algorithm>
 #include <map>
 #include <utility>
 
@@ -116,11 +117,15 @@ const CodePage* CodePage::forCharset(int charset) {
 qsizetype CodePage::decode(QByteArrayView bytes, QString& text) const {
     if (m_converter)
         return m_converter->converter.convert(bytes, text);
-    for (const char byte : bytes)
-        if (m_symbols == SymbolFont::None)
-            text.append(QChar((*m_table)[uchar(byte)]));
-        else
+    if (m_symbols != SymbolFont::None) {
+        for (const char byte : bytes)
             text.append(QChar::fromUcs4(symbolCharacter(m_symbols, uchar(byte))));
+        return bytes.size();
+    }
+    const qsizetype start = text.size();
+    text.resize(start + bytes.size());
+    std::transform(bytes.begin(), bytes.end(), text.data() + start,
+                   [this](char byte) { return QChar((*m_table)[uchar(byte)]); });
     return bytes.size();
 }
 

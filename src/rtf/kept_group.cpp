@@ -28,6 +28,8 @@ GroupKeeper::GroupKeeper(QByteArrayView content, const FileTables& tables)
     , m_tables(tables) {}
 
 QString GroupKeeper::kept(QByteArrayView head, qsizetype limit) {
+    constexpr qsizetype UsualGroup = 128; // bytes
+    m_out.reserve(UsualGroup);
     plain();
     m_out.word(head);
     Token token;
@@ -174,7 +176,7 @@ void GroupKeeper::selectFont(const Token& token) {
     if (token.word->action != Action::Font)
         return;
     m_state.page = font->page ? font->page : &m_tables.page;
-    m_state.symbols = isSymbolFamily(family);
+    m_state.symbols = font->symbols != SymbolFont::None;
 }
 
 /// Text behind it is of the file's default font.
@@ -186,7 +188,7 @@ void GroupKeeper::plain() {
         return;
     if (font->page)
         m_state.page = font->page;
-    m_state.symbols = isSymbolFamily(m_tables.names.familyAt(font->family));
+    m_state.symbols = font->symbols != SymbolFont::None;
 }
 
 void GroupKeeper::symbol(uchar character) {

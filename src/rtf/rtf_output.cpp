@@ -31,29 +31,29 @@ bool isPlain(QChar character) {
     return c < PlainCharacters.size() && PlainCharacters[c];
 }
 
-void appendNumber(QByteArray& out, int number) {
-    std::array<char, 12> digits;
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-    out.append(digits.data(), end - digits.data());
-}
-
-void appendCode(QByteArray& out, uchar byte) {
-    static constexpr char Digits[] = "0123456789abcdef";
-    const char code[] = {'\\', '\'', Digits[byte >> 4], Digits[byte & 15]};
-    out.append(code, sizeof code);
-}
-
-void appendUnicode(QByteArray& out, char16_t unit) {
-    out.append("\\u");
-    appendNumber(out, qint16(unit));
-    out.append('?');
-}
-
 } // namespace
 
+void RtfOutput::appendNumber(int number) {
+    std::array<char, 12> digits;
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    append(QByteArrayView(digits.data(), end));
+}
+
+void RtfOutput::appendCode(uchar byte) {
+    static constexpr char Digits[] = "0123456789abcdef";
+    const char code[] = {'\\', '\'', Digits[byte >> 4], Digits[byte & 15]};
+    append(QByteArrayView(code, sizeof code));
+}
+
+void RtfOutput::appendUnicode(char16_t unit) {
+    append("\\u");
+    appendNumber(qint16(unit));
+    append("?");
+}
+
 void RtfOutput::word(QByteArrayView word, int number) {
-    m_bytes.append(word);
-    appendNumber(m_bytes, number);
+    append(word);
+    appendNumber(number);
     m_needsDelimiter = true;
 }
 
@@ -66,17 +66,13 @@ void RtfOutput::text(QStringView text) {
             continue;
         }
         if (m_needsDelimiter && canJoinWord(at->unicode()))
-            m_bytes.append(' ');
+            append(" ");
         m_needsDelimiter = false;
         const QChar* start = at;
         do
             ++at;
         while (at != end && isPlain(*at));
-        const qsizetype before = m_bytes.size();
-        m_bytes.resize(before + (at - start));
-        char* out = m_bytes.data() + before;
-        for (; start != at; ++start)
-            *out++ = char(start->unicode());
+        std::transform(start, at, room(at - start), [](QChar c) { return char(c.unicode()); });
     }
 }
 
@@ -88,9 +84,11 @@ void RtfOutput::special(char16_t character) {
     switch (character) {
     case u'\\':
     case u'{':
-    case u'}':
-        m_bytes.append('\\').append(char(character));
+    case u'}': {
+        const char escaped[] = {'\\', char(character)};
+        append(QByteArrayView(escaped, sizeof escaped));
         return;
+    }
     case u'\t':
         word("\\tab");
         return;
@@ -98,24 +96,24 @@ void RtfOutput::special(char16_t character) {
         word("\\line");
         return;
     case QChar::Nbsp:
-        m_bytes.append("\\~");
+        append("\\~");
         return;
     case QChar::SoftHyphen:
-        m_bytes.append("\\-");
+        append("\\-");
         return;
     case NonBreakingHyphen:
-        m_bytes.append("\\_");
+        append("\\_");
         return;
     default:
         if (const uchar byte = latin1Byte(character); byte >= 0x20)
-            appendCode(m_bytes, byte);
+            appendCode(byte);
         else
-            appendUnicode(m_bytes, character);
+            appendUnicode(character);
     }
 }
 
 void RtfOutput::code(uchar byte) {
-    appendCode(m_bytes, byte);
+    appendCode(byte);
     m_needsDelimiter = false;
 }
 
@@ -125,7 +123,7 @@ void RtfOutput::numbers(QStringView characters) {
             text(QStringView(&c, 1));
             continue;
         }
-        appendUnicode(m_bytes, c.unicode());
+        appendUnicode(c.unicode());
         m_needsDelimiter = false;
     }
 }
@@ -145,9 +143,9 @@ void RtfOutput::symbols(SymbolFont font, QStringView characters) {
             continue;
         }
         if (byte != 0)
-            appendCode(m_bytes, byte);
+            appendCode(byte);
         else
-            appendUnicode(m_bytes, characters[at].unicode());
+            appendUnicode(characters[at].unicode());
         at += byte != 0 && isPair;
         m_needsDelimiter = false;
     }

@@ -7,6 +7,8 @@
 #include <QByteArray>
 #include <QStringView>
 
+#include <algorithm>
+
 namespace orvalis::rtf {
 
 /// RTF in the making: control words, and text in the letters that they leave free.
@@ -17,13 +19,13 @@ class RtfOutput {
 public:
     /// \param word with its backslash; whatever stands before it, a brace say, may come along.
     void word(QByteArrayView word) {
-        m_bytes.append(word);
+        append(word);
         m_needsDelimiter = true;
     }
     void word(QByteArrayView word, int number);
     /// Appends what no text can join: braces, whole groups, line ends.
     void structure(QByteArrayView bytes) {
-        m_bytes.append(bytes);
+        append(bytes);
         m_needsDelimiter = false;
     }
     /// Text in code page 1252, with \u for the rest.
@@ -40,6 +42,16 @@ public:
 
 private:
     void special(char16_t character);
+    void append(QByteArrayView bytes) { std::copy(bytes.begin(), bytes.end(), room(bytes.size())); }
+    /// Where further bytes go, which are counted already.
+    char* room(qsizetype size) {
+        const qsizetype at = m_bytes.size();
+        m_bytes.resize(at + size);
+        return m_bytes.data() + at;
+    }
+    void appendNumber(int number);
+    void appendCode(uchar byte);
+    void appendUnicode(char16_t unit);
 
     QByteArray m_bytes;
     bool m_needsDelimiter = false;

@@ -5,6 +5,7 @@
 #include "rtf/kept_text.h"
 #include "rtf/look_words.h"
 #include "rtf/picture_writer.h"
+#include "rtf/stated.h"
 
 #include <cstdlib>
 
@@ -54,44 +55,13 @@ void BodyWriter::beginParagraph(const ParagraphFormat& paragraph, int number) {
     writeAnchors(paragraph.anchors);
 }
 
-void BodyWriter::toggle(bool on, bool was, int bit, QByteArrayView word) {
-    if (!tells(on != was, bit))
+void BodyWriter::toggle(int bit, bool on, QByteArrayView word) {
+    if ((m_due & bit) == 0)
         return;
     if (on)
         m_out.word(word);
     else
         m_out.word(word, 0);
-}
-
-/// Whether words for a part of the look are due: it changes, or is stated and was not so far.
-bool BodyWriter::tells(bool changes, int bit) {
-    const bool due = changes || (m_states & bit) != 0;
-    if (due)
-        m_stated |= bit;
-    return due;
-}
-
-/// What a format leaves out: of what has its usual value, that of which it is known.
-int BodyWriter::leftOut(const CharFormat& format) const {
-    if ((format.stated & (stated::KnowsFont | stated::KnowsLook)) == 0)
-        return 0;
-    int usual = format.family == m_unnamedFamily ? stated::Font : 0;
-    if ((format.stated & stated::KnowsLook) != 0) {
-        const auto is = [&](bool isUsual, int bit) { usual |= isUsual ? bit : 0; };
-        is(format.halfPoints == DefaultHalfPoints, stated::Size);
-        is(format.color == AutomaticColor, stated::Color);
-        is(format.highlight == AutomaticColor, stated::Highlight);
-        is(!format.bold, stated::Bold);
-        is(!format.italic, stated::Italic);
-        is(!format.strike, stated::Strike);
-        is(format.underline == Underline::None, stated::Underline);
-        is(format.script == Script::Normal, stated::Script);
-        is(format.raise == 0, stated::Raise);
-        is(format.capitals == Capitals::AsTyped, stated::Capitals);
-        is(format.spacing == 0, stated::Spacing);
-        is(!format.hidden, stated::Hidden);
-    }
-    return usual & ~format.stated;
 }
 
 /// Nothing but the end of the whole look takes a word back.
@@ -113,33 +83,39 @@ void BodyWriter::change(const CharFormat& format) {
         return;
     changeLink(format.link);
     changeField(format.field);
-    const int leftOut = this->leftOut(format);
+    const int leftOut = stated::leftOut(format.stated);
     if ((leftOut & m_stated) != 0)
         plain();
     changeKept(format.kept);
-    m_states = format.stated & ~m_stated & stated::All;
-    if (tells(format.color != m_format.color, stated::Color))
+    m_due = (stated::differences(format, m_format) | (format.stated & ~m_stated)) & stated::All &
+            ~leftOut;
+    m_stated |= m_due;
+    if ((m_due & stated::Color) != 0)
         m_out.word("\\cf", m_tables.color(format.color));
-    changeHighlight(format);
-    if (tells(format.underline != m_format.underline, stated::Underline))
+    if ((m_due & stated::Highlight) != 0)
+        changeHighlight(format);
+    if ((m_due & stated::Underline) != 0)
         m_out.word(underlineWord(format.underline));
-    toggle(format.bold, m_format.bold, stated::Bold, "\\b");
-    toggle(format.italic, m_format.italic, stated::Italic, "\\i");
-    changeStrike(format);
-    toggle(format.controlMarks, m_format.controlMarks, 0, "\\orvmarks");
-    toggle(format.hidden, m_format.hidden, stated::Hidden, "\\v");
-    changeCapitals(format.capitals);
-    changeSpacing(format.spacing);
-    if (tells(format.raise != m_format.raise, stated::Raise))
+    toggle(stated::Bold, format.bold, "\\b");
+    toggle(stated::Italic, format.italic, "\\i");
+    if ((m_due & stated::Strike) != 0)
+        changeStrike(format);
+    if (format.controlMarks != m_format.controlMarks)
+        m_out.word(format.controlMarks ? "\\orvmarks" : "\\orvmarks0");
+    toggle(stated::Hidden, format.hidden, "\\v");
+    if ((m_due & stated::Capitals) != 0)
+        changeCapitals(format.capitals);
+    if ((m_due & stated::Spacing) != 0)
+        changeSpacing(format.spacing);
+    if ((m_due & stated::Raise) != 0)
         m_out.word(format.raise < 0 ? "\\dn" : "\\up", std::abs(format.raise));
-    if (tells(format.script != m_format.script, stated::Script))
+    if ((m_due & stated::Script) != 0)
         m_out.word(scriptWord(format.script));
-    if ((leftOut & stated::Font) == 0 && tells(format.family != m_format.family, stated::Font))
+    if ((m_due & stated::Font) != 0)
         m_out.word("\\f", m_tables.font(format.family));
     if (format.family != m_format.family)
         m_symbols = m_tables.symbolFontOf(format.family);
-    if ((leftOut & stated::Size) == 0 &&
-        tells(format.halfPoints != m_format.halfPoints, stated::Size))
+    if ((m_due & stated::Size) != 0)
         m_out.word("\\fs", format.halfPoints);
     m_format = format;
 }
@@ -155,10 +131,6 @@ void BodyWriter::changeKept(int kept) {
 }
 
 void BodyWriter::changeHighlight(const CharFormat& format) {
-    const bool changes =
-        format.highlight != m_format.highlight || format.shading != m_format.shading;
-    if (!tells(changes, stated::Highlight))
-        return;
     const bool kindChanges = format.shading != m_format.shading;
     if (kindChanges && m_format.highlight != AutomaticColor)
         m_out.word(m_format.shading ? "\\chcbpat" : "\\highlight", 0);
@@ -167,10 +139,6 @@ void BodyWriter::changeHighlight(const CharFormat& format) {
 }
 
 void BodyWriter::changeStrike(const CharFormat& format) {
-    const bool changes =
-        format.strike != m_format.strike || format.doubleStrike != m_format.doubleStrike;
-    if (!tells(changes, stated::Strike))
-        return;
     if (format.doubleStrike != m_format.doubleStrike && m_format.strike)
         m_out.word(m_format.doubleStrike ? "\\striked" : "\\strike", 0);
     if (format.doubleStrike)
@@ -182,8 +150,6 @@ void BodyWriter::changeStrike(const CharFormat& format) {
 }
 
 void BodyWriter::changeSpacing(int spacing) {
-    if (!tells(spacing != m_format.spacing, stated::Spacing))
-        return;
     // Older readers know it in quarters of a point only; the last word holds.
     constexpr int TwipsPerQuarter = 5;
     m_out.word("\\expnd", spacing / TwipsPerQuarter);
@@ -191,8 +157,6 @@ void BodyWriter::changeSpacing(int spacing) {
 }
 
 void BodyWriter::changeCapitals(Capitals capitals) {
-    if (!tells(capitals != m_format.capitals, stated::Capitals))
-        return;
     // The one kind ends before the other begins: many readers keep them in one place.
     const auto word = [](Capitals kind) { return kind == Capitals::Small ? "\\scaps" : "\\caps"; };
     if (m_format.capitals != Capitals::AsTyped || capitals == Capitals::AsTyped)

@@ -33,6 +33,10 @@ public:
     /// \param shownFamily in which text shows that no font is known of.
     void expect(const KeptParts& parts, const QString& shownFamily);
 
+    /// The family of text that names none.
+    int unnamedFamily() const { return m_unnamedFamily; }
+
+    // What formats state (see stated.h) is told, and nothing else that is as usual.
     /// \param number of a numbered list item.
     void beginParagraph(const ParagraphFormat& paragraph, int number);
     void text(QStringView text, const CharFormat& format);
@@ -80,17 +84,15 @@ private:
     void changeField(int field);
     void openGroup();
     void closeGroup();
-    int leftOut(const CharFormat& format) const;
-    bool tells(bool changes, int bit);
     void plain();
-    void toggle(bool on, bool was, int bit, QByteArrayView word);
+    void toggle(int bit, bool on, QByteArrayView word);
 
     WriterTables m_tables;
     RtfOutput m_out;
     ParagraphWriter m_paragraphs;
     CharFormat m_format;
     int m_stated = 0; ///< of the look: what was written since it began
-    int m_states = 0; ///< what the next text states beyond that
+    int m_due = 0;    ///< of what the next text states, what is not written yet
     struct Look {
         CharFormat format;
         int stated = 0;

@@ -79,22 +79,6 @@ private:
         m_scan.instruction = m_tokenizer.groupAhead();
         m_tokenizer.skipGroup();
         --m_depth;
-        Tokenizer words(m_scan.instruction);
-        Token token;
-        for (words.next(token); token.kind != TokenKind::End; words.next(token)) {
-            if (token.kind != TokenKind::Text)
-                continue;
-            const QByteArray text =
-                token.bytes.first(std::min(token.bytes.size(), LongestFieldName))
-                    .toByteArray()
-                    .trimmed();
-            if (text.isEmpty())
-                continue;
-            m_scan.name = text.first(std::max<qsizetype>(text.indexOf(' '), 0)).toUpper();
-            if (m_scan.name.isEmpty())
-                m_scan.name = text.toUpper();
-            return;
-        }
     }
 
     static constexpr int NoDepth = -1;
@@ -109,6 +93,22 @@ private:
 
 FieldScan scanField(QByteArrayView content) {
     return Scan(content).run();
+}
+
+QByteArray fieldName(QByteArrayView instruction) {
+    Tokenizer tokenizer(instruction);
+    Token token;
+    for (tokenizer.next(token); token.kind != TokenKind::End; tokenizer.next(token)) {
+        if (token.kind != TokenKind::Text)
+            continue;
+        const QByteArrayView text =
+            token.bytes.first(std::min(token.bytes.size(), LongestFieldName)).trimmed();
+        if (!text.isEmpty())
+            return text.first(text.contains(' ') ? text.indexOf(' ') : text.size())
+                .toByteArray()
+                .toUpper();
+    }
+    return {};
 }
 
 } // namespace orvalis::rtf

@@ -10,12 +10,14 @@ namespace orvalis::rtf {
 /// What a look ahead tells of a field.
 struct FieldScan {
     QByteArrayView instruction; ///< what stands behind the word of its group, up to the brace
-    QByteArray name;            ///< the instruction's first word, in capitals
     bool hasResult = false;     ///< something to show
     bool hasStructure = false;  ///< paragraphs, cells or sections end in the result
 };
 
 /// \param content of the field's group, behind its first word.
 FieldScan scanField(QByteArrayView content);
+
+/// The first word of a field's instruction, in capitals.
+QByteArray fieldName(QByteArrayView instruction);
 
 } // namespace orvalis::rtf

@@ -57,39 +57,6 @@ enum class ListKind : quint8 {
     UpperRoman,
 };
 
-/// What a file may say of its characters, as bits of CharFormat::stated.
-namespace stated {
-inline constexpr int Font = 1 << 0;
-inline constexpr int Size = 1 << 1;
-inline constexpr int Color = 1 << 2;
-inline constexpr int Highlight = 1 << 3;
-inline constexpr int Bold = 1 << 4;
-inline constexpr int Italic = 1 << 5;
-inline constexpr int Strike = 1 << 6;
-inline constexpr int Underline = 1 << 7;
-inline constexpr int Script = 1 << 8;
-inline constexpr int Raise = 1 << 9;
-inline constexpr int Capitals = 1 << 10;
-inline constexpr int Spacing = 1 << 11;
-inline constexpr int Hidden = 1 << 12;
-inline constexpr int All = (1 << 13) - 1;
-/// Whether anything is known of the font, and of the others. Where nothing is, what a file leaves
-/// out and what it says by its default are one.
-inline constexpr int KnowsFont = 1 << 16;
-inline constexpr int KnowsLook = 1 << 17;
-
-// The same of paragraphs, as bits of ParagraphFormat::stated.
-inline constexpr int Alignment = 1 << 0;
-inline constexpr int Direction = 1 << 1;
-inline constexpr int PageBreak = 1 << 2;
-inline constexpr int Left = 1 << 3;
-inline constexpr int First = 1 << 4;
-inline constexpr int Right = 1 << 5;
-inline constexpr int Before = 1 << 6;
-inline constexpr int After = 1 << 7;
-inline constexpr int LineSpacing = 1 << 8;
-} // namespace stated
-
 /// How a run of characters looks. Family, link and what is kept are indexes into the Names of the
 /// reading.
 struct CharFormat {
@@ -102,7 +69,7 @@ struct CharFormat {
     int cell = NothingKept;    ///< of a tab that ends a cell: the shape of its paragraph
     int anchors = NothingKept; ///< what is kept behind the last of the characters
     int field = NothingKept;   ///< the instruction of the field that the characters are shown by
-    int stated = 0;            ///< what the file says; styles tell the rest where it has any
+    int stated = 0;            ///< what the file says, as bits of stated.h
     QRgb color = AutomaticColor;
     QRgb highlight = AutomaticColor;
     Underline underline = Underline::None;
@@ -181,7 +148,12 @@ struct ListLabel {
     QString keptList; ///< of the list tables: the list and its override, as they are kept
     QString keptOverride;
 
+    /// Whether the file's tables tell of it.
     bool hasTables() const { return source == ListSource::Tables || source == ListSource::Both; }
+    /// Whether list tables tell of it where it is written.
+    bool isInTables() const {
+        return kind != ListKind::None && (source == ListSource::Made || hasTables());
+    }
     bool operator==(const ListLabel&) const = default;
 };
 

@@ -204,8 +204,8 @@ void Interpreter::word(const Token& token) {
     }
     // A word that no fallback can be made of ends the wait for one.
     m_fallbackToSkip = 0;
-    if (characterWord(token) || paragraphWord(token) || rowWord(token) || keptWord(token) ||
-        pictureWord(token) || tableWord(token))
+    if (keptWord(token) || characterWord(token) || paragraphWord(token) || rowWord(token) ||
+        pictureWord(token) || tableWord(token) || listWord(token))
         return;
     destinationWord(token);
 }

@@ -8,6 +8,7 @@
 #include "rtf/list_tables.h"
 #include "rtf/reader.h"
 #include "rtf/sink.h"
+#include "rtf/stated.h"
 #include "rtf/tokenizer.h"
 
 #include <QList>
@@ -124,7 +125,10 @@ private:
     void pageEnd();
     const ParagraphFormat& shapedParagraph();
     int lookOfParagraphMark();
-    bool shows() const;
+    bool shows() const {
+        return m_state.destination == Destination::Body && !m_state.deleted &&
+               !(m_state.indexEntry && m_state.chars.hidden);
+    }
     bool captures() const;
     const CodePage& pageOfText() const;
     void showFieldText();
@@ -137,6 +141,7 @@ private:
     void plainCharacters();
     DefaultFont defaultFont() const;
     void knowWhatIsStated();
+    int known() const { return m_countedOfCharacters & stated::Knows; }
     CharFormat told(CharFormat chars) const;
     QRgb color(int index) const;
 
@@ -155,12 +160,19 @@ private:
     void colorBytes(QByteArrayView run);
     void fontBytes(QByteArrayView run);
 
+    // Lists (interpreter_lists.cpp)
+    bool listWord(const Token& token);
+    void tellOfList(const Token& token);
+    bool numberingWord(const Token& token);
+    QString keptOfLists(const Token& token);
+    bool isInList() const;
+
     // Tables (interpreter_tables.cpp)
     bool rowWord(const Token& token);
     void keepOfRow(KeptLevel level, const KeptCall& call);
     int row();
     int cellShape();
-    int keptInCell();
+    QString listInCell();
     void cellTabs(size_t count);
     void rowEnd(bool outermost);
 
@@ -172,7 +184,6 @@ private:
     void keepParagraph(int set);
     void keepGroup(const Token& token);
     void keepField();
-    QString keptOfLists(const Token& token);
     void placeGroup(KeptPlace place, const QString& group);
     void anchor(const QString& kept);
     QString lookOfMark() const;
@@ -213,9 +224,8 @@ private:
     size_t m_fontEntryDepth = 0; ///< of the groups, where the entry of the font table began
     int m_defaultFont = 0;
     bool m_defaultFontSaid = false;
-    int m_known = 0;              ///< flags of stated
-    int m_statedOfCharacters = 0; ///< bits of stated that are of use
-    int m_statedOfParagraph = 0;
+    int m_countedOfCharacters = 0; ///< what counts of what is stated
+    int m_countedOfParagraphs = 0;
     bool m_nameless = true;
     QList<QRgb> m_colors;
     QRgb m_color = AutomaticColor;
@@ -265,7 +275,7 @@ private:
     bool m_pageBreakAround = false;
     QString m_label;
     ListLabel m_labelList; ///< what was told where that stands, which a brace may end
-    SymbolFont m_labelSymbols = SymbolFont::None; ///< that its font is
+    SymbolFont m_labelSymbols = SymbolFont::None; ///< that the font is which it names
     ListKind m_lastListKind = ListKind::None;
     ParagraphFormat m_shaped;
 

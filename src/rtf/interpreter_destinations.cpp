@@ -164,6 +164,7 @@ bool Interpreter::destinationWord(const Token& token) {
             skipGroup();
         return true;
     case Action::LabelText:
+        m_labelSymbols = SymbolFont::None;
         openInBody(Destination::Label);
         return true;
     case Action::ListLevelText:
@@ -220,7 +221,8 @@ void Interpreter::closeDestination(Destination destination) {
         m_fonts.setPlainName(captured.section(u';', 0, 0));
         return;
     case Destination::LevelText:
-        m_lists.setLevelText(captured);
+        if (isInList())
+            m_lists.setLevelText(captured);
         return;
     case Destination::Picture:
         deliverPicture();
@@ -251,7 +253,6 @@ void Interpreter::closeDestination(Destination destination) {
     case Destination::Label:
         m_label = captured;
         m_labelList = m_state.paragraph.list;
-        m_labelSymbols = symbolFontOf(m_names.familyAt(m_captureFormat.family));
         return;
     default:
         return;
@@ -300,61 +301,6 @@ bool Interpreter::tableWord(const Token& token) {
         return true;
     case Action::Blue:
         m_color = OpaqueBlack | (m_color & 0xffff00u) | QRgb(std::clamp(number, 0, 255));
-        return true;
-    case Action::List:
-        m_lists.beginList(keptOfLists(token));
-        return true;
-    case Action::ListOverrideEntry:
-        m_lists.beginOverride(keptOfLists(token));
-        return true;
-    case Action::ListOverrideLevel:
-        m_lists.beginOverrideLevel();
-        return true;
-    case Action::ListLevelEntry:
-        m_lists.beginLevel();
-        return true;
-    case Action::ListIdentity:
-        m_lists.setIdentity(number);
-        return true;
-    case Action::ListLevelKind:
-        m_lists.setLevelKind(number);
-        return true;
-    case Action::ListLevelStart:
-        m_lists.setLevelStart(number);
-        return true;
-    case Action::ListLevelFollow:
-        m_lists.setLevelFollow(number);
-        return true;
-    case Action::ListLevelSide:
-        m_lists.setLevelSide(number);
-        return true;
-    case Action::FurtherFont: {
-        const FontTable::Font* font = m_fonts.find(number);
-        m_numberingSymbols = font ? font->symbols : SymbolFont::None;
-        return true;
-    }
-    case Action::NumberingSide:
-        m_numbering.side = static_cast<LabelSide>(token.word->value);
-        return true;
-    case Action::NumberingBullet:
-        m_numbering.kind = ListKind::Bullet;
-        return true;
-    case Action::NumberingLevel:
-        m_numbering.kind = number >= 11 ? ListKind::Bullet : ListKind::Decimal;
-        return true;
-    case Action::NumberingBody:
-        m_numbering.kind = ListKind::Decimal;
-        return true;
-    case Action::NumberingContinued:
-        m_numbering.kind = ListKind::None;
-        m_numberingShows = false;
-        return true;
-    case Action::NumberingKind:
-        if (m_numbering.kind != ListKind::Bullet && m_numberingShows)
-            m_numbering.kind = static_cast<ListKind>(token.word->value);
-        return true;
-    case Action::NumberingStart:
-        m_numbering.start = std::clamp(number, 0, LargestListStart);
         return true;
     default:
         return false;

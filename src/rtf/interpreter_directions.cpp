@@ -93,7 +93,7 @@ bool Interpreter::sideWord(const KeptCall& call) {
     } else if (bit == stated::Italic) {
         chars.italic = on;
     }
-    chars.stated |= bit & m_statedOfCharacters;
+    chars.stated |= bit & m_countedOfCharacters;
     m_state.said |= bit;
     return true;
 }

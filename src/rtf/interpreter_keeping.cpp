@@ -112,7 +112,7 @@ bool Interpreter::furtherFont(KeptCall& call) const {
 
 /// The script that a font is named in is that of the text.
 void Interpreter::keepScript() {
-    const bool eastern = m_state.script && m_state.script->name == QByteArrayView("dbch");
+    const bool eastern = m_state.script && m_state.script->name == "dbch";
     const ControlWord* now = eastern ? m_state.script : nullptr;
     if (now == m_state.eastern)
         return;
@@ -139,7 +139,8 @@ void Interpreter::keepGroup(const Token& token) {
     const auto place = static_cast<KeptPlace>(token.word->value);
     const QByteArrayView content = m_tokenizer.groupAhead();
     const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, m_defaultFont};
-    const QByteArray head = (isStarred(place) ? "{\\*\\" : "{\\") + token.bytes.toByteArray();
+    QByteArray head(isStarred(place) ? "{\\*\\" : "{\\");
+    head += token.bytes;
     const QString group = GroupKeeper(content, tables).kept(head, m_keptLeft);
     m_keptLeft -= group.size();
     skipGroup();
@@ -155,14 +156,15 @@ void Interpreter::keepField() {
         m_fields >= MostFields || !shows())
         return;
     const FieldScan scan = scanField(m_tokenizer.groupAhead());
-    const bool isLink = scan.name == "HYPERLINK";
-    const bool showsItself = !scan.hasResult && (scan.name == "EQ" || scan.name == "SYMBOL");
-    if (scan.instruction.isEmpty() || scan.hasStructure || isLink)
+    if (scan.instruction.isEmpty() || scan.hasStructure)
         return;
     const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, m_defaultFont};
     const QString kept = GroupKeeper(scan.instruction, tables).kept("{\\*\\fldinst", m_keptLeft);
     m_keptLeft -= kept.size();
-    if (kept.isEmpty())
+    // Its name is that by which it will be read when it has been written.
+    const QByteArray name = fieldName(keptWithoutPlaces(kept));
+    const bool showsItself = !scan.hasResult && (name == "EQ" || name == "SYMBOL");
+    if (kept.isEmpty() || name == "HYPERLINK")
         return;
     if (showsItself)
         m_ownField = QString::number(++m_fields) + NumberEnd + kept;
@@ -170,24 +172,6 @@ void Interpreter::keepField() {
         m_state.chars.field = m_names.kept(QString::number(++m_fields) + NumberEnd + kept);
     else
         anchor(u"{\\field"_s + kept + u"{\\fldrslt}}"_s);
-}
-
-/// The list or override whose word has come, in the list tables.
-QString Interpreter::keptOfLists(const Token& token) {
-    constexpr qint64 LongestList = 65536; // real ones have some thousand bytes
-    const bool inTable = m_state.destination == Destination::ListTable ||
-                         m_state.destination == Destination::ListOverrideTable;
-    if (!inTable || m_tokenizer.position() < m_listKeptTo)
-        return {};
-    const QByteArrayView content = m_tokenizer.groupAhead();
-    m_listKeptTo = m_tokenizer.position() + content.size();
-    // Labels are told in the page of the document, whatever its fonts.
-    const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, NoName};
-    const QString kept =
-        GroupKeeper(content, tables)
-            .kept("{\\" + token.bytes.toByteArray(), std::min(LongestList, m_keptLeft));
-    m_keptLeft -= kept.size();
-    return kept;
 }
 
 void Interpreter::placeGroup(KeptPlace place, const QString& group) {

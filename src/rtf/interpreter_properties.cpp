@@ -46,41 +46,43 @@ bool Interpreter::characterWord(const Token& token) {
             if (m_state.destination == Destination::ListTable ||
                 m_state.destination == Destination::ListOverrideTable)
                 m_lists.setLevelFont(m_state.symbols);
+            else if (m_state.destination == Destination::Label)
+                m_labelSymbols = m_state.symbols;
         }
         return true;
     case Action::FontSize:
-        chars.stated |= stated::Size & m_statedOfCharacters;
+        chars.stated |= stated::Size & m_countedOfCharacters;
         chars.halfPoints = token.hasParameter && token.parameter > 0
                                ? std::min(token.parameter, LargestHalfPoints)
                                : DefaultHalfPoints;
         sayOfSide(stated::Size);
         return true;
     case Action::Color:
-        chars.stated |= stated::Color & m_statedOfCharacters;
+        chars.stated |= stated::Color & m_countedOfCharacters;
         chars.color = color(token.parameter);
         return true;
     case Action::Highlight:
-        chars.stated |= stated::Highlight & m_statedOfCharacters;
+        chars.stated |= stated::Highlight & m_countedOfCharacters;
         chars.highlight = color(token.parameter);
         chars.shading = chars.highlight != AutomaticColor && token.word->value != 0;
         return true;
     case Action::Bold:
-        chars.stated |= stated::Bold & m_statedOfCharacters;
+        chars.stated |= stated::Bold & m_countedOfCharacters;
         chars.bold = isOn(token);
         sayOfSide(stated::Bold);
         return true;
     case Action::Italic:
-        chars.stated |= stated::Italic & m_statedOfCharacters;
+        chars.stated |= stated::Italic & m_countedOfCharacters;
         chars.italic = isOn(token);
         sayOfSide(stated::Italic);
         return true;
     case Action::Strike:
-        chars.stated |= stated::Strike & m_statedOfCharacters;
+        chars.stated |= stated::Strike & m_countedOfCharacters;
         chars.strike = isOn(token);
         chars.doubleStrike = chars.strike && token.word->value != 0;
         return true;
     case Action::Spacing:
-        chars.stated |= stated::Spacing & m_statedOfCharacters;
+        chars.stated |= stated::Spacing & m_countedOfCharacters;
         chars.spacing =
             token.word->value * std::clamp(token.parameter, -LargestSpacing, LargestSpacing);
         return true;
@@ -88,32 +90,32 @@ bool Interpreter::characterWord(const Token& token) {
         chars.controlMarks = isOn(token);
         return true;
     case Action::Hidden:
-        chars.stated |= stated::Hidden & m_statedOfCharacters;
+        chars.stated |= stated::Hidden & m_countedOfCharacters;
         chars.hidden = isOn(token);
         return true;
     case Action::Deleted:
         m_state.deleted = isOn(token);
         return true;
     case Action::UnderlineKind:
-        chars.stated |= stated::Underline & m_statedOfCharacters;
+        chars.stated |= stated::Underline & m_countedOfCharacters;
         chars.underline = isOn(token) ? static_cast<Underline>(token.word->value) : Underline::None;
         return true;
     case Action::NoUnderline:
-        chars.stated |= stated::Underline & m_statedOfCharacters;
+        chars.stated |= stated::Underline & m_countedOfCharacters;
         chars.underline = Underline::None;
         return true;
     case Action::ScriptKind:
-        chars.stated |= stated::Script & m_statedOfCharacters;
+        chars.stated |= stated::Script & m_countedOfCharacters;
         chars.script = isOn(token) ? static_cast<Script>(token.word->value) : Script::Normal;
         return true;
     case Action::Raise:
-        chars.stated |= stated::Raise & m_statedOfCharacters;
+        chars.stated |= stated::Raise & m_countedOfCharacters;
         // Without a number the words mean six half points.
         chars.raise = token.word->value *
                       (token.hasParameter ? std::clamp(token.parameter, 0, LargestRaise) : 6);
         return true;
     case Action::CapitalsKind:
-        chars.stated |= stated::Capitals & m_statedOfCharacters;
+        chars.stated |= stated::Capitals & m_countedOfCharacters;
         // Switched off, the one kind leaves the other alone.
         if (isOn(token))
             chars.capitals = static_cast<Capitals>(token.word->value);
@@ -144,32 +146,32 @@ bool Interpreter::paragraphWord(const Token& token) {
         m_state.tabLeader = TabLeader::None;
         return true;
     case Action::Align:
-        paragraph.stated |= stated::Alignment & m_statedOfParagraph;
+        paragraph.stated |= stated::Alignment & m_countedOfParagraphs;
         paragraph.alignment = static_cast<Alignment>(token.word->value);
         paragraph.leftIsSaid = paragraph.alignment == Alignment::Left;
         return true;
     case Action::LeftIndent:
-        paragraph.stated |= stated::Left & m_statedOfParagraph;
+        paragraph.stated |= stated::Left & m_countedOfParagraphs;
         paragraph.left = length(token.parameter);
         return true;
     case Action::FirstIndent:
-        paragraph.stated |= stated::First & m_statedOfParagraph;
+        paragraph.stated |= stated::First & m_countedOfParagraphs;
         paragraph.first = length(token.parameter);
         return true;
     case Action::RightIndent:
-        paragraph.stated |= stated::Right & m_statedOfParagraph;
+        paragraph.stated |= stated::Right & m_countedOfParagraphs;
         paragraph.right = length(token.parameter);
         return true;
     case Action::SpaceBefore:
-        paragraph.stated |= stated::Before & m_statedOfParagraph;
+        paragraph.stated |= stated::Before & m_countedOfParagraphs;
         paragraph.before = std::max(length(token.parameter), 0);
         return true;
     case Action::SpaceAfter:
-        paragraph.stated |= stated::After & m_statedOfParagraph;
+        paragraph.stated |= stated::After & m_countedOfParagraphs;
         paragraph.after = std::max(length(token.parameter), 0);
         return true;
     case Action::LineSpacing:
-        paragraph.stated |= stated::LineSpacing & m_statedOfParagraph;
+        paragraph.stated |= stated::LineSpacing & m_countedOfParagraphs;
         paragraph.lineSpacing = length(token.parameter);
         return true;
     case Action::LineMultiple:
@@ -185,21 +187,21 @@ bool Interpreter::paragraphWord(const Token& token) {
         tabStop(length(token.parameter));
         return true;
     case Action::Direction:
-        paragraph.stated |= stated::Direction & m_statedOfParagraph;
+        paragraph.stated |= stated::Direction & m_countedOfParagraphs;
         paragraph.rightToLeft = token.word->value != 0;
         paragraph.leftToRight = !paragraph.rightToLeft;
         return true;
     case Action::PageBreakBefore:
-        paragraph.stated |= stated::PageBreak & m_statedOfParagraph;
+        paragraph.stated |= stated::PageBreak & m_countedOfParagraphs;
         paragraph.pageBreakBefore = isOn(token);
         return true;
     case Action::ListOverride:
-        if (m_state.destination == Destination::ListOverrideTable)
-            m_lists.addOverride(token.parameter);
-        else
+        if (m_state.destination != Destination::ListOverrideTable)
             // It takes a paragraph out of its list, but for old files that number from there on.
             m_state.listOverride =
                 token.parameter == 0 && !m_lists.label(0, 0, false) ? NoList : token.parameter;
+        else if (isInList())
+            m_lists.addOverride(token.parameter);
         return true;
     case Action::ListLevel:
         m_state.listLevel = token.parameter;
@@ -226,7 +228,7 @@ void Interpreter::tabStop(int position) {
     const TabStop stop{position, m_state.tabType, m_state.tabLeader};
     m_state.tabType = QTextOption::LeftTab;
     m_state.tabLeader = TabLeader::None;
-    if (m_state.destination == Destination::ListTable)
+    if (m_state.destination == Destination::ListTable && isInList())
         m_lists.setLevelTab(position);
     else if (m_state.paragraph.tabs.size() < MostTabs)
         m_state.paragraph.tabs.append(stop);
@@ -241,7 +243,7 @@ void Interpreter::selectFont() {
     const bool chosen = font && (m_state.font != NoName || m_defaultFontSaid);
     m_state.chars.family = chosen ? font->family : NoName;
     m_state.chars.stated &= ~stated::Font;
-    m_state.chars.stated |= m_state.font == NoName ? 0 : stated::Font & m_statedOfCharacters;
+    m_state.chars.stated |= m_state.font == NoName ? 0 : stated::Font & m_countedOfCharacters;
     m_state.symbols = chosen ? font->symbols : SymbolFont::None;
     const bool hasPage =
         font && font->page && (chosen || font->page->symbols() == SymbolFont::None);
@@ -272,24 +274,14 @@ DefaultFont Interpreter::defaultFont() const {
     return m_fonts.find(m_defaultFont) ? DefaultFont::Named : DefaultFont::Missing;
 }
 
-/// Where the file has styles they tell what the text leaves out, to whoever follows them; and lists
-/// tell indents.
 void Interpreter::knowWhatIsStated() {
-    m_statedOfParagraph = m_stylesKept || m_lists.any() ? ~0 : 0;
-    m_statedOfCharacters = 0;
-    m_known = 0;
-    if (m_stylesKept) {
-        m_known = stated::KnowsFont | stated::KnowsLook;
-        m_statedOfCharacters = ~0;
-    } else if (defaultFont() != DefaultFont::Named) {
-        m_known = stated::KnowsFont;
-        m_statedOfCharacters = stated::Font;
-    }
+    m_countedOfCharacters = stated::countedOfCharacters(m_stylesKept, defaultFont());
+    m_countedOfParagraphs = stated::countedOfParagraphs(m_stylesKept, m_lists.any());
 }
 
 /// The characters, with whether anything is known of what is stated of them.
 CharFormat Interpreter::told(CharFormat chars) const {
-    chars.stated |= m_known;
+    chars.stated |= known();
     return chars;
 }
 

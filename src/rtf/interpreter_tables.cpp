@@ -83,8 +83,10 @@ int Interpreter::cellShape() {
     if (row() == NothingKept)
         return NothingKept;
     ParagraphFormat shaped = m_state.paragraph;
-    shaped.kept = keptInCell();
+    const QString list = listInCell();
+    shaped.kept = m_names.kept(m_names.keptAt(shaped.kept) + list);
     m_lastOfCell = shaped;
+    shaped.stated = stated::by(shaped, stated::countedOfParagraphs(m_stylesKept, !list.isEmpty()));
     m_label.clear();
     if (m_cellShape != NothingKept && m_shapeOfCell == shaped)
         return m_cellShape;
@@ -100,15 +102,15 @@ int Interpreter::cellShape() {
     return m_cellShape;
 }
 
-/// What is kept of a cell's paragraph, its place in a list among it: a cell has no label to show.
-int Interpreter::keptInCell() {
+/// The place of a cell's paragraph in a list, which is kept: a cell has no label to show.
+QString Interpreter::listInCell() {
     const auto label = m_lists.label(m_state.listOverride, m_state.listLevel, false);
     if (m_state.listOverride == NoList || !label || !label->hasTables() || m_keptLeft <= 0)
-        return m_state.paragraph.kept;
+        return {};
     const QString list = QStringLiteral("\\ls") + keptList(label->keptList, label->keptOverride) +
                          QStringLiteral("\\ilvl") + QString::number(label->level);
     m_keptLeft -= list.size();
-    return m_names.kept(m_names.keptAt(m_state.paragraph.kept) + list);
+    return list;
 }
 
 void Interpreter::cellTabs(size_t count) {

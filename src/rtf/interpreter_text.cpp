@@ -32,11 +32,6 @@ char16_t harmless(char16_t character) {
 
 } // namespace
 
-bool Interpreter::shows() const {
-    return m_state.destination == Destination::Body && !m_state.deleted &&
-           !(m_state.indexEntry && m_state.chars.hidden);
-}
-
 bool Interpreter::captures() const {
     switch (m_state.destination) {
     case Destination::PlainFontName:
@@ -246,7 +241,8 @@ void Interpreter::flushText() {
     }
     if (m_text.isEmpty())
         return;
-    m_sink.text(m_text, told(m_textFormat));
+    m_textFormat.stated |= known();
+    m_sink.text(m_text, m_textFormat);
     m_text.resize(0);
     askForRoom();
 }

@@ -111,6 +111,17 @@ void writeKept(RtfOutput& out, WriterTables& tables, QStringView kept) {
     }
 }
 
+QByteArray keptWithoutPlaces(QStringView kept) {
+    QByteArray rest;
+    bool inPlace = false;
+    for (const QChar c : kept)
+        if (c == PlaceStart || c == PlaceEnd)
+            inPlace = c == PlaceStart;
+        else if (!inPlace)
+            rest.append(c.toLatin1());
+    return rest;
+}
+
 int stretchOf(QStringView kept) {
     constexpr int Usual = 100;
     constexpr int Widest = 600; // that word processors know

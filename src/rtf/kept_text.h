@@ -28,6 +28,9 @@ inline constexpr QChar NumberEnd(0x3);
 /// Writes what is kept, its fonts and colours by the numbers of these tables.
 void writeKept(RtfOutput& out, WriterTables& tables, QStringView kept);
 
+/// What is kept without the numbers that have a place in it.
+QByteArray keptWithoutPlaces(QStringView kept);
+
 /// What the kept text of a section's begin starts with where the section ahead of it ends behind a
 /// paragraph of its own, which most readers show as a further one.
 inline constexpr QStringView ParagraphEndsFirst = u"\\par";

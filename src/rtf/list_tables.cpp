@@ -4,6 +4,7 @@
 
 #include "rtf/bullet_sign.h"
 #include "rtf/kept_text.h"
+#include "rtf/list_formats.h"
 
 #include <algorithm>
 
@@ -247,12 +248,7 @@ std::optional<ListLabel> ListTables::label(int overrideNumber, int level, bool n
 }
 
 ListLabel labelFromText(const QString& text, SymbolFont font, ListKind previous) {
-    QString label = text;
-    // A label has no signs below a blank: the lowest codes stand for numbers of its list.
-    label.removeIf([](QChar c) {
-        return c < u' ' || c == QChar::LineSeparator || c == QChar::ObjectReplacementCharacter;
-    });
-    label = label.trimmed();
+    const QString label = text.trimmed();
     if (label.isEmpty() || label.size() > LongestLabel)
         return {};
     const auto isSign = [](QChar c) { return !c.isLetterOrNumber(); };
@@ -274,6 +270,12 @@ ListLabel labelFromText(const QString& text, SymbolFont font, ListKind previous)
     bullet.source = ListSource::Text;
     bullet.prefix = bulletSign(label, font);
     return bullet;
+}
+
+bool isToldByText(const ListLabel& label, int number, ListKind previous) {
+    const ListLabel read = labelFromText(labelText(label, number), SymbolFont::None, previous);
+    return read.kind == label.kind && read.prefix == label.prefix && read.suffix == label.suffix &&
+           (label.kind == ListKind::Bullet || read.start == number);
 }
 
 } // namespace orvalis::rtf

@@ -78,4 +78,7 @@ private:
 /// \param font with signs that shows the label, where it is one of these.
 ListLabel labelFromText(const QString& text, SymbolFont font, ListKind previous);
 
+/// Whether the text of an item's label, as the document shows it, says what the label is.
+bool isToldByText(const ListLabel& label, int number, ListKind previous);
+
 } // namespace orvalis::rtf

@@ -3,6 +3,7 @@
 #include "rtf/look_words.h"
 
 #include "rtf/kept_text.h"
+#include "rtf/stated.h"
 
 #include <cstdlib>
 

@@ -5,6 +5,7 @@
 #include "rtf/kept_text.h"
 #include "rtf/list_formats.h"
 #include "rtf/rtf_output.h"
+#include "rtf/stated.h"
 #include "rtf/writer_tables.h"
 
 namespace orvalis::rtf {
@@ -47,6 +48,20 @@ const char* leaderWord(TabLeader leader) {
     return "\\tldot";
 }
 
+const char* alignmentWord(Alignment alignment) {
+    switch (alignment) {
+    case Alignment::Right:
+        return "\\qr";
+    case Alignment::Center:
+        return "\\qc";
+    case Alignment::Justify:
+        return "\\qj";
+    case Alignment::Left:
+        break;
+    }
+    return "\\ql";
+}
+
 const char* sideWord(LabelSide side) {
     return side == LabelSide::Center ? "\\pnqc" : "\\pnqr";
 }
@@ -83,7 +98,7 @@ void ParagraphWriter::list(const ParagraphFormat& paragraph, const ListLabel& sh
     const ListSource source = paragraph.list.source;
     if (source != ListSource::Tables && source != ListSource::Text)
         numbering(shown);
-    if (source != ListSource::Numbering && source != ListSource::Text) {
+    if (paragraph.list.isInTables()) {
         m_out.word("\\ls", m_tables.list(paragraph));
         m_out.word("\\ilvl", paragraph.list.hasTables() ? paragraph.list.level : 0);
     }
@@ -147,16 +162,13 @@ void ParagraphWriter::shape(const ParagraphFormat& paragraph) {
 }
 
 void ParagraphWriter::geometry(const ParagraphFormat& paragraph) {
-    // What is stated as it would be anyway is stated against a style.
     const auto isStated = [&](int bit) { return (paragraph.stated & bit) != 0; };
     const auto length = [&](const char* name, int number, int bit) {
-        if (number != 0 || isStated(bit))
+        if (isStated(bit))
             m_out.word(name, number);
     };
-    if (paragraph.rightToLeft)
-        m_out.word("\\rtlpar");
-    else if (paragraph.leftToRight || isStated(stated::Direction))
-        m_out.word("\\ltrpar");
+    if (isStated(stated::Direction))
+        m_out.word(paragraph.rightToLeft ? "\\rtlpar" : "\\ltrpar");
     if (paragraph.pageBreakBefore && paragraph.pageWord == PageWord::OfParagraph)
         m_out.word("\\pagebb");
     else if (isStated(stated::PageBreak))
@@ -167,31 +179,13 @@ void ParagraphWriter::geometry(const ParagraphFormat& paragraph) {
     length("\\sb", paragraph.before, stated::Before);
     const bool late = paragraph.afterAhead != NoLength;
     length("\\sa", late ? paragraph.afterAhead : paragraph.after, stated::After);
-    if (paragraph.lineSpacing != 0 || isStated(stated::LineSpacing)) {
+    if (isStated(stated::LineSpacing)) {
         m_out.word("\\sl", paragraph.lineSpacing);
         m_out.word("\\slmult", paragraph.lineMultiple ? 1 : 0);
     }
-    if (paragraph.alignment != Alignment::Left)
-        alignment(paragraph.alignment);
-    else if (isStated(stated::Alignment) || paragraph.leftIsSaid)
-        m_out.word("\\ql");
+    if (isStated(stated::Alignment))
+        m_out.word(alignmentWord(paragraph.alignment));
     tabs(paragraph.tabs);
-}
-
-void ParagraphWriter::alignment(Alignment alignment) {
-    switch (alignment) {
-    case Alignment::Left:
-        return;
-    case Alignment::Right:
-        m_out.word("\\qr");
-        return;
-    case Alignment::Center:
-        m_out.word("\\qc");
-        return;
-    case Alignment::Justify:
-        m_out.word("\\qj");
-        return;
-    }
 }
 
 void ParagraphWriter::tabs(const QList<TabStop>& tabs) {

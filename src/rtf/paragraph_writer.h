@@ -22,12 +22,11 @@ public:
     void forget() { m_any = false; }
     /// The paragraph that was begun last.
     const ParagraphFormat& last() const { return m_last; }
-    /// Indents, spacing, alignment and tab stops.
+    /// What the paragraph states of indents, spacing and alignment, and its tab stops.
     void geometry(const ParagraphFormat& paragraph);
 
 private:
     void shape(const ParagraphFormat& paragraph);
-    void alignment(Alignment alignment);
     void tabs(const QList<TabStop>& tabs);
     void list(const ParagraphFormat& paragraph, const ListLabel& shown);
     void label(const ListLabel& label);

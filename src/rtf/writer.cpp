@@ -5,7 +5,10 @@
 #include "rtf/block_formats.h"
 #include "rtf/body_writer.h"
 #include "rtf/kept_parts.h"
+#include "rtf/list_formats.h"
+#include "rtf/list_tables.h"
 #include "rtf/picture_format.h"
+#include "rtf/stated.h"
 #include "rtf/text_formats.h"
 
 #include <QSet>
@@ -21,23 +24,6 @@ namespace orvalis::rtf {
 
 namespace {
 
-/// What a paragraph states by all that is not as usual.
-int writtenAnyway(const ParagraphFormat& paragraph) {
-    int bits = 0;
-    const auto unless = [&bits](bool usual, int bit) { bits |= usual ? 0 : bit; };
-    unless(paragraph.alignment == Alignment::Left && !paragraph.leftIsSaid, stated::Alignment);
-    unless(!paragraph.rightToLeft && !paragraph.leftToRight, stated::Direction);
-    const bool ofShape = paragraph.pageWord == PageWord::OfParagraph;
-    unless(!paragraph.pageBreakBefore || !ofShape, stated::PageBreak);
-    unless(paragraph.left == 0, stated::Left);
-    unless(paragraph.first == 0, stated::First);
-    unless(paragraph.right == 0, stated::Right);
-    unless(paragraph.before == 0, stated::Before);
-    unless(paragraph.after == 0, stated::After);
-    unless(paragraph.lineSpacing == 0, stated::LineSpacing);
-    return bits;
-}
-
 /// Walks through a part of a document and tells the body writer what stands there.
 class DocumentWalk {
 public:
@@ -51,9 +37,7 @@ public:
         const KeptParts parts = keptParts(document);
         m_body.expect(parts, document.defaultFont().family());
         m_hasStyles = !parts.styles.isEmpty();
-        const bool namesFont =
-            parts.defaultFont == DefaultFont::Unknown || parts.defaultFont == DefaultFont::Named;
-        m_statedOfCharacters = namesFont ? 0 : stated::KnowsFont | stated::Font;
+        m_countedOfCharacters = stated::countedOfCharacters(m_hasStyles, parts.defaultFont);
     }
 
     QByteArray rtf() {
@@ -193,7 +177,7 @@ private:
     template <class Takes>
     void runs(const QTextBlock& block, int position, const Takes& takes) {
         const QString text = block.text();
-        const QHash<int, int> ends = anchorEnds(block);
+        QHash<int, int> ends;
         bool empty = true;
         int at = 0;
         for (auto it = block.begin(); !it.atEnd(); ++it) {
@@ -208,8 +192,12 @@ private:
             if (takes(fragment))
                 continue;
             CharFormat look = lookOf(fragment);
-            if (look.anchors != NothingKept && !anchorsEnd(look.anchors, ends, at))
-                look.anchors = NothingKept;
+            if (look.anchors != NothingKept) {
+                if (ends.isEmpty())
+                    ends = anchorEnds(block);
+                if (!anchorsEnd(look.anchors, ends, at))
+                    look.anchors = NothingKept;
+            }
             if (m_isImage[size_t(fragment.charFormatIndex())]) {
                 const Picture picture =
                     pictureOfFormat(m_document, fragment.charFormat().toImageFormat());
@@ -250,17 +238,8 @@ private:
 
     CharFormat format(const QTextCharFormat& from) {
         CharFormat format = charFormat(from, m_body.names(), m_document.defaultFont());
-        if (!m_hasStyles)
-            format.stated &= m_statedOfCharacters;
+        format.stated = stated::by(format, m_countedOfCharacters, m_body.unnamedFamily());
         return format;
-    }
-
-    /// What the text states counts only where a reader of this document will know of it, wherever
-    /// the text came from.
-    bool statesOf(const ListLabel& list) const {
-        const bool hasTables =
-            list.kind != ListKind::None && (list.source == ListSource::Made || list.hasTables());
-        return m_hasStyles || hasTables;
     }
 
     // Documents share their formats among the runs, and so does the work on them.
@@ -286,9 +265,29 @@ private:
             m_shapeIndex = index;
             m_shape = paragraphFormat(block.blockFormat(), block.textList(),
                                       m_document.indentWidth(), m_body.names());
-            m_shape.stated = statesOf(m_shape.list) ? m_shape.stated | writtenAnyway(m_shape) : 0;
+            ListLabel& list = m_shape.list;
+            if (list.source == ListSource::Text && !isToldByText(*block.textList()))
+                list.source = ListSource::Made;
+            m_shape.stated =
+                stated::by(m_shape, stated::countedOfParagraphs(m_hasStyles, list.isInTables()));
         }
         return m_shape;
+    }
+
+    /// Whether the text of the labels says what each of them is; else the list tables must.
+    bool isToldByText(const QTextList& list) {
+        const auto known = m_toldByText.constFind(&list);
+        if (known != m_toldByText.constEnd())
+            return *known;
+        const ListLabel label = labelOf(list);
+        bool told = true;
+        for (int item = 0; told && item < list.count(); ++item) {
+            const QTextList* ahead = list.item(item).previous().textList();
+            const ListKind kindAhead = ahead ? labelOf(*ahead).kind : ListKind::None;
+            told = rtf::isToldByText(label, label.start + item, kindAhead);
+        }
+        m_toldByText.insert(&list, told);
+        return told;
     }
 
     // Counted along the way: a list finds the number of an item only by going through all of them.
@@ -304,7 +303,7 @@ private:
     int m_tellAt; ///< the place behind which the progress is told next
     int m_defaultTab;
     bool m_hasStyles = false;
-    int m_statedOfCharacters = 0; ///< that count without styles
+    int m_countedOfCharacters = 0; ///< what counts of what is stated
     BodyWriter m_body;
     std::vector<char> m_known;
     std::vector<CharFormat> m_formats;
@@ -314,6 +313,7 @@ private:
     int m_shapeIndex = -1;
     ParagraphFormat m_shape;
     QHash<const QTextList*, int> m_items;
+    QHash<const QTextList*, bool> m_toldByText; ///< of lists that the file tells so
     QSet<int> m_anchorsWritten;
 };
 

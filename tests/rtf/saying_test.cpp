@@ -50,6 +50,10 @@ private slots:
     void listsOfTwoFilesStayApart();
     void bulletsThatTheWindowMakesStandBesideThoseOfTheTables();
     void aLabelInTextAloneIsShownAndStaysText();
+    void aLabelThatItsTextDoesNotTellIsToldByTheTables_data();
+    void aLabelThatItsTextDoesNotTellIsToldByTheTables();
+    void anItemThatItsTextDoesNotTellTakesItsListIntoTheTables();
+    void textThatIsRaisedWhereNothingWasSaidEndsTheSameAgain();
 };
 
 void SayingTest::whatIsSaidStays_data() {
@@ -89,6 +93,11 @@ void SayingTest::whatIsSaidStays_data() {
         "deed {\\field{\\*\\fldinst PAGEREF x}{\\fldrslt 8}}}}");
     row("plain text in a field", "{\\field{\\*\\fldinst X}{\\fldrslt{a\\plain  word}}}\\par",
         "{\\field{\\*\\fldinst X}{\\fldrslt\\f0\\fs24 a deed}}");
+    row("field whose name has a code",
+        "{\\field{\\*\\fldinst HYPER\\'01LINK x}{\\fldrslt word}}\\par",
+        "{\\field{\\*\\fldinst HYPER\\'01LINK x}{\\fldrslt\\f0\\fs24 deed}}");
+    row("field whose name has a code as it is",
+        "{\\field{\\*\\fldinst HYPERLINK\x07 x}{\\fldrslt word}}\\par", "deed");
     row("paragraphs in a field", "{\\field{\\*\\fldinst TOC}{\\fldrslt a\\par word}}\\par",
         "a\\par\r\ndeed\\par");
     // Lists
@@ -123,6 +132,9 @@ void SayingTest::whatIsSaidStays_data() {
     row("list in a cell",
         Lists + "\\trowd\\cellx900\\cellx1800\\pard\\intbl\\ls3 word\\cell\\ls4 b\\cell\\row",
         "\\pard\\intbl\\ls1\\ilvl0\\f0\\fs24 deed\\cell\r\n\\pard\\intbl\\ls2\\ilvl0 b\\cell\\row");
+    row("indent in a cell, beside lists that nothing is of",
+        Lists + "\\trowd\\cellx900\\cellx1800\\pard\\intbl\\li0 word\\cell b\\cell\\row",
+        "\\pard\\intbl\\f0\\fs24 deed\\cell");
     row("label in the look of the mark", Lists + "\\pard\\ls3{\\i word}\\b\\fs30\\par",
         "\\i\\f0\\fs24 deed{\\plain\\b\\f0\\fs30\\par}\r\n");
     row("space that is told behind the text", "\\pard\\sa60 word\\sa180\\par\\pard\\sa180 b\\par",
@@ -313,6 +325,54 @@ void SayingTest::aLabelInTextAloneIsShownAndStaysText() {
     const QByteArray written = writeRtf(document);
     QVERIFY2(!written.contains("\\pn\\") && !written.contains("\\ls"), written);
     QCOMPARE(written.count("{\\pntext"), 2);
+}
+
+void SayingTest::aLabelThatItsTextDoesNotTellIsToldByTheTables_data() {
+    QTest::addColumn<QByteArray>("label");
+    QTest::addColumn<bool>("byText");
+    QTest::newRow("a number") << QByteArray("4.") << true;
+    QTest::newRow("words ahead") << QByteArray("Step 4:") << true;
+    QTest::newRow("a code and a blank ahead") << QByteArray("\\'01 4.") << false;
+    QTest::newRow("a blank and a code behind") << QByteArray("4. \\'01") << false;
+    QTest::newRow("a code within") << QByteArray("(\\'014)") << true;
+}
+
+void SayingTest::aLabelThatItsTextDoesNotTellIsToldByTheTables() {
+    QFETCH(QByteArray, label);
+    QFETCH(bool, byText);
+    const QByteArray written = changedAndSaved(file("\\pard{\\pntext " + label + "}word\\par"));
+    QVERIFY2(written.contains("deed"), written);
+    QCOMPARE(!written.contains("\\ls1"), byText);
+}
+
+void SayingTest::anItemThatItsTextDoesNotTellTakesItsListIntoTheTables() {
+    QTextDocument document;
+    readRtf(file("\\pard{\\pntext h.\\tab}a"), document);
+    QTextCursor end(&document);
+    end.movePosition(QTextCursor::End);
+    end.insertBlock();
+    end.insertText(QStringLiteral("b"));
+    QCOMPARE(shownLabel(document.lastBlock()), QStringLiteral("i."));
+    const QByteArray written = writeRtf(document);
+    QTextDocument again;
+    readRtf(written, again);
+    QCOMPARE(shownLabel(again.firstBlock()), QStringLiteral("h."));
+    QCOMPARE(shownLabel(again.lastBlock()), QStringLiteral("i."));
+    QCOMPARE(writeRtf(again), written);
+}
+
+void SayingTest::textThatIsRaisedWhereNothingWasSaidEndsTheSameAgain() {
+    QTextDocument document;
+    readRtf(file("{\\stylesheet{\\s1 a;}}\\pard\\plain\\s1 word\\par next\\par"), document);
+    QTextCursor word = document.find(QStringLiteral("word"));
+    QTextCharFormat raised;
+    raised.setVerticalAlignment(QTextCharFormat::AlignSuperScript);
+    word.mergeCharFormat(raised);
+    const QByteArray written = writeRtf(document);
+    QVERIFY2(written.contains("\\super word"), written);
+    QTextDocument again;
+    readRtf(written, again);
+    QCOMPARE(writeRtf(again), written);
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, SayingTest)

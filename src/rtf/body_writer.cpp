@@ -86,9 +86,11 @@ void BodyWriter::change(const CharFormat& format) {
     const int leftOut = stated::leftOut(format.stated);
     if ((leftOut & m_stated) != 0)
         plain();
-    changeKept(format.kept);
-    m_due = (stated::differences(format, m_format) | (format.stated & ~m_stated)) & stated::All &
-            ~leftOut;
+    // The script of eastern text is that in which its font is named.
+    const bool namesScript = changeKept(format.kept);
+    m_due = (stated::differences(format, m_format) | (format.stated & ~m_stated) |
+             (namesScript ? stated::Font : 0)) &
+            stated::All & ~leftOut;
     m_stated |= m_due;
     if ((m_due & stated::Color) != 0)
         m_out.word("\\cf", m_tables.color(format.color));
@@ -122,12 +124,15 @@ void BodyWriter::change(const CharFormat& format) {
 
 /// What is kept is a number of words at once, of which none needs an end but that of the whole
 /// look.
-void BodyWriter::changeKept(int kept) {
+/// \returns whether one of them names a script.
+bool BodyWriter::changeKept(int kept) {
     if (kept == m_format.kept)
-        return;
+        return false;
     if (m_format.kept != NothingKept)
         plain();
-    writeKept(m_out, m_tables, names().keptAt(kept));
+    const QString words = names().keptAt(kept);
+    writeKept(m_out, m_tables, words);
+    return words.contains(QLatin1StringView("\\dbch"));
 }
 
 void BodyWriter::changeHighlight(const CharFormat& format) {

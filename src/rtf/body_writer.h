@@ -75,7 +75,7 @@ private:
     void beginSection(QStringView text);
     void change(const CharFormat& format);
     void writeAnchors(int anchors);
-    void changeKept(int kept);
+    bool changeKept(int kept);
     void changeHighlight(const CharFormat& format);
     void changeStrike(const CharFormat& format);
     void changeSpacing(int spacing);

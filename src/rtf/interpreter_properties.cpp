@@ -43,8 +43,9 @@ bool Interpreter::characterWord(const Token& token) {
                 keepScript();
             selectFont();
             sayOfSide(stated::Font);
-            if (m_state.destination == Destination::ListTable ||
-                m_state.destination == Destination::ListOverrideTable)
+            const bool ofLists = m_state.destination == Destination::ListTable ||
+                                 m_state.destination == Destination::ListOverrideTable;
+            if (ofLists && isInList())
                 m_lists.setLevelFont(m_state.symbols);
             else if (m_state.destination == Destination::Label)
                 m_labelSymbols = m_state.symbols;

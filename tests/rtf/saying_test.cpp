@@ -161,6 +161,8 @@ void SayingTest::whatIsSaidStays_data() {
         "\\pard\\hich\\af1\\dbch\\af2\\loch\\f0\\fs24 deed\\par");
     row("of the east", "{\\loch\\af1\\hich\\af1\\dbch\\f2 word}\\par",
         "\\pard\\loch\\af1\\hich\\af1\\dbch\\f2\\fs24 deed\\par");
+    row("of the east, in the font ahead", "\\f2 a\\dbch\\f2  word\\par",
+        "\\pard\\f1\\fs24 a\\dbch\\f1  deed\\par");
     row("a font that is named ahead of the script", "{\\loch\\f2\\dbch\\af1 word}\\par",
         "\\pard\\dbch\\af1\\loch\\f2\\fs24 deed\\par");
     row("the upper half is Latin", "{\\dbch\\af2\\hich\\af1 word}\\par",

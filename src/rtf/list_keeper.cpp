@@ -32,7 +32,7 @@ size_t shapeKey(const ParagraphFormat& item) {
 }
 
 bool numberFollows(const ListLabel& label, const ListLabel& first, int items) {
-    return label.kind != ListKind::Bullet && label.start > 1 && label.start == first.start + items;
+    return label.kind != ListKind::Bullet && label.start == first.start + items;
 }
 
 } // namespace

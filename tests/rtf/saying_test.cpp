@@ -50,6 +50,7 @@ private slots:
     void listsOfTwoFilesStayApart();
     void bulletsThatTheWindowMakesStandBesideThoseOfTheTables();
     void aLabelInTextAloneIsShownAndStaysText();
+    void aListThatBeginsAtNothingGoesOn();
     void aLabelThatItsTextDoesNotTellIsToldByTheTables_data();
     void aLabelThatItsTextDoesNotTellIsToldByTheTables();
     void anItemThatItsTextDoesNotTellTakesItsListIntoTheTables();
@@ -327,6 +328,14 @@ void SayingTest::aLabelInTextAloneIsShownAndStaysText() {
     const QByteArray written = writeRtf(document);
     QVERIFY2(!written.contains("\\pn\\") && !written.contains("\\ls"), written);
     QCOMPARE(written.count("{\\pntext"), 2);
+}
+
+void SayingTest::aListThatBeginsAtNothingGoesOn() {
+    QTextDocument document;
+    readRtf(file("\\pard{\\pntext 0.\\tab}a\\par{\\pntext 1.\\tab}b\\par"), document);
+    QVERIFY(document.firstBlock().textList() != nullptr);
+    QCOMPARE(document.lastBlock().textList(), document.firstBlock().textList());
+    QCOMPARE(shownLabel(document.lastBlock()), QStringLiteral("1."));
 }
 
 void SayingTest::aLabelThatItsTextDoesNotTellIsToldByTheTables_data() {

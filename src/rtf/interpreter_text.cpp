@@ -324,7 +324,7 @@ const ParagraphFormat& Interpreter::shapedParagraph() {
     else if (list.kind == ListKind::None && !m_label.isEmpty() &&
              m_labelList.kind != ListKind::None)
         list = m_labelList;
-    else if (list.kind == ListKind::None)
+    else if (list.kind == ListKind::None && !ofRow) // cells end without a label
         list = labelFromText(m_label, m_labelSymbols, m_lastListKind);
     else if (m_state.listOverride != NoList) // which goes before the other, though nobody knows it
         list.source = ListSource::Text;

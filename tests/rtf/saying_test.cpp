@@ -136,6 +136,9 @@ void SayingTest::whatIsSaidStays_data() {
     row("indent in a cell, beside lists that nothing is of",
         Lists + "\\trowd\\cellx900\\cellx1800\\pard\\intbl\\li0 word\\cell b\\cell\\row",
         "\\pard\\intbl\\f0\\fs24 deed\\cell");
+    row("label behind the last cell",
+        "\\trowd\\cellx900\\pard\\intbl word\\cell{\\pntext\\'B7\\tab}\\row",
+        "\\pard\\intbl\\f0\\fs24 deed\\cell\\row");
     row("label in the look of the mark", Lists + "\\pard\\ls3{\\i word}\\b\\fs30\\par",
         "\\i\\f0\\fs24 deed{\\plain\\b\\f0\\fs30\\par}\r\n");
     row("space that is told behind the text", "\\pard\\sa60 word\\sa180\\par\\pard\\sa180 b\\par",

@@ -55,7 +55,9 @@ private:
                 word(token);
             return;
         case TokenKind::Text:
-            m_loose |= m_starts.empty() && !token.bytes.trimmed().isEmpty();
+        case TokenKind::Byte:
+        case TokenKind::Zero:
+            m_loose |= m_starts.empty();
             return;
         default:
             return;

@@ -53,6 +53,9 @@ private:
         case TokenKind::Word:
             if (!m_starts.empty())
                 word(token);
+            else
+                m_loose |= token.word && (token.word->action == Action::Character ||
+                                          token.word->action == Action::Unicode);
             return;
         case TokenKind::Text:
         case TokenKind::Byte:

@@ -146,7 +146,7 @@ private:
         own.section = NothingKept;
         own.row = NothingKept;
         own.rowBegins = false;
-        if (own.pageWord != PageWord::OfParagraph)
+        if (std::exchange(own.pageWord, PageWord::OfParagraph) != PageWord::OfParagraph)
             own.pageBreakBefore = false;
         std::vector<int> shapes;
         for (auto it = block.begin(); !it.atEnd(); ++it)

@@ -147,7 +147,8 @@ double heightOfParagraph(const LetterHeight& mark, const ParagraphShape& shape) 
 }
 
 double heightOfPicture(double height, const LetterHeight& letters, const ParagraphShape& shape) {
-    return Shortness * heightOfLine(letters, shape) + height * shape.multiple;
+    // A word that goes on behind it takes its height into another line.
+    return Shortness * (heightOfLine(letters, shape) + height * shape.multiple);
 }
 
 qsizetype wholeCharacters(QStringView text, qsizetype length) {

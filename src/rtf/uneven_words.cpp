@@ -26,8 +26,9 @@ std::vector<Run> runsOf(const QTextBlock& paragraph, FormatHeights& heights,
     qsizetype end = 0;
     for (auto it = paragraph.begin(); !it.atEnd(); ++it) {
         const QTextFragment fragment = it.fragment();
-        const LetterHeight& letters = heights.of(fragment).letters;
-        const double line = heightOfLine(letters, shape);
+        const FormatHeights::Entry& format = heights.of(fragment);
+        const LetterHeight& letters = format.letters;
+        const double line = heightOfLine(letters, shape) + format.picture * shape.multiple;
         end += fragment.length();
         if (!runs.empty() && runs.back().line == line)
             runs.back().end = end;

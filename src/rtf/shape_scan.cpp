@@ -13,6 +13,29 @@ namespace {
 
 constexpr QByteArrayView ShownPicture = "pib"; // the property that holds it
 
+/// Whether a group with this head is none of the document's text.
+bool hidesText(Action head) {
+    switch (head) {
+    case Action::SkipGroup:
+    case Action::Generator:
+    case Action::KeepGroup:
+    case Action::FontTable:
+    case Action::ColorTable:
+    case Action::ListTable:
+    case Action::ListOverrideTable:
+    case Action::FieldInstruction:
+    case Action::ShapeInstruction:
+    case Action::ShapeProperty:
+    case Action::ShapePropertyName:
+    case Action::ShapePropertyValue:
+    case Action::Numbering:
+    case Action::LabelText:
+        return true;
+    default:
+        return false;
+    }
+}
+
 /// Reads the tokens of a shape once, with an eye on its texts and pictures.
 class ShapeTokens {
 public:
@@ -40,35 +63,44 @@ private:
         qsizetype from = 0;
         qsizetype to = 0;
     };
+    struct Group {
+        qsizetype start = 0;
+        bool shown = true;
+    };
 
     void take(const Token& token) {
         switch (token.kind) {
         case TokenKind::GroupStart:
-            m_starts.push_back(m_tokenizer.position() - 1);
+            m_groups.push_back({m_tokenizer.position() - 1, shownHere()});
             return;
         case TokenKind::GroupEnd:
-            if (!m_starts.empty())
-                m_starts.pop_back();
+            if (!m_groups.empty())
+                m_groups.pop_back();
             return;
         case TokenKind::Word:
-            if (!m_starts.empty())
+            if (token.word &&
+                (token.word->action == Action::Character || token.word->action == Action::Unicode))
+                m_loose |= shownHere();
+            if (!m_groups.empty())
                 word(token);
-            else
-                m_loose |= token.word && (token.word->action == Action::Character ||
-                                          token.word->action == Action::Unicode);
             return;
         case TokenKind::Text:
         case TokenKind::Byte:
         case TokenKind::Zero:
-            m_loose |= m_starts.empty();
+            m_loose |= shownHere();
             return;
         default:
             return;
         }
     }
 
+    /// Whether text that stands here is text of the document.
+    bool shownHere() const { return m_groups.empty() || m_groups.back().shown; }
+
     void word(const Token& token) {
         const Action action = token.word ? token.word->action : Action::Version;
+        if (hidesText(action) || (m_starred && !token.word))
+            m_groups.back().shown = false;
         if (action == Action::ShapeText)
             text();
         else if (action == Action::ShapePropertyName)
@@ -91,14 +123,14 @@ private:
     }
 
     void pass(std::vector<Piece>& pieces) {
-        const qsizetype from = m_starts.back();
+        const qsizetype from = m_groups.back().start;
         pieces.push_back({from, passGroup()});
     }
 
     /// Over the rest of the group.
     qsizetype passGroup() {
         m_tokenizer.skipGroup();
-        m_starts.pop_back();
+        m_groups.pop_back();
         return m_tokenizer.position();
     }
 
@@ -169,7 +201,7 @@ private:
 
     QByteArrayView m_content;
     Tokenizer m_tokenizer;
-    std::vector<qsizetype> m_starts; ///< of the groups that are open
+    std::vector<Group> m_groups; ///< that are open
     std::vector<Piece> m_texts;
     std::vector<Piece> m_pictures;
     std::vector<Piece> m_others; ///< forms for readers that know no shapes

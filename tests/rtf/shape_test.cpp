@@ -182,6 +182,11 @@ void ShapeTest::severalTextsOfOneShapeShowWithoutIt() {
 
 void ShapeTest::looseTextOfAShapeIsShown() {
     QCOMPARE(textOf("a{\\shp b{\\*\\shpinst}}"), QStringLiteral("ab"));
+    const QByteArray inAGroup = " word{\\shp{ b{\\shptxt c}}}\\par";
+    QCOMPARE(textOf(inAGroup), QStringLiteral(" word bc"));
+    const QByteArray written = saved(inAGroup);
+    QVERIFY2(written.contains("deed bc\\par"), written.constData());
+    QVERIFY(!written.contains("shp"));
 }
 
 void ShapeTest::aBoxInACellIsTextOfTheCell() {

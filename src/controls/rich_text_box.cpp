@@ -13,6 +13,7 @@
 #include "runtime/failure.h"
 #include "runtime/text_file.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QClipboard>
 #include <QScrollBar>
@@ -52,6 +53,8 @@ RichTextBox::RichTextBox(QWidget* parent)
     connect(document(), &QTextDocument::contentsChanged, this, [this] {
         m_undoKinds->stepsChanged(document()->availableUndoSteps(), m_movesThroughHistory);
     });
+    connect(document()->documentLayout(), &QAbstractTextDocumentLayout::documentSizeChanged, this,
+            &RichTextBox::takeSize);
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this, [this] {
         m_clipboardFits.reset();
         emit CanPasteChanged();
@@ -73,6 +76,14 @@ void RichTextBox::takeChange(int from, int removed, int added) {
     if (end > from + added)
         document()->markContentsDirty(from + added, end - from - added);
     m_changeToTell = true;
+}
+
+/// A last letter that leans over the edge of its line is nothing to scroll to.
+void RichTextBox::takeSize(const QSizeF& size) {
+    constexpr int MostOverhang = 8; // pixels
+    const bool leans =
+        lineWrapMode() == WidgetWidth && size.width() <= viewport()->width() + MostOverhang;
+    setHorizontalScrollBarPolicy(leans ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
 }
 
 // --- the whole document, but for what stands in rich_text_box_content.cpp

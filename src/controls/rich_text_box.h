@@ -250,6 +250,7 @@ private:
     using QTextEdit::undo;
 
     void takeChange(int from, int removed, int added);
+    void takeSize(const QSizeF& size);
     QTextCursor editCursor() const;
     void takeCursor(const QTextCursor& cursor);
     void editAt(QTextCursor cursor, const std::function<void(QTextCursor&)>& edit);

@@ -343,6 +343,8 @@ bool RichTextBox::WordWrap() const {
 
 void RichTextBox::SetWordWrap(bool on) {
     setWordWrapMode(rtf::DocumentRoom::of(*document()).wrapMode());
+    if (!on)
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setLineWrapMode(on ? WidgetWidth : NoWrap);
 }
 

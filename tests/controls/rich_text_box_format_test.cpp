@@ -5,6 +5,7 @@
 #include "support/test_main.h"
 
 #include <QApplication>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextLayout>
 #include <QTextList>
@@ -41,6 +42,7 @@ private slots:
     void theBoxFontHoldsForAnEmptyBox();
     void aBoxFontSetTwiceIsTheLastOne();
     void wordWrapCanBeTurnedOff();
+    void whatLeansOverTheEdgeBringsNoBarButWhatGoesBeyondDoes();
 };
 
 void RichTextBoxFormatTest::eachPropertyIsReadAsItWasSet() {
@@ -348,6 +350,29 @@ void RichTextBoxFormatTest::wordWrapCanBeTurnedOff() {
     QCOMPARE(lines(), 1);
     box.SetWordWrap(true);
     QVERIFY(lines() > 1);
+}
+
+void RichTextBoxFormatTest::whatLeansOverTheEdgeBringsNoBarButWhatGoesBeyondDoes() {
+    RichTextBox box;
+    box.resize(200, 100);
+    box.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    const auto showsBar = [&](double pixelsBeyond) {
+        box.SetText(QString());
+        QTextImageFormat picture;
+        picture.setWidth(box.viewport()->width() - 2 * box.document()->documentMargin() +
+                         pixelsBeyond);
+        picture.setHeight(10);
+        QTextCursor(box.document()).insertImage(picture);
+        (void)box.document()->size(); // lays it out
+        return box.horizontalScrollBar()->isVisibleTo(&box);
+    };
+    QVERIFY(!showsBar(0));
+    QVERIFY(!showsBar(4));
+    QVERIFY(showsBar(40));
+    QVERIFY(!showsBar(4));
+    box.SetWordWrap(false);
+    QVERIFY(showsBar(4));
 }
 
 void RichTextBoxFormatTest::anIndentBeyondEverythingIsRememberedAndShowsFarAway() {

@@ -69,7 +69,7 @@ enum class Action : quint8 {
     Keep, ///< value: a packed KeptWord
     SectionDefaults,
     AnchorMark, ///< stands for the number of a note
-    // Destinations
+    // Destinations whose text is none of the document's
     SkipGroup,
     Generator,
     KeepGroup, ///< value: the KeptPlace
@@ -77,19 +77,8 @@ enum class Action : quint8 {
     ColorTable,
     ListTable,
     ListOverrideTable,
-    PictureGroup,
-    ShapePicture,
-    NoShapePicture,
-    Field,
     FieldInstruction,
-    IndexEntry,  ///< text for an index or a table of contents, and for the document unless hidden
-    NestedTable, ///< says what a row inside a cell is
-    PassThrough, ///< an ignorable group whose content is shown
-    UnicodePair,
-    UnicodeHalf,
-    ShapeGroup, ///< value: 1 for what only its picture shows
     ShapeInstruction,
-    ShapeText,
     ShapeProperty,
     ShapePropertyName,
     ShapePropertyValue,
@@ -97,6 +86,18 @@ enum class Action : quint8 {
     NumberingTextBefore,
     NumberingTextAfter,
     LabelText,
+    // Destinations whose text it is, or which have none
+    PictureGroup,
+    ShapePicture,
+    NoShapePicture,
+    Field,
+    IndexEntry,  ///< text for an index or a table of contents, and for the document unless hidden
+    NestedTable, ///< says what a row inside a cell is
+    PassThrough, ///< an ignorable group whose content is shown
+    UnicodePair,
+    UnicodeHalf,
+    ShapeGroup, ///< value: 1 for what only its picture shows
+    ShapeText,
     // Inside the font and colour tables
     FontCharset,
     FontCodePage,
@@ -135,6 +136,11 @@ enum class Action : quint8 {
     BitmapPlanes,
     BitmapRow,
 };
+
+/// Whether the text of a group with this head is none of the document's.
+constexpr bool hidesText(Action head) {
+    return head >= Action::SkipGroup && head <= Action::LabelText;
+}
 
 struct ControlWord {
     QByteArrayView name;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/shape_scan.h"
 
+#include "rtf/control_words.h"
 #include "rtf/tokenizer.h"
 
 #include <utility>
@@ -12,29 +13,6 @@ namespace orvalis::rtf {
 namespace {
 
 constexpr QByteArrayView ShownPicture = "pib"; // the property that holds it
-
-/// Whether a group with this head is none of the document's text.
-bool hidesText(Action head) {
-    switch (head) {
-    case Action::SkipGroup:
-    case Action::Generator:
-    case Action::KeepGroup:
-    case Action::FontTable:
-    case Action::ColorTable:
-    case Action::ListTable:
-    case Action::ListOverrideTable:
-    case Action::FieldInstruction:
-    case Action::ShapeInstruction:
-    case Action::ShapeProperty:
-    case Action::ShapePropertyName:
-    case Action::ShapePropertyValue:
-    case Action::Numbering:
-    case Action::LabelText:
-        return true;
-    default:
-        return false;
-    }
-}
 
 /// Reads the tokens of a shape once, with an eye on its texts and pictures.
 class ShapeTokens {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "kept_file.h"
 #include "rtf/reader.h"
+#include "rtf/tokenizer.h"
 #include "rtf/writer.h"
 #include "sample_pictures.h"
 #include "support/test_main.h"
@@ -60,6 +61,8 @@ private slots:
     void aShapeThatShowsNothingStays();
     void severalTextsOfOneShapeShowWithoutIt();
     void looseTextOfAShapeIsShown();
+    void aShapeKnowsWhichGroupsHideTheirText_data();
+    void aShapeKnowsWhichGroupsHideTheirText();
     void aBoxInACellIsTextOfTheCell();
     void theFormForOldReadersIsLeftOut();
     void aBoxThatRunsIntoTheTextAheadIsDissolved();
@@ -187,6 +190,31 @@ void ShapeTest::looseTextOfAShapeIsShown() {
     const QByteArray written = saved(inAGroup);
     QVERIFY2(written.contains("deed bc\\par"), written.constData());
     QVERIFY(!written.contains("shp"));
+}
+
+void ShapeTest::aShapeKnowsWhichGroupsHideTheirText_data() {
+    QTest::addColumn<QByteArray>("head");
+    const QByteArray heads = "fldtype generator info header fonttbl colortbl listtable "
+                             "listoverridetable fldinst shpinst sp sn sv pn pntxtb pntxta pntext "
+                             "listtext shppict field xe fldrslt nesttableprops object result ud "
+                             "shp shptxt";
+    for (const QByteArray& head : heads.split(' '))
+        QTest::newRow(head.constData()) << head;
+}
+
+// The look ahead and the reader must agree: what one of them alone takes for text would be shown
+// and kept with the frame, or neither.
+void ShapeTest::aShapeKnowsWhichGroupsHideTheirText() {
+    QFETCH(QByteArray, head);
+    const QByteArray body = "word{\\shp{\\" + head + " hidden}}\\par";
+    const bool shown = textOf(body).contains(u"hidden");
+    QVERIFY(saved(body).count("hidden") <= 1);
+    const QByteArray name = "\\" + head;
+    Tokenizer tokenizer(name);
+    Token word;
+    tokenizer.next(word);
+    QVERIFY(word.word);
+    QCOMPARE(shown, !hidesText(word.word->action));
 }
 
 void ShapeTest::aBoxInACellIsTextOfTheCell() {

@@ -206,10 +206,12 @@ void ListTables::setLevelFont(SymbolFont font) {
 }
 
 void ListTables::addOverride(int number) {
-    if (m_overrides.size() < MostLists) {
+    if (m_overrides.size() < MostLists && !m_overrides.contains(number)) {
         m_overrides.insert(number,
                            Override{m_identity, m_starts, m_levels, numbered(number, m_kept)});
-        if (m_starts.isEmpty() && m_levels.isEmpty() && !m_plainOverrides.contains(m_identity))
+        // Items of the list are written with this override, so it must be one that is kept.
+        const bool plain = m_starts.isEmpty() && m_levels.isEmpty() && !m_kept.isEmpty();
+        if (plain && !m_plainOverrides.contains(m_identity))
             m_plainOverrides.insert(m_identity, number);
     }
     m_starts.clear();

@@ -52,6 +52,8 @@ private slots:
     void aLevelWithoutAnItemAboveItCountsFromOne();
     void theLabelsAreWrittenAsTheyAre();
     void aCodeInATextThatIsNoLevelTextIsNoNumber();
+    void anOverrideThatIsToldTwiceIsTheFirst();
+    void anOverrideWithinAnotherStandsForNoList();
 };
 
 void ListLevelsTest::aLabelIsToldInThePageOfTheDocument() {
@@ -96,6 +98,27 @@ void ListLevelsTest::aCodeInATextThatIsNoLevelTextIsNoNumber() {
     QCOMPARE(labelsOf("{\\rtf1\\pard{\\*\\pn\\pnlvlbody\\pndec{\\pntxtb \\'01(}{\\pntxta )}}"
                       "\\fi-360\\li720 item\\par}"),
              QStringList{u"(1)"_s});
+}
+
+void ListLevelsTest::anOverrideThatIsToldTwiceIsTheFirst() {
+    const QByteArray lists = "{\\*\\listtable"
+                             "{\\list{\\listlevel\\levelnfc0{\\leveltext\\'02\\'00.;}}\\listid1}"
+                             "{\\list{\\listlevel\\levelnfc1{\\leveltext\\'02\\'00.;}}\\listid2}}";
+    const QByteArray overrides = "{\\*\\listoverridetable{\\listoverride\\listid1\\ls1}"
+                                 "{\\listoverride\\listid2\\ls1}}";
+    QCOMPARE(labelsOf("{\\rtf1" + lists + overrides + "\\pard\\ls1 item\\par}"),
+             QStringList{u"1."_s});
+}
+
+// The inner one is no group of its own in what is kept, so nothing can be written with it.
+void ListLevelsTest::anOverrideWithinAnotherStandsForNoList() {
+    const QByteArray rtf =
+        "{\\rtf1{\\*\\listtable{\\list{\\listlevel\\levelnfc0{\\leveltext\\'02\\'00.;}}\\listid1}}"
+        "{\\*\\listoverridetable{\\listoverride{\\listoverride\\listid1\\ls1}}"
+        "{\\listoverride\\listid1\\ls2}}\\pard\\ls2 item\\par}";
+    QTextDocument document;
+    readRtf(rtf, document);
+    QCOMPARE(labelsOf(writeRtf(document)), QStringList{u"1."_s});
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, ListLevelsTest)

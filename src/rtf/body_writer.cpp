@@ -283,7 +283,7 @@ QByteArray BodyWriter::kept(QStringView text) {
     RtfOutput out;
     writeKept(out, m_tables, text);
     out.structure("\r\n");
-    return out.bytes();
+    return out.take();
 }
 
 QByteArray BodyWriter::file(int defaultTab, const KeptParts& parts) {
@@ -311,7 +311,7 @@ QByteArray BodyWriter::file(int defaultTab, const KeptParts& parts) {
     out.structure("\\viewkind4\\uc1");
     out.structure(m_out.bytes());
     out.structure("}\r\n");
-    return out.bytes();
+    return out.take();
 }
 
 } // namespace orvalis::rtf

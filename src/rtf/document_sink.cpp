@@ -47,6 +47,8 @@ qint64 searchAmong(qint64 formats) {
 constexpr qint64 BytesOfTabStop = 64;
 
 constexpr size_t MostFormats = 16384;
+// The shapes of a text alternate; among so many it costs less to look than to make one anew.
+constexpr size_t ShapesKept = 16;
 
 // The part of their size that the letters of labels are wide at most.
 constexpr double WidestLetter = 0.7;
@@ -85,6 +87,13 @@ DocumentSink::DocumentSink(QTextCursor& cursor, const ReadOptions& options, qsiz
 
 void DocumentSink::begin(const Names& names) {
     m_names = &names;
+}
+
+/// The stops of paragraphs go on in steps of it.
+void DocumentSink::defaultTab(int twips) {
+    m_defaultTab = twips;
+    m_shapes.clear();
+    m_oldestShape = 0;
 }
 
 bool DocumentSink::spend(qint64 bytes) {
@@ -229,18 +238,28 @@ void DocumentSink::end(const ParagraphFormat& paragraph, const CharFormat& mark)
     m_cursor.setBlockFormat(keeps ? m_targetFormat : QTextBlockFormat());
 }
 
+const DocumentSink::Shape& DocumentSink::shapeOf(const ParagraphFormat& paragraph) {
+    const auto known = std::find_if(m_shapes.cbegin(), m_shapes.cend(),
+                                    [&](const Shape& shape) { return shape.told == paragraph; });
+    if (known != m_shapes.cend())
+        return *known;
+    if (m_shapes.size() < ShapesKept)
+        m_shapes.emplace_back();
+    Shape& shape = m_shapes[m_oldestShape];
+    m_oldestShape = (m_oldestShape + 1) % ShapesKept;
+    shape.told = paragraph;
+    shape.format = blockFormat(paragraph, *m_names, tabTwips());
+    shape.height = paragraphShape(shape.format);
+    countTabs(shape.format);
+    return shape;
+}
+
 void DocumentSink::insertParagraph(const ParagraphFormat& paragraph, const CharFormat& mark) {
-    if (!m_hasBlockFormat || !(m_paragraph == paragraph)) {
-        m_paragraph = paragraph;
-        m_blockFormat = blockFormat(paragraph, *m_names, tabTwips());
-        countTabs(m_blockFormat);
-        m_shape = paragraphShape(m_blockFormat);
-        m_hasBlockFormat = true;
-    }
+    const Shape& shape = shapeOf(paragraph);
     const int start = m_runs.empty() ? formatIndex(mark) : m_runs.front().format;
     const QTextCharFormat& startFormat = m_formats[size_t(start)];
     const bool shapes = m_paragraphs > 0 || !m_textBefore;
-    if (shapes && !m_intake.takesParagraph(m_letters[size_t(start)], m_shape))
+    if (shapes && !m_intake.takesParagraph(m_letters[size_t(start)], shape.height))
         return;
     const bool first = m_paragraphs++ == 0;
     m_targetStands = m_textBehind || (m_runs.empty() && !m_intoNothing);
@@ -256,16 +275,16 @@ void DocumentSink::insertParagraph(const ParagraphFormat& paragraph, const CharF
     } else {
         if (!m_textBefore && !m_firstShaped)
             shapeFirst();
-        m_cursor.insertBlock(m_blockFormat, startFormat);
+        m_cursor.insertBlock(shape.format, startFormat);
         joinList(paragraph, start);
     }
     if (first && m_textBefore)
         insertRuns(paragraphShape(m_cursor.blockFormat()));
     else if ((first && m_textBehind) ||             // which shape it will have shows later
              paragraph.list.kind != ListKind::None) // whose label takes room
-        insertRuns(higherShape(paragraphShape(m_cursor.blockFormat()), m_shape));
+        insertRuns(higherShape(paragraphShape(m_cursor.blockFormat()), shape.height));
     else
-        insertRuns(m_shape);
+        insertRuns(shape.height);
 }
 
 void DocumentSink::shapeFirst() {

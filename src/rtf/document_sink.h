@@ -39,7 +39,7 @@ public:
     void fallbackPicture(const Picture& picture) override;
     void paragraphEnd(const ParagraphFormat& paragraph, const CharFormat& mark) override;
     void end(const ParagraphFormat& paragraph, const CharFormat& mark) override;
-    void defaultTab(int twips) override { m_defaultTab = twips; }
+    void defaultTab(int twips) override;
     bool takesStyles(const QString& styles) override;
     void anchor(const QString& kept) override;
     void kept(const KeptParts& parts) override;
@@ -52,6 +52,13 @@ public:
     int defaultTabTwips() const { return m_defaultTab; }
 
 private:
+    /// How a paragraph is shaped, in terms of the document.
+    struct Shape {
+        ParagraphFormat told;
+        QTextBlockFormat format;
+        ParagraphShape height;
+    };
+
     /// A part of the paragraph's text with one format; a picture when it has an image, a single
     /// character when something is anchored to it.
     struct Run {
@@ -62,6 +69,7 @@ private:
     };
 
     int formatIndex(const CharFormat& format);
+    const Shape& shapeOf(const ParagraphFormat& paragraph);
     void insertParagraph(const ParagraphFormat& paragraph, const CharFormat& mark);
     void shapeFirst();
     QTextCharFormat formatOf(const Run& run) const;
@@ -98,10 +106,8 @@ private:
     std::vector<QTextImageFormat> m_images;
     std::vector<QString> m_anchors;
 
-    ParagraphFormat m_paragraph;
-    QTextBlockFormat m_blockFormat;
-    ParagraphShape m_shape; ///< of the block format
-    bool m_hasBlockFormat = false;
+    std::vector<Shape> m_shapes; ///< that paragraphs had last
+    size_t m_oldestShape = 0;
     ListKeeper m_lists;
 
     int m_paragraphs = 0;

@@ -104,26 +104,26 @@ void Interpreter::tellOther() {
     Side& told = m_state.told;
     const FontTable::Font* font = m_fonts.find(other.font);
     const int family = font ? font->family : NoName;
-    const int toldFamily = std::exchange(told.font, family);
+    const int said = family == NoName ? other.said & ~stated::Font : other.said;
+    const int same = (family == told.font ? stated::Font : 0) |
+                     (other.halfPoints == told.halfPoints ? stated::Size : 0) |
+                     (other.bold == told.bold ? stated::Bold : 0) |
+                     (other.italic == told.italic ? stated::Italic : 0);
+    const int changed = (said ^ told.said) | (said & ~same);
+    told = {family, other.halfPoints, other.bold, other.italic, 0, said};
+    if (changed == 0)
+        return;
     for (const auto& [word, bit] : sideWords()) {
-        const bool is = (other.said & bit) != 0 && (bit != stated::Font || family != NoName);
-        const bool was = (told.said & bit) != 0;
-        const bool same = (bit == stated::Font && family == toldFamily) ||
-                          (bit == stated::Size && other.halfPoints == told.halfPoints) ||
-                          (bit == stated::Bold && other.bold == told.bold) ||
-                          (bit == stated::Italic && other.italic == told.italic);
-        if (is == was && (!is || same))
+        if ((changed & bit) == 0)
             continue;
         KeptCall call{word, nullptr};
-        call.removes = !is;
+        call.removes = (said & bit) == 0;
         call.hasNumber = bit == stated::Font || bit == stated::Size;
         call.number = bit == stated::Font ? family : other.halfPoints;
         if ((bit == stated::Bold && !other.bold) || (bit == stated::Italic && !other.italic))
-            call = {word, nullptr, true, 0, !is};
+            call = {word, nullptr, true, 0, call.removes};
         keepCharacters(m_kept.with(m_state.keptOfChars, call));
     }
-    const int said = family == NoName ? other.said & ~stated::Font : other.said;
-    told = {family, other.halfPoints, other.bold, other.italic, 0, said};
 }
 
 } // namespace orvalis::rtf

@@ -55,7 +55,8 @@ bool Interpreter::keptWord(const Token& token) {
         m_state.script = token.word;
         return true;
     }
-    if (!m_state.script && sideWord(call))
+    const bool mayBeOfSide = kept.kind == KeptKind::Associate || kept.kind == KeptKind::Font;
+    if (mayBeOfSide && !m_state.script && sideWord(call))
         return true;
     const bool ofScript = kept.kind == KeptKind::Associate && m_state.script;
     if (ofScript || (kept.kind == KeptKind::Font && !furtherFont(call)))
@@ -139,9 +140,8 @@ void Interpreter::keepGroup(const Token& token) {
     const auto place = static_cast<KeptPlace>(token.word->value);
     const QByteArrayView content = m_tokenizer.groupAhead();
     const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, m_defaultFont};
-    QByteArray head(isStarred(place) ? "{\\*\\" : "{\\");
-    head += token.bytes;
-    const QString group = GroupKeeper(content, tables).kept(head, m_keptLeft);
+    const QByteArrayView opening(isStarred(place) ? "{\\*\\" : "{\\");
+    const QString group = GroupKeeper(content, tables).kept(opening, token.bytes, m_keptLeft);
     m_keptLeft -= group.size();
     skipGroup();
     placeGroup(place, group);
@@ -159,7 +159,8 @@ void Interpreter::keepField() {
     if (scan.instruction.isEmpty() || scan.hasStructure)
         return;
     const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, m_defaultFont};
-    const QString kept = GroupKeeper(scan.instruction, tables).kept("{\\*\\fldinst", m_keptLeft);
+    const QString kept =
+        GroupKeeper(scan.instruction, tables).kept("{\\*\\", "fldinst", m_keptLeft);
     m_keptLeft -= kept.size();
     // Its name is that by which it will be read when it has been written.
     const QByteArray name = fieldName(keptWithoutPlaces(kept));

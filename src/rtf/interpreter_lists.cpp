@@ -105,8 +105,7 @@ QString Interpreter::keptOfLists(const Token& token) {
     // Labels are told in the page of the document, whatever its fonts.
     const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, NoName};
     const QString kept =
-        GroupKeeper(content, tables)
-            .kept("{\\" + token.bytes.toByteArray(), std::min(LongestList, m_keptLeft));
+        GroupKeeper(content, tables).kept("{\\", token.bytes, std::min(LongestList, m_keptLeft));
     m_keptLeft -= kept.size();
     return kept;
 }

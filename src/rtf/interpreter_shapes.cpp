@@ -26,8 +26,7 @@ void Interpreter::keepShape(const Token& token) {
     if (scan.shows == ShapeScan::Shows::More || (scan.shows == ShapeScan::Shows::Text && asText))
         return;
     const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, m_defaultFont};
-    const QString kept =
-        GroupKeeper(scan.frame, tables).kept("{\\" + token.bytes.toByteArray(), m_keptLeft);
+    const QString kept = GroupKeeper(scan.frame, tables).kept("{\\", token.bytes, m_keptLeft);
     m_keptLeft -= kept.size();
     if (kept.isEmpty())
         return;

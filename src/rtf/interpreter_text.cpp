@@ -55,7 +55,7 @@ void Interpreter::bytes(QByteArrayView run) {
     // Some files indent the heads of their groups, and some have lost the backslash of "\\*": the
     // destinations behind are destinations all the same.
     const bool nothing = run.size() == 1 && run.front() == '*';
-    m_state.hasContent |= !nothing && !run.trimmed().isEmpty();
+    m_state.hasContent = m_state.hasContent || (!nothing && !run.trimmed().isEmpty());
     m_atGroupStart = false;
     if (m_fallbackToSkip > 0) {
         const auto skipped = std::min<qsizetype>(m_fallbackToSkip, run.size());

@@ -27,11 +27,12 @@ GroupKeeper::GroupKeeper(QByteArrayView content, const FileTables& tables)
     : m_tokenizer(content)
     , m_tables(tables) {}
 
-QString GroupKeeper::kept(QByteArrayView head, qsizetype limit) {
+QString GroupKeeper::kept(QByteArrayView opening, QByteArrayView word, qsizetype limit) {
     constexpr qsizetype UsualGroup = 128; // bytes
     m_out.reserve(UsualGroup);
     plain();
-    m_out.word(head);
+    m_out.structure(opening);
+    m_out.word(word);
     Token token;
     for (m_tokenizer.next(token); token.kind != TokenKind::End; m_tokenizer.next(token)) {
         take(token);

@@ -28,9 +28,9 @@ public:
     /// \param content what stands behind the group's first word, up to its closing brace.
     GroupKeeper(QByteArrayView content, const FileTables& tables);
 
-    /// \param head the opening brace and the first word.
+    /// \param opening what stands ahead of the first word, with its backslash.
     /// \returns nothing when it would be longer than the limit.
-    QString kept(QByteArrayView head, qsizetype limit);
+    QString kept(QByteArrayView opening, QByteArrayView word, qsizetype limit);
 
 private:
     struct Group {

@@ -40,11 +40,6 @@ bool parts(QChar c) {
     return c == u'\t' || c == QChar::LineSeparator;
 }
 
-bool isMeasured(QStringView text, LetterWidths& widths) {
-    return std::all_of(
-        text.begin(), text.end(), [&](QChar c) { return parts(c) || widths.of(c.unicode()) >= 0; });
-}
-
 } // namespace
 
 bool breaksBetween(char16_t ahead, char16_t behind) {
@@ -75,9 +70,7 @@ void ParagraphHeight::add(QStringView run, const LetterHeight& letters,
     while (!run.isEmpty()) {
         const QStringView piece = run.first(std::min(run.size(), Piece));
         run = run.sliced(piece.size());
-        if (isMeasured(piece, *letters.widths))
-            fill(piece, letters, room, line);
-        else
+        if (!fill(piece, *letters.widths, room, line))
             guess(piece, letters, shape);
     }
 }
@@ -97,58 +90,60 @@ void ParagraphHeight::guess(QStringView text, const LetterHeight& letters,
 
 /// Takes word for word into lines, as the layout does; where that may break a line elsewhere too,
 /// it needs no more of them.
-void ParagraphHeight::fill(QStringView text, const LetterHeight& letters, double room,
-                           double line) {
+/// \returns whether all letters have been measured; else nothing is taken.
+bool ParagraphHeight::fill(QStringView text, LetterWidths& widths, double room, double line) {
+    // Where nobody knows where the lines end, the text begins one.
+    End end = m_line > 0 ? m_end : End{};
     qsizetype lines = 0;
-    if (m_line != line) {
-        // A line is as high as its highest letters, and so is the next one where a word goes on in
-        // it; and where letters begin in their line shifts their lines by one at most.
-        m_height += 2 * std::max(m_line, line);
-        if (m_line == 0) {
-            m_words = m_word = m_blanks = 0;
-            m_ahead = 0;
-        }
-        m_line = line;
-    }
     for (const QChar character : text) {
         const char16_t c = character.unicode();
-        if (parts(character)) {
+        const double width = widths.of(c);
+        if (width < 0) {
+            if (!parts(character))
+                return false;
             lines += c == u'\t' ? 2 : 1; // a tab may stand in a line of its own
-            m_words = m_word = m_blanks = 0;
-            m_ahead = 0;
+            end = {};
             continue;
         }
-        const double width = letters.widths->of(c);
         if (c == u' ') {
-            m_blanks += width;
-            if (m_blanks > room) { // nobody knows how far they reach out of their line
+            end.blanks += width;
+            if (end.blanks > room) { // nobody knows how far they reach out of their line
                 ++lines;
-                m_blanks = 0;
+                end.blanks = 0;
             }
             continue;
         }
-        if (m_blanks > 0 && breaksBetween(m_ahead, c)) {
-            m_words += m_word + m_blanks;
-            m_word = 0;
-        } else {
-            m_word += m_blanks;
+        if (end.blanks > 0) {
+            if (breaksBetween(end.ahead, c)) {
+                end.words += end.word + end.blanks;
+                end.word = 0;
+            } else {
+                end.word += end.blanks;
+            }
+            end.blanks = 0;
         }
-        m_blanks = 0;
-        m_ahead = c;
-        m_word += width;
-        if (m_words + m_word <= room)
+        end.ahead = c;
+        end.word += width;
+        if (end.words + end.word <= room)
             continue;
-        if (m_words > 0)
+        if (end.words > 0)
             ++lines; // begins with the word
-        m_words = 0;
-        if (m_word > room) {
+        end.words = 0;
+        if (end.word > room) {
             // A word that is cut; where it can be broken, two lines hold more than one has room
             // for.
             lines += 2;
-            m_word = width;
+            end.word = width;
         }
     }
+    // A line is as high as its highest letters, and so is the next one where a word goes on in it;
+    // and where letters begin in their line shifts their lines by one at most.
+    if (m_line != line)
+        m_height += 2 * std::max(m_line, line);
+    m_line = line;
+    m_end = end;
     m_height += double(lines) * line;
+    return true;
 }
 
 } // namespace orvalis::rtf

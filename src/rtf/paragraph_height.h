@@ -24,17 +24,21 @@ public:
     void addPicture(double height, const LetterHeight& letters, const ParagraphShape& shape);
 
 private:
+    /// Where the text ends in its line.
+    struct End {
+        // In pixels: behind the words that are whole, and what has come of one that may go on.
+        double words = 0;
+        double word = 0;
+        double blanks = 0;
+        char16_t ahead = 0; ///< of the blanks
+    };
+
     void guess(QStringView text, const LetterHeight& letters, const ParagraphShape& shape);
-    void fill(QStringView text, const LetterHeight& letters, double room, double line);
+    bool fill(QStringView text, LetterWidths& widths, double room, double line);
 
     double m_height = 0;
     double m_line = 0; ///< height of the lines at the end; 0 where nobody knows where they end
-    // Where the end stands in its line, in pixels: behind the words that are whole, and what has
-    // come of one that may go on.
-    double m_words = 0;
-    double m_word = 0;
-    double m_blanks = 0;
-    char16_t m_ahead = 0; ///< of the blanks
+    End m_end;
 };
 
 /// Whether a line can be broken, for certain, at blanks between two characters.

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <charconv>
+#include <utility>
 
 namespace orvalis::rtf {
 
@@ -32,6 +33,15 @@ bool isPlain(QChar character) {
 }
 
 } // namespace
+
+QByteArray RtfOutput::take() {
+    m_bytes.truncate(m_size);
+    return std::move(m_bytes);
+}
+
+void RtfOutput::reserve(qsizetype size) {
+    m_bytes.resize(std::max(size, m_size));
+}
 
 void RtfOutput::appendNumber(int number) {
     std::array<char, 12> digits;
@@ -68,11 +78,11 @@ void RtfOutput::text(QStringView text) {
         if (m_needsDelimiter && canJoinWord(at->unicode()))
             append(" ");
         m_needsDelimiter = false;
-        const QChar* start = at;
+        char* out = room(end - at);
         do
-            ++at;
+            *out++ = char((at++)->unicode());
         while (at != end && isPlain(*at));
-        std::transform(start, at, room(at - start), [](QChar c) { return char(c.unicode()); });
+        m_size -= end - at;
     }
 }
 

@@ -37,23 +37,27 @@ public:
     /// A byte by its code.
     void code(uchar byte);
 
-    const QByteArray& bytes() const { return m_bytes; }
-    void reserve(qsizetype size) { m_bytes.reserve(size); }
+    QByteArrayView bytes() const { return QByteArrayView(m_bytes).first(m_size); }
+    /// Gives the bytes away; nothing may follow.
+    QByteArray take();
+    void reserve(qsizetype size);
 
 private:
     void special(char16_t character);
     void append(QByteArrayView bytes) { std::copy(bytes.begin(), bytes.end(), room(bytes.size())); }
     /// Where further bytes go, which are counted already.
     char* room(qsizetype size) {
-        const qsizetype at = m_bytes.size();
-        m_bytes.resize(at + size);
-        return m_bytes.data() + at;
+        if (m_bytes.size() - m_size < size)
+            reserve(m_size + std::max(m_size, size));
+        m_size += size;
+        return m_bytes.data() + m_size - size;
     }
     void appendNumber(int number);
     void appendCode(uchar byte);
     void appendUnicode(char16_t unit);
 
-    QByteArray m_bytes;
+    QByteArray m_bytes; ///< with those that are still free
+    qsizetype m_size = 0;
     bool m_needsDelimiter = false;
 };
 

@@ -172,8 +172,8 @@ CharFormat charFormat(const QTextCharFormat& format, Names& names, const QFont& 
     result.underline = underlineOf(format);
     result.hidden = format.hasProperty(HiddenText);
     result.color = colorOf(format);
-    if (format.background().style() != Qt::NoBrush)
-        result.highlight = format.background().color().rgb();
+    if (const QBrush ground = format.background(); ground.style() != Qt::NoBrush)
+        result.highlight = ground.color().rgb();
     result.shading = result.highlight != AutomaticColor && format.boolProperty(CharacterShading);
     switch (format.verticalAlignment()) {
     case QTextCharFormat::AlignSuperScript:
@@ -196,8 +196,8 @@ CharFormat charFormat(const QTextCharFormat& format, Names& names, const QFont& 
     default:
         break;
     }
-    if (!format.anchorHref().isEmpty())
-        result.link = names.link(format.anchorHref());
+    if (const QString target = format.anchorHref(); !target.isEmpty())
+        result.link = names.link(target);
     return result;
 }
 

@@ -53,10 +53,9 @@ void Tokenizer::next(Token& token) {
             token.kind = TokenKind::Zero;
             return;
         default: {
-            const uchar* start = m_at;
-            do
-                ++m_at;
-            while (m_at != m_end && ByteClasses[*m_at] == Plain);
+            const uchar* const start = m_at;
+            m_at = std::find_if(start + 1, m_end,
+                                [](uchar byte) { return ByteClasses[byte] != Plain; });
             token.kind = TokenKind::Text;
             token.bytes = QByteArrayView(start, m_at - start);
             return;
@@ -111,12 +110,14 @@ void Tokenizer::backslash(Token& token) {
 }
 
 void Tokenizer::word(Token& token) {
-    const uchar* start = m_at;
+    const uchar* const start = m_at;
+    const uchar* const end = m_end;
+    const uchar* at = start;
     quint32 hash = ControlWordHashStart;
     do
-        hash = controlWordHash(hash, *m_at++);
-    while (m_at != m_end && isLetter(*m_at));
-    const auto length = m_at - start;
+        hash = controlWordHash(hash, *at++);
+    while (at != end && isLetter(*at));
+    const auto length = at - start;
 
     token.kind = TokenKind::Word;
     token.hasParameter = false;
@@ -125,25 +126,24 @@ void Tokenizer::word(Token& token) {
     token.word = length <= LongestControlWord ? findControlWord(QByteArrayView(start, length), hash)
                                               : nullptr;
 
-    if (m_at == m_end)
-        return;
-    const bool minus = *m_at == '-' && m_end - m_at > 1 && isDigit(m_at[1]);
+    const bool minus = end - at > 1 && *at == '-' && isDigit(at[1]);
     if (minus)
-        ++m_at;
-    if (isDigit(*m_at)) {
+        ++at;
+    if (at != end && isDigit(*at)) {
         qint64 number = 0;
         do {
             // Digits beyond the range of int are read over, so that none is left as text.
             if (number <= std::numeric_limits<int>::max())
-                number = number * 10 + (*m_at - '0');
-            ++m_at;
-        } while (m_at != m_end && isDigit(*m_at));
+                number = number * 10 + (*at - '0');
+            ++at;
+        } while (at != end && isDigit(*at));
         number = std::min<qint64>(number, std::numeric_limits<int>::max());
         token.hasParameter = true;
         token.parameter = int(minus ? -number : number);
     }
-    if (m_at != m_end && *m_at == ' ')
-        ++m_at;
+    if (at != end && *at == ' ')
+        ++at;
+    m_at = at;
     if (token.word && token.word->action == Action::Binary)
         binary(token, token.parameter);
 }

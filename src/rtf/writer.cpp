@@ -18,11 +18,15 @@
 
 #include <algorithm>
 #include <limits>
+#include <unordered_map>
 #include <vector>
 
 namespace orvalis::rtf {
 
 namespace {
+
+/// Of paragraphs, remembered at a time: more than a text of people has.
+constexpr size_t MostShapes = 256;
 
 /// Walks through a part of a document and tells the body writer what stands there.
 class DocumentWalk {
@@ -32,12 +36,15 @@ public:
         , m_from(from)
         , m_to(to)
         , m_progress(progress)
+        , m_isWhole(from == 0 && to == document.characterCount() - 1)
         , m_tellAt(progress ? from : std::numeric_limits<int>::max())
         , m_defaultTab(qRound(document.defaultTextOption().tabStopDistance() * TwipsPerPixel)) {
         const KeptParts parts = keptParts(document);
         m_body.expect(parts, document.defaultFont().family());
         m_hasStyles = !parts.styles.isEmpty();
         m_countedOfCharacters = stated::countedOfCharacters(m_hasStyles, parts.defaultFont);
+        if (m_isWhole)
+            m_text = document.toRawText();
     }
 
     QByteArray rtf() {
@@ -68,7 +75,7 @@ private:
     /// A part of a document has a page of its own wherever it goes.
     KeptParts partsToWrite() const {
         KeptParts parts = keptParts(m_document);
-        if (m_from == 0 && m_to == m_document.characterCount() - 1)
+        if (m_isWhole)
             return parts;
         KeptParts ofPart;
         ofPart.language = parts.language;
@@ -125,10 +132,11 @@ private:
 
     // Positions are counted along the way: a block and a fragment find theirs only by a search.
     void paragraph(const QTextBlock& block, int position) {
-        if (shape(block).row == NothingKept) {
-            m_body.beginParagraph(m_shape, number(block));
+        const ParagraphFormat& own = shape(block);
+        if (own.row == NothingKept) {
+            m_body.beginParagraph(own, number(block));
         } else {
-            ParagraphFormat torn = m_shape;
+            ParagraphFormat torn = own;
             torn.row = NothingKept;
             torn.rowBegins = false;
             m_body.beginParagraph(torn, number(block));
@@ -176,7 +184,7 @@ private:
     /// \param takes whether a run has been written otherwise.
     template <class Takes>
     void runs(const QTextBlock& block, int position, const Takes& takes) {
-        const QString text = block.text();
+        const QStringView text = textOf(block, position);
         QHash<int, int> ends;
         bool empty = true;
         int at = 0;
@@ -194,7 +202,7 @@ private:
             CharFormat look = lookOf(fragment);
             if (look.anchors != NothingKept) {
                 if (ends.isEmpty())
-                    ends = anchorEnds(block);
+                    ends = anchorEnds(it, at - length);
                 if (!anchorsEnd(look.anchors, ends, at))
                     look.anchors = NothingKept;
             }
@@ -204,7 +212,7 @@ private:
                 for (int i = start; i < end; ++i)
                     m_body.picture(picture, look);
             } else {
-                m_body.text(QStringView(text).mid(start, end - start), look);
+                m_body.text(text.mid(start, end - start), look);
             }
         }
         if (empty) {
@@ -215,11 +223,20 @@ private:
         }
     }
 
+    /// The text of a paragraph. That of a whole document is taken at once, which costs least.
+    QStringView textOf(const QTextBlock& block, int position) {
+        if (m_isWhole)
+            return QStringView(m_text).sliced(position, block.length() - 1);
+        m_text = block.text();
+        return m_text;
+    }
+
     /// Where the runs end that something is anchored to, in the paragraph.
-    QHash<int, int> anchorEnds(const QTextBlock& block) {
+    /// \param it the first of them.
+    /// \param at where it begins.
+    QHash<int, int> anchorEnds(QTextBlock::iterator it, int at) {
         QHash<int, int> ends;
-        int at = 0;
-        for (auto it = block.begin(); !it.atEnd(); ++it) {
+        for (; !it.atEnd(); ++it) {
             const QTextFragment fragment = it.fragment();
             at += fragment.length();
             if (const int anchors = lookOf(fragment).anchors; anchors != NothingKept)
@@ -259,19 +276,23 @@ private:
         return m_formats[at];
     }
 
+    // And so do paragraphs. A list is named by the format of its items.
     const ParagraphFormat& shape(const QTextBlock& block) {
         const int index = block.blockFormatIndex();
-        if (index != m_shapeIndex) {
-            m_shapeIndex = index;
-            m_shape = paragraphFormat(block.blockFormat(), block.textList(),
-                                      m_document.indentWidth(), m_body.names());
-            ListLabel& list = m_shape.list;
-            if (list.source == ListSource::Text && !isToldByText(*block.textList()))
-                list.source = ListSource::Made;
-            m_shape.stated =
-                stated::by(m_shape, stated::countedOfParagraphs(m_hasStyles, list.isInTables()));
-        }
-        return m_shape;
+        const auto known = m_shapes.find(index);
+        if (known != m_shapes.end())
+            return known->second;
+        if (m_shapes.size() >= MostShapes)
+            m_shapes.clear();
+        ParagraphFormat& shape = m_shapes[index];
+        shape = paragraphFormat(block.blockFormat(), block.textList(), m_document.indentWidth(),
+                                m_body.names());
+        ListLabel& list = shape.list;
+        if (list.source == ListSource::Text && !isToldByText(*block.textList()))
+            list.source = ListSource::Made;
+        shape.stated =
+            stated::by(shape, stated::countedOfParagraphs(m_hasStyles, list.isInTables()));
+        return shape;
     }
 
     /// Whether the text of the labels says what each of them is; else the list tables must.
@@ -292,15 +313,17 @@ private:
 
     // Counted along the way: a list finds the number of an item only by going through all of them.
     int number(const QTextBlock& block) {
-        const QTextList* list = m_shape.list.kind == ListKind::None ? nullptr : block.textList();
-        return list ? m_items[list]++ + m_shape.list.start : 0;
+        const ListLabel& label = shape(block).list;
+        return label.kind == ListKind::None ? 0 : m_items[block.textList()]++ + label.start;
     }
 
     const QTextDocument& m_document;
     int m_from;
     int m_to;
     const Progress& m_progress;
-    int m_tellAt; ///< the place behind which the progress is told next
+    bool m_isWhole;
+    QString m_text; ///< of the document, or of the paragraph
+    int m_tellAt;   ///< the place behind which the progress is told next
     int m_defaultTab;
     bool m_hasStyles = false;
     int m_countedOfCharacters = 0; ///< what counts of what is stated
@@ -308,10 +331,9 @@ private:
     std::vector<char> m_known;
     std::vector<CharFormat> m_formats;
     std::vector<char> m_isImage;
-    int m_rowsToldTo = 0;    ///< torn rows reach up to there
-    int m_row = NothingKept; ///< what is kept of the row that is written
-    int m_shapeIndex = -1;
-    ParagraphFormat m_shape;
+    int m_rowsToldTo = 0;                              ///< torn rows reach up to there
+    int m_row = NothingKept;                           ///< what is kept of the row that is written
+    std::unordered_map<int, ParagraphFormat> m_shapes; ///< by the index of the format
     QHash<const QTextList*, int> m_items;
     QHash<const QTextList*, bool> m_toldByText; ///< of lists that the file tells so
     QSet<int> m_anchorsWritten;

@@ -61,7 +61,8 @@ void levelText(RtfOutput& out, const ListLabel& label) {
 } // namespace
 
 WriterTables::WriterTables()
-    : m_symbolFamily(m_names.family(u"Symbol"_s)) {}
+    : m_symbolFamily(m_names.family(u"Symbol"_s))
+    , m_numberedFamilies{m_names.family(u"OpenSymbol"_s), m_names.family(u"StarSymbol"_s)} {}
 
 int WriterTables::font(int family) {
     const auto found = m_fontNumbers.constFind(family);
@@ -83,8 +84,7 @@ SymbolFont WriterTables::symbolFontOf(int family) const {
 }
 
 bool WriterTables::wantsNumbers(int family) const {
-    const QString name = m_names.familyAt(family);
-    return name == "OpenSymbol"_L1 || name == "StarSymbol"_L1;
+    return family == m_numberedFamilies[0] || family == m_numberedFamilies[1];
 }
 
 int WriterTables::color(QRgb color) {
@@ -225,7 +225,7 @@ QByteArray WriterTables::listTables() {
     }
     lists.structure("}\r\n");
     overrides.structure("}\r\n");
-    return lists.bytes() + overrides.bytes();
+    return lists.take() + overrides.take();
 }
 
 } // namespace orvalis::rtf

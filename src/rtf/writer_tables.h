@@ -57,6 +57,7 @@ private:
 
     Names m_names;
     int m_symbolFamily;
+    std::array<int, 2> m_numberedFamilies;
     int m_firstFont = 0;
     QList<int> m_fonts; ///< families in the order of the font table
     QHash<int, int> m_fontNumbers;

@@ -293,11 +293,17 @@ void DocumentSink::shapeFirst() {
     joinList(m_firstParagraph, m_firstStart);
 }
 
-QTextCharFormat DocumentSink::formatOf(const Run& run) const {
-    QTextCharFormat format = m_formats[size_t(run.format)];
-    if (run.anchors != NoName)
-        format.setProperty(KeptAnchors, m_anchors[size_t(run.anchors)]);
-    return format;
+void DocumentSink::insertText(QStringView text, const Run& run) {
+    // A document copies what it takes.
+    const QString lent = QString::fromRawData(text.data(), text.size());
+    const QTextCharFormat& format = m_formats[size_t(run.format)];
+    if (run.anchors == NoName) {
+        m_cursor.insertText(lent, format);
+        return;
+    }
+    QTextCharFormat anchored = format;
+    anchored.setProperty(KeptAnchors, m_anchors[size_t(run.anchors)]);
+    m_cursor.insertText(lent, anchored);
 }
 
 void DocumentSink::insertRuns(const ParagraphShape& shape) {
@@ -310,9 +316,7 @@ void DocumentSink::insertRuns(const ParagraphShape& shape) {
             if (m_intake.takesPicture(image.height(), letters, shape))
                 m_cursor.insertText(text.toString(), image);
         } else if (const qsizetype taken = m_intake.taken(text, letters, shape); taken > 0) {
-            // A paragraph of one run, which most are, is handed over as it is.
-            const bool whole = taken == m_text.size();
-            m_cursor.insertText(whole ? m_text : m_text.mid(at, taken), formatOf(run));
+            insertText(text.first(taken), run);
         }
         at += run.length;
     }

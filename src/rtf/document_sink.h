@@ -72,7 +72,7 @@ private:
     const Shape& shapeOf(const ParagraphFormat& paragraph);
     void insertParagraph(const ParagraphFormat& paragraph, const CharFormat& mark);
     void shapeFirst();
-    QTextCharFormat formatOf(const Run& run) const;
+    void insertText(QStringView text, const Run& run);
     void insertRuns(const ParagraphShape& shape);
     void joinList(const ParagraphFormat& paragraph, int start);
     LabelSize labelSize(const ParagraphFormat& paragraph, int start);

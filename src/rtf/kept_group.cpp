@@ -228,6 +228,8 @@ void GroupKeeper::bytes(QByteArrayView run) {
     run = run.sliced(skipped);
     if (m_state.picture)
         pictureBytes(run);
+    else if (m_state.page->table()) // where each byte is a character
+        decode(run);
     else
         m_pending.append(run);
 }
@@ -241,9 +243,11 @@ void GroupKeeper::pictureBytes(QByteArrayView run) {
 }
 
 void GroupKeeper::flushPending() {
-    if (m_pending.isEmpty())
-        return;
-    const QByteArray run = std::exchange(m_pending, {});
+    if (!m_pending.isEmpty())
+        decode(std::exchange(m_pending, {}));
+}
+
+void GroupKeeper::decode(QByteArrayView run) {
     if (m_state.symbols) {
         // What the font shows for its bytes is its own affair.
         for (const char byte : run)

@@ -49,6 +49,7 @@ private:
     void bytes(QByteArrayView run);
     void pictureBytes(QByteArrayView run);
     void flushPending();
+    void decode(QByteArrayView run);
     void text(QStringView text);
     void plain();
     void copy(const Token& token);

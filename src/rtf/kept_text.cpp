@@ -113,12 +113,12 @@ void writeKept(RtfOutput& out, WriterTables& tables, QStringView kept) {
 
 QByteArray keptWithoutPlaces(QStringView kept) {
     QByteArray rest;
-    bool inPlace = false;
-    for (const QChar c : kept)
-        if (c == PlaceStart || c == PlaceEnd)
-            inPlace = c == PlaceStart;
-        else if (!inPlace)
-            rest.append(c.toLatin1());
+    while (!kept.isEmpty()) {
+        const qsizetype start = kept.indexOf(PlaceStart);
+        rest += kept.first(start < 0 ? kept.size() : start).toLatin1();
+        const qsizetype end = start < 0 ? start : kept.indexOf(PlaceEnd, start);
+        kept = end < 0 ? QStringView() : kept.sliced(end + 1);
+    }
     return rest;
 }
 

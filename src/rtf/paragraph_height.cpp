@@ -95,22 +95,21 @@ bool ParagraphHeight::fill(QStringView text, LetterWidths& widths, double room, 
     // Where nobody knows where the lines end, the text begins one.
     End end = m_line > 0 ? m_end : End{};
     qsizetype lines = 0;
-    for (const QChar character : text) {
-        const char16_t c = character.unicode();
-        const double width = widths.of(c);
-        if (width < 0) {
-            if (!parts(character))
-                return false;
-            lines += c == u'\t' ? 2 : 1; // a tab may stand in a line of its own
-            end = {};
-            continue;
-        }
+    for (auto at = text.begin(); at != text.end();) {
+        const char16_t c = at->unicode();
         if (c == u' ') {
-            end.blanks += width;
+            end.blanks += widths.of(c);
             if (end.blanks > room) { // nobody knows how far they reach out of their line
                 ++lines;
                 end.blanks = 0;
             }
+            ++at;
+            continue;
+        }
+        if (parts(*at)) {
+            lines += c == u'\t' ? 2 : 1; // a tab may stand in a line of its own
+            end = {};
+            ++at;
             continue;
         }
         if (end.blanks > 0) {
@@ -122,18 +121,33 @@ bool ParagraphHeight::fill(QStringView text, LetterWidths& widths, double room, 
             }
             end.blanks = 0;
         }
-        end.ahead = c;
-        end.word += width;
-        if (end.words + end.word <= room)
-            continue;
-        if (end.words > 0)
+        const auto letters = at;
+        double word = end.word;
+        for (; at != text.end() && *at != u' '; ++at) {
+            const float width = widths.of(at->unicode());
+            if (width < 0)
+                break;
+            word += width;
+        }
+        if (at == letters)
+            return false;
+        end.ahead = at[-1].unicode();
+        if (end.words > 0 && end.words + word > room) {
             ++lines; // begins with the word
-        end.words = 0;
-        if (end.word > room) {
-            // A word that is cut; where it can be broken, two lines hold more than one has room
-            // for.
-            lines += 2;
-            end.word = width;
+            end.words = 0;
+        }
+        if (end.words + word <= room) {
+            end.word = word;
+            continue;
+        }
+        // A word that is cut; where it can be broken, two lines hold more than one has room for.
+        for (auto letter = letters; letter != at; ++letter) {
+            const double width = widths.of(letter->unicode());
+            end.word += width;
+            if (end.word > room) {
+                lines += 2;
+                end.word = width;
+            }
         }
     }
     // A line is as high as its highest letters, and so is the next one where a word goes on in it;

@@ -5,7 +5,9 @@
 #include "controls/break_guides.h"
 #include "controls/layout_ruler.h"
 #include "controls/list_numbers.h"
+#include "controls/page_pictures.h"
 #include "controls/rich_text_box.h"
+#include "controls/small_capitals.h"
 #include "controls/tab_leaders.h"
 #include "controls/text_positions.h"
 #include "rtf/document_height.h"
@@ -15,6 +17,8 @@
 #include "runtime/twips.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QFontInfo>
+#include <QHash>
 #include <QPainter>
 #include <QPalette>
 #include <QTextBlock>
@@ -39,8 +43,8 @@ constexpr double WiderInFineDots = 1.25;
 /// that lines break where they do on every other printer.
 constexpr int LayoutDots = 1440;
 
-/// Twips that a line may be longer: of a fixed width, and counted in whole twips as it is
-/// elsewhere, as many letters fit as there are to be.
+/// Twips that a line of letters of a fixed width may be longer: counted in whole twips as it is
+/// elsewhere, as many of them fit as there are to be.
 constexpr qreal Slack = 2;
 
 /// As many dots as that, or fewer, in which whole points are whole as long as that is possible.
@@ -48,20 +52,6 @@ int scaledDown(double factor) {
     constexpr int DotsOfWholePoints = 72;
     const int dots = std::max(1, int(LayoutDots * factor));
     return dots > DotsOfWholePoints ? dots - dots % DotsOfWholePoints : dots;
-}
-
-/// The size of a picture in logical pixels as the layout will take it.
-QSizeF pictureSize(const QTextDocument& document, const QTextImageFormat& format) {
-    QSizeF size(format.width(), format.height());
-    if (size.width() > 0 && size.height() > 0)
-        return size;
-    const QVariant picture = document.resource(QTextDocument::ImageResource, QUrl(format.name()));
-    const QSizeF own = picture.value<QImage>().size();
-    if (own.isEmpty())
-        return {};
-    if (size.width() > 0)
-        return own * (size.width() / own.width());
-    return size.height() > 0 ? own * (size.height() / own.height()) : own;
 }
 
 } // namespace
@@ -127,9 +117,11 @@ void RangeFormatter::prepare(const FormatRange& range) {
     m_copy->setDefaultTextOption(option);
     m_marginDots = PixelsPerInch;
     standAcrossMargin(range.rect.left());
+    setSmallCapitals(*m_copy);
     guideBreaks();
-    shrinkPictures(page / TwipsPerPixel);
+    shrinkPictures(*m_copy, page / TwipsPerPixel);
     goOnBeyondMargins(range.rect.left());
+    giveSlack();
     tell(0);
     layOut();
     collectLines();
@@ -169,6 +161,23 @@ double RangeFormatter::layOut(int dots, std::pair<double, double> part) {
     return m_copy->documentLayout()->documentSize().height();
 }
 
+/// All lines are longer by the slack, which those without letters of a fixed width do not need.
+void RangeFormatter::giveSlack() {
+    QHash<QString, bool> known;
+    const auto isFixed = [&](const QTextFragment& fragment) {
+        const QFont font = fragment.charFormat().font();
+        const QString family = font.families().value(0);
+        const auto it = known.constFind(family);
+        return it != known.constEnd() ? *it : *known.insert(family, QFontInfo(font).fixedPitch());
+    };
+    changeParagraphs([&](const QTextBlock& block, QTextBlockFormat& paragraph) {
+        for (auto it = block.begin(); !it.atEnd(); ++it)
+            if (isFixed(it.fragment()))
+                return;
+        paragraph.setRightMargin(paragraph.rightMargin() + Slack / TwipsPerPixel);
+    });
+}
+
 /// Makes the copy's lines break where word processors break them.
 void RangeFormatter::guideBreaks() {
     constexpr size_t MostGuides = 20'000; // more than a text of addresses has
@@ -204,7 +213,7 @@ void RangeFormatter::goOnBeyondMargins(qreal room) {
     m_leftBeyond = left * TwipsPerPixel;
     m_rightBeyond = right * TwipsPerPixel;
     if (left > 0 || right > 0)
-        changeParagraphs([left, right](QTextBlockFormat& paragraph) {
+        changeParagraphs([left, right](const QTextBlock&, QTextBlockFormat& paragraph) {
             paragraph.setLeftMargin(std::max(0.0, paragraph.leftMargin() + left));
             paragraph.setRightMargin(std::max(0.0, paragraph.rightMargin() + right));
         });
@@ -218,7 +227,7 @@ qreal RangeFormatter::width() const {
 /// What has no room on the screen left of the margin has it on paper.
 /// \param room twips left of the margin.
 void RangeFormatter::standAcrossMargin(qreal room) {
-    changeParagraphs([room](QTextBlockFormat& paragraph) {
+    changeParagraphs([room](const QTextBlock&, QTextBlockFormat& paragraph) {
         if (rtf::overhangOf(paragraph) <= room)
             rtf::standAcrossMargin(paragraph);
     });
@@ -227,7 +236,7 @@ void RangeFormatter::standAcrossMargin(qreal room) {
 /// The layout counts most of what formats say in its dots by itself, but not these.
 void RangeFormatter::countMargins(int dots) {
     const qreal times = dots / std::exchange(m_marginDots, dots);
-    changeParagraphs([times](QTextBlockFormat& paragraph) {
+    changeParagraphs([times](const QTextBlock&, QTextBlockFormat& paragraph) {
         for (const int length :
              {QTextFormat::BlockLeftMargin, QTextFormat::BlockRightMargin, QTextFormat::TextIndent})
             if (const qreal lengthNow = paragraph.doubleProperty(length); lengthNow != 0)
@@ -235,54 +244,17 @@ void RangeFormatter::countMargins(int dots) {
     });
 }
 
-void RangeFormatter::changeParagraphs(const std::function<void(QTextBlockFormat&)>& change) {
+void RangeFormatter::changeParagraphs(
+    const std::function<void(const QTextBlock&, QTextBlockFormat&)>& change) {
     QTextCursor edit(m_copy.get());
     edit.beginEditBlock();
     for (QTextBlock block = m_copy->begin(); block.isValid(); block = block.next()) {
         QTextBlockFormat paragraph = block.blockFormat();
-        change(paragraph);
+        change(block, paragraph);
         if (paragraph != block.blockFormat())
             QTextCursor(block).setBlockFormat(paragraph);
     }
     edit.endEditBlock();
-}
-
-void RangeFormatter::shrinkPictures(const QSizeF& page) {
-    for (QTextBlock block = m_copy->begin(); block.isValid(); block = block.next()) {
-        const QTextBlockFormat paragraph = block.blockFormat();
-        const qreal room =
-            page.width() - qMax(0.0, paragraph.leftMargin()) - qMax(0.0, paragraph.rightMargin());
-        struct Picture {
-            int position;
-            QTextImageFormat format;
-        };
-        std::vector<Picture> shrunk;
-        for (auto it = block.begin(); !it.atEnd(); ++it) {
-            const QTextFragment fragment = it.fragment();
-            if (!fragment.charFormat().isImageFormat())
-                continue;
-            QTextImageFormat format = fragment.charFormat().toImageFormat();
-            if (format.hasProperty(rtf::HiddenPictureSize))
-                continue;
-            const QSizeF size = pictureSize(*m_copy, format);
-            // Below the picture the line still has room for letters that reach under it.
-            const qreal descent = QFontMetricsF(format.font()).descent() + 1;
-            const QSizeF most(qMax(1.0, room), qMax(1.0, page.height() - descent));
-            if (size.width() <= most.width() && size.height() <= most.height())
-                continue;
-            const QSizeF scaled = size.scaled(most, Qt::KeepAspectRatio);
-            format.setWidth(scaled.width());
-            format.setHeight(scaled.height());
-            for (int at = 0; at < fragment.length(); ++at)
-                shrunk.push_back({fragment.position() + at, format});
-        }
-        QTextCursor cursor(m_copy.get());
-        for (const Picture& picture : shrunk) {
-            cursor.setPosition(picture.position);
-            cursor.setPosition(picture.position + 1, QTextCursor::KeepAnchor);
-            cursor.setCharFormat(picture.format);
-        }
-    }
 }
 
 void RangeFormatter::tell(double share) const {

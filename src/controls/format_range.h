@@ -16,6 +16,7 @@
 
 class QPainter;
 class QPaintDevice;
+class QTextBlock;
 class QTextBlockFormat;
 
 namespace orvalis {
@@ -62,14 +63,14 @@ private:
     void layOut();
     double layOut(int dots, std::pair<double, double> part);
     void standAcrossMargin(qreal room);
+    void giveSlack();
     void guideBreaks();
     void goOnBeyondMargins(qreal room);
     qreal width() const;
     int inCopy(int position) const;
     int inDocument(int position) const;
     void countMargins(int dots);
-    void changeParagraphs(const std::function<void(QTextBlockFormat&)>& change);
-    void shrinkPictures(const QSizeF& page);
+    void changeParagraphs(const std::function<void(const QTextBlock&, QTextBlockFormat&)>& change);
     void tell(double share) const;
     void layOutToEnd(std::pair<double, double> part);
     void collectLines();

@@ -282,6 +282,7 @@ private:
     QString m_capture;
     CharFormat m_captureFormat;
     QString m_fieldText;     ///< to show where the field brings no result
+    QString m_chosenEntry;   ///< of the list that the field is
     QString m_ownField;      ///< what is kept of the field that would show that
     int m_fields = 0;        ///< that are kept
     size_t m_fieldDepth = 0; ///< of the groups, where that field stands

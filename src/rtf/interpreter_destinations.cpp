@@ -91,6 +91,7 @@ bool Interpreter::destinationWord(const Token& token) {
     case Action::Field:
         m_fieldText.clear();
         m_ownField.clear();
+        m_chosenEntry.clear();
         m_fieldDepth = inBody ? m_groups.size() : 0;
         if (inBody)
             keepField();
@@ -233,7 +234,8 @@ void Interpreter::closeDestination(Destination destination) {
             m_state.chars.link = m_names.link(target);
             m_state.chars.field = NothingKept;
         }
-        m_fieldText = equationText(captured) + symbolFieldText(captured);
+        m_fieldText =
+            equationText(captured) + symbolFieldText(captured) + std::exchange(m_chosenEntry, {});
         return;
     }
     case Destination::ShapePropertyName:

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "rtf/field_scan.h"
+#include "rtf/form_field.h"
 #include "rtf/interpreter.h"
 #include "rtf/kept_group.h"
 #include "rtf/kept_text.h"
@@ -164,7 +165,10 @@ void Interpreter::keepField() {
     m_keptLeft -= kept.size();
     // Its name is that by which it will be read when it has been written.
     const QByteArray name = fieldName(keptWithoutPlaces(kept));
-    const bool showsItself = !scan.hasResult && (name == "EQ" || name == "SYMBOL");
+    if (!scan.hasResult && name == "FORMDROPDOWN")
+        m_chosenEntry = chosenEntry(keptWithoutPlaces(kept));
+    const bool showsItself =
+        !scan.hasResult && (name == "EQ" || name == "SYMBOL" || !m_chosenEntry.isEmpty());
     if (kept.isEmpty() || name == "HYPERLINK")
         return;
     if (showsItself)

@@ -1,12 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "controls/format_range.h"
+#include "controls/layout_ruler.h"
 #include "controls/rich_text_box.h"
 #include "support/test_main.h"
 
 #include <QApplication>
 #include <QFontInfo>
 #include <QPainter>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextLayout>
 
 using namespace orvalis;
 using namespace Qt::StringLiterals;
@@ -69,6 +73,8 @@ private slots:
     void behindAnAddressPositionsAreThoseOfTheText();
     void aRangeThatBeginsBehindAnAddressDrawsItsOwnCharacters();
     void aLineHasRoomForAsManyLettersOfAFixedWidthAsThereAreToBe();
+    void aLineOfLettersOfOtherWidthsHasNoMoreRoomThanThePage();
+    void smallCapitalsAreFourFifthsOfTheirSize();
     void lettersAreAsWideAsTheirFileSays();
     void whatIsSetToTheRightStandsThereWhicheverWayItRuns();
     void whatTheUserSetsToTheRightStandsThereWhicheverWayItRuns();
@@ -229,6 +235,45 @@ void PageLinesTest::aLineHasRoomForAsManyLettersOfAFixedWidthAsThereAreToBe() {
     box.SetSelFontName(family);
     box.SetSelFontSize(10); // twelve to the inch
     QCOMPARE(linesOf(box, 6.5), (QList<int>{0, 79}));
+}
+
+void PageLinesTest::aLineOfLettersOfOtherWidthsHasNoMoreRoomThanThePage() {
+    RichTextBox box;
+    box.SetText(u"some words that are willing to stand in one line"_s);
+    box.selectAll();
+    box.SetSelFontName(u"Liberation Sans"_s);
+    box.SetSelFontSize(10);
+    LayoutRuler twips(Inch);
+    QTextCursor start(box.document());
+    start.movePosition(QTextCursor::Right);
+    QTextLayout line(box.Text(), QFont(start.charFormat().font(), &twips), &twips);
+    QTextOption option;
+    option.setUseDesignMetrics(true);
+    line.setTextOption(option);
+    line.beginLayout();
+    QTextLine whole = line.createLine();
+    whole.setLineWidth(10 * Inch);
+    const double width = whole.naturalTextWidth();
+    line.endLayout();
+    QVERIFY(width > Inch);
+    QCOMPARE(linesOf(box, (width + 1) / Inch).size(), 1);
+    QCOMPARE(linesOf(box, (width - 1) / Inch).size(), 2);
+}
+
+void PageLinesTest::smallCapitalsAreFourFifthsOfTheirSize() {
+    const auto inkOfRtf = [](const QByteArray& body) {
+        RichTextBox box;
+        box.SetTextRTF("{\\rtf1{\\fonttbl{\\f0 Liberation Sans;}}\\f0" + body + "\\par}");
+        return inkOf(box);
+    };
+    const QRect small = inkOfRtf("\\fs100\\scaps hhhh");
+    const QRect capitals = inkOfRtf("\\fs80 HHHH");
+    QVERIFY(capitals.width() > 100);
+    QVERIFY(std::abs(small.width() - capitals.width()) <= 1);
+    QVERIFY(std::abs(small.height() - capitals.height()) <= 1);
+    const QRect mixed = inkOfRtf("\\fs100\\scaps H7hh");
+    const QRect asMixed = inkOfRtf("\\fs100 H7\\fs80 HH");
+    QVERIFY(std::abs(mixed.width() - asMixed.width()) <= 1);
 }
 
 void PageLinesTest::lettersAreAsWideAsTheirFileSays() {

@@ -70,7 +70,15 @@ void BulletSignTest::everySignIsShownAsItIsMeant_data() {
         QStringLiteral("\u25aa"));
     row("arrow head", QStringLiteral("\u00d8"), SymbolFont::Wingdings, QStringLiteral("\u27a2"));
     row("sign that few fonts have", QStringLiteral("\u00e0"), SymbolFont::Wingdings, {});
-    row("sign of a late block", QStringLiteral("w"), SymbolFont::Wingdings, {});
+    row("sign of a late block", QStringLiteral("s"), SymbolFont::Wingdings, {});
+    row("box", QStringLiteral("o"), SymbolFont::Wingdings, QStringLiteral("\u25a1"));
+    row("bold box", QStringLiteral("p"), SymbolFont::Wingdings, QStringLiteral("\u25a1"));
+    row("light box", QStringLiteral("\u00a8"), SymbolFont::Wingdings, QStringLiteral("\u25a1"));
+    row("diamond", QStringLiteral("w"), SymbolFont::Wingdings, QStringLiteral("\u25c6"));
+    row("circle", QStringLiteral("\u00a1"), SymbolFont::Wingdings, QStringLiteral("\u25cb"));
+    row("bold circle", QStringLiteral("\u00a2"), SymbolFont::Wingdings, QStringLiteral("\u25cb"));
+    row("crossed box", QStringLiteral("\u00fd"), SymbolFont::Wingdings, QStringLiteral("\u2612"));
+    row("ticked box", QStringLiteral("\u00fe"), SymbolFont::Wingdings, QStringLiteral("\u2611"));
     row("byte of an unknown font", QStringLiteral("\uf0b7"), SymbolFont::None, {});
     row("two signs", QStringLiteral("--"), SymbolFont::None, {});
     row("one among blanks", QStringLiteral(" - "), SymbolFont::None, QStringLiteral("-"));
@@ -95,6 +103,8 @@ void BulletSignTest::anItemShowsTheSignOfItsFile_data() {
         QStringLiteral("\u25aa"));
     row("level, font ahead of it", listed("\\f2{\\leveltext\\'01\\'a7;}{\\levelnumbers;}"),
         QStringLiteral("\u25aa"));
+    row("level, box", listed("{\\leveltext\\'01o;}{\\levelnumbers;}\\f2"),
+        QStringLiteral("\u25a1"));
     row("level, letter", listed("{\\leveltext\\'01o;}{\\levelnumbers;}\\f3"), QStringLiteral("o"));
     row("level, the usual dot", listed("{\\leveltext\\'01\\u-3913 ?;}{\\levelnumbers;}\\f1"), Dot);
     row("a font of signs ends with its level",

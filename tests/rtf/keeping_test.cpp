@@ -112,6 +112,11 @@ void KeepingTest::whatIsNotShownIsKept_data() {
         "word {\\field{\\*\\fldinst EQ \\\\f (1;2)}}{\\field{\\*\\fldinst EQ \\\\f (1;2)}} on\\par",
         "deed {\\field{\\*\\fldinst EQ \\\\f (1;2)}{\\fldrslt}}"
         "{\\field{\\*\\fldinst EQ \\\\f (1;2)}{\\fldrslt}} on\\par");
+    row("list to choose from",
+        "word {\\field{\\*\\fldinst FORMDROPDOWN {\\*\\formfield{\\fftype2\\ffres1{\\*\\ffl x}"
+        "{\\*\\ffl v}}}}{\\fldrslt }} on\\par",
+        "deed {\\field{\\*\\fldinst FORMDROPDOWN {\\*\\formfield{\\fftype2\\ffres1{\\*\\ffl x}"
+        "{\\*\\ffl v}}}}{\\fldrslt}} on\\par");
     row("break of a page ahead of a paragraph", "a\\par\\page word\\par",
         "a\\par\r\n\\pard\\page deed\\par");
     row("break of a page within a paragraph", "a\\page word\\par", "a\\page\r\n\\pard deed\\par");

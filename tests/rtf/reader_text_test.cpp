@@ -150,6 +150,15 @@ void ReaderTextTest::everyFormOfTextIsRead_data() {
         "{\\field{\\*\\fldinst SYMBOL 7}}{\\field{\\*\\fldinst SYMBOL}}"
         "{\\field{\\*\\fldinst SYMBOL 55296 \\\\u}}{\\field{\\*\\fldinst SYMBOLS 97}}b",
         QStringLiteral("b"));
+    const QByteArray list = "{\\field{\\*\\fldinst FORMDROPDOWN {\\*\\formfield{\\fftype2\\ffres1"
+                            "{\\*\\ffname n}\\ffdefres0{\\*\\ffl x}{\\*\\ffl v\\'e9\\u1078?!}}}}";
+    row("entry of a list that is chosen", list + "{\\fldrslt }}b",
+        QStringLiteral("v\u00e9\u0436!b"));
+    row("entry of a list that is chosen at first",
+        QByteArray(list).replace("ffres1", "ffres25") + "{\\fldrslt }}b", QStringLiteral("xb"));
+    row("entry that a list does not have", QByteArray(list).replace("ffres1", "ffres2") + "}b",
+        QStringLiteral("b"));
+    row("list with a result", list + "{\\fldrslt z}}b", QStringLiteral("zb"));
     row("other field without a result", " a{\\field{\\*\\fldinst EQUALS (b)}{\\fldrslt }}c",
         QStringLiteral("ac"));
     row("a second brace too many", " a}b\\par c", QStringLiteral("ab\nc"));

@@ -4,6 +4,8 @@
 
 #include "pdf_words.h"
 
+#include <QSet>
+
 namespace orvalis::likeness {
 
 /// So many of so many characters, or words.
@@ -33,11 +35,13 @@ Likeness compare(const PdfText& expected, const PdfText& found);
 /// order; what the one has at the foot of its page the other may have on the next. Bullets count as
 /// one sign, and so do a bracket and its mirror, and a sign and the letter of its code, as PDFs
 /// tell them in different ways. Leaders of tabs, and words in the scripts for which few machines
-/// have a font, do not count.
+/// have a font, with what is behind them on the line, do not count.
+/// \param labels of list items that the file tells. Where one of these stands in place of another
+/// one, ahead of the same text, it counts as alike.
 /// \param miss a word that is not, for whoever looks for the cause.
 /// \param top,bottom of the text in points; what stands above and below them does not count.
 Share compareLeftEdges(const PdfText& expected, const PdfText& found, double top, double bottom,
-                       QString& miss);
+                       const QSet<QString>& labels, QString& miss);
 
 /// Text without what readers set differently: runs of blanks, and marks without a width.
 QString folded(QString text);

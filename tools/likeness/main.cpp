@@ -14,20 +14,25 @@
 // files are told once more by themselves. Then the same for the program's own
 // pages: of the files without a table, text box or lines from top to bottom, those whose words
 // stand on the first page where LibreOffice sets them, each left edge within six points, in the
-// same order down the page. For that, LibreOffice is given the files without their footnotes, which
-// the program does not show, and with the dates and file names that their fields show as text, as
-// it would fill these anew; and the program takes the fonts that LibreOffice takes, its font for
-// files that name none, and runs of blanks as wide as it sets them. What PDFs tell in different
-// ways counts as alike: the order of letters that run to the left, brackets and their mirrors,
-// signs and the letters of their codes. With --keep what was made stays
-// in OTHER, and what lies there of the files themselves is used again. With --own only the
-// program's own pages are measured, against the PDFs that lie in OTHER: that takes a minute. Needs
-// soffice, and pdftotext and pdftohtml of poppler.
+// same order down the page. For that, LibreOffice is given the files without their headers, footers
+// and footnotes, which the program does not show, with what their fields of dates, names and
+// numbers show as text, as it would fill these anew, and without their style sheets: RTF tells the
+// looks of text beside its style, and where they are those of a new document LibreOffice takes the
+// style's for them. The program takes the fonts that LibreOffice takes, its font for files that
+// name none, and runs of blanks as wide as it sets them. What PDFs tell in different ways counts as
+// alike: the order of letters that run to the left, brackets and their mirrors, signs and the
+// letters of their codes. The label of a list item may be another one than LibreOffice's where it
+// is one that the file itself tells beside its lists. Words in letters for which no font is there,
+// and those behind them on their lines, do not count; a file that has no other is left out. With
+// --keep what was made stays in OTHER, and what lies there of the files themselves is used again.
+// With --own only the program's own pages are measured, against the PDFs that lie in OTHER: that
+// takes a minute. Needs soffice, and pdftotext and pdftohtml of poppler.
 #include "likeness.h"
 #include "office.h"
 #include "own_pages.h"
 #include "rtf/reader.h"
 #include "rtf/writer.h"
+#include "told_labels.h"
 #include "unsound.h"
 
 #include <QApplication>
@@ -37,6 +42,7 @@
 #include <QTemporaryDir>
 #include <QTextDocument>
 
+#include <algorithm>
 #include <cstdio>
 
 using namespace orvalis;
@@ -150,16 +156,20 @@ private:
         }
     }
 
-    /// The files with notes and dates, for the program's own pages.
+    /// The files with anything that the program does not show as LibreOffice does, for the
+    /// program's own pages.
     void convertBare() {
         QStringList files;
         for (const Sample& sample : std::as_const(m_samples)) {
             const QByteArray bytes = contentOf(m_folder + u'/' + sample.name);
             const QByteArray bare = asShown(bytes);
+            const QString file = path(u"bare"_s, sample, u".rtf"_s);
+            if (contentOf(file) != bare)
+                QFile::remove(path(u"bare-pdf"_s, sample, u".pdf"_s));
             if (sample.aside || bare == bytes)
                 continue;
-            files << path(u"bare"_s, sample, u".rtf"_s);
-            leave(files.last(), bare);
+            files << file;
+            leave(file, bare);
         }
         m_office.convert(files, u"pdf"_s, m_place.filePath(u"bare-pdf"_s));
     }
@@ -236,16 +246,20 @@ private:
         const QByteArray bytes = contentOf(m_folder + u'/' + sample.name);
         // A file without fonts is shown in those of whoever shows it.
         const QString family =
-            bytes.contains("{\\fonttbl") ? u"Times New Roman"_s : firstFamily(givenPdf);
+            bytes.contains("{\\fonttbl") ? u"Times New Roman"_s : mainFamily(givenPdf);
         const QString ownPdf = path(u"own-pdf"_s, sample, u".pdf"_s);
         const QByteArray text = contentOf(path(u"given-txt"_s, sample, u".txt"_s));
         printOwnPages(bytes, ownPdf, widensBlanks(text), family);
-        const PdfText own = readPdf(ownPdf);
+        const PdfText given = readPdf(givenPdf);
         QString miss;
-        const Share edges =
-            compareLeftEdges(readPdf(givenPdf), own, sample.top, sample.bottom, miss);
-        if (edges.all == 0)
+        const Share edges = compareLeftEdges(given, readPdf(ownPdf), sample.top, sample.bottom,
+                                             toldLabels(bytes), miss);
+        if (edges.all == 0) {
+            const auto isRare = [](const Word& word) { return word.isRare; };
+            if (std::any_of(given.words.cbegin(), given.words.cend(), isRare))
+                std::printf("NONE\t%s\tno font has its letters\n", qUtf8Printable(sample.name));
             return;
+        }
         ++m_own;
         m_edges += edges;
         if (edges.alike == edges.all)

@@ -13,6 +13,7 @@
 #include <QTextDocument>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -66,11 +67,6 @@ void widenRunsOfBlanks(QTextDocument& document) {
     }
 }
 
-/// Whether a control word goes on there.
-bool goesOn(const QByteArray& rtf, qsizetype at) {
-    return at < rtf.size() && QChar::isLetter(uchar(rtf[at]));
-}
-
 qsizetype groupLength(const QByteArray& rtf, qsizetype start) {
     qsizetype end = start;
     int depth = 0;
@@ -100,7 +96,8 @@ namespace {
 /// The instructions of fields that LibreOffice fills anew: what is left of the field is its result.
 void removeFilledFields(QByteArray& rtf) {
     static const QRegularExpression filled(
-        u"\\b(FILENAME|DATE|TIME|SAVEDATE|PRINTDATE|CREATEDATE|EDITTIME)\\b"_s,
+        u"\\b(FILENAME|DATE|TIME|SAVEDATE|PRINTDATE|CREATEDATE|EDITTIME|AUTONUM\\w*|NUMCHARS|"
+        "NUMWORDS|NUMPAGES|DOCPROPERTY|COMMENTS)\\b"_s,
         QRegularExpression::CaseInsensitiveOption);
     for (const QByteArray instruction : {"{\\*\\fldinst", "{\\fldinst"})
         for (qsizetype at = rtf.indexOf(instruction); at >= 0; at = rtf.indexOf(instruction, at)) {
@@ -112,27 +109,47 @@ void removeFilledFields(QByteArray& rtf) {
         }
 }
 
+/// Takes the groups that begin with a pattern out. Their braces stay, for they part what is around
+/// them.
+/// \returns whether there were any.
+bool emptyGroups(QByteArray& rtf, const QRegularExpression& start) {
+    QByteArray rest;
+    qsizetype kept = 0;
+    auto starts = start.globalMatch(QString::fromLatin1(rtf));
+    while (starts.hasNext()) {
+        const qsizetype at = starts.next().capturedStart();
+        if (at < kept)
+            continue; // within another one
+        rest += rtf.sliced(kept, at - kept) + "{}";
+        kept = at + groupLength(rtf, at);
+    }
+    rest += rtf.sliced(kept);
+    return std::exchange(rtf, rest).size() != rtf.size();
+}
+
+void removeHeads(QByteArray& rtf) {
+    static const QRegularExpression head(u"\\{\\\\(header|footer)[lrf]?(?![a-z])"_s);
+    emptyGroups(rtf, head);
+}
+
+void removeStyles(QByteArray& rtf) {
+    static const QRegularExpression styles(u"\\{(\\\\\\*)?\\\\stylesheet(?![a-z])"_s);
+    emptyGroups(rtf, styles);
+}
+
 void removeNotes(QByteArray& rtf) {
-    bool hasNotes = false;
-    for (const QByteArray note : {"{\\footnote", "{\\*\\footnote"})
-        for (qsizetype at = rtf.indexOf(note); at >= 0; at = rtf.indexOf(note, at)) {
-            if (goesOn(rtf, at + note.size())) {
-                ++at;
-                continue;
-            }
-            rtf.remove(at, groupLength(rtf, at));
-            hasNotes = true;
-        }
-    const QByteArray mark = "\\chftn";
-    for (qsizetype at = rtf.indexOf(mark); hasNotes && at >= 0; at = rtf.indexOf(mark, at + 1))
-        if (!goesOn(rtf, at + mark.size()))
-            rtf.remove(at, mark.size());
+    static const QRegularExpression note(u"\\{(\\\\\\*)?\\\\footnote(?![a-z])"_s);
+    static const QRegularExpression mark(u"\\\\chftn(?![a-z])"_s);
+    if (emptyGroups(rtf, note))
+        rtf = QString::fromLatin1(rtf).remove(mark).toLatin1();
 }
 
 } // namespace
 
 QByteArray asShown(QByteArray rtf) {
     removeFilledFields(rtf);
+    removeHeads(rtf);
+    removeStyles(rtf);
     removeNotes(rtf);
     return rtf;
 }

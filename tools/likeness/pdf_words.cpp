@@ -5,6 +5,7 @@
 #include <QFontDatabase>
 #include <QHash>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QXmlStreamReader>
 
 #include <algorithm>
@@ -94,6 +95,9 @@ void joinAlongLines(QList<Piece>& pieces) {
 }
 
 void readPlaces(const QByteArray& xml, PdfText& text) {
+    static const QRegularExpression rare(
+        u"[\\x{900}-\\x{109f}\\x{1780}-\\x{17ff}\\x{2e80}-\\x{d7ff}\\x{f900}-\\x{faff}"
+        "\\x{fe30}-\\x{fe4f}\\x{ff00}-\\x{ffef}\\x{10000}-\\x{10ffff}]"_s);
     QXmlStreamReader reader(xml);
     QList<Piece> pieces;
     while (!reader.atEnd()) {
@@ -114,6 +118,7 @@ void readPlaces(const QByteArray& xml, PdfText& text) {
     }
     joinAlongLines(pieces);
     for (Piece& piece : pieces) {
+        piece.word.isRare = rare.match(piece.word.text).hasMatch();
         // Ligatures are drawn as one sign by the one, as letters by the other; letters with marks
         // in one piece or in two.
         piece.word.text = piece.word.text.normalized(QString::NormalizationForm_KC);
@@ -191,10 +196,16 @@ private:
 
 } // namespace
 
-QString firstFamily(const QString& path) {
-    const QString list = QString::fromUtf8(outputOf(u"pdffonts"_s, {u"-l"_s, u"1"_s, path}));
-    // Two lines are the head of the list.
-    const QString name = familyOf(list.section(u'\n', 2, 2).section(u' ', 0, 0));
+QString mainFamily(const QString& path) {
+    const QByteArray firstPage = outputOf(
+        u"pdftohtml"_s, {u"-xml"_s, u"-i"_s, u"-nomerge"_s, u"-l"_s, u"1"_s, u"-stdout"_s, path});
+    QList<LookedWord> words;
+    LookReader(firstPage, words).read();
+    QHash<QString, qsizetype> characters;
+    QString name;
+    for (const LookedWord& word : std::as_const(words))
+        if ((characters[word.look.font] += word.text.size()) > characters.value(name))
+            name = word.look.font;
     const QStringList families = QFontDatabase::families();
     for (const QString& family : families)
         if (QString(family).remove(u' ') == name)

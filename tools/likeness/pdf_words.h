@@ -12,7 +12,8 @@ namespace orvalis::likeness {
 struct Word {
     QString text;
     int page = 0;
-    QPointF corner; ///< upper left, in points
+    QPointF corner;      ///< upper left, in points
+    bool isRare = false; ///< has characters for which few machines have a font
 };
 
 /// How a character was set.
@@ -36,8 +37,8 @@ struct PdfText {
     QList<LookedWord> looks;
 };
 
-/// The family of the first font of a PDF, as this machine names it.
-QString firstFamily(const QString& path);
+/// The family that most of the first page of a PDF stands in, as this machine names it.
+QString mainFamily(const QString& path);
 
 /// What poppler's tools read in a PDF; no page where it cannot be read.
 PdfText readPdf(const QString& path);

@@ -195,6 +195,10 @@ void BodyWriter::text(QStringView text, const CharFormat& format) {
     change(format);
     breakPage();
     const bool signs = m_symbols != SymbolFont::None;
+    if (cellsEnd(text, format)) {
+        writeAnchors(format.anchors);
+        return;
+    }
     if (signs ? format.byNumber : m_tables.wantsNumbers(format.family))
         m_out.numbers(text);
     else if (!signs)

@@ -53,6 +53,8 @@ public:
     void beginCell(int shape, int anchors);
     void endCell(const CharFormat& look);
     void endRow();
+    /// Whether a row has been begun.
+    bool hasRows() const { return m_anyRow; }
 
     /// The whole file.
     /// \param defaultTab twips between default tab stops.
@@ -66,6 +68,7 @@ private:
     void tellAfter();
     void breakPage();
     bool fieldShows(QStringView text, const CharFormat& format);
+    bool cellsEnd(QStringView text, const CharFormat& format);
     bool goToBox(const ParagraphFormat& paragraph);
     void openBox(const ParagraphFormat& paragraph);
     void closeBox();
@@ -118,7 +121,8 @@ private:
     bool m_pageBreaks = false;    ///< ahead of the text that comes next
     int m_afterBehind = NoLength; ///< the space after the paragraph, to be told behind its text
     bool m_rowEnds = false;       ///< and nothing has come since
-    int m_mark = NothingKept;     ///< how the paragraph's mark looks, if other than its text
+    bool m_anyRow = false;
+    int m_mark = NothingKept; ///< how the paragraph's mark looks, if other than its text
 };
 
 } // namespace orvalis::rtf

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "rtf/body_writer.h"
+#include "rtf/formula_text.h"
 #include "rtf/hyperlink.h"
 #include "rtf/kept_text.h"
 
@@ -51,7 +52,7 @@ void BodyWriter::changeField(int field) {
     m_format.field = field;
 }
 
-/// Writes a field whose text follows from its instruction.
+/// Writes a field whose text follows from its instruction, or a formula.
 bool BodyWriter::fieldShows(QStringView text, const CharFormat& format) {
     const QString kept = names().keptAt(format.field);
     const qsizetype start = kept.indexOf(NumberEnd) + 1;
@@ -67,9 +68,13 @@ bool BodyWriter::fieldShows(QStringView text, const CharFormat& format) {
     m_paragraphIsEmpty = false;
     change(own);
     breakPage();
-    m_out.structure("{\\field");
-    writeKept(m_out, m_tables, QStringView(kept).sliced(start, end - start));
-    m_out.structure("{\\fldrslt}}");
+    const QStringView group = QStringView(kept).sliced(start, end - start);
+    const bool isFormula = group.startsWith(QLatin1StringView(FormulaHead));
+    if (!isFormula)
+        m_out.structure("{\\field");
+    writeKept(m_out, m_tables, group);
+    if (!isFormula)
+        m_out.structure("{\\fldrslt}}");
     writeAnchors(format.anchors);
     return true;
 }

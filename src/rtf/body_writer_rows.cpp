@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "rtf/body_writer.h"
+#include "rtf/kept_row.h"
 #include "rtf/kept_text.h"
 
 namespace orvalis::rtf {
@@ -8,9 +9,10 @@ namespace orvalis::rtf {
 void BodyWriter::beginRow(int row, const ParagraphFormat& first) {
     goTo(first);
     m_rowEnds = false;
+    m_anyRow = true;
     if (first.pageBreakBefore && first.pageWord != PageWord::OfParagraph)
         m_out.structure("\\pard\\page");
-    m_out.structure(kept(names().keptAt(row)));
+    m_out.structure(kept(wordsOfRow(names().keptAt(row))));
     m_paragraphs.forget();
 }
 
@@ -29,6 +31,18 @@ void BodyWriter::endCell(const CharFormat& look) {
     unlinked.field = NothingKept;
     change(unlinked);
     m_out.structure("\\cell\r\n");
+}
+
+/// What ends a cell ahead of all rows is told as that; behind one it would be of a row.
+bool BodyWriter::cellsEnd(QStringView text, const CharFormat& format) {
+    const bool inText =
+        m_box == NothingKept && format.link == NoName && format.field == NothingKept;
+    if (format.cell == NothingKept || m_anyRow || !inText ||
+        names().keptAt(format.cell) != BareCell || text.count(u'\t') != text.size())
+        return false;
+    for (qsizetype i = 0; i < text.size(); ++i)
+        m_out.word("\\cell");
+    return true;
 }
 
 void BodyWriter::endRow() {

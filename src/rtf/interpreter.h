@@ -94,6 +94,7 @@ private:
         bool nested = false; ///< words for rows are of a table in a cell
         bool indexEntry = false;
         bool inShape = false;
+        bool inFormula = false;
         bool fallback = false; ///< pictures are other forms of the one that came last
         bool hasContent =
             false; ///< text or groups, so that it cannot become a destination any more
@@ -171,7 +172,11 @@ private:
     bool rowWord(const Token& token);
     void keepOfRow(KeptLevel level, const KeptCall& call);
     int row();
+    int unevenRow(int cells);
+    int rowOfParagraph();
+    bool endsCellOfRow(int cell) const { return cell != NothingKept && cell != m_bareCell; }
     int cellShape();
+    int bareCell();
     QString listInCell();
     void cellTabs(size_t count);
     void rowEnd(bool outermost);
@@ -195,6 +200,7 @@ private:
 
     // Shapes (interpreter_shapes.cpp)
     void keepShape(const Token& token);
+    void keepFormula();
     void beginBox();
     void endBox();
     bool endsBehindBox();
@@ -259,6 +265,15 @@ private:
     QString m_cells; ///< of the row, as they are kept
     int m_cellCount = 0;
     int m_row = NothingKept;
+    int m_cellsOfRow = 0; ///< that have ended
+    struct Uneven {
+        int row = NothingKept;
+        int cells = 0;
+        int kept = NothingKept;
+    };
+    Uneven m_uneven; ///< the last one
+    int m_bareCell = NothingKept;
+    bool m_anyRow = false;   ///< has been shaped
     bool m_rowIsNew = false; ///< m_row does not tell it yet
     bool m_inRow = false;    ///< a paragraph of the row has ended
     bool m_rowEnds = false;

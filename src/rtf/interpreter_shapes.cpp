@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
+#include "rtf/formula_text.h"
 #include "rtf/interpreter.h"
 #include "rtf/kept_group.h"
 #include "rtf/kept_text.h"
@@ -14,15 +15,23 @@ namespace orvalis::rtf {
 void Interpreter::keepShape(const Token& token) {
     constexpr int MostShapes = 4096; // each makes a format of its own
     // The look ahead reads all that is in a shape, so those inside are not looked into again.
-    if (std::exchange(m_state.inShape, true) || m_shapes >= MostShapes || !shows())
+    const bool isFormula = token.word->value != 0;
+    const bool inShape = m_state.inShape;
+    bool& looked = isFormula ? m_state.inFormula : m_state.inShape;
+    if (std::exchange(looked, true) || m_shapes >= MostShapes || !shows())
         return;
     ++m_shapes;
     const ShapeScan scan = scanShape(m_tokenizer.groupAhead());
+    const bool isPicture = scan.shows == ShapeScan::Shows::Picture;
+    if (isFormula && !isPicture) {
+        keepFormula();
+        return;
+    }
+    if (isFormula && inShape)
+        return;
     // A line of the document holds all cells of a row, and a field ends with its paragraph.
     const bool asText =
         m_state.inTable || m_state.chars.link != NoName || m_state.chars.field != NothingKept;
-    if (token.word->value != 0 && scan.shows != ShapeScan::Shows::Picture)
-        return;
     if (scan.shows == ShapeScan::Shows::More || (scan.shows == ShapeScan::Shows::Text && asText))
         return;
     const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, m_defaultFont};
@@ -30,7 +39,7 @@ void Interpreter::keepShape(const Token& token) {
     m_keptLeft -= kept.size();
     if (kept.isEmpty())
         return;
-    if (scan.shows == ShapeScan::Shows::Picture) {
+    if (isPicture) {
         m_state.frame = m_names.kept(kept);
     } else if (scan.shows == ShapeScan::Shows::Text) {
         m_state.box = m_names.kept(QString::number(m_shapes) + NumberEnd + kept);
@@ -38,6 +47,29 @@ void Interpreter::keepShape(const Token& token) {
         skipGroup();
         anchor(kept);
     }
+}
+
+/// A formula without a picture shows the text of its parts in one line, and is kept as long as that
+/// stays.
+void Interpreter::keepFormula() {
+    if (m_state.chars.field != NothingKept)
+        return;
+    const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, m_defaultFont};
+    const QString kept =
+        GroupKeeper(m_tokenizer.groupAhead(), tables).kept(FormulaHead, m_keptLeft);
+    m_keptLeft -= kept.size();
+    if (kept.isEmpty())
+        return;
+    skipGroup();
+    const QString text = formulaText(keptWithoutPlaces(kept));
+    if (text.isEmpty()) {
+        anchor(kept);
+        return;
+    }
+    m_state.chars.field =
+        m_names.kept(QString::number(m_shapes) + NumberEnd + kept + NumberEnd + text);
+    append(text);
+    m_state.chars.field = NothingKept;
 }
 
 /// The text of a box has paragraphs of its own: that of the document which the box stands in is

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "rtf/interpreter.h"
+#include "rtf/kept_row.h"
 #include "rtf/kept_text.h"
 #include "rtf/paragraph_writer.h"
 #include "rtf/rtf_output.h"
@@ -22,6 +23,7 @@ bool Interpreter::rowWord(const Token& token) {
     case Action::RowDefaults:
         if (!shows() || m_state.nested)
             return true;
+        m_anyRow = true;
         m_keptOfRow = m_keptOfCell = 0;
         m_cells.clear();
         m_cellCount = 0;
@@ -43,7 +45,9 @@ bool Interpreter::rowWord(const Token& token) {
     case Action::CellEnd:
         if (shows()) {
             m_cellsEnded.push_back(m_state.chars);
-            m_cellsEnded.back().cell = token.word->value == 0 ? cellShape() : NothingKept;
+            int& cell = m_cellsEnded.back().cell;
+            cell = token.word->value == 0 ? cellShape() : NothingKept;
+            m_cellsOfRow += endsCellOfRow(cell) ? 1 : 0;
         }
         return true;
     case Action::RowEnd:
@@ -77,11 +81,43 @@ int Interpreter::row() {
     return m_row;
 }
 
+/// The row with a number of cells that its words do not tell.
+int Interpreter::unevenRow(int cells) {
+    if (m_keptLeft <= 0 || m_cellCount >= MostCells || cells > MostCells)
+        return row();
+    if (m_uneven.kept == NothingKept || m_uneven.row != row() || m_uneven.cells != cells) {
+        const QString text = rtf::unevenRow(cells, m_names.keptAt(row()));
+        m_keptLeft -= text.size();
+        m_uneven = {row(), cells, m_names.kept(text)};
+    }
+    return m_uneven.kept;
+}
+
+/// The row that the paragraph is of which ends. A row may have more or fewer cells than it should.
+/// In a table without text and cells, the paragraph may belong to no row at all.
+int Interpreter::rowOfParagraph() {
+    if (m_rowEnds)
+        return m_cellsOfRow == m_cellCount ? row() : unevenRow(m_cellsOfRow);
+    const bool empty = !m_inParagraph && m_anchorsAtStart.isEmpty();
+    const bool alone = m_boxDepth == 0 && !m_boxEnded && !m_pageBreak && !m_sectionBegins;
+    return empty && alone ? unevenRow(0) : row();
+}
+
+/// What ends a cell ahead of all rows is none of one, and stays what it is.
+int Interpreter::bareCell() {
+    const bool inText = !m_state.inTable && !m_state.inShape && m_state.chars.link == NoName &&
+                        m_state.chars.field == NothingKept;
+    if (m_anyRow || !inText || m_keptLeft <= 0)
+        return NothingKept;
+    m_bareCell = m_names.kept(BareCell.toString());
+    return m_bareCell;
+}
+
 /// How the paragraph is shaped that a cell ends with: a line of the document holds all cells of a
 /// row, and has one shape.
 int Interpreter::cellShape() {
     if (row() == NothingKept)
-        return NothingKept;
+        return bareCell();
     ParagraphFormat shaped = m_state.paragraph;
     const QString list = listInCell();
     shaped.kept = m_names.kept(m_names.keptAt(shaped.kept) + list);
@@ -125,7 +161,7 @@ void Interpreter::cellTabs(size_t count) {
 
 void Interpreter::rowEnd(bool outermost) {
     const bool anyCell = !m_cellsEnded.empty();
-    const bool kept = anyCell && outermost && m_cellsEnded.back().cell != NothingKept;
+    const bool kept = anyCell && outermost && endsCellOfRow(m_cellsEnded.back().cell);
     if (anyCell)
         cellTabs(m_cellsEnded.size() - 1);
     if (!anyCell && !m_inParagraph)

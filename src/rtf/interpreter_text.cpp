@@ -255,6 +255,8 @@ void Interpreter::paragraphEnd() {
     const ParagraphFormat& paragraph = shapedParagraph();
     m_sink.paragraphEnd(paragraph, told(m_state.chars));
     m_inRow = paragraph.row != NothingKept && !m_rowEnds;
+    if (!m_inRow)
+        m_cellsOfRow = 0;
     m_rowEnds = false;
     m_boxEnded = false;
     m_boxHasParagraph = true;
@@ -310,7 +312,7 @@ const ParagraphFormat& Interpreter::shapedParagraph() {
         m_shaped.pageWord = m_pageWord;
     }
     if (ofRow) {
-        m_shaped.row = row();
+        m_shaped.row = rowOfParagraph();
         m_shaped.rowBegins = !m_inRow;
     }
     m_shaped.anchors = m_names.kept(m_anchorsAtStart);

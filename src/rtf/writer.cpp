@@ -5,6 +5,7 @@
 #include "rtf/block_formats.h"
 #include "rtf/body_writer.h"
 #include "rtf/kept_parts.h"
+#include "rtf/kept_row.h"
 #include "rtf/list_formats.h"
 #include "rtf/list_tables.h"
 #include "rtf/picture_format.h"
@@ -41,6 +42,7 @@ public:
         , m_defaultTab(qRound(document.defaultTextOption().tabStopDistance() * TwipsPerPixel)) {
         const KeptParts parts = keptParts(document);
         m_body.expect(parts, document.defaultFont().family());
+        m_bareCell = m_body.names().kept(BareCell.toString());
         m_hasStyles = !parts.styles.isEmpty();
         m_countedOfCharacters = stated::countedOfCharacters(m_hasStyles, parts.defaultFont);
         if (m_isWhole)
@@ -96,6 +98,7 @@ private:
             return 0;
         int marks = 0;
         int count = 0;
+        bool empty = true;
         int row = begin.row;
         int end = position;
         for (QTextBlock block = first; block.isValid(); block = block.next()) {
@@ -104,13 +107,14 @@ private:
                               line.section != NothingKept || line.box != begin.box))
                 break;
             row = line.row;
+            empty = empty && block.length() == 1 && cellsOfRow(m_body.names().keptAt(row)) == 0;
             marks += marksIn(block);
             end += block.length();
             ++count;
         }
         m_rowsToldTo = end;
-        const auto cells = m_body.names().keptAt(row).count(QStringLiteral("\\cellx"));
-        if (marks + 1 != cells || end - 1 > m_to)
+        m_tornIsEmpty = empty;
+        if (marks + 1 != cellsOfRow(m_body.names().keptAt(row)) || end - 1 > m_to)
             return 0;
         m_rowsToldTo = position;
         m_row = row;
@@ -127,7 +131,8 @@ private:
 
     /// Whether the run is tabs that end cells.
     bool endsCells(const QTextFragment& run) {
-        return lookOf(run).cell != NothingKept && run.text().count(u'\t') == run.length();
+        const int cell = lookOf(run).cell;
+        return cell != NothingKept && cell != m_bareCell && run.text().count(u'\t') == run.length();
     }
 
     // Positions are counted along the way: a block and a fragment find theirs only by a search.
@@ -139,6 +144,8 @@ private:
             ParagraphFormat torn = own;
             torn.row = NothingKept;
             torn.rowBegins = false;
+            // Some readers leave out what stands between the rows of a table.
+            torn.inTable = m_tornIsEmpty && m_body.hasRows();
             m_body.beginParagraph(torn, number(block));
         }
         runs(block, position, [](const QTextFragment&) { return false; });
@@ -331,7 +338,9 @@ private:
     std::vector<char> m_known;
     std::vector<CharFormat> m_formats;
     std::vector<char> m_isImage;
-    int m_rowsToldTo = 0;                              ///< torn rows reach up to there
+    int m_rowsToldTo = 0; ///< torn rows reach up to there
+    bool m_tornIsEmpty = false;
+    int m_bareCell = NothingKept;
     int m_row = NothingKept;                           ///< what is kept of the row that is written
     std::unordered_map<int, ParagraphFormat> m_shapes; ///< by the index of the format
     QHash<const QTextList*, int> m_items;

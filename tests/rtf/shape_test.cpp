@@ -58,6 +58,10 @@ private slots:
     void aPictureKeepsTheShapeThatItIs();
     void aPictureThatOnlyFillsAShapeIsNotShown();
     void aFormulaKeepsWhatItsPictureIsOf();
+    void aFormulaWithoutAPictureShowsItsTextAndStays_data();
+    void aFormulaWithoutAPictureShowsItsTextAndStays();
+    void aFormulaWhoseTextIsChangedIsText();
+    void formulasInsideFormulasCostNoMoreThanTheirBytes();
     void aShapeThatShowsNothingStays();
     void severalTextsOfOneShapeShowWithoutIt();
     void looseTextOfAShapeIsShown();
@@ -166,6 +170,51 @@ void ShapeTest::aFormulaKeepsWhatItsPictureIsOf() {
     QVERIFY2(written.contains("}}}}b\\par"), written.constData());
     // Without a picture its text shows.
     QCOMPARE(textOf("a{\\mmath{\\moMath x}}"), QStringLiteral("ax"));
+}
+
+void ShapeTest::aFormulaWithoutAPictureShowsItsTextAndStays_data() {
+    QTest::addColumn<QByteArray>("formula");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("as a word processor writes it")
+        << QByteArray(
+               "{\\mmath{\\*\\moMath{\\mf{\\mfPr{\\mtype lin}}{\\mnum{\\mr\\mscr0\\msty2 a+}}"
+               "{\\mden{\\mr b}}}}}")
+        << QStringLiteral("a+b");
+    QTest::newRow("without its mark")
+        << QByteArray("{\\mmath{\\moMath{\\mrad{\\mradPr x{\\mdegHide1}}{\\me{\\mtext root}}}}}")
+        << QStringLiteral("root");
+    QTest::newRow("of letters told by number")
+        << QByteArray("{\\mmath{\\*\\moMath{\\mr \\u8730?x}}}") << QStringLiteral("\u221ax");
+    QTest::newRow("of nothing") << QByteArray("{\\mmath{\\*\\moMath{\\mr}}}") << QString();
+}
+
+void ShapeTest::aFormulaWithoutAPictureShowsItsTextAndStays() {
+    QFETCH(QByteArray, formula);
+    QFETCH(QString, text);
+    QCOMPARE(textOf("a" + formula + "b"), u'a' + text + u'b');
+    const QByteArray inText = saved("word" + formula + "b\\par");
+    QVERIFY2(inText.contains("deed" + formula + "b\\par"), inText.constData());
+    const QByteArray inBox = saved("word\\par" + box(" " + formula + "\\par"));
+    QVERIFY2(inBox.contains(formula + "\\par}}}"), inBox.constData());
+}
+
+void ShapeTest::aFormulaWhoseTextIsChangedIsText() {
+    const QByteArray written = saved("a{\\mmath{\\*\\moMath{\\mr a word}}}b\\par");
+    QVERIFY2(written.contains("aa deedb\\par"), written.constData());
+    QVERIFY(!written.contains("mmath"));
+}
+
+void ShapeTest::formulasInsideFormulasCostNoMoreThanTheirBytes() {
+    // Each of them looked through from its start would take minutes.
+    constexpr int Depth = 3000;
+    const QByteArray filling(1000, 'x');
+    QByteArray deep;
+    for (int i = 0; i < Depth; ++i)
+        deep += "{\\mmath{\\moMath " + filling;
+    deep += QByteArray("}}").repeated(Depth);
+    QTextDocument document;
+    QVERIFY(readRtf(file(deep), document).ok());
+    QVERIFY(document.characterCount() > Depth * filling.size() / 2);
 }
 
 void ShapeTest::aShapeThatShowsNothingStays() {

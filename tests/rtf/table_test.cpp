@@ -49,7 +49,12 @@ private slots:
     void aRowWhoseTabIsGoneIsText();
     void joinedRowsAreText();
     void aDeletedRowTakesItsShapeAlong();
-    void moreCellsThanTheRowHasAreText();
+    void aRowKeepsTheCellsThatItHas_data();
+    void aRowKeepsTheCellsThatItHas();
+    void anUnevenRowWhoseTabIsGoneIsText();
+    void aCellAheadOfAllRowsStaysOne();
+    void aCellAheadOfAllRowsIsNoneBehindOne();
+    void anEmptyParagraphOfATableStaysInIt();
     void aTabInACellIsText();
     void aPartOfARowIsText();
     void wholeRowsOfAPartAreATable();
@@ -174,11 +179,81 @@ void TableTest::aDeletedRowTakesItsShapeAlong() {
     QCOMPARE(written(document).count("\\trowd"), 2);
 }
 
-void TableTest::moreCellsThanTheRowHasAreText() {
+void TableTest::aRowKeepsTheCellsThatItHas_data() {
+    QTest::addColumn<QByteArray>("cells");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("more than it should")
+        << QByteArray("a\\cell b\\cell c\\cell") << QStringLiteral("a\tb\tc");
+    QTest::newRow("fewer") << QByteArray("a\\cell") << QStringLiteral("a");
+    QTest::newRow("more, in paragraphs")
+        << QByteArray("a\\cell b\\par c\\cell d\\cell") << QStringLiteral("a\tb\nc\td");
+}
+
+void TableTest::aRowKeepsTheCellsThatItHas() {
+    QFETCH(QByteArray, cells);
+    QFETCH(QString, text);
     QTextDocument document;
-    QVERIFY(readRtf(file("\\trowd\\cellx1000\\pard\\intbl a\\cell b\\cell\\row"), document).ok());
+    QVERIFY(readRtf(file(Row + "\\pard\\intbl " + cells + "\\row" + Row +
+                         "\\intbl x\\cell y\\cell\\row"),
+                    document)
+                .ok());
+    QCOMPARE(document.toPlainText(), text + QStringLiteral("\nx\ty"));
     const QByteArray rtf = written(document);
-    QVERIFY2(rtf.contains("a\\tab b\\par") && !rtf.contains("\\trowd"), rtf);
+    QCOMPARE(rtf.count("\\trowd"), 2);
+    QCOMPARE(rtf.count("\\row"), 2);
+    QCOMPARE(rtf.count("\\cell\r") + rtf.count("\\cell\\"), cells.count("\\cell") + 2);
+    QVERIFY2(!rtf.contains("\\tab"), rtf);
+}
+
+void TableTest::anUnevenRowWhoseTabIsGoneIsText() {
+    QTextDocument document;
+    QVERIFY(readRtf(file("\\trowd\\cellx1000\\pard\\intbl a\\cell b\\cell c\\cell\\row"), document)
+                .ok());
+    QTextCursor cursor(&document);
+    cursor.setPosition(1);
+    cursor.deleteChar();
+    const QByteArray rtf = written(document);
+    QVERIFY2(rtf.contains("ab\\tab c\\par") && !rtf.contains("\\trowd"), rtf);
+}
+
+void TableTest::aCellAheadOfAllRowsStaysOne() {
+    QTextDocument document;
+    QVERIFY(readRtf(file("\\pard a\\cell\\b b\\cell\\par c\\tab d\\par"), document).ok());
+    QCOMPARE(document.toPlainText(), QStringLiteral("a\tb\t\nc\td"));
+    const QByteArray rtf = written(document);
+    QVERIFY2(rtf.contains("a\\cell\\b b\\cell\\par"), rtf);
+    QVERIFY2(rtf.contains("c\\tab d\\par"), rtf);
+}
+
+void TableTest::aCellAheadOfAllRowsIsNoneBehindOne() {
+    QTextDocument document;
+    const QByteArray row = Row + "\\pard\\intbl x\\cell y\\cell\\row";
+    QVERIFY(readRtf(file("\\pard a\\cell b\\par" + row), document).ok());
+    QTextCursor cursor(&document);
+    cursor.insertText(QStringLiteral("\n"));
+    cursor.movePosition(QTextCursor::Start);
+    QVERIFY(insertRtf(file(row), cursor).ok());
+    QCOMPARE(document.toPlainText(), QStringLiteral("x\ty\na\tb\nx\ty"));
+    const QByteArray rtf = written(document);
+    QVERIFY2(rtf.contains("a\\tab b\\par"), rtf);
+    QCOMPARE(rtf.count("\\trowd"), 2);
+}
+
+void TableTest::anEmptyParagraphOfATableStaysInIt() {
+    const QByteArray given =
+        file(Row + "\\pard\\intbl one\\cell two\\cell\\row\\par\\pard after\\par");
+    QTextDocument document;
+    QVERIFY(readRtf(given, document).ok());
+    QCOMPARE(document.toPlainText(), QStringLiteral("one\ttwo\n\nafter"));
+    QVERIFY2(written(document).contains("\\row\r\n\\pard\\intbl\\par\r\n\\pard after"),
+             written(document));
+    // Its text would be lost to some readers there.
+    QTextCursor(document.findBlockByNumber(1)).insertText(QStringLiteral("new"));
+    QVERIFY2(written(document).contains("\\row\r\n\\pard new\\par\r\n"), written(document));
+    // Without a row there is no table.
+    QTextDocument alone;
+    QVERIFY(readRtf(file(Row + "\\pard\\intbl\\par\\pard after\\par"), alone).ok());
+    QVERIFY2(!written(alone).contains("\\intbl"), written(alone));
 }
 
 void TableTest::aTabInACellIsText() {

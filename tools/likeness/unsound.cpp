@@ -32,6 +32,8 @@ public:
                 text(token.bytes.size());
             else if (token.kind == rtf::TokenKind::Byte)
                 text(1);
+        if (m_half)
+            m_found = u"halves of characters"_s;
         return m_found;
     }
 

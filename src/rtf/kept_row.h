@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace orvalis::rtf {
+
+/// What is kept of a row of a table: the words that shape it, and how many cells it has where that
+/// is another number than these words tell.
+
+/// The kept text of a row that has other than as many cells as its words tell.
+/// \param cells 0 for a paragraph without text in a table, ahead of a row that may never end.
+QString unevenRow(int cells, const QString& words);
+
+/// How many cells the row has.
+qsizetype cellsOfRow(const QString& kept);
+
+/// The words that shape the row.
+QStringView wordsOfRow(const QString& kept);
+
+/// What stands for the shape of a cell that ends outside of any row.
+inline constexpr QStringView BareCell = u"\\cell";
+
+} // namespace orvalis::rtf

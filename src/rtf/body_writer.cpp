@@ -81,6 +81,12 @@ void BodyWriter::plain() {
 void BodyWriter::change(const CharFormat& format) {
     if (format == m_format)
         return;
+    if (format.field != NothingKept && format.field != m_format.field) {
+        // Some readers set a field in the look that holds ahead of it.
+        CharFormat ahead = format;
+        ahead.field = NothingKept;
+        change(ahead);
+    }
     changeLink(format.link);
     changeField(format.field);
     const int leftOut = stated::leftOut(format.stated);

@@ -84,8 +84,11 @@ void BodyWriter::openBox(const ParagraphFormat& paragraph) {
 
 /// What ends the last paragraph of a box, if anything does, is part of the frame.
 void BodyWriter::closeBox() {
-    const QString behind = frameOf(names().keptAt(m_box)).behind;
+    QString behind = frameOf(names().keptAt(m_box)).behind;
     tellAfter();
+    // A row has ended by itself, where it is the last one.
+    if (m_rowEnds && behind.startsWith(ParagraphEndsFirst))
+        behind.remove(0, ParagraphEndsFirst.size());
     // Nothing else would tell of a paragraph without text.
     if (m_paragraphEnds && m_paragraphIsEmpty && !behind.startsWith(u"\\par"))
         m_out.word("\\par");

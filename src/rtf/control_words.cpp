@@ -5,6 +5,7 @@
 #include "rtf/formats.h"
 #include "rtf/kept_word_table.h"
 #include "rtf/picture.h"
+#include "rtf/section_columns.h"
 
 #include <algorithm>
 #include <array>
@@ -136,6 +137,9 @@ constexpr ControlWord Words[] = {
     {"ls", Action::ListOverride, 0},
     {"ilvl", Action::ListLevel, 0},
     {"sectd", Action::SectionDefaults, 0},
+    {"colno", Action::SectionColumn, as(ColumnWord::Number)},
+    {"colw", Action::SectionColumn, as(ColumnWord::Width)},
+    {"colsr", Action::SectionColumn, as(ColumnWord::Space)},
     {"chftn", Action::AnchorMark, 0},
     {"chatn", Action::AnchorMark, 0},
 

@@ -68,7 +68,8 @@ enum class Action : quint8 {
     // What is kept as it came
     Keep, ///< value: a packed KeptWord
     SectionDefaults,
-    AnchorMark, ///< stands for the number of a note
+    SectionColumn, ///< value: the ColumnWord
+    AnchorMark,    ///< stands for the number of a note
     // Destinations whose text is none of the document's
     SkipGroup,
     Generator,

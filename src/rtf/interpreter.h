@@ -7,6 +7,7 @@
 #include "rtf/kept_sets.h"
 #include "rtf/list_tables.h"
 #include "rtf/reader.h"
+#include "rtf/section_columns.h"
 #include "rtf/sink.h"
 #include "rtf/stated.h"
 #include "rtf/tokenizer.h"
@@ -193,7 +194,7 @@ private:
     void anchor(const QString& kept);
     QString lookOfMark() const;
     void sectionEnd();
-    QString sectionBreak() const;
+    QString sectionBreak();
     void tellFirstSection();
     QString sectionText() const;
     void tellKept();
@@ -240,6 +241,7 @@ private:
     KeptSets m_kept;
     int m_keptOfSection = 0;
     int m_keptOfDocument = 0;
+    SectionColumns m_columns;
     QString m_sectionGroups;
     QString m_anchorsAtStart;              ///< of the paragraph
     bool m_sectionBegins = false;          ///< with the paragraph, and is not the first one

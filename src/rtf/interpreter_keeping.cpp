@@ -23,7 +23,13 @@ bool isStarred(KeptPlace place) {
 bool Interpreter::keptWord(const Token& token) {
     if (token.word->action == Action::SectionDefaults) {
         m_keptOfSection = 0;
+        m_columns.clear();
         m_state.border = nullptr;
+        return true;
+    }
+    if (token.word->action == Action::SectionColumn) {
+        if (shows())
+            m_columns.take(static_cast<ColumnWord>(token.word->value), token.parameter);
         return true;
     }
     if (token.word->action == Action::AnchorMark) {
@@ -227,20 +233,24 @@ void Interpreter::sectionEnd() {
     m_sectionBegins = true;
 }
 
-QString Interpreter::sectionBreak() const {
+QString Interpreter::sectionBreak() {
+    const QString text = sectionText();
+    m_keptLeft -= text.size();
+    if (m_keptLeft <= 0)
+        m_columns.clear();
     return (m_paragraphBeforeSection ? ParagraphEndsFirst.toString() : QString()) +
-           QStringLiteral("\\sect") + sectionText();
+           QStringLiteral("\\sect") + text;
 }
 
 void Interpreter::tellFirstSection() {
     if (!std::exchange(m_firstSectionTold, true) &&
-        (m_keptOfSection != 0 || !m_sectionGroups.isEmpty()))
+        (m_keptOfSection != 0 || !m_columns.text().isEmpty() || !m_sectionGroups.isEmpty()))
         m_parts.section = sectionText();
 }
 
 QString Interpreter::sectionText() const {
     return QStringLiteral("\\sectd") + m_names.keptAt(m_kept.name(m_keptOfSection)) +
-           m_sectionGroups;
+           m_columns.text() + m_sectionGroups;
 }
 
 void Interpreter::tellKept() {

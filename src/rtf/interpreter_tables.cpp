@@ -98,9 +98,7 @@ int Interpreter::unevenRow(int cells) {
 int Interpreter::rowOfParagraph() {
     if (m_rowEnds)
         return m_cellsOfRow == m_cellCount ? row() : unevenRow(m_cellsOfRow);
-    const bool empty = !m_inParagraph && m_anchorsAtStart.isEmpty();
-    const bool alone = m_boxDepth == 0 && !m_boxEnded && !m_pageBreak && !m_sectionBegins;
-    return empty && alone ? unevenRow(0) : row();
+    return m_inParagraph || !m_anchorsAtStart.isEmpty() ? row() : unevenRow(0);
 }
 
 /// What ends a cell ahead of all rows is none of one, and stays what it is.

@@ -169,6 +169,9 @@ void GroupKeeper::selectFont(const Token& token) {
     m_fallbackToSkip = 0;
     const FontTable::Font* font =
         token.hasParameter ? m_tables.fonts.find(token.parameter) : nullptr;
+    // In a font that is missing some readers show what they show in none other.
+    if (token.hasParameter && !font)
+        m_out.word("\\" + token.bytes.toByteArray(), NoSuchFont);
     if (!font || font->family == NoName)
         return;
     const QString family = m_tables.names.familyAt(font->family);

@@ -16,6 +16,8 @@ class WriterTables;
 
 /// The place of a font's number; of no family, the number of the first font.
 QString keptFont(const QString& family);
+/// The number of a font that the file's table does not have: none of any table.
+inline constexpr int NoSuchFont = 32767;
 /// The place of a colour's number.
 QString keptColor(QRgb color);
 

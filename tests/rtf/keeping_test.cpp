@@ -83,6 +83,17 @@ void KeepingTest::whatIsNotShownIsKept_data() {
     row("language of the document", "\\deflang1031 word\\par", "\\deff0\\deflang1031{");
     row("section", "\\sectd\\sbkpage\\cols2\\colsx708\\titlepg\\headery709 word\\par",
         "\\sectd\\sbkpage\\headery709\\titlepg\\cols2\\colsx708\r\n");
+    row("columns of different widths",
+        "\\sectd\\cols2\\colno1\\colw1200\\colsr300\\colno2\\colw4000 word\\par",
+        "\\sectd\\cols2\\colno1\\colw1200\\colsr300\\colno2\\colw4000\r\n");
+    row("columns of a further section",
+        "\\sectd\\colno1\\colw9 a\\sect\\sectd\\cols2\\colno2\\colw40\\colno1\\colw12 word\\par",
+        "a\\sect\\sectd\\cols2\\colno1\\colw12\\colno2\\colw40\r\n");
+    row("font of a header that the file does not have", "{\\header\\f9 Over it\\par}word\\par",
+        "{\\header\\f32767 Over it\\par}\r\n");
+    row("look ahead of a field",
+        "{\\f2 word }{\\field{\\*\\fldinst DATE}{\\fldrslt\\f0 today}}\\par",
+        "\\f0{\\field{\\*\\fldinst DATE}{\\fldrslt today}}");
     row("page border", "\\sectd\\pgbrdrt\\brdrs\\brdrw10\\brdrcf2 word\\par",
         "\\sectd\\pgbrdrt\\brdrs\\brdrw10\\brdrcf1\r\n");
     row("header", "{\\header\\pard\\qc Over it\\par}word\\par",

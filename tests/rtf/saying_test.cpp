@@ -93,10 +93,10 @@ void SayingTest::whatIsSaidStays_data() {
         "{\\field{\\*\\fldinst PAGEREF x}{\\fldrslt 8}}}} on\\par",
         "deed {\\field{\\*\\fldinst PAGEREF x}{\\fldrslt 8}}}}");
     row("plain text in a field", "{\\field{\\*\\fldinst X}{\\fldrslt{a\\plain  word}}}\\par",
-        "{\\field{\\*\\fldinst X}{\\fldrslt\\f0\\fs24 a deed}}");
+        "\\f0\\fs24{\\field{\\*\\fldinst X}{\\fldrslt a deed}}");
     row("field whose name has a code",
         "{\\field{\\*\\fldinst HYPER\\'01LINK x}{\\fldrslt word}}\\par",
-        "{\\field{\\*\\fldinst HYPER\\'01LINK x}{\\fldrslt\\f0\\fs24 deed}}");
+        "\\f0\\fs24{\\field{\\*\\fldinst HYPER\\'01LINK x}{\\fldrslt deed}}");
     row("field whose name has a code as it is",
         "{\\field{\\*\\fldinst HYPERLINK\x07 x}{\\fldrslt word}}\\par", "deed");
     row("paragraphs in a field", "{\\field{\\*\\fldinst TOC}{\\fldrslt a\\par word}}\\par",

@@ -3,6 +3,7 @@
 #include "rtf/formula_text.h"
 
 #include "rtf/code_page.h"
+#include "rtf/control_words.h"
 #include "rtf/tokenizer.h"
 
 #include <vector>
@@ -13,10 +14,10 @@ namespace {
 
 /// Whether a group of this name is none of the text: the properties of each part stand in a group
 /// that is named for it, and pictures repeat the whole.
-bool hidesText(const Token& head) {
-    const bool isDestination = head.word && head.word->action >= Action::SkipGroup &&
-                               head.word->action != Action::ShapeGroup;
-    return isDestination || head.bytes.endsWith("Pr") || head.bytes == "mmathPict";
+bool isNoPart(const Token& head) {
+    const Action action = head.word ? head.word->action : Action::Version;
+    return hidesText(action) || action == Action::PictureGroup || head.bytes.endsWith("Pr") ||
+           head.bytes == "mmathPict";
 }
 
 class Parts {
@@ -28,7 +29,8 @@ public:
         Token token;
         for (m_tokenizer.next(token); token.kind != TokenKind::End; m_tokenizer.next(token))
             take(token);
-        return m_text;
+        // Halves of characters are none.
+        return QString::fromUtf8(m_text.toUtf8());
     }
 
 private:
@@ -45,7 +47,7 @@ private:
                 m_hidden.pop_back();
             return;
         case TokenKind::Word:
-            if (atStart && hidesText(token))
+            if (atStart && isNoPart(token))
                 m_hidden.back() = true;
             else if (token.word && token.word->action == Action::Unicode)
                 unit(char16_t(token.parameter));

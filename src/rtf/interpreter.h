@@ -181,6 +181,7 @@ private:
     QString listInCell();
     void cellTabs(size_t count);
     void rowEnd(bool outermost);
+    void rowParagraphEnd(bool kept);
 
     // What is kept as it came (interpreter_keeping.cpp)
     bool keptWord(const Token& token);
@@ -244,6 +245,7 @@ private:
     SectionColumns m_columns;
     QString m_sectionGroups;
     QString m_anchorsAtStart;              ///< of the paragraph
+    QString m_anchorsBehindCell;           ///< that ended last
     bool m_sectionBegins = false;          ///< with the paragraph, and is not the first one
     bool m_paragraphBeforeSection = false; ///< it ended by itself, not by the section's end
     bool m_firstSectionTold = false;

@@ -213,7 +213,11 @@ void Interpreter::placeGroup(KeptPlace place, const QString& group) {
 void Interpreter::anchor(const QString& kept) {
     if (kept.isEmpty())
         return;
-    cellTabs(m_cellsEnded.size());
+    // It may stand in the next cell, or between the last one and the end of the row.
+    if (!m_cellsEnded.empty()) {
+        m_anchorsBehindCell += kept;
+        return;
+    }
     if (!m_inParagraph) {
         m_anchorsAtStart += kept;
         return;

@@ -44,6 +44,8 @@ bool Interpreter::rowWord(const Token& token) {
         return true;
     case Action::CellEnd:
         if (shows()) {
+            if (!m_anchorsBehindCell.isEmpty())
+                cellTabs(m_cellsEnded.size());
             m_cellsEnded.push_back(m_state.chars);
             int& cell = m_cellsEnded.back().cell;
             cell = token.word->value == 0 ? cellShape() : NothingKept;
@@ -141,8 +143,7 @@ QString Interpreter::listInCell() {
     const auto label = m_lists.label(m_state.listOverride, m_state.listLevel, false);
     if (m_state.listOverride == NoList || !label || !label->hasTables() || m_keptLeft <= 0)
         return {};
-    const QString list = QStringLiteral("\\ls") + keptList(label->keptList, label->keptOverride) +
-                         QStringLiteral("\\ilvl") + QString::number(label->level);
+    const QString list = listOfCell(*label);
     m_keptLeft -= list.size();
     return list;
 }
@@ -155,6 +156,8 @@ void Interpreter::cellTabs(size_t count) {
         append(u"\t");
     }
     m_state.chars = around;
+    if (count == looks.size())
+        anchor(std::exchange(m_anchorsBehindCell, {}));
 }
 
 void Interpreter::rowEnd(bool outermost) {
@@ -162,8 +165,16 @@ void Interpreter::rowEnd(bool outermost) {
     const bool kept = anyCell && outermost && endsCellOfRow(m_cellsEnded.back().cell);
     if (anyCell)
         cellTabs(m_cellsEnded.size() - 1);
-    if (!anyCell && !m_inParagraph)
-        return;
+    anchor(std::exchange(m_anchorsBehindCell, {}));
+    if (anyCell || m_inParagraph)
+        rowParagraphEnd(kept);
+    if (outermost) {
+        m_inRow = false;
+        m_cellsOfRow = 0;
+    }
+}
+
+void Interpreter::rowParagraphEnd(bool kept) {
     m_rowEnds = kept;
     // What stands between the last cell and the row's end shapes no text.
     const ParagraphFormat behind = m_state.paragraph;

@@ -91,6 +91,11 @@ QString keptList(const QString& list, const QString& listOverride) {
     return place(ListPlace, lists.replace(PlaceStart, InnerStart).replace(PlaceEnd, InnerEnd));
 }
 
+QString listOfCell(const ListLabel& label) {
+    return u"\\ls"_s + keptList(label.keptList, label.keptOverride) + u"\\ilvl"_s +
+           QString::number(label.level);
+}
+
 void writeKept(RtfOutput& out, WriterTables& tables, QStringView kept) {
     while (!kept.isEmpty()) {
         const qsizetype at = kept.indexOf(PlaceStart);

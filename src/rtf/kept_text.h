@@ -9,6 +9,7 @@ namespace orvalis::rtf {
 
 class RtfOutput;
 class WriterTables;
+struct ListLabel;
 
 /// RTF that is kept as it came, in one spelling: 7-bit, text in code page 1252 with \u for the
 /// rest. Fonts and colours stand in it by what they are, each in a place of its own, because the
@@ -23,6 +24,9 @@ QString keptColor(QRgb color);
 
 /// The place of the number of a list of the list tables, told by it and its override.
 QString keptList(const QString& list, const QString& listOverride);
+
+/// The place in a list of a cell, which shows no label.
+QString listOfCell(const ListLabel& label);
 
 /// What stands between the number that a file gave something and what is kept of it.
 inline constexpr QChar NumberEnd(0x3);

@@ -14,6 +14,22 @@ namespace {
 
 constexpr QByteArrayView ShownPicture = "pib"; // the property that holds it
 
+/// Whether a word ends something of the document, or shapes its rows.
+bool endsOrShapes(Action action) {
+    switch (action) {
+    case Action::ParagraphEnd:
+    case Action::SectionEnd:
+    case Action::PageEnd:
+    case Action::CellEnd:
+    case Action::RowEnd:
+    case Action::RowDefaults:
+    case Action::CellRight:
+        return true;
+    default:
+        return false;
+    }
+}
+
 /// Reads the tokens of a shape once, with an eye on its texts and pictures.
 class ShapeTokens {
 public:
@@ -79,6 +95,7 @@ private:
         const Action action = token.word ? token.word->action : Action::Version;
         if (hidesText(action) || (m_starred && !token.word))
             m_groups.back().shown = false;
+        m_loose |= endsOrShapes(action) && shownHere();
         if (action == Action::ShapeText)
             text();
         else if (action == Action::ShapePropertyName)

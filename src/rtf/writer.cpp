@@ -6,6 +6,7 @@
 #include "rtf/body_writer.h"
 #include "rtf/kept_parts.h"
 #include "rtf/kept_row.h"
+#include "rtf/kept_text.h"
 #include "rtf/list_formats.h"
 #include "rtf/list_tables.h"
 #include "rtf/picture_format.h"
@@ -100,21 +101,28 @@ private:
         int count = 0;
         bool empty = true;
         int row = begin.row;
+        bool told = false;
         int end = position;
         for (QTextBlock block = first; block.isValid(); block = block.next()) {
             const ParagraphFormat& line = shape(block);
             if (count > 0 && (line.row == NothingKept || line.rowBegins ||
                               line.section != NothingKept || line.box != begin.box))
                 break;
-            row = line.row;
-            empty = empty && block.length() == 1 && cellsOfRow(m_body.names().keptAt(row)) == 0;
+            // What one paragraph of it has for itself is not told of the whole row.
+            const bool open = cellsOfRow(m_body.names().keptAt(line.row)) == 0;
+            empty = empty && open && block.length() == 1;
+            if (!open || !told)
+                row = line.row;
+            told = told || !open;
             marks += marksIn(block);
             end += block.length();
             ++count;
         }
         m_rowsToldTo = end;
         m_tornIsEmpty = empty;
-        if (marks + 1 != cellsOfRow(m_body.names().keptAt(row)) || end - 1 > m_to)
+        const QString words = wordsOfRow(m_body.names().keptAt(row)).toString();
+        const qsizetype cells = cellsOfRow(told ? m_body.names().keptAt(row) : words);
+        if (empty || marks + 1 != cells || end - 1 > m_to)
             return 0;
         m_rowsToldTo = position;
         m_row = row;
@@ -148,7 +156,7 @@ private:
             torn.inTable = m_tornIsEmpty && m_body.hasRows();
             m_body.beginParagraph(torn, number(block));
         }
-        runs(block, position, [](const QTextFragment&) { return false; });
+        runs(block, position, [](const QTextFragment&, int) { return false; });
     }
 
     /// A line of the document that holds cells of a row.
@@ -163,24 +171,27 @@ private:
         own.rowBegins = false;
         if (std::exchange(own.pageWord, PageWord::OfParagraph) != PageWord::OfParagraph)
             own.pageBreakBefore = false;
+        if (last)
+            leaveOutLabel(own);
         std::vector<int> shapes;
         for (auto it = block.begin(); !it.atEnd(); ++it)
             if (const QTextFragment run = it.fragment(); endsCells(run))
                 shapes.insert(shapes.end(), size_t(run.length()), lookOf(run).cell);
         size_t cell = 0;
-        const auto beginCell = [&] {
+        const auto beginCell = [&](int anchors) {
+            own.anchors = anchors;
             if (cell < shapes.size())
-                m_body.beginCell(shapes[cell++], std::exchange(own.anchors, NothingKept));
+                m_body.beginCell(shapes[cell++], anchors);
             else
-                m_body.beginParagraph(own, number(block));
+                m_body.beginParagraph(own, own.list.kind == ListKind::None ? 0 : number(block));
         };
-        beginCell();
-        runs(block, position, [&](const QTextFragment& run) {
+        beginCell(own.anchors);
+        runs(block, position, [&](const QTextFragment& run, int anchors) {
             if (!endsCells(run))
                 return false;
-            for (int mark = 0; mark < run.length(); ++mark) {
+            for (int mark = 1; mark <= run.length(); ++mark) {
                 m_body.endCell(lookOf(run));
-                beginCell();
+                beginCell(mark == run.length() ? anchors : NothingKept);
             }
             return true;
         });
@@ -188,7 +199,17 @@ private:
             m_body.endRow();
     }
 
-    /// \param takes whether a run has been written otherwise.
+    /// What ends a row is no item of a list any more where that is read.
+    void leaveOutLabel(ParagraphFormat& paragraph) {
+        ListLabel& list = paragraph.list;
+        if (list.kind != ListKind::None && list.hasTables())
+            paragraph.kept =
+                m_body.names().kept(m_body.names().keptAt(paragraph.kept) + listOfCell(list));
+        list = {};
+        paragraph.mark = NothingKept;
+    }
+
+    /// \param takes whether a run has been written otherwise, and what is anchored to it.
     template <class Takes>
     void runs(const QTextBlock& block, int position, const Takes& takes) {
         const QStringView text = textOf(block, position);
@@ -204,8 +225,6 @@ private:
             if (start >= end)
                 continue;
             empty = false;
-            if (takes(fragment))
-                continue;
             CharFormat look = lookOf(fragment);
             if (look.anchors != NothingKept) {
                 if (ends.isEmpty())
@@ -213,6 +232,8 @@ private:
                 if (!anchorsEnd(look.anchors, ends, at))
                     look.anchors = NothingKept;
             }
+            if (takes(fragment, look.anchors))
+                continue;
             if (m_isImage[size_t(fragment.charFormatIndex())]) {
                 const Picture picture =
                     pictureOfFormat(m_document, fragment.charFormat().toImageFormat());

@@ -55,6 +55,11 @@ private slots:
     void aCellAheadOfAllRowsStaysOne();
     void aCellAheadOfAllRowsIsNoneBehindOne();
     void anEmptyParagraphOfATableStaysInIt();
+    void aRowWhoseEmptyParagraphIsJoinedStaysOne();
+    void whatIsAnchoredBehindACellStaysInItsRow();
+    void aRowBehindOneThatIsTextIsARow();
+    void aRowThatNeverEndsHasNoLabelAtItsEnd();
+    void aRowAtTheEndOfABoxStaysTheLast();
     void aTabInACellIsText();
     void aPartOfARowIsText();
     void wholeRowsOfAPartAreATable();
@@ -254,6 +259,70 @@ void TableTest::anEmptyParagraphOfATableStaysInIt() {
     QTextDocument alone;
     QVERIFY(readRtf(file(Row + "\\pard\\intbl\\par\\pard after\\par"), alone).ok());
     QVERIFY2(!written(alone).contains("\\intbl"), written(alone));
+}
+
+void TableTest::whatIsAnchoredBehindACellStaysInItsRow() {
+    QTextDocument document;
+    QVERIFY(readRtf(file(Row +
+                         "\\pard\\intbl one\\cell{\\*\\bkmkstart a}two\\cell{\\*\\bkmkend a}\\row"),
+                    document)
+                .ok());
+    QCOMPARE(document.toPlainText(), QStringLiteral("one\ttwo"));
+    const QByteArray rtf = written(document);
+    QVERIFY2(rtf.contains("one\\cell\r\n\\pard\\intbl{\\*\\bkmkstart a}two"), rtf);
+    QVERIFY2(rtf.contains("two{\\*\\bkmkend a}\\cell\\row"), rtf);
+    QTextDocument empty;
+    QVERIFY(readRtf(file(Row + "\\pard\\intbl\\cell{\\*\\bkmkstart a}\\cell{\\*\\bkmkend a}\\row"),
+                    empty)
+                .ok());
+    QVERIFY2(written(empty).contains("{\\*\\bkmkend a}\\cell\\row"), written(empty));
+}
+
+void TableTest::aRowBehindOneThatIsTextIsARow() {
+    QTextDocument document;
+    QVERIFY(
+        readRtf(file(Row + "\\pard\\intbl a\\cell b\\cell c\\row x\\cell y\\cell\\row"), document)
+            .ok());
+    QCOMPARE(document.toPlainText(), QStringLiteral("a\tb\tc\nx\ty"));
+    const QByteArray rtf = written(document);
+    QVERIFY2(rtf.contains("a\\tab b\\tab c\\par") && rtf.contains("y\\cell\\row"), rtf);
+}
+
+void TableTest::aRowWhoseEmptyParagraphIsJoinedStaysOne() {
+    QTextDocument document;
+    QVERIFY(readRtf(file(Row + "\\pard\\intbl one\\cell two\\par\\par\\cell\\row"), document).ok());
+    QCOMPARE(document.toPlainText(), QStringLiteral("one\ttwo\n\n"));
+    QTextCursor cursor(document.findBlockByNumber(1));
+    cursor.deleteChar();
+    const QByteArray rtf = written(document);
+    QVERIFY2(rtf.contains("\\trowd") && rtf.endsWith("\\cell\\row\r\n}\r\n"), rtf);
+}
+
+void TableTest::aRowThatNeverEndsHasNoLabelAtItsEnd() {
+    QTextDocument document;
+    QVERIFY(readRtf("{\\rtf1{\\*\\listtable{\\list{\\listlevel\\levelnfc0{\\leveltext\\'02\\'00.;}}"
+                    "\\listid1}}{\\*\\listoverridetable{\\listoverride\\listid1\\ls1}}"
+                    "\\trowd\\cellx1000\\pard\\intbl\\ls1 a\\par b\\par\\pard\\ls1 c\\par}",
+                    document)
+                .ok());
+    const QByteArray rtf = written(document);
+    QVERIFY2(rtf.contains("{\\listtext 1.\\tab}") && rtf.contains("\\ls1\\ilvl0 b\\cell\\row"),
+             rtf);
+    QVERIFY2(rtf.contains("{\\listtext 2.\\tab}\\ls1\\ilvl0 c\\par"), rtf);
+}
+
+void TableTest::aRowAtTheEndOfABoxStaysTheLast() {
+    const QByteArray box = "{\\shp{\\*\\shpinst{\\shptxt\\trowd\\cellx900\\pard\\intbl a";
+    for (const QByteArray end : {"\\cell\\row\\par", "\\cell\\row", "\\par"}) {
+        QTextDocument document;
+        QVERIFY(readRtf(file("x" + box + end + "}}}y\\par"), document).ok());
+        const QByteArray rtf = written(document);
+        QVERIFY2(rtf.contains("a\\cell\\row"), rtf);
+    }
+    QTextDocument loose;
+    QVERIFY(
+        readRtf(file("x{\\shp{\\*\\shpinst{\\shptxt a}}{\\cell\\row\\par}}y\\par"), loose).ok());
+    QVERIFY2(!written(loose).contains("shp"), written(loose));
 }
 
 void TableTest::aTabInACellIsText() {

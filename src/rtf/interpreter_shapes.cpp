@@ -56,7 +56,7 @@ void Interpreter::keepFormula() {
         return;
     const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, m_defaultFont};
     const QString kept =
-        GroupKeeper(m_tokenizer.groupAhead(), tables).kept(FormulaHead, m_keptLeft);
+        GroupKeeper(m_tokenizer.groupAhead(), tables).kept("{\\", "mmath", m_keptLeft);
     m_keptLeft -= kept.size();
     if (kept.isEmpty())
         return;

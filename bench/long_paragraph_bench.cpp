@@ -99,8 +99,9 @@ void oneParagraph(const char* what, const QString& piece) {
     RichTextBox box;
     box.SetText(text);
     show(box);
+    // Both show the same letters: marks for control characters are of another font.
     QTextEdit bare;
-    bare.setPlainText(text);
+    bare.setPlainText(box.document()->toRawText());
     show(bare);
     std::printf("one paragraph of 1 MB, %s:\n", what);
 

@@ -308,12 +308,13 @@ constexpr const ControlWord& wordAt(size_t index) {
     return index < std::size(Words) ? Words[index] : KeptWordTable[index - std::size(Words)];
 }
 
-constexpr quint32 SlotCount = 2048;
+constexpr int SlotBits = 11;
+constexpr quint32 SlotCount = 1 << SlotBits;
 constexpr qint16 EmptySlot = -1;
 static_assert(WordCount < SlotCount / 2, "the search ends at an empty slot");
 
 constexpr quint32 slotOf(quint32 hash) {
-    return (hash ^ hash >> 15) & (SlotCount - 1);
+    return hash * 0x9e3779b1u >> (32 - SlotBits);
 }
 
 constexpr auto SlotTable = [] {

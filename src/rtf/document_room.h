@@ -48,6 +48,11 @@ public:
     double heightWithoutRoom(const LetterHeight& letters);
     /// Tells what comes in ahead of the document's own word, which waits for the end of an edit.
     void take(double height) { m_sum += height; }
+    /// The sum, never less than the height that the document has.
+    double sum() const { return m_sum; }
+    /// Sets the sum back at the end of an edit in which all was taken, and of which the document
+    /// has told once more.
+    void setSum(double height) { m_sum = height; }
     /// For changes of which the document tells too little.
     void forget();
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/reader.h"
 
+#include "rtf/document_room.h"
 #include "rtf/document_sink.h"
 #include "rtf/interpreter.h"
 
@@ -69,14 +70,19 @@ ReadResult readRtf(QByteArrayView bytes, QTextDocument& document, const ReadOpti
     const bool undo = document.isUndoRedoEnabled();
     document.setUndoRedoEnabled(false);
     document.clear();
-    DocumentRoom::of(document).forget();
+    DocumentRoom& room = DocumentRoom::of(document);
+    room.forget();
     QTextCursor cursor(&document);
     cursor.beginEditBlock();
     ReadOptions whole = options;
     whole.replacesDocument = true;
     DocumentSink sink(cursor, whole, bytes.size());
     const ReadResult result = readInto(bytes, sink, options.progress);
+    // All that came has been counted; told of it again, the room would have to count the whole
+    // document at the first key.
+    const double counted = room.sum();
     cursor.endEditBlock();
+    room.setSum(counted);
     // Only now is it known how the lines of long words are to be broken; to set the tabs lays the
     // document out.
     QTextOption option = document.defaultTextOption();

@@ -51,6 +51,7 @@ class DocumentRoomTest : public QObject {
 private slots:
     void noDocumentIsHigherThanWasTold_data();
     void noDocumentIsHigherThanWasTold();
+    void whatIsReadCountsOnce();
     void ordinaryTextIsToldAsHighAsItBecomes_data();
     void ordinaryTextIsToldAsHighAsItBecomes();
     void noFontOfOrdinaryTextIsHigherThanWasTold_data();
@@ -121,6 +122,16 @@ void DocumentRoomTest::noDocumentIsHigherThanWasTold() {
     const double told = documentHeight(document);
     const double height = laidOutHeight(document);
     QVERIFY2(height <= 1.25 * told, qPrintable(QStringLiteral("%1 of %2").arg(height).arg(told)));
+}
+
+void DocumentRoomTest::whatIsReadCountsOnce() {
+    QTextDocument document;
+    document.documentLayout();
+    QVERIFY(readRtf(repeated("Some words of a letter.\\par ", 2000), document).ok());
+    const double taken = MostHeight - DocumentRoom::of(document).heightLeft(1);
+    const double told = documentHeight(document);
+    QVERIFY2(taken >= told && taken <= 1.1 * told,
+             qPrintable(QStringLiteral("%1 of %2").arg(taken).arg(told)));
 }
 
 void DocumentRoomTest::ordinaryTextIsToldAsHighAsItBecomes_data() {

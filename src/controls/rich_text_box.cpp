@@ -5,6 +5,7 @@
 #include "controls/control_marks.h"
 #include "controls/document_reading.h"
 #include "controls/selection_format.h"
+#include "controls/sign_fonts.h"
 #include "controls/text_positions.h"
 #include "controls/text_search.h"
 #include "rtf/document_room.h"
@@ -47,6 +48,7 @@ RichTextBox::RichTextBox(QWidget* parent)
     , m_positions(std::make_unique<TextPositions>(*document()))
     , m_undoKinds(std::make_unique<UndoKinds>()) {
     rtf::DocumentRoom::of(*document());
+    [[maybe_unused]] static const bool signsShow = (showSignsInFontsOfLetters(), true);
     for (QScrollBar* bar : {verticalScrollBar(), horizontalScrollBar()})
         bar->setContextMenuPolicy(Qt::PreventContextMenu);
     connect(document(), &QTextDocument::contentsChange, this, &RichTextBox::takeChange);

@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
+#include "controls/format_range.h"
 #include "controls/rich_text_box.h"
 #include "support/test_main.h"
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QPainter>
 
 using namespace orvalis;
 using namespace Qt::StringLiterals;
@@ -14,6 +16,7 @@ class SignTypingTest : public QObject {
 private slots:
     void lettersTypedInAFontOfSignsAreTheSigns_data();
     void lettersTypedInAFontOfSignsAreTheSigns();
+    void signsAreSeen();
     void signsAreWrittenInTheirFontByTheirCode();
     void lettersOfOtherFontsStay();
     void blanksAndCodesWithoutASignStay();
@@ -39,6 +42,32 @@ void SignTypingTest::lettersTypedInAFontOfSignsAreTheSigns() {
     QTest::keyClicks(&box, typed);
     QCOMPARE(box.Text(), shown);
     QCOMPARE(box.SelStart(), int(shown.size()));
+}
+
+void SignTypingTest::signsAreSeen() {
+    RichTextBox box;
+    box.SetSelFontName(u"Symbol"_s);
+    box.SetSelFontSize(40);
+    QTest::keyClicks(&box, u"abSG"_s);
+    const auto columnsWithInk = [&] {
+        QImage image(400, 100, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        RangeFormatter(box).FormatPage({&painter, &image, QRectF(0, 0, 6000, 1500), 0, -1});
+        painter.end();
+        int columns = 0;
+        for (int x = 0; x < image.width(); ++x)
+            for (int y = 0; y < image.height(); ++y)
+                if (image.pixel(x, y) != qRgb(255, 255, 255)) {
+                    ++columns;
+                    break;
+                }
+        return columns;
+    };
+    const int signs = columnsWithInk();
+    box.SetText(u"\u03b1"_s);
+    QVERIFY(columnsWithInk() > 5);
+    QVERIFY(signs > 3 * columnsWithInk());
 }
 
 void SignTypingTest::signsAreWrittenInTheirFontByTheirCode() {

@@ -5,6 +5,7 @@
 #include "controls/format_range.h"
 #include "controls/rich_text_box.h"
 
+#include <QFont>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
@@ -161,6 +162,8 @@ bool widensBlanks(const QByteArray& text) {
 void printOwnPages(const QByteArray& rtf, const QString& path, bool wideBlanks,
                    const QString& family) {
     RichTextBox box;
+    // LibreOffice takes what the system has in place of that font, whether it has the signs or not.
+    QFont::removeSubstitutions(u"Symbol"_s);
     box.SetFontName(family);
     box.SetTextRTF(rtf);
     if (wideBlanks)

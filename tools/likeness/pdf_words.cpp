@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -94,6 +95,27 @@ void joinAlongLines(QList<Piece>& pieces) {
     pieces.removeIf([](const Piece& piece) { return piece.word.text.isEmpty(); });
 }
 
+/// The number of a list item that reaches up to its text is one word with it, which it is in PDFs
+/// that have the two in order.
+void joinNumbers(QList<Piece>& pieces) {
+    constexpr double Close = 0.7; // points
+    static const QRegularExpression number(u"^[0-9]+([.][0-9]+)*[.)]$"_s);
+    for (Piece& piece : pieces) {
+        if (!number.match(piece.word.text).hasMatch())
+            continue;
+        for (Piece& next : pieces) {
+            const QPointF between = next.word.corner - QPointF(piece.right, piece.word.corner.y());
+            if (next.word.page != piece.word.page || std::abs(between.y()) > OneLine ||
+                std::abs(between.x()) > Close || next.word.text.isEmpty())
+                continue;
+            piece.word.text += std::exchange(next.word.text, {});
+            piece.right = next.right;
+            break;
+        }
+    }
+    pieces.removeIf([](const Piece& piece) { return piece.word.text.isEmpty(); });
+}
+
 void readPlaces(const QByteArray& xml, PdfText& text) {
     static const QRegularExpression rare(
         u"[\\x{900}-\\x{109f}\\x{1780}-\\x{17ff}\\x{2e80}-\\x{d7ff}\\x{f900}-\\x{faff}"
@@ -117,6 +139,7 @@ void readPlaces(const QByteArray& xml, PdfText& text) {
         }
     }
     joinAlongLines(pieces);
+    joinNumbers(pieces);
     for (Piece& piece : pieces) {
         piece.word.isRare = rare.match(piece.word.text).hasMatch();
         // Ligatures are drawn as one sign by the one, as letters by the other; letters with marks

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "controls/sign_fonts.h"
+
+#include <QFont>
+
+using namespace Qt::StringLiterals;
+
+namespace orvalis {
+
+void showSignsInFontsOfLetters() {
+    // A family counts only under a name that is installed.
+    QFont::insertSubstitutions(u"Symbol"_s, {u"Times New Roman"_s, u"Liberation Serif"_s,
+                                             u"DejaVu Serif"_s, u"DejaVu Sans"_s});
+}
+
+} // namespace orvalis

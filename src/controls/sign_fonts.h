@@ -1,0 +1,12 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace orvalis {
+
+/// Has text in the Symbol font shown in a font of letters that has its signs. What systems have in
+/// place of that font often has them at codes of its own alone, and shows nothing for the
+/// characters that they are.
+void showSignsInFontsOfLetters();
+
+} // namespace orvalis

@@ -4,6 +4,7 @@
 
 #include "rtf/format_properties.h"
 #include "rtf/format_readers.h"
+#include "rtf/kept_row.h"
 #include "rtf/kept_text.h"
 #include "rtf/list_formats.h"
 #include "rtf/paragraph_place.h"
@@ -67,6 +68,10 @@ void setKept(QTextBlockFormat& block, const ParagraphFormat& format, const Names
         block.setProperty(TableRow, names.keptAt(format.row));
         if (format.rowBegins)
             block.setProperty(RowBegins, true);
+        if (format.nesting != 0)
+            block.setProperty(TableNesting, format.nesting);
+        if (format.nestedRow != NothingKept)
+            block.setProperty(NestedRow, names.keptAt(format.nestedRow));
     }
     if (format.afterAhead != NoLength)
         block.setProperty(SpaceAfterAhead, format.afterAhead);
@@ -153,6 +158,8 @@ ParagraphFormat paragraphFormat(const QTextBlockFormat& format, const QTextList*
     result.kept = names.kept(format.stringProperty(KeptOfParagraph));
     result.row = names.kept(format.stringProperty(TableRow));
     result.rowBegins = format.boolProperty(RowBegins);
+    result.nesting = std::clamp(format.intProperty(TableNesting), 0, MostNesting);
+    result.nestedRow = names.kept(format.stringProperty(NestedRow));
     if (list)
         result.mark = names.kept(format.stringProperty(ParagraphMark));
     result.stated = format.intProperty(StatedOfParagraph);

@@ -304,6 +304,8 @@ QByteArray BodyWriter::file(int defaultTab, const KeptParts& parts) {
     const QByteArray styles = kept(parts.styles);
     const QByteArray head =
         kept(parts.info) + kept(parts.words) + kept(parts.notes) + kept(parts.section);
+    RtfOutput furtherDefaults;
+    writeKept(furtherDefaults, m_tables, parts.furtherDefaults);
     RtfOutput out;
     out.reserve(m_out.bytes().size() + 1024);
     out.structure("{\\rtf1\\ansi\\ansicpg1252");
@@ -311,6 +313,7 @@ QByteArray BodyWriter::file(int defaultTab, const KeptParts& parts) {
         out.word("\\deff", m_tables.unusedFont());
     else if (parts.defaultFont != DefaultFont::Unsaid)
         out.structure("\\deff0");
+    out.structure(furtherDefaults.bytes());
     out.word("\\deflang", parts.language);
     if (defaultTab != FactoryTab && defaultTab > 0)
         out.word("\\deftab", defaultTab);

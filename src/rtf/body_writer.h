@@ -52,6 +52,8 @@ public:
     /// \param anchors what is kept ahead of its first character.
     void beginCell(int shape, int anchors);
     void endCell(const CharFormat& look);
+    /// The last cell of a row of a table in a cell, and the row.
+    void endNestedRow(int row);
     void endRow();
     /// Whether a row has been begun.
     bool hasRows() const { return m_anyRow; }

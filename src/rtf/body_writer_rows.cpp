@@ -30,7 +30,17 @@ void BodyWriter::endCell(const CharFormat& look) {
     unlinked.link = NoName;
     unlinked.field = NothingKept;
     change(unlinked);
-    m_out.structure("\\cell\r\n");
+    const bool nested = nestingOfCell(names().keptAt(look.cell)) != 0;
+    m_out.structure(nested ? "\\nestcell\r\n" : "\\cell\r\n");
+}
+
+void BodyWriter::endNestedRow(int row) {
+    m_paragraphEnds = false;
+    m_mark = NothingKept;
+    m_out.structure("\\nestcell");
+    m_out.structure(kept(groupOfNestedRow(names().keptAt(row))).trimmed());
+    m_out.structure("{\\nonesttables\\par}\r\n");
+    m_paragraphs.forget();
 }
 
 /// What ends a cell ahead of all rows is told as that; behind one it would be of a row.

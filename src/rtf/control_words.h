@@ -16,6 +16,7 @@ enum class Action : quint8 {
     AnsiCodePage,
     FixedCodePage, ///< value: the page
     DefaultFont,
+    FurtherDefaultFont, ///< value: which of FurtherDefaultFonts
     DefaultTab,
     DefaultLanguage,
     // Text
@@ -30,6 +31,7 @@ enum class Action : quint8 {
     RowDefaults,
     CellRight,
     InTable,
+    TableNesting,
     Binary,
     // Characters
     PlainCharacters,

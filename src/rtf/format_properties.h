@@ -101,6 +101,13 @@ enum FormatProperty : int {
     PictureFrame,
     /// Of a block format: the row begins with the paragraph (bool).
     RowBegins,
+    /// Of such a format: how deep the table is nested that the paragraph is of (int, 2 and more; of
+    /// the row's own when absent).
+    TableNesting,
+    /// Of such a format: a row of a nested table ends with the paragraph, or with the last one of
+    /// several with one value (QString, its number, U+0003, how many cells it has, U+0003 and the
+    /// group that shapes it).
+    NestedRow,
     /// Of a character format: the field that shows the text (QString, its number, U+0003 and its
     /// instruction as it is kept). Adjoining runs of one value are one field. Of a field that its
     /// instruction alone shows, U+0003 and the text follow: where that is changed, the field is not

@@ -182,13 +182,15 @@ struct ParagraphFormat {
     int anchors = NothingKept; ///< what is kept ahead of its first character
     int row = NothingKept;     ///< of the table that the paragraph's cells are of
     bool rowBegins = false;    ///< with the paragraph
-    int mark = NothingKept;    ///< of a list item: its mark's look, where its text has another
-    bool inTable = false;      ///< the paragraph is written as one of a cell
-    int section = NothingKept; ///< what the file says of the section that begins here
-    int box = NothingKept;     ///< the text box that the paragraph stands in
-    bool boxAhead = false;     ///< of the paragraph that follows, and not behind the text ahead
-    bool goesOn = false;       ///< behind a box, with the paragraph that the box stands in
-    int stated = 0;            ///< what the file says, as in CharFormat
+    int nesting = 0; ///< how deep the table in a cell is that the paragraph is of, 0 for none
+    int nestedRow = NothingKept; ///< of that table, which ends with the paragraph
+    int mark = NothingKept;      ///< of a list item: its mark's look, where its text has another
+    bool inTable = false;        ///< the paragraph is written as one of a cell
+    int section = NothingKept;   ///< what the file says of the section that begins here
+    int box = NothingKept;       ///< the text box that the paragraph stands in
+    bool boxAhead = false;       ///< of the paragraph that follows, and not behind the text ahead
+    bool goesOn = false;         ///< behind a box, with the paragraph that the box stands in
+    int stated = 0;              ///< what the file says, as in CharFormat
     QList<TabStop> tabs;
     ListLabel list;
 

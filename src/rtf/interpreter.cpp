@@ -31,6 +31,7 @@ Interpreter::Interpreter(QByteArrayView bytes, Sink& sink, const Progress& progr
     , m_kept(m_names)
     , m_keptLeft(KeptShare * bytes.size() + KeptGround) {
     m_state.page = m_documentPage;
+    m_furtherDefaults.fill(NoName);
     knowWhatIsStated();
 }
 

@@ -4,6 +4,7 @@
 
 #include "rtf/font_table.h"
 #include "rtf/kept_group.h"
+#include "rtf/kept_row.h"
 #include "rtf/kept_sets.h"
 #include "rtf/list_tables.h"
 #include "rtf/reader.h"
@@ -14,6 +15,7 @@
 
 #include <QList>
 
+#include <array>
 #include <vector>
 
 namespace orvalis::rtf {
@@ -176,12 +178,14 @@ private:
     int unevenRow(int cells);
     int rowOfParagraph();
     bool endsCellOfRow(int cell) const { return cell != NothingKept && cell != m_bareCell; }
-    int cellShape();
+    int cellShape(bool nested);
     int bareCell();
     QString listInCell();
     void cellTabs(size_t count);
     void rowEnd(bool outermost);
-    void rowParagraphEnd(bool kept);
+    void keepNestedRow();
+    int endedNestedRow();
+    void rowParagraphEnd(bool kept, bool outermost);
 
     // What is kept as it came (interpreter_keeping.cpp)
     bool keptWord(const Token& token);
@@ -198,6 +202,7 @@ private:
     QString sectionBreak();
     void tellFirstSection();
     QString sectionText() const;
+    QString furtherDefaults() const;
     void tellKept();
 
     // Shapes (interpreter_shapes.cpp)
@@ -232,7 +237,8 @@ private:
     size_t m_fontEntryDepth = 0; ///< of the groups, where the entry of the font table began
     int m_defaultFont = 0;
     bool m_defaultFontSaid = false;
-    int m_countedOfCharacters = 0; ///< what counts of what is stated
+    std::array<int, 5> m_furtherDefaults; ///< numbers of fonts by what they are of, or NoName
+    int m_countedOfCharacters = 0;        ///< what counts of what is stated
     int m_countedOfParagraphs = 0;
     bool m_nameless = true;
     QList<QRgb> m_colors;
@@ -269,7 +275,11 @@ private:
     QString m_cells; ///< of the row, as they are kept
     int m_cellCount = 0;
     int m_row = NothingKept;
-    int m_cellsOfRow = 0; ///< that have ended
+    int m_cellsOfRow = 0;                               ///< that have ended
+    std::array<int, MostNesting + 1> m_cellsOfNested{}; ///< the same, by their nesting
+    QString m_nestedGroup;                              ///< what shapes the nested row that ends
+    int m_nestedRow = NothingKept;                      ///< that ends with the paragraph
+    int m_nestedRows = 0;
     struct Uneven {
         int row = NothingKept;
         int cells = 0;

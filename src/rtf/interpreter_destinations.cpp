@@ -100,7 +100,7 @@ bool Interpreter::destinationWord(const Token& token) {
         m_state.indexEntry = true;
         return true;
     case Action::NestedTable:
-        m_state.nested = true;
+        keepNestedRow();
         return true;
     case Action::FieldInstruction:
         openInBody(Destination::FieldInstruction);
@@ -280,6 +280,9 @@ bool Interpreter::tableWord(const Token& token) {
         m_defaultFontSaid = true;
         knowWhatIsStated();
         selectFont();
+        return true;
+    case Action::FurtherDefaultFont:
+        m_furtherDefaults[size_t(token.word->value)] = number;
         return true;
     case Action::DefaultTab:
         if (number > 0)

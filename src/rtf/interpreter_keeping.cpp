@@ -257,9 +257,22 @@ QString Interpreter::sectionText() const {
            m_columns.text() + m_sectionGroups;
 }
 
+/// The fonts of text in other scripts, and of styles, that names none.
+QString Interpreter::furtherDefaults() const {
+    constexpr std::array Words = {"adeff", "stshfdbch", "stshfloch", "stshfhich", "stshfbi"};
+    QString text;
+    for (size_t i = 0; i < Words.size(); ++i) {
+        const FontTable::Font* font = m_fonts.find(m_furtherDefaults[i]);
+        if (m_furtherDefaults[i] != NoName && font && font->family != NoName)
+            text += u'\\' + QLatin1StringView(Words[i]) + keptFont(m_names.familyAt(font->family));
+    }
+    return text;
+}
+
 void Interpreter::tellKept() {
     tellFirstSection();
     m_parts.words = m_names.keptAt(m_kept.name(m_keptOfDocument));
+    m_parts.furtherDefaults = furtherDefaults();
     m_parts.nameless = m_nameless;
     m_parts.defaultFont = defaultFont();
     m_parts.oddFamilies = m_fonts.oddFamilies(m_names);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "rtf/interpreter.h"
-#include "rtf/kept_row.h"
+#include "rtf/kept_group.h"
 #include "rtf/kept_text.h"
 #include "rtf/paragraph_writer.h"
 #include "rtf/rtf_output.h"
@@ -42,14 +42,19 @@ bool Interpreter::rowWord(const Token& token) {
     case Action::InTable:
         m_state.inTable = true;
         return true;
+    case Action::TableNesting:
+        m_state.paragraph.nesting =
+            token.parameter >= 2 && token.parameter <= MostNesting ? token.parameter : 0;
+        return true;
     case Action::CellEnd:
         if (shows()) {
             if (!m_anchorsBehindCell.isEmpty())
                 cellTabs(m_cellsEnded.size());
             m_cellsEnded.push_back(m_state.chars);
-            int& cell = m_cellsEnded.back().cell;
-            cell = token.word->value == 0 ? cellShape() : NothingKept;
-            m_cellsOfRow += endsCellOfRow(cell) ? 1 : 0;
+            const bool nested = token.word->value != 0;
+            const int cell = m_cellsEnded.back().cell = cellShape(nested);
+            if (endsCellOfRow(cell))
+                ++(nested ? m_cellsOfNested[size_t(m_state.paragraph.nesting)] : m_cellsOfRow);
         }
         return true;
     case Action::RowEnd:
@@ -115,10 +120,14 @@ int Interpreter::bareCell() {
 
 /// How the paragraph is shaped that a cell ends with: a line of the document holds all cells of a
 /// row, and has one shape.
-int Interpreter::cellShape() {
+int Interpreter::cellShape(bool nested) {
+    if (nested && (row() == NothingKept || m_state.paragraph.nesting == 0))
+        return NothingKept;
     if (row() == NothingKept)
         return bareCell();
     ParagraphFormat shaped = m_state.paragraph;
+    if (!nested)
+        shaped.nesting = 0;
     const QString list = listInCell();
     shaped.kept = m_names.kept(m_names.keptAt(shaped.kept) + list);
     m_lastOfCell = shaped;
@@ -128,6 +137,8 @@ int Interpreter::cellShape() {
         return m_cellShape;
     RtfOutput shape;
     shape.word("\\pard\\intbl");
+    if (nested)
+        shape.word("\\itap", shaped.nesting);
     const QByteArray kept = m_names.keptAt(shaped.kept).toUtf8();
     if (!kept.isEmpty())
         shape.word(kept);
@@ -162,20 +173,25 @@ void Interpreter::cellTabs(size_t count) {
 
 void Interpreter::rowEnd(bool outermost) {
     const bool anyCell = !m_cellsEnded.empty();
-    const bool kept = anyCell && outermost && endsCellOfRow(m_cellsEnded.back().cell);
+    const bool complete = anyCell && endsCellOfRow(m_cellsEnded.back().cell) &&
+                          (m_lastOfCell.nesting == 0) == outermost;
+    m_nestedRow = complete && !outermost ? endedNestedRow() : NothingKept;
+    const bool kept = complete && (outermost || m_nestedRow != NothingKept);
     if (anyCell)
         cellTabs(m_cellsEnded.size() - 1);
     anchor(std::exchange(m_anchorsBehindCell, {}));
     if (anyCell || m_inParagraph)
-        rowParagraphEnd(kept);
+        rowParagraphEnd(kept, outermost);
+    m_nestedRow = NothingKept;
     if (outermost) {
         m_inRow = false;
         m_cellsOfRow = 0;
+        m_cellsOfNested.fill(0);
     }
 }
 
-void Interpreter::rowParagraphEnd(bool kept) {
-    m_rowEnds = kept;
+void Interpreter::rowParagraphEnd(bool kept, bool outermost) {
+    m_rowEnds = kept && outermost;
     // What stands between the last cell and the row's end shapes no text.
     const ParagraphFormat behind = m_state.paragraph;
     const int list = m_state.listOverride;
@@ -186,6 +202,25 @@ void Interpreter::rowParagraphEnd(bool kept) {
     paragraphEnd();
     m_state.paragraph = behind;
     m_state.listOverride = list;
+}
+
+/// What shapes a row of a table in a cell stands in a group of its own, in which the row ends.
+void Interpreter::keepNestedRow() {
+    if (std::exchange(m_state.nested, true) || !shows())
+        return;
+    const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, m_defaultFont};
+    m_nestedGroup =
+        GroupKeeper(m_tokenizer.groupAhead(), tables).kept("{\\*\\", "nesttableprops", m_keptLeft);
+    m_keptLeft -= m_nestedGroup.size();
+}
+
+int Interpreter::endedNestedRow() {
+    constexpr int MostNestedRows = 4096; // each makes a format of its own
+    const QString group = std::exchange(m_nestedGroup, {});
+    const int cells = std::exchange(m_cellsOfNested[size_t(m_lastOfCell.nesting)], 0);
+    if (!m_state.nested || group.isEmpty() || m_nestedRows >= MostNestedRows)
+        return NothingKept;
+    return m_names.kept(nestedRow(++m_nestedRows, cells, group));
 }
 
 } // namespace orvalis::rtf

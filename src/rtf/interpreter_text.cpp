@@ -313,6 +313,7 @@ const ParagraphFormat& Interpreter::shapedParagraph() {
     }
     if (ofRow) {
         m_shaped.row = rowOfParagraph();
+        m_shaped.nestedRow = m_nestedRow;
         m_shaped.rowBegins = !m_inRow;
     }
     m_shaped.anchors = m_names.kept(m_anchorsAtStart);

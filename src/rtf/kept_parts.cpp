@@ -42,6 +42,8 @@ void clearKept(QTextBlockFormat& format) {
     format.clearProperty(KeptAtStart);
     format.clearProperty(TableRow);
     format.clearProperty(RowBegins);
+    format.clearProperty(TableNesting);
+    format.clearProperty(NestedRow);
     format.clearProperty(KeptBox);
     format.clearProperty(SpaceAfterAhead);
     format.clearProperty(GoesOnBehindBox);

@@ -157,6 +157,8 @@ void ParagraphWriter::numberingText(QByteArrayView group, const QString& text) {
 void ParagraphWriter::shape(const ParagraphFormat& paragraph) {
     if (paragraph.inTable)
         m_out.word("\\intbl");
+    if (paragraph.inTable && paragraph.nesting != 0)
+        m_out.word("\\itap", paragraph.nesting);
     writeKept(m_out, m_tables, m_tables.names().keptAt(paragraph.kept));
     geometry(paragraph);
 }

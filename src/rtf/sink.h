@@ -25,6 +25,7 @@ enum class DefaultFont : quint8 {
 struct KeptParts {
     int language = UsualLanguage; ///< of text that names none, by Windows' numbers
     QString styles;
+    QString furtherDefaults; ///< fonts of text that names none, beside the one of unnamedFamily
     QString info;
     QString words;
     QString notes;         ///< what stands between text and footnotes

@@ -5,11 +5,11 @@
 #include "rtf/block_formats.h"
 #include "rtf/body_writer.h"
 #include "rtf/kept_parts.h"
-#include "rtf/kept_row.h"
 #include "rtf/kept_text.h"
 #include "rtf/list_formats.h"
 #include "rtf/list_tables.h"
 #include "rtf/picture_format.h"
+#include "rtf/row_scan.h"
 #include "rtf/stated.h"
 #include "rtf/text_formats.h"
 
@@ -20,6 +20,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -61,7 +62,7 @@ public:
                 if (rows == 0)
                     paragraph(block, position);
                 else
-                    rowLine(block, position, line == 0, line == rows - 1);
+                    rowLine(block, position, line);
                 position += block.length();
             }
         }
@@ -83,6 +84,7 @@ private:
         KeptParts ofPart;
         ofPart.language = parts.language;
         ofPart.styles = parts.styles;
+        ofPart.furtherDefaults = parts.furtherDefaults;
         ofPart.defaultFont = parts.defaultFont;
         ofPart.unnamedFamily = parts.unnamedFamily;
         ofPart.oddFamilies = parts.oddFamilies;
@@ -97,50 +99,43 @@ private:
         const ParagraphFormat begin = shape(first);
         if (begin.row == NothingKept || !begin.rowBegins || position < m_from)
             return 0;
-        int marks = 0;
-        int count = 0;
-        bool empty = true;
-        int row = begin.row;
-        bool told = false;
+        RowScan scan(m_body.names());
         int end = position;
         for (QTextBlock block = first; block.isValid(); block = block.next()) {
             const ParagraphFormat& line = shape(block);
-            if (count > 0 && (line.row == NothingKept || line.rowBegins ||
-                              line.section != NothingKept || line.box != begin.box))
+            if (scan.lines() > 0 && (line.row == NothingKept || line.rowBegins ||
+                                     line.section != NothingKept || line.box != begin.box))
                 break;
-            // What one paragraph of it has for itself is not told of the whole row.
-            const bool open = cellsOfRow(m_body.names().keptAt(line.row)) == 0;
-            empty = empty && open && block.length() == 1;
-            if (!open || !told)
-                row = line.row;
-            told = told || !open;
-            marks += marksIn(block);
+            scan.line(line, block.length() == 1);
+            for (auto it = block.begin(); !it.atEnd(); ++it)
+                if (const QTextFragment run = it.fragment(); endsCells(run))
+                    scan.cellsEnd(nestingOf(run), run.length());
             end += block.length();
-            ++count;
         }
+        scan.end();
         m_rowsToldTo = end;
-        m_tornIsEmpty = empty;
-        const QString words = wordsOfRow(m_body.names().keptAt(row)).toString();
-        const qsizetype cells = cellsOfRow(told ? m_body.names().keptAt(row) : words);
-        if (empty || marks + 1 != cells || end - 1 > m_to)
+        m_tornIsEmpty = scan.isEmpty();
+        if (!scan.isWhole() || end - 1 > m_to)
             return 0;
         m_rowsToldTo = position;
-        m_row = row;
-        return count;
-    }
-
-    int marksIn(const QTextBlock& block) {
-        int marks = 0;
-        for (auto it = block.begin(); !it.atEnd(); ++it)
-            if (const QTextFragment run = it.fragment(); endsCells(run))
-                marks += run.length();
-        return marks;
+        m_row.emplace(std::move(scan));
+        return int(m_row->lines());
     }
 
     /// Whether the run is tabs that end cells.
     bool endsCells(const QTextFragment& run) {
         const int cell = lookOf(run).cell;
         return cell != NothingKept && cell != m_bareCell && run.text().count(u'\t') == run.length();
+    }
+
+    /// How deep the table is nested whose cells end with the run.
+    int nestingOf(const QTextFragment& run) {
+        return nestingOfCell(m_body.names().keptAt(lookOf(run).cell));
+    }
+
+    /// Whether the run is tabs that are told as the ends of cells, as all of their table is there.
+    bool endsToldCells(const QTextFragment& run) {
+        return endsCells(run) && (m_row->nestedAreWhole() || nestingOf(run) == 0);
     }
 
     // Positions are counted along the way: a block and a fragment find theirs only by a search.
@@ -152,6 +147,8 @@ private:
             ParagraphFormat torn = own;
             torn.row = NothingKept;
             torn.rowBegins = false;
+            torn.nesting = 0;
+            torn.nestedRow = NothingKept;
             // Some readers leave out what stands between the rows of a table.
             torn.inTable = m_tornIsEmpty && m_body.hasRows();
             m_body.beginParagraph(torn, number(block));
@@ -160,22 +157,28 @@ private:
     }
 
     /// A line of the document that holds cells of a row.
-    void rowLine(const QTextBlock& block, int position, bool first, bool last) {
+    void rowLine(const QTextBlock& block, int position, int line) {
+        const bool last = line == m_row->lines() - 1;
+        const bool nests = m_row->nestedAreWhole() && !last;
+        const bool endsNested = nests && m_row->endsNested(line);
         ParagraphFormat own = shape(block);
         own.inTable = true;
-        if (first)
-            m_body.beginRow(m_row, own);
+        const int nestedRow = std::exchange(own.nestedRow, NothingKept);
+        if (!nests)
+            own.nesting = 0;
+        if (line == 0)
+            m_body.beginRow(m_row->row(), own);
         // What holds for the whole row is told by now.
         own.section = NothingKept;
         own.row = NothingKept;
         own.rowBegins = false;
         if (std::exchange(own.pageWord, PageWord::OfParagraph) != PageWord::OfParagraph)
             own.pageBreakBefore = false;
-        if (last)
+        if (last || endsNested)
             leaveOutLabel(own);
         std::vector<int> shapes;
         for (auto it = block.begin(); !it.atEnd(); ++it)
-            if (const QTextFragment run = it.fragment(); endsCells(run))
+            if (const QTextFragment run = it.fragment(); endsToldCells(run))
                 shapes.insert(shapes.end(), size_t(run.length()), lookOf(run).cell);
         size_t cell = 0;
         const auto beginCell = [&](int anchors) {
@@ -187,7 +190,7 @@ private:
         };
         beginCell(own.anchors);
         runs(block, position, [&](const QTextFragment& run, int anchors) {
-            if (!endsCells(run))
+            if (!endsToldCells(run))
                 return false;
             for (int mark = 1; mark <= run.length(); ++mark) {
                 m_body.endCell(lookOf(run));
@@ -197,6 +200,8 @@ private:
         });
         if (last)
             m_body.endRow();
+        else if (endsNested)
+            m_body.endNestedRow(nestedRow);
     }
 
     /// What ends a row is no item of a list any more where that is read.
@@ -362,7 +367,7 @@ private:
     int m_rowsToldTo = 0; ///< torn rows reach up to there
     bool m_tornIsEmpty = false;
     int m_bareCell = NothingKept;
-    int m_row = NothingKept;                           ///< what is kept of the row that is written
+    std::optional<RowScan> m_row;                      ///< that is written
     std::unordered_map<int, ParagraphFormat> m_shapes; ///< by the index of the format
     QHash<const QTextList*, int> m_items;
     QHash<const QTextList*, bool> m_toldByText; ///< of lists that the file tells so

@@ -147,6 +147,17 @@ void KeepingTest::whatIsNotShownIsKept_data() {
         "{\\*\\userprops{\\propname Who}\\proptype30{\\staticval me}}"
         "word\\par",
         "{\\*\\userprops{\\propname Who}\\proptype30{\\staticval me}}\r\n");
+    row("theme and other data",
+        "word\\par{\\*\\themedata 504b0304}{\\*\\colorschememapping 3c3f}"
+        "{\\*\\latentstyles\\lsdstimax267{\\lsdlockedexcept\\lsdqformat1 Normal;}}"
+        "{\\*\\datastore 0105}",
+        "{\\*\\themedata 504b0304}{\\*\\colorschememapping 3c3f}{\\*\\latentstyles\\lsdstimax267"
+        "{\\lsdlockedexcept\\lsdqformat1 Normal;}}{\\*\\datastore 0105}\r\n");
+    row("background of the page",
+        "{\\*\\background{\\shp{\\*\\shpinst{\\sp{\\sn fillColor}{\\sv 255}}}}}word\\par",
+        "{\\*\\background{\\shp{\\*\\shpinst{\\sp{\\sn fillColor}{\\sv 255}}}}}\r\n");
+    row("default fonts of styles and other scripts", "\\adeff2\\stshfdbch1\\stshfloch0 word\\par",
+        "\\deff0\\adeff1\\stshfdbch2\\stshfloch0\\deflang1033{");
     row("styles", "{\\stylesheet{\\s0\\f0 Normal;}{\\s1\\b\\cf2\\f0 heading 1;}}\\s1 word\\par",
         "{\\stylesheet{\\s0\\f0 Normal;}{\\s1\\b\\cf1\\f0 heading 1;}}\r\n");
     row("style of a paragraph", "{\\stylesheet{\\s1 heading 1;}}\\pard\\s1 word\\par",

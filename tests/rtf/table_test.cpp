@@ -24,6 +24,11 @@ QByteArray file(const QByteArray& body) {
 const QByteArray Row = "\\trowd\\trgaph70\\clbrdrt\\brdrs\\brdrw10\\clcbpat2\\cellx1000"
                        "\\clvmgf\\cellx2000";
 
+/// A row of a table in a cell.
+const QByteArray Nested = "\\pard\\intbl\\itap2 in\\nestcell\\qc ner\\nestcell"
+                          "{\\*\\nesttableprops\\trowd\\cellx300\\cellx600\\nestrow}"
+                          "{\\nonesttables\\par}";
+
 /// What is written of a document, which must be written the same once it is read again.
 QByteArray written(const QTextDocument& document) {
     const QByteArray rtf = writeRtf(document);
@@ -63,7 +68,14 @@ private slots:
     void aTabInACellIsText();
     void aPartOfARowIsText();
     void wholeRowsOfAPartAreATable();
+    void aTableInACellStaysOne();
+    void aTableInATableInACellStaysOne();
+    void aTableInACellThatSomebodyHasTornIsText();
+    void aTornRowLeavesNothingOfATableInIt();
+    void aParagraphIsPartedWithinACellOfATableInACell();
+    void aTableInACellIsReadableText_data();
     void aTableInACellIsReadableText();
+    void aFloodOfTablesInACellIsBounded();
     void aLinkInACellEndsWithIt();
     void aSectionMayBeginWithATable();
     void aFloodOfRowsIsBounded();
@@ -354,19 +366,104 @@ void TableTest::wholeRowsOfAPartAreATable() {
     QCOMPARE(written(target).count("\\trowd"), 1);
 }
 
-void TableTest::aTableInACellIsReadableText() {
+void TableTest::aTableInACellStaysOne() {
     QTextDocument document;
     QVERIFY(
-        readRtf(file(Row +
-                     "\\pard\\intbl\\itap1 a\\par\\pard\\intbl\\itap2 in\\nestcell ner\\nestcell"
-                     "{\\*\\nesttableprops\\trowd\\cellx300\\cellx600\\nestrow}"
-                     "{\\nonesttables\\par}\\pard\\intbl\\cell b\\cell\\row"),
+        readRtf(file(Row + "\\pard\\intbl a\\par" + Nested + "\\pard\\intbl\\cell b\\cell\\row"),
                 document)
             .ok());
     QCOMPARE(document.toPlainText(), QStringLiteral("a\nin\tner\n\tb"));
     const QByteArray rtf = written(document);
+    QVERIFY2(
+        rtf.contains("a\\par\r\n\\pard\\intbl\\itap2 in\\nestcell\r\n\\pard\\intbl\\itap2\\qc ner"
+                     "\\nestcell{\\*\\nesttableprops\\trowd\\cellx300\\cellx600\\nestrow}"
+                     "{\\nonesttables\\par}\r\n\\pard\\intbl\\cell\r\n\\pard\\intbl b\\cell\\row"),
+        rtf);
+}
+
+void TableTest::aTableInATableInACellStaysOne() {
+    QTextDocument document;
+    const QByteArray deepest = "\\pard\\intbl\\itap3 x\\nestcell y\\par z\\nestcell"
+                               "{\\*\\nesttableprops\\trowd\\cellx100\\cellx200\\nestrow}";
+    QVERIFY(readRtf(file(Row + deepest + deepest + Nested + Nested +
+                         "\\pard\\intbl\\cell b\\cell\\row"),
+                    document)
+                .ok());
+    const QByteArray rtf = written(document);
+    QCOMPARE(rtf.count("\\nestrow"), 4);
+    QCOMPARE(rtf.count("\\itap3"), 4);
+    QVERIFY2(!rtf.contains("\\tab "), rtf);
+}
+
+void TableTest::aTableInACellThatSomebodyHasTornIsText() {
+    QTextDocument document;
+    QVERIFY(readRtf(file(Row + Nested + "\\pard\\intbl\\cell b\\cell\\row"), document).ok());
+    QTextCursor cursor(&document);
+    cursor.setPosition(2);
+    cursor.deleteChar();
+    const QByteArray rtf = written(document);
+    QCOMPARE(rtf.count("\\trowd"), 1);
+    QVERIFY2(rtf.contains("inner\\par") && rtf.contains("b\\cell\\row"), rtf);
+    QVERIFY2(!rtf.contains("\\itap") && !rtf.contains("nest"), rtf);
+}
+
+void TableTest::aTornRowLeavesNothingOfATableInIt() {
+    QTextDocument document;
+    QVERIFY(readRtf(file(Row + Nested + "\\pard\\intbl c\\cell b\\cell\\row"), document).ok());
+    QTextCursor cursor = document.find(QStringLiteral("c"));
+    cursor.setPosition(cursor.selectionEnd());
+    cursor.deleteChar();
+    const QByteArray rtf = written(document);
+    QVERIFY2(rtf.contains("in\\tab ner\\par") && rtf.contains("cb\\par"), rtf);
+    QVERIFY2(!rtf.contains("\\itap") && !rtf.contains("nest") && !rtf.contains("\\trowd"), rtf);
+}
+
+void TableTest::aParagraphIsPartedWithinACellOfATableInACell() {
+    QTextDocument document;
+    QVERIFY(readRtf(file(Row + Nested + "\\pard\\intbl\\cell b\\cell\\row"), document).ok());
+    QTextCursor cursor = document.find(QStringLiteral("n"), 2);
+    QTextBlockFormat further = cursor.blockFormat();
+    further.clearProperty(RowBegins);
+    cursor.insertBlock(further);
+    QCOMPARE(document.toPlainText(), QStringLiteral("in\t\ner\n\tb"));
+    const QByteArray rtf = written(document);
+    QCOMPARE(rtf.count("\\nestcell"), 2);
+    QVERIFY2(rtf.contains("\\qc\\par\r\ner\\nestcell{\\*\\nesttableprops"), rtf);
+}
+
+void TableTest::aTableInACellIsReadableText_data() {
+    QTest::addColumn<QByteArray>("nested");
+    QTest::newRow("without what shapes it")
+        << QByteArray("\\pard\\intbl\\itap2 in\\nestcell ner\\nestcell\\nestrow");
+    QTest::newRow("without what nests it")
+        << QByteArray("\\pard\\intbl in\\nestcell ner\\nestcell"
+                      "{\\*\\nesttableprops\\trowd\\cellx300\\cellx600\\nestrow}");
+    QTest::newRow("without end") << QByteArray("\\pard\\intbl\\itap2 in\\nestcell ner\\par");
+}
+
+void TableTest::aTableInACellIsReadableText() {
+    QFETCH(QByteArray, nested);
+    QTextDocument document;
+    QVERIFY(readRtf(file(Row + nested + "\\pard\\intbl\\cell b\\cell\\row"), document).ok());
+    QCOMPARE(document.toPlainText(), QStringLiteral("in\tner\n\tb"));
+    const QByteArray rtf = written(document);
     QCOMPARE(rtf.count("\\trowd"), 1);
     QVERIFY2(rtf.contains("in\\tab ner\\par"), rtf);
+}
+
+void TableTest::aFloodOfTablesInACellIsBounded() {
+    QByteArray flood = Row + "\\pard\\intbl\\itap2 ";
+    for (int i = 0; i < 6000; ++i)
+        flood += "a\\nestcell{\\*\\nesttableprops\\trowd\\cellx9\\nestrow}";
+    for (int i = 0; i < 2000; ++i)
+        flood += "{\\*\\nesttableprops" + QByteArray(100, 'x');
+    QTextDocument document;
+    readRtf(file(flood), document);
+    QVERIFY(document.blockCount() >= 6000);
+    QSet<QString> kept;
+    for (const QTextFormat& format : document.allFormats())
+        kept.insert(format.stringProperty(NestedRow));
+    QVERIFY2(kept.size() > 1000 && kept.size() < 5000, QByteArray::number(kept.size()));
 }
 
 void TableTest::aLinkInACellEndsWithIt() {

@@ -65,6 +65,7 @@ private slots:
     void aRowBehindOneThatIsTextIsARow();
     void aRowThatNeverEndsHasNoLabelAtItsEnd();
     void aRowAtTheEndOfABoxStaysTheLast();
+    void pagesBehindARowThatNeverEndsStay();
     void aTabInACellIsText();
     void aPartOfARowIsText();
     void wholeRowsOfAPartAreATable();
@@ -335,6 +336,14 @@ void TableTest::aRowAtTheEndOfABoxStaysTheLast() {
     QVERIFY(
         readRtf(file("x{\\shp{\\*\\shpinst{\\shptxt a}}{\\cell\\row\\par}}y\\par"), loose).ok());
     QVERIFY2(!written(loose).contains("shp"), written(loose));
+}
+
+void TableTest::pagesBehindARowThatNeverEndsStay() {
+    QTextDocument document;
+    QVERIFY(
+        readRtf(file("\\trowd\\cellx9\\pard\\intbl a\\page\\pard b\\page c\\par"), document).ok());
+    const QByteArray rtf = written(document);
+    QVERIFY2(rtf.contains("a\\cell\\row\r\n\\pard\\page b\\page\r\n\\pard c\\par"), rtf);
 }
 
 void TableTest::aTabInACellIsText() {

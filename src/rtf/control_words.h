@@ -16,7 +16,7 @@ enum class Action : quint8 {
     AnsiCodePage,
     FixedCodePage, ///< value: the page
     DefaultFont,
-    FurtherDefaultFont, ///< value: which of FurtherDefaultFonts
+    FurtherDefaultFont, ///< value: which of those beside it
     DefaultTab,
     DefaultLanguage,
     // Text

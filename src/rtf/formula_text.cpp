@@ -6,7 +6,10 @@
 #include "rtf/control_words.h"
 #include "rtf/tokenizer.h"
 
+#include <utility>
 #include <vector>
+
+using namespace Qt::StringLiterals;
 
 namespace orvalis::rtf {
 
@@ -34,22 +37,27 @@ public:
     }
 
 private:
+    struct Group {
+        bool hidden = false;
+        bool hasElement = false; ///< one of several that stand below each other
+    };
+
     void take(const Token& token) {
         const bool atStart = m_atStart;
         m_atStart = token.kind == TokenKind::GroupStart ||
                     (atStart && token.kind == TokenKind::Symbol && token.byte == '*');
         switch (token.kind) {
         case TokenKind::GroupStart:
-            m_hidden.push_back(!m_hidden.empty() && m_hidden.back());
+            m_groups.push_back({!m_groups.empty() && m_groups.back().hidden, false});
             return;
         case TokenKind::GroupEnd:
-            if (!m_hidden.empty())
-                m_hidden.pop_back();
+            if (!m_groups.empty())
+                m_groups.pop_back();
             return;
         case TokenKind::Word:
-            if (atStart && isNoPart(token))
-                m_hidden.back() = true;
-            else if (token.word && token.word->action == Action::Unicode)
+            if (atStart)
+                head(token);
+            if (token.word && token.word->action == Action::Unicode)
                 unit(char16_t(token.parameter));
             else if (token.word && token.word->action == Action::Character)
                 unit(char16_t(token.word->value));
@@ -66,11 +74,30 @@ private:
         }
     }
 
+    bool isHidden() const { return !m_groups.empty() && m_groups.back().hidden; }
+
+    /// What a part is to the one ahead of it, as people type formulas in one line.
+    void head(const Token& token) {
+        if (isNoPart(token))
+            m_groups.back().hidden = true;
+        if (isHidden())
+            return;
+        if (token.bytes == "mden")
+            m_text.append(u'/');
+        else if (token.bytes == "msup")
+            m_text.append(u'^');
+        else if (token.bytes == "msub")
+            m_text.append(u'_');
+        else if (token.bytes == "me" && m_groups.size() > 1 &&
+                 std::exchange((m_groups.end() - 2)->hasElement, true))
+            m_text.append(u"; "_s);
+    }
+
     /// What has no width by itself, or structure of its own, is no part of a line.
     void unit(char16_t unit) {
         const bool shown = unit >= u' ' && unit != QChar::ObjectReplacementCharacter &&
                            unit != QChar::LineSeparator && unit != QChar::ParagraphSeparator;
-        if (shown && (m_hidden.empty() || !m_hidden.back()))
+        if (shown && !isHidden())
             m_text.append(QChar(unit));
     }
 
@@ -85,9 +112,9 @@ private:
 
     Tokenizer m_tokenizer;
     QString m_text;
-    std::vector<bool> m_hidden; ///< the groups that are open
-    bool m_atStart = false;     ///< of a group
-    int m_toSkip = 0;           ///< bytes that stand for a character told by its number
+    std::vector<Group> m_groups; ///< that are open
+    bool m_atStart = false;      ///< of a group
+    int m_toSkip = 0;            ///< bytes that stand for a character told by its number
 };
 
 } // namespace

@@ -259,12 +259,13 @@ QString Interpreter::sectionText() const {
 
 /// The fonts of text in other scripts, and of styles, that names none.
 QString Interpreter::furtherDefaults() const {
-    constexpr std::array Words = {"adeff", "stshfdbch", "stshfloch", "stshfhich", "stshfbi"};
+    constexpr std::array DefaultFonts = {"adeff", "stshfdbch", "stshfloch", "stshfhich", "stshfbi"};
     QString text;
-    for (size_t i = 0; i < Words.size(); ++i) {
+    for (size_t i = 0; i < DefaultFonts.size(); ++i) {
         const FontTable::Font* font = m_fonts.find(m_furtherDefaults[i]);
         if (m_furtherDefaults[i] != NoName && font && font->family != NoName)
-            text += u'\\' + QLatin1StringView(Words[i]) + keptFont(m_names.familyAt(font->family));
+            text += u'\\' + QLatin1StringView(DefaultFonts[i]) +
+                    keptFont(m_names.familyAt(font->family));
     }
     return text;
 }

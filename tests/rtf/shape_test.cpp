@@ -179,7 +179,12 @@ void ShapeTest::aFormulaWithoutAPictureShowsItsTextAndStays_data() {
         << QByteArray(
                "{\\mmath{\\*\\moMath{\\mf{\\mfPr{\\mtype lin}}{\\mnum{\\mr\\mscr0\\msty2 a+}}"
                "{\\mden{\\mr b}}}}}")
-        << QStringLiteral("a+b");
+        << QStringLiteral("a+/b");
+    QTest::newRow("of parts below each other")
+        << QByteArray("{\\mmath{\\*\\moMath{\\meqArr{\\me{\\mr x}}{\\me{\\msSup{\\me{\\mr "
+                      "y}}{\\msup{\\mr 2}}}}}"
+                      "{\\msSub{\\me{\\mr z}}{\\msub{\\mr i}}}}}")
+        << QStringLiteral("x; y^2z_i");
     QTest::newRow("without its mark")
         << QByteArray("{\\mmath{\\moMath{\\mrad{\\mradPr x{\\mdegHide1}}{\\me{\\mtext root}}}}}")
         << QStringLiteral("root");

@@ -10,8 +10,8 @@
 // whether the text and the number of pages are equal, and the share of characters with the same
 // font, size, weight, colour, and place within two points. Files that are broken, so that no two
 // programs read them alike (a brace too many, cells without a row, halves of characters), count
-// among all, but those that differ are told with what is wrong in them, and the texts of the sound
-// files are told once more by themselves. Then the same for the program's own
+// among all, but those that differ are told with what is wrong in them, and the texts and pages of
+// the sound files are told once more by themselves. Then the same for the program's own
 // pages: of the files without a table, text box or lines from top to bottom, those whose words
 // stand on the first page where LibreOffice sets them, each left edge within six points, in the
 // same order down the page. For that, LibreOffice is given the files without their headers, footers
@@ -218,6 +218,10 @@ private:
         miss("PLACE", likeness.place);
     }
 
+    static QString brokenBy(const Sample& sample) {
+        return sample.unsound.isEmpty() ? QString() : u" (broken: "_s + sample.unsound + u')';
+    }
+
     void measureText(const Sample& sample) {
         const QString given =
             folded(QString::fromUtf8(contentOf(path(u"given-txt"_s, sample, u".txt"_s))));
@@ -233,13 +237,12 @@ private:
             m_sameSoundTexts += isSound;
             return;
         }
-        const QString broken = isSound ? QString() : u" (broken: "_s + sample.unsound + u')';
         const auto ends = std::mismatch(given.begin(), given.end(), written.begin(), written.end());
         const qsizetype at = ends.first - given.begin();
         const qsizetype from = std::max<qsizetype>(at - 20, 0);
         std::printf("TEXT\t%s\tat %lld: \"%s\", then \"%s\"%s\n", qUtf8Printable(sample.name),
                     static_cast<long long>(at), qUtf8Printable(given.mid(from, 60)),
-                    qUtf8Printable(written.mid(from, 60)), qUtf8Printable(broken));
+                    qUtf8Printable(written.mid(from, 60)), qUtf8Printable(brokenBy(sample)));
     }
 
     void measureOwn(const Sample& sample, const QString& givenPdf) {
@@ -260,13 +263,15 @@ private:
                 std::printf("NONE\t%s\tno font has its letters\n", qUtf8Printable(sample.name));
             return;
         }
-        ++m_own;
+        const bool isSound = sample.unsound.isEmpty();
+        const bool isAlike = edges.alike == edges.all;
+        m_own += {isAlike, 1};
+        m_soundOwn += {isSound && isAlike, isSound};
         m_edges += edges;
-        if (edges.alike == edges.all)
-            ++m_ownAlike;
-        else
-            std::printf("OWN\t%s\t%.1f %% of %lld: %s\n", qUtf8Printable(sample.name),
-                        edges.perCent(), static_cast<long long>(edges.all), qUtf8Printable(miss));
+        if (!isAlike)
+            std::printf("OWN\t%s\t%.1f %% of %lld: %s%s\n", qUtf8Printable(sample.name),
+                        edges.perCent(), static_cast<long long>(edges.all), qUtf8Printable(miss),
+                        qUtf8Printable(brokenBy(sample)));
     }
 
     void tell() const {
@@ -286,7 +291,8 @@ private:
             line("characters with the same colour", m_likeness.color);
             line("characters in place", m_likeness.place);
         }
-        line("own pages: files with all words of page one in place", {m_ownAlike, m_own});
+        line("own pages: files with all words of page one in place", m_own);
+        line("files in place, of those among them that are not broken", m_soundOwn);
         line("own pages: words in place", m_edges);
     }
 
@@ -301,9 +307,9 @@ private:
     qint64 m_soundTexts = 0;
     qint64 m_sameSoundTexts = 0;
     qint64 m_samePages = 0;
-    qint64 m_own = 0;
-    qint64 m_ownAlike = 0;
     Likeness m_likeness;
+    Share m_own;
+    Share m_soundOwn;
     Share m_edges;
 };
 

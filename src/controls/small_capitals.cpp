@@ -12,14 +12,14 @@
 namespace orvalis {
 namespace {
 
-struct Run {
+struct CaseRun {
     int start;
     int end;
     QTextCharFormat format;
 };
 
 /// The runs of a fragment, of small letters and of others.
-void addRuns(std::vector<Run>& runs, const QTextFragment& fragment, size_t most) {
+void addRuns(std::vector<CaseRun>& runs, const QTextFragment& fragment, size_t most) {
     constexpr qreal SmallShare = 0.8;
     const QTextCharFormat format = fragment.charFormat();
     const qreal size = format.font().pointSizeF();
@@ -44,13 +44,13 @@ void addRuns(std::vector<Run>& runs, const QTextFragment& fragment, size_t most)
 
 void setSmallCapitals(QTextDocument& document) {
     constexpr size_t MostRuns = 20'000; // more than a document of titles has
-    std::vector<Run> runs;
+    std::vector<CaseRun> runs;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
         for (auto it = block.begin(); !it.atEnd(); ++it)
             addRuns(runs, it.fragment(), MostRuns);
     QTextCursor edit(&document);
     edit.beginEditBlock();
-    for (const Run& run : runs) {
+    for (const CaseRun& run : runs) {
         edit.setPosition(run.start);
         edit.setPosition(run.end, QTextCursor::KeepAnchor);
         edit.setCharFormat(run.format);

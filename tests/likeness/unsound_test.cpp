@@ -66,6 +66,10 @@ void UnsoundTest::eachFaultIsTold_data() {
     row("a cell too many", "{\\rtf1\\trowd\\cellx9\\intbl a\\cell b\\cell\\row}", TooMany);
     row("a cell too many in a further row",
         "{\\rtf1\\trowd\\cellx9\\intbl a\\cell\\row b\\cell c\\cell\\row}", TooMany);
+    row("a cell too many in a row behind a wider one",
+        "{\\rtf1\\trowd\\cellx9\\cellx18\\intbl a\\cell b\\cell\\row"
+        "\\trowd\\cellx9\\intbl c\\cell d\\cell\\row}",
+        TooMany);
     row("a first half alone", "{\\rtf1 a\\u-10240?  b}", Halves);
     row("a first half at the end", "{\\rtf1 a\\u-10240?\\par}", Halves);
     row("a second half alone", "{\\rtf1 a\\u-9216? b}", Halves);

@@ -34,9 +34,15 @@ QByteArray written(const QTextDocument& document) {
     const QByteArray rtf = writeRtf(document);
     QTextDocument again;
     readRtf(rtf, again);
-    if (again.toRawText() != document.toRawText())
-        return "other text: " + rtf;
-    return writeRtf(again) == rtf ? rtf : "not stable: " + rtf + writeRtf(again);
+    if (again.toRawText() != document.toRawText()) {
+        qInfo().noquote() << rtf;
+        return "other text";
+    }
+    if (writeRtf(again) != rtf) {
+        qInfo().noquote() << rtf << writeRtf(again);
+        return "not stable";
+    }
+    return rtf;
 }
 
 } // namespace

@@ -28,7 +28,7 @@ public:
         if (index < 0)
             return Unknown;
         const float known = m_widths[size_t(index)];
-        return known == NotAsked ? measure(c) : known;
+        return known >= 0 || known == Unknown ? known : measure(c);
     }
 
 private:

@@ -40,6 +40,15 @@ bool parts(QChar c) {
     return c == u'\t' || c == QChar::LineSeparator;
 }
 
+constexpr bool isPlainLetter(char16_t c) {
+    return char16_t((c | 0x20) - u'a') < 26;
+}
+
+/// As breaksBetween(), which most words of most texts need not ask.
+bool breaksAt(char16_t ahead, char16_t behind) {
+    return (isPlainLetter(ahead) && isPlainLetter(behind)) || breaksBetween(ahead, behind);
+}
+
 } // namespace
 
 bool breaksBetween(char16_t ahead, char16_t behind) {
@@ -113,7 +122,7 @@ bool ParagraphHeight::fill(QStringView text, LetterWidths& widths, double room, 
             continue;
         }
         if (end.blanks > 0) {
-            if (breaksBetween(end.ahead, c)) {
+            if (breaksAt(end.ahead, c)) {
                 end.words += end.word + end.blanks;
                 end.word = 0;
             } else {

@@ -47,13 +47,8 @@ void BodyWriter::beginParagraph(const ParagraphFormat& paragraph, int number) {
     }
     goTo(paragraph);
     m_pageBreaks = breaks && !between;
-    if (!m_goesOn && m_pageBreaks && paragraph.pageWord == PageWord::Between) {
-        ParagraphFormat asRead = paragraph;
-        asRead.pageWord = PageWord::InFront;
-        m_paragraphs.begin(asRead, number);
-    } else if (!m_goesOn) {
+    if (!m_goesOn)
         m_paragraphs.begin(paragraph, number);
-    }
     m_mark = paragraph.mark;
     m_afterBehind = paragraph.afterAhead != NoLength ? paragraph.after : NoLength;
     m_rowEnds = false;

@@ -21,7 +21,10 @@ Frame frameOf(const QString& kept) {
     const qsizetype at = kept.indexOf(place, start);
     if (at < 0)
         return {};
-    return {kept.sliced(start, at - start), kept.sliced(at + place.size())};
+    // Ahead of text the word ends with a blank of its own.
+    const qsizetype end = at + place.size();
+    const bool isDelimited = end < kept.size() && kept[end] == u' ';
+    return {kept.sliced(start, at - start), kept.sliced(end + (isDelimited ? 1 : 0))};
 }
 
 } // namespace

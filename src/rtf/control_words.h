@@ -142,6 +142,10 @@ enum class Action : quint8 {
     BitmapRow,
 };
 
+/// Whether a word at the head of a group says what the group is for.
+constexpr bool isDestination(Action action) {
+    return action >= Action::SkipGroup && action <= Action::ShapeText;
+}
 /// Whether the text of a group with this head is none of the document's.
 constexpr bool hidesText(Action head) {
     return head >= Action::SkipGroup && head <= Action::LabelText;

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QByteArrayView>
+#include <QString>
 
 namespace orvalis::rtf {
 
@@ -11,12 +12,14 @@ namespace orvalis::rtf {
 struct FieldScan {
     QByteArrayView instruction; ///< what stands behind the word of its group, up to the brace
     bool hasResult = false;     ///< something to show
-    bool hasStructure = false;  ///< paragraphs, cells or sections end in the result
+    bool hasStructure = false;  ///< paragraphs, cells or sections end in it
 };
 
 /// \param content of the field's group, behind its first word.
 FieldScan scanField(QByteArrayView content);
 
+/// The text of an instruction in the one spelling of what is kept (see kept_text.h).
+QString instructionText(QByteArrayView instruction);
 /// The first word of a field's instruction, in capitals.
 QByteArray fieldName(QByteArrayView instruction);
 

@@ -108,4 +108,31 @@ const FontTable::Font* FontTable::find(int number) const {
     return found == m_fonts.constEnd() ? nullptr : &*found;
 }
 
+void FontTable::setUsual(int number) {
+    if (m_usualSettled)
+        return;
+    m_usualNumber = number;
+    m_usualSaid = true;
+    ++m_version;
+}
+
+void FontTable::settleUsual() {
+    if (const Font* font = usual())
+        m_usual = *font;
+    m_usualSettled = true;
+}
+
+const FontTable::Font* FontTable::usual() const {
+    if (m_usualSettled)
+        return m_usual ? &*m_usual : nullptr;
+    return find(m_usualNumber);
+}
+
+DefaultFont FontTable::saidOfUsual() const {
+    if (!m_usualSaid)
+        return DefaultFont::Unsaid;
+    const Font* font = usual();
+    return font && font->family != NoName ? DefaultFont::Named : DefaultFont::Missing;
+}
+
 } // namespace orvalis::rtf

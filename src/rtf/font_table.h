@@ -4,10 +4,13 @@
 
 #include "rtf/code_page.h"
 #include "rtf/formats.h"
+#include "rtf/sink.h"
 
 #include <QHash>
 #include <QSet>
 #include <QStringList>
+
+#include <optional>
 
 namespace orvalis::rtf {
 
@@ -38,13 +41,25 @@ public:
 
     /// Null for a number that the table does not have.
     const Font* find(int number) const;
+
+    /// The font of text that names none, by its number.
+    void setUsual(int number);
+    /// The text begins: what is told of that font from here on comes too late.
+    void settleUsual();
+    /// Null where the table has none of that number, which is 0 where the file does not say.
+    const Font* usual() const;
+    DefaultFont saidOfUsual() const;
     /// Families that the file takes for fonts of signs, or not, where their names tell otherwise.
     QStringList oddFamilies(const Names& names) const;
-    /// Grows with every entry that is kept.
+    /// Grows with everything that changes what the numbers stand for.
     int version() const { return m_version; }
 
 private:
     QHash<int, Font> m_fonts;
+    std::optional<Font> m_usual; ///< that is settled
+    int m_usualNumber = 0;
+    bool m_usualSaid = false;
+    bool m_usualSettled = false;
     QSet<int> m_signs;   ///< families that are told as such
     QSet<int> m_letters; ///< families that are told otherwise
     Font m_entry;

@@ -145,7 +145,8 @@ struct ListLabel {
     QString prefix;
     QString suffix;
     ListSource source = ListSource::Made;
-    QString keptList; ///< of the list tables: the list and its override, as they are kept
+    bool showsStart = false; ///< the text of the label begins anew, whatever came before
+    QString keptList;        ///< of the list tables: the list and its override, as they are kept
     QString keptOverride;
 
     /// Whether the file's tables tell of it.

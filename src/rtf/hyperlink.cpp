@@ -40,6 +40,10 @@ QString hyperlinkTarget(QStringView instruction) {
     if (!instruction.startsWith(Keyword, Qt::CaseInsensitive))
         return {};
     instruction = instruction.sliced(Keyword.size());
+    const bool ends = instruction.isEmpty() || instruction.front().isSpace() ||
+                      instruction.front() == u'"' || instruction.front() == u'\\';
+    if (!ends)
+        return {};
     QString target;
     QString place;
     while (!instruction.trimmed().isEmpty()) {

@@ -32,7 +32,6 @@ Interpreter::Interpreter(QByteArrayView bytes, Sink& sink, const Progress& progr
     , m_keptLeft(KeptShare * bytes.size() + KeptGround) {
     m_state.page = m_documentPage;
     m_furtherDefaults.fill(NoName);
-    knowWhatIsStated();
 }
 
 ReadResult Interpreter::run() {
@@ -97,6 +96,8 @@ void Interpreter::openGroup() {
     }
     m_groups.push_back(m_state);
     m_state.ownsDestination = false;
+    m_state.ownField = NothingKept;
+    m_state.ownBox = NothingKept;
     m_state.hasContent = false;
     m_atGroupStart = true;
 }
@@ -125,10 +126,12 @@ bool Interpreter::closeGroup() {
     }
     const Destination closed = m_state.destination;
     const bool owned = m_state.ownsDestination;
-    if (closed == Destination::Body && m_groups.size() == m_fieldDepth)
-        showFieldText();
+    if (closed == Destination::Body)
+        fieldEnds();
     if (m_groups.size() == m_boxDepth)
         endBox();
+    if (m_state.ownBox != NothingKept)
+        shapeEnds();
     m_state = std::move(m_groups.back());
     m_groups.pop_back();
     if (owned)
@@ -233,6 +236,7 @@ void Interpreter::finish() {
         deliverPicture();
     cellTabs(m_cellsEnded.size());
     flushText();
+    textComes();
     tellKept();
     m_sink.end(shapedParagraph(), told(m_state.chars));
 }

@@ -16,6 +16,9 @@
 #include <QList>
 
 #include <array>
+#include <limits>
+#include <optional>
+#include <utility>
 #include <vector>
 
 namespace orvalis::rtf {
@@ -52,13 +55,15 @@ private:
     };
 
     static constexpr int NoList = -1;
+    static constexpr int NoFont = std::numeric_limits<int>::min(); // which no word can name
 
     /// What text of one direction has for itself.
     struct Side {
-        int font = NoName;
+        int font = NoFont;
         int halfPoints = DefaultHalfPoints;
         bool bold = false;
         bool italic = false;
+        const ControlWord* eastern = nullptr; ///< the word for its script, where that is one
         int stated = 0;
         int said = 0; ///< bits of stated: what was told of this direction alone
     };
@@ -69,7 +74,7 @@ private:
         ParagraphFormat paragraph;
         const CodePage* page = nullptr;
         SymbolFont symbols = SymbolFont::None; ///< that the font is
-        int font = NoName; ///< number in the font table; none stands for the default font
+        int font = NoFont; ///< number in the font table; none stands for the default font
         int fontsVersion = 0;
         Side other;   ///< text of the other direction
         Side told;    ///< what the kept words say of that
@@ -81,9 +86,11 @@ private:
         int listOverride = NoList;
         int listLevel = 0;
         int fieldsAround = 0;
-        int box = NothingKept;   ///< the frame of the text box that the group is, or stands in
-        int frame = NothingKept; ///< of the shape that shows a picture
-        int keptOfChars = 0;     ///< sets of m_kept
+        int ownField = NothingKept; ///< the field that the group is, with the text that shows it
+        int box = NothingKept;      ///< the frame of the text box that the group is, or stands in
+        int ownBox = NothingKept;   ///< the same, of the shape that the group is
+        int frame = NothingKept;    ///< of the shape that shows a picture
+        int keptOfChars = 0;        ///< sets of m_kept
         int keptOfParagraph = 0;
         const ControlWord* border = nullptr;  ///< the one that was named last
         const ControlWord* script = nullptr;  ///< the same
@@ -135,24 +142,40 @@ private:
     }
     bool captures() const;
     const CodePage& pageOfText() const;
-    void showFieldText();
 
     // Properties (interpreter_properties.cpp)
     bool characterWord(const Token& token);
     bool paragraphWord(const Token& token);
     void tabStop(int position);
     void selectFont();
+    bool namesFont() const;
     void plainCharacters();
-    DefaultFont defaultFont() const;
-    void knowWhatIsStated();
+    QRgb color(int index) const;
+
+    // What holds for the whole document (interpreter_head.cpp)
+    void headEnds() {
+        if (!std::exchange(m_headEnded, true))
+            settleHead();
+    }
+    /// Something of the text is about to come.
+    void textComes() {
+        headEnds();
+        boxComes();
+    }
+    void boxComes() {
+        if (m_boxDepth > 0 && !m_boxIsOpen && !m_boxBegins)
+            beginBox();
+    }
+    void settleHead();
+    void knowOfParagraphs();
     int known() const { return m_countedOfCharacters & stated::Knows; }
     CharFormat told(CharFormat chars) const;
-    QRgb color(int index) const;
 
     // Directions (interpreter_directions.cpp)
     void turn(bool rightToLeft);
     Side thisSide() const;
     bool sideWord(const KeptCall& call);
+    static bool saysOfSide(KeptCall& call);
     void sayOfSide(int bit);
     void tellOther();
 
@@ -170,6 +193,11 @@ private:
     bool numberingWord(const Token& token);
     QString keptOfLists(const Token& token);
     bool isInList() const;
+
+    // Fields (interpreter_fields.cpp)
+    void keepField();
+    void fieldEnds();
+    void takeInstruction(const QString& instruction);
 
     // Tables (interpreter_tables.cpp)
     bool rowWord(const Token& token);
@@ -191,10 +219,11 @@ private:
     bool keptWord(const Token& token);
     bool furtherFont(KeptCall& call) const;
     void keepScript();
+    void setEastern(const ControlWord* word);
     void keepCharacters(int set);
     void keepParagraph(int set);
     void keepGroup(const Token& token);
-    void keepField();
+    FileTables fileTables(const FontTable::Font* usual) const;
     void placeGroup(KeptPlace place, const QString& group);
     void anchor(const QString& kept);
     QString lookOfMark() const;
@@ -208,8 +237,10 @@ private:
     // Shapes (interpreter_shapes.cpp)
     void keepShape(const Token& token);
     void keepFormula();
+    void expectBox();
     void beginBox();
     void endBox();
+    void shapeEnds();
     bool endsBehindBox();
     void shapeBesideBox();
 
@@ -235,11 +266,11 @@ private:
     const CodePage* m_documentPage;
     FontTable m_fonts;
     size_t m_fontEntryDepth = 0; ///< of the groups, where the entry of the font table began
-    int m_defaultFont = 0;
-    bool m_defaultFontSaid = false;
     std::array<int, 5> m_furtherDefaults; ///< numbers of fonts by what they are of, or NoName
-    int m_countedOfCharacters = 0;        ///< what counts of what is stated
-    int m_countedOfParagraphs = 0;
+    bool m_headEnded = false;             ///< text has come
+    /// What counts of what is stated. Whatever it will be, all is held until the text begins.
+    int m_countedOfCharacters = stated::All;
+    int m_countedOfParagraphs = ~0;
     bool m_nameless = true;
     QList<QRgb> m_colors;
     QRgb m_color = AutomaticColor;
@@ -292,15 +323,21 @@ private:
     bool m_inRow = false;    ///< a paragraph of the row has ended
     bool m_rowEnds = false;
     bool m_inParagraph = false;
-    int m_afterAhead = 0; ///< the space after the paragraph as its text began
+    int m_afterAhead = 0;     ///< the space after the paragraph as its text began
+    int m_afterSaidAhead = 0; ///< and whether it was stated
     bool m_pageBreak = false;
     PageWord m_pageWord = PageWord::InFront;
-    int m_shapes = 0;      ///< that are kept
-    size_t m_boxDepth = 0; ///< of the groups, where the text of a box stands
+    int m_shapes = 0;        ///< that are kept
+    size_t m_shapeDepth = 0; ///< of the groups, where the shape stands that has a box
+    size_t m_boxDepth = 0;   ///< of the groups, where the text of a box stands
     bool m_boxHasParagraph = false;
-    bool m_boxBehind = false; ///< text of the paragraph that it stands in
-    bool m_boxEnded = false;  ///< and the paragraph has not
-    QString m_anchorsAround;  ///< what comes with the paragraph that has the box ahead
+    bool m_boxIsOpen = false;    ///< and some of it has come
+    int m_lastBox = NothingKept; ///< that has text
+    bool m_boxBegins = false;    ///< and ends what stands ahead of it in the paragraph
+    bool m_boxBehind = false;    ///< text of the paragraph that it stands in
+    bool m_boxEnded = false;     ///< and the paragraph has not
+    QString m_labelAround;
+    QString m_anchorsAround; ///< what comes with the paragraph that has the box ahead
     bool m_pageBreakAround = false;
     QString m_label;
     ListLabel m_labelList; ///< what was told where that stands, which a brace may end
@@ -310,10 +347,10 @@ private:
 
     QString m_capture;
     CharFormat m_captureFormat;
-    QString m_fieldText;     ///< to show where the field brings no result
-    QString m_chosenEntry;   ///< of the list that the field is
-    QString m_ownField;      ///< what is kept of the field that would show that
-    int m_fields = 0;        ///< that are kept
+    QString m_fieldText; ///< of a field that is not kept, to show where it brings no result
+    int m_fields = 0;    ///< that are kept
+    /// Of the instructions of fields that show what these hold, as they stand in each other.
+    std::vector<std::optional<CharFormat>> m_fieldLooks;
     size_t m_fieldDepth = 0; ///< of the groups, where that field stands
     QString m_shapeProperty;
     ListLabel m_numbering;

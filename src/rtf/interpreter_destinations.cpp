@@ -1,11 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "rtf/bullet_sign.h"
-#include "rtf/equation_text.h"
-#include "rtf/hyperlink.h"
 #include "rtf/interpreter.h"
 #include "rtf/kept_text.h"
-#include "rtf/symbol_field.h"
+#include "rtf/list_formats.h"
 
 #include <algorithm>
 
@@ -90,8 +88,6 @@ bool Interpreter::destinationWord(const Token& token) {
         return true;
     case Action::Field:
         m_fieldText.clear();
-        m_ownField.clear();
-        m_chosenEntry.clear();
         m_fieldDepth = inBody ? m_groups.size() : 0;
         if (inBody)
             keepField();
@@ -126,7 +122,7 @@ bool Interpreter::destinationWord(const Token& token) {
     case Action::ShapeText:
         if (m_state.destination == Destination::Shape || inBody) {
             openDestination(Destination::Body);
-            beginBox();
+            expectBox();
         } else {
             skipGroup();
         }
@@ -180,21 +176,6 @@ bool Interpreter::destinationWord(const Token& token) {
     }
 }
 
-/// A field without a result shows what its instruction holds to show.
-void Interpreter::showFieldText() {
-    m_fieldDepth = 0;
-    const QString text = std::exchange(m_fieldText, {});
-    const QString field = std::exchange(m_ownField, {});
-    if (text.isEmpty())
-        return;
-    const CharFormat around = std::exchange(m_state.chars, m_captureFormat);
-    if (!field.isEmpty())
-        m_state.chars.field = m_names.kept(field + NumberEnd + text);
-    if (shows())
-        append(text);
-    m_state.chars = around;
-}
-
 void Interpreter::openDestination(Destination destination) {
     m_state.destination = destination;
     m_state.ownsDestination = true;
@@ -207,11 +188,13 @@ void Interpreter::closeDestination(Destination destination) {
     switch (destination) {
     case Destination::FontTable:
         m_fonts.commit(m_names, *m_documentPage);
-        knowWhatIsStated();
         selectFont();
         return;
+    case Destination::ListTable:
     case Destination::ListOverrideTable:
-        knowWhatIsStated();
+        m_lists.endEntry();
+        if (m_headEnded)
+            knowOfParagraphs();
         return;
     case Destination::ColorTable:
         // The last entry may lack its semicolon.
@@ -228,16 +211,9 @@ void Interpreter::closeDestination(Destination destination) {
     case Destination::Picture:
         deliverPicture();
         return;
-    case Destination::FieldInstruction: {
-        const QString target = hyperlinkTarget(captured);
-        if (!target.isEmpty()) {
-            m_state.chars.link = m_names.link(target);
-            m_state.chars.field = NothingKept;
-        }
-        m_fieldText =
-            equationText(captured) + symbolFieldText(captured) + std::exchange(m_chosenEntry, {});
+    case Destination::FieldInstruction:
+        takeInstruction(captured);
         return;
-    }
     case Destination::ShapePropertyName:
         m_shapeProperty = captured.trimmed();
         return;
@@ -247,13 +223,13 @@ void Interpreter::closeDestination(Destination destination) {
         m_state.paragraph.list = m_numbering;
         return;
     case Destination::NumberingTextBefore:
-        m_numbering.prefix = captured;
+        m_numbering.prefix = cleanLabel(captured);
         return;
     case Destination::NumberingTextAfter:
-        m_numbering.suffix = captured;
+        m_numbering.suffix = cleanLabel(captured);
         return;
     case Destination::Label:
-        m_label = captured;
+        m_label = captured.trimmed();
         m_labelList = m_state.paragraph.list;
         return;
     default:
@@ -263,6 +239,10 @@ void Interpreter::closeDestination(Destination destination) {
 
 bool Interpreter::tableWord(const Token& token) {
     const int number = token.parameter;
+    // In a group that is kept as it is they say nothing of the document.
+    const bool ofDocument = token.word->action <= Action::DefaultLanguage;
+    if (ofDocument && m_state.destination != Destination::Body)
+        return true;
     switch (token.word->action) {
     case Action::FixedCodePage:
     case Action::AnsiCodePage: {
@@ -276,9 +256,7 @@ bool Interpreter::tableWord(const Token& token) {
         selectFont();
         return true;
     case Action::DefaultFont:
-        m_defaultFont = number;
-        m_defaultFontSaid = true;
-        knowWhatIsStated();
+        m_fonts.setUsual(number);
         selectFont();
         return true;
     case Action::FurtherDefaultFont:

@@ -58,19 +58,31 @@ void Interpreter::turn(bool rightToLeft) {
         m_state.said = next.said;
         if (std::exchange(m_state.font, next.font) != next.font)
             selectFont();
+        setEastern(next.eastern);
     }
     tellOther();
 }
 
 Interpreter::Side Interpreter::thisSide() const {
     const CharFormat& chars = m_state.chars;
-    return {m_state.font, chars.halfPoints,       chars.bold,
-            chars.italic, chars.stated & OfSides, m_state.said};
+    return {m_state.font,    chars.halfPoints,       chars.bold,  chars.italic,
+            m_state.eastern, chars.stated & OfSides, m_state.said};
 }
 
 void Interpreter::sayOfSide(int bit) {
     if (m_state.parted)
         m_state.said |= bit;
+}
+
+/// In the one form in which the word is written; false where it says nothing.
+bool Interpreter::saysOfSide(KeptCall& call) {
+    const int bit = bitOf(call.word);
+    if (bit == stated::Size)
+        call.number = std::clamp(call.number, 1, LargestHalfPoints);
+    const bool isOff = call.hasNumber && call.number == 0;
+    if (bit == stated::Bold || bit == stated::Italic)
+        call = {call.word, call.side, isOff};
+    return bit != stated::Size || call.hasNumber;
 }
 
 /// A word for text of the direction that was named last; where none was, for the other one. What
@@ -79,15 +91,17 @@ bool Interpreter::sideWord(const KeptCall& call) {
     const int bit = bitOf(call.word);
     if (bit == 0 || !m_state.named)
         return false;
+    if (bit == stated::Font && !call.hasNumber)
+        return true;
     if (!std::exchange(m_state.parted, true))
         m_state.other = thisSide();
     CharFormat& chars = m_state.chars;
     const bool on = !call.hasNumber || call.number != 0;
-    if (bit == stated::Font && call.hasNumber) {
+    if (bit == stated::Font) {
         m_state.font = call.number;
         selectFont();
-    } else if (bit == stated::Size && call.hasNumber) {
-        chars.halfPoints = std::clamp(call.number, 1, LargestHalfPoints);
+    } else if (bit == stated::Size) {
+        chars.halfPoints = call.number;
     } else if (bit == stated::Bold) {
         chars.bold = on;
     } else if (bit == stated::Italic) {
@@ -110,7 +124,7 @@ void Interpreter::tellOther() {
                      (other.bold == told.bold ? stated::Bold : 0) |
                      (other.italic == told.italic ? stated::Italic : 0);
     const int changed = (said ^ told.said) | (said & ~same);
-    told = {family, other.halfPoints, other.bold, other.italic, 0, said};
+    told = {family, other.halfPoints, other.bold, other.italic, nullptr, 0, said};
     if (changed == 0)
         return;
     for (const auto& [word, bit] : sideWords()) {

@@ -1,7 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
-#include "rtf/field_scan.h"
-#include "rtf/form_field.h"
 #include "rtf/interpreter.h"
 #include "rtf/kept_group.h"
 #include "rtf/kept_text.h"
@@ -22,9 +20,11 @@ bool isStarred(KeptPlace place) {
 
 bool Interpreter::keptWord(const Token& token) {
     if (token.word->action == Action::SectionDefaults) {
-        m_keptOfSection = 0;
-        m_columns.clear();
-        m_state.border = nullptr;
+        if (shows()) {
+            m_keptOfSection = 0;
+            m_columns.clear();
+            m_state.border = nullptr;
+        }
         return true;
     }
     if (token.word->action == Action::SectionColumn) {
@@ -33,8 +33,10 @@ bool Interpreter::keptWord(const Token& token) {
         return true;
     }
     if (token.word->action == Action::AnchorMark) {
-        if (shows())
-            anchor(lookOfMark() + u'\\' + QString::fromLatin1(token.bytes) + u'}');
+        if (!shows())
+            return true;
+        textComes();
+        anchor(lookOfMark() + u'\\' + QString::fromLatin1(token.bytes) + u'}');
         return true;
     }
     if (token.word->action != Action::Keep)
@@ -62,6 +64,8 @@ bool Interpreter::keptWord(const Token& token) {
         m_state.script = token.word;
         return true;
     }
+    if (kept.kind == KeptKind::Associate && !saysOfSide(call))
+        return true;
     const bool mayBeOfSide = kept.kind == KeptKind::Associate || kept.kind == KeptKind::Font;
     if (mayBeOfSide && !m_state.script && sideWord(call))
         return true;
@@ -98,12 +102,14 @@ bool Interpreter::keptWord(const Token& token) {
 /// What begins the group of a note's number: it looks like the text ahead of it, but raised, or
 /// else in a way of its own.
 QString Interpreter::lookOfMark() const {
-    CharFormat look = m_textFormat;
+    const bool isBehindCell = !m_cellsEnded.empty();
+    CharFormat look = isBehindCell ? m_cellsEnded.back() : m_textFormat;
     look.script = m_state.chars.script;
     look.stated = m_state.chars.stated;
     look.anchors = m_state.chars.anchors;
+    look.cell = m_state.chars.cell;
     look.byNumber = m_state.chars.byNumber;
-    if (m_text.isEmpty() || look != m_state.chars)
+    if ((m_text.isEmpty() && !isBehindCell) || look != m_state.chars)
         return u'{' + keptLook(told(m_state.chars), m_names);
     return m_state.chars.script == Script::Super ? u"{\\super"_s : u"{\\nosupersub"_s;
 }
@@ -120,12 +126,15 @@ bool Interpreter::furtherFont(KeptCall& call) const {
 
 /// The script that a font is named in is that of the text.
 void Interpreter::keepScript() {
-    const bool eastern = m_state.script && m_state.script->name == "dbch";
-    const ControlWord* now = eastern ? m_state.script : nullptr;
-    if (now == m_state.eastern)
+    const bool eastern = m_state.script && m_state.script->name == "dbch" && namesFont();
+    setEastern(eastern ? m_state.script : nullptr);
+}
+
+void Interpreter::setEastern(const ControlWord* now) {
+    const ControlWord* before = std::exchange(m_state.eastern, now);
+    if (now == before)
         return;
-    const ControlWord* word = now ? now : std::exchange(m_state.eastern, nullptr);
-    m_state.eastern = now;
+    const ControlWord* word = now ? now : before;
     keepCharacters(m_kept.with(m_state.keptOfChars, {word, nullptr, true, now ? 1 : 0}));
 }
 
@@ -139,6 +148,16 @@ void Interpreter::keepParagraph(int set) {
     m_state.paragraph.kept = m_kept.name(set);
 }
 
+/// \param usual font of text that names none, null for none.
+FileTables Interpreter::fileTables(const FontTable::Font* usual) const {
+    const bool isSaid = m_fonts.saidOfUsual() != DefaultFont::Unsaid;
+    const bool hasPage =
+        usual && usual->page && (isSaid || usual->page->symbols() == SymbolFont::None);
+    const SymbolFont symbols = usual && isSaid ? usual->symbols : SymbolFont::None;
+    return {m_fonts, m_colors, m_names, *m_documentPage, hasPage ? *usual->page : *m_documentPage,
+            symbols};
+}
+
 void Interpreter::keepGroup(const Token& token) {
     if (m_state.destination != Destination::Body || m_state.deleted) {
         skipGroup();
@@ -146,7 +165,7 @@ void Interpreter::keepGroup(const Token& token) {
     }
     const auto place = static_cast<KeptPlace>(token.word->value);
     const QByteArrayView content = m_tokenizer.groupAhead();
-    const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, m_defaultFont};
+    const FileTables tables = fileTables(m_fonts.usual());
     const QByteArrayView opening(isStarred(place) ? "{\\*\\" : "{\\");
     const QString group = GroupKeeper(content, tables).kept(opening, token.bytes, m_keptLeft);
     m_keptLeft -= group.size();
@@ -154,42 +173,12 @@ void Interpreter::keepGroup(const Token& token) {
     placeGroup(place, group);
 }
 
-/// The instruction of a field goes with the text that shows it, within a paragraph; where nothing
-/// does, the field is kept at its place.
-void Interpreter::keepField() {
-    constexpr int MostFieldsAround = 4; // each look ahead reads all that is in a field
-    constexpr int MostFields = 4096;    // each makes a format of its own
-    if (++m_state.fieldsAround > MostFieldsAround || m_state.chars.field != NothingKept ||
-        m_fields >= MostFields || !shows())
-        return;
-    const FieldScan scan = scanField(m_tokenizer.groupAhead());
-    if (scan.instruction.isEmpty() || scan.hasStructure)
-        return;
-    const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, m_defaultFont};
-    const QString kept =
-        GroupKeeper(scan.instruction, tables).kept("{\\*\\", "fldinst", m_keptLeft);
-    m_keptLeft -= kept.size();
-    // Its name is that by which it will be read when it has been written.
-    const QByteArray name = fieldName(keptWithoutPlaces(kept));
-    if (!scan.hasResult && name == "FORMDROPDOWN")
-        m_chosenEntry = chosenEntry(keptWithoutPlaces(kept));
-    const bool showsItself =
-        !scan.hasResult && (name == "EQ" || name == "SYMBOL" || !m_chosenEntry.isEmpty());
-    if (kept.isEmpty() || name == "HYPERLINK")
-        return;
-    if (showsItself)
-        m_ownField = QString::number(++m_fields) + NumberEnd + kept;
-    else if (scan.hasResult)
-        m_state.chars.field = m_names.kept(QString::number(++m_fields) + NumberEnd + kept);
-    else
-        anchor(u"{\\field"_s + kept + u"{\\fldrslt}}"_s);
-}
-
 void Interpreter::placeGroup(KeptPlace place, const QString& group) {
     switch (place) {
     case KeptPlace::Styles:
-        m_stylesKept = m_sink.takesStyles(group);
-        knowWhatIsStated();
+        if (m_headEnded)
+            return;
+        m_stylesKept = !group.isEmpty() && m_sink.takesStyles(group);
         m_parts.styles = group;
         return;
     case KeptPlace::Info:
@@ -213,6 +202,7 @@ void Interpreter::placeGroup(KeptPlace place, const QString& group) {
 void Interpreter::anchor(const QString& kept) {
     if (kept.isEmpty())
         return;
+    textComes();
     // It may stand in the next cell, or between the last one and the end of the row.
     if (!m_cellsEnded.empty()) {
         m_anchorsBehindCell += kept;
@@ -228,6 +218,7 @@ void Interpreter::anchor(const QString& kept) {
 
 /// What was gathered so far belongs to the section that ends; its words go on to hold.
 void Interpreter::sectionEnd() {
+    textComes();
     const bool paragraphEndedItself = !m_inParagraph && !std::exchange(m_boxEnded, false);
     if (m_inParagraph)
         paragraphEnd();
@@ -275,11 +266,10 @@ void Interpreter::tellKept() {
     m_parts.words = m_names.keptAt(m_kept.name(m_keptOfDocument));
     m_parts.furtherDefaults = furtherDefaults();
     m_parts.nameless = m_nameless;
-    m_parts.defaultFont = defaultFont();
+    m_parts.defaultFont = m_fonts.saidOfUsual();
     m_parts.oddFamilies = m_fonts.oddFamilies(m_names);
-    const FontTable::Font* unnamed = m_defaultFontSaid ? m_fonts.find(m_defaultFont) : nullptr;
-    if (unnamed && unnamed->family != NoName)
-        m_parts.unnamedFamily = m_names.familyAt(unnamed->family);
+    if (m_parts.defaultFont == DefaultFont::Named)
+        m_parts.unnamedFamily = m_names.familyAt(m_fonts.usual()->family);
     m_sink.kept(m_parts);
 }
 

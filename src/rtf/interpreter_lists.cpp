@@ -10,10 +10,12 @@ namespace orvalis::rtf {
 bool Interpreter::listWord(const Token& token) {
     switch (token.word->action) {
     case Action::List:
-        m_lists.beginList(keptOfLists(token));
+        if (m_state.destination == Destination::ListTable)
+            m_lists.beginList(keptOfLists(token));
         return true;
     case Action::ListOverrideEntry:
-        m_lists.beginOverride(keptOfLists(token));
+        if (m_state.destination == Destination::ListOverrideTable)
+            m_lists.beginOverride(keptOfLists(token));
         return true;
     case Action::ListOverrideLevel:
     case Action::ListIdentity:
@@ -96,14 +98,12 @@ bool Interpreter::numberingWord(const Token& token) {
 /// The list or override whose word has come, in the list tables.
 QString Interpreter::keptOfLists(const Token& token) {
     constexpr qint64 LongestList = 65536; // real ones have some thousand bytes
-    const bool inTable = m_state.destination == Destination::ListTable ||
-                         m_state.destination == Destination::ListOverrideTable;
-    if (!inTable || m_tokenizer.position() < m_listKeptTo)
+    if (m_tokenizer.position() < m_listKeptTo)
         return {};
     const QByteArrayView content = m_tokenizer.groupAhead();
     m_listKeptTo = m_tokenizer.position() + content.size();
     // Labels are told in the page of the document, whatever its fonts.
-    const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, NoName};
+    const FileTables tables = fileTables(nullptr);
     const QString kept =
         GroupKeeper(content, tables).kept("{\\", token.bytes, std::min(LongestList, m_keptLeft));
     m_keptLeft -= kept.size();

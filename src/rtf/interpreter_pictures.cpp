@@ -71,6 +71,7 @@ void Interpreter::deliverPicture() {
             m_sink.fallbackPicture(std::exchange(m_picture, {}));
         return;
     }
+    textComes();
     m_shapePictureShown = true;
     m_fieldText.clear();
     cellTabs(m_cellsEnded.size());

@@ -202,7 +202,7 @@ bool Interpreter::paragraphWord(const Token& token) {
             m_state.listOverride =
                 token.parameter == 0 && !m_lists.label(0, 0, false) ? NoList : token.parameter;
         else if (isInList())
-            m_lists.addOverride(token.parameter);
+            m_lists.setNumber(token.parameter);
         return true;
     case Action::ListLevel:
         m_state.listLevel = token.parameter;
@@ -237,18 +237,25 @@ void Interpreter::tabStop(int position) {
 
 void Interpreter::selectFont() {
     m_state.fontsVersion = m_fonts.version();
-    const FontTable::Font* font = m_fonts.find(m_state.font);
-    if (!font)
-        font = m_fonts.find(m_defaultFont);
+    const FontTable::Font* own = m_fonts.find(m_state.font);
+    const FontTable::Font* usual = m_fonts.usual();
     // Where the file names no font for such text it is for whoever shows it to choose one.
-    const bool chosen = font && (m_state.font != NoName || m_defaultFontSaid);
-    m_state.chars.family = chosen ? font->family : NoName;
+    const bool chosen = namesFont() || (usual && m_fonts.saidOfUsual() != DefaultFont::Unsaid);
+    const FontTable::Font* shown = namesFont() ? own : usual;
+    m_state.chars.family = chosen ? shown->family : NoName;
     m_state.chars.stated &= ~stated::Font;
-    m_state.chars.stated |= m_state.font == NoName ? 0 : stated::Font & m_countedOfCharacters;
-    m_state.symbols = chosen ? font->symbols : SymbolFont::None;
+    m_state.chars.stated |= namesFont() ? stated::Font & m_countedOfCharacters : 0;
+    m_state.symbols = chosen ? shown->symbols : SymbolFont::None;
+    const FontTable::Font* coded = own ? own : usual;
     const bool hasPage =
-        font && font->page && (chosen || font->page->symbols() == SymbolFont::None);
-    m_state.page = hasPage ? font->page : m_documentPage;
+        coded && coded->page && (chosen || coded->page->symbols() == SymbolFont::None);
+    m_state.page = hasPage ? coded->page : m_documentPage;
+}
+
+/// Whether the text names a font, and not only a number that stands for none.
+bool Interpreter::namesFont() const {
+    const FontTable::Font* font = m_fonts.find(m_state.font);
+    return font && font->family != NoName;
 }
 
 void Interpreter::plainCharacters() {
@@ -265,25 +272,8 @@ void Interpreter::plainCharacters() {
     m_state.rightToLeft = false;
     m_state.named = m_state.parted = false;
     m_state.deleted = false;
-    m_state.font = NoName;
+    m_state.font = NoFont;
     selectFont();
-}
-
-DefaultFont Interpreter::defaultFont() const {
-    if (!m_defaultFontSaid)
-        return DefaultFont::Unsaid;
-    return m_fonts.find(m_defaultFont) ? DefaultFont::Named : DefaultFont::Missing;
-}
-
-void Interpreter::knowWhatIsStated() {
-    m_countedOfCharacters = stated::countedOfCharacters(m_stylesKept, defaultFont());
-    m_countedOfParagraphs = stated::countedOfParagraphs(m_stylesKept, m_lists.any());
-}
-
-/// The characters, with whether anything is known of what is stated of them.
-CharFormat Interpreter::told(CharFormat chars) const {
-    chars.stated |= known();
-    return chars;
 }
 
 QRgb Interpreter::color(int index) const {

@@ -34,7 +34,7 @@ void Interpreter::keepShape(const Token& token) {
         m_state.inTable || m_state.chars.link != NoName || m_state.chars.field != NothingKept;
     if (scan.shows == ShapeScan::Shows::More || (scan.shows == ShapeScan::Shows::Text && asText))
         return;
-    const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, m_defaultFont};
+    const FileTables tables = fileTables(m_fonts.usual());
     const QString kept = GroupKeeper(scan.frame, tables).kept("{\\", token.bytes, m_keptLeft);
     m_keptLeft -= kept.size();
     if (kept.isEmpty())
@@ -43,6 +43,8 @@ void Interpreter::keepShape(const Token& token) {
         m_state.frame = m_names.kept(kept);
     } else if (scan.shows == ShapeScan::Shows::Text) {
         m_state.box = m_names.kept(QString::number(m_shapes) + NumberEnd + kept);
+        m_state.ownBox = m_state.box;
+        m_shapeDepth = m_groups.size();
     } else {
         skipGroup();
         anchor(kept);
@@ -54,7 +56,7 @@ void Interpreter::keepShape(const Token& token) {
 void Interpreter::keepFormula() {
     if (m_state.chars.field != NothingKept)
         return;
-    const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, m_defaultFont};
+    const FileTables tables = fileTables(m_fonts.usual());
     const QString kept =
         GroupKeeper(m_tokenizer.groupAhead(), tables).kept("{\\", "mmath", m_keptLeft);
     m_keptLeft -= kept.size();
@@ -72,30 +74,57 @@ void Interpreter::keepFormula() {
     m_state.chars.field = NothingKept;
 }
 
+/// The group of a box's text has begun.
+void Interpreter::expectBox() {
+    if (m_state.box == NothingKept || m_state.box == m_lastBox || m_boxDepth > 0)
+        return;
+    m_boxDepth = m_groups.size();
+    m_labelAround = std::exchange(m_label, {});
+}
+
 /// The text of a box has paragraphs of its own: that of the document which the box stands in is
 /// interrupted, or comes behind it.
 void Interpreter::beginBox() {
-    if (m_state.box == NothingKept || m_boxDepth > 0)
-        return;
     m_boxBehind = m_inParagraph || m_boxEnded;
     if (m_inParagraph) {
+        // In the shape that it has ahead of that of the box.
+        Group& around = m_groups[m_shapeDepth - 1];
+        m_boxBegins = true;
+        std::swap(m_state, around);
+        m_label.swap(m_labelAround);
         paragraphEnd();
-    } else if (!m_boxBehind) {
+        m_label.swap(m_labelAround);
+        std::swap(m_state, around);
+        m_boxBegins = false;
+    } else {
         m_anchorsAround = std::exchange(m_anchorsAtStart, {});
         m_pageBreakAround = std::exchange(m_pageBreak, false);
     }
     m_boxEnded = false;
-    m_boxDepth = m_groups.size();
+    m_boxIsOpen = true;
+    m_lastBox = m_state.box;
     m_boxHasParagraph = false;
 }
 
 void Interpreter::endBox() {
-    if (m_inParagraph || !m_boxHasParagraph)
+    if (m_boxIsOpen && (m_inParagraph || !m_boxHasParagraph))
         paragraphEnd();
     m_boxDepth = 0;
+    m_label = std::exchange(m_labelAround, {});
+    if (!std::exchange(m_boxIsOpen, false))
+        return;
     m_boxEnded = m_boxBehind;
     m_anchorsAtStart.prepend(std::exchange(m_anchorsAround, {}));
     m_pageBreak |= std::exchange(m_pageBreakAround, false);
+}
+
+/// A shape whose box brought no text is kept at its place.
+void Interpreter::shapeEnds() {
+    if (m_state.ownBox == m_lastBox)
+        return;
+    QString kept = m_names.keptAt(m_state.ownBox);
+    kept.remove(QLatin1StringView(ShapePlace.data(), ShapePlace.size()));
+    anchor(kept.sliced(kept.indexOf(NumberEnd) + 1));
 }
 
 /// Whether a paragraph ends with nothing behind the box that stands in it: what stands ahead of the
@@ -106,7 +135,7 @@ bool Interpreter::endsBehindBox() {
 }
 
 void Interpreter::shapeBesideBox() {
-    if (m_boxDepth > 0) {
+    if (m_boxIsOpen) {
         m_shaped.box = m_state.box;
         m_shaped.boxAhead = !m_boxBehind;
         return;

@@ -48,6 +48,7 @@ bool Interpreter::rowWord(const Token& token) {
         return true;
     case Action::CellEnd:
         if (shows()) {
+            textComes();
             if (!m_anchorsBehindCell.isEmpty())
                 cellTabs(m_cellsEnded.size());
             m_cellsEnded.push_back(m_state.chars);
@@ -208,7 +209,7 @@ void Interpreter::rowParagraphEnd(bool kept, bool outermost) {
 void Interpreter::keepNestedRow() {
     if (std::exchange(m_state.nested, true) || !shows())
         return;
-    const FileTables tables{m_fonts, m_colors, m_names, *m_documentPage, m_defaultFont};
+    const FileTables tables = fileTables(m_fonts.usual());
     m_nestedGroup =
         GroupKeeper(m_tokenizer.groupAhead(), tables).kept("{\\*\\", "nesttableprops", m_keptLeft);
     m_keptLeft -= m_nestedGroup.size();

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "rtf/interpreter.h"
+#include "rtf/list_formats.h"
 #include "rtf/look_words.h"
 
 #include <algorithm>
@@ -215,6 +216,7 @@ void Interpreter::unicode(int code) {
 }
 
 void Interpreter::prepareText() {
+    boxComes();
     m_fieldText.clear();
     if (!m_cellsEnded.empty())
         cellTabs(m_cellsEnded.size());
@@ -230,8 +232,10 @@ void Interpreter::prepareText() {
 }
 
 void Interpreter::beginText() {
-    if (!std::exchange(m_inParagraph, true))
-        m_afterAhead = m_state.paragraph.after;
+    if (std::exchange(m_inParagraph, true))
+        return;
+    m_afterAhead = m_state.paragraph.after;
+    m_afterSaidAhead = m_state.paragraph.stated & stated::After;
 }
 
 void Interpreter::flushText() {
@@ -241,6 +245,7 @@ void Interpreter::flushText() {
     }
     if (m_text.isEmpty())
         return;
+    headEnds();
     m_textFormat.stated |= known();
     m_sink.text(m_text, m_textFormat);
     m_text.resize(0);
@@ -248,6 +253,7 @@ void Interpreter::flushText() {
 }
 
 void Interpreter::paragraphEnd() {
+    textComes();
     if (endsBehindBox())
         return;
     cellTabs(m_cellsEnded.size());
@@ -269,11 +275,12 @@ void Interpreter::paragraphEnd() {
 }
 
 void Interpreter::pageEnd() {
+    textComes();
     const bool between = m_inParagraph || std::exchange(m_boxEnded, false);
     if (m_inParagraph)
         paragraphEnd();
     if (!m_pageBreak)
-        m_pageWord = between ? PageWord::Between : PageWord::InFront;
+        m_pageWord = between && !m_inRow ? PageWord::Between : PageWord::InFront;
     m_pageBreak = true;
 }
 
@@ -297,7 +304,7 @@ int Interpreter::lookOfParagraphMark() {
 
 const ParagraphFormat& Interpreter::shapedParagraph() {
     const bool ofRow = (m_rowEnds || m_state.inTable) && row() != NothingKept;
-    const bool besideBox = m_boxDepth > 0 || m_boxEnded;
+    const bool besideBox = m_boxIsOpen || m_boxEnded;
     const bool toldLate = !ofRow && m_inParagraph && m_state.paragraph.after != m_afterAhead;
     if (!ofRow && m_state.listOverride == NoList && m_label.isEmpty() && !m_pageBreak &&
         !m_sectionBegins && m_anchorsAtStart.isEmpty() && !besideBox && !toldLate) {
@@ -305,8 +312,10 @@ const ParagraphFormat& Interpreter::shapedParagraph() {
         return m_state.paragraph;
     }
     m_shaped = m_state.paragraph;
-    if (toldLate)
+    if (toldLate) {
         m_shaped.afterAhead = m_afterAhead;
+        m_shaped.stated = (m_shaped.stated & ~stated::After) | m_afterSaidAhead;
+    }
     if (m_pageBreak) {
         m_shaped.pageBreakBefore = true;
         m_shaped.pageWord = m_pageWord;
@@ -329,10 +338,14 @@ const ParagraphFormat& Interpreter::shapedParagraph() {
         list = m_labelList;
     else if (list.kind == ListKind::None && !ofRow) // cells end without a label
         list = labelFromText(m_label, m_labelSymbols, m_lastListKind);
+    else if (m_state.listOverride != NoList && ofRow)
+        list = {};
     else if (m_state.listOverride != NoList) // which goes before the other, though nobody knows it
         list.source = ListSource::Text;
+    list.showsStart |= list.source == ListSource::Numbering && !m_label.isEmpty() &&
+                       m_label == labelText(list, list.start).trimmed();
     m_lastListKind = m_shaped.list.kind;
-    if (list.kind != ListKind::None && m_inParagraph)
+    if (list.kind != ListKind::None && m_inParagraph && !m_boxBegins)
         m_shaped.mark = lookOfParagraphMark();
     if (besideBox)
         shapeBesideBox();

@@ -36,6 +36,7 @@ QString GroupKeeper::kept(QByteArrayView opening, QByteArrayView word, qsizetype
     Token token;
     for (m_tokenizer.next(token); token.kind != TokenKind::End; m_tokenizer.next(token)) {
         take(token);
+        m_starred = token.kind == TokenKind::Symbol && token.byte == '*';
         if (m_out.bytes().size() > limit || m_groups.size() > MostKeptGroups)
             return {};
     }
@@ -152,7 +153,7 @@ void GroupKeeper::word(const Token& token) {
         m_out.word("\\" + token.bytes.toByteArray());
         const bool known = token.parameter >= 0 && token.parameter < m_tables.colors.size();
         m_out.word(keptColor(known ? m_tables.colors[token.parameter] : AutomaticColor).toUtf8());
-    } else if (!isSessionMark(token.bytes)) {
+    } else if (m_starred || !isSessionMark(token.bytes)) {
         copy(token);
     }
 }
@@ -185,14 +186,8 @@ void GroupKeeper::selectFont(const Token& token) {
 
 /// Text behind it is of the file's default font.
 void GroupKeeper::plain() {
-    m_state.page = &m_tables.page;
-    m_state.symbols = false;
-    const FontTable::Font* font = m_tables.fonts.find(m_tables.defaultFont);
-    if (!font)
-        return;
-    if (font->page)
-        m_state.page = font->page;
-    m_state.symbols = font->symbols != SymbolFont::None;
+    m_state.page = &m_tables.usualPage;
+    m_state.symbols = m_tables.usualSymbols != SymbolFont::None;
 }
 
 void GroupKeeper::symbol(uchar character) {

@@ -18,7 +18,8 @@ struct FileTables {
     const QList<QRgb>& colors;
     const Names& names;
     const CodePage& page;
-    int defaultFont;
+    const CodePage& usualPage; ///< of text that names no font
+    SymbolFont usualSymbols;   ///< that its font is
 };
 
 /// Copies a group of RTF in the one spelling of what is kept (see kept_text.h): what is copied and
@@ -61,6 +62,7 @@ private:
     Group m_state;
     QByteArray m_pending;
     int m_fallbackToSkip = 0;
+    bool m_starred = false; ///< the word that comes next is that of a group that may be ignored
 };
 
 } // namespace orvalis::rtf

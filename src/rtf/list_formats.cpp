@@ -50,9 +50,10 @@ ListKind listKind(QTextListFormat::Style style) {
     }
 }
 
-/// The text before or behind the number, without what the list tables have no room for: codes below
-/// a blank stand for numbers there.
-QString cleanText(QString text) {
+} // namespace
+
+// Codes below a blank stand for numbers in the list tables.
+QString cleanLabel(QString text) {
     text.removeIf([](QChar c) {
         return c < u' ' || c == QChar::LineSeparator || c == QChar::ObjectReplacementCharacter;
     });
@@ -61,8 +62,6 @@ QString cleanText(QString text) {
         text.chop(1);
     return text;
 }
-
-} // namespace
 
 QTextListFormat listFormat(const ListLabel& label) {
     QTextListFormat list;
@@ -86,8 +85,8 @@ QTextListFormat listFormat(const ListLabel& label) {
             list.setNumberPrefix(label.prefix);
         return list;
     }
-    list.setNumberPrefix(cleanText(label.prefix));
-    list.setNumberSuffix(cleanText(label.suffix));
+    list.setNumberPrefix(cleanLabel(label.prefix));
+    list.setNumberSuffix(cleanLabel(label.suffix));
     if (label.start != 1)
         list.setProperty(ListStart, label.start);
     return list;
@@ -112,10 +111,10 @@ ListLabel labelOf(const QTextList& list) {
         return label;
     }
     label.identity = list.objectIndex() + 1;
-    label.prefix = cleanText(format.numberPrefix());
+    label.prefix = cleanLabel(format.numberPrefix());
     // A list that says nothing of it shows a dot behind its numbers.
     label.suffix = format.hasProperty(QTextFormat::ListNumberSuffix)
-                       ? cleanText(format.numberSuffix())
+                       ? cleanLabel(format.numberSuffix())
                        : QStringLiteral(".");
     if (format.hasProperty(ListStart))
         label.start = format.intProperty(ListStart);

@@ -24,6 +24,8 @@ void hideLabel(QTextBlockFormat& item);
 bool hidesLabel(const QTextBlockFormat& item);
 /// Takes that back from a block that is to join another list.
 void showLabel(QTextBlockFormat& item);
+/// The text ahead of a number or behind it, without what the list tables have no room for.
+QString cleanLabel(QString text);
 /// The label with a number.
 QString labelText(const ListLabel& label, int number);
 /// The label of an item, empty for a block that is none.

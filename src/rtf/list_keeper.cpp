@@ -54,8 +54,8 @@ bool ListKeeper::goesOn(const Entry& entry, const ParagraphFormat& item, bool ad
     }
     if (adjacent && label.numbering != 0 && label.numbering == m_last.numbering)
         return true;
-    const bool sameShape = adjacent && sameLabel(label, m_last) && label.start == m_last.start &&
-                           item.left == m_lastLeft;
+    const bool sameShape = adjacent && !label.showsStart && sameLabel(label, m_last) &&
+                           label.start == m_last.start && item.left == m_lastLeft;
     return sameShape || numberFollows(label, entry.label, entry.items);
 }
 

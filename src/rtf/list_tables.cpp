@@ -73,8 +73,8 @@ int romanValue(const QString& text) {
 ListLabel labelOfWord(const QString& label, qsizetype start, qsizetype end, ListKind previous) {
     const QString word = label.mid(start, end - start);
     ListLabel result;
-    result.prefix = label.first(start);
-    result.suffix = label.mid(end);
+    result.prefix = cleanLabel(label.first(start));
+    result.suffix = cleanLabel(label.mid(end));
     bool isNumber = false;
     const int number = word.toInt(&isNumber);
     if (isNumber && number >= 0 && number <= LargestListStart) {
@@ -102,43 +102,57 @@ ListLabel labelOfWord(const QString& label, qsizetype start, qsizetype end, List
 } // namespace
 
 void ListTables::beginList(const QString& kept) {
-    m_levels.clear();
-    m_kept = kept;
-    m_identity = 0;
-    m_overrideLevel = NoLevel;
+    endEntry();
+    m_entry.kept = kept;
 }
 
 void ListTables::beginOverride(const QString& kept) {
     beginList(kept);
-    m_starts.clear();
+    m_entry.isOverride = true;
+}
+
+void ListTables::endEntry() {
+    const Entry entry = std::exchange(m_entry, {});
+    if (entry.isOverride)
+        addOverride(entry);
+    else if (entry.identity && !entry.levels.isEmpty() && m_lists.size() < MostLists)
+        m_lists.insert(*entry.identity, List{entry.levels, numbered(*entry.identity, entry.kept)});
+}
+
+void ListTables::addOverride(const Entry& entry) {
+    if (!entry.number || m_overrides.size() >= MostLists || m_overrides.contains(*entry.number))
+        return;
+    const int identity = entry.identity.value_or(0);
+    const QString kept = numbered(*entry.number, entry.kept);
+    m_overrides.insert(*entry.number, Override{identity, entry.starts, entry.levels, kept});
+    // Items of the list are written with this override, so it must be one that is kept.
+    const bool isPlain = entry.starts.isEmpty() && entry.levels.isEmpty() && !kept.isEmpty();
+    if (isPlain && !m_plainOverrides.contains(identity))
+        m_plainOverrides.insert(identity, *entry.number);
 }
 
 void ListTables::beginOverrideLevel() {
-    m_overrideLevel = std::min<int>(m_overrideLevel + 1, MostLevels);
+    m_entry.overrideLevel = std::min<int>(m_entry.overrideLevel + 1, MostLevels);
 }
 
 void ListTables::beginLevel() {
-    const int level = m_overrideLevel == NoLevel ? int(m_levels.size()) : m_overrideLevel;
-    if (m_levels.size() >= MostLevels)
+    const int level =
+        m_entry.overrideLevel == NoLevel ? int(m_entry.levels.size()) : m_entry.overrideLevel;
+    if (m_entry.levels.size() >= MostLevels)
         return;
     ListLabel label;
     label.kind = ListKind::Decimal;
     label.level = level;
-    m_levels.append(label);
-    m_bullet.clear();
-    m_bulletFont = SymbolFont::None;
+    m_entry.levels.append(label);
+    m_entry.bullet.clear();
+    m_entry.bulletFont = SymbolFont::None;
 }
 
 ListLabel* ListTables::openLevel() {
-    const bool open = !m_levels.isEmpty() &&
-                      (m_overrideLevel == NoLevel || m_levels.last().level == m_overrideLevel);
-    return open ? &m_levels.last() : nullptr;
-}
-
-void ListTables::setIdentity(int identity) {
-    m_identity = identity;
-    if (!m_levels.isEmpty() && m_lists.size() < MostLists)
-        m_lists.insert(identity, List{std::exchange(m_levels, {}), numbered(identity, m_kept)});
+    const bool open =
+        !m_entry.levels.isEmpty() &&
+        (m_entry.overrideLevel == NoLevel || m_entry.levels.last().level == m_entry.overrideLevel);
+    return open ? &m_entry.levels.last() : nullptr;
 }
 
 void ListTables::setLevelKind(int format) {
@@ -150,8 +164,8 @@ void ListTables::setLevelStart(int start) {
     start = std::clamp(start, 0, LargestListStart);
     if (ListLabel* level = openLevel())
         level->start = start;
-    else if (m_overrideLevel != NoLevel)
-        m_starts.insert(m_overrideLevel, start);
+    else if (m_entry.overrideLevel != NoLevel)
+        m_entry.starts.insert(m_entry.overrideLevel, start);
 }
 
 void ListTables::setLevelFollow(int follow) {
@@ -181,8 +195,8 @@ void ListTables::setLevelText(const QString& text) {
     // The first character counts the others; what follows them is the closing semicolon.
     const QString label = text.mid(1, text.front().unicode());
     if (level->kind == ListKind::Bullet) {
-        m_bullet = label;
-        level->prefix = bulletSign(m_bullet, m_bulletFont);
+        m_entry.bullet = label;
+        level->prefix = bulletSign(m_entry.bullet, m_entry.bulletFont);
         return;
     }
     const qsizetype number = label.indexOf(QChar(own));
@@ -199,24 +213,10 @@ void ListTables::setLevelText(const QString& text) {
 }
 
 void ListTables::setLevelFont(SymbolFont font) {
-    m_bulletFont = font;
+    m_entry.bulletFont = font;
     ListLabel* level = openLevel();
     if (level && level->kind == ListKind::Bullet)
-        level->prefix = bulletSign(m_bullet, font);
-}
-
-void ListTables::addOverride(int number) {
-    if (m_overrides.size() < MostLists && !m_overrides.contains(number)) {
-        m_overrides.insert(number,
-                           Override{m_identity, m_starts, m_levels, numbered(number, m_kept)});
-        // Items of the list are written with this override, so it must be one that is kept.
-        const bool plain = m_starts.isEmpty() && m_levels.isEmpty() && !m_kept.isEmpty();
-        if (plain && !m_plainOverrides.contains(m_identity))
-            m_plainOverrides.insert(m_identity, number);
-    }
-    m_starts.clear();
-    m_levels.clear();
-    m_overrideLevel = NoLevel;
+        level->prefix = bulletSign(m_entry.bullet, font);
 }
 
 std::optional<ListLabel> ListTables::label(int overrideNumber, int level, bool numbered) const {
@@ -264,6 +264,7 @@ ListLabel labelFromText(const QString& text, SymbolFont font, ListKind previous)
         ListLabel numbered =
             labelOfWord(label, start - label.begin(), end - label.begin(), previous);
         numbered.source = ListSource::Text;
+        numbered.showsStart = true;
         if (start < end && numbered.kind != ListKind::None)
             return numbered;
     }

@@ -24,8 +24,12 @@ public:
     void beginOverride(const QString& kept);
     /// An override may let its levels begin at numbers of their own, and give them a label.
     void beginOverrideLevel();
-    /// \param identity of the list one stands in, or the one that the next override stands for.
-    void setIdentity(int identity);
+    /// Ends the list or override that was begun last, which counts from then on.
+    void endEntry();
+    /// \param identity of the list that was begun, or the one that the override stands for.
+    void setIdentity(int identity) { m_entry.identity = identity; }
+    /// \param number of the override, by which paragraphs name it.
+    void setNumber(int number) { m_entry.number = number; }
     /// \param format as \levelnfc numbers it.
     void setLevelKind(int format);
     void setLevelStart(int start);
@@ -39,7 +43,6 @@ public:
     void setLevelText(const QString& text);
     /// \param font with signs that the label is in; none for letters.
     void setLevelFont(SymbolFont font);
-    void addOverride(int number);
 
     /// Whether there are overrides.
     bool any() const { return !m_overrides.isEmpty(); }
@@ -59,18 +62,25 @@ private:
         Levels labels;
         QString kept;
     };
+    /// A list or an override that is read.
+    struct Entry {
+        bool isOverride = false;
+        std::optional<int> identity;
+        std::optional<int> number;
+        int overrideLevel = NoLevel;
+        QHash<int, int> starts;
+        Levels levels;
+        QString kept;
+        QString bullet; ///< of the last level, as the file has it
+        SymbolFont bulletFont = SymbolFont::None;
+    };
+    void addOverride(const Entry& entry);
     ListLabel* openLevel();
 
     QHash<int, List> m_lists;
     QHash<int, Override> m_overrides;
     QHash<int, int> m_plainOverrides; ///< by the list: the first one that changes nothing of it
-    Levels m_levels;
-    QString m_kept; ///< of the list or override that is read
-    QHash<int, int> m_starts;
-    QString m_bullet; ///< of the level that is read, as the file has it
-    SymbolFont m_bulletFont = SymbolFont::None;
-    int m_identity = 0;
-    int m_overrideLevel = NoLevel;
+    Entry m_entry;
 };
 
 /// What a literal label, as \pntext has it, says about the list; kind None for no label at all.

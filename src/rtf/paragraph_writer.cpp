@@ -74,6 +74,12 @@ void ParagraphWriter::begin(const ParagraphFormat& paragraph, int number) {
     const ListSource source = paragraph.list.source;
     const bool counts = kind != ListKind::None && kind != ListKind::Bullet &&
                         source != ListSource::Tables && source != ListSource::Text;
+    // The shape says nothing of the mark's look, of how a page is told to begin, or of what is
+    // ahead.
+    m_last.mark = paragraph.mark;
+    m_last.goesOn = paragraph.goesOn;
+    if (m_last.pageWord != PageWord::OfParagraph && paragraph.pageWord != PageWord::OfParagraph)
+        m_last.pageWord = paragraph.pageWord;
     const bool goesOn = m_any && paragraph == m_last && (!counts || number == m_lastNumber + 1);
     m_lastNumber = number;
     ListLabel shown = paragraph.list;

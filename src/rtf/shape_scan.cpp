@@ -30,6 +30,10 @@ bool endsOrShapes(Action action) {
     }
 }
 
+bool isLineEnd(const Token& token) {
+    return token.kind == TokenKind::Symbol && (token.byte == '\r' || token.byte == '\n');
+}
+
 /// Reads the tokens of a shape once, with an eye on its texts and pictures.
 class ShapeTokens {
 public:
@@ -41,6 +45,10 @@ public:
         Token token;
         for (m_tokenizer.next(token); token.kind != TokenKind::End; m_tokenizer.next(token)) {
             take(token);
+            const bool isBlank = token.kind == TokenKind::Text && token.bytes.trimmed().isEmpty();
+            const bool isContent = token.kind == TokenKind::Word || isCharacters(token);
+            if (isContent && !isBlank && !m_groups.empty())
+                m_groups.back().begins = false;
             m_starred = token.kind == TokenKind::Symbol && token.byte == '*';
         }
         ShapeScan scan;
@@ -60,11 +68,15 @@ private:
     struct Group {
         qsizetype start = 0;
         bool shown = true;
+        bool begins = true; ///< its first word is still to come
     };
 
     void take(const Token& token) {
+        m_loose |= isCharacters(token) && shownHere();
         switch (token.kind) {
         case TokenKind::GroupStart:
+            if (!m_groups.empty())
+                m_groups.back().begins = false;
             m_groups.push_back({m_tokenizer.position() - 1, shownHere()});
             return;
         case TokenKind::GroupEnd:
@@ -72,20 +84,24 @@ private:
                 m_groups.pop_back();
             return;
         case TokenKind::Word:
-            if (token.word &&
-                (token.word->action == Action::Character || token.word->action == Action::Unicode))
-                m_loose |= shownHere();
+            m_loose |= token.word && endsOrShapes(token.word->action) && shownHere();
             if (!m_groups.empty())
                 word(token);
+            else if (token.word)
+                m_loose |= opensHere(token.word->action);
             return;
-        case TokenKind::Text:
-        case TokenKind::Byte:
-        case TokenKind::Zero:
-            m_loose |= shownHere();
+        case TokenKind::Symbol:
+            m_loose |= isLineEnd(token) && shownHere();
             return;
         default:
             return;
         }
+    }
+
+    /// Whether a word makes something else of the shape's own group.
+    static bool opensHere(Action action) {
+        return action == Action::PictureGroup || action == Action::ShapeText ||
+               (hidesText(action) && action != Action::ShapeInstruction);
     }
 
     /// Whether text that stands here is text of the document.
@@ -93,9 +109,10 @@ private:
 
     void word(const Token& token) {
         const Action action = token.word ? token.word->action : Action::Version;
+        // In the middle of a group it would not be read as what it says.
+        m_loose |= isDestination(action) && !m_groups.back().begins;
         if (hidesText(action) || (m_starred && !token.word))
             m_groups.back().shown = false;
-        m_loose |= endsOrShapes(action) && shownHere();
         if (action == Action::ShapeText)
             text();
         else if (action == Action::ShapePropertyName)
@@ -112,8 +129,9 @@ private:
 
     /// What fills an area, say, is none that the text shows.
     void picture() {
-        m_loose |= m_property.isEmpty();
-        if (m_property == ShownPicture)
+        const bool fills = m_property != ShownPicture;
+        m_loose |= m_property.isEmpty() || (fills && shownHere());
+        if (!fills)
             pass(m_pictures);
     }
 
@@ -138,24 +156,27 @@ private:
         bool any = false;
         bool ended = false;
         bool starred = false;
+        bool begins = true; // the group: its first word may make it something else than text
         for (inner.next(token); token.kind != TokenKind::End; inner.next(token)) {
-            const bool isUnknown = token.kind == TokenKind::Word && !token.word;
-            if (std::exchange(starred, false) && isUnknown)
+            const bool isWord = token.kind == TokenKind::Word;
+            const Action action = isWord && token.word ? token.word->action : Action::Version;
+            const bool hides = isWord && (token.word ? begins && hidesText(action) : starred);
+            if (hides)
                 inner.skipGroup();
             starred = token.kind == TokenKind::Symbol && token.byte == '*';
             end = inner.position();
-            const bool isWord = token.kind == TokenKind::Word && token.word;
-            const Action action = isWord ? token.word->action : Action::Version;
-            const bool shown = token.kind == TokenKind::Text || token.kind == TokenKind::Byte ||
-                               action == Action::Character || action == Action::Unicode ||
-                               action == Action::PictureGroup || action == Action::CellEnd;
+            const bool shown = !hides && (isCharacters(token) || action == Action::PictureGroup ||
+                                          action == Action::CellEnd);
+            begins = token.kind == TokenKind::GroupStart ||
+                     (begins && !shown && !hides && token.kind != TokenKind::GroupEnd);
             any |= shown;
-            if (action == Action::ParagraphEnd)
+            if (action == Action::ParagraphEnd || isLineEnd(token))
                 ended = true;
             else if (shown)
                 ended = false;
         }
         passGroup();
+        m_hasEmptyText |= !any && ended;
         if (!any)
             return;
         m_texts.push_back({from, from + end});
@@ -163,9 +184,11 @@ private:
     }
 
     ShapeScan::Shows shows() const {
-        if (m_loose || m_texts.size() + m_pictures.size() > 1 || m_content.contains(ShapePlace))
+        const size_t shown = m_texts.size() + m_pictures.size();
+        // A box without text would add its paragraph to what is shown.
+        if (m_loose || shown > 1 || (m_hasEmptyText && shown > 0) || m_content.contains(ShapePlace))
             return ShapeScan::Shows::More;
-        if (m_texts.empty() && m_pictures.empty())
+        if (shown == 0)
             return ShapeScan::Shows::Nothing;
         return m_texts.empty() ? ShapeScan::Shows::Picture : ShapeScan::Shows::Text;
     }
@@ -203,6 +226,7 @@ private:
     QByteArrayView m_property;   ///< the name of the one that came last
     bool m_starred = false;      ///< the group that begins
     bool m_textEnds = false;     ///< with a paragraph
+    bool m_hasEmptyText = false; ///< one that has paragraphs all the same
     bool m_loose = false;        ///< something shows that stands in no part of a shape
 };
 

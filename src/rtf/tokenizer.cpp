@@ -34,6 +34,22 @@ constexpr int LongestControlWord = 32;
 
 } // namespace
 
+bool isCharacters(const Token& token) {
+    switch (token.kind) {
+    case TokenKind::Text:
+    case TokenKind::Zero:
+    case TokenKind::Byte:
+        return true;
+    case TokenKind::Symbol:
+        return token.byte == '~' || token.byte == '-' || token.byte == '_' || token.byte == '\t';
+    case TokenKind::Word:
+        return token.word &&
+               (token.word->action == Action::Character || token.word->action == Action::Unicode);
+    default:
+        return false;
+    }
+}
+
 void Tokenizer::next(Token& token) {
     while (m_at != m_end) {
         const uchar c = *m_at;

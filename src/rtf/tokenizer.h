@@ -31,6 +31,9 @@ struct Token {
     QByteArrayView bytes;              ///< of Text and Binary; the name of a Word
 };
 
+/// Whether the token stands for characters, where it stands in text.
+bool isCharacters(const Token& token);
+
 /// Cuts bytes into tokens. It copies nothing, and never reads past the end.
 class Tokenizer {
 public:

@@ -311,15 +311,19 @@ private:
 
     // And so do paragraphs. A list is named by the format of its items.
     const ParagraphFormat& shape(const QTextBlock& block) {
-        const int index = block.blockFormatIndex();
-        const auto known = m_shapes.find(index);
+        const bool isEmpty = block.length() == 1;
+        const int key = 2 * block.blockFormatIndex() + (isEmpty ? 1 : 0);
+        const auto known = m_shapes.find(key);
         if (known != m_shapes.end())
             return known->second;
         if (m_shapes.size() >= MostShapes)
             m_shapes.clear();
-        ParagraphFormat& shape = m_shapes[index];
+        ParagraphFormat& shape = m_shapes[key];
         shape = paragraphFormat(block.blockFormat(), block.textList(), m_document.indentWidth(),
                                 m_body.names());
+        // There is no place behind the text of a paragraph that has none.
+        if (isEmpty)
+            shape.afterAhead = NoLength;
         ListLabel& list = shape.list;
         if (list.source == ListSource::Text && !isToldByText(*block.textList()))
             list.source = ListSource::Made;

@@ -1,0 +1,163 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/list_formats.h"
+#include "rtf/reader.h"
+#include "rtf/writer.h"
+#include "support/test_main.h"
+
+#include <QGuiApplication>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextList>
+
+using namespace orvalis;
+using namespace orvalis::rtf;
+
+namespace {
+
+const QByteArray Fonts = "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 One;}{\\f1 Two;}{\\f2;}}";
+
+void readFile(QTextDocument& document, const QByteArray& body) {
+    QVERIFY(readRtf(Fonts + body + "}", document).ok());
+    // Whatever stands in the wrong place, what was read is written so that it is read the same.
+    const QByteArray written = writeRtf(document);
+    QTextDocument again;
+    readRtf(written, again);
+    QCOMPARE(again.toRawText(), document.toRawText());
+    QCOMPARE(writeRtf(again), written);
+}
+
+QString familyOf(QTextDocument& document, const QString& text) {
+    return document.find(text).charFormat().fontFamilies().toStringList().value(0);
+}
+
+QByteArray item(const QByteArray& label, const QByteArray& start) {
+    return "\\pard{\\pntext " + label + "\\tab}{\\*\\pn\\pnlvlbody\\pnstart" + start +
+           "\\pndec{\\pntxta .}}x\\par";
+}
+
+} // namespace
+
+/// Files say things in places where they mean nothing, or where they come too late.
+class OutOfPlaceTest : public QObject {
+    Q_OBJECT
+private slots:
+    void theFontOfTextThatNamesNoneIsSettledWithTheFirstText();
+    void aFontThatIsToldAheadOfTheTextHoldsForAllOfIt();
+    void aFontWithoutANameIsThatOfTextThatNamesNone();
+    void stylesBehindTextComeTooLate();
+    void whatAnInstructionSaysOfTheDocumentMeansNothing();
+    void aNumberThatItsLabelShowsBeginsAnew();
+    void aNumberThatItsLabelDoesNotShowGoesOn();
+    void theTextOfALabelBeginsAnewWhateverCameBefore();
+    void aBoxThatBringsNoTextStaysAtItsPlace();
+    void aLabelInABoxIsThatOfItsParagraph();
+    void anEquationWhoseWordIsNotTheFirstIsKeptByWhatItShows();
+    void aListWithoutAnOverrideToKeepIsWritten();
+    void wordsOfALevelBehindTheNumberOfItsListCount();
+};
+
+void OutOfPlaceTest::theFontOfTextThatNamesNoneIsSettledWithTheFirstText() {
+    QTextDocument document;
+    readFile(document, "a\\par\\deff1 b{\\fonttbl{\\f0 Three;}}\\plain c");
+    QCOMPARE(familyOf(document, QStringLiteral("a")), QStringLiteral("One"));
+    QCOMPARE(familyOf(document, QStringLiteral("b")), QStringLiteral("One"));
+    QCOMPARE(familyOf(document, QStringLiteral("c")), QStringLiteral("One"));
+}
+
+void OutOfPlaceTest::aFontThatIsToldAheadOfTheTextHoldsForAllOfIt() {
+    QTextDocument document;
+    readFile(document, "{\\b\\deff1 a}b");
+    QCOMPARE(familyOf(document, QStringLiteral("a")), QStringLiteral("Two"));
+    QCOMPARE(familyOf(document, QStringLiteral("b")), QStringLiteral("Two"));
+}
+
+void OutOfPlaceTest::aFontWithoutANameIsThatOfTextThatNamesNone() {
+    QTextDocument document;
+    readFile(document, "\\f1 a\\f2 b");
+    QCOMPARE(familyOf(document, QStringLiteral("a")), QStringLiteral("Two"));
+    QCOMPARE(familyOf(document, QStringLiteral("b")), QStringLiteral("One"));
+}
+
+void OutOfPlaceTest::stylesBehindTextComeTooLate() {
+    QTextDocument document;
+    readFile(document, "a\\par\\sa20{\\stylesheet{\\s1 b;}}");
+    QVERIFY(!writeRtf(document).contains("stylesheet"));
+    readFile(document, " \\sa20{\\stylesheet{\\s1 b;}}\\b a");
+    QVERIFY(writeRtf(document).contains("{\\stylesheet{\\s1 b;}}"));
+}
+
+void OutOfPlaceTest::whatAnInstructionSaysOfTheDocumentMeansNothing() {
+    QTextDocument document;
+    readFile(document, "{\\field{\\*\\fldinst PAGE\\deftab99\\deff1\\sectd}{\\fldrslt 3}}");
+    QCOMPARE(familyOf(document, QStringLiteral("3")), QStringLiteral("One"));
+    QVERIFY(writeRtf(document).startsWith("{\\rtf1\\ansi\\ansicpg1252\\deff0\\deflang1033{"));
+    QCOMPARE(document.defaultTextOption().tabStopDistance(), 48.0);
+}
+
+void OutOfPlaceTest::aNumberThatItsLabelShowsBeginsAnew() {
+    QTextDocument document;
+    readFile(document, item("1.", "1") + item("2.", "2") + item("1.", "1"));
+    QCOMPARE(shownLabel(document.findBlockByNumber(1)), QStringLiteral("2."));
+    QCOMPARE(shownLabel(document.findBlockByNumber(2)), QStringLiteral("1."));
+    readFile(document, item("1.", "1") + item("1.", "1"));
+    QCOMPARE(shownLabel(document.findBlockByNumber(1)), QStringLiteral("1."));
+}
+
+void OutOfPlaceTest::aNumberThatItsLabelDoesNotShowGoesOn() {
+    QTextDocument document;
+    readFile(document, item("1.", "1") + item("2.", "1"));
+    QCOMPARE(shownLabel(document.findBlockByNumber(1)), QStringLiteral("2."));
+    QCOMPARE(document.lastBlock().textList(), document.firstBlock().textList());
+}
+
+void OutOfPlaceTest::theTextOfALabelBeginsAnewWhateverCameBefore() {
+    QTextDocument document;
+    readFile(document, "{\\pntext b)\\tab}x\\par{\\pntext b)\\tab}x\\par{\\pntext c)\\tab}x\\par");
+    QCOMPARE(shownLabel(document.firstBlock()), QStringLiteral("b)"));
+    QCOMPARE(shownLabel(document.findBlockByNumber(1)), QStringLiteral("b)"));
+    QCOMPARE(shownLabel(document.findBlockByNumber(2)), QStringLiteral("c)"));
+}
+
+void OutOfPlaceTest::aBoxThatBringsNoTextStaysAtItsPlace() {
+    QTextDocument document;
+    readFile(document, "a{\\shp{\\*\\shpinst{\\shptxt{\\deleted x}}}}b");
+    QCOMPARE(document.toPlainText(), QStringLiteral("ab"));
+    QVERIFY(writeRtf(document).contains("a{\\shp{\\*\\shpinst{\\shptxt}}}b"));
+}
+
+void OutOfPlaceTest::aLabelInABoxIsThatOfItsParagraph() {
+    QTextDocument document;
+    readFile(document, "a{\\shp{\\*\\shpinst{\\shptxt\\pard{\\pntext -\\tab}b\\par}}}\\par");
+    QCOMPARE(shownLabel(document.firstBlock()), QString());
+    QCOMPARE(shownLabel(document.findBlockByNumber(1)), QStringLiteral("-"));
+    readFile(document, "{\\pntext -\\tab}{\\shp{\\*\\shpinst{\\shptxt\\pard b\\par}}}a\\par");
+    QCOMPARE(shownLabel(document.firstBlock()), QString());
+    QCOMPARE(shownLabel(document.findBlockByNumber(1)), QStringLiteral("-"));
+}
+
+void OutOfPlaceTest::anEquationWhoseWordIsNotTheFirstIsKeptByWhatItShows() {
+    QTextDocument document;
+    readFile(document, "a{\\field{\\*\\fldinst EQ(b)}{\\fldrslt}}");
+    QCOMPARE(document.toPlainText(), QStringLiteral("a(b)"));
+    QCOMPARE(writeRtf(document).count("fldinst"), 1);
+}
+
+void OutOfPlaceTest::aListWithoutAnOverrideToKeepIsWritten() {
+    QTextDocument document;
+    readFile(document, "{\\*\\listtable{\\list{\\listlevel\\levelnfc0}\\listid1}}"
+                       "{\\*\\listoverridetable{\\listoverride{\\listoverride\\listid1\\ls1}}"
+                       "{\\listoverride\\listid1\\ls2}}\\ls2 x\\par");
+    QCOMPARE(shownLabel(document.firstBlock()), QStringLiteral("1"));
+}
+
+void OutOfPlaceTest::wordsOfALevelBehindTheNumberOfItsListCount() {
+    QTextDocument document;
+    readFile(document, "{\\*\\listtable{\\list{\\listlevel\\listid1\\levelnfc2}}}"
+                       "{\\*\\listoverridetable{\\listoverride\\listid1\\ls1}}\\ls1 x\\par");
+    QCOMPARE(shownLabel(document.firstBlock()), QStringLiteral("i"));
+}
+
+ORVALIS_TEST_MAIN_WITH(QGuiApplication, OutOfPlaceTest)
+#include "out_of_place_test.moc"

@@ -108,6 +108,8 @@ QString Interpreter::lookOfMark() const {
     look.stated = m_state.chars.stated;
     look.anchors = m_state.chars.anchors;
     look.cell = m_state.chars.cell;
+    look.link = m_state.chars.link;
+    look.field = m_state.chars.field;
     look.byNumber = m_state.chars.byNumber;
     if ((m_text.isEmpty() && !isBehindCell) || look != m_state.chars)
         return u'{' + keptLook(told(m_state.chars), m_names);

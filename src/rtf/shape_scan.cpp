@@ -46,7 +46,8 @@ public:
         for (m_tokenizer.next(token); token.kind != TokenKind::End; m_tokenizer.next(token)) {
             take(token);
             const bool isBlank = token.kind == TokenKind::Text && token.bytes.trimmed().isEmpty();
-            const bool isContent = token.kind == TokenKind::Word || isCharacters(token);
+            const bool isContent =
+                token.kind == TokenKind::Word || isCharacters(token) || isLineEnd(token);
             if (isContent && !isBlank && !m_groups.empty())
                 m_groups.back().begins = false;
             m_starred = token.kind == TokenKind::Symbol && token.byte == '*';
@@ -111,6 +112,8 @@ private:
         const Action action = token.word ? token.word->action : Action::Version;
         // In the middle of a group it would not be read as what it says.
         m_loose |= isDestination(action) && !m_groups.back().begins;
+        // What is kept of the document, or anchored to its text, is none of the frame.
+        m_loose |= action == Action::KeepGroup && shownHere();
         if (hidesText(action) || (m_starred && !token.word))
             m_groups.back().shown = false;
         if (action == Action::ShapeText)

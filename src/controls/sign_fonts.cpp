@@ -3,6 +3,7 @@
 #include "controls/sign_fonts.h"
 
 #include <QFont>
+#include <QStringList>
 
 using namespace Qt::StringLiterals;
 

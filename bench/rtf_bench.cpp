@@ -3,10 +3,10 @@
 //
 // rtf_bench: the speed of the RTF reader and writer, beside a bare cursor and beside unrtf where
 // it is installed, and how it holds as documents grow.
-#include "rtf/block_formats.h"
+#include "rtf/formats/block_formats.h"
+#include "rtf/formats/text_formats.h"
 #include "rtf/reader.h"
-#include "rtf/sink.h"
-#include "rtf/text_formats.h"
+#include "rtf/reading/sink.h"
 #include "rtf/writer.h"
 #include "support/test_main.h"
 #include "timing.h"

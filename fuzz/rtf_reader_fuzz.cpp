@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "rtf/reader.h"
-#include "rtf/sink.h"
+#include "rtf/reading/sink.h"
 #include "rtf/writer.h"
 
 #include <QGuiApplication>

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "controls/control_marks.h"
 #include "controls/html_import.h"
-#include "rtf/document_height.h"
-#include "rtf/document_room.h"
-#include "rtf/format_heights.h"
 #include "rtf/reader.h"
-#include "rtf/uneven_words.h"
+#include "rtf/room/document_height.h"
+#include "rtf/room/document_room.h"
+#include "rtf/room/format_heights.h"
+#include "rtf/room/uneven_words.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QFile>

@@ -3,8 +3,8 @@
 #include "controls/control_marks.h"
 
 #include "controls/selection_format.h"
-#include "rtf/control_marks.h"
-#include "rtf/intake.h"
+#include "rtf/characters/control_marks.h"
+#include "rtf/room/intake.h"
 
 #include <QTextBlock>
 #include <QTextCharFormat>

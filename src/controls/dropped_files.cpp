@@ -4,7 +4,7 @@
 
 #include "controls/control_marks.h"
 #include "controls/document_reading.h"
-#include "rtf/picture_format.h"
+#include "rtf/pictures/picture_format.h"
 #include "runtime/failure.h"
 #include "runtime/files.h"
 

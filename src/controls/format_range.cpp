@@ -10,9 +10,9 @@
 #include "controls/small_capitals.h"
 #include "controls/tab_leaders.h"
 #include "controls/text_positions.h"
-#include "rtf/document_height.h"
-#include "rtf/format_properties.h"
-#include "rtf/paragraph_place.h"
+#include "rtf/formats/format_properties.h"
+#include "rtf/formats/paragraph_place.h"
+#include "rtf/room/document_height.h"
 #include "runtime/failure.h"
 #include "runtime/twips.h"
 

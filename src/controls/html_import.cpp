@@ -6,10 +6,10 @@
 #include "controls/document_reading.h"
 #include "controls/html_bound.h"
 #include "controls/selection_format.h"
-#include "rtf/document_room.h"
-#include "rtf/intake.h"
-#include "rtf/list_formats.h"
-#include "rtf/picture_format.h"
+#include "rtf/formats/list_formats.h"
+#include "rtf/pictures/picture_format.h"
+#include "rtf/room/document_room.h"
+#include "rtf/room/intake.h"
 
 #include <QTextBlock>
 #include <QTextCursor>

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "controls/list_numbers.h"
 
-#include "rtf/format_properties.h"
-#include "rtf/list_formats.h"
-#include "rtf/paragraph_place.h"
+#include "rtf/formats/format_properties.h"
+#include "rtf/formats/list_formats.h"
+#include "rtf/formats/paragraph_place.h"
 
 #include <QPainter>
 #include <QTextBlock>

@@ -3,8 +3,8 @@
 #include "controls/load_picture.h"
 
 #include "controls/document_reading.h"
-#include "rtf/picture_format.h"
-#include "rtf/picture_image.h"
+#include "rtf/pictures/picture_format.h"
+#include "rtf/pictures/picture_image.h"
 #include "runtime/failure.h"
 #include "runtime/files.h"
 

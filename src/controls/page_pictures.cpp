@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/page_pictures.h"
 
-#include "rtf/format_properties.h"
+#include "rtf/formats/format_properties.h"
 
 #include <QFontMetricsF>
 #include <QImage>

@@ -6,8 +6,8 @@
 #include "controls/document_reading.h"
 #include "controls/dropped_files.h"
 #include "controls/html_import.h"
-#include "rtf/format_properties.h"
-#include "rtf/picture_format.h"
+#include "rtf/formats/format_properties.h"
+#include "rtf/pictures/picture_format.h"
 #include "rtf/reader.h"
 #include "rtf/writer.h"
 

@@ -6,7 +6,7 @@
 #include "controls/rich_text_box.h"
 #include "controls/selection_format.h"
 #include "controls/text_positions.h"
-#include "rtf/kept_parts.h"
+#include "rtf/kept/kept_parts.h"
 #include "rtf/reader.h"
 #include "rtf/writer.h"
 #include "runtime/text_file.h"

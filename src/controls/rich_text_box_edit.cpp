@@ -7,12 +7,12 @@
 #include "controls/rich_text_box.h"
 #include "controls/selection_format.h"
 #include "controls/text_positions.h"
-#include "rtf/control_marks.h"
-#include "rtf/document_room.h"
-#include "rtf/format_properties.h"
-#include "rtf/intake.h"
-#include "rtf/picture_format.h"
-#include "rtf/symbol_font.h"
+#include "rtf/characters/control_marks.h"
+#include "rtf/characters/symbol_font.h"
+#include "rtf/formats/format_properties.h"
+#include "rtf/pictures/picture_format.h"
+#include "rtf/room/document_room.h"
+#include "rtf/room/intake.h"
 #include "runtime/failure.h"
 
 #include <QApplication>

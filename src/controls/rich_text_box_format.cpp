@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/rich_text_box.h"
 #include "controls/selection_format.h"
-#include "rtf/document_room.h"
+#include "rtf/room/document_room.h"
 #include "runtime/colour.h"
 #include "runtime/failure.h"
 #include "runtime/twips.h"

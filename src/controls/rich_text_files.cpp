@@ -3,8 +3,8 @@
 #include "controls/rich_text_files.h"
 
 #include "controls/rich_text_box.h"
-#include "rtf/document_room.h"
 #include "rtf/reader.h"
+#include "rtf/room/document_room.h"
 #include "rtf/writer.h"
 #include "runtime/ansi_page.h"
 #include "runtime/failure.h"

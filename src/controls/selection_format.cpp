@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "controls/selection_format.h"
 
-#include "rtf/block_formats.h"
-#include "rtf/document_room.h"
-#include "rtf/format_properties.h"
-#include "rtf/format_readers.h"
-#include "rtf/list_formats.h"
-#include "rtf/paragraph_place.h"
+#include "rtf/formats/block_formats.h"
+#include "rtf/formats/format_properties.h"
+#include "rtf/formats/format_readers.h"
+#include "rtf/formats/list_formats.h"
+#include "rtf/formats/paragraph_place.h"
+#include "rtf/room/document_room.h"
 #include "runtime/colour.h"
 #include "runtime/twips.h"
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "rtf/format_readers.h"
+#include "rtf/formats/format_readers.h"
 
 #include <QString>
 #include <QTextBlock>

@@ -3,8 +3,8 @@
 #include "controls/tab_leaders.h"
 
 #include "controls/visible_lines.h"
-#include "rtf/format_properties.h"
-#include "rtf/paragraph_place.h"
+#include "rtf/formats/format_properties.h"
+#include "rtf/formats/paragraph_place.h"
 
 #include <QPainter>
 #include <QTextCursor>

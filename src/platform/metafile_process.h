@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "rtf/metafile_converter.h"
+#include "rtf/pictures/metafile_converter.h"
 
 #include <QElapsedTimer>
 

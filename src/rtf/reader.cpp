@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/reader.h"
 
-#include "rtf/document_room.h"
-#include "rtf/document_sink.h"
-#include "rtf/interpreter.h"
+#include "rtf/reading/document_sink.h"
+#include "rtf/reading/interpreter.h"
+#include "rtf/room/document_room.h"
 
 #include <QTextCursor>
 #include <QTextDocument>

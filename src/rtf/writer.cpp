@@ -2,16 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/writer.h"
 
-#include "rtf/block_formats.h"
-#include "rtf/body_writer.h"
-#include "rtf/kept_parts.h"
-#include "rtf/kept_text.h"
-#include "rtf/list_formats.h"
-#include "rtf/list_tables.h"
-#include "rtf/picture_format.h"
-#include "rtf/row_scan.h"
-#include "rtf/stated.h"
-#include "rtf/text_formats.h"
+#include "rtf/formats/block_formats.h"
+#include "rtf/formats/list_formats.h"
+#include "rtf/formats/stated.h"
+#include "rtf/formats/text_formats.h"
+#include "rtf/kept/kept_parts.h"
+#include "rtf/kept/kept_text.h"
+#include "rtf/pictures/picture_format.h"
+#include "rtf/reading/list_tables.h"
+#include "rtf/reading/row_scan.h"
+#include "rtf/writing/body_writer.h"
 
 #include <QSet>
 #include <QTextBlock>

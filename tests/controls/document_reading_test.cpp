@@ -3,7 +3,7 @@
 #include "controls/document_reading.h"
 
 #include "controls/rich_text_box.h"
-#include "rtf/metafile_converter.h"
+#include "rtf/pictures/metafile_converter.h"
 #include "support/test_main.h"
 
 #include <QApplication>

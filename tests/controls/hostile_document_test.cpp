@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "controls/rich_text_box.h"
-#include "rtf/document_room.h"
+#include "rtf/room/document_room.h"
 #include "shown_box.h"
 #include "support/temporary_folder.h"
 #include "support/test_main.h"

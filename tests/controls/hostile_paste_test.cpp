@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "controls/document_reading.h"
 #include "controls/rich_text_box.h"
-#include "rtf/document_room.h"
-#include "rtf/metafile_converter.h"
+#include "rtf/pictures/metafile_converter.h"
+#include "rtf/room/document_room.h"
 #include "shown_box.h"
 #include "support/counted_memory.h"
 #include "support/temporary_folder.h"

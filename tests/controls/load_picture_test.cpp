@@ -3,7 +3,7 @@
 #include "controls/load_picture.h"
 
 #include "controls/rich_text_box.h"
-#include "rtf/picture_format.h"
+#include "rtf/pictures/picture_format.h"
 #include "runtime/failure.h"
 #include "support/failure_of.h"
 #include "support/test_main.h"

@@ -3,7 +3,7 @@
 #include "notes/notes_ground.h"
 
 #include "notes/document_rules.h"
-#include "rtf/layout_height.h"
+#include "rtf/room/layout_height.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
-#include "rtf/bullet_sign.h"
-#include "rtf/list_formats.h"
+#include "rtf/characters/bullet_sign.h"
+#include "rtf/formats/list_formats.h"
 #include "rtf/reader.h"
 #include "rtf/writer.h"
 #include "support/test_main.h"

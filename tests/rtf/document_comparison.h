@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "rtf/format_properties.h"
-#include "rtf/picture.h"
+#include "rtf/formats/format_properties.h"
+#include "rtf/pictures/picture.h"
 
 #include <QFont>
 #include <QTextBlock>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
-#include "rtf/document_height.h"
+#include "rtf/room/document_height.h"
 
 #include "room_documents.h"
-#include "rtf/paragraph_height.h"
 #include "rtf/reader.h"
+#include "rtf/room/paragraph_height.h"
 #include "support/test_main.h"
 
 #include <QGuiApplication>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "recording_sink.h"
-#include "rtf/picture_image.h"
+#include "rtf/pictures/picture_image.h"
 #include "rtf/reader.h"
 #include "rtf/writer.h"
 #include "sample_rtf.h"

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
-#include "rtf/device_bitmap.h"
-#include "rtf/format_properties.h"
-#include "rtf/formats.h"
-#include "rtf/picture_format.h"
+#include "rtf/formats/format_properties.h"
+#include "rtf/formats/formats.h"
+#include "rtf/pictures/device_bitmap.h"
+#include "rtf/pictures/picture_format.h"
 #include "rtf/reader.h"
 #include "rtf/writer.h"
 #include "sample_rtf.h"

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "kept_file.h"
-#include "rtf/format_properties.h"
-#include "rtf/kept_parts.h"
+#include "rtf/formats/format_properties.h"
+#include "rtf/kept/kept_parts.h"
 #include "rtf/reader.h"
 #include "rtf/writer.h"
 #include "support/test_main.h"

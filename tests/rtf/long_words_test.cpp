@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
-#include "rtf/long_words.h"
+#include "rtf/room/long_words.h"
 
 #include "room_documents.h"
-#include "rtf/document_room.h"
 #include "rtf/reader.h"
+#include "rtf/room/document_room.h"
 #include "support/test_main.h"
 
 #include <QAbstractTextDocumentLayout>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
-#include "rtf/device_bitmap.h"
-#include "rtf/format_properties.h"
-#include "rtf/metafile_converter.h"
-#include "rtf/picture.h"
+#include "rtf/formats/format_properties.h"
+#include "rtf/pictures/device_bitmap.h"
+#include "rtf/pictures/metafile_converter.h"
+#include "rtf/pictures/picture.h"
 #include "rtf/reader.h"
 #include "rtf/writer.h"
 #include "sample_metafile.h"

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
-#include "rtf/list_formats.h"
+#include "rtf/formats/list_formats.h"
 #include "rtf/reader.h"
 #include "rtf/writer.h"
 #include "support/test_main.h"

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
-#include "rtf/format_properties.h"
-#include "rtf/format_readers.h"
-#include "rtf/list_formats.h"
-#include "rtf/paragraph_place.h"
+#include "rtf/formats/format_properties.h"
+#include "rtf/formats/format_readers.h"
+#include "rtf/formats/list_formats.h"
+#include "rtf/formats/paragraph_place.h"
 #include "rtf/reader.h"
 #include "rtf/writer.h"
 #include "support/test_main.h"

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "rtf/sink.h"
+#include "rtf/reading/sink.h"
 
 #include <QList>
 

@@ -10,9 +10,9 @@
 // document is left in OTHER/files as the writer writes it: once a word processor has put its own
 // text of them into OTHER/text, OTHER measures what that program reads in what we write.
 #include "document_comparison.h"
-#include "rtf/list_formats.h"
+#include "rtf/characters/symbol_font.h"
+#include "rtf/formats/list_formats.h"
 #include "rtf/reader.h"
-#include "rtf/symbol_font.h"
 #include "rtf/writer.h"
 #include "support/test_main.h"
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "rtf/little_endian.h"
+#include "rtf/pictures/little_endian.h"
 
 #include <QByteArray>
 #include <QList>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "rtf/device_bitmap.h"
+#include "rtf/pictures/device_bitmap.h"
 
 #include <QBuffer>
 #include <QByteArray>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "kept_file.h"
 #include "rtf/reader.h"
-#include "rtf/tokenizer.h"
+#include "rtf/words/tokenizer.h"
 #include "rtf/writer.h"
 #include "sample_pictures.h"
 #include "support/test_main.h"

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
-#include "rtf/stated.h"
+#include "rtf/formats/stated.h"
 #include "support/test_main.h"
 
 #include <QCoreApplication>

@@ -3,7 +3,7 @@
 #include "likeness.h"
 
 #include "page_items.h"
-#include "rtf/symbol_font.h"
+#include "rtf/characters/symbol_font.h"
 
 #include <QHash>
 #include <QRegularExpression>

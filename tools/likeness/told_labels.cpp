@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "told_labels.h"
 
-#include "rtf/tokenizer.h"
+#include "rtf/words/tokenizer.h"
 
 namespace orvalis::likeness {
 

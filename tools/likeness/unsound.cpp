@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "unsound.h"
 
-#include "rtf/tokenizer.h"
+#include "rtf/words/tokenizer.h"
 
 #include <QChar>
 

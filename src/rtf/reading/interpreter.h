@@ -1,0 +1,365 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "rtf/characters/font_table.h"
+#include "rtf/formats/stated.h"
+#include "rtf/kept/kept_group.h"
+#include "rtf/kept/kept_row.h"
+#include "rtf/kept/kept_sets.h"
+#include "rtf/kept/section_columns.h"
+#include "rtf/reader.h"
+#include "rtf/reading/list_tables.h"
+#include "rtf/reading/sink.h"
+#include "rtf/words/tokenizer.h"
+
+#include <QList>
+
+#include <array>
+#include <limits>
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace orvalis::rtf {
+
+/// The state machine between tokens and a sink.
+///
+/// It follows groups with a stack of its own, bounded in depth, keeps the tables of the file's head
+/// and gathers text until its format changes. One object reads one file.
+class Interpreter {
+public:
+    Interpreter(QByteArrayView bytes, Sink& sink, const Progress& progress);
+    ReadResult run();
+
+private:
+    /// Where the text of a group goes.
+    enum class Destination : quint8 {
+        Body,
+        FontTable,
+        PlainFontName,
+        ColorTable,
+        ListTable,
+        ListOverrideTable,
+        LevelText,
+        Picture,
+        FieldInstruction,
+        UnicodePair,
+        Shape,
+        ShapePropertyName,
+        ShapePropertyValue,
+        Numbering,
+        NumberingTextBefore,
+        NumberingTextAfter,
+        Label,
+    };
+
+    static constexpr int NoList = -1;
+    static constexpr int NoFont = std::numeric_limits<int>::min(); // which no word can name
+
+    /// What text of one direction has for itself.
+    struct Side {
+        int font = NoFont;
+        int halfPoints = DefaultHalfPoints;
+        bool bold = false;
+        bool italic = false;
+        const ControlWord* eastern = nullptr; ///< the word for its script, where that is one
+        int stated = 0;
+        int said = 0; ///< bits of stated: what was told of this direction alone
+    };
+
+    /// What a closing brace restores.
+    struct Group {
+        CharFormat chars;
+        ParagraphFormat paragraph;
+        const CodePage* page = nullptr;
+        SymbolFont symbols = SymbolFont::None; ///< that the font is
+        int font = NoFont; ///< number in the font table; none stands for the default font
+        int fontsVersion = 0;
+        Side other;   ///< text of the other direction
+        Side told;    ///< what the kept words say of that
+        int said = 0; ///< of text of this direction
+        bool rightToLeft = false;
+        bool named = false;  ///< the direction is
+        bool parted = false; ///< the two directions are told apart
+        int unicodeSkip = 1;
+        int listOverride = NoList;
+        int listLevel = 0;
+        int fieldsAround = 0;
+        int ownField = NothingKept; ///< the field that the group is, with the text that shows it
+        int box = NothingKept;      ///< the frame of the text box that the group is, or stands in
+        int ownBox = NothingKept;   ///< the same, of the shape that the group is
+        int frame = NothingKept;    ///< of the shape that shows a picture
+        int keptOfChars = 0;        ///< sets of m_kept
+        int keptOfParagraph = 0;
+        const ControlWord* border = nullptr;  ///< the one that was named last
+        const ControlWord* script = nullptr;  ///< the same
+        const ControlWord* eastern = nullptr; ///< the word for it, where the text is of the east
+        QTextOption::TabType tabType = QTextOption::LeftTab;
+        TabLeader tabLeader = TabLeader::None;
+        Destination destination = Destination::Body;
+        bool ownsDestination = false;
+        bool deleted = false;
+        bool inTable = false;
+        bool nested = false; ///< words for rows are of a table in a cell
+        bool indexEntry = false;
+        bool inShape = false;
+        bool inFormula = false;
+        bool fallback = false; ///< pictures are other forms of the one that came last
+        bool hasContent =
+            false; ///< text or groups, so that it cannot become a destination any more
+    };
+
+    // Structure (interpreter.cpp)
+    bool step(const Token& token);
+    void openGroup();
+    bool closeGroup();
+    void skipGroup();
+    void symbol(uchar character);
+    void word(const Token& token);
+    void fault(Fault fault);
+    void askForRoom();
+    void tellProgress();
+    void finish();
+
+    // Text (interpreter_text.cpp)
+    void bytes(QByteArrayView run);
+    void decode(QByteArrayView run);
+    void flushPending();
+    void character(char16_t character);
+    void unicode(int code);
+    void append(QStringView text);
+    void prepareText();
+    void beginText();
+    void flushText();
+    void paragraphEnd();
+    void pageEnd();
+    const ParagraphFormat& shapedParagraph();
+    int lookOfParagraphMark();
+    bool shows() const {
+        return m_state.destination == Destination::Body && !m_state.deleted &&
+               !(m_state.indexEntry && m_state.chars.hidden);
+    }
+    bool captures() const;
+    const CodePage& pageOfText() const;
+
+    // Properties (interpreter_properties.cpp)
+    bool characterWord(const Token& token);
+    bool paragraphWord(const Token& token);
+    void tabStop(int position);
+    void selectFont();
+    bool namesFont() const;
+    void plainCharacters();
+    QRgb color(int index) const;
+
+    // What holds for the whole document (interpreter_head.cpp)
+    void headEnds() {
+        if (!std::exchange(m_headEnded, true))
+            settleHead();
+    }
+    /// Something of the text is about to come.
+    void textComes() {
+        headEnds();
+        boxComes();
+    }
+    void boxComes() {
+        if (m_boxDepth > 0 && !m_boxIsOpen && !m_boxBegins)
+            beginBox();
+    }
+    void settleHead();
+    void knowOfParagraphs();
+    int known() const { return m_countedOfCharacters & stated::Knows; }
+    CharFormat told(CharFormat chars) const;
+
+    // Directions (interpreter_directions.cpp)
+    void turn(bool rightToLeft);
+    Side thisSide() const;
+    bool sideWord(const KeptCall& call);
+    static bool saysOfSide(KeptCall& call);
+    void sayOfSide(int bit);
+    void tellOther();
+
+    // Destinations (interpreter_destinations.cpp)
+    bool destinationWord(const Token& token);
+    void openDestination(Destination destination);
+    void closeDestination(Destination destination);
+    bool tableWord(const Token& token);
+    void colorBytes(QByteArrayView run);
+    void fontBytes(QByteArrayView run);
+
+    // Lists (interpreter_lists.cpp)
+    bool listWord(const Token& token);
+    void tellOfList(const Token& token);
+    bool numberingWord(const Token& token);
+    QString keptOfLists(const Token& token);
+    bool isInList() const;
+
+    // Fields (interpreter_fields.cpp)
+    void keepField();
+    void fieldEnds();
+    void takeInstruction(const QString& instruction);
+
+    // Tables (interpreter_tables.cpp)
+    bool rowWord(const Token& token);
+    void keepOfRow(KeptLevel level, const KeptCall& call);
+    int row();
+    int unevenRow(int cells);
+    int rowOfParagraph();
+    bool endsCellOfRow(int cell) const { return cell != NothingKept && cell != m_bareCell; }
+    int cellShape(bool nested);
+    int bareCell();
+    QString listInCell();
+    void cellTabs(size_t count);
+    void rowEnd(bool outermost);
+    void keepNestedRow();
+    int endedNestedRow();
+    void rowParagraphEnd(bool kept, bool outermost);
+
+    // What is kept as it came (interpreter_keeping.cpp)
+    bool keptWord(const Token& token);
+    bool furtherFont(KeptCall& call) const;
+    void keepScript();
+    void setEastern(const ControlWord* word);
+    void keepCharacters(int set);
+    void keepParagraph(int set);
+    void keepGroup(const Token& token);
+    FileTables fileTables(const FontTable::Font* usual) const;
+    void placeGroup(KeptPlace place, const QString& group);
+    void anchor(const QString& kept);
+    QString lookOfMark() const;
+    void sectionEnd();
+    QString sectionBreak();
+    void tellFirstSection();
+    QString sectionText() const;
+    QString furtherDefaults() const;
+    void tellKept();
+
+    // Shapes (interpreter_shapes.cpp)
+    void keepShape(const Token& token);
+    void keepFormula();
+    void expectBox();
+    void beginBox();
+    void endBox();
+    void shapeEnds();
+    bool endsBehindBox();
+    void shapeBesideBox();
+
+    // Pictures (interpreter_pictures.cpp)
+    bool pictureWord(const Token& token);
+    void pictureBytes(QByteArrayView run);
+    void deliverPicture();
+
+    Tokenizer m_tokenizer;
+    Sink& m_sink;
+    const Progress& m_progress;
+    qsizetype m_size;
+    qsizetype m_tellAt; ///< the place in the bytes behind which the progress is told next
+    ReadResult m_result;
+    Names m_names;
+
+    std::vector<Group> m_groups;
+    Group m_state;
+    qsizetype m_unstoredGroups = 0;
+    bool m_ignorable = false;
+    bool m_atGroupStart = false;
+
+    const CodePage* m_documentPage;
+    FontTable m_fonts;
+    size_t m_fontEntryDepth = 0; ///< of the groups, where the entry of the font table began
+    std::array<int, 5> m_furtherDefaults; ///< numbers of fonts by what they are of, or NoName
+    bool m_headEnded = false;             ///< text has come
+    /// What counts of what is stated. Whatever it will be, all is held until the text begins.
+    int m_countedOfCharacters = stated::All;
+    int m_countedOfParagraphs = ~0;
+    bool m_nameless = true;
+    QList<QRgb> m_colors;
+    QRgb m_color = AutomaticColor;
+    ListTables m_lists;
+
+    KeptSets m_kept;
+    int m_keptOfSection = 0;
+    int m_keptOfDocument = 0;
+    SectionColumns m_columns;
+    QString m_sectionGroups;
+    QString m_anchorsAtStart;              ///< of the paragraph
+    QString m_anchorsBehindCell;           ///< that ended last
+    bool m_sectionBegins = false;          ///< with the paragraph, and is not the first one
+    bool m_paragraphBeforeSection = false; ///< it ended by itself, not by the section's end
+    bool m_firstSectionTold = false;
+    KeptParts m_parts;
+    bool m_stylesKept = false;
+    qsizetype m_listKeptTo = 0; ///< where the list ends that was kept last
+    qint64 m_keptLeft;          ///< bytes that groups may still take
+
+    QString m_text;
+    CharFormat m_textFormat;
+    QByteArray m_pending;
+    int m_numberings = 0;
+    int m_fallbackToSkip = 0;
+    char16_t m_highSurrogate = 0;
+    std::vector<CharFormat> m_cellsEnded; ///< the looks of tabs that are still to come
+    ParagraphFormat m_lastOfCell;
+    ParagraphFormat m_shapeOfCell; ///< the last one that was written down, as m_cellShape
+    int m_cellShape = NothingKept;
+    int m_keptOfRow = 0;
+    int m_keptOfCell = 0;
+    QString m_cells; ///< of the row, as they are kept
+    int m_cellCount = 0;
+    int m_row = NothingKept;
+    int m_cellsOfRow = 0;                               ///< that have ended
+    std::array<int, MostNesting + 1> m_cellsOfNested{}; ///< the same, by their nesting
+    QString m_nestedGroup;                              ///< what shapes the nested row that ends
+    int m_nestedRow = NothingKept;                      ///< that ends with the paragraph
+    int m_nestedRows = 0;
+    struct Uneven {
+        int row = NothingKept;
+        int cells = 0;
+        int kept = NothingKept;
+    };
+    Uneven m_uneven; ///< the last one
+    int m_bareCell = NothingKept;
+    bool m_anyRow = false;   ///< has been shaped
+    bool m_rowIsNew = false; ///< m_row does not tell it yet
+    bool m_inRow = false;    ///< a paragraph of the row has ended
+    bool m_rowEnds = false;
+    bool m_inParagraph = false;
+    int m_afterAhead = 0;     ///< the space after the paragraph as its text began
+    int m_afterSaidAhead = 0; ///< and whether it was stated
+    bool m_pageBreak = false;
+    PageWord m_pageWord = PageWord::InFront;
+    int m_shapes = 0;        ///< that are kept
+    size_t m_shapeDepth = 0; ///< of the groups, where the shape stands that has a box
+    size_t m_boxDepth = 0;   ///< of the groups, where the text of a box stands
+    bool m_boxHasParagraph = false;
+    bool m_boxIsOpen = false;    ///< and some of it has come
+    int m_lastBox = NothingKept; ///< that has text
+    bool m_boxBegins = false;    ///< and ends what stands ahead of it in the paragraph
+    bool m_boxBehind = false;    ///< text of the paragraph that it stands in
+    bool m_boxEnded = false;     ///< and the paragraph has not
+    QString m_labelAround;
+    QString m_anchorsAround; ///< what comes with the paragraph that has the box ahead
+    bool m_pageBreakAround = false;
+    QString m_label;
+    ListLabel m_labelList; ///< what was told where that stands, which a brace may end
+    SymbolFont m_labelSymbols = SymbolFont::None; ///< that the font is which it names
+    ListKind m_lastListKind = ListKind::None;
+    ParagraphFormat m_shaped;
+
+    QString m_capture;
+    CharFormat m_captureFormat;
+    QString m_fieldText; ///< of a field that is not kept, to show where it brings no result
+    int m_fields = 0;    ///< that are kept
+    /// Of the instructions of fields that show what these hold, as they stand in each other.
+    std::vector<std::optional<CharFormat>> m_fieldLooks;
+    size_t m_fieldDepth = 0; ///< of the groups, where that field stands
+    QString m_shapeProperty;
+    ListLabel m_numbering;
+    SymbolFont m_numberingSymbols = SymbolFont::None; ///< that the font of its bullet is
+    bool m_numberingShows = false;                    ///< a number, and not the room for one alone
+    Picture m_picture;
+    int m_halfByte = -1;
+    bool m_shapePictureShown = false;
+    bool m_sinkIsFull = false;
+};
+
+} // namespace orvalis::rtf

@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/formats/hyperlink.h"
+#include "rtf/kept/kept_group.h"
+#include "rtf/kept/kept_text.h"
+#include "rtf/reading/equation_text.h"
+#include "rtf/reading/field_scan.h"
+#include "rtf/reading/form_field.h"
+#include "rtf/reading/interpreter.h"
+#include "rtf/reading/symbol_field.h"
+
+using namespace Qt::StringLiterals;
+
+namespace orvalis::rtf {
+
+namespace {
+
+/// What the instruction of a field that brings no result holds to show.
+QString shownBy(const QString& instruction) {
+    return equationText(instruction) + symbolFieldText(instruction);
+}
+
+} // namespace
+
+/// The instruction of a field goes with the text that shows it, within a paragraph; where nothing
+/// does, the field is kept at its place.
+void Interpreter::keepField() {
+    constexpr int MostFieldsAround = 4; // each look ahead reads all that is in a field
+    constexpr int MostFields = 4096;    // each makes a format of its own
+    if (++m_state.fieldsAround > MostFieldsAround || m_fields >= MostFields || !shows())
+        return;
+    const FieldScan scan = scanField(m_tokenizer.groupAhead());
+    if (scan.instruction.isEmpty() || scan.hasStructure)
+        return;
+    const FileTables tables = fileTables(m_fonts.usual());
+    const QString kept =
+        GroupKeeper(scan.instruction, tables).kept("{\\*\\", "fldinst", m_keptLeft);
+    m_keptLeft -= kept.size();
+    // Its name, and what it shows, are those by which it will be read when it has been written.
+    const QByteArray written = keptWithoutPlaces(kept);
+    const QByteArray name = fieldName(written);
+    const QString instruction = instructionText(written);
+    const QString entry = name == "FORMDROPDOWN" ? chosenEntry(written) : QString();
+    const QString shown = scan.hasResult ? QString() : shownBy(instruction) + entry;
+    if (name.isEmpty() || !hyperlinkTarget(instruction).isEmpty())
+        return;
+    m_fieldDepth = 0;
+    if (!scan.hasResult && shown.isEmpty()) {
+        anchor(u"{\\field"_s + kept + u"{\\fldrslt}}"_s);
+        return;
+    }
+    if (m_state.chars.field != NothingKept)
+        return;
+    const QString field = QString::number(++m_fields) + NumberEnd + kept;
+    if (scan.hasResult) {
+        m_state.chars.field = m_names.kept(field);
+    } else {
+        m_state.ownField = m_names.kept(field + NumberEnd + shown);
+        m_fieldLooks.emplace_back();
+    }
+}
+
+void Interpreter::fieldEnds() {
+    const int own = m_state.ownField;
+    if (own == NothingKept && m_groups.size() != m_fieldDepth)
+        return;
+    m_fieldDepth = 0;
+    QString text = std::exchange(m_fieldText, {});
+    CharFormat look = m_captureFormat;
+    if (own != NothingKept) {
+        const QString kept = m_names.keptAt(own);
+        text = kept.sliced(kept.lastIndexOf(NumberEnd) + 1);
+        look = m_fieldLooks.back().value_or(m_state.chars);
+        m_fieldLooks.pop_back();
+    }
+    if (text.isEmpty() || !shows())
+        return;
+    const CharFormat around = std::exchange(m_state.chars, look);
+    m_state.chars.field = own;
+    append(text);
+    m_state.chars = around;
+}
+
+/// The target of a link, and the text of a field that is not kept and brings no result.
+void Interpreter::takeInstruction(const QString& instruction) {
+    const QString target = hyperlinkTarget(instruction);
+    if (!target.isEmpty()) {
+        m_state.chars.link = m_names.link(target);
+        m_state.chars.field = NothingKept;
+    }
+    m_fieldText = shownBy(instruction);
+    if (!m_fieldLooks.empty() && !m_fieldLooks.back())
+        m_fieldLooks.back() = m_captureFormat;
+}
+
+} // namespace orvalis::rtf

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/reading/interpreter.h"
+
+namespace orvalis::rtf {
+
+/// The first run of text is complete: blanks between the tables of the head are text as well. The
+/// font of text that names none, and what counts of what is stated, are the same for all text,
+/// however late another word for them comes.
+void Interpreter::settleHead() {
+    m_fonts.settleUsual();
+    m_countedOfCharacters = stated::countedOfCharacters(m_stylesKept, m_fonts.saidOfUsual());
+    knowOfParagraphs();
+    const bool isUnnamed = (m_textFormat.stated & stated::Font) == 0;
+    m_textFormat.stated &= m_countedOfCharacters;
+    const auto hold = [this](Group& group) {
+        for (int* said : {&group.chars.stated, &group.other.stated})
+            *said &= m_countedOfCharacters;
+        group.paragraph.stated &= m_countedOfParagraphs;
+    };
+    for (Group& group : m_groups)
+        hold(group);
+    hold(m_state);
+    selectFont();
+    if (isUnnamed)
+        m_textFormat.family =
+            m_fonts.saidOfUsual() == DefaultFont::Named ? m_fonts.usual()->family : NoName;
+}
+
+void Interpreter::knowOfParagraphs() {
+    m_countedOfParagraphs = stated::countedOfParagraphs(m_stylesKept, m_lists.any());
+}
+
+/// The characters, with whether anything is known of what is stated of them.
+CharFormat Interpreter::told(CharFormat chars) const {
+    chars.stated |= known();
+    return chars;
+}
+
+} // namespace orvalis::rtf

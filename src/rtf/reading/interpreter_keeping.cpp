@@ -1,0 +1,278 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/kept/kept_group.h"
+#include "rtf/kept/kept_text.h"
+#include "rtf/reading/interpreter.h"
+#include "rtf/writing/look_words.h"
+
+using namespace Qt::StringLiterals;
+
+namespace orvalis::rtf {
+
+namespace {
+
+bool isStarred(KeptPlace place) {
+    return place == KeptPlace::StarredInfo || place == KeptPlace::Notes ||
+           place == KeptPlace::StarredAnchor || place == KeptPlace::StarredNote;
+}
+
+} // namespace
+
+bool Interpreter::keptWord(const Token& token) {
+    if (token.word->action == Action::SectionDefaults) {
+        if (shows()) {
+            m_keptOfSection = 0;
+            m_columns.clear();
+            m_state.border = nullptr;
+        }
+        return true;
+    }
+    if (token.word->action == Action::SectionColumn) {
+        if (shows())
+            m_columns.take(static_cast<ColumnWord>(token.word->value), token.parameter);
+        return true;
+    }
+    if (token.word->action == Action::AnchorMark) {
+        if (!shows())
+            return true;
+        textComes();
+        anchor(lookOfMark() + u'\\' + QString::fromLatin1(token.bytes) + u'}');
+        return true;
+    }
+    if (token.word->action != Action::Keep)
+        return false;
+    if (!shows())
+        return true;
+    KeptWord kept = rtf::keptWord(*token.word);
+    KeptCall call{token.word, nullptr, token.hasParameter, token.parameter};
+    if (kept.kind == KeptKind::Side)
+        m_state.border = call.side = token.word;
+    else if (kept.level == KeptLevel::Border)
+        call.side = m_state.border;
+    if (kept.level == KeptLevel::Border) {
+        if (!call.side)
+            return true;
+        kept.level = rtf::keptWord(*call.side).level;
+    }
+    if (kept.kind == KeptKind::Color) {
+        call.hasNumber = true;
+        call.number = int(color(token.parameter));
+    }
+    if (kept.kind == KeptKind::Style && !m_stylesKept)
+        return true;
+    if (kept.kind == KeptKind::Script) {
+        m_state.script = token.word;
+        return true;
+    }
+    if (kept.kind == KeptKind::Associate && !saysOfSide(call))
+        return true;
+    const bool mayBeOfSide = kept.kind == KeptKind::Associate || kept.kind == KeptKind::Font;
+    if (mayBeOfSide && !m_state.script && sideWord(call))
+        return true;
+    const bool ofScript = kept.kind == KeptKind::Associate && m_state.script;
+    if (ofScript || (kept.kind == KeptKind::Font && !furtherFont(call)))
+        return true;
+    if (kept.kind == KeptKind::Direction) {
+        m_state.script = nullptr;
+        turn(QByteArrayView(token.word->name) == "rtlch");
+    }
+    switch (kept.level) {
+    case KeptLevel::Characters:
+        keepCharacters(m_kept.with(m_state.keptOfChars, call));
+        return true;
+    case KeptLevel::Paragraph:
+        keepParagraph(m_kept.with(m_state.keptOfParagraph, call));
+        return true;
+    case KeptLevel::Section:
+        m_keptOfSection = m_kept.with(m_keptOfSection, call);
+        return true;
+    case KeptLevel::Document:
+        m_keptOfDocument = m_kept.with(m_keptOfDocument, call);
+        return true;
+    case KeptLevel::Row:
+    case KeptLevel::Cell:
+        keepOfRow(kept.level, call);
+        return true;
+    case KeptLevel::Border:
+        break;
+    }
+    return true;
+}
+
+/// What begins the group of a note's number: it looks like the text ahead of it, but raised, or
+/// else in a way of its own.
+QString Interpreter::lookOfMark() const {
+    const bool isBehindCell = !m_cellsEnded.empty();
+    CharFormat look = isBehindCell ? m_cellsEnded.back() : m_textFormat;
+    look.script = m_state.chars.script;
+    look.stated = m_state.chars.stated;
+    look.anchors = m_state.chars.anchors;
+    look.cell = m_state.chars.cell;
+    look.link = m_state.chars.link;
+    look.field = m_state.chars.field;
+    look.byNumber = m_state.chars.byNumber;
+    if ((m_text.isEmpty() && !isBehindCell) || look != m_state.chars)
+        return u'{' + keptLook(told(m_state.chars), m_names);
+    return m_state.chars.script == Script::Super ? u"{\\super"_s : u"{\\nosupersub"_s;
+}
+
+/// The font of text in a script, or in the other direction, that the run has not by itself.
+bool Interpreter::furtherFont(KeptCall& call) const {
+    const FontTable::Font* font = m_fonts.find(call.number);
+    if (!call.hasNumber || !font || font->family == NoName)
+        return false;
+    call.side = m_state.script;
+    call.number = font->family;
+    return true;
+}
+
+/// The script that a font is named in is that of the text.
+void Interpreter::keepScript() {
+    const bool eastern = m_state.script && m_state.script->name == "dbch" && namesFont();
+    setEastern(eastern ? m_state.script : nullptr);
+}
+
+void Interpreter::setEastern(const ControlWord* now) {
+    const ControlWord* before = std::exchange(m_state.eastern, now);
+    if (now == before)
+        return;
+    const ControlWord* word = now ? now : before;
+    keepCharacters(m_kept.with(m_state.keptOfChars, {word, nullptr, true, now ? 1 : 0}));
+}
+
+void Interpreter::keepCharacters(int set) {
+    m_state.keptOfChars = set;
+    m_state.chars.kept = m_kept.name(set);
+}
+
+void Interpreter::keepParagraph(int set) {
+    m_state.keptOfParagraph = set;
+    m_state.paragraph.kept = m_kept.name(set);
+}
+
+/// \param usual font of text that names none, null for none.
+FileTables Interpreter::fileTables(const FontTable::Font* usual) const {
+    const bool isSaid = m_fonts.saidOfUsual() != DefaultFont::Unsaid;
+    const bool hasPage =
+        usual && usual->page && (isSaid || usual->page->symbols() == SymbolFont::None);
+    const SymbolFont symbols = usual && isSaid ? usual->symbols : SymbolFont::None;
+    return {m_fonts, m_colors, m_names, *m_documentPage, hasPage ? *usual->page : *m_documentPage,
+            symbols};
+}
+
+void Interpreter::keepGroup(const Token& token) {
+    if (m_state.destination != Destination::Body || m_state.deleted) {
+        skipGroup();
+        return;
+    }
+    const auto place = static_cast<KeptPlace>(token.word->value);
+    const QByteArrayView content = m_tokenizer.groupAhead();
+    const FileTables tables = fileTables(m_fonts.usual());
+    const QByteArrayView opening(isStarred(place) ? "{\\*\\" : "{\\");
+    const QString group = GroupKeeper(content, tables).kept(opening, token.bytes, m_keptLeft);
+    m_keptLeft -= group.size();
+    skipGroup();
+    placeGroup(place, group);
+}
+
+void Interpreter::placeGroup(KeptPlace place, const QString& group) {
+    switch (place) {
+    case KeptPlace::Styles:
+        if (m_headEnded)
+            return;
+        m_stylesKept = !group.isEmpty() && m_sink.takesStyles(group);
+        m_parts.styles = group;
+        return;
+    case KeptPlace::Info:
+    case KeptPlace::StarredInfo:
+        m_parts.info += group;
+        return;
+    case KeptPlace::Notes:
+        m_parts.notes += group;
+        return;
+    case KeptPlace::Section:
+        m_sectionGroups += group;
+        return;
+    case KeptPlace::Anchor:
+    case KeptPlace::StarredAnchor:
+    case KeptPlace::StarredNote:
+        anchor(group);
+        return;
+    }
+}
+
+void Interpreter::anchor(const QString& kept) {
+    if (kept.isEmpty())
+        return;
+    textComes();
+    // It may stand in the next cell, or between the last one and the end of the row.
+    if (!m_cellsEnded.empty()) {
+        m_anchorsBehindCell += kept;
+        return;
+    }
+    if (!m_inParagraph) {
+        m_anchorsAtStart += kept;
+        return;
+    }
+    flushText();
+    m_sink.anchor(kept);
+}
+
+/// What was gathered so far belongs to the section that ends; its words go on to hold.
+void Interpreter::sectionEnd() {
+    textComes();
+    const bool paragraphEndedItself = !m_inParagraph && !std::exchange(m_boxEnded, false);
+    if (m_inParagraph)
+        paragraphEnd();
+    m_paragraphBeforeSection = paragraphEndedItself;
+    tellFirstSection();
+    m_sectionGroups.clear();
+    m_sectionBegins = true;
+}
+
+QString Interpreter::sectionBreak() {
+    const QString text = sectionText();
+    m_keptLeft -= text.size();
+    if (m_keptLeft <= 0)
+        m_columns.clear();
+    return (m_paragraphBeforeSection ? ParagraphEndsFirst.toString() : QString()) +
+           QStringLiteral("\\sect") + text;
+}
+
+void Interpreter::tellFirstSection() {
+    if (!std::exchange(m_firstSectionTold, true) &&
+        (m_keptOfSection != 0 || !m_columns.text().isEmpty() || !m_sectionGroups.isEmpty()))
+        m_parts.section = sectionText();
+}
+
+QString Interpreter::sectionText() const {
+    return QStringLiteral("\\sectd") + m_names.keptAt(m_kept.name(m_keptOfSection)) +
+           m_columns.text() + m_sectionGroups;
+}
+
+/// The fonts of text in other scripts, and of styles, that names none.
+QString Interpreter::furtherDefaults() const {
+    constexpr std::array DefaultFonts = {"adeff", "stshfdbch", "stshfloch", "stshfhich", "stshfbi"};
+    QString text;
+    for (size_t i = 0; i < DefaultFonts.size(); ++i) {
+        const FontTable::Font* font = m_fonts.find(m_furtherDefaults[i]);
+        if (m_furtherDefaults[i] != NoName && font && font->family != NoName)
+            text += u'\\' + QLatin1StringView(DefaultFonts[i]) +
+                    keptFont(m_names.familyAt(font->family));
+    }
+    return text;
+}
+
+void Interpreter::tellKept() {
+    tellFirstSection();
+    m_parts.words = m_names.keptAt(m_kept.name(m_keptOfDocument));
+    m_parts.furtherDefaults = furtherDefaults();
+    m_parts.nameless = m_nameless;
+    m_parts.defaultFont = m_fonts.saidOfUsual();
+    m_parts.oddFamilies = m_fonts.oddFamilies(m_names);
+    if (m_parts.defaultFont == DefaultFont::Named)
+        m_parts.unnamedFamily = m_names.familyAt(m_fonts.usual()->family);
+    m_sink.kept(m_parts);
+}
+
+} // namespace orvalis::rtf

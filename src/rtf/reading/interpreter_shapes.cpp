@@ -1,0 +1,150 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/kept/kept_group.h"
+#include "rtf/kept/kept_text.h"
+#include "rtf/reading/formula_text.h"
+#include "rtf/reading/interpreter.h"
+#include "rtf/reading/shape_scan.h"
+
+#include <utility>
+
+namespace orvalis::rtf {
+
+/// The frame of a shape goes with the picture or the text that the shape shows; of one that shows
+/// neither the whole is kept at its place. Several in one are shown without what is around them.
+void Interpreter::keepShape(const Token& token) {
+    constexpr int MostShapes = 4096; // each makes a format of its own
+    // The look ahead reads all that is in a shape, so those inside are not looked into again.
+    const bool isFormula = token.word->value != 0;
+    const bool inShape = m_state.inShape;
+    bool& looked = isFormula ? m_state.inFormula : m_state.inShape;
+    if (std::exchange(looked, true) || m_shapes >= MostShapes || !shows())
+        return;
+    ++m_shapes;
+    const ShapeScan scan = scanShape(m_tokenizer.groupAhead());
+    const bool isPicture = scan.shows == ShapeScan::Shows::Picture;
+    if (isFormula && !isPicture) {
+        keepFormula();
+        return;
+    }
+    if (isFormula && inShape)
+        return;
+    // A line of the document holds all cells of a row, and a field ends with its paragraph.
+    const bool asText =
+        m_state.inTable || m_state.chars.link != NoName || m_state.chars.field != NothingKept;
+    if (scan.shows == ShapeScan::Shows::More || (scan.shows == ShapeScan::Shows::Text && asText))
+        return;
+    const FileTables tables = fileTables(m_fonts.usual());
+    const QString kept = GroupKeeper(scan.frame, tables).kept("{\\", token.bytes, m_keptLeft);
+    m_keptLeft -= kept.size();
+    if (kept.isEmpty())
+        return;
+    if (isPicture) {
+        m_state.frame = m_names.kept(kept);
+    } else if (scan.shows == ShapeScan::Shows::Text) {
+        m_state.box = m_names.kept(QString::number(m_shapes) + NumberEnd + kept);
+        m_state.ownBox = m_state.box;
+        m_shapeDepth = m_groups.size();
+    } else {
+        skipGroup();
+        anchor(kept);
+    }
+}
+
+/// A formula without a picture shows the text of its parts in one line, and is kept as long as that
+/// stays.
+void Interpreter::keepFormula() {
+    if (m_state.chars.field != NothingKept)
+        return;
+    const FileTables tables = fileTables(m_fonts.usual());
+    const QString kept =
+        GroupKeeper(m_tokenizer.groupAhead(), tables).kept("{\\", "mmath", m_keptLeft);
+    m_keptLeft -= kept.size();
+    if (kept.isEmpty())
+        return;
+    skipGroup();
+    const QString text = formulaText(keptWithoutPlaces(kept));
+    if (text.isEmpty()) {
+        anchor(kept);
+        return;
+    }
+    m_state.chars.field =
+        m_names.kept(QString::number(m_shapes) + NumberEnd + kept + NumberEnd + text);
+    append(text);
+    m_state.chars.field = NothingKept;
+}
+
+/// The group of a box's text has begun.
+void Interpreter::expectBox() {
+    if (m_state.box == NothingKept || m_state.box == m_lastBox || m_boxDepth > 0)
+        return;
+    m_boxDepth = m_groups.size();
+    m_labelAround = std::exchange(m_label, {});
+}
+
+/// The text of a box has paragraphs of its own: that of the document which the box stands in is
+/// interrupted, or comes behind it.
+void Interpreter::beginBox() {
+    m_boxBehind = m_inParagraph || m_boxEnded;
+    if (m_inParagraph) {
+        // In the shape that it has ahead of that of the box.
+        Group& around = m_groups[m_shapeDepth - 1];
+        m_boxBegins = true;
+        std::swap(m_state, around);
+        m_label.swap(m_labelAround);
+        paragraphEnd();
+        m_label.swap(m_labelAround);
+        std::swap(m_state, around);
+        m_boxBegins = false;
+    } else {
+        m_anchorsAround = std::exchange(m_anchorsAtStart, {});
+        m_pageBreakAround = std::exchange(m_pageBreak, false);
+    }
+    m_boxEnded = false;
+    m_boxIsOpen = true;
+    m_lastBox = m_state.box;
+    m_boxHasParagraph = false;
+}
+
+void Interpreter::endBox() {
+    if (m_boxIsOpen && (m_inParagraph || !m_boxHasParagraph))
+        paragraphEnd();
+    m_boxDepth = 0;
+    m_label = std::exchange(m_labelAround, {});
+    if (!std::exchange(m_boxIsOpen, false))
+        return;
+    m_boxEnded = m_boxBehind;
+    m_anchorsAtStart.prepend(std::exchange(m_anchorsAround, {}));
+    m_pageBreak |= std::exchange(m_pageBreakAround, false);
+}
+
+/// A shape whose box brought no text is kept at its place.
+void Interpreter::shapeEnds() {
+    if (m_state.ownBox == m_lastBox)
+        return;
+    QString kept = m_names.keptAt(m_state.ownBox);
+    kept.remove(QLatin1StringView(ShapePlace.data(), ShapePlace.size()));
+    anchor(kept.sliced(kept.indexOf(NumberEnd) + 1));
+}
+
+/// Whether a paragraph ends with nothing behind the box that stands in it: what stands ahead of the
+/// box is all of it.
+bool Interpreter::endsBehindBox() {
+    const bool nothingBehind = !m_inParagraph && m_cellsEnded.empty() && m_anchorsAtStart.isEmpty();
+    return nothingBehind && std::exchange(m_boxEnded, false);
+}
+
+void Interpreter::shapeBesideBox() {
+    if (m_boxIsOpen) {
+        m_shaped.box = m_state.box;
+        m_shaped.boxAhead = !m_boxBehind;
+        return;
+    }
+    m_shaped.goesOn = true;
+    m_shaped.pageBreakBefore = false;
+    m_shaped.pageWord = PageWord::OfParagraph;
+    m_shaped.list = {};
+    m_shaped.mark = NothingKept;
+}
+
+} // namespace orvalis::rtf

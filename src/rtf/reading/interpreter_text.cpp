@@ -1,0 +1,355 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/formats/list_formats.h"
+#include "rtf/reading/interpreter.h"
+#include "rtf/writing/look_words.h"
+
+#include <algorithm>
+
+namespace orvalis::rtf {
+
+namespace {
+
+constexpr qsizetype LongestRun = 32768;
+constexpr qsizetype LongestCapture = 8192;
+
+// Characters that a text document takes for structure of its own.
+char16_t harmless(char16_t character) {
+    switch (character) {
+    case u'\0':
+        return u' ';
+    case u'\n':
+    case u'\r':
+    case QChar::ParagraphSeparator:
+        return QChar::LineSeparator;
+    case 0xfdd0:
+    case 0xfdd1:
+    case QChar::ObjectReplacementCharacter:
+        return QChar::ReplacementCharacter;
+    default:
+        return character;
+    }
+}
+
+} // namespace
+
+bool Interpreter::captures() const {
+    switch (m_state.destination) {
+    case Destination::PlainFontName:
+    case Destination::LevelText:
+    case Destination::FieldInstruction:
+    case Destination::ShapePropertyName:
+    case Destination::NumberingTextBefore:
+    case Destination::NumberingTextAfter:
+    case Destination::Label:
+        return true;
+    default:
+        return false;
+    }
+}
+
+void Interpreter::bytes(QByteArrayView run) {
+    // Blanks between "\\*" and the name of the destination are no text.
+    if (m_ignorable && run.trimmed().isEmpty())
+        return;
+    m_ignorable = false;
+    // Some files indent the heads of their groups, and some have lost the backslash of "\\*": the
+    // destinations behind are destinations all the same.
+    const bool nothing = run.size() == 1 && run.front() == '*';
+    m_state.hasContent = m_state.hasContent || (!nothing && !run.trimmed().isEmpty());
+    m_atGroupStart = false;
+    if (m_fallbackToSkip > 0) {
+        const auto skipped = std::min<qsizetype>(m_fallbackToSkip, run.size());
+        m_fallbackToSkip -= int(skipped);
+        run = run.sliced(skipped);
+        if (run.isEmpty())
+            return;
+    }
+    switch (m_state.destination) {
+    case Destination::Body:
+        if (shows())
+            decode(run);
+        return;
+    case Destination::FontTable:
+        fontBytes(run);
+        return;
+    case Destination::ColorTable:
+        colorBytes(run);
+        return;
+    case Destination::Picture:
+        pictureBytes(run);
+        return;
+    default:
+        if (captures())
+            decode(run);
+        return;
+    }
+}
+
+/// An instruction or a label is no text of the font of signs that holds around it.
+const CodePage& Interpreter::pageOfText() const {
+    const bool toBody = m_state.destination == Destination::Body;
+    if (m_state.destination == Destination::LevelText)
+        return *m_documentPage;
+    return toBody || m_state.page->symbols() == SymbolFont::None ? *m_state.page : *m_documentPage;
+}
+
+void Interpreter::decode(QByteArrayView run) {
+    const bool toBody = m_state.destination == Destination::Body;
+    const CodePage& page = pageOfText();
+    if (page.symbols() != SymbolFont::None) {
+        QString signs;
+        page.decode(run, signs);
+        append(signs);
+        return;
+    }
+    const CodePage::Table* table = page.table();
+    if (!table) {
+        // The second byte of a character may look like ASCII, so only a run that begins a character
+        // can be taken as it is.
+        const auto isAscii = [](char byte) { return uchar(byte) < 0x80; };
+        if (!m_pending.isEmpty() || !std::all_of(run.begin(), run.end(), isAscii)) {
+            m_pending.append(run);
+            if (m_pending.size() > LongestRun) {
+                QString text;
+                const qsizetype taken = pageOfText().decode(m_pending, text);
+                m_pending.remove(0, taken);
+                append(text);
+            }
+            return;
+        }
+        table = CodePage::forNumber(Latin1Page).table();
+    }
+    // A font that is named as one of signs, but is none by its page, has letters at its bytes.
+    m_state.chars.byNumber = toBody && m_state.symbols != SymbolFont::None;
+    if (toBody)
+        prepareText();
+    else
+        m_captureFormat = m_state.chars;
+    QString& target = toBody ? m_text : m_capture;
+    if (!toBody)
+        run = run.first(
+            std::min(run.size(), LongestCapture - std::min(target.size(), LongestCapture)));
+    const qsizetype start = target.size();
+    target.resize(start + run.size());
+    QChar* out = target.data() + start;
+    for (const char byte : run)
+        *out++ = QChar((*table)[uchar(byte)]);
+    // A byte below a blank can only stand alone, written as a code.
+    if (run.size() == 1 && toBody)
+        out[-1] = QChar(harmless(out[-1].unicode()));
+    m_state.chars.byNumber = false;
+}
+
+void Interpreter::flushPending() {
+    if (m_pending.isEmpty())
+        return;
+    QString text;
+    const qsizetype taken = pageOfText().decode(m_pending, text);
+    if (taken < m_pending.size())
+        text.append(QChar::ReplacementCharacter);
+    m_pending.clear();
+    append(text);
+}
+
+void Interpreter::append(QStringView text) {
+    if (m_state.destination != Destination::Body) {
+        m_captureFormat = m_state.chars;
+        m_capture.append(text.first(
+            std::min(text.size(), LongestCapture - std::min(m_capture.size(), LongestCapture))));
+        return;
+    }
+    prepareText();
+    for (const QChar character : text) {
+        // Word processors tell signs by their bytes, in the area for private use.
+        const uchar byte =
+            m_state.symbols == SymbolFont::None ? uchar(0) : privateByte(character.unicode());
+        if (byte)
+            m_text.append(QChar::fromUcs4(symbolCharacter(m_state.symbols, byte)));
+        else
+            m_text.append(QChar(harmless(character.unicode())));
+    }
+}
+
+void Interpreter::character(char16_t character) {
+    m_ignorable = false;
+    m_state.hasContent = true;
+    flushPending();
+    if (m_fallbackToSkip > 0)
+        --m_fallbackToSkip;
+    else if (m_state.destination == Destination::FontTable)
+        m_fonts.addName(character);
+    else if (shows() || captures())
+        append(QStringView(&character, 1));
+}
+
+void Interpreter::unicode(int code) {
+    m_state.hasContent = true;
+    m_fallbackToSkip = m_state.unicodeSkip;
+    if (code < 0)
+        code += 0x10000;
+    if (code < 0 || code > int(QChar::LastValidCodePoint))
+        code = QChar::ReplacementCharacter;
+    if (m_state.destination == Destination::FontTable) {
+        m_fonts.addName(char16_t(code));
+        return;
+    }
+    if (!shows() && !captures())
+        return;
+    if (QChar::isHighSurrogate(char32_t(code))) {
+        if (m_state.destination == Destination::Body)
+            prepareText();
+        m_highSurrogate = char16_t(code);
+        return;
+    }
+    if (QChar::isLowSurrogate(char32_t(code))) {
+        const char16_t high = std::exchange(m_highSurrogate, char16_t(0));
+        const char16_t pair[] = {high, char16_t(code)};
+        append(high ? QStringView(pair, 2) : QStringView(u"\ufffd"));
+        return;
+    }
+    const bool ofSigns = m_state.destination == Destination::Body &&
+                         m_state.symbols != SymbolFont::None && privateByte(char32_t(code)) == 0;
+    m_state.chars.byNumber = ofSigns;
+    append(QChar::fromUcs4(char32_t(code)));
+    m_state.chars.byNumber = false;
+}
+
+void Interpreter::prepareText() {
+    boxComes();
+    m_fieldText.clear();
+    if (!m_cellsEnded.empty())
+        cellTabs(m_cellsEnded.size());
+    if (!m_text.isEmpty() && (m_textFormat != m_state.chars || m_text.size() > LongestRun))
+        flushText();
+    if (m_text.isEmpty())
+        m_textFormat = m_state.chars;
+    if (m_highSurrogate) {
+        m_highSurrogate = 0;
+        m_text.append(QChar::ReplacementCharacter);
+    }
+    beginText();
+}
+
+void Interpreter::beginText() {
+    if (std::exchange(m_inParagraph, true))
+        return;
+    m_afterAhead = m_state.paragraph.after;
+    m_afterSaidAhead = m_state.paragraph.stated & stated::After;
+}
+
+void Interpreter::flushText() {
+    if (m_highSurrogate) {
+        m_highSurrogate = 0;
+        m_text.append(QChar::ReplacementCharacter);
+    }
+    if (m_text.isEmpty())
+        return;
+    headEnds();
+    m_textFormat.stated |= known();
+    m_sink.text(m_text, m_textFormat);
+    m_text.resize(0);
+    askForRoom();
+}
+
+void Interpreter::paragraphEnd() {
+    textComes();
+    if (endsBehindBox())
+        return;
+    cellTabs(m_cellsEnded.size());
+    flushText();
+    const ParagraphFormat& paragraph = shapedParagraph();
+    m_sink.paragraphEnd(paragraph, told(m_state.chars));
+    m_inRow = paragraph.row != NothingKept && !m_rowEnds;
+    if (!m_inRow)
+        m_cellsOfRow = 0;
+    m_rowEnds = false;
+    m_boxEnded = false;
+    m_boxHasParagraph = true;
+    m_inParagraph = false;
+    m_pageBreak = false;
+    m_sectionBegins = false;
+    m_anchorsAtStart.clear();
+    m_label.clear();
+    askForRoom();
+}
+
+void Interpreter::pageEnd() {
+    textComes();
+    const bool between = m_inParagraph || std::exchange(m_boxEnded, false);
+    if (m_inParagraph)
+        paragraphEnd();
+    if (!m_pageBreak)
+        m_pageWord = between && !m_inRow ? PageWord::Between : PageWord::InFront;
+    m_pageBreak = true;
+}
+
+/// Many programs show the label of a list item in the look of its paragraph's mark.
+int Interpreter::lookOfParagraphMark() {
+    CharFormat mark = m_state.chars;
+    mark.link = m_textFormat.link;
+    mark.field = m_textFormat.field;
+    mark.cell = m_textFormat.cell;
+    mark.script = m_textFormat.script;
+    mark.stated = m_textFormat.stated;
+    mark.byNumber = m_textFormat.byNumber;
+    if (mark == m_textFormat || m_keptLeft <= 0)
+        return NothingKept;
+    mark.script = Script::Normal;
+    mark.stated = m_state.chars.stated;
+    const QString look = keptLook(told(mark), m_names);
+    m_keptLeft -= look.size();
+    return m_names.kept(look);
+}
+
+const ParagraphFormat& Interpreter::shapedParagraph() {
+    const bool ofRow = (m_rowEnds || m_state.inTable) && row() != NothingKept;
+    const bool besideBox = m_boxIsOpen || m_boxEnded;
+    const bool toldLate = !ofRow && m_inParagraph && m_state.paragraph.after != m_afterAhead;
+    if (!ofRow && m_state.listOverride == NoList && m_label.isEmpty() && !m_pageBreak &&
+        !m_sectionBegins && m_anchorsAtStart.isEmpty() && !besideBox && !toldLate) {
+        m_lastListKind = m_state.paragraph.list.kind;
+        return m_state.paragraph;
+    }
+    m_shaped = m_state.paragraph;
+    if (toldLate) {
+        m_shaped.afterAhead = m_afterAhead;
+        m_shaped.stated = (m_shaped.stated & ~stated::After) | m_afterSaidAhead;
+    }
+    if (m_pageBreak) {
+        m_shaped.pageBreakBefore = true;
+        m_shaped.pageWord = m_pageWord;
+    }
+    if (ofRow) {
+        m_shaped.row = rowOfParagraph();
+        m_shaped.nestedRow = m_nestedRow;
+        m_shaped.rowBegins = !m_inRow;
+    }
+    m_shaped.anchors = m_names.kept(m_anchorsAtStart);
+    if (m_sectionBegins)
+        m_shaped.section = m_names.kept(sectionBreak());
+    const bool numbered = m_shaped.list.kind != ListKind::None;
+    const auto known = m_lists.label(m_state.listOverride, m_state.listLevel, numbered);
+    ListLabel& list = m_shaped.list;
+    if (m_state.listOverride != NoList && known)
+        list = *known;
+    else if (list.kind == ListKind::None && !m_label.isEmpty() &&
+             m_labelList.kind != ListKind::None)
+        list = m_labelList;
+    else if (list.kind == ListKind::None && !ofRow) // cells end without a label
+        list = labelFromText(m_label, m_labelSymbols, m_lastListKind);
+    else if (m_state.listOverride != NoList && ofRow)
+        list = {};
+    else if (m_state.listOverride != NoList) // which goes before the other, though nobody knows it
+        list.source = ListSource::Text;
+    list.showsStart |= list.source == ListSource::Numbering && !m_label.isEmpty() &&
+                       m_label == labelText(list, list.start).trimmed();
+    m_lastListKind = m_shaped.list.kind;
+    if (list.kind != ListKind::None && m_inParagraph && !m_boxBegins)
+        m_shaped.mark = lookOfParagraphMark();
+    if (besideBox)
+        shapeBesideBox();
+    return m_shaped;
+}
+
+} // namespace orvalis::rtf

@@ -1,0 +1,242 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/reading/shape_scan.h"
+
+#include "rtf/words/control_words.h"
+#include "rtf/words/tokenizer.h"
+
+#include <utility>
+#include <vector>
+
+namespace orvalis::rtf {
+
+namespace {
+
+constexpr QByteArrayView ShownPicture = "pib"; // the property that holds it
+
+/// Whether a word ends something of the document, or shapes its rows.
+bool endsOrShapes(Action action) {
+    switch (action) {
+    case Action::ParagraphEnd:
+    case Action::SectionEnd:
+    case Action::PageEnd:
+    case Action::CellEnd:
+    case Action::RowEnd:
+    case Action::RowDefaults:
+    case Action::CellRight:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool isLineEnd(const Token& token) {
+    return token.kind == TokenKind::Symbol && (token.byte == '\r' || token.byte == '\n');
+}
+
+/// Reads the tokens of a shape once, with an eye on its texts and pictures.
+class ShapeTokens {
+public:
+    explicit ShapeTokens(QByteArrayView content)
+        : m_content(content)
+        , m_tokenizer(content) {}
+
+    ShapeScan run() {
+        Token token;
+        for (m_tokenizer.next(token); token.kind != TokenKind::End; m_tokenizer.next(token)) {
+            take(token);
+            const bool isBlank = token.kind == TokenKind::Text && token.bytes.trimmed().isEmpty();
+            const bool isContent =
+                token.kind == TokenKind::Word || isCharacters(token) || isLineEnd(token);
+            if (isContent && !isBlank && !m_groups.empty())
+                m_groups.back().begins = false;
+            m_starred = token.kind == TokenKind::Symbol && token.byte == '*';
+        }
+        ShapeScan scan;
+        scan.shows = shows();
+        if (scan.shows == ShapeScan::Shows::Nothing)
+            scan.frame = m_content.toByteArray();
+        else if (scan.shows != ShapeScan::Shows::More)
+            scan.frame = frame();
+        return scan;
+    }
+
+private:
+    struct Piece {
+        qsizetype from = 0;
+        qsizetype to = 0;
+    };
+    struct Group {
+        qsizetype start = 0;
+        bool shown = true;
+        bool begins = true; ///< its first word is still to come
+    };
+
+    void take(const Token& token) {
+        m_loose |= isCharacters(token) && shownHere();
+        switch (token.kind) {
+        case TokenKind::GroupStart:
+            if (!m_groups.empty())
+                m_groups.back().begins = false;
+            m_groups.push_back({m_tokenizer.position() - 1, shownHere()});
+            return;
+        case TokenKind::GroupEnd:
+            if (!m_groups.empty())
+                m_groups.pop_back();
+            return;
+        case TokenKind::Word:
+            m_loose |= token.word && endsOrShapes(token.word->action) && shownHere();
+            if (!m_groups.empty())
+                word(token);
+            else if (token.word)
+                m_loose |= opensHere(token.word->action);
+            return;
+        case TokenKind::Symbol:
+            m_loose |= isLineEnd(token) && shownHere();
+            return;
+        default:
+            return;
+        }
+    }
+
+    /// Whether a word makes something else of the shape's own group.
+    static bool opensHere(Action action) {
+        return action == Action::PictureGroup || action == Action::ShapeText ||
+               (hidesText(action) && action != Action::ShapeInstruction);
+    }
+
+    /// Whether text that stands here is text of the document.
+    bool shownHere() const { return m_groups.empty() || m_groups.back().shown; }
+
+    void word(const Token& token) {
+        const Action action = token.word ? token.word->action : Action::Version;
+        // In the middle of a group it would not be read as what it says.
+        m_loose |= isDestination(action) && !m_groups.back().begins;
+        // What is kept of the document, or anchored to its text, is none of the frame.
+        m_loose |= action == Action::KeepGroup && shownHere();
+        if (hidesText(action) || (m_starred && !token.word))
+            m_groups.back().shown = false;
+        if (action == Action::ShapeText)
+            text();
+        else if (action == Action::ShapePropertyName)
+            m_property = m_tokenizer.groupAhead().trimmed();
+        else if (token.bytes == "mmathPict")
+            m_property = ShownPicture;
+        else if (action == Action::PictureGroup)
+            picture();
+        else if (token.bytes == "shprslt" || action == Action::NoShapePicture)
+            pass(m_others);
+        else if (token.bytes == "moMath")
+            m_loose |= !m_starred;
+    }
+
+    /// What fills an area, say, is none that the text shows.
+    void picture() {
+        const bool fills = m_property != ShownPicture;
+        m_loose |= m_property.isEmpty() || (fills && shownHere());
+        if (!fills)
+            pass(m_pictures);
+    }
+
+    void pass(std::vector<Piece>& pieces) {
+        const qsizetype from = m_groups.back().start;
+        pieces.push_back({from, passGroup()});
+    }
+
+    /// Over the rest of the group.
+    qsizetype passGroup() {
+        m_tokenizer.skipGroup();
+        m_groups.pop_back();
+        return m_tokenizer.position();
+    }
+
+    /// What ends its last paragraph stays with the frame: some end it, some do not.
+    void text() {
+        const qsizetype from = m_tokenizer.position();
+        Tokenizer inner(m_tokenizer.groupAhead());
+        Token token;
+        qsizetype end = 0;
+        bool any = false;
+        bool ended = false;
+        bool starred = false;
+        bool begins = true; // the group: its first word may make it something else than text
+        for (inner.next(token); token.kind != TokenKind::End; inner.next(token)) {
+            const bool isWord = token.kind == TokenKind::Word;
+            const Action action = isWord && token.word ? token.word->action : Action::Version;
+            const bool hides = isWord && (token.word ? begins && hidesText(action) : starred);
+            if (hides)
+                inner.skipGroup();
+            starred = token.kind == TokenKind::Symbol && token.byte == '*';
+            end = inner.position();
+            const bool shown = !hides && (isCharacters(token) || action == Action::PictureGroup ||
+                                          action == Action::CellEnd);
+            begins = token.kind == TokenKind::GroupStart ||
+                     (begins && !shown && !hides && token.kind != TokenKind::GroupEnd);
+            any |= shown;
+            if (action == Action::ParagraphEnd || isLineEnd(token))
+                ended = true;
+            else if (shown)
+                ended = false;
+        }
+        passGroup();
+        m_hasEmptyText |= !any && ended;
+        if (!any)
+            return;
+        m_texts.push_back({from, from + end});
+        m_textEnds = ended;
+    }
+
+    ShapeScan::Shows shows() const {
+        const size_t shown = m_texts.size() + m_pictures.size();
+        // A box without text would add its paragraph to what is shown.
+        if (m_loose || shown > 1 || (m_hasEmptyText && shown > 0) || m_content.contains(ShapePlace))
+            return ShapeScan::Shows::More;
+        if (shown == 0)
+            return ShapeScan::Shows::Nothing;
+        return m_texts.empty() ? ShapeScan::Shows::Picture : ShapeScan::Shows::Text;
+    }
+
+    QByteArray frame() const {
+        const bool isText = !m_texts.empty();
+        const Piece& shown = isText ? m_texts.front() : m_pictures.front();
+        QByteArray frame;
+        qsizetype at = 0;
+        const auto copyTo = [&](qsizetype end) {
+            for (const Piece& other : m_others) {
+                if (other.from < at || other.to > end)
+                    continue;
+                frame += m_content.sliced(at, other.from - at);
+                at = other.to;
+            }
+            frame += m_content.sliced(at, end - at);
+        };
+        copyTo(shown.from);
+        frame += ShapePlace;
+        if (isText && m_textEnds)
+            frame += "\\par";
+        frame += ' ';
+        at = shown.to;
+        copyTo(m_content.size());
+        return frame;
+    }
+
+    QByteArrayView m_content;
+    Tokenizer m_tokenizer;
+    std::vector<Group> m_groups; ///< that are open
+    std::vector<Piece> m_texts;
+    std::vector<Piece> m_pictures;
+    std::vector<Piece> m_others; ///< forms for readers that know no shapes
+    QByteArrayView m_property;   ///< the name of the one that came last
+    bool m_starred = false;      ///< the group that begins
+    bool m_textEnds = false;     ///< with a paragraph
+    bool m_hasEmptyText = false; ///< one that has paragraphs all the same
+    bool m_loose = false;        ///< something shows that stands in no part of a shape
+};
+
+} // namespace
+
+ShapeScan scanShape(QByteArrayView content) {
+    return ShapeTokens(content).run();
+}
+
+} // namespace orvalis::rtf

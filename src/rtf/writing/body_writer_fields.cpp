@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "rtf/formats/hyperlink.h"
+#include "rtf/kept/kept_text.h"
+#include "rtf/reading/formula_text.h"
+#include "rtf/writing/body_writer.h"
+
+namespace orvalis::rtf {
+
+/// The braces of a link or a field bring back what held before it.
+void BodyWriter::closeGroup() {
+    m_out.structure("}}");
+    const Look& before = m_lookBefore[m_openGroups - 1];
+    --m_openGroups;
+    m_format = before.format;
+    m_stated = before.stated;
+    m_symbols = m_tables.symbolFontOf(m_format.family);
+}
+
+void BodyWriter::openGroup() {
+    m_lookBefore[m_openGroups++] = {m_format, m_stated};
+}
+
+void BodyWriter::changeLink(int link) {
+    if (link == m_format.link)
+        return;
+    changeField(NothingKept);
+    if (m_format.link != NoName)
+        closeGroup();
+    if (link == NoName)
+        return;
+    openGroup();
+    m_out.structure("{\\field{\\*\\fldinst{");
+    m_out.text(hyperlinkInstruction(m_tables.names().linkAt(link)));
+    m_out.structure("}}");
+    m_out.word("{\\fldrslt");
+    m_format.link = link;
+}
+
+void BodyWriter::changeField(int field) {
+    if (field == m_format.field)
+        return;
+    if (m_format.field != NothingKept)
+        closeGroup();
+    if (field == NothingKept)
+        return;
+    openGroup();
+    const QString instruction = names().keptAt(field);
+    m_out.structure("{\\field");
+    writeKept(m_out, m_tables, QStringView(instruction).sliced(instruction.indexOf(NumberEnd) + 1));
+    m_out.word("{\\fldrslt");
+    m_format.field = field;
+}
+
+/// Writes a field whose text follows from its instruction, or a formula.
+bool BodyWriter::fieldShows(QStringView text, const CharFormat& format) {
+    const QString kept = names().keptAt(format.field);
+    const qsizetype start = kept.indexOf(NumberEnd) + 1;
+    const qsizetype end = kept.indexOf(NumberEnd, start);
+    if (end < 0)
+        return false;
+    CharFormat own = format;
+    own.field = NothingKept;
+    if (QStringView(kept).sliced(end + 1) != text) {
+        this->text(text, own);
+        return true;
+    }
+    m_paragraphIsEmpty = false;
+    change(own);
+    breakPage();
+    const QStringView group = QStringView(kept).sliced(start, end - start);
+    const bool isFormula = group.startsWith(QLatin1StringView(FormulaHead));
+    if (!isFormula)
+        m_out.structure("{\\field");
+    writeKept(m_out, m_tables, group);
+    if (!isFormula)
+        m_out.structure("{\\fldrslt}}");
+    writeAnchors(format.anchors);
+    return true;
+}
+
+} // namespace orvalis::rtf

@@ -10,8 +10,8 @@
 #include "rtf/kept/kept_text.h"
 #include "rtf/pictures/picture_format.h"
 #include "rtf/reading/list_tables.h"
-#include "rtf/reading/row_scan.h"
 #include "rtf/writing/body_writer.h"
+#include "rtf/writing/row_scan.h"
 
 #include <QSet>
 #include <QTextBlock>

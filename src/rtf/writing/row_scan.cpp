@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
-#include "rtf/reading/row_scan.h"
+#include "rtf/writing/row_scan.h"
 
 namespace orvalis::rtf {
 

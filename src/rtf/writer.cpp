@@ -146,6 +146,7 @@ private:
         } else {
             ParagraphFormat torn = own;
             torn.row = NothingKept;
+            torn.kept = m_body.names().kept(withoutListOfCell(m_body.names().keptAt(torn.kept)));
             torn.rowBegins = false;
             torn.nesting = 0;
             torn.nestedRow = NothingKept;
@@ -327,8 +328,8 @@ private:
         ListLabel& list = shape.list;
         if (list.source == ListSource::Text && !isToldByText(*block.textList()))
             list.source = ListSource::Made;
-        shape.stated =
-            stated::by(shape, stated::countedOfParagraphs(m_hasStyles, list.isInTables()));
+        const bool inLists = list.isInTables() || isInList(m_body.names().keptAt(shape.kept));
+        shape.stated = stated::by(shape, stated::countedOfParagraphs(m_hasStyles, inLists));
         return shape;
     }
 

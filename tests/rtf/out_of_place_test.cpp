@@ -56,6 +56,11 @@ private slots:
     void anEquationWhoseWordIsNotTheFirstIsKeptByWhatItShows();
     void aListWithoutAnOverrideToKeepIsWritten();
     void wordsOfALevelBehindTheNumberOfItsListCount();
+    void aListWithinAListIsNone();
+    void aRowOfOneEmptyCellInABoxShowsNothing();
+    void aBoxBehindARowStandsOutsideTheTable();
+    void textAmongTheWordsOfANestedRowIsShownOnce();
+    void halfACharacterOfAnEquationIsASign();
 };
 
 void OutOfPlaceTest::theFontOfTextThatNamesNoneIsSettledWithTheFirstText() {
@@ -157,6 +162,41 @@ void OutOfPlaceTest::wordsOfALevelBehindTheNumberOfItsListCount() {
     readFile(document, "{\\*\\listtable{\\list{\\listlevel\\listid1\\levelnfc2}}}"
                        "{\\*\\listoverridetable{\\listoverride\\listid1\\ls1}}\\ls1 x\\par");
     QCOMPARE(shownLabel(document.firstBlock()), QStringLiteral("i"));
+}
+
+void OutOfPlaceTest::aListWithinAListIsNone() {
+    QTextDocument document;
+    readFile(document, "{\\*\\listtable{\\list{\\listlevel\\levelnfc1}{\\list}\\listid7}}"
+                       "{\\*\\listoverridetable{\\listoverride\\listid7\\ls1}}\\ls1 item");
+    QVERIFY(document.firstBlock().textList());
+    QCOMPARE(document.firstBlock().textList()->format().style(), QTextListFormat::ListUpperRoman);
+}
+
+void OutOfPlaceTest::aRowOfOneEmptyCellInABoxShowsNothing() {
+    QTextDocument document;
+    readFile(document, "a{\\shp{\\shptxt\\cell\\row}}b");
+    QCOMPARE(document.toPlainText(), QStringLiteral("ab"));
+    QVERIFY(writeRtf(document).contains("\\shptxt\\cell\\row}}"));
+}
+
+void OutOfPlaceTest::aBoxBehindARowStandsOutsideTheTable() {
+    QTextDocument document;
+    readFile(document, "\\trowd\\cellx900\\intbl d\\par\\pard{\\shp{\\shptxt x}}");
+    QVERIFY(writeRtf(document).contains("\\row\r\n\\pard{\\shp{\\shptxt"));
+}
+
+void OutOfPlaceTest::textAmongTheWordsOfANestedRowIsShownOnce() {
+    QTextDocument document;
+    readFile(document, "\\trowd\\cellx900\\intbl\\itap2 a\\nestcell{\\*\\nesttableprops\\trowd"
+                       "\\cellx400\\nestrow seen}\\pard\\intbl\\cell\\row");
+    QCOMPARE(document.toPlainText().count(u"seen"), 1);
+    QCOMPARE(writeRtf(document).count("seen"), 1);
+}
+
+void OutOfPlaceTest::halfACharacterOfAnEquationIsASign() {
+    QTextDocument document;
+    readFile(document, "{\\field{\\*\\fldinst EQ \\u-9216 }}");
+    QCOMPARE(document.toPlainText(), QString(QChar::ReplacementCharacter));
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, OutOfPlaceTest)

@@ -247,10 +247,11 @@ void ShapeTest::looseTextOfAShapeIsShown() {
 
 void ShapeTest::aShapeKnowsWhichGroupsHideTheirText_data() {
     QTest::addColumn<QByteArray>("head");
-    const QByteArray heads = "fldtype generator info header fonttbl colortbl listtable "
-                             "listoverridetable fldinst shpinst sp sn sv pn pntxtb pntxta pntext "
-                             "listtext shppict field xe fldrslt nesttableprops object result ud "
-                             "shp shptxt";
+    const QByteArray heads =
+        "fldtype generator info header fonttbl colortbl listtable "
+        "listoverridetable fldinst shpinst sp sn sv pn pntxtb pntxta pntext "
+        "listtext leveltext fname shppict field xe fldrslt nesttableprops object result ud "
+        "shp shptxt";
     for (const QByteArray& head : heads.split(' '))
         QTest::newRow(head.constData()) << head;
 }

@@ -24,6 +24,8 @@ constexpr QChar InnerStart(0x4);
 constexpr QChar InnerEnd(0x5);
 constexpr QChar OverrideStart(0x6);
 
+const QString ListOfCell = u"\\ls"_s + PlaceStart + ListPlace;
+
 QString place(QChar kind, const QString& what) {
     return QString(PlaceStart) + kind + what + PlaceEnd;
 }
@@ -94,6 +96,14 @@ QString keptList(const QString& list, const QString& listOverride) {
 QString listOfCell(const ListLabel& label) {
     return u"\\ls"_s + keptList(label.keptList, label.keptOverride) + u"\\ilvl"_s +
            QString::number(label.level);
+}
+
+bool isInList(const QString& kept) {
+    return kept.contains(ListOfCell);
+}
+
+QString withoutListOfCell(const QString& kept) {
+    return isInList(kept) ? kept.first(kept.indexOf(ListOfCell)) : kept;
 }
 
 void writeKept(RtfOutput& out, WriterTables& tables, QStringView kept) {

@@ -27,6 +27,10 @@ QString keptList(const QString& list, const QString& listOverride);
 
 /// The place in a list of a cell, which shows no label.
 QString listOfCell(const ListLabel& label);
+/// Whether what is kept of a paragraph tells such a place.
+bool isInList(const QString& kept);
+/// What is kept of a cell's paragraph, which ends with that place, without it.
+QString withoutListOfCell(const QString& kept);
 
 /// What stands between the number that a file gave something and what is kept of it.
 inline constexpr QChar NumberEnd(0x3);

@@ -3,6 +3,7 @@
 #include "rtf/reading/formula_text.h"
 
 #include "rtf/characters/code_page.h"
+#include "rtf/characters/whole_characters.h"
 #include "rtf/words/control_words.h"
 #include "rtf/words/tokenizer.h"
 
@@ -32,8 +33,7 @@ public:
         Token token;
         for (m_tokenizer.next(token); token.kind != TokenKind::End; m_tokenizer.next(token))
             take(token);
-        // Halves of characters are none.
-        return QString::fromUtf8(m_text.toUtf8());
+        return wholeCharacters(m_text);
     }
 
 private:

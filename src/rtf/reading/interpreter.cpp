@@ -152,6 +152,8 @@ void Interpreter::skipGroup() {
     if (m_unstoredGroups > 0)
         --m_unstoredGroups;
     else {
+        if (m_groups.size() == m_boxDepth)
+            endBox();
         m_state = std::move(m_groups.back());
         m_groups.pop_back();
     }

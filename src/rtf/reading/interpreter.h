@@ -318,9 +318,10 @@ private:
     };
     Uneven m_uneven; ///< the last one
     int m_bareCell = NothingKept;
-    bool m_anyRow = false;   ///< has been shaped
-    bool m_rowIsNew = false; ///< m_row does not tell it yet
-    bool m_inRow = false;    ///< a paragraph of the row has ended
+    bool m_anyRow = false;      ///< has been shaped
+    bool m_rowIsNew = false;    ///< m_row does not tell it yet
+    bool m_rowIsOpened = false; ///< by a paragraph without text, of which the row may never end
+    bool m_inRow = false;       ///< a paragraph of the row has ended
     bool m_rowEnds = false;
     bool m_inParagraph = false;
     int m_afterAhead = 0;     ///< the space after the paragraph as its text began

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
+#include "rtf/characters/whole_characters.h"
 #include "rtf/formats/hyperlink.h"
 #include "rtf/kept/kept_group.h"
 #include "rtf/kept/kept_text.h"
@@ -17,7 +18,7 @@ namespace {
 
 /// What the instruction of a field that brings no result holds to show.
 QString shownBy(const QString& instruction) {
-    return equationText(instruction) + symbolFieldText(instruction);
+    return wholeCharacters(equationText(instruction) + symbolFieldText(instruction));
 }
 
 } // namespace

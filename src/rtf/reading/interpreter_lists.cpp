@@ -10,11 +10,11 @@ namespace orvalis::rtf {
 bool Interpreter::listWord(const Token& token) {
     switch (token.word->action) {
     case Action::List:
-        if (m_state.destination == Destination::ListTable)
+        if (m_state.destination == Destination::ListTable && !isInList())
             m_lists.beginList(keptOfLists(token));
         return true;
     case Action::ListOverrideEntry:
-        if (m_state.destination == Destination::ListOverrideTable)
+        if (m_state.destination == Destination::ListOverrideTable && !isInList())
             m_lists.beginOverride(keptOfLists(token));
         return true;
     case Action::ListOverrideLevel:

@@ -16,6 +16,21 @@ namespace {
 
 constexpr int MostCells = 64; // word processors know 63
 
+/// Whether a group holds words alone, and none that shows anything or follows the end of its row.
+bool onlyShapesRow(QByteArrayView group) {
+    Tokenizer tokenizer(group);
+    Token token;
+    bool rowEnds = false;
+    for (tokenizer.next(token); token.kind == TokenKind::Word && !rowEnds; tokenizer.next(token)) {
+        const Action action = token.word ? token.word->action : Action::Version;
+        rowEnds = action == Action::RowEnd;
+        if (action == Action::Character || action == Action::Unicode ||
+            (action >= Action::ParagraphEnd && action <= Action::CellEnd))
+            return false;
+    }
+    return token.kind == TokenKind::End;
+}
+
 } // namespace
 
 bool Interpreter::rowWord(const Token& token) {
@@ -122,7 +137,7 @@ int Interpreter::bareCell() {
 /// How the paragraph is shaped that a cell ends with: a line of the document holds all cells of a
 /// row, and has one shape.
 int Interpreter::cellShape(bool nested) {
-    if (nested && (row() == NothingKept || m_state.paragraph.nesting == 0))
+    if (nested && (!m_state.inTable || row() == NothingKept || m_state.paragraph.nesting == 0))
         return NothingKept;
     if (row() == NothingKept)
         return bareCell();
@@ -184,7 +199,7 @@ void Interpreter::rowEnd(bool outermost) {
     if (anyCell || m_inParagraph)
         rowParagraphEnd(kept, outermost);
     m_nestedRow = NothingKept;
-    if (outermost) {
+    if (outermost && (anyCell || !m_rowIsOpened)) {
         m_inRow = false;
         m_cellsOfRow = 0;
         m_cellsOfNested.fill(0);
@@ -209,9 +224,12 @@ void Interpreter::rowParagraphEnd(bool kept, bool outermost) {
 void Interpreter::keepNestedRow() {
     if (std::exchange(m_state.nested, true) || !shows())
         return;
+    const QByteArrayView content = m_tokenizer.groupAhead();
+    m_nestedGroup.clear();
+    if (!onlyShapesRow(content))
+        return;
     const FileTables tables = fileTables(m_fonts.usual());
-    m_nestedGroup =
-        GroupKeeper(m_tokenizer.groupAhead(), tables).kept("{\\*\\", "nesttableprops", m_keptLeft);
+    m_nestedGroup = GroupKeeper(content, tables).kept("{\\*\\", "nesttableprops", m_keptLeft);
     m_keptLeft -= m_nestedGroup.size();
 }
 

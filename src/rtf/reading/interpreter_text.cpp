@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "rtf/formats/list_formats.h"
+#include "rtf/kept/kept_row.h"
 #include "rtf/reading/interpreter.h"
 #include "rtf/writing/look_words.h"
 
@@ -261,6 +262,7 @@ void Interpreter::paragraphEnd() {
     const ParagraphFormat& paragraph = shapedParagraph();
     m_sink.paragraphEnd(paragraph, told(m_state.chars));
     m_inRow = paragraph.row != NothingKept && !m_rowEnds;
+    m_rowIsOpened = m_inRow && isOpenRow(m_names.keptAt(paragraph.row));
     if (!m_inRow)
         m_cellsOfRow = 0;
     m_rowEnds = false;

@@ -3,8 +3,10 @@
 #include "rtf/reading/shape_scan.h"
 
 #include "rtf/words/control_words.h"
+#include "rtf/words/hex.h"
 #include "rtf/words/tokenizer.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -32,6 +34,27 @@ bool endsOrShapes(Action action) {
 
 bool isLineEnd(const Token& token) {
     return token.kind == TokenKind::Symbol && (token.byte == '\r' || token.byte == '\n');
+}
+
+/// Whether a picture's group has a byte of a picture.
+bool hasPictureData(QByteArrayView group) {
+    Tokenizer tokenizer(group);
+    Token token;
+    int depth = 0;
+    qsizetype digits = 0;
+    for (tokenizer.next(token); token.kind != TokenKind::End && digits < 2; tokenizer.next(token)) {
+        if (token.kind == TokenKind::GroupStart)
+            ++depth;
+        else if (token.kind == TokenKind::GroupEnd)
+            --depth;
+        else if (token.kind == TokenKind::Binary && !token.bytes.isEmpty())
+            return true;
+        else if (token.kind == TokenKind::Text && depth == 0)
+            digits += std::count_if(
+                token.bytes.begin(), token.bytes.end(),
+                [](char c) { return hexDigit(uchar(c)) >= 0; });
+    }
+    return digits >= 2;
 }
 
 /// Reads the tokens of a shape once, with an eye on its texts and pictures.
@@ -111,7 +134,9 @@ private:
     void word(const Token& token) {
         const Action action = token.word ? token.word->action : Action::Version;
         // In the middle of a group it would not be read as what it says.
-        m_loose |= isDestination(action) && !m_groups.back().begins;
+        const bool fills =
+            action == Action::PictureGroup && !shownHere() && m_property != ShownPicture;
+        m_loose |= isDestination(action) && !fills && !m_groups.back().begins;
         // What is kept of the document, or anchored to its text, is none of the frame.
         m_loose |= action == Action::KeepGroup && shownHere();
         if (hidesText(action) || (m_starred && !token.word))
@@ -119,9 +144,9 @@ private:
         if (action == Action::ShapeText)
             text();
         else if (action == Action::ShapePropertyName)
-            m_property = m_tokenizer.groupAhead().trimmed();
+            propertyName();
         else if (token.bytes == "mmathPict")
-            m_property = ShownPicture;
+            m_property = ShownPicture.toByteArray();
         else if (action == Action::PictureGroup)
             picture();
         else if (token.bytes == "shprslt" || action == Action::NoShapePicture)
@@ -130,10 +155,25 @@ private:
             m_loose |= !m_starred;
     }
 
+    /// Any sign that is no plain letter stands for itself: no name that matters here has one.
+    void propertyName() {
+        m_property.clear();
+        Tokenizer name(m_tokenizer.groupAhead());
+        Token token;
+        for (name.next(token); token.kind != TokenKind::End; name.next(token))
+            if (token.kind == TokenKind::Text)
+                m_property += token.bytes;
+            else
+                m_property += token.kind == TokenKind::Byte   ? char(token.byte)
+                              : token.kind == TokenKind::Zero ? ' '
+                                                              : '\\';
+        m_property = m_property.trimmed();
+    }
+
     /// What fills an area, say, is none that the text shows.
     void picture() {
         const bool fills = m_property != ShownPicture;
-        m_loose |= m_property.isEmpty() || (fills && shownHere());
+        m_loose |= fills && shownHere();
         if (!fills)
             pass(m_pictures);
     }
@@ -156,29 +196,41 @@ private:
         Tokenizer inner(m_tokenizer.groupAhead());
         Token token;
         qsizetype end = 0;
+        int depth = 0;
         bool any = false;
         bool ended = false;
         bool starred = false;
-        bool begins = true; // the group: its first word may make it something else than text
+        bool cellEnded = false; // which shows only where another one, or text, is behind it
+        bool begins = true;     // the group: its first word may make it something else than text
         for (inner.next(token); token.kind != TokenKind::End; inner.next(token)) {
             const bool isWord = token.kind == TokenKind::Word;
             const Action action = isWord && token.word ? token.word->action : Action::Version;
             const bool hides = isWord && (token.word ? begins && hidesText(action) : starred);
+            m_loose |= hides && depth == 0 && action == Action::KeepGroup;
+            depth += token.kind == TokenKind::GroupStart ? 1 : 0;
+            depth -= hides || token.kind == TokenKind::GroupEnd ? 1 : 0;
             if (hides)
                 inner.skipGroup();
             starred = token.kind == TokenKind::Symbol && token.byte == '*';
             end = inner.position();
-            const bool shown = !hides && (isCharacters(token) || action == Action::PictureGroup ||
-                                          action == Action::CellEnd);
+            const bool isPicture = action == Action::PictureGroup && !hides;
+            m_loose |= isPicture && depth == 0; // of the group that the text should be
+            const bool endsParagraph = action == Action::ParagraphEnd || isLineEnd(token);
+            const bool endsCell = action == Action::CellEnd;
+            const bool shown = !hides && (isCharacters(token) ||
+                                          (isPicture && hasPictureData(inner.groupAhead())) ||
+                                          (cellEnded && (endsCell || endsParagraph)));
+            cellEnded = (cellEnded || endsCell) && action != Action::RowEnd;
             begins = token.kind == TokenKind::GroupStart ||
                      (begins && !shown && !hides && token.kind != TokenKind::GroupEnd);
             any |= shown;
-            if (action == Action::ParagraphEnd || isLineEnd(token))
+            if (endsParagraph)
                 ended = true;
-            else if (shown)
+            else if (shown || endsCell)
                 ended = false;
         }
         passGroup();
+        any |= cellEnded;
         m_hasEmptyText |= !any && ended;
         if (!any)
             return;
@@ -226,7 +278,7 @@ private:
     std::vector<Piece> m_texts;
     std::vector<Piece> m_pictures;
     std::vector<Piece> m_others; ///< forms for readers that know no shapes
-    QByteArrayView m_property;   ///< the name of the one that came last
+    QByteArray m_property;       ///< the name of the one that came last
     bool m_starred = false;      ///< the group that begins
     bool m_textEnds = false;     ///< with a paragraph
     bool m_hasEmptyText = false; ///< one that has paragraphs all the same

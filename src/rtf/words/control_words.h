@@ -90,6 +90,8 @@ enum class Action : quint8 {
     Numbering,
     NumberingTextBefore,
     NumberingTextAfter,
+    ListLevelText,
+    FontPlainName,
     LabelText,
     // Destinations whose text it is, or which have none
     PictureGroup,
@@ -106,7 +108,6 @@ enum class Action : quint8 {
     // Inside the font and colour tables
     FontCharset,
     FontCodePage,
-    FontPlainName,
     Red,
     Green,
     Blue,
@@ -118,7 +119,6 @@ enum class Action : quint8 {
     ListLevelEntry,
     ListLevelKind,
     ListLevelStart,
-    ListLevelText,
     ListLevelFollow,
     ListLevelSide,
     // Inside \pn

@@ -306,8 +306,11 @@ QByteArray BodyWriter::file(int defaultTab, const KeptParts& parts) {
         kept(parts.info) + kept(parts.words) + kept(parts.notes) + kept(parts.section);
     RtfOutput furtherDefaults;
     writeKept(furtherDefaults, m_tables, parts.furtherDefaults);
+    // What the tables keep of lists names fonts, too.
+    RtfOutput tables;
+    m_tables.write(tables, styles);
     RtfOutput out;
-    out.reserve(m_out.bytes().size() + 1024);
+    out.reserve(m_out.bytes().size() + tables.bytes().size() + 1024);
     out.structure("{\\rtf1\\ansi\\ansicpg1252");
     if (parts.defaultFont == DefaultFont::Missing)
         out.word("\\deff", m_tables.unusedFont());
@@ -317,7 +320,7 @@ QByteArray BodyWriter::file(int defaultTab, const KeptParts& parts) {
     out.word("\\deflang", parts.language);
     if (defaultTab != FactoryTab && defaultTab > 0)
         out.word("\\deftab", defaultTab);
-    m_tables.write(out, styles);
+    out.structure(tables.bytes());
     if (!parts.nameless)
         out.structure("{\\*\\generator Orvalis;}");
     out.structure(head);

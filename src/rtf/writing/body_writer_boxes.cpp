@@ -66,12 +66,18 @@ bool BodyWriter::goesOn(const ParagraphFormat& paragraph) const {
 }
 
 void BodyWriter::openBox(const ParagraphFormat& paragraph) {
+    const bool inTable = m_rowEnds || m_paragraphs.last().inTable;
     if (paragraph.section != NothingKept)
         beginSection(names().keptAt(paragraph.section));
     else if (paragraph.boxAhead)
         endLastParagraph();
     else
         tellAfter();
+    if (inTable) {
+        // The box would be in the table else.
+        m_out.word("\\pard");
+        m_paragraphs.forget();
+    }
     m_around = {{m_format, m_stated}, m_paragraphs.last(), m_mark,
                 m_afterBehind,        m_paragraphEnds,     m_paragraphIsEmpty};
     m_box = paragraph.box;

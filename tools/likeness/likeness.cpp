@@ -247,9 +247,8 @@ Share compareLeftEdges(const PdfText& expected, const PdfText& found, double top
         alike.insert(it.key(), alikeInOrder(*it, places.value(it.key())));
     Share share{0, words.size()};
     for (const Word& word : std::as_const(words)) {
-        if (alike[word.text].takeFirst())
-            ++share.alike;
-        else if (isLabelOf(word, items, toldItems))
+        const bool isAlike = alike[word.text].takeFirst();
+        if (isAlike || isLabelOf(word, items, toldItems))
             ++share.alike;
         else if (miss.isEmpty())
             miss = u"\"%1\" at %2, %3"_s.arg(word.text)

@@ -220,9 +220,15 @@ private:
             const bool shown = !hides && (isCharacters(token) ||
                                           (isPicture && hasPictureData(inner.groupAhead())) ||
                                           (cellEnded && (endsCell || endsParagraph)));
+            if (isPicture) {
+                inner.skipGroup();
+                --depth;
+                end = inner.position();
+            }
             cellEnded = (cellEnded || endsCell) && action != Action::RowEnd;
-            begins = token.kind == TokenKind::GroupStart ||
-                     (begins && !shown && !hides && token.kind != TokenKind::GroupEnd);
+            begins =
+                token.kind == TokenKind::GroupStart ||
+                (begins && !shown && !hides && !isPicture && token.kind != TokenKind::GroupEnd);
             any |= shown;
             if (endsParagraph)
                 ended = true;

@@ -36,7 +36,7 @@ QString GroupKeeper::kept(QByteArrayView opening, QByteArrayView word, qsizetype
     Token token;
     for (m_tokenizer.next(token); token.kind != TokenKind::End; m_tokenizer.next(token)) {
         take(token);
-        m_starred = token.kind == TokenKind::Symbol && token.byte == '*';
+        m_starred = isStar(token);
         if (m_out.bytes().size() > limit || m_groups.size() > MostKeptGroups)
             return {};
     }

@@ -21,7 +21,7 @@ public:
         Token token;
         for (m_tokenizer.next(token); token.kind != TokenKind::End; m_tokenizer.next(token)) {
             take(token);
-            m_starred = token.kind == TokenKind::Symbol && token.byte == '*';
+            m_starred = isStar(token);
             m_hasContent =
                 token.kind != TokenKind::GroupStart && (m_hasContent || isContent(token));
         }

@@ -44,8 +44,7 @@ private:
 
     void take(const Token& token) {
         const bool atStart = m_atStart;
-        m_atStart = token.kind == TokenKind::GroupStart ||
-                    (atStart && token.kind == TokenKind::Symbol && token.byte == '*');
+        m_atStart = token.kind == TokenKind::GroupStart || (atStart && isStar(token));
         switch (token.kind) {
         case TokenKind::GroupStart:
             m_groups.push_back({!m_groups.empty() && m_groups.back().hidden, false});

@@ -2,12 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/reading/shape_scan.h"
 
+#include "rtf/reading/box_scan.h"
 #include "rtf/words/control_words.h"
-#include "rtf/words/hex.h"
 #include "rtf/words/tokenizer.h"
 
-#include <algorithm>
-#include <utility>
 #include <vector>
 
 namespace orvalis::rtf {
@@ -32,31 +30,6 @@ bool endsOrShapes(Action action) {
     }
 }
 
-bool isLineEnd(const Token& token) {
-    return token.kind == TokenKind::Symbol && (token.byte == '\r' || token.byte == '\n');
-}
-
-/// Whether a picture's group has a byte of a picture.
-bool hasPictureData(QByteArrayView group) {
-    Tokenizer tokenizer(group);
-    Token token;
-    int depth = 0;
-    qsizetype digits = 0;
-    for (tokenizer.next(token); token.kind != TokenKind::End && digits < 2; tokenizer.next(token)) {
-        if (token.kind == TokenKind::GroupStart)
-            ++depth;
-        else if (token.kind == TokenKind::GroupEnd)
-            --depth;
-        else if (token.kind == TokenKind::Binary && !token.bytes.isEmpty())
-            return true;
-        else if (token.kind == TokenKind::Text && depth == 0)
-            digits += std::count_if(
-                token.bytes.begin(), token.bytes.end(),
-                [](char c) { return hexDigit(uchar(c)) >= 0; });
-    }
-    return digits >= 2;
-}
-
 /// Reads the tokens of a shape once, with an eye on its texts and pictures.
 class ShapeTokens {
 public:
@@ -73,7 +46,7 @@ public:
                 token.kind == TokenKind::Word || isCharacters(token) || isLineEnd(token);
             if (isContent && !isBlank && !m_groups.empty())
                 m_groups.back().begins = false;
-            m_starred = token.kind == TokenKind::Symbol && token.byte == '*';
+            m_starred = isStar(token);
         }
         ShapeScan scan;
         scan.shows = shows();
@@ -193,55 +166,14 @@ private:
     /// What ends its last paragraph stays with the frame: some end it, some do not.
     void text() {
         const qsizetype from = m_tokenizer.position();
-        Tokenizer inner(m_tokenizer.groupAhead());
-        Token token;
-        qsizetype end = 0;
-        int depth = 0;
-        bool any = false;
-        bool ended = false;
-        bool starred = false;
-        bool cellEnded = false; // which shows only where another one, or text, is behind it
-        bool begins = true;     // the group: its first word may make it something else than text
-        for (inner.next(token); token.kind != TokenKind::End; inner.next(token)) {
-            const bool isWord = token.kind == TokenKind::Word;
-            const Action action = isWord && token.word ? token.word->action : Action::Version;
-            const bool hides = isWord && (token.word ? begins && hidesText(action) : starred);
-            m_loose |= hides && depth == 0 && action == Action::KeepGroup;
-            depth += token.kind == TokenKind::GroupStart ? 1 : 0;
-            depth -= hides || token.kind == TokenKind::GroupEnd ? 1 : 0;
-            if (hides)
-                inner.skipGroup();
-            starred = token.kind == TokenKind::Symbol && token.byte == '*';
-            end = inner.position();
-            const bool isPicture = action == Action::PictureGroup && !hides;
-            m_loose |= isPicture && depth == 0; // of the group that the text should be
-            const bool endsParagraph = action == Action::ParagraphEnd || isLineEnd(token);
-            const bool endsCell = action == Action::CellEnd;
-            const bool shown = !hides && (isCharacters(token) ||
-                                          (isPicture && hasPictureData(inner.groupAhead())) ||
-                                          (cellEnded && (endsCell || endsParagraph)));
-            if (isPicture) {
-                inner.skipGroup();
-                --depth;
-                end = inner.position();
-            }
-            cellEnded = (cellEnded || endsCell) && action != Action::RowEnd;
-            begins =
-                token.kind == TokenKind::GroupStart ||
-                (begins && !shown && !hides && !isPicture && token.kind != TokenKind::GroupEnd);
-            any |= shown;
-            if (endsParagraph)
-                ended = true;
-            else if (shown || endsCell)
-                ended = false;
-        }
+        const BoxScan box = scanBox(m_tokenizer.groupAhead());
         passGroup();
-        any |= cellEnded;
-        m_hasEmptyText |= !any && ended;
-        if (!any)
+        m_loose |= box.isOdd;
+        m_hasEmptyText |= !box.shows && box.endsParagraph;
+        if (!box.shows)
             return;
-        m_texts.push_back({from, from + end});
-        m_textEnds = ended;
+        m_texts.push_back({from, from + box.end});
+        m_textEnds = box.endsParagraph;
     }
 
     ShapeScan::Shows shows() const {

@@ -50,6 +50,14 @@ bool isCharacters(const Token& token) {
     }
 }
 
+bool isLineEnd(const Token& token) {
+    return token.kind == TokenKind::Symbol && (token.byte == '\r' || token.byte == '\n');
+}
+
+bool isStar(const Token& token) {
+    return token.kind == TokenKind::Symbol && token.byte == '*';
+}
+
 void Tokenizer::next(Token& token) {
     while (m_at != m_end) {
         const uchar c = *m_at;

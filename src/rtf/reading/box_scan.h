@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArrayView>
+
+namespace orvalis::rtf {
+
+/// What a look ahead tells of the text of a box.
+struct BoxScan {
+    bool shows = false;         ///< it has anything to show
+    bool endsParagraph = false; ///< its last paragraph has a word that ends it
+    bool isOdd = false;         ///< something of it is read as none of the text
+    qsizetype end = 0;          ///< of what belongs to it
+};
+
+/// \param content of the text's group, behind its first word.
+BoxScan scanBox(QByteArrayView content);
+
+} // namespace orvalis::rtf

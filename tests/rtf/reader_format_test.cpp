@@ -113,6 +113,13 @@ void ReaderFormatTest::everyCharacterWordChangesWhatItNames_data() {
     row(
         "\\scaps\\caps0", [](CharFormat& f) { f.capitals = Capitals::Small; });
     row("\\fs36", [](CharFormat& f) { f.halfPoints = 36; });
+    // Of neither direction where none is named.
+    row(
+        "\\afs36", [](CharFormat& f) { f.halfPoints = 36; });
+    row("\\ab", [](CharFormat& f) { f.bold = true; });
+    row(
+        "\\ab\\b0", [](CharFormat&) {});
+    row("\\ai", [](CharFormat& f) { f.italic = true; });
     row("\\fs0", [](CharFormat&) {});
     row(
         "\\fs-4", [](CharFormat&) {});

@@ -38,6 +38,8 @@ class SayingTest : public QObject {
 private slots:
     void whatIsSaidStays_data();
     void whatIsSaidStays();
+    void wordsOfASideSayTheSameOfAllTextWhereNoSideIsNamed_data();
+    void wordsOfASideSayTheSameOfAllTextWhereNoSideIsNamed();
     void aFileWithoutAWriterNamesNone();
     void textShowsInTheSameFontWhereNoneIsNamed();
     void boldThatIsSetWhereNothingWasSaidIsSaid();
@@ -199,6 +201,34 @@ void SayingTest::whatIsSaidStays() {
     const QByteArray written = changedAndSaved(given);
     QVERIFY2(written.contains(kept), written);
     QCOMPARE(written.count("deed"), 1);
+}
+
+void SayingTest::wordsOfASideSayTheSameOfAllTextWhereNoSideIsNamed_data() {
+    QTest::addColumn<QByteArray>("ofASide");
+    QTest::addColumn<QByteArray>("plain");
+    const auto row = [](const QByteArray& ofASide, const QByteArray& plain) {
+        QTest::newRow(ofASide.constData()) << ofASide << plain;
+    };
+    row("\\af2", "\\f2");
+    row("\\f1\\af2", "\\f2");
+    row("\\af99", "\\f99");
+    row("\\af", "\\f");
+    row("\\afs40", "\\fs40");
+    row("\\afs0", "\\fs0");
+    row("\\afs999999", "\\fs999999");
+    row("\\afs", "\\fs");
+    row("\\ab\\ai", "\\b\\i");
+    row("\\b\\i\\ab0\\ai0", "\\b0\\i0");
+    row("\\af2\\rtlch a\\ltrch ", "\\f2\\rtlch a\\ltrch ");
+}
+
+void SayingTest::wordsOfASideSayTheSameOfAllTextWhereNoSideIsNamed() {
+    QFETCH(QByteArray, ofASide);
+    QFETCH(QByteArray, plain);
+    const auto saved = [](const QByteArray& words) {
+        return changedAndSaved(file("{" + words + " word}\\par"));
+    };
+    QCOMPARE(saved(ofASide), saved(plain));
 }
 
 void SayingTest::aFileWithoutAWriterNamesNone() {

@@ -78,22 +78,23 @@ void Interpreter::sayOfSide(int bit) {
 bool Interpreter::saysOfSide(KeptCall& call) {
     const int bit = bitOf(call.word);
     if (bit == stated::Size)
-        call.number = std::clamp(call.number, 1, LargestHalfPoints);
+        call.number =
+            call.number > 0 ? std::min(call.number, LargestHalfPoints) : DefaultHalfPoints;
     const bool isOff = call.hasNumber && call.number == 0;
     if (bit == stated::Bold || bit == stated::Italic)
         call = {call.word, call.side, isOff};
     return bit != stated::Size || call.hasNumber;
 }
 
-/// A word for text of the direction that was named last; where none was, for the other one. What
-/// came ahead of the first such word holds for both: many files tell nothing apart.
+/// A word for text of the direction that was named last; where none was, for all text. What came
+/// ahead of the first such word holds for both: many files tell nothing apart.
 bool Interpreter::sideWord(const KeptCall& call) {
     const int bit = bitOf(call.word);
-    if (bit == 0 || !m_state.named)
+    if (bit == 0)
         return false;
     if (bit == stated::Font && !call.hasNumber)
         return true;
-    if (!std::exchange(m_state.parted, true))
+    if (m_state.named && !std::exchange(m_state.parted, true))
         m_state.other = thisSide();
     CharFormat& chars = m_state.chars;
     const bool on = !call.hasNumber || call.number != 0;
@@ -108,7 +109,7 @@ bool Interpreter::sideWord(const KeptCall& call) {
         chars.italic = on;
     }
     chars.stated |= bit & m_countedOfCharacters;
-    m_state.said |= bit;
+    sayOfSide(bit);
     return true;
 }
 

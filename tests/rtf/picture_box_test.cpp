@@ -72,6 +72,17 @@ void PictureBoxTest::whatCannotBeDrawnKeepsItsBytes_data() {
     row("PNG that claims too much", "\\pngblip",
         QByteArray::fromHex("89504e470d0a1a0a0000000d49484452000186a0000186a00802000000"), unknown);
     row("JPEG cut in its head", "\\jpegblip", jpeg.first(8), unknown);
+    const qsizetype frame = jpeg.indexOf("\xff\xc0");
+    row("JPEG cut behind the head of its frame", "\\jpegblip", jpeg.first(frame + 9), {120, 60});
+    row("JPEG cut in the head of its frame", "\\jpegblip", jpeg.first(frame + 8), unknown);
+    row("JPEG whose frame has parts that it does not tell", "\\jpegblip",
+        QByteArray::fromHex("ffd8ffffc0001108000200030201110003110000ffd9"), {3, 2});
+    row("JPEG cut in the width of its frame", "\\jpegblip",
+        QByteArray::fromHex("ffd8ffc000110800020a"), unknown);
+    row("JPEG of tables alone", "\\jpegblip",
+        QByteArray::fromHex("ffd8ffc400110800020003020111000311000000ffd9"), unknown);
+    row("JPEG that claims to be wide and nothing else", "\\jpegblip",
+        QByteArray::fromHex("ffd8ffc0001108ffffffff0201110003110000ffd9"), {192, 192});
     row("nothing that a JPEG begins with", "\\jpegblip", "no JPEG", unknown);
     row("bitmap that claims too much", "\\dibitmap0",
         QByteArray::fromHex("28000000a0860100a0860100010020000000000000"), unknown);

@@ -4,6 +4,7 @@
 
 #include "rtf/formats/formats.h"
 #include "rtf/pictures/device_bitmap.h"
+#include "rtf/pictures/jpeg_size.h"
 #include "rtf/pictures/little_endian.h"
 #include "rtf/pictures/metafile_converter.h"
 #include "rtf/pictures/metafile_size.h"
@@ -88,7 +89,8 @@ QSize pixelSize(const Picture& picture) {
         QBuffer buffer;
         buffer.setData(picture.bytes);
         buffer.open(QIODevice::ReadOnly);
-        return QImageReader(&buffer).size();
+        const QSize size = QImageReader(&buffer).size();
+        return size.isEmpty() ? jpegSize(picture.bytes) : size;
     }
     if (kind == PictureKind::DeviceDependent)
         return {picture.width, picture.height};

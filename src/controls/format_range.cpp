@@ -3,15 +3,20 @@
 #include "controls/format_range.h"
 
 #include "controls/break_guides.h"
+#include "controls/broken_lines.h"
 #include "controls/layout_ruler.h"
 #include "controls/list_numbers.h"
+#include "controls/page_characters.h"
 #include "controls/page_pictures.h"
+#include "controls/page_runs.h"
 #include "controls/rich_text_box.h"
 #include "controls/small_capitals.h"
 #include "controls/tab_leaders.h"
 #include "controls/text_positions.h"
 #include "rtf/formats/format_properties.h"
 #include "rtf/formats/paragraph_place.h"
+#include "rtf/kept/kept_parts.h"
+#include "rtf/kept/kept_text.h"
 #include "rtf/room/document_height.h"
 #include "runtime/failure.h"
 #include "runtime/twips.h"
@@ -117,13 +122,17 @@ void RangeFormatter::prepare(const FormatRange& range) {
     m_copy->setDefaultTextOption(option);
     m_marginDots = PixelsPerInch;
     standAcrossMargin(range.rect.left());
+    joinAlikeRuns(*m_copy);
     setSmallCapitals(*m_copy);
+    setPageCharacters(*m_copy);
     guideBreaks();
     shrinkPictures(*m_copy, page / TwipsPerPixel);
     goOnBeyondMargins(range.rect.left());
     giveSlack();
     tell(0);
     layOut();
+    if (rtf::fillsBrokenLines(rtf::keptParts(document).words))
+        fillBrokenLines(*m_copy);
     collectLines();
 }
 

@@ -78,6 +78,14 @@ private slots:
     void lettersAreAsWideAsTheirFileSays();
     void whatIsSetToTheRightStandsThereWhicheverWayItRuns();
     void whatTheUserSetsToTheRightStandsThereWhicheverWayItRuns();
+    void aCharacterWithoutASignHasNoWidth_data();
+    void aCharacterWithoutASignHasNoWidth();
+    void lettersJoinThatTheirFilePartsWithoutALook_data();
+    void lettersJoinThatTheirFilePartsWithoutALook();
+    void aJustifiedLineThatABreakEndsIsFullWhereTheFileAsksForIt_data();
+    void aJustifiedLineThatABreakEndsIsFullWhereTheFileAsksForIt();
+    void aLineThatIsMadeFullBreaksAsItDid_data();
+    void aLineThatIsMadeFullBreaksAsItDid();
     void textRunsTheWayThatItsFileSays_data();
     void textRunsTheWayThatItsFileSays();
 };
@@ -131,6 +139,11 @@ void PageLinesTest::linesBreakAtTheMarksThatPartWords_data() {
     QTest::newRow("path") << u"it is found in C:\\Program"_s << u"C:\\"_s << true;
     QTest::newRow("ahead of a backslash") << u"it is found in C:\\Program"_s << u"C:"_s << false;
     QTest::newRow("address") << u"many words of http://at-sea.org/a"_s << u"at-"_s << false;
+    QTest::newRow("opening bracket") << u"many words (here [ in brackets ])"_s << u"[ "_s << false;
+    QTest::newRow("blanks behind it")
+        << u"many words (here [  in brackets ])"_s << u"[  "_s << true;
+    QTest::newRow("ahead of it") << u"many words (here [ in brackets ])"_s << u"(here "_s << true;
+    QTest::newRow("closing bracket") << u"many words (here [ in ] brackets)"_s << u"] "_s << true;
 }
 
 void PageLinesTest::linesBreakAtTheMarksThatPartWords() {
@@ -306,6 +319,117 @@ void PageLinesTest::whatTheUserSetsToTheRightStandsThereWhicheverWayItRuns() {
     box.SetSelAlignment(RichTextBox::rtfRight);
     QVERIFY(inkOf(box).left() > 5 * 96);
     QCOMPARE(box.SelAlignment(), std::optional<int>(RichTextBox::rtfRight));
+}
+
+void PageLinesTest::aCharacterWithoutASignHasNoWidth_data() {
+    QTest::addColumn<QByteArray>("character");
+    QTest::newRow("of the upper half") << QByteArray("\\u157?");
+    QTest::newRow("of the lower half") << QByteArray("\\u7?");
+    QTest::newRow("behind the letters") << QByteArray("\\u127?");
+}
+
+void PageLinesTest::aCharacterWithoutASignHasNoWidth() {
+    QFETCH(QByteArray, character);
+    const auto widthOf = [](const QByteArray& text) {
+        RichTextBox box;
+        box.SetTextRTF("{\\rtf1{\\fonttbl{\\f0 Liberation Sans;}}\\f0\\fs48 " + text + "\\par}");
+        return inkOf(box).width();
+    };
+    QCOMPARE(widthOf("HH" + character.repeated(3) + "HH"), widthOf("HHHH"));
+}
+
+void PageLinesTest::lettersJoinThatTheirFilePartsWithoutALook_data() {
+    QTest::addColumn<QByteArray>("parted");
+    QTest::newRow("language") << QByteArray("\\u1579?{\\lang1025 \\u1579?}");
+    QTest::newRow("said twice") << QByteArray("\\u1579?{\\fs96 \\u1579?}");
+    QTest::newRow("a place where lines may break")
+        << QByteArray("\\u1579?{\\lang1025\\zwbo}\\u1579?");
+    QTest::newRow("three runs") << QByteArray("\\u1579?{\\noproof \\u1579?}\\u1579?");
+}
+
+void PageLinesTest::lettersJoinThatTheirFilePartsWithoutALook() {
+    const QString family = u"DejaVu Sans"_s;
+    if (QFontInfo(QFont(family)).family() != family)
+        QSKIP("The font is not there.");
+    QFETCH(QByteArray, parted);
+    const auto widthOf = [](RichTextBox& box, const QByteArray& text) {
+        box.SetTextRTF("{\\rtf1\\deff0{\\fonttbl{\\f0 DejaVu Sans;}}\\pard\\f0\\fs96 " + text +
+                       "\\par}");
+        return inkOf(box).width();
+    };
+    RichTextBox box;
+    const qsizetype letters = parted.count("\\u1579?");
+    const int joined = widthOf(box, QByteArray("\\u1579?").repeated(letters));
+    QVERIFY(widthOf(box, QByteArray("\\u1579?\\zwnj ").repeated(letters)) > joined + 10);
+    QCOMPARE(widthOf(box, parted), joined);
+    // Of the box nothing is lost.
+    const QByteArray before = box.TextRTF();
+    inkOf(box);
+    QCOMPARE(box.TextRTF(), before);
+}
+
+void PageLinesTest::aJustifiedLineThatABreakEndsIsFullWhereTheFileAsksForIt_data() {
+    QTest::addColumn<QByteArray>("head");
+    QTest::addColumn<QByteArray>("paragraph");
+    QTest::addColumn<bool>("full");
+    const auto row = [](const char* name, const char* head, const char* paragraph, bool full) {
+        QTest::newRow(name) << QByteArray(head) << QByteArray(paragraph) << full;
+    };
+    row("asked for", "\\expshrtn", "\\qj H H H\\line i", true);
+    row("not asked for", "", "\\qj H H H\\line i", false);
+    row("asked not to", "\\expshrtn0", "\\qj H H H\\line i", false);
+    row("not justified", "\\expshrtn", "\\ql H H H\\line i", false);
+    row("end of the paragraph", "\\expshrtn", "\\qj H H H\\par i", false);
+    row("one word", "\\expshrtn", "\\qj H\\line i", false);
+    row("blanks at both ends", "\\expshrtn", "\\qj  H H H  \\line i", true);
+    row("blanks in rows", "\\expshrtn", "\\qj H  H {\\b  }  H\\line i", true);
+    row("a blank without a break", "\\expshrtn", "\\qj H\\~H H\\line i", true);
+    row("behind a tab", "\\expshrtn", "\\qj H H\\tab H H\\line i", true);
+    row("ahead of a tab", "\\expshrtn", "\\qj H H\\tab H\\line i", false);
+    row("an indent", "\\expshrtn", "\\qj\\fi720\\li360 H H H\\line i", true);
+    row("letters that run to the left", "\\expshrtn", "\\qj H H \\u1513? H\\line i", false);
+}
+
+void PageLinesTest::aJustifiedLineThatABreakEndsIsFullWhereTheFileAsksForIt() {
+    QFETCH(QByteArray, head);
+    QFETCH(QByteArray, paragraph);
+    RichTextBox box;
+    box.SetTextRTF("{\\rtf1" + head + "{\\fonttbl{\\f0 Liberation Sans;}}\\pard\\f0\\fs48" +
+                   paragraph + "\\par}");
+    constexpr int PageWidth = 6 * 96;
+    constexpr int SideOfLetter = 3; // dots that a letter leaves free beside it
+    const int right = inkOf(box).right();
+    QVERIFY2(right < PageWidth, qPrintable(QString::number(right)));
+    QTEST(right > PageWidth - SideOfLetter - 2, "full");
+    // The box shows what it showed.
+    QVERIFY(!box.TextRTF().isEmpty());
+}
+
+void PageLinesTest::aLineThatIsMadeFullBreaksAsItDid_data() {
+    QTest::addColumn<QByteArray>("line");
+    QTest::newRow("words") << QByteArray("some words that stand in a line");
+    QTest::newRow("blanks in two runs")
+        << QByteArray("some {\\b  words } that {\\i  }{\\b  } stand");
+    QTest::newRow("blanks without a break") << QByteArray("some\\~words \\~that\\~ stand");
+    QTest::newRow("paragraph that runs to the left")
+        << QByteArray("\\rtlpar some words that stand");
+    QTest::newRow("brackets") << QByteArray("some ( words ) that [ stand ] in a line");
+    QTest::newRow("letters of a fixed width") << QByteArray("{\\f1 some words} that stand");
+    QTest::newRow("small capitals") << QByteArray("{\\scaps Some Words That} stand");
+    QTest::newRow("letters further apart") << QByteArray("{\\expndtw40 some words} that stand");
+}
+
+void PageLinesTest::aLineThatIsMadeFullBreaksAsItDid() {
+    QFETCH(QByteArray, line);
+    const auto linesIn = [&](const QByteArray& head, double inches) {
+        RichTextBox box;
+        box.SetTextRTF("{\\rtf1" + head +
+                       "{\\fonttbl{\\f0 Liberation Serif;}{\\f1 Liberation Mono;}}\\pard\\qj\\f0 " +
+                       (line + "\\line ").repeated(3) + "end\\par}");
+        return linesOf(box, inches);
+    };
+    for (double inches = 1; inches < 4; inches += 0.17)
+        QCOMPARE(linesIn("\\expshrtn", inches), linesIn({}, inches));
 }
 
 void PageLinesTest::textRunsTheWayThatItsFileSays_data() {

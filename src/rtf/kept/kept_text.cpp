@@ -144,6 +144,10 @@ int stretchOf(QStringView kept) {
     return share > 0 && share <= Widest ? share : Usual;
 }
 
+bool fillsBrokenLines(QStringView kept) {
+    return kept.contains(u"\\expshrtn");
+}
+
 QRgb shadeOf(QStringView kept) {
     static const QString Ground = u"\\cbpat"_s + PlaceStart + ColorPlace;
     static const QString Pattern = u"\\cfpat"_s + PlaceStart + ColorPlace;

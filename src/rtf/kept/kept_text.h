@@ -48,6 +48,10 @@ inline constexpr QStringView ParagraphEndsFirst = u"\\par";
 /// How wide kept words of characters make them, in per cent of their own width; 100 for none.
 int stretchOf(QStringView kept);
 
+/// Whether kept words of a document ask for lines of justified text that a line break ends to be as
+/// wide as the others.
+bool fillsBrokenLines(QStringView kept);
+
 /// The colour that kept words of a paragraph lay behind it; AutomaticColor for none.
 QRgb shadeOf(QStringView kept);
 

@@ -11,8 +11,10 @@ namespace orvalis {
 
 void showSignsInFontsOfLetters() {
     // A family counts only under a name that is installed.
-    QFont::insertSubstitutions(u"Symbol"_s, {u"Times New Roman"_s, u"Liberation Serif"_s,
-                                             u"DejaVu Serif"_s, u"DejaVu Sans"_s});
+    const QStringList letters{u"Times New Roman"_s, u"Liberation Serif"_s, u"DejaVu Serif"_s,
+                              u"DejaVu Sans"_s};
+    for (const QString& signs : {u"Symbol"_s, u"Standard Symbols L"_s})
+        QFont::insertSubstitutions(signs, letters);
 }
 
 } // namespace orvalis

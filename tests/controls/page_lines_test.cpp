@@ -86,6 +86,8 @@ private slots:
     void aJustifiedLineThatABreakEndsIsFullWhereTheFileAsksForIt();
     void aLineThatIsMadeFullBreaksAsItDid_data();
     void aLineThatIsMadeFullBreaksAsItDid();
+    void signsShowInWhatStandsForTheirFont_data();
+    void signsShowInWhatStandsForTheirFont();
     void textRunsTheWayThatItsFileSays_data();
     void textRunsTheWayThatItsFileSays();
 };
@@ -430,6 +432,21 @@ void PageLinesTest::aLineThatIsMadeFullBreaksAsItDid() {
     };
     for (double inches = 1; inches < 4; inches += 0.17)
         QCOMPARE(linesIn("\\expshrtn", inches), linesIn({}, inches));
+}
+
+void PageLinesTest::signsShowInWhatStandsForTheirFont_data() {
+    QTest::addColumn<QByteArray>("font");
+    QTest::newRow("of Windows") << QByteArray("\\fcharset2 Symbol");
+    QTest::newRow("of other systems") << QByteArray("\\fcharset2 Standard Symbols L");
+    QTest::newRow("told as one of letters") << QByteArray("\\fcharset0 Standard Symbols L");
+}
+
+void PageLinesTest::signsShowInWhatStandsForTheirFont() {
+    QFETCH(QByteArray, font);
+    RichTextBox box;
+    box.SetTextRTF("{\\rtf1{\\fonttbl{\\f0\\fnil" + font + ";}}\\f0\\fs48 \\u945?\\u8364?\\par}");
+    constexpr int TwoSigns = 20; // dots, of 24 points
+    QVERIFY(inkOf(box).width() > TwoSigns);
 }
 
 void PageLinesTest::textRunsTheWayThatItsFileSays_data() {

@@ -70,10 +70,11 @@ QString inOneOrder(QString word) {
 }
 
 /// What is one sign whichever of the two PDFs holds it: brackets are turned in text that runs from
-/// right to left, and a sign of a symbol font may stand as the letter of its code. Empty for signs
-/// that Unicode does not have.
+/// right to left, a sign of a symbol font may stand as the letter of its code, and control
+/// characters show nothing. Empty for signs that Unicode does not have.
 QString inOneSpelling(QString word) {
     constexpr char32_t FirstBeyondLatin = 0x7f;
+    word.removeIf([](QChar c) { return c.category() == QChar::Other_Control; });
     word.replace(u')', u'(').replace(u']', u'[').replace(QChar(0x2010), u'-');
     if (word.size() != 1)
         return word;

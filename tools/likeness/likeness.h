@@ -34,8 +34,8 @@ Likeness compare(const PdfText& expected, const PdfText& found);
 /// How far down they stand is not looked at, but words that are alike follow each other in the same
 /// order; what the one has at the foot of its page the other may have on the next. Bullets count as
 /// one sign, and so do a bracket and its mirror, and a sign and the letter of its code, as PDFs
-/// tell them in different ways. Leaders of tabs, and words in the scripts for which few machines
-/// have a font, with what is behind them on the line, do not count.
+/// tell them in different ways. Leaders of tabs, control characters, and words in the scripts for
+/// which few machines have a font, with what is behind them on the line, do not count.
 /// \param labels of list items that the file tells. Where one of these stands in place of another
 /// one, ahead of the same text, it counts as alike.
 /// \param miss a word that is not, for whoever looks for the cause.

@@ -15,18 +15,17 @@
 // pages: of the files without a table, text box or lines from top to bottom, those whose words
 // stand on the first page where LibreOffice sets them, each left edge within six points, in the
 // same order down the page. For that, LibreOffice is given the files without their headers, footers
-// and footnotes, which the program does not show, with what their fields of dates, names and
-// numbers show as text, as it would fill these anew, and without their style sheets: RTF tells the
-// looks of text beside its style, and where they are those of a new document LibreOffice takes the
-// style's for them. The program takes the fonts that LibreOffice takes, its font for files that
-// name none, and runs of blanks as wide as it sets them. What PDFs tell in different ways counts as
-// alike: the order of letters that run to the left, brackets and their mirrors, signs and the
-// letters of their codes. The label of a list item may be another one than LibreOffice's where it
-// is one that the file itself tells beside its lists. Words in letters for which no font is there,
-// and those behind them on their lines, do not count; a file that has no other is left out. With
-// --keep what was made stays in OTHER, and what lies there of the files themselves is used again.
-// With --own only the program's own pages are measured, against the PDFs that lie in OTHER: that
-// takes a minute. Needs soffice, and pdftotext and pdftohtml of poppler.
+// and footnotes, which the program does not show, and with what their fields of dates, names and
+// numbers show as text, as it would fill these anew. The program takes the fonts that LibreOffice
+// takes, its font for files that name none, and runs of blanks as wide as it sets them. What PDFs
+// tell in different ways counts as alike: the order of letters that run to the left, brackets and
+// their mirrors, signs and the letters of their codes, control characters, which show nothing, and
+// none. The label of a list item may be another one than LibreOffice's where it is one that the
+// file itself tells beside its lists. Words in letters for which no font is there, and those behind
+// them on their lines, do not count; a file that has no other is left out. With --keep what was
+// made stays in OTHER, and what lies there of the files themselves is used again. With --own only
+// the program's own pages are measured, against the PDFs that lie in OTHER: that takes a minute.
+// Needs soffice, and pdftotext and pdftohtml of poppler.
 #include "likeness.h"
 #include "office.h"
 #include "own_pages.h"

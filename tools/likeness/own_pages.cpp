@@ -133,14 +133,9 @@ void removeHeads(QByteArray& rtf) {
     emptyGroups(rtf, head);
 }
 
-void removeStyles(QByteArray& rtf) {
-    static const QRegularExpression styles(u"\\{(\\\\\\*)?\\\\stylesheet(?![a-z])"_s);
-    emptyGroups(rtf, styles);
-}
-
 void removeNotes(QByteArray& rtf) {
     static const QRegularExpression note(u"\\{(\\\\\\*)?\\\\footnote(?![a-z])"_s);
-    static const QRegularExpression mark(u"\\\\chftn(?![a-z])"_s);
+    static const QRegularExpression mark(u"\\\\chftn(?![a-z]) ?"_s);
     if (emptyGroups(rtf, note))
         rtf = QString::fromLatin1(rtf).remove(mark).toLatin1();
 }
@@ -150,7 +145,6 @@ void removeNotes(QByteArray& rtf) {
 QByteArray asShown(QByteArray rtf) {
     removeFilledFields(rtf);
     removeHeads(rtf);
-    removeStyles(rtf);
     removeNotes(rtf);
     return rtf;
 }

@@ -20,9 +20,8 @@ void printOwnPages(const QByteArray& rtf, const QString& path, bool wideBlanks,
                    const QString& family);
 
 /// A file without its headers, footers, and footnotes with their marks, of which the program's
-/// pages have none, without its style sheet, which RTF does not need for looks, and with what its
-/// fields of dates, names and numbers show as text, which LibreOffice would fill anew; unchanged
-/// where there are none.
+/// pages have none, and with what its fields of dates, names and numbers show as text, which
+/// LibreOffice would fill anew; unchanged where there are none.
 QByteArray asShown(QByteArray rtf);
 
 /// Whether LibreOffice widened the blanks of runs as it read a file: it puts a sixth of an em ahead

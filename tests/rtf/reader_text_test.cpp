@@ -283,6 +283,9 @@ void ReaderTextTest::fontsOfSignsShowWhatUnicodeHas_data() {
                                  << QStringLiteral("\U0001f782\u2b60");
     QTest::newRow("Webdings") << QByteArray("Webdings") << QByteArray("Ya")
                               << QStringLiteral("\U0001f394\u2714");
+    QTest::newRow("the free font that stands for Symbol")
+        << QByteArray("Standard Symbols L") << QByteArray("abG\\'a0")
+        << QStringLiteral("\u03b1\u03b2\u0393\u20ac");
     QTest::newRow("code of the area for private use")
         << QByteArray("Webdings") << QByteArray("\\u-3999?\\u-3999\\'59")
         << QStringLiteral("\u2714\u2714");

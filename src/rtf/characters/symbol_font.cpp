@@ -69,9 +69,9 @@ const dingbats::Signs* signsOf(SymbolFont font) {
 }
 
 constexpr std::pair<QLatin1StringView, SymbolFont> Families[] = {
-    {"Symbol"_L1, SymbolFont::Symbol},          {"Wingdings"_L1, SymbolFont::Wingdings},
-    {"Wingdings 2"_L1, SymbolFont::Wingdings2}, {"Wingdings 3"_L1, SymbolFont::Wingdings3},
-    {"Webdings"_L1, SymbolFont::Webdings},
+    {"Symbol"_L1, SymbolFont::Symbol},          {"Standard Symbols L"_L1, SymbolFont::Symbol},
+    {"Wingdings"_L1, SymbolFont::Wingdings},    {"Wingdings 2"_L1, SymbolFont::Wingdings2},
+    {"Wingdings 3"_L1, SymbolFont::Wingdings3}, {"Webdings"_L1, SymbolFont::Webdings},
 };
 
 } // namespace

@@ -146,12 +146,12 @@ private:
         } else {
             ParagraphFormat torn = own;
             torn.row = NothingKept;
-            torn.kept = m_body.names().kept(withoutListOfCell(m_body.names().keptAt(torn.kept)));
+            leaveOutListOfCell(torn);
             torn.rowBegins = false;
             torn.nesting = 0;
             torn.nestedRow = NothingKept;
             // Some readers leave out what stands between the rows of a table.
-            torn.inTable = m_tornIsEmpty && m_body.hasRows();
+            torn.inTable = m_tornIsEmpty && m_body.hasRows(own.box);
             m_body.beginParagraph(torn, number(block));
         }
         runs(block, position, [](const QTextFragment&, int) { return false; });
@@ -177,6 +177,8 @@ private:
             own.pageBreakBefore = false;
         if (last || endsNested)
             leaveOutLabel(own);
+        else
+            leaveOutListOfCell(own);
         std::vector<int> shapes;
         for (auto it = block.begin(); !it.atEnd(); ++it)
             if (const QTextFragment run = it.fragment(); endsToldCells(run))
@@ -203,6 +205,13 @@ private:
             m_body.endRow();
         else if (endsNested)
             m_body.endNestedRow(nestedRow);
+    }
+
+    /// It is told where a cell ends.
+    void leaveOutListOfCell(ParagraphFormat& paragraph) {
+        if (paragraph.kept != NothingKept)
+            paragraph.kept =
+                m_body.names().kept(withoutListOfCell(m_body.names().keptAt(paragraph.kept)));
     }
 
     /// What ends a row is no item of a list any more where that is read.

@@ -35,8 +35,8 @@ QString GroupKeeper::kept(QByteArrayView opening, QByteArrayView word, qsizetype
     m_out.word(word);
     Token token;
     for (m_tokenizer.next(token); token.kind != TokenKind::End; m_tokenizer.next(token)) {
+        m_head.take(token);
         take(token);
-        m_starred = isStar(token);
         if (m_out.bytes().size() > limit || m_groups.size() > MostKeptGroups)
             return {};
     }
@@ -153,7 +153,7 @@ void GroupKeeper::word(const Token& token) {
         m_out.word("\\" + token.bytes.toByteArray());
         const bool known = token.parameter >= 0 && token.parameter < m_tables.colors.size();
         m_out.word(keptColor(known ? m_tables.colors[token.parameter] : AutomaticColor).toUtf8());
-    } else if (m_starred || !isSessionMark(token.bytes)) {
+    } else if (m_head.isStarred() || !isSessionMark(token.bytes)) {
         copy(token);
     }
 }
@@ -193,7 +193,8 @@ void GroupKeeper::plain() {
 void GroupKeeper::symbol(uchar character) {
     switch (character) {
     case '*':
-        m_out.structure("\\*");
+        if (m_head.hasStar())
+            m_out.structure("\\*");
         return;
     case '~':
     case '-':
@@ -265,13 +266,16 @@ void GroupKeeper::text(QStringView text) {
     // A picture has digits alone.
     if (m_state.picture)
         return;
-    // Codes below a blank are numbers, in the labels of lists.
+    // Codes below a blank are numbers, in the labels of lists. A tab may be a blank ahead of the
+    // word that says what its group is, which it would not be as a word of its own.
     for (qsizetype at = 0; at < text.size();) {
         qsizetype end = at;
-        while (end < text.size() && (text[end] >= u' ' || text[end] == u'\t'))
+        while (end < text.size() && text[end] >= u' ')
             ++end;
         m_out.text(text.sliced(at, end - at));
-        if (end < text.size())
+        if (end < text.size() && text[end] == u'\t')
+            m_out.structure("\t");
+        else if (end < text.size())
             m_out.code(uchar(text[end].unicode()));
         at = end + 1;
     }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "rtf/characters/font_table.h"
+#include "rtf/words/group_head.h"
 #include "rtf/words/tokenizer.h"
 #include "rtf/writing/rtf_output.h"
 
@@ -58,11 +59,11 @@ private:
     Tokenizer m_tokenizer;
     const FileTables& m_tables;
     RtfOutput m_out;
+    GroupHead m_head;
     std::vector<Group> m_groups;
     Group m_state;
     QByteArray m_pending;
     int m_fallbackToSkip = 0;
-    bool m_starred = false; ///< the word that comes next is that of a group that may be ignored
 };
 
 } // namespace orvalis::rtf

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/reading/box_scan.h"
 
+#include "rtf/reading/shape_scan.h"
 #include "rtf/words/control_words.h"
+#include "rtf/words/group_head.h"
 #include "rtf/words/hex.h"
 #include "rtf/words/tokenizer.h"
 
@@ -34,6 +36,11 @@ bool hasPictureData(QByteArrayView group) {
     return digits >= 2;
 }
 
+/// Whether a shape has a text or a picture, of which only its reader knows what they show.
+bool mayShow(QByteArrayView shape) {
+    return shape.contains("\\shptxt") || shape.contains("\\pict");
+}
+
 class BoxTokens {
 public:
     explicit BoxTokens(QByteArrayView content)
@@ -51,15 +58,13 @@ private:
     void take(const Token& token) {
         const bool isWord = token.kind == TokenKind::Word;
         const Action action = isWord && token.word ? token.word->action : Action::Version;
-        const bool isStarred = std::exchange(m_starred, isStar(token));
-        m_depth += token.kind == TokenKind::GroupStart ? 1 : 0;
-        m_depth -= token.kind == TokenKind::GroupEnd ? 1 : 0;
+        m_head.take(token);
         m_scan.end = m_tokenizer.position();
-        if (isWord && (token.word ? m_begins && hidesText(action) : isStarred)) {
-            m_scan.isOdd |= m_depth == 0 && action == Action::KeepGroup;
+        if (isWord && (token.word ? m_begins && hidesText(action) : m_head.isStarred())) {
+            if (action == Action::ShapeInstruction)
+                m_scan.holdsShape |= mayShow(m_tokenizer.groupAhead());
             passGroup();
-        } else if (action == Action::PictureGroup) {
-            m_scan.isOdd |= m_depth == 0; // the text itself would be the picture
+        } else if (m_begins && action == Action::PictureGroup) {
             if (hasPictureData(m_tokenizer.groupAhead()))
                 show();
             passGroup();
@@ -73,9 +78,13 @@ private:
         const bool endsCell = action == Action::CellEnd;
         const bool shown = isCharacters(token) || (m_cellEnded && (endsCell || endsParagraph));
         m_cellEnded = (m_cellEnded || endsCell) && action != Action::RowEnd;
+        const bool says = action == Action::ShapeText || action == Action::UnicodePair ||
+                          action == Action::UnicodeHalf;
         m_begins = token.kind == TokenKind::GroupStart ||
-                   (m_begins && !shown && token.kind != TokenKind::GroupEnd);
-        if (shown)
+                   (m_begins && !shown && !says && token.kind != TokenKind::GroupEnd);
+        m_scan.shapes |= endsParagraph || endsOrShapes(action);
+        const bool isMark = token.kind == TokenKind::Word && token.bytes == ShownEmpty.sliced(1);
+        if (shown || isMark)
             show();
         if (endsParagraph || endsCell)
             m_scan.endsParagraph = endsParagraph;
@@ -89,16 +98,15 @@ private:
     /// Over the rest of the group.
     void passGroup() {
         m_tokenizer.skipGroup();
-        --m_depth;
+        m_head.leave();
         m_begins = false;
         m_scan.end = m_tokenizer.position();
     }
 
     Tokenizer m_tokenizer;
     BoxScan m_scan;
-    int m_depth = 0; ///< of groups that are open
-    bool m_starred = false;
-    bool m_begins = true;     ///< the group: its first word may make it something else than text
+    GroupHead m_head;
+    bool m_begins = false;    ///< the group: its first word may make it something else than text
     bool m_cellEnded = false; ///< which shows only where another one, or text, is behind it
 };
 

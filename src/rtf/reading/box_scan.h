@@ -9,8 +9,9 @@ namespace orvalis::rtf {
 /// What a look ahead tells of the text of a box.
 struct BoxScan {
     bool shows = false;         ///< it has anything to show
+    bool shapes = false;        ///< it ends paragraphs, or shapes rows
+    bool holdsShape = false;    ///< that may have something to show
     bool endsParagraph = false; ///< its last paragraph has a word that ends it
-    bool isOdd = false;         ///< something of it is read as none of the text
     qsizetype end = 0;          ///< of what belongs to it
 };
 

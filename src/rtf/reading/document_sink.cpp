@@ -285,6 +285,12 @@ void DocumentSink::insertParagraph(const ParagraphFormat& paragraph, const CharF
         insertRuns(higherShape(paragraphShape(m_cursor.blockFormat()), shape.height));
     else
         insertRuns(shape.height);
+    // It was told beside text that may not have found room.
+    if (paragraph.mark != NothingKept && isFull() && !m_textBefore) {
+        QTextBlockFormat cut = m_cursor.blockFormat();
+        cut.clearProperty(ParagraphMark);
+        m_cursor.setBlockFormat(cut);
+    }
 }
 
 void DocumentSink::shapeFirst() {

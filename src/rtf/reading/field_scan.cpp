@@ -3,6 +3,7 @@
 #include "rtf/reading/field_scan.h"
 
 #include "rtf/characters/code_page.h"
+#include "rtf/words/group_head.h"
 #include "rtf/words/tokenizer.h"
 
 namespace orvalis::rtf {
@@ -20,8 +21,8 @@ public:
     FieldScan run() {
         Token token;
         for (m_tokenizer.next(token); token.kind != TokenKind::End; m_tokenizer.next(token)) {
+            m_head.take(token);
             take(token);
-            m_starred = isStar(token);
             m_hasContent =
                 token.kind != TokenKind::GroupStart && (m_hasContent || isContent(token));
         }
@@ -30,8 +31,7 @@ public:
 
 private:
     static bool isContent(const Token& token) {
-        const bool isBlank = token.kind == TokenKind::Text && token.bytes.trimmed().isEmpty();
-        return token.kind == TokenKind::GroupEnd || (isCharacters(token) && !isBlank);
+        return token.kind == TokenKind::GroupEnd || (isCharacters(token) && !isBlank(token));
     }
 
     void take(const Token& token) {
@@ -60,22 +60,15 @@ private:
 
     void word(const Token& token) {
         const Action action = token.word ? token.word->action : Action::Version;
-        if (!m_hasContent && (hidesText(action) || (m_starred && !token.word))) {
+        if (!m_hasContent && (hidesText(action) || (m_head.isStarred() && !token.word))) {
             hidden(action);
             return;
         }
+        m_scan.hasStructure |= endsOrShapes(action);
         switch (action) {
         case Action::Field:
             if (m_depth > 0 && m_innerDepth == NoDepth && !m_hasContent)
                 m_innerDepth = m_depth;
-            return;
-        case Action::ParagraphEnd:
-        case Action::SectionEnd:
-        case Action::PageEnd:
-        case Action::CellEnd:
-        case Action::RowEnd:
-        case Action::RowDefaults:
-            m_scan.hasStructure = true;
             return;
         case Action::PictureGroup:
         case Action::ShapeGroup:
@@ -93,10 +86,11 @@ private:
     /// A group that is no text. The first instruction is that of the field, but for those of fields
     /// that it holds.
     void hidden(Action action) {
-        if (action == Action::FieldInstruction && m_innerDepth == NoDepth &&
+        if (action == Action::FieldInstruction && m_depth > 0 && m_innerDepth == NoDepth &&
             m_scan.instruction.isEmpty())
             m_scan.instruction = m_tokenizer.groupAhead();
         m_tokenizer.skipGroup();
+        m_head.leave();
         m_hasContent = true;
         --m_depth;
     }
@@ -105,10 +99,10 @@ private:
 
     Tokenizer m_tokenizer;
     FieldScan m_scan;
+    GroupHead m_head;
     int m_depth = 0;
     int m_resultDepth = NoDepth;
     int m_innerDepth = NoDepth; ///< of the field in it that one stands in
-    bool m_starred = false;     ///< the group that begins
     bool m_hasContent = false;  ///< the group has, so that it cannot become an instruction any more
 };
 

@@ -110,6 +110,21 @@ private:
             false; ///< text or groups, so that it cannot become a destination any more
     };
 
+    /// What a text tells of its rows. That of a box knows none of those around it.
+    struct Rows {
+        int keptOfRow = 0;
+        int keptOfCell = 0;
+        QString cells; ///< of the row, as they are kept
+        int cellCount = 0;
+        int row = NothingKept;
+        int cellsOfRow = 0;                               ///< that have ended
+        std::array<int, MostNesting + 1> cellsOfNested{}; ///< the same, by their nesting
+        bool any = false;                                 ///< has been shaped
+        bool isNew = false;                               ///< row does not tell it yet
+        bool isOpened = false;  ///< by a paragraph without text, of which the row may never end
+        bool isEntered = false; ///< a paragraph of the row has ended
+    };
+
     // Structure (interpreter.cpp)
     bool step(const Token& token);
     void openGroup();
@@ -301,15 +316,10 @@ private:
     ParagraphFormat m_lastOfCell;
     ParagraphFormat m_shapeOfCell; ///< the last one that was written down, as m_cellShape
     int m_cellShape = NothingKept;
-    int m_keptOfRow = 0;
-    int m_keptOfCell = 0;
-    QString m_cells; ///< of the row, as they are kept
-    int m_cellCount = 0;
-    int m_row = NothingKept;
-    int m_cellsOfRow = 0;                               ///< that have ended
-    std::array<int, MostNesting + 1> m_cellsOfNested{}; ///< the same, by their nesting
-    QString m_nestedGroup;                              ///< what shapes the nested row that ends
-    int m_nestedRow = NothingKept;                      ///< that ends with the paragraph
+    Rows m_rows;
+    Rows m_rowsAround;             ///< the text box that is open
+    QString m_nestedGroup;         ///< what shapes the nested row that ends
+    int m_nestedRow = NothingKept; ///< that ends with the paragraph
     int m_nestedRows = 0;
     struct Uneven {
         int row = NothingKept;
@@ -318,10 +328,6 @@ private:
     };
     Uneven m_uneven; ///< the last one
     int m_bareCell = NothingKept;
-    bool m_anyRow = false;      ///< has been shaped
-    bool m_rowIsNew = false;    ///< m_row does not tell it yet
-    bool m_rowIsOpened = false; ///< by a paragraph without text, of which the row may never end
-    bool m_inRow = false;       ///< a paragraph of the row has ended
     bool m_rowEnds = false;
     bool m_inParagraph = false;
     int m_afterAhead = 0;     ///< the space after the paragraph as its text began

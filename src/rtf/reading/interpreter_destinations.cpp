@@ -18,11 +18,9 @@ constexpr QRgb OpaqueBlack = 0xff000000;
 } // namespace
 
 bool Interpreter::destinationWord(const Token& token) {
-    // Only the head of a group says what the group is for, and never that of the outermost one.
-    if (m_groups.size() < 2 || m_state.hasContent)
-        return false;
-    // Nothing between the data of a picture makes something else of them.
-    if (m_state.ownsDestination && m_state.destination == Destination::Picture)
+    // Only the head of a group says what the group is for, once, and never that of the outermost
+    // one.
+    if (m_groups.size() < 2 || m_state.hasContent || m_state.ownsDestination)
         return false;
     const Action action = token.word->action;
     if (m_unstoredGroups > 0) {
@@ -87,6 +85,8 @@ bool Interpreter::destinationWord(const Token& token) {
         }
         return true;
     case Action::Field:
+        if (m_state.ownField != NothingKept)
+            return true;
         m_fieldText.clear();
         m_fieldDepth = inBody ? m_groups.size() : 0;
         if (inBody)
@@ -180,6 +180,7 @@ void Interpreter::openDestination(Destination destination) {
     m_state.destination = destination;
     m_state.ownsDestination = true;
     m_capture.clear();
+    m_captureFormat = m_state.chars;
 }
 
 void Interpreter::closeDestination(Destination destination) {

@@ -10,7 +10,7 @@ namespace {
 
 // Limits that no page reaches, so that sums and products of lengths stay far from overflow.
 constexpr int LongestLength = 100000; // twips
-constexpr int LargestSpacing = 2000;  // twips, or quarters of a point
+constexpr int LargestSpacing = 2000;  // twips
 constexpr int LargestRaise = 2000;    // half points
 constexpr int MostUnicodeSkip = 255;
 constexpr qsizetype MostTabs = 32;
@@ -84,8 +84,9 @@ bool Interpreter::characterWord(const Token& token) {
         return true;
     case Action::Spacing:
         chars.stated |= stated::Spacing & m_countedOfCharacters;
-        chars.spacing =
-            token.word->value * std::clamp(token.parameter, -LargestSpacing, LargestSpacing);
+        chars.spacing = std::clamp(token.word->value *
+                                       std::clamp(token.parameter, -LargestSpacing, LargestSpacing),
+                                   -LargestSpacing, LargestSpacing);
         return true;
     case Action::ControlMarks:
         chars.controlMarks = isOn(token);

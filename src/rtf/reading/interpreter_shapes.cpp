@@ -80,6 +80,7 @@ void Interpreter::expectBox() {
         return;
     m_boxDepth = m_groups.size();
     m_labelAround = std::exchange(m_label, {});
+    m_rowsAround = std::exchange(m_rows, {});
 }
 
 /// The text of a box has paragraphs of its own: that of the document which the box stands in is
@@ -110,6 +111,7 @@ void Interpreter::endBox() {
     if (m_boxIsOpen && (m_inParagraph || !m_boxHasParagraph))
         paragraphEnd();
     m_boxDepth = 0;
+    m_rows = std::exchange(m_rowsAround, {});
     m_label = std::exchange(m_labelAround, {});
     if (!std::exchange(m_boxIsOpen, false))
         return;

@@ -38,21 +38,21 @@ bool Interpreter::rowWord(const Token& token) {
     case Action::RowDefaults:
         if (!shows() || m_state.nested)
             return true;
-        m_anyRow = true;
-        m_keptOfRow = m_keptOfCell = 0;
-        m_cells.clear();
-        m_cellCount = 0;
-        m_rowIsNew = true;
+        m_rows.any = true;
+        m_rows.keptOfRow = m_rows.keptOfCell = 0;
+        m_rows.cells.clear();
+        m_rows.cellCount = 0;
+        m_rows.isNew = true;
         m_state.border = nullptr;
         return true;
     case Action::CellRight:
-        if (!shows() || m_state.nested || m_cellCount >= MostCells)
+        if (!shows() || m_state.nested || m_rows.cellCount >= MostCells)
             return true;
-        ++m_cellCount;
-        m_cells += m_names.keptAt(m_kept.name(m_keptOfCell)) + QStringLiteral("\\cellx") +
-                   QString::number(token.parameter);
-        m_keptOfCell = 0;
-        m_rowIsNew = true;
+        ++m_rows.cellCount;
+        m_rows.cells += m_names.keptAt(m_kept.name(m_rows.keptOfCell)) + QStringLiteral("\\cellx") +
+                        QString::number(token.parameter);
+        m_rows.keptOfCell = 0;
+        m_rows.isNew = true;
         return true;
     case Action::InTable:
         m_state.inTable = true;
@@ -70,7 +70,8 @@ bool Interpreter::rowWord(const Token& token) {
             const bool nested = token.word->value != 0;
             const int cell = m_cellsEnded.back().cell = cellShape(nested);
             if (endsCellOfRow(cell))
-                ++(nested ? m_cellsOfNested[size_t(m_state.paragraph.nesting)] : m_cellsOfRow);
+                ++(nested ? m_rows.cellsOfNested[size_t(m_state.paragraph.nesting)]
+                          : m_rows.cellsOfRow);
         }
         return true;
     case Action::RowEnd:
@@ -85,28 +86,28 @@ bool Interpreter::rowWord(const Token& token) {
 void Interpreter::keepOfRow(KeptLevel level, const KeptCall& call) {
     if (m_state.nested)
         return;
-    int& set = level == KeptLevel::Row ? m_keptOfRow : m_keptOfCell;
+    int& set = level == KeptLevel::Row ? m_rows.keptOfRow : m_rows.keptOfCell;
     set = m_kept.with(set, call);
-    m_rowIsNew = true;
+    m_rows.isNew = true;
 }
 
 /// What the file says of the row and its cells; NothingKept where it says nothing.
 int Interpreter::row() {
-    if (!std::exchange(m_rowIsNew, false))
-        return m_row;
-    m_row = NothingKept;
-    if (m_cellCount > 0 && m_keptLeft > 0) {
-        const QString text =
-            QStringLiteral("\\trowd") + m_names.keptAt(m_kept.name(m_keptOfRow)) + m_cells;
+    if (!std::exchange(m_rows.isNew, false))
+        return m_rows.row;
+    m_rows.row = NothingKept;
+    if (m_rows.cellCount > 0 && m_keptLeft > 0) {
+        const QString text = QStringLiteral("\\trowd") +
+                             m_names.keptAt(m_kept.name(m_rows.keptOfRow)) + m_rows.cells;
         m_keptLeft -= text.size();
-        m_row = m_names.kept(text);
+        m_rows.row = m_names.kept(text);
     }
-    return m_row;
+    return m_rows.row;
 }
 
 /// The row with a number of cells that its words do not tell.
 int Interpreter::unevenRow(int cells) {
-    if (m_keptLeft <= 0 || m_cellCount >= MostCells || cells > MostCells)
+    if (m_keptLeft <= 0 || m_rows.cellCount >= MostCells || cells > MostCells)
         return row();
     if (m_uneven.kept == NothingKept || m_uneven.row != row() || m_uneven.cells != cells) {
         const QString text = rtf::unevenRow(cells, m_names.keptAt(row()));
@@ -120,15 +121,16 @@ int Interpreter::unevenRow(int cells) {
 /// In a table without text and cells, the paragraph may belong to no row at all.
 int Interpreter::rowOfParagraph() {
     if (m_rowEnds)
-        return m_cellsOfRow == m_cellCount ? row() : unevenRow(m_cellsOfRow);
-    return m_inParagraph || !m_anchorsAtStart.isEmpty() ? row() : unevenRow(0);
+        return m_rows.cellsOfRow == m_rows.cellCount ? row() : unevenRow(m_rows.cellsOfRow);
+    const bool isEmpty = !m_inParagraph && m_anchorsAtStart.isEmpty() && m_nestedRow == NothingKept;
+    return isEmpty ? unevenRow(0) : row();
 }
 
 /// What ends a cell ahead of all rows is none of one, and stays what it is.
 int Interpreter::bareCell() {
     const bool inText = !m_state.inTable && !m_state.inShape && m_state.chars.link == NoName &&
                         m_state.chars.field == NothingKept;
-    if (m_anyRow || !inText || m_keptLeft <= 0)
+    if (m_rows.any || !inText || m_keptLeft <= 0)
         return NothingKept;
     m_bareCell = m_names.kept(BareCell.toString());
     return m_bareCell;
@@ -188,6 +190,9 @@ void Interpreter::cellTabs(size_t count) {
 }
 
 void Interpreter::rowEnd(bool outermost) {
+    // A box has no row ahead of its text.
+    if (m_boxDepth > 0 && !m_boxIsOpen)
+        return;
     const bool anyCell = !m_cellsEnded.empty();
     const bool complete = anyCell && endsCellOfRow(m_cellsEnded.back().cell) &&
                           (m_lastOfCell.nesting == 0) == outermost;
@@ -199,10 +204,10 @@ void Interpreter::rowEnd(bool outermost) {
     if (anyCell || m_inParagraph)
         rowParagraphEnd(kept, outermost);
     m_nestedRow = NothingKept;
-    if (outermost && (anyCell || !m_rowIsOpened)) {
-        m_inRow = false;
-        m_cellsOfRow = 0;
-        m_cellsOfNested.fill(0);
+    if (outermost && (anyCell || !m_rows.isOpened)) {
+        m_rows.isEntered = false;
+        m_rows.cellsOfRow = 0;
+        m_rows.cellsOfNested.fill(0);
     }
 }
 
@@ -236,7 +241,7 @@ void Interpreter::keepNestedRow() {
 int Interpreter::endedNestedRow() {
     constexpr int MostNestedRows = 4096; // each makes a format of its own
     const QString group = std::exchange(m_nestedGroup, {});
-    const int cells = std::exchange(m_cellsOfNested[size_t(m_lastOfCell.nesting)], 0);
+    const int cells = std::exchange(m_rows.cellsOfNested[size_t(m_lastOfCell.nesting)], 0);
     if (!m_state.nested || group.isEmpty() || m_nestedRows >= MostNestedRows)
         return NothingKept;
     return m_names.kept(nestedRow(++m_nestedRows, cells, group));

@@ -261,10 +261,10 @@ void Interpreter::paragraphEnd() {
     flushText();
     const ParagraphFormat& paragraph = shapedParagraph();
     m_sink.paragraphEnd(paragraph, told(m_state.chars));
-    m_inRow = paragraph.row != NothingKept && !m_rowEnds;
-    m_rowIsOpened = m_inRow && isOpenRow(m_names.keptAt(paragraph.row));
-    if (!m_inRow)
-        m_cellsOfRow = 0;
+    m_rows.isEntered = paragraph.row != NothingKept && !m_rowEnds;
+    m_rows.isOpened = m_rows.isEntered && isOpenRow(m_names.keptAt(paragraph.row));
+    if (!m_rows.isEntered)
+        m_rows.cellsOfRow = 0;
     m_rowEnds = false;
     m_boxEnded = false;
     m_boxHasParagraph = true;
@@ -282,7 +282,7 @@ void Interpreter::pageEnd() {
     if (m_inParagraph)
         paragraphEnd();
     if (!m_pageBreak)
-        m_pageWord = between && !m_inRow ? PageWord::Between : PageWord::InFront;
+        m_pageWord = between && !m_rows.isEntered ? PageWord::Between : PageWord::InFront;
     m_pageBreak = true;
 }
 
@@ -325,7 +325,7 @@ const ParagraphFormat& Interpreter::shapedParagraph() {
     if (ofRow) {
         m_shaped.row = rowOfParagraph();
         m_shaped.nestedRow = m_nestedRow;
-        m_shaped.rowBegins = !m_inRow;
+        m_shaped.rowBegins = !m_rows.isEntered;
     }
     m_shaped.anchors = m_names.kept(m_anchorsAtStart);
     if (m_sectionBegins)

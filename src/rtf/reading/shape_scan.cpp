@@ -4,6 +4,7 @@
 
 #include "rtf/reading/box_scan.h"
 #include "rtf/words/control_words.h"
+#include "rtf/words/group_head.h"
 #include "rtf/words/tokenizer.h"
 
 #include <vector>
@@ -13,22 +14,6 @@ namespace orvalis::rtf {
 namespace {
 
 constexpr QByteArrayView ShownPicture = "pib"; // the property that holds it
-
-/// Whether a word ends something of the document, or shapes its rows.
-bool endsOrShapes(Action action) {
-    switch (action) {
-    case Action::ParagraphEnd:
-    case Action::SectionEnd:
-    case Action::PageEnd:
-    case Action::CellEnd:
-    case Action::RowEnd:
-    case Action::RowDefaults:
-    case Action::CellRight:
-        return true;
-    default:
-        return false;
-    }
-}
 
 /// Reads the tokens of a shape once, with an eye on its texts and pictures.
 class ShapeTokens {
@@ -40,13 +25,12 @@ public:
     ShapeScan run() {
         Token token;
         for (m_tokenizer.next(token); token.kind != TokenKind::End; m_tokenizer.next(token)) {
+            m_head.take(token);
             take(token);
-            const bool isBlank = token.kind == TokenKind::Text && token.bytes.trimmed().isEmpty();
             const bool isContent =
                 token.kind == TokenKind::Word || isCharacters(token) || isLineEnd(token);
-            if (isContent && !isBlank && !m_groups.empty())
+            if (isContent && !isBlank(token) && !m_groups.empty())
                 m_groups.back().begins = false;
-            m_starred = isStar(token);
         }
         ShapeScan scan;
         scan.shows = shows();
@@ -112,7 +96,7 @@ private:
         m_loose |= isDestination(action) && !fills && !m_groups.back().begins;
         // What is kept of the document, or anchored to its text, is none of the frame.
         m_loose |= action == Action::KeepGroup && shownHere();
-        if (hidesText(action) || (m_starred && !token.word))
+        if (hidesText(action) || (m_head.isStarred() && !token.word))
             m_groups.back().shown = false;
         if (action == Action::ShapeText)
             text();
@@ -125,7 +109,7 @@ private:
         else if (token.bytes == "shprslt" || action == Action::NoShapePicture)
             pass(m_others);
         else if (token.bytes == "moMath")
-            m_loose |= !m_starred;
+            m_loose |= !m_head.isStarred();
     }
 
     /// Any sign that is no plain letter stands for itself: no name that matters here has one.
@@ -159,6 +143,7 @@ private:
     /// Over the rest of the group.
     qsizetype passGroup() {
         m_tokenizer.skipGroup();
+        m_head.leave();
         m_groups.pop_back();
         return m_tokenizer.position();
     }
@@ -168,8 +153,8 @@ private:
         const qsizetype from = m_tokenizer.position();
         const BoxScan box = scanBox(m_tokenizer.groupAhead());
         passGroup();
-        m_loose |= box.isOdd;
-        m_hasEmptyText |= !box.shows && box.endsParagraph;
+        m_loose |= !box.shows && box.holdsShape;
+        m_hasEmptyText |= !box.shows && box.shapes;
         if (!box.shows)
             return;
         m_texts.push_back({from, from + box.end});
@@ -212,12 +197,12 @@ private:
 
     QByteArrayView m_content;
     Tokenizer m_tokenizer;
+    GroupHead m_head;
     std::vector<Group> m_groups; ///< that are open
     std::vector<Piece> m_texts;
     std::vector<Piece> m_pictures;
     std::vector<Piece> m_others; ///< forms for readers that know no shapes
     QByteArray m_property;       ///< the name of the one that came last
-    bool m_starred = false;      ///< the group that begins
     bool m_textEnds = false;     ///< with a paragraph
     bool m_hasEmptyText = false; ///< one that has paragraphs all the same
     bool m_loose = false;        ///< something shows that stands in no part of a shape

@@ -151,6 +151,11 @@ constexpr bool hidesText(Action head) {
     return head >= Action::SkipGroup && head <= Action::LabelText;
 }
 
+/// Whether a word ends something of the document, or shapes its rows.
+constexpr bool endsOrShapes(Action action) {
+    return action >= Action::ParagraphEnd && action <= Action::CellRight;
+}
+
 struct ControlWord {
     QByteArrayView name;
     Action action = Action::Version;

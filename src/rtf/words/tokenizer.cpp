@@ -50,6 +50,17 @@ bool isCharacters(const Token& token) {
     }
 }
 
+bool isBlank(const Token& token) {
+    switch (token.kind) {
+    case TokenKind::Text:
+        return token.bytes.trimmed().isEmpty();
+    case TokenKind::Byte:
+        return QByteArrayView(&token.byte, 1).trimmed().isEmpty();
+    default:
+        return token.kind == TokenKind::Zero;
+    }
+}
+
 bool isLineEnd(const Token& token) {
     return token.kind == TokenKind::Symbol && (token.byte == '\r' || token.byte == '\n');
 }

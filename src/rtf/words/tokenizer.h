@@ -33,6 +33,8 @@ struct Token {
 
 /// Whether the token stands for characters, where it stands in text.
 bool isCharacters(const Token& token);
+/// Whether the token is blanks alone, which nothing stands in between.
+bool isBlank(const Token& token);
 /// Whether the token is a line end behind a backslash, which ends a paragraph.
 bool isLineEnd(const Token& token);
 /// Whether the token marks a group that readers who do not know it pass over.

@@ -197,7 +197,7 @@ void BodyWriter::breakPage() {
 void BodyWriter::text(QStringView text, const CharFormat& format) {
     if (format.field != m_format.field && fieldShows(text, format))
         return;
-    m_paragraphIsEmpty = false;
+    m_paragraphIsEmpty = m_boxIsEmpty = false;
     change(format);
     breakPage();
     const bool signs = m_symbols != SymbolFont::None;
@@ -215,7 +215,7 @@ void BodyWriter::text(QStringView text, const CharFormat& format) {
 }
 
 void BodyWriter::picture(const Picture& picture, const CharFormat& format) {
-    m_paragraphIsEmpty = false;
+    m_paragraphIsEmpty = m_boxIsEmpty = false;
     // Text around it may be hidden where the picture shows.
     CharFormat own = format;
     own.hidden = picture.hidden;

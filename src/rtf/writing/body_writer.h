@@ -55,8 +55,8 @@ public:
     /// The last cell of a row of a table in a cell, and the row.
     void endNestedRow(int row);
     void endRow();
-    /// Whether a row has been begun.
-    bool hasRows() const { return m_anyRow; }
+    /// Whether a row has been begun in a text box, or outside of all with NothingKept.
+    bool hasRows(int box) const;
 
     /// The whole file.
     /// \param defaultTab twips between default tab stops.
@@ -112,9 +112,11 @@ private:
         int afterBehind = NoLength;
         bool paragraphEnds = false;
         bool paragraphIsEmpty = true;
+        bool anyRow = false;
     };
     Around m_around;
     int m_box = NothingKept;      ///< that is open
+    bool m_boxIsEmpty = true;     ///< it has no characters by themselves
     bool m_goesOn = false;        ///< the paragraph, which stands behind a box in it
     int m_unnamedFamily = NoName; ///< of text that names no font
     SymbolFont m_symbols = SymbolFont::None;

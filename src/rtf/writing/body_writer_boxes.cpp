@@ -65,6 +65,12 @@ bool BodyWriter::goesOn(const ParagraphFormat& paragraph) const {
     return shapeOf(paragraph) == shapeOf(m_around.paragraph);
 }
 
+bool BodyWriter::hasRows(int box) const {
+    if (box == m_box)
+        return m_anyRow;
+    return box == NothingKept && m_around.anyRow;
+}
+
 void BodyWriter::openBox(const ParagraphFormat& paragraph) {
     const bool inTable = m_rowEnds || m_paragraphs.last().inTable;
     if (paragraph.section != NothingKept)
@@ -78,14 +84,16 @@ void BodyWriter::openBox(const ParagraphFormat& paragraph) {
         m_out.word("\\pard");
         m_paragraphs.forget();
     }
-    m_around = {{m_format, m_stated}, m_paragraphs.last(), m_mark,
-                m_afterBehind,        m_paragraphEnds,     m_paragraphIsEmpty};
+    m_around = {
+        {m_format, m_stated}, m_paragraphs.last(),           m_mark, m_afterBehind, m_paragraphEnds,
+        m_paragraphIsEmpty,   std::exchange(m_anyRow, false)};
     m_box = paragraph.box;
     m_mark = NothingKept;
     m_afterBehind = NoLength;
     m_paragraphEnds = false;
     m_paragraphIsEmpty = true;
     m_rowEnds = false;
+    m_boxIsEmpty = true;
     writeKept(m_out, m_tables, frameOf(names().keptAt(m_box)).ahead);
     plain();
     m_paragraphs.forget();
@@ -101,8 +109,11 @@ void BodyWriter::closeBox() {
     // Nothing else would tell of a paragraph without text.
     if (m_paragraphEnds && m_paragraphIsEmpty && !behind.startsWith(u"\\par"))
         m_out.word("\\par");
+    if (m_boxIsEmpty)
+        m_out.word(ShownEmpty);
     writeKept(m_out, m_tables, behind);
     m_box = NothingKept;
+    m_anyRow = m_around.anyRow;
     m_format = m_around.look.format;
     m_stated = m_around.look.stated;
     m_symbols = m_tables.symbolFontOf(m_format.family);

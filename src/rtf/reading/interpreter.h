@@ -144,6 +144,7 @@ private:
     void character(char16_t character);
     void unicode(int code);
     void append(QStringView text);
+    void appendSigns(QStringView text, SymbolFont font);
     void prepareText();
     void beginText();
     void flushText();

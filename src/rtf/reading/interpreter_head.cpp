@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/reading/interpreter.h"
 
+#include <utility>
+
 namespace orvalis::rtf {
 
 /// The first run of text is complete: blanks between the tables of the head are text as well. The
@@ -22,9 +24,12 @@ void Interpreter::settleHead() {
         hold(group);
     hold(m_state);
     selectFont();
-    if (isUnnamed)
-        m_textFormat.family =
-            m_fonts.saidOfUsual() == DefaultFont::Named ? m_fonts.usual()->family : NoName;
+    if (!isUnnamed)
+        return;
+    const bool isNamed = m_fonts.saidOfUsual() == DefaultFont::Named;
+    m_textFormat.family = isNamed ? m_fonts.usual()->family : NoName;
+    if (isNamed && m_fonts.usual()->symbols != SymbolFont::None)
+        appendSigns(std::exchange(m_text, {}), m_fonts.usual()->symbols);
 }
 
 void Interpreter::knowOfParagraphs() {

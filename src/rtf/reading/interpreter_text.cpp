@@ -161,12 +161,15 @@ void Interpreter::append(QStringView text) {
         return;
     }
     prepareText();
+    appendSigns(text, m_state.symbols);
+}
+
+/// Word processors tell signs by their bytes, in the area for private use.
+void Interpreter::appendSigns(QStringView text, SymbolFont font) {
     for (const QChar character : text) {
-        // Word processors tell signs by their bytes, in the area for private use.
-        const uchar byte =
-            m_state.symbols == SymbolFont::None ? uchar(0) : privateByte(character.unicode());
+        const uchar byte = font == SymbolFont::None ? uchar(0) : privateByte(character.unicode());
         if (byte)
-            m_text.append(QChar::fromUcs4(symbolCharacter(m_state.symbols, byte)));
+            m_text.append(QChar::fromUcs4(symbolCharacter(font, byte)));
         else
             m_text.append(QChar(harmless(character.unicode())));
     }

@@ -146,6 +146,7 @@ private:
     void append(QStringView text);
     void appendSigns(QStringView text, SymbolFont font);
     void prepareText();
+    void endHalfCharacter();
     void beginText();
     void flushText();
     void paragraphEnd();

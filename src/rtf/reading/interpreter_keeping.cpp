@@ -36,6 +36,7 @@ bool Interpreter::keptWord(const Token& token) {
         if (!shows())
             return true;
         textComes();
+        endHalfCharacter();
         anchor(lookOfMark() + u'\\' + QString::fromLatin1(token.bytes) + u'}');
         return true;
     }

@@ -228,11 +228,14 @@ void Interpreter::prepareText() {
         flushText();
     if (m_text.isEmpty())
         m_textFormat = m_state.chars;
-    if (m_highSurrogate) {
-        m_highSurrogate = 0;
-        m_text.append(QChar::ReplacementCharacter);
-    }
+    endHalfCharacter();
     beginText();
+}
+
+/// Nothing came that makes a whole one of it.
+void Interpreter::endHalfCharacter() {
+    if (std::exchange(m_highSurrogate, char16_t(0)))
+        m_text.append(QChar::ReplacementCharacter);
 }
 
 void Interpreter::beginText() {
@@ -243,10 +246,7 @@ void Interpreter::beginText() {
 }
 
 void Interpreter::flushText() {
-    if (m_highSurrogate) {
-        m_highSurrogate = 0;
-        m_text.append(QChar::ReplacementCharacter);
-    }
+    endHalfCharacter();
     if (m_text.isEmpty())
         return;
     headEnds();

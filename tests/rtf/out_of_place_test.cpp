@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
+#include "rtf/formats/format_properties.h"
 #include "rtf/formats/list_formats.h"
 #include "rtf/reader.h"
 #include "rtf/writer.h"
@@ -61,6 +62,12 @@ private slots:
     void aBoxBehindARowStandsOutsideTheTable();
     void textAmongTheWordsOfANestedRowIsShownOnce();
     void halfACharacterOfAnEquationIsASign();
+    void whatAGroupIsForIsSaidOnce();
+    void aRowEndAheadOfTheTextOfABoxEndsNothing();
+    void theRowsAroundABoxAreNoneOfIts();
+    void aBoxWhoseTextIsDeletedStaysOne();
+    void theSpacingOfLettersHasOneLimitHoweverItIsTold();
+    void aListBeginsInAGroupOfItsOwn();
 };
 
 void OutOfPlaceTest::theFontOfTextThatNamesNoneIsSettledWithTheFirstText() {
@@ -197,6 +204,59 @@ void OutOfPlaceTest::halfACharacterOfAnEquationIsASign() {
     QTextDocument document;
     readFile(document, "{\\field{\\*\\fldinst EQ \\u-9216 }}");
     QCOMPARE(document.toPlainText(), QString(QChar::ReplacementCharacter));
+}
+
+void OutOfPlaceTest::whatAGroupIsForIsSaidOnce() {
+    QTextDocument document;
+    readFile(document, "a{\\shptxt\\fonttbl x}b{\\*\\pntext\\shptxt y}c");
+    QCOMPARE(document.toPlainText(), QStringLiteral("axbc"));
+}
+
+void OutOfPlaceTest::aRowEndAheadOfTheTextOfABoxEndsNothing() {
+    QTextDocument plain;
+    readFile(plain, "a{\\shp{\\shptxt b}}c");
+    QTextDocument document;
+    readFile(document, "a{\\shp{\\shptxt\\row b}}c");
+    QCOMPARE(document.toPlainText(), QStringLiteral("a\nb\nc"));
+    QCOMPARE(writeRtf(document), writeRtf(plain));
+}
+
+void OutOfPlaceTest::theRowsAroundABoxAreNoneOfIts() {
+    QTextDocument document;
+    readFile(document, "\\trowd\\cellx900\\intbl a\\cell\\row\\pard{\\shp{\\shptxt\\intbl b\\par}}"
+                       "\\intbl c\\cell\\row");
+    const auto isOfRow = [&](const QString& text) {
+        return document.find(text).blockFormat().hasProperty(TableRow);
+    };
+    QVERIFY(isOfRow(QStringLiteral("a")));
+    QVERIFY(!isOfRow(QStringLiteral("b")));
+    QVERIFY(isOfRow(QStringLiteral("c")));
+}
+
+void OutOfPlaceTest::aBoxWhoseTextIsDeletedStaysOne() {
+    QTextDocument document;
+    readFile(document, "a\\par{\\shp{\\shptxt b}}c");
+    QTextCursor text = document.find(QStringLiteral("b"));
+    text.removeSelectedText();
+    QTextDocument again;
+    QVERIFY(readRtf(writeRtf(document), again).ok());
+    QCOMPARE(again.toPlainText(), QStringLiteral("a\n\nc"));
+    QVERIFY(again.findBlockByNumber(1).blockFormat().hasProperty(KeptBox));
+}
+
+void OutOfPlaceTest::theSpacingOfLettersHasOneLimitHoweverItIsTold() {
+    QTextDocument quarters;
+    readFile(quarters, "\\expnd1028 a");
+    QTextDocument twips;
+    readFile(twips, "\\expndtw5140 a");
+    QCOMPARE(writeRtf(quarters), writeRtf(twips));
+}
+
+void OutOfPlaceTest::aListBeginsInAGroupOfItsOwn() {
+    QTextDocument document;
+    readFile(document, "{\\*\\listtable\\list\\listlevel\\listid1}"
+                       "{\\*\\listoverridetable\\listoverride\\listid1\\ls1}\\ls1 a");
+    QVERIFY(!document.firstBlock().textList());
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, OutOfPlaceTest)

@@ -36,14 +36,9 @@ QVariantList sourceSize(const Picture& picture) {
             picture.bitmap.planes, picture.bitmap.bytesPerRow};
 }
 
-// The name follows from the content, so that a document never holds the same picture twice and
-// a copy into another document finds its own.
-QString contentKey(const Picture& picture) {
-    QCryptographicHash hash(QCryptographicHash::Sha1);
-    hash.addData(picture.bytes);
-    for (const QVariant& number : sourceSize(picture))
-        hash.addData(QByteArray::number(number.toInt()) + ',');
-    return QString::fromLatin1(hash.result().toHex());
+for (const QVariant& number : sourceSize(picture))
+    hash.addData(QByteArray::number(number.toInt()) + ',');
+return QString::fromLatin1(hash.result().toHex());
 }
 
 QImage imageOfResource(const QVariant& resource) {
@@ -102,7 +97,13 @@ PictureKind keptKind(const Picture& picture) {
     return found == PictureKind::Unknown || found == PictureKind::Other ? picture.kind : found;
 }
 
-bool isWritable(PictureKind kind) {
+// The name follows from the content, so that a document never holds the same picture twice and
+// a copy into another document finds its own.
+QString contentKey(const Picture& picture) {
+    QCryptographicHash hash(QCryptographicHash::Sha1);
+    hash.addData(picture.bytes);
+    hash.addData(QByteArray::number(int(keptKind(picture))) + ',');
+
     return isMetafile(kind) || kind == PictureKind::Png || kind == PictureKind::Jpeg;
 }
 

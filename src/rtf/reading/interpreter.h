@@ -209,6 +209,7 @@ private:
     void tellOfList(const Token& token);
     bool numberingWord(const Token& token);
     QString keptOfLists(const Token& token);
+    bool mayBeginList() const;
     bool isInList() const;
 
     // Fields (interpreter_fields.cpp)

@@ -112,7 +112,8 @@ QString Interpreter::lookOfMark() const {
     look.link = m_state.chars.link;
     look.field = m_state.chars.field;
     look.byNumber = m_state.chars.byNumber;
-    if ((m_text.isEmpty() && !isBehindCell) || look != m_state.chars)
+    const bool isFirst = isBehindCell ? !m_anchorsBehindCell.isEmpty() : m_text.isEmpty();
+    if (isFirst || look != m_state.chars)
         return u'{' + keptLook(told(m_state.chars), m_names);
     return m_state.chars.script == Script::Super ? u"{\\super"_s : u"{\\nosupersub"_s;
 }

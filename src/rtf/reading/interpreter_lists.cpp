@@ -10,12 +10,16 @@ namespace orvalis::rtf {
 bool Interpreter::listWord(const Token& token) {
     switch (token.word->action) {
     case Action::List:
-        if (m_state.destination == Destination::ListTable && !isInList())
+        if (m_state.destination == Destination::ListTable && mayBeginList()) {
             m_lists.beginList(keptOfLists(token));
+            m_state.hasContent = true;
+        }
         return true;
     case Action::ListOverrideEntry:
-        if (m_state.destination == Destination::ListOverrideTable && !isInList())
+        if (m_state.destination == Destination::ListOverrideTable && mayBeginList()) {
             m_lists.beginOverride(keptOfLists(token));
+            m_state.hasContent = true;
+        }
         return true;
     case Action::ListOverrideLevel:
     case Action::ListIdentity:
@@ -108,6 +112,11 @@ QString Interpreter::keptOfLists(const Token& token) {
         GroupKeeper(content, tables).kept("{\\", token.bytes, std::min(LongestList, m_keptLeft));
     m_keptLeft -= kept.size();
     return kept;
+}
+
+/// Each one stands in a group of its own in its table.
+bool Interpreter::mayBeginList() const {
+    return !m_state.ownsDestination && !isInList();
 }
 
 /// What is told of a list counts within the group that is kept of it.

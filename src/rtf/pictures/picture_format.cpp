@@ -36,9 +36,21 @@ QVariantList sourceSize(const Picture& picture) {
             picture.bitmap.planes, picture.bitmap.bytesPerRow};
 }
 
-for (const QVariant& number : sourceSize(picture))
-    hash.addData(QByteArray::number(number.toInt()) + ',');
-return QString::fromLatin1(hash.result().toHex());
+// What is written: what the first bytes say, unless they are a file that RTF has no word for.
+PictureKind keptKind(const Picture& picture) {
+    const PictureKind found = kindOfBytes(picture.bytes);
+    return found == PictureKind::Unknown || found == PictureKind::Other ? picture.kind : found;
+}
+
+// The name follows from the content, so that a document never holds the same picture twice and
+// a copy into another document finds its own.
+QString contentKey(const Picture& picture) {
+    QCryptographicHash hash(QCryptographicHash::Sha1);
+    hash.addData(picture.bytes);
+    hash.addData(QByteArray::number(int(keptKind(picture))) + ',');
+    for (const QVariant& number : sourceSize(picture))
+        hash.addData(QByteArray::number(number.toInt()) + ',');
+    return QString::fromLatin1(hash.result().toHex());
 }
 
 QImage imageOfResource(const QVariant& resource) {
@@ -91,19 +103,7 @@ Shown shownAs(QTextDocument& document, const Picture& picture, MetafileConverter
     return made;
 }
 
-// What is written: what the first bytes say, unless they are a file that RTF has no word for.
-PictureKind keptKind(const Picture& picture) {
-    const PictureKind found = kindOfBytes(picture.bytes);
-    return found == PictureKind::Unknown || found == PictureKind::Other ? picture.kind : found;
-}
-
-// The name follows from the content, so that a document never holds the same picture twice and
-// a copy into another document finds its own.
-QString contentKey(const Picture& picture) {
-    QCryptographicHash hash(QCryptographicHash::Sha1);
-    hash.addData(picture.bytes);
-    hash.addData(QByteArray::number(int(keptKind(picture))) + ',');
-
+bool isWritable(PictureKind kind) {
     return isMetafile(kind) || kind == PictureKind::Png || kind == PictureKind::Jpeg;
 }
 

@@ -101,6 +101,7 @@ bool Interpreter::sideWord(const KeptCall& call) {
     if (bit == stated::Font) {
         m_state.font = call.number;
         selectFont();
+        keepScript();
     } else if (bit == stated::Size) {
         chars.halfPoints = call.number;
     } else if (bit == stated::Bold) {

@@ -95,7 +95,8 @@ private:
             action == Action::PictureGroup && !shownHere() && m_property != ShownPicture;
         m_loose |= isDestination(action) && !fills && !m_groups.back().begins;
         // What is kept of the document, or anchored to its text, is none of the frame.
-        m_loose |= action == Action::KeepGroup && shownHere();
+        const bool isKept = action == Action::KeepGroup || action == Action::AnchorMark;
+        m_loose |= isKept && shownHere();
         if (hidesText(action) || (m_head.isStarred() && !token.word))
             m_groups.back().shown = false;
         if (action == Action::ShapeText)

@@ -17,7 +17,9 @@ void BodyWriter::closeGroup() {
     m_symbols = m_tables.symbolFontOf(m_format.family);
 }
 
+/// A field with a page's end in it would be none.
 void BodyWriter::openGroup() {
+    breakPage();
     m_lookBefore[m_openGroups++] = {m_format, m_stated};
 }
 

@@ -152,8 +152,8 @@ void RtfOutput::symbols(SymbolFont font, QStringView characters) {
             text(characters.mid(at, 1));
             continue;
         }
-        if (byte != 0)
-            appendCode(byte);
+        if (byte != 0 || c < u' ')
+            appendCode(byte != 0 ? byte : uchar(c));
         else
             appendUnicode(characters[at].unicode());
         at += byte != 0 && isPair;

@@ -110,6 +110,8 @@ struct TabStop {
 
 /// The largest number that a list begins with: what follows it stays far from overflow.
 inline constexpr int LargestListStart = 1'000'000;
+/// The largest number that an item of a list is told to have.
+inline constexpr int LargestListNumber = 2 * LargestListStart;
 
 /// What stands between the label of a list item and its text.
 enum class LabelFollow : quint8 { Tab, Blank, Nothing };

@@ -6,6 +6,8 @@
 #include "rtf/words/group_head.h"
 #include "rtf/words/tokenizer.h"
 
+#include <utility>
+
 namespace orvalis::rtf {
 
 namespace {
@@ -87,7 +89,7 @@ private:
     /// that it holds.
     void hidden(Action action) {
         if (action == Action::FieldInstruction && m_depth > 0 && m_innerDepth == NoDepth &&
-            m_scan.instruction.isEmpty())
+            !std::exchange(m_hasInstruction, true))
             m_scan.instruction = m_tokenizer.groupAhead();
         m_tokenizer.skipGroup();
         m_head.leave();
@@ -103,7 +105,8 @@ private:
     int m_depth = 0;
     int m_resultDepth = NoDepth;
     int m_innerDepth = NoDepth; ///< of the field in it that one stands in
-    bool m_hasContent = false;  ///< the group has, so that it cannot become an instruction any more
+    bool m_hasInstruction = false;
+    bool m_hasContent = false; ///< the group has, so that it cannot become an instruction any more
 };
 
 } // namespace

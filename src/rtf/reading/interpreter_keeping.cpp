@@ -37,6 +37,8 @@ bool Interpreter::keptWord(const Token& token) {
             return true;
         textComes();
         endHalfCharacter();
+        if (row() == NothingKept) // so that no end of a row takes the cell away ahead of the mark
+            cellTabs(m_cellsEnded.size());
         anchor(lookOfMark() + u'\\' + QString::fromLatin1(token.bytes) + u'}');
         return true;
     }
@@ -112,7 +114,10 @@ QString Interpreter::lookOfMark() const {
     look.link = m_state.chars.link;
     look.field = m_state.chars.field;
     look.byNumber = m_state.chars.byNumber;
-    const bool isFirst = isBehindCell ? !m_anchorsBehindCell.isEmpty() : m_text.isEmpty();
+    // The end of a row takes the last cell's away.
+    const bool mayBeAlone = isBehindCell && !m_inParagraph && m_cellsEnded.size() == 1;
+    const bool isFirst =
+        isBehindCell ? mayBeAlone || !m_anchorsBehindCell.isEmpty() : m_text.isEmpty();
     if (isFirst || look != m_state.chars)
         return u'{' + keptLook(told(m_state.chars), m_names);
     return m_state.chars.script == Script::Super ? u"{\\super"_s : u"{\\nosupersub"_s;

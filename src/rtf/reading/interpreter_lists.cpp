@@ -92,7 +92,7 @@ bool Interpreter::numberingWord(const Token& token) {
             m_numbering.kind = static_cast<ListKind>(token.word->value);
         return true;
     case Action::NumberingStart:
-        m_numbering.start = std::clamp(number, 0, LargestListStart);
+        m_numbering.start = std::clamp(number, 0, LargestListNumber);
         return true;
     default:
         return false;

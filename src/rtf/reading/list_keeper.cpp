@@ -4,6 +4,8 @@
 
 #include "rtf/formats/list_number.h"
 
+#include <algorithm>
+
 namespace orvalis::rtf {
 
 namespace {
@@ -98,7 +100,8 @@ QTextList* ListKeeper::find(const ParagraphFormat& item) {
         m_levels[label.identity] = label.level;
     ++m_members;
     m_new = label;
-    m_number = label.start;
+    m_new.start = std::min(label.start, LargestListStart);
+    m_number = m_new.start;
     if (!going)
         return nullptr;
     m_number = found->label.start + found->items;

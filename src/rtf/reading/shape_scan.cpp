@@ -82,6 +82,7 @@ private:
     /// Whether a word makes something else of the shape's own group.
     static bool opensHere(Action action) {
         return action == Action::PictureGroup || action == Action::ShapeText ||
+               action == Action::AnchorMark ||
                (hidesText(action) && action != Action::ShapeInstruction);
     }
 

@@ -39,6 +39,7 @@ ReadResult Interpreter::run() {
     Token token;
     do {
         m_tokenizer.next(token);
+        m_head.take(token);
         if (m_tokenizer.position() >= m_tellAt)
             tellProgress();
     } while (step(token) && !m_sinkIsFull);
@@ -87,7 +88,6 @@ bool Interpreter::step(const Token& token) {
 void Interpreter::openGroup() {
     flushPending();
     m_fallbackToSkip = 0;
-    m_ignorable = false;
     m_state.hasContent = true;
     if (m_groups.size() >= MostGroups) {
         fault(Fault::TooDeep);
@@ -99,14 +99,11 @@ void Interpreter::openGroup() {
     m_state.ownField = NothingKept;
     m_state.ownBox = NothingKept;
     m_state.hasContent = false;
-    m_atGroupStart = true;
 }
 
 bool Interpreter::closeGroup() {
     flushPending();
-    m_atGroupStart = false;
     m_fallbackToSkip = 0;
-    m_ignorable = false;
     if (m_unstoredGroups > 0) {
         --m_unstoredGroups;
         return true;
@@ -148,7 +145,7 @@ void Interpreter::skipGroup() {
         fault(Fault::UnexpectedEnd);
         return;
     }
-    m_ignorable = false;
+    m_head.leave();
     if (m_unstoredGroups > 0)
         --m_unstoredGroups;
     else {
@@ -160,11 +157,7 @@ void Interpreter::skipGroup() {
 }
 
 void Interpreter::symbol(uchar symbol) {
-    const bool atGroupStart = std::exchange(m_atGroupStart, false);
     switch (symbol) {
-    case '*':
-        m_ignorable = atGroupStart;
-        return;
     case '~':
         character(QChar::Nbsp);
         return;
@@ -190,11 +183,10 @@ void Interpreter::symbol(uchar symbol) {
 
 void Interpreter::word(const Token& token) {
     flushPending();
-    m_atGroupStart = false;
-    const bool ignorable = std::exchange(m_ignorable, false);
     if (!token.word) {
         // Only the group of an unknown destination may be ignored; the outermost one is the file.
-        if (ignorable && (m_groups.size() > 1 || m_unstoredGroups > 0) && !m_state.hasContent)
+        if (m_head.isStarred() && (m_groups.size() > 1 || m_unstoredGroups > 0) &&
+            !m_state.hasContent)
             skipGroup();
         return;
     }

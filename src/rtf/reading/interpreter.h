@@ -11,6 +11,7 @@
 #include "rtf/reader.h"
 #include "rtf/reading/list_tables.h"
 #include "rtf/reading/sink.h"
+#include "rtf/words/group_head.h"
 #include "rtf/words/tokenizer.h"
 
 #include <QList>
@@ -244,6 +245,8 @@ private:
     FileTables fileTables(const FontTable::Font* usual) const;
     void placeGroup(KeptPlace place, const QString& group);
     void anchor(const QString& kept);
+    void anchorMark(const QString& word);
+    void anchorBehindCells();
     QString lookOfMark() const;
     void sectionEnd();
     QString sectionBreak();
@@ -278,8 +281,7 @@ private:
     std::vector<Group> m_groups;
     Group m_state;
     qsizetype m_unstoredGroups = 0;
-    bool m_ignorable = false;
-    bool m_atGroupStart = false;
+    GroupHead m_head;
 
     const CodePage* m_documentPage;
     FontTable m_fonts;
@@ -299,8 +301,14 @@ private:
     int m_keptOfDocument = 0;
     SectionColumns m_columns;
     QString m_sectionGroups;
-    QString m_anchorsAtStart;              ///< of the paragraph
-    QString m_anchorsBehindCell;           ///< that ended last
+    QString m_anchorsAtStart; ///< of the paragraph
+    /// What is kept of a place behind the cell that ended last; where it has a look, the word for
+    /// the number of a note.
+    struct AnchorBehindCell {
+        QString kept;
+        std::optional<CharFormat> look;
+    };
+    std::vector<AnchorBehindCell> m_anchorsBehindCell;
     bool m_sectionBegins = false;          ///< with the paragraph, and is not the first one
     bool m_paragraphBeforeSection = false; ///< it ended by itself, not by the section's end
     bool m_firstSectionTold = false;

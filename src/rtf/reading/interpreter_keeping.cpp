@@ -37,9 +37,7 @@ bool Interpreter::keptWord(const Token& token) {
             return true;
         textComes();
         endHalfCharacter();
-        if (row() == NothingKept) // so that no end of a row takes the cell away ahead of the mark
-            cellTabs(m_cellsEnded.size());
-        anchor(lookOfMark() + u'\\' + QString::fromLatin1(token.bytes) + u'}');
+        anchorMark(QString::fromLatin1(token.bytes));
         return true;
     }
     if (token.word->action != Action::Keep)
@@ -105,8 +103,7 @@ bool Interpreter::keptWord(const Token& token) {
 /// What begins the group of a note's number: it looks like the text ahead of it, but raised, or
 /// else in a way of its own.
 QString Interpreter::lookOfMark() const {
-    const bool isBehindCell = !m_cellsEnded.empty();
-    CharFormat look = isBehindCell ? m_cellsEnded.back() : m_textFormat;
+    CharFormat look = m_textFormat;
     look.script = m_state.chars.script;
     look.stated = m_state.chars.stated;
     look.anchors = m_state.chars.anchors;
@@ -114,11 +111,7 @@ QString Interpreter::lookOfMark() const {
     look.link = m_state.chars.link;
     look.field = m_state.chars.field;
     look.byNumber = m_state.chars.byNumber;
-    // The end of a row takes the last cell's away.
-    const bool mayBeAlone = isBehindCell && !m_inParagraph && m_cellsEnded.size() == 1;
-    const bool isFirst =
-        isBehindCell ? mayBeAlone || !m_anchorsBehindCell.isEmpty() : m_text.isEmpty();
-    if (isFirst || look != m_state.chars)
+    if (m_text.isEmpty() || look != m_state.chars)
         return u'{' + keptLook(told(m_state.chars), m_names);
     return m_state.chars.script == Script::Super ? u"{\\super"_s : u"{\\nosupersub"_s;
 }
@@ -214,7 +207,7 @@ void Interpreter::anchor(const QString& kept) {
     textComes();
     // It may stand in the next cell, or between the last one and the end of the row.
     if (!m_cellsEnded.empty()) {
-        m_anchorsBehindCell += kept;
+        m_anchorsBehindCell.push_back({kept, {}});
         return;
     }
     if (!m_inParagraph) {
@@ -223,6 +216,27 @@ void Interpreter::anchor(const QString& kept) {
     }
     flushText();
     m_sink.anchor(kept);
+}
+
+/// The word that stands for the number of a note.
+void Interpreter::anchorMark(const QString& word) {
+    if (m_cellsEnded.empty())
+        anchor(lookOfMark() + u'\\' + word + u'}');
+    else
+        m_anchorsBehindCell.push_back({word, m_state.chars});
+}
+
+/// What they stand behind is known by now.
+void Interpreter::anchorBehindCells() {
+    for (const AnchorBehindCell& waiting : std::exchange(m_anchorsBehindCell, {})) {
+        if (!waiting.look) {
+            anchor(waiting.kept);
+            continue;
+        }
+        const CharFormat around = std::exchange(m_state.chars, *waiting.look);
+        anchorMark(waiting.kept);
+        m_state.chars = around;
+    }
 }
 
 /// What was gathered so far belongs to the section that ends; its words go on to hold.

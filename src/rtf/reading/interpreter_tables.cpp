@@ -64,7 +64,7 @@ bool Interpreter::rowWord(const Token& token) {
     case Action::CellEnd:
         if (shows()) {
             textComes();
-            if (!m_anchorsBehindCell.isEmpty())
+            if (!m_anchorsBehindCell.empty())
                 cellTabs(m_cellsEnded.size());
             m_cellsEnded.push_back(m_state.chars);
             const bool nested = token.word->value != 0;
@@ -186,7 +186,7 @@ void Interpreter::cellTabs(size_t count) {
     }
     m_state.chars = around;
     if (count == looks.size())
-        anchor(std::exchange(m_anchorsBehindCell, {}));
+        anchorBehindCells();
 }
 
 void Interpreter::rowEnd(bool outermost) {
@@ -200,7 +200,7 @@ void Interpreter::rowEnd(bool outermost) {
     const bool kept = complete && (outermost || m_nestedRow != NothingKept);
     if (anyCell)
         cellTabs(m_cellsEnded.size() - 1);
-    anchor(std::exchange(m_anchorsBehindCell, {}));
+    anchorBehindCells();
     if (anyCell || m_inParagraph)
         rowParagraphEnd(kept, outermost);
     m_nestedRow = NothingKept;

@@ -51,14 +51,12 @@ bool Interpreter::captures() const {
 
 void Interpreter::bytes(QByteArrayView run) {
     // Blanks between "\\*" and the name of the destination are no text.
-    if (m_ignorable && run.trimmed().isEmpty())
+    if (m_head.hasStar())
         return;
-    m_ignorable = false;
     // Some files indent the heads of their groups, and some have lost the backslash of "\\*": the
     // destinations behind are destinations all the same.
     const bool nothing = run.size() == 1 && run.front() == '*';
     m_state.hasContent = m_state.hasContent || (!nothing && !run.trimmed().isEmpty());
-    m_atGroupStart = false;
     if (m_fallbackToSkip > 0) {
         const auto skipped = std::min<qsizetype>(m_fallbackToSkip, run.size());
         m_fallbackToSkip -= int(skipped);
@@ -176,7 +174,6 @@ void Interpreter::appendSigns(QStringView text, SymbolFont font) {
 }
 
 void Interpreter::character(char16_t character) {
-    m_ignorable = false;
     m_state.hasContent = true;
     flushPending();
     if (m_fallbackToSkip > 0)

@@ -26,6 +26,7 @@ void BodyWriter::beginCell(int shape, int anchors) {
 }
 
 void BodyWriter::endCell(const CharFormat& look) {
+    m_boxIsEmpty = false;
     CharFormat unlinked = look;
     unlinked.link = NoName;
     unlinked.field = NothingKept;

@@ -53,8 +53,10 @@ bool Interpreter::destinationWord(const Token& token) {
         openDestination(Destination::PlainFontName);
         return true;
     case Action::ColorTable:
-        m_colors.clear();
-        m_color = AutomaticColor;
+        if (inBody) {
+            m_colors.clear();
+            m_color = AutomaticColor;
+        }
         openInBody(Destination::ColorTable);
         return true;
     case Action::ListTable:

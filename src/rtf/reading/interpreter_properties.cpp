@@ -251,6 +251,8 @@ void Interpreter::selectFont() {
     const bool hasPage =
         coded && coded->page && (chosen || coded->page->symbols() == SymbolFont::None);
     m_state.page = hasPage ? coded->page : m_documentPage;
+    if (!namesFont())
+        setEastern(nullptr);
 }
 
 /// Whether the text names a font, and not only a number that stands for none.

@@ -7,6 +7,7 @@
 #include "rtf/kept/kept_text.h"
 
 #include <algorithm>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -69,6 +70,9 @@ int romanValue(const QString& text) {
     return value;
 }
 
+// Old files number their overrides from 0, which as an identity would be none.
+constexpr int IdentityOfFirst = std::numeric_limits<int>::min();
+
 // The label whose number is a word of it; kind None where the word is no number.
 ListLabel labelOfWord(const QString& label, qsizetype start, qsizetype end, ListKind previous) {
     const QString word = label.mid(start, end - start);
@@ -115,7 +119,13 @@ void ListTables::endEntry() {
     const Entry entry = std::exchange(m_entry, {});
     if (entry.isOverride)
         addOverride(entry);
-    else if (entry.identity && !entry.levels.isEmpty() && m_lists.size() < MostLists)
+    else if (entry.identity && !entry.levels.isEmpty())
+        addList(entry);
+}
+
+/// What has been told of a list stands: text may be in it by now.
+void ListTables::addList(const Entry& entry) {
+    if (m_lists.size() < MostLists && !m_lists.contains(*entry.identity))
         m_lists.insert(*entry.identity, List{entry.levels, numbered(*entry.identity, entry.kept)});
 }
 
@@ -243,9 +253,11 @@ std::optional<ListLabel> ListTables::label(int overrideNumber, int level, bool n
         return label;
     // Overrides that change nothing stand for the list itself, whose numbers go on.
     const bool plain = own->starts.isEmpty() && own->labels.isEmpty();
-    label.identity = plain ? m_plainOverrides.value(own->identity, overrideNumber) : overrideNumber;
-    if (label.hasTables() && label.identity != overrideNumber)
-        label.keptOverride = m_overrides.value(label.identity).kept;
+    const int shared =
+        plain ? m_plainOverrides.value(own->identity, overrideNumber) : overrideNumber;
+    label.identity = shared != 0 ? shared : IdentityOfFirst;
+    if (label.hasTables() && shared != overrideNumber)
+        label.keptOverride = m_overrides.value(shared).kept;
     return label;
 }
 

@@ -74,6 +74,7 @@ private:
         QString bullet; ///< of the last level, as the file has it
         SymbolFont bulletFont = SymbolFont::None;
     };
+    void addList(const Entry& entry);
     void addOverride(const Entry& entry);
     ListLabel* openLevel();
 

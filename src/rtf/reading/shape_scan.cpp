@@ -86,6 +86,13 @@ private:
                (hidesText(action) && action != Action::ShapeInstruction);
     }
 
+    /// Whether the group of a word tells of more than the shape that it stands in.
+    static bool tellsOfDocument(Action action) {
+        const bool isOfShape =
+            action >= Action::ShapeInstruction && action <= Action::ShapePropertyValue;
+        return hidesText(action) && action != Action::SkipGroup && !isOfShape;
+    }
+
     /// Whether text that stands here is text of the document.
     bool shownHere() const { return m_groups.empty() || m_groups.back().shown; }
 
@@ -95,9 +102,8 @@ private:
         const bool fills =
             action == Action::PictureGroup && !shownHere() && m_property != ShownPicture;
         m_loose |= isDestination(action) && !fills && !m_groups.back().begins;
-        // What is kept of the document, or anchored to its text, is none of the frame.
-        const bool isKept = action == Action::KeepGroup || action == Action::AnchorMark;
-        m_loose |= isKept && shownHere();
+        // What is told of the document, or anchored to its text, is none of the frame.
+        m_loose |= (tellsOfDocument(action) || action == Action::AnchorMark) && shownHere();
         if (hidesText(action) || (m_head.isStarred() && !token.word))
             m_groups.back().shown = false;
         if (action == Action::ShapeText)

@@ -96,6 +96,7 @@ private:
     int rowAt(const QTextBlock& first, int position) {
         if (position < m_rowsToldTo)
             return 0;
+        m_tornIsEmpty = false;
         const ParagraphFormat begin = shape(first);
         if (begin.row == NothingKept || !begin.rowBegins || position < m_from)
             return 0;

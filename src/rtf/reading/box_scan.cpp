@@ -61,8 +61,8 @@ private:
         m_head.take(token);
         m_scan.end = m_tokenizer.position();
         if (isWord && (token.word ? m_begins && hidesText(action) : m_head.isStarred())) {
-            if (action == Action::ShapeInstruction)
-                m_scan.holdsShape |= mayShow(m_tokenizer.groupAhead());
+            m_scan.holdsMore |= tellsOfDocument(action) || (action == Action::ShapeInstruction &&
+                                                            mayShow(m_tokenizer.groupAhead()));
             passGroup();
         } else if (m_begins && action == Action::PictureGroup) {
             if (hasPictureData(m_tokenizer.groupAhead()))

@@ -10,7 +10,7 @@ namespace orvalis::rtf {
 struct BoxScan {
     bool shows = false;         ///< it has anything to show
     bool shapes = false;        ///< it ends paragraphs, or shapes rows
-    bool holdsShape = false;    ///< that may have something to show
+    bool holdsMore = false;     ///< that may show, or tells of the document
     bool endsParagraph = false; ///< its last paragraph has a word that ends it
     qsizetype end = 0;          ///< of what belongs to it
 };

@@ -86,13 +86,6 @@ private:
                (hidesText(action) && action != Action::ShapeInstruction);
     }
 
-    /// Whether the group of a word tells of more than the shape that it stands in.
-    static bool tellsOfDocument(Action action) {
-        const bool isOfShape =
-            action >= Action::ShapeInstruction && action <= Action::ShapePropertyValue;
-        return hidesText(action) && action != Action::SkipGroup && !isOfShape;
-    }
-
     /// Whether text that stands here is text of the document.
     bool shownHere() const { return m_groups.empty() || m_groups.back().shown; }
 
@@ -161,7 +154,7 @@ private:
         const qsizetype from = m_tokenizer.position();
         const BoxScan box = scanBox(m_tokenizer.groupAhead());
         passGroup();
-        m_loose |= !box.shows && box.holdsShape;
+        m_loose |= !box.shows && box.holdsMore;
         m_hasEmptyText |= !box.shows && box.shapes;
         if (!box.shows)
             return;

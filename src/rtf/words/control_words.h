@@ -151,6 +151,12 @@ constexpr bool hidesText(Action head) {
     return head >= Action::SkipGroup && head <= Action::LabelText;
 }
 
+/// Whether a group with this head, in a shape, tells of more than of the shape.
+constexpr bool tellsOfDocument(Action head) {
+    const bool isOfShape = head >= Action::ShapeInstruction && head <= Action::ShapePropertyValue;
+    return hidesText(head) && head != Action::SkipGroup && !isOfShape;
+}
+
 /// Whether a word ends something of the document, or shapes its rows.
 constexpr bool endsOrShapes(Action action) {
     return action >= Action::ParagraphEnd && action <= Action::CellRight;

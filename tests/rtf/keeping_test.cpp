@@ -133,6 +133,9 @@ void KeepingTest::whatIsNotShownIsKept_data() {
     row("break of a page within a paragraph", "a\\page word\\par", "a\\page\r\n\\pard deed\\par");
     row("paragraph that begins a page", "a\\par\\pagebb word\\par",
         "a\\par\r\n\\pard\\pagebb deed\\par");
+    row("break of a page ahead of a field",
+        "a\\par\\page{\\field{\\*\\fldinst DATE}{\\fldrslt word}}\\par",
+        "\\page{\\field{\\*\\fldinst DATE}{\\fldrslt deed}}\\par");
     row("break of a page ahead of a table", "a\\par\\page\\trowd\\cellx99\\intbl word\\cell\\row",
         "a\\par\r\n\\pard\\page\\trowd\\cellx99\r\n");
     row("bookmark", "a {\\*\\bkmkstart Here}word{\\*\\bkmkend Here} b\\par",

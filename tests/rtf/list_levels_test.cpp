@@ -54,6 +54,8 @@ private slots:
     void aCodeInATextThatIsNoLevelTextIsNoNumber();
     void anOverrideThatIsToldTwiceIsTheFirst();
     void anOverrideWithinAnotherStandsForNoList();
+    void anOverrideNumberedNoughtGoesOnBehindOtherText();
+    void aListThatIsToldAgainStaysAsItWas();
 };
 
 void ListLevelsTest::aLabelIsToldInThePageOfTheDocument() {
@@ -108,6 +110,26 @@ void ListLevelsTest::anOverrideThatIsToldTwiceIsTheFirst() {
                                  "{\\listoverride\\listid2\\ls1}}";
     QCOMPARE(labelsOf("{\\rtf1" + lists + overrides + "\\pard\\ls1 item\\par}"),
              QStringList{u"1."_s});
+}
+
+void ListLevelsTest::anOverrideNumberedNoughtGoesOnBehindOtherText() {
+    const QByteArray rtf =
+        "{\\rtf1{\\*\\listtable{\\list{\\listlevel\\levelnfc0{\\leveltext\\'02\\'00.;}}\\listid1}}"
+        "{\\*\\listoverridetable{\\listoverride\\listid1\\ls0}}"
+        "\\pard\\ls0 item\\par\\pard text\\par\\pard\\ls0 item\\par}";
+    QCOMPARE(labelsOf(rtf), (QStringList{u"1."_s, QString(), u"2."_s}));
+}
+
+void ListLevelsTest::aListThatIsToldAgainStaysAsItWas() {
+    const auto list = [](const QByteArray& kind) {
+        return "{\\*\\listtable{\\list{\\listlevel\\levelnfc" + kind +
+               "{\\leveltext\\'02\\'00.;}}\\listid1}}";
+    };
+    QCOMPARE(
+        labelsOf("{\\rtf1" + list("0") +
+                 "{\\*\\listoverridetable{\\listoverride\\listid1\\ls1}}\\pard\\ls1 item\\par" +
+                 list("1") + "item\\par}"),
+        (QStringList{u"1."_s, u"2."_s}));
 }
 
 // The inner one is no group of its own in what is kept, so nothing can be written with it.

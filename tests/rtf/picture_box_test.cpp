@@ -47,6 +47,7 @@ private slots:
     void wordsBetweenTheDataLeaveThePictureWhole_data();
     void wordsBetweenTheDataLeaveThePictureWhole();
     void picturesThatClaimTooMuchTogetherAreBoxes();
+    void theSameBytesInTwoFormatsAreTwoPictures();
 };
 
 void PictureBoxTest::whatCannotBeDrawnKeepsItsBytes_data() {
@@ -375,6 +376,18 @@ void PictureBoxTest::picturesThatClaimTooMuchTogetherAreBoxes() {
     for (auto run = document.firstBlock().begin(); !run.atEnd(); ++run)
         boxes << run.fragment().charFormat().boolProperty(PictureIsBox);
     QCOMPARE(boxes, (QList<bool>{false, true}));
+}
+
+void PictureBoxTest::theSameBytesInTwoFormatsAreTwoPictures() {
+    QTextDocument document;
+    readRtf("{\\rtf1{\\pict\\picw1\\pich1\\wbmbitspixel1\\wbmplanes1 616263}"
+            "{\\pict\\wbitmap\\picw1\\pich1\\wbmbitspixel1\\wbmplanes1 616263}}",
+            document);
+    QList<bool> boxes;
+    const QTextBlock block = document.firstBlock();
+    for (auto it = block.begin(); !it.atEnd(); ++it)
+        boxes << it.fragment().charFormat().boolProperty(PictureIsBox);
+    QCOMPARE(boxes, (QList<bool>{true, false}));
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, PictureBoxTest)

@@ -86,6 +86,7 @@ private slots:
     void aLinkInACellEndsWithIt();
     void aSectionMayBeginWithATable();
     void aFloodOfRowsIsBounded();
+    void theLineOfARowHasNoLabel();
 };
 
 void TableTest::aTableIsATableAgain() {
@@ -513,6 +514,15 @@ void TableTest::aFloodOfRowsIsBounded() {
     for (const QTextFormat& format : document.allFormats())
         kept.insert(format.stringProperty(TableRow));
     QVERIFY2(kept.size() < 5000, QByteArray::number(kept.size()));
+}
+
+void TableTest::theLineOfARowHasNoLabel() {
+    QTextDocument document;
+    readRtf(file("\\trowd\\cellx900\\cellx1800\\pard\\intbl one\\cell"
+                 "{\\*\\pn\\pnlvlbody\\pndec{\\pntxta .}}two\\cell\\row"),
+            document);
+    QCOMPARE(document.toPlainText(), QStringLiteral("one\ttwo"));
+    QVERIFY(!document.firstBlock().textList());
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, TableTest)

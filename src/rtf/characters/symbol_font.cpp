@@ -126,4 +126,9 @@ uchar symbolByte(SymbolFont font, char32_t character) {
     return found == signs->end() ? uchar(0) : uchar(found - signs->begin() + dingbats::FirstCode);
 }
 
+bool isToldByNumber(SymbolFont font, char16_t character) {
+    return character > u' ' && character != QChar::LineSeparator &&
+           symbolByte(font, character) == 0;
+}
+
 } // namespace orvalis::rtf

@@ -36,6 +36,8 @@ QString GroupKeeper::kept(QByteArrayView opening, QByteArrayView word, qsizetype
     Token token;
     for (m_tokenizer.next(token); token.kind != TokenKind::End; m_tokenizer.next(token)) {
         m_head.take(token);
+        if (isCharacters(token) && !isBlank(token))
+            m_state.begins = false;
         take(token);
         if (m_out.bytes().size() > limit || m_groups.size() > MostKeptGroups)
             return {};
@@ -89,6 +91,8 @@ void GroupKeeper::openGroup() {
     m_fallbackToSkip = 0;
     m_groups.push_back(m_state);
     m_state.picture = false;
+    m_groups.back().begins = false;
+    m_state.begins = true;
     m_out.structure("{");
 }
 
@@ -136,12 +140,13 @@ void GroupKeeper::word(const Token& token) {
         // It comes as a word only where it has no data.
         return;
     case Action::PictureGroup:
-        m_state.picture = true;
+        m_state.picture = std::exchange(m_state.begins, false);
         copy(token);
         return;
     default:
         break;
     }
+    m_state.begins = m_state.begins && !ownsGroup(action);
     if (action == Action::Keep && keptWord(*token.word).kind == KeptKind::Font) {
         selectFont(token);
         return;

@@ -40,6 +40,7 @@ private:
         int unicodeSkip = 1;
         bool symbols = false;
         bool picture = false;
+        bool begins = false; ///< so that a word may still make a picture of it
     };
 
     void take(const Token& token);

@@ -78,10 +78,8 @@ private:
         const bool endsCell = action == Action::CellEnd;
         const bool shown = isCharacters(token) || (m_cellEnded && (endsCell || endsParagraph));
         m_cellEnded = (m_cellEnded || endsCell) && action != Action::RowEnd;
-        const bool says = action == Action::ShapeText || action == Action::UnicodePair ||
-                          action == Action::UnicodeHalf;
         m_begins = token.kind == TokenKind::GroupStart ||
-                   (m_begins && !shown && !says && token.kind != TokenKind::GroupEnd);
+                   (m_begins && !shown && !ownsGroup(action) && token.kind != TokenKind::GroupEnd);
         m_scan.shapes |= endsParagraph || endsOrShapes(action);
         const bool isMark = token.kind == TokenKind::Word && token.bytes == ShownEmpty.sliced(1);
         if (shown || isMark)

@@ -144,6 +144,7 @@ private:
     void flushPending();
     void character(char16_t character);
     void unicode(int code);
+    void appendOfWord(char16_t character);
     void append(QStringView text);
     void appendSigns(QStringView text, SymbolFont font);
     void prepareText();

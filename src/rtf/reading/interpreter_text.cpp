@@ -181,7 +181,16 @@ void Interpreter::character(char16_t character) {
     else if (m_state.destination == Destination::FontTable)
         m_fonts.addName(character);
     else if (shows() || captures())
-        append(QStringView(&character, 1));
+        appendOfWord(character);
+}
+
+/// A font of signs has few of the characters that words stand for.
+void Interpreter::appendOfWord(char16_t character) {
+    m_state.chars.byNumber = m_state.destination == Destination::Body &&
+                             m_state.symbols != SymbolFont::None &&
+                             isToldByNumber(m_state.symbols, character);
+    append(QStringView(&character, 1));
+    m_state.chars.byNumber = false;
 }
 
 void Interpreter::unicode(int code) {

@@ -151,6 +151,11 @@ constexpr bool hidesText(Action head) {
     return head >= Action::SkipGroup && head <= Action::LabelText;
 }
 
+/// Whether a group with this head has a purpose that no later word in it changes.
+constexpr bool ownsGroup(Action head) {
+    return hidesText(head) || head == Action::PictureGroup || head == Action::UnicodePair ||
+           head == Action::UnicodeHalf || head == Action::ShapeText;
+}
 /// Whether a group with this head, in a shape, tells of more than of the shape.
 constexpr bool tellsOfDocument(Action head) {
     const bool isOfShape = head >= Action::ShapeInstruction && head <= Action::ShapePropertyValue;

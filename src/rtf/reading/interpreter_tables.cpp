@@ -39,6 +39,9 @@ bool Interpreter::rowWord(const Token& token) {
         if (!shows() || m_state.nested)
             return true;
         m_rows.any = true;
+        // What is shaped behind an empty paragraph is a row by itself.
+        if (m_rows.isOpened && !m_inParagraph && m_cellsEnded.empty())
+            m_rows.isEntered = m_rows.isOpened = false;
         m_rows.keptOfRow = m_rows.keptOfCell = 0;
         m_rows.cells.clear();
         m_rows.cellCount = 0;
@@ -67,7 +70,7 @@ bool Interpreter::rowWord(const Token& token) {
             if (!m_anchorsBehindCell.empty())
                 cellTabs(m_cellsEnded.size());
             m_cellsEnded.push_back(m_state.chars);
-            const bool nested = token.word->value != 0 && m_state.paragraph.nesting != 0;
+            const bool nested = token.word->value != 0;
             const int cell = m_cellsEnded.back().cell = cellShape(nested);
             if (endsCellOfRow(cell))
                 ++(nested ? m_rows.cellsOfNested[size_t(m_state.paragraph.nesting)]
@@ -139,7 +142,7 @@ int Interpreter::bareCell() {
 /// How the paragraph is shaped that a cell ends with: a line of the document holds all cells of a
 /// row, and has one shape.
 int Interpreter::cellShape(bool nested) {
-    if (nested && (!m_state.inTable || row() == NothingKept))
+    if (nested && (!m_state.inTable || row() == NothingKept || m_state.paragraph.nesting == 0))
         return NothingKept;
     if (row() == NothingKept)
         return bareCell();

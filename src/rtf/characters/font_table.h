@@ -4,7 +4,6 @@
 
 #include "rtf/characters/code_page.h"
 #include "rtf/formats/formats.h"
-#include "rtf/reading/sink.h"
 
 #include <QHash>
 #include <QSet>

@@ -108,6 +108,14 @@ struct TabStop {
     bool operator==(const TabStop&) const = default;
 };
 
+/// What a file says of the font of text that names none.
+enum class DefaultFont : quint8 {
+    Unknown, ///< no file tells
+    Named,
+    Unsaid,
+    Missing, ///< its font table has no such font
+};
+
 /// The largest number that a list begins with: what follows it stays far from overflow.
 inline constexpr int LargestListStart = 1'000'000;
 /// The largest number that an item of a list is told to have.

@@ -3,7 +3,6 @@
 #pragma once
 
 #include "rtf/formats/formats.h"
-#include "rtf/reading/sink.h"
 
 /// What the words of a file state. Styles and lists tell what they leave out, so that a usual value
 /// that is said is not one that is left unsaid; where there are none, the two are one.

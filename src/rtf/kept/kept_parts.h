@@ -2,15 +2,38 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "rtf/reading/sink.h"
+#include "rtf/formats/formats.h"
 
 #include <QMetaType>
+#include <QString>
+#include <QStringList>
 
 class QTextBlockFormat;
 class QTextCharFormat;
 class QTextDocument;
 
 namespace orvalis::rtf {
+
+/// The language of text in a file that tells of none.
+inline constexpr int UsualLanguage = 1033;
+
+/// What is kept of a whole document, as the file had it (see kept_text.h).
+struct KeptParts {
+    int language = UsualLanguage; ///< of text that names none, by Windows' numbers
+    QString styles;
+    QString furtherDefaults; ///< fonts of text that names none, beside the one of unnamedFamily
+    QString info;
+    QString words;
+    QString notes;         ///< what stands between text and footnotes
+    QString section;       ///< the first one
+    bool nameless = false; ///< the file does not say what wrote it
+    DefaultFont defaultFont = DefaultFont::Unknown;
+    QString unnamedFamily; ///< of text that names no font; empty for that of whoever shows it
+    /// Families that are fonts of signs, or are not, where their names tell otherwise.
+    QStringList oddFamilies;
+
+    bool operator==(const KeptParts&) const = default;
+};
 
 /// What is kept of the file that a document was read from. Whoever replaces the whole content by
 /// something else takes it away.

@@ -67,6 +67,8 @@ private:
             return;
         }
         m_scan.hasStructure |= endsOrShapes(action);
+        if (ownsGroup(action))
+            m_hasContent = true;
         switch (action) {
         case Action::Field:
             if (m_depth > 0 && m_innerDepth == NoDepth && !m_hasContent)

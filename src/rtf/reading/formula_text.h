@@ -7,9 +7,6 @@
 
 namespace orvalis::rtf {
 
-/// What the group of a formula begins with, as it is kept.
-inline constexpr const char* FormulaHead = "{\\mmath";
-
 /// The text of a formula's parts in one line, without the properties of these parts.
 /// \param kept the whole group in the spelling of what is kept.
 QString formulaText(QByteArrayView kept);

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "rtf/kept/kept_group.h"
+#include "rtf/kept/kept_shape.h"
 #include "rtf/kept/kept_text.h"
 #include "rtf/reading/formula_text.h"
 #include "rtf/reading/interpreter.h"
@@ -54,16 +55,15 @@ void Interpreter::keepShape(const Token& token) {
 /// A formula without a picture shows the text of its parts in one line, and is kept as long as that
 /// stays.
 void Interpreter::keepFormula() {
-    if (m_state.chars.field != NothingKept)
-        return;
     const FileTables tables = fileTables(m_fonts.usual());
     const QString kept =
         GroupKeeper(m_tokenizer.groupAhead(), tables).kept("{\\", "mmath", m_keptLeft);
     m_keptLeft -= kept.size();
-    if (kept.isEmpty())
+    const QString text = formulaText(keptWithoutPlaces(kept));
+    const bool inField = m_state.chars.field != NothingKept;
+    if (kept.isEmpty() || (inField && !text.isEmpty()))
         return;
     skipGroup();
-    const QString text = formulaText(keptWithoutPlaces(kept));
     if (text.isEmpty()) {
         anchor(kept);
         return;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/reading/shape_scan.h"
 
+#include "rtf/kept/kept_shape.h"
 #include "rtf/reading/box_scan.h"
 #include "rtf/words/control_words.h"
 #include "rtf/words/group_head.h"

@@ -22,12 +22,6 @@ struct ShapeScan {
     QByteArray frame;
 };
 
-/// A word that stands for what a shape shows in what is kept of it.
-inline constexpr QByteArrayView ShapePlace = "\\orvshown";
-
-/// A word that tells of a text in a box that it is one to show, though it has no character.
-inline constexpr QByteArrayView ShownEmpty = "\\orvempty";
-
 /// \param content of the shape's group, behind its first word.
 ShapeScan scanShape(QByteArrayView content);
 

@@ -3,41 +3,12 @@
 #pragma once
 
 #include "rtf/formats/formats.h"
+#include "rtf/kept/kept_parts.h"
 #include "rtf/pictures/picture.h"
 
-#include <QStringList>
 #include <QStringView>
 
 namespace orvalis::rtf {
-
-/// The language of text in a file that tells of none.
-inline constexpr int UsualLanguage = 1033;
-
-/// What a file says of the font of text that names none.
-enum class DefaultFont : quint8 {
-    Unknown, ///< no file tells
-    Named,
-    Unsaid,
-    Missing, ///< its font table has no such font
-};
-
-/// What is kept of a whole document, as the file had it (see kept_text.h).
-struct KeptParts {
-    int language = UsualLanguage; ///< of text that names none, by Windows' numbers
-    QString styles;
-    QString furtherDefaults; ///< fonts of text that names none, beside the one of unnamedFamily
-    QString info;
-    QString words;
-    QString notes;         ///< what stands between text and footnotes
-    QString section;       ///< the first one
-    bool nameless = false; ///< the file does not say what wrote it
-    DefaultFont defaultFont = DefaultFont::Unknown;
-    QString unnamedFamily; ///< of text that names no font; empty for that of whoever shows it
-    /// Families that are fonts of signs, or are not, where their names tell otherwise.
-    QStringList oddFamilies;
-
-    bool operator==(const KeptParts&) const = default;
-};
 
 /// Receives what a reader finds, in the order of the document.
 ///

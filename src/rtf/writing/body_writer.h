@@ -3,8 +3,8 @@
 #pragma once
 
 #include "rtf/formats/formats.h"
+#include "rtf/kept/kept_parts.h"
 #include "rtf/pictures/picture.h"
-#include "rtf/reading/sink.h"
 #include "rtf/writing/paragraph_writer.h"
 #include "rtf/writing/rtf_output.h"
 #include "rtf/writing/writer_tables.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
+#include "rtf/kept/kept_shape.h"
 #include "rtf/kept/kept_text.h"
-#include "rtf/reading/shape_scan.h"
 #include "rtf/writing/body_writer.h"
 #include "rtf/writing/picture_writer.h"
 

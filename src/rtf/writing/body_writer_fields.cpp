@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "rtf/formats/hyperlink.h"
+#include "rtf/kept/kept_shape.h"
 #include "rtf/kept/kept_text.h"
-#include "rtf/reading/formula_text.h"
 #include "rtf/writing/body_writer.h"
 
 namespace orvalis::rtf {

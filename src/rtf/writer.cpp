@@ -218,6 +218,8 @@ private:
     /// What ends a row is no item of a list any more where that is read.
     void leaveOutLabel(ParagraphFormat& paragraph) {
         ListLabel& list = paragraph.list;
+        if (list.source == ListSource::Numbering)
+            return;
         if (list.kind != ListKind::None && list.hasTables())
             paragraph.kept =
                 m_body.names().kept(m_body.names().keptAt(paragraph.kept) + listOfCell(list));

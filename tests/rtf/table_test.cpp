@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "rtf/formats/format_properties.h"
+#include "rtf/formats/list_formats.h"
 #include "rtf/reader.h"
 #include "rtf/writer.h"
 #include "support/test_main.h"
@@ -86,7 +87,7 @@ private slots:
     void aLinkInACellEndsWithIt();
     void aSectionMayBeginWithATable();
     void aFloodOfRowsIsBounded();
-    void theLineOfARowHasNoLabel();
+    void aNumberAtTheEndOfARowStays();
 };
 
 void TableTest::aTableIsATableAgain() {
@@ -516,13 +517,14 @@ void TableTest::aFloodOfRowsIsBounded() {
     QVERIFY2(kept.size() < 5000, QByteArray::number(kept.size()));
 }
 
-void TableTest::theLineOfARowHasNoLabel() {
+void TableTest::aNumberAtTheEndOfARowStays() {
     QTextDocument document;
-    readRtf(file("\\trowd\\cellx900\\cellx1800\\pard\\intbl one\\cell"
-                 "{\\*\\pn\\pnlvlbody\\pndec{\\pntxta .}}two\\cell\\row"),
+    readRtf(file("\\trowd\\cellx900\\pard\\intbl{\\*\\pn\\pnlvlbody\\pnstart7\\pndec{\\pntxta .}}"
+                 "one\\cell\\row"),
             document);
-    QCOMPARE(document.toPlainText(), QStringLiteral("one\ttwo"));
-    QVERIFY(!document.firstBlock().textList());
+    QCOMPARE(shownLabel(document.firstBlock()), QStringLiteral("7."));
+    const QByteArray rtf = written(document);
+    QVERIFY2(rtf.contains("\\pnstart7\\pndec{\\pntxta.}}\\intbl\\f0\\fs24 one\\cell\\row"), rtf);
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, TableTest)

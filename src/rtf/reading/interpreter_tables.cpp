@@ -221,7 +221,6 @@ void Interpreter::rowParagraphEnd(bool kept, bool outermost) {
     const int list = m_state.listOverride;
     if (kept) {
         m_state.paragraph = m_lastOfCell;
-        m_state.paragraph.list = {}; // a cell has no label to show
         m_state.listOverride = NoList;
     }
     paragraphEnd();

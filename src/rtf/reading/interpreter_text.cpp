@@ -206,35 +206,38 @@ void Interpreter::unicode(int code) {
     }
     if (!shows() && !captures())
         return;
-    if (QChar::isHighSurrogate(char32_t(code))) {
-        if (m_state.destination == Destination::Body)
-            prepareText();
-        m_highSurrogate = char16_t(code);
-        return;
-    }
+    const bool toBody = m_state.destination == Destination::Body;
+    const bool isHigh = QChar::isHighSurrogate(char32_t(code));
     if (QChar::isLowSurrogate(char32_t(code))) {
         const char16_t high = std::exchange(m_highSurrogate, char16_t(0));
         const char16_t pair[] = {high, char16_t(code)};
-        append(high ? QStringView(pair, 2) : QStringView(u"\ufffd"));
-        return;
+        if (high) {
+            append(QStringView(pair, 2));
+            return;
+        }
+        code = QChar::ReplacementCharacter;
     }
-    const bool ofSigns = m_state.destination == Destination::Body &&
-                         m_state.symbols != SymbolFont::None && privateByte(char32_t(code)) == 0;
-    m_state.chars.byNumber = ofSigns;
-    append(QChar::fromUcs4(char32_t(code)));
+    m_state.chars.byNumber =
+        toBody && m_state.symbols != SymbolFont::None && privateByte(char32_t(code)) == 0;
+    if (!isHigh)
+        append(QChar::fromUcs4(char32_t(code)));
+    else if (toBody)
+        prepareText();
     m_state.chars.byNumber = false;
+    if (isHigh)
+        m_highSurrogate = char16_t(code);
 }
 
 void Interpreter::prepareText() {
     boxComes();
     m_fieldText.clear();
+    endHalfCharacter();
     if (!m_cellsEnded.empty())
         cellTabs(m_cellsEnded.size());
     if (!m_text.isEmpty() && (m_textFormat != m_state.chars || m_text.size() > LongestRun))
         flushText();
     if (m_text.isEmpty())
         m_textFormat = m_state.chars;
-    endHalfCharacter();
     beginText();
 }
 

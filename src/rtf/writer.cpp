@@ -210,9 +210,18 @@ private:
 
     /// It is told where a cell ends.
     void leaveOutListOfCell(ParagraphFormat& paragraph) {
-        if (paragraph.kept != NothingKept)
-            paragraph.kept =
-                m_body.names().kept(withoutListOfCell(m_body.names().keptAt(paragraph.kept)));
+        const QString kept = m_body.names().keptAt(paragraph.kept);
+        if (!isInList(kept))
+            return;
+        paragraph.kept = m_body.names().kept(withoutListOfCell(kept));
+        tellWhatCounts(paragraph);
+    }
+
+    /// A list tells what the words of its items leave out.
+    void tellWhatCounts(ParagraphFormat& paragraph) {
+        const bool inLists =
+            paragraph.list.isInTables() || isInList(m_body.names().keptAt(paragraph.kept));
+        paragraph.stated = stated::by(paragraph, stated::countedOfParagraphs(m_hasStyles, inLists));
     }
 
     /// What ends a row is no item of a list any more where that is read.
@@ -340,8 +349,7 @@ private:
         ListLabel& list = shape.list;
         if (list.source == ListSource::Text && !isToldByText(*block.textList()))
             list.source = ListSource::Made;
-        const bool inLists = list.isInTables() || isInList(m_body.names().keptAt(shape.kept));
-        shape.stated = stated::by(shape, stated::countedOfParagraphs(m_hasStyles, inLists));
+        tellWhatCounts(shape);
         return shape;
     }
 

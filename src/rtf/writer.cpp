@@ -9,8 +9,8 @@
 #include "rtf/kept/kept_parts.h"
 #include "rtf/kept/kept_text.h"
 #include "rtf/pictures/picture_format.h"
-#include "rtf/reading/list_tables.h"
 #include "rtf/writing/body_writer.h"
+#include "rtf/writing/lists_by_text.h"
 #include "rtf/writing/row_scan.h"
 
 #include <QSet>
@@ -347,26 +347,10 @@ private:
         if (isEmpty)
             shape.afterAhead = NoLength;
         ListLabel& list = shape.list;
-        if (list.source == ListSource::Text && !isToldByText(*block.textList()))
+        if (list.source == ListSource::Text && !m_listsByText.tells(*block.textList()))
             list.source = ListSource::Made;
         tellWhatCounts(shape);
         return shape;
-    }
-
-    /// Whether the text of the labels says what each of them is; else the list tables must.
-    bool isToldByText(const QTextList& list) {
-        const auto known = m_toldByText.constFind(&list);
-        if (known != m_toldByText.constEnd())
-            return *known;
-        const ListLabel label = labelOf(list);
-        bool told = true;
-        for (int item = 0; told && item < list.count(); ++item) {
-            const QTextList* ahead = list.item(item).previous().textList();
-            const ListKind kindAhead = ahead ? labelOf(*ahead).kind : ListKind::None;
-            told = rtf::isToldByText(label, label.start + item, kindAhead);
-        }
-        m_toldByText.insert(&list, told);
-        return told;
     }
 
     // Counted along the way: a list finds the number of an item only by going through all of them.
@@ -395,7 +379,7 @@ private:
     std::optional<RowScan> m_row;                      ///< that is written
     std::unordered_map<int, ParagraphFormat> m_shapes; ///< by the index of the format
     QHash<const QTextList*, int> m_items;
-    QHash<const QTextList*, bool> m_toldByText; ///< of lists that the file tells so
+    ListsByText m_listsByText;
     QSet<int> m_anchorsWritten;
 };
 

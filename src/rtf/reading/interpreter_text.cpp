@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
+#include "rtf/formats/label_text.h"
 #include "rtf/formats/list_formats.h"
 #include "rtf/kept/kept_row.h"
 #include "rtf/reading/interpreter.h"

@@ -151,6 +151,7 @@ private:
     void endHalfCharacter();
     void beginText();
     void flushText();
+    void giveText();
     void paragraphEnd();
     void pageEnd();
     const ParagraphFormat& shapedParagraph();
@@ -186,6 +187,7 @@ private:
             beginBox();
     }
     void settleHead();
+    void takeTextForSigns(SymbolFont font);
     void knowOfParagraphs();
     int known() const { return m_countedOfCharacters & stated::Knows; }
     CharFormat told(CharFormat chars) const;

@@ -29,7 +29,19 @@ void Interpreter::settleHead() {
     const bool isNamed = m_fonts.saidOfUsual() == DefaultFont::Named;
     m_textFormat.family = isNamed ? m_fonts.usual()->family : NoName;
     if (isNamed && m_fonts.usual()->symbols != SymbolFont::None)
-        appendSigns(std::exchange(m_text, {}), m_fonts.usual()->symbols);
+        takeTextForSigns(m_fonts.usual()->symbols);
+}
+
+/// The text that came turns out to be in a font of signs: it is parted as it would be behind that.
+void Interpreter::takeTextForSigns(SymbolFont font) {
+    for (const QChar character : std::exchange(m_text, {})) {
+        const bool byNumber =
+            privateByte(character.unicode()) == 0 && isToldByNumber(font, character.unicode());
+        if (byNumber != m_textFormat.byNumber)
+            giveText();
+        m_textFormat.byNumber = byNumber;
+        appendSigns(QStringView(&character, 1), font);
+    }
 }
 
 void Interpreter::knowOfParagraphs() {

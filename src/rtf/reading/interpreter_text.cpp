@@ -260,10 +260,16 @@ void Interpreter::flushText() {
     if (m_text.isEmpty())
         return;
     headEnds();
+    giveText();
+    askForRoom();
+}
+
+void Interpreter::giveText() {
+    if (m_text.isEmpty())
+        return;
     m_textFormat.stated |= known();
     m_sink.text(m_text, m_textFormat);
     m_text.resize(0);
-    askForRoom();
 }
 
 void Interpreter::paragraphEnd() {

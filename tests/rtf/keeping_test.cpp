@@ -40,6 +40,7 @@ private slots:
     void theFieldOfASignThatIsChangedIsText();
     void aFontKeepsWhetherItIsOneOfSigns();
     void signsThatAreToldByNumberStayNumbers();
+    void signsOfTheDefaultFontStayBytes();
     void aFontThatOthersTakeForOneOfSignsHasItsTextByNumber();
     void fontsAndColoursOfAHeaderAreThoseOfTheNewTables();
     void theDefaultFontOfAHeaderStaysItsFont();
@@ -264,6 +265,13 @@ void KeepingTest::aFontKeepsWhetherItIsOneOfSigns() {
     QVERIFY2(written.contains("\\fcharset0 Symbol;"), written.constData());
     QVERIFY2(written.contains("\\fcharset2 Wingdings;"), written.constData());
     QVERIFY2(written.contains(" a\\u945?_"), written.constData());
+}
+
+void KeepingTest::signsOfTheDefaultFontStayBytes() {
+    QTextDocument document;
+    readRtf("{\\rtf1\\deff3{\\fonttbl{\\f3\\fnil\\fcharset2 Wingdings;}}o\\'fc}", document);
+    QCOMPARE(document.toPlainText(), QStringLiteral("\U0001f78f\u2713"));
+    QVERIFY(writeRtf(document).contains("\\'6f\\'fc"));
 }
 
 void KeepingTest::signsThatAreToldByNumberStayNumbers() {

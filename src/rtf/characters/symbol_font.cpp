@@ -126,7 +126,7 @@ uchar symbolByte(SymbolFont font, char32_t character) {
     return found == signs->end() ? uchar(0) : uchar(found - signs->begin() + dingbats::FirstCode);
 }
 
-bool isToldByNumber(SymbolFont font, char16_t character) {
+bool isToldByNumber(SymbolFont font, char32_t character) {
     return character > u' ' && character != QChar::LineSeparator &&
            symbolByte(font, character) == 0;
 }

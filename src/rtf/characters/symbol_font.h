@@ -26,7 +26,7 @@ QString inSigns(SymbolFont font, const QString& text);
 /// The byte at which a font shows a character, 0 when it does not.
 uchar symbolByte(SymbolFont font, char32_t character);
 /// Whether a font of signs lacks a character, so that text in it tells that by its number.
-bool isToldByNumber(SymbolFont font, char16_t character);
+bool isToldByNumber(SymbolFont font, char32_t character);
 
 /// The byte that a character of the area for private use tells, as word processors write symbols;
 /// 0 for every other character.

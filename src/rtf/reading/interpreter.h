@@ -154,6 +154,7 @@ private:
     void giveText();
     void paragraphEnd();
     void pageEnd();
+    void showStart(ListLabel& list) const;
     const ParagraphFormat& shapedParagraph();
     int lookOfParagraphMark();
     bool shows() const {

@@ -34,13 +34,12 @@ void Interpreter::settleHead() {
 
 /// The text that came turns out to be in a font of signs: it is parted as it would be behind that.
 void Interpreter::takeTextForSigns(SymbolFont font) {
-    for (const QChar character : std::exchange(m_text, {})) {
-        const bool byNumber =
-            privateByte(character.unicode()) == 0 && isToldByNumber(font, character.unicode());
+    for (const char32_t character : std::exchange(m_text, {}).toUcs4()) {
+        const bool byNumber = privateByte(character) == 0 && isToldByNumber(font, character);
         if (byNumber != m_textFormat.byNumber)
             giveText();
         m_textFormat.byNumber = byNumber;
-        appendSigns(QStringView(&character, 1), font);
+        appendSigns(QChar::fromUcs4(character), font);
     }
 }
 

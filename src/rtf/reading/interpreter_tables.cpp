@@ -151,6 +151,7 @@ int Interpreter::cellShape(bool nested) {
         shaped.nesting = 0;
     const QString list = listInCell();
     shaped.kept = m_names.kept(m_names.keptAt(shaped.kept) + list);
+    showStart(shaped.list);
     m_lastOfCell = shaped;
     shaped.stated = stated::by(shaped, stated::countedOfParagraphs(m_stylesKept, !list.isEmpty()));
     m_label.clear();

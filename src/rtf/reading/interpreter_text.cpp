@@ -323,6 +323,12 @@ int Interpreter::lookOfParagraphMark() {
     return m_names.kept(look);
 }
 
+/// A number that the label beside it shows too begins anew.
+void Interpreter::showStart(ListLabel& list) const {
+    list.showsStart |= list.source == ListSource::Numbering && !m_label.isEmpty() &&
+                       m_label == labelText(list, list.start).trimmed();
+}
+
 const ParagraphFormat& Interpreter::shapedParagraph() {
     const bool ofRow = (m_rowEnds || m_state.inTable) && row() != NothingKept;
     const bool besideBox = m_boxIsOpen || m_boxEnded;
@@ -363,8 +369,7 @@ const ParagraphFormat& Interpreter::shapedParagraph() {
         list = {};
     else if (m_state.listOverride != NoList) // which goes before the other, though nobody knows it
         list.source = ListSource::Text;
-    list.showsStart |= list.source == ListSource::Numbering && !m_label.isEmpty() &&
-                       m_label == labelText(list, list.start).trimmed();
+    showStart(list);
     m_lastListKind = m_shaped.list.kind;
     if (list.kind != ListKind::None && m_inParagraph && !m_boxBegins)
         m_shaped.mark = lookOfParagraphMark();

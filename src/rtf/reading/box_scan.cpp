@@ -68,6 +68,9 @@ private:
             if (hasPictureData(m_tokenizer.groupAhead()))
                 show();
             passGroup();
+        } else if (m_begins && action == Action::ShapeGroup && token.word->value != 0) {
+            show(); // a formula, whose words are none of the text
+            passGroup();
         } else {
             content(token, action);
         }

@@ -70,7 +70,9 @@ void Interpreter::keepFormula() {
     }
     m_state.chars.field =
         m_names.kept(QString::number(m_shapes) + NumberEnd + kept + NumberEnd + text);
+    m_state.chars.byNumber = m_state.symbols != SymbolFont::None;
     append(text);
+    m_state.chars.byNumber = false;
     m_state.chars.field = NothingKept;
 }
 

@@ -176,14 +176,14 @@ private:
         own.rowBegins = false;
         if (std::exchange(own.pageWord, PageWord::OfParagraph) != PageWord::OfParagraph)
             own.pageBreakBefore = false;
-        if (last || endsNested)
-            leaveOutLabel(own);
-        else
-            leaveOutListOfCell(own);
         std::vector<int> shapes;
         for (auto it = block.begin(); !it.atEnd(); ++it)
             if (const QTextFragment run = it.fragment(); endsToldCells(run))
                 shapes.insert(shapes.end(), size_t(run.length()), lookOf(run).cell);
+        if (last || endsNested)
+            leaveOutLabel(own, shapes.empty());
+        else
+            leaveOutListOfCell(own);
         size_t cell = 0;
         const auto beginCell = [&](int anchors) {
             own.anchors = anchors;
@@ -225,9 +225,10 @@ private:
     }
 
     /// What ends a row is no item of a list any more where that is read.
-    void leaveOutLabel(ParagraphFormat& paragraph) {
+    /// \param isAlone the cell that the paragraph ends is all of its line.
+    void leaveOutLabel(ParagraphFormat& paragraph, bool isAlone) {
         ListLabel& list = paragraph.list;
-        if (list.source == ListSource::Numbering)
+        if (list.source == ListSource::Numbering && isAlone)
             return;
         if (list.kind != ListKind::None && list.hasTables())
             paragraph.kept =

@@ -88,6 +88,7 @@ private slots:
     void aSectionMayBeginWithATable();
     void aFloodOfRowsIsBounded();
     void aNumberAtTheEndOfARowStays();
+    void theNumberOfOneCellOfSeveralIsNotShownAheadOfAll();
 };
 
 void TableTest::aTableIsATableAgain() {
@@ -525,6 +526,15 @@ void TableTest::aNumberAtTheEndOfARowStays() {
     QCOMPARE(shownLabel(document.firstBlock()), QStringLiteral("7."));
     const QByteArray rtf = written(document);
     QVERIFY2(rtf.contains("\\pnstart7\\pndec{\\pntxta.}}\\intbl\\f0\\fs24 one\\cell\\row"), rtf);
+}
+
+void TableTest::theNumberOfOneCellOfSeveralIsNotShownAheadOfAll() {
+    QTextDocument document;
+    readRtf(file("\\trowd\\cellx900\\cellx1800\\pard\\intbl one\\cell"
+                 "{\\*\\pn\\pnlvlbody\\pndec{\\pntxta .}}two\\cell\\row"),
+            document);
+    QCOMPARE(document.toPlainText(), QStringLiteral("one\ttwo"));
+    QVERIFY(!document.firstBlock().textList());
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, TableTest)

@@ -343,6 +343,7 @@ private:
     };
     Uneven m_uneven; ///< the last one
     int m_bareCell = NothingKept;
+    int m_cellsOfLine = 0; ///< that have ended since the last paragraph
     bool m_rowEnds = false;
     bool m_inParagraph = false;
     int m_afterAhead = 0;     ///< the space after the paragraph as its text began

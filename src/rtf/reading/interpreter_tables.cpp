@@ -70,6 +70,7 @@ bool Interpreter::rowWord(const Token& token) {
             if (!m_anchorsBehindCell.empty())
                 cellTabs(m_cellsEnded.size());
             m_cellsEnded.push_back(m_state.chars);
+            ++m_cellsOfLine;
             const bool nested = token.word->value != 0;
             const int cell = m_cellsEnded.back().cell = cellShape(nested);
             if (endsCellOfRow(cell))
@@ -222,6 +223,8 @@ void Interpreter::rowParagraphEnd(bool kept, bool outermost) {
     const int list = m_state.listOverride;
     if (kept) {
         m_state.paragraph = m_lastOfCell;
+        if (m_cellsOfLine > 1) // whose label would stand ahead of all of them
+            m_state.paragraph.list = {};
         m_state.listOverride = NoList;
     }
     paragraphEnd();

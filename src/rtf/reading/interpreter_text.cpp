@@ -285,6 +285,7 @@ void Interpreter::paragraphEnd() {
     if (!m_rows.isEntered)
         m_rows.cellsOfRow = 0;
     m_rowEnds = false;
+    m_cellsOfLine = 0;
     m_boxEnded = false;
     m_boxHasParagraph = true;
     m_inParagraph = false;

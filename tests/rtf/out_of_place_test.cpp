@@ -68,6 +68,8 @@ private slots:
     void aBoxWhoseTextIsDeletedStaysOne();
     void theSpacingOfLettersHasOneLimitHoweverItIsTold();
     void aListBeginsInAGroupOfItsOwn();
+    void aBlankByItsNumberEndsTheHeadOfAGroupThatIsKept();
+    void whatABoxBehindACellInterruptsStaysAhead();
 };
 
 void OutOfPlaceTest::theFontOfTextThatNamesNoneIsSettledWithTheFirstText() {
@@ -257,6 +259,22 @@ void OutOfPlaceTest::aListBeginsInAGroupOfItsOwn() {
     readFile(document, "{\\*\\listtable\\list\\listlevel\\listid1}"
                        "{\\*\\listoverridetable\\listoverride\\listid1\\ls1}\\ls1 a");
     QVERIFY(!document.firstBlock().textList());
+}
+
+void OutOfPlaceTest::aBlankByItsNumberEndsTheHeadOfAGroupThatIsKept() {
+    QTextDocument document;
+    readFile(document, "a{\\field{\\*\\fldinst EQ {\\u10\\generator x}}{\\fldrslt b}}");
+    QVERIFY(writeRtf(document).contains("{\\u10?\\generator x}"));
+    readFile(document, "a{\\header{\\u-4?\\pict 0a}}");
+    QVERIFY(writeRtf(document).contains("{\\header{\\u-4?\\pict 0a}}"));
+}
+
+void OutOfPlaceTest::whatABoxBehindACellInterruptsStaysAhead() {
+    QTextDocument document;
+    readFile(document, "a\\cell{\\shp\\shpleft1}{\\shp{\\shptxt b\\cell c}}d");
+    QCOMPARE(document.toPlainText(), QStringLiteral("a\t\nb\tc\nd"));
+    QVERIFY(!document.firstBlock().blockFormat().hasProperty(KeptBox));
+    QVERIFY(writeRtf(document).contains("a\\cell{\\shp\\shpleft1}"));
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, OutOfPlaceTest)

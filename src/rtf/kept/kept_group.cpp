@@ -36,8 +36,6 @@ QString GroupKeeper::kept(QByteArrayView opening, QByteArrayView word, qsizetype
     Token token;
     for (m_tokenizer.next(token); token.kind != TokenKind::End; m_tokenizer.next(token)) {
         m_head.take(token);
-        if (isCharacters(token) && !isBlank(token))
-            m_state.begins = false;
         take(token);
         if (m_out.bytes().size() > limit || m_groups.size() > MostKeptGroups)
             return {};
@@ -91,8 +89,6 @@ void GroupKeeper::openGroup() {
     m_fallbackToSkip = 0;
     m_groups.push_back(m_state);
     m_state.picture = false;
-    m_groups.back().begins = false;
-    m_state.begins = true;
     m_out.structure("{");
 }
 
@@ -109,12 +105,10 @@ void GroupKeeper::closeGroup() {
 void GroupKeeper::word(const Token& token) {
     const Action action = token.word ? token.word->action : Action::Version;
     switch (action) {
-    case Action::Unicode: {
-        const char16_t unit = char16_t(token.parameter);
-        text(QStringView(&unit, 1));
+    case Action::Unicode:
+        unicode(char16_t(token.parameter));
         m_fallbackToSkip = m_state.unicodeSkip;
         return;
-    }
     case Action::UnicodeSkip:
         m_state.unicodeSkip = std::clamp(token.hasParameter ? token.parameter : 1, 0, 255);
         return;
@@ -132,6 +126,15 @@ void GroupKeeper::word(const Token& token) {
         copy(token);
         plain();
         return;
+    case Action::Utf8Version:
+    case Action::AnsiCodePage:
+    case Action::FixedCodePage:
+    case Action::DefaultFont:
+    case Action::FurtherDefaultFont:
+    case Action::DefaultTab:
+    case Action::DefaultLanguage:
+        // They tell of the file that this is copied from.
+        return;
     case Action::ListOverride:
     case Action::ListLevel:
     case Action::ListIdentity:
@@ -140,13 +143,12 @@ void GroupKeeper::word(const Token& token) {
         // It comes as a word only where it has no data.
         return;
     case Action::PictureGroup:
-        m_state.picture = std::exchange(m_state.begins, false);
+        m_state.picture |= m_head.isHead();
         copy(token);
         return;
     default:
         break;
     }
-    m_state.begins = m_state.begins && !ownsGroup(action);
     if (action == Action::Keep && keptWord(*token.word).kind == KeptKind::Font) {
         selectFont(token);
         return;
@@ -223,6 +225,17 @@ void GroupKeeper::symbol(uchar character) {
         return;
     default:
         return;
+    }
+}
+
+void GroupKeeper::unicode(char16_t unit) {
+    const bool isLost = unit <= u' ' || unit == QChar::ObjectReplacementCharacter;
+    if (isLost && m_head.isHead() && !m_state.picture) {
+        // Characters end the head of a group, however they are told. As a blank it would not.
+        m_out.word("\\u", qint16(unit));
+        m_out.structure("?");
+    } else {
+        text(QStringView(&unit, 1));
     }
 }
 

@@ -40,7 +40,6 @@ private:
         int unicodeSkip = 1;
         bool symbols = false;
         bool picture = false;
-        bool begins = false; ///< so that a word may still make a picture of it
     };
 
     void take(const Token& token);
@@ -48,6 +47,7 @@ private:
     void closeGroup();
     void word(const Token& token);
     void symbol(uchar character);
+    void unicode(char16_t unit);
     void selectFont(const Token& token);
     void bytes(QByteArrayView run);
     void pictureBytes(QByteArrayView run);
@@ -60,7 +60,7 @@ private:
     Tokenizer m_tokenizer;
     const FileTables& m_tables;
     RtfOutput m_out;
-    GroupHead m_head;
+    GroupHead m_head{false};
     std::vector<Group> m_groups;
     Group m_state;
     QByteArray m_pending;

@@ -5,36 +5,13 @@
 #include "rtf/kept/kept_shape.h"
 #include "rtf/words/control_words.h"
 #include "rtf/words/group_head.h"
-#include "rtf/words/hex.h"
 #include "rtf/words/tokenizer.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace orvalis::rtf {
 
 namespace {
-
-/// Whether a picture's group has a byte of a picture.
-bool hasPictureData(QByteArrayView group) {
-    Tokenizer tokenizer(group);
-    Token token;
-    int depth = 0;
-    qsizetype digits = 0;
-    for (tokenizer.next(token); token.kind != TokenKind::End && digits < 2; tokenizer.next(token)) {
-        if (token.kind == TokenKind::GroupStart)
-            ++depth;
-        else if (token.kind == TokenKind::GroupEnd)
-            --depth;
-        else if (token.kind == TokenKind::Binary && !token.bytes.isEmpty())
-            return true;
-        else if (token.kind == TokenKind::Text && depth == 0)
-            digits += std::count_if(
-                token.bytes.begin(), token.bytes.end(),
-                [](char c) { return hexDigit(uchar(c)) >= 0; });
-    }
-    return digits >= 2;
-}
 
 /// Whether a shape has a text or a picture, of which only its reader knows what they show.
 bool mayShow(QByteArrayView shape) {
@@ -60,15 +37,14 @@ private:
         const Action action = isWord && token.word ? token.word->action : Action::Version;
         m_head.take(token);
         m_scan.end = m_tokenizer.position();
-        if (isWord && (token.word ? m_begins && hidesText(action) : m_head.isStarred())) {
+        if (isWord && (token.word ? m_head.isHead() && hidesText(action) : m_head.isStarred())) {
             m_scan.holdsMore |= tellsOfDocument(action) || (action == Action::ShapeInstruction &&
                                                             mayShow(m_tokenizer.groupAhead()));
             passGroup();
-        } else if (m_begins && action == Action::PictureGroup) {
-            if (hasPictureData(m_tokenizer.groupAhead()))
-                show();
+        } else if (m_head.isHead() && action == Action::PictureGroup) {
+            show(); // perhaps, as only its reader can tell
             passGroup();
-        } else if (m_begins && action == Action::ShapeGroup && token.word->value != 0) {
+        } else if (m_head.isHead() && action == Action::ShapeGroup && token.word->value != 0) {
             show(); // a formula, whose words are none of the text
             passGroup();
         } else {
@@ -81,8 +57,6 @@ private:
         const bool endsCell = action == Action::CellEnd;
         const bool shown = isCharacters(token) || (m_cellEnded && (endsCell || endsParagraph));
         m_cellEnded = (m_cellEnded || endsCell) && action != Action::RowEnd;
-        m_begins = token.kind == TokenKind::GroupStart ||
-                   (m_begins && !shown && !ownsGroup(action) && token.kind != TokenKind::GroupEnd);
         m_scan.shapes |= endsParagraph || endsOrShapes(action);
         const bool isMark = token.kind == TokenKind::Word && token.bytes == ShownEmpty.sliced(1);
         if (shown || isMark)
@@ -100,14 +74,12 @@ private:
     void passGroup() {
         m_tokenizer.skipGroup();
         m_head.leave();
-        m_begins = false;
         m_scan.end = m_tokenizer.position();
     }
 
     Tokenizer m_tokenizer;
     BoxScan m_scan;
-    GroupHead m_head;
-    bool m_begins = false;    ///< the group: its first word may make it something else than text
+    GroupHead m_head{false};
     bool m_cellEnded = false; ///< which shows only where another one, or text, is behind it
 };
 

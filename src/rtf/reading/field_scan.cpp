@@ -25,17 +25,11 @@ public:
         for (m_tokenizer.next(token); token.kind != TokenKind::End; m_tokenizer.next(token)) {
             m_head.take(token);
             take(token);
-            m_hasContent =
-                token.kind != TokenKind::GroupStart && (m_hasContent || isContent(token));
         }
         return m_scan;
     }
 
 private:
-    static bool isContent(const Token& token) {
-        return token.kind == TokenKind::GroupEnd || (isCharacters(token) && !isBlank(token));
-    }
-
     void take(const Token& token) {
         m_scan.hasResult |= m_resultDepth != NoDepth && isCharacters(token);
         switch (token.kind) {
@@ -62,16 +56,14 @@ private:
 
     void word(const Token& token) {
         const Action action = token.word ? token.word->action : Action::Version;
-        if (!m_hasContent && (hidesText(action) || (m_head.isStarred() && !token.word))) {
+        if (m_head.isHead() && (hidesText(action) || (m_head.isStarred() && !token.word))) {
             hidden(action);
             return;
         }
         m_scan.hasStructure |= endsOrShapes(action);
-        if (ownsGroup(action))
-            m_hasContent = true;
         switch (action) {
         case Action::Field:
-            if (m_depth > 0 && m_innerDepth == NoDepth && !m_hasContent)
+            if (m_depth > 0 && m_innerDepth == NoDepth && m_head.isHead())
                 m_innerDepth = m_depth;
             return;
         case Action::PictureGroup:
@@ -95,7 +87,6 @@ private:
             m_scan.instruction = m_tokenizer.groupAhead();
         m_tokenizer.skipGroup();
         m_head.leave();
-        m_hasContent = true;
         --m_depth;
     }
 
@@ -103,12 +94,11 @@ private:
 
     Tokenizer m_tokenizer;
     FieldScan m_scan;
-    GroupHead m_head;
+    GroupHead m_head{true};
     int m_depth = 0;
     int m_resultDepth = NoDepth;
     int m_innerDepth = NoDepth; ///< of the field in it that one stands in
     bool m_hasInstruction = false;
-    bool m_hasContent = false; ///< the group has, so that it cannot become an instruction any more
 };
 
 } // namespace

@@ -88,7 +88,6 @@ bool Interpreter::step(const Token& token) {
 void Interpreter::openGroup() {
     flushPending();
     m_fallbackToSkip = 0;
-    m_state.hasContent = true;
     if (m_groups.size() >= MostGroups) {
         fault(Fault::TooDeep);
         ++m_unstoredGroups;
@@ -98,7 +97,6 @@ void Interpreter::openGroup() {
     m_state.ownsDestination = false;
     m_state.ownField = NothingKept;
     m_state.ownBox = NothingKept;
-    m_state.hasContent = false;
 }
 
 bool Interpreter::closeGroup() {
@@ -185,8 +183,7 @@ void Interpreter::word(const Token& token) {
     flushPending();
     if (!token.word) {
         // Only the group of an unknown destination may be ignored; the outermost one is the file.
-        if (m_head.isStarred() && (m_groups.size() > 1 || m_unstoredGroups > 0) &&
-            !m_state.hasContent)
+        if (m_head.isStarred() && (m_groups.size() > 1 || m_unstoredGroups > 0))
             skipGroup();
         return;
     }

@@ -107,8 +107,6 @@ private:
         bool inShape = false;
         bool inFormula = false;
         bool fallback = false; ///< pictures are other forms of the one that came last
-        bool hasContent =
-            false; ///< text or groups, so that it cannot become a destination any more
     };
 
     /// What a text tells of its rows. That of a box knows none of those around it.
@@ -285,7 +283,7 @@ private:
     std::vector<Group> m_groups;
     Group m_state;
     qsizetype m_unstoredGroups = 0;
-    GroupHead m_head;
+    GroupHead m_head{false};
 
     const CodePage* m_documentPage;
     FontTable m_fonts;

@@ -18,9 +18,8 @@ constexpr QRgb OpaqueBlack = 0xff000000;
 } // namespace
 
 bool Interpreter::destinationWord(const Token& token) {
-    // Only the head of a group says what the group is for, once, and never that of the outermost
-    // one.
-    if (m_groups.size() < 2 || m_state.hasContent || m_state.ownsDestination)
+    // The outermost group is the file.
+    if (m_groups.size() < 2 || !m_head.isHead())
         return false;
     const Action action = token.word->action;
     if (m_unstoredGroups > 0) {

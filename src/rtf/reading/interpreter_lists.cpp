@@ -10,16 +10,12 @@ namespace orvalis::rtf {
 bool Interpreter::listWord(const Token& token) {
     switch (token.word->action) {
     case Action::List:
-        if (m_state.destination == Destination::ListTable && mayBeginList()) {
+        if (m_state.destination == Destination::ListTable && mayBeginList())
             m_lists.beginList(keptOfLists(token));
-            m_state.hasContent = true;
-        }
         return true;
     case Action::ListOverrideEntry:
-        if (m_state.destination == Destination::ListOverrideTable && mayBeginList()) {
+        if (m_state.destination == Destination::ListOverrideTable && mayBeginList())
             m_lists.beginOverride(keptOfLists(token));
-            m_state.hasContent = true;
-        }
         return true;
     case Action::ListOverrideLevel:
     case Action::ListIdentity:

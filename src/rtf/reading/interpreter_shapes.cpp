@@ -88,8 +88,9 @@ void Interpreter::expectBox() {
 /// The text of a box has paragraphs of its own: that of the document which the box stands in is
 /// interrupted, or comes behind it.
 void Interpreter::beginBox() {
-    m_boxBehind = m_inParagraph || m_boxEnded;
-    if (m_inParagraph) {
+    const bool textAhead = m_inParagraph || !m_cellsEnded.empty();
+    m_boxBehind = textAhead || m_boxEnded;
+    if (textAhead) {
         // In the shape that it has ahead of that of the box.
         Group& around = m_groups[m_shapeDepth - 1];
         m_boxBegins = true;

@@ -54,10 +54,6 @@ void Interpreter::bytes(QByteArrayView run) {
     // Blanks between "\\*" and the name of the destination are no text.
     if (m_head.hasStar())
         return;
-    // Some files indent the heads of their groups, and some have lost the backslash of "\\*": the
-    // destinations behind are destinations all the same.
-    const bool nothing = run.size() == 1 && run.front() == '*';
-    m_state.hasContent = m_state.hasContent || (!nothing && !run.trimmed().isEmpty());
     if (m_fallbackToSkip > 0) {
         const auto skipped = std::min<qsizetype>(m_fallbackToSkip, run.size());
         m_fallbackToSkip -= int(skipped);
@@ -175,7 +171,6 @@ void Interpreter::appendSigns(QStringView text, SymbolFont font) {
 }
 
 void Interpreter::character(char16_t character) {
-    m_state.hasContent = true;
     flushPending();
     if (m_fallbackToSkip > 0)
         --m_fallbackToSkip;
@@ -195,7 +190,6 @@ void Interpreter::appendOfWord(char16_t character) {
 }
 
 void Interpreter::unicode(int code) {
-    m_state.hasContent = true;
     m_fallbackToSkip = m_state.unicodeSkip;
     if (code < 0)
         code += 0x10000;

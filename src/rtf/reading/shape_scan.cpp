@@ -199,7 +199,7 @@ private:
 
     QByteArrayView m_content;
     Tokenizer m_tokenizer;
-    GroupHead m_head;
+    GroupHead m_head{false};
     std::vector<Group> m_groups; ///< that are open
     std::vector<Piece> m_texts;
     std::vector<Piece> m_pictures;

@@ -154,7 +154,8 @@ constexpr bool hidesText(Action head) {
 /// Whether a group with this head has a purpose that no later word in it changes.
 constexpr bool ownsGroup(Action head) {
     return hidesText(head) || head == Action::PictureGroup || head == Action::UnicodePair ||
-           head == Action::UnicodeHalf || head == Action::ShapeText;
+           head == Action::UnicodeHalf || head == Action::ShapeText || head == Action::List ||
+           head == Action::ListOverrideEntry;
 }
 /// Whether a group with this head, in a shape, tells of more than of the shape.
 constexpr bool tellsOfDocument(Action head) {

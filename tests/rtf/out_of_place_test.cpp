@@ -70,6 +70,11 @@ private slots:
     void aListBeginsInAGroupOfItsOwn();
     void aBlankByItsNumberEndsTheHeadOfAGroupThatIsKept();
     void whatABoxBehindACellInterruptsStaysAhead();
+    void aShapeSaysNothingOfTheCodePage();
+    void aPictureMayHaveItsDigitsInAGroup();
+    void halfACharacterAheadOfATableIsASign();
+    void aSectionEndsTheRowThatItBeginsIn();
+    void aSignOfTwoUnitsToldByNumberStaysANumber();
 };
 
 void OutOfPlaceTest::theFontOfTextThatNamesNoneIsSettledWithTheFirstText() {
@@ -275,6 +280,39 @@ void OutOfPlaceTest::whatABoxBehindACellInterruptsStaysAhead() {
     QCOMPARE(document.toPlainText(), QStringLiteral("a\t\nb\tc\nd"));
     QVERIFY(!document.firstBlock().blockFormat().hasProperty(KeptBox));
     QVERIFY(writeRtf(document).contains("a\\cell{\\shp\\shpleft1}"));
+}
+
+void OutOfPlaceTest::aShapeSaysNothingOfTheCodePage() {
+    QTextDocument document;
+    readFile(document, "{\\shp\\mac{\\shptxt \\'96}}");
+    QCOMPARE(document.toPlainText(), QString(QChar(0xf1)));
+    QVERIFY(writeRtf(document).contains("{\\shp{\\shptxt"));
+}
+
+void OutOfPlaceTest::aPictureMayHaveItsDigitsInAGroup() {
+    QTextDocument document;
+    readFile(document, "{\\shp{\\shptxt{\\pict 01{02}}}{\\shptxt a}}");
+    QCOMPARE(writeRtf(document).count("0102"), 1);
+}
+
+void OutOfPlaceTest::halfACharacterAheadOfATableIsASign() {
+    QTextDocument document;
+    readFile(document, "\\u-10179{\\colortbl;}\\page a");
+    QCOMPARE(document.toPlainText(), QString(QChar::ReplacementCharacter) + QStringLiteral("\na"));
+}
+
+void OutOfPlaceTest::aSectionEndsTheRowThatItBeginsIn() {
+    QTextDocument document;
+    readFile(document, "\\trowd\\cellx900\\intbl a\\par\\sect b\\cell\\row");
+    QVERIFY(writeRtf(document).contains("b\\cell\\row"));
+    readFile(document, "\\intbl\\trowd\\cellx9 a\\cell\\row\\par\\sect\\trowd\\cellx9\\par");
+    QCOMPARE(document.blockCount(), 3);
+}
+
+void OutOfPlaceTest::aSignOfTwoUnitsToldByNumberStaysANumber() {
+    QTextDocument document;
+    readFile(document, "{\\fonttbl{\\f3\\fcharset2 Wingdings;}}\\f3\\'b7 \\u-10179?\\u-8880?");
+    QVERIFY(writeRtf(document).contains("\\'b7 \\u-10179?\\u-8880?"));
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, OutOfPlaceTest)

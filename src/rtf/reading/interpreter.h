@@ -122,6 +122,13 @@ private:
         bool isNew = false;                               ///< row does not tell it yet
         bool isOpened = false;  ///< by a paragraph without text, of which the row may never end
         bool isEntered = false; ///< a paragraph of the row has ended
+
+        /// What comes is none of the row that was entered.
+        void leave() {
+            isEntered = isOpened = false;
+            cellsOfRow = 0;
+            cellsOfNested.fill(0);
+        }
     };
 
     // Structure (interpreter.cpp)

@@ -178,6 +178,8 @@ bool Interpreter::destinationWord(const Token& token) {
 }
 
 void Interpreter::openDestination(Destination destination) {
+    if (m_state.destination == Destination::Body)
+        endHalfCharacter();
     m_state.destination = destination;
     m_state.ownsDestination = true;
     m_capture.clear();

@@ -245,6 +245,7 @@ void Interpreter::sectionEnd() {
     const bool paragraphEndedItself = !m_inParagraph && !std::exchange(m_boxEnded, false);
     if (m_inParagraph)
         paragraphEnd();
+    m_rows.leave();
     m_paragraphBeforeSection = paragraphEndedItself;
     tellFirstSection();
     m_sectionGroups.clear();

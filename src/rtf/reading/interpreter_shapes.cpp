@@ -71,7 +71,8 @@ void Interpreter::keepFormula() {
     m_state.chars.field =
         m_names.kept(QString::number(m_shapes) + NumberEnd + kept + NumberEnd + text);
     m_state.chars.byNumber = m_state.symbols != SymbolFont::None;
-    append(text);
+    prepareText();
+    appendSigns(text, SymbolFont::None);
     m_state.chars.byNumber = false;
     m_state.chars.field = NothingKept;
 }

@@ -209,11 +209,8 @@ void Interpreter::rowEnd(bool outermost) {
     if (anyCell || m_inParagraph)
         rowParagraphEnd(kept, outermost);
     m_nestedRow = NothingKept;
-    if (outermost && (anyCell || !m_rows.isOpened)) {
-        m_rows.isEntered = false;
-        m_rows.cellsOfRow = 0;
-        m_rows.cellsOfNested.fill(0);
-    }
+    if (outermost && (anyCell || !m_rows.isOpened))
+        m_rows.leave();
 }
 
 void Interpreter::rowParagraphEnd(bool kept, bool outermost) {

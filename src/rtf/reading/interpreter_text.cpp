@@ -203,18 +203,16 @@ void Interpreter::unicode(int code) {
         return;
     const bool toBody = m_state.destination == Destination::Body;
     const bool isHigh = QChar::isHighSurrogate(char32_t(code));
-    if (QChar::isLowSurrogate(char32_t(code))) {
-        const char16_t high = std::exchange(m_highSurrogate, char16_t(0));
-        const char16_t pair[] = {high, char16_t(code)};
-        if (high) {
-            append(QStringView(pair, 2));
-            return;
-        }
+    const bool isLow = QChar::isLowSurrogate(char32_t(code));
+    const char16_t high = isLow ? std::exchange(m_highSurrogate, char16_t(0)) : char16_t(0);
+    if (isLow && !high)
         code = QChar::ReplacementCharacter;
-    }
+    const char16_t pair[] = {high, char16_t(code)};
     m_state.chars.byNumber =
         toBody && m_state.symbols != SymbolFont::None && privateByte(char32_t(code)) == 0;
-    if (!isHigh)
+    if (high)
+        append(QStringView(pair, 2));
+    else if (!isHigh)
         append(QChar::fromUcs4(char32_t(code)));
     else if (toBody)
         prepareText();

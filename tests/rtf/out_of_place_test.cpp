@@ -75,6 +75,7 @@ private slots:
     void halfACharacterAheadOfATableIsASign();
     void aSectionEndsTheRowThatItBeginsIn();
     void aSignOfTwoUnitsToldByNumberStaysANumber();
+    void theInstructionOfAFieldIsThatForReadersOfUnicode();
 };
 
 void OutOfPlaceTest::theFontOfTextThatNamesNoneIsSettledWithTheFirstText() {
@@ -313,6 +314,13 @@ void OutOfPlaceTest::aSignOfTwoUnitsToldByNumberStaysANumber() {
     QTextDocument document;
     readFile(document, "{\\fonttbl{\\f3\\fcharset2 Wingdings;}}\\f3\\'b7 \\u-10179?\\u-8880?");
     QVERIFY(writeRtf(document).contains("\\'b7 \\u-10179?\\u-8880?"));
+}
+
+void OutOfPlaceTest::theInstructionOfAFieldIsThatForReadersOfUnicode() {
+    QTextDocument document;
+    readFile(document, "{\\field{\\upr{\\*\\fldinst EQ (a)}{\\*\\ud{\\*\\fldinst EQ (b)}}}}");
+    QCOMPARE(document.toPlainText(), QStringLiteral("(b)"));
+    QVERIFY(writeRtf(document).contains("{\\*\\fldinst EQ (b)}"));
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, OutOfPlaceTest)

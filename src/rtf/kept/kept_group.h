@@ -4,8 +4,8 @@
 
 #include "rtf/characters/font_table.h"
 #include "rtf/words/group_head.h"
+#include "rtf/words/rtf_output.h"
 #include "rtf/words/tokenizer.h"
-#include "rtf/writing/rtf_output.h"
 
 #include <QList>
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/kept/kept_text.h"
 
-#include "rtf/writing/rtf_output.h"
-#include "rtf/writing/writer_tables.h"
+#include "rtf/formats/formats.h"
+#include "rtf/kept/number_place.h"
 
 #include <algorithm>
 
@@ -13,48 +13,10 @@ namespace orvalis::rtf {
 
 namespace {
 
-// What is kept has no characters of its own below a blank.
-constexpr QChar PlaceStart(0x1);
-constexpr QChar PlaceEnd(0x2);
-constexpr QChar FontPlace = u'f';
-constexpr QChar ColorPlace = u'c';
-constexpr QChar ListPlace = u'l';
-// In the place of a list, for the places in what is kept of it.
-constexpr QChar InnerStart(0x4);
-constexpr QChar InnerEnd(0x5);
-constexpr QChar OverrideStart(0x6);
-
 const QString ListOfCell = u"\\ls"_s + PlaceStart + ListPlace;
 
 QString place(QChar kind, const QString& what) {
     return QString(PlaceStart) + kind + what + PlaceEnd;
-}
-
-ParagraphFormat keptItem(QString lists) {
-    lists.replace(InnerStart, PlaceStart).replace(InnerEnd, PlaceEnd);
-    ParagraphFormat item;
-    item.list.source = ListSource::Tables;
-    const qsizetype at = std::max<qsizetype>(lists.indexOf(OverrideStart), 0);
-    item.list.keptList = lists.first(at);
-    item.list.keptOverride = lists.sliced(std::min(at + 1, lists.size()));
-    return item;
-}
-
-int number(QStringView place, WriterTables& tables) {
-    const QString what = place.sliced(1).toString();
-    if (place.front() == ListPlace)
-        return tables.list(keptItem(what));
-    if (place.front() == FontPlace && what.isEmpty())
-        return 0;
-    if (place.front() == FontPlace)
-        return tables.font(tables.names().family(what));
-    return tables.color(QRgb(what.toUInt(nullptr, 16)));
-}
-
-bool endsWord(QStringView text) {
-    const QChar last = text.back();
-    return (last >= u'a' && last <= u'z') || (last >= u'A' && last <= u'Z') ||
-           (last >= u'0' && last <= u'9');
 }
 
 /// The colour whose place follows a word.
@@ -104,26 +66,6 @@ bool isInList(const QString& kept) {
 
 QString withoutListOfCell(const QString& kept) {
     return isInList(kept) ? kept.first(kept.indexOf(ListOfCell)) : kept;
-}
-
-void writeKept(RtfOutput& out, WriterTables& tables, QStringView kept) {
-    while (!kept.isEmpty()) {
-        const qsizetype at = kept.indexOf(PlaceStart);
-        const QStringView ahead = at < 0 ? kept : kept.first(at);
-        if (!ahead.isEmpty()) {
-            if (endsWord(ahead))
-                out.word(ahead.toLatin1());
-            else
-                out.structure(ahead.toLatin1());
-        }
-        if (at < 0)
-            return;
-        const qsizetype end = kept.indexOf(PlaceEnd, at);
-        if (end < at + 2)
-            return;
-        out.word({}, number(kept.sliced(at + 1, end - at - 1), tables));
-        kept = kept.sliced(end + 1);
-    }
 }
 
 QByteArray keptWithoutPlaces(QStringView kept) {

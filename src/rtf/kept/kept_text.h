@@ -7,8 +7,6 @@
 
 namespace orvalis::rtf {
 
-class RtfOutput;
-class WriterTables;
 struct ListLabel;
 
 /// RTF that is kept as it came, in one spelling: 7-bit, text in code page 1252 with \u for the
@@ -34,9 +32,6 @@ QString withoutListOfCell(const QString& kept);
 
 /// What stands between the number that a file gave something and what is kept of it.
 inline constexpr QChar NumberEnd(0x3);
-
-/// Writes what is kept, its fonts and colours by the numbers of these tables.
-void writeKept(RtfOutput& out, WriterTables& tables, QStringView kept);
 
 /// What is kept without the numbers that have a place in it.
 QByteArray keptWithoutPlaces(QStringView kept);

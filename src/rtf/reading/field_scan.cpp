@@ -7,6 +7,7 @@
 #include "rtf/words/tokenizer.h"
 
 #include <utility>
+#include <vector>
 
 namespace orvalis::rtf {
 
@@ -31,27 +32,32 @@ public:
 
 private:
     void take(const Token& token) {
-        m_scan.hasResult |= m_resultDepth != NoDepth && isCharacters(token);
+        m_scan.hasResult |= m_resultDepth != NoDepth && isCharacters(token) && shown();
         switch (token.kind) {
         case TokenKind::GroupStart:
-            ++m_depth;
+            m_shown.push_back(shown());
             return;
         case TokenKind::GroupEnd:
-            if (m_depth == m_resultDepth)
-                m_resultDepth = NoDepth;
-            if (m_depth == m_innerDepth)
-                m_innerDepth = NoDepth;
-            --m_depth;
+            leave();
             return;
         case TokenKind::Word:
             word(token);
             return;
         case TokenKind::Symbol:
-            m_scan.hasStructure |= token.byte == '\r' || token.byte == '\n';
+            m_scan.hasStructure |= isLineEnd(token) && shown();
             return;
         default:
             return;
         }
+    }
+
+    void leave() {
+        if (depth() == m_resultDepth)
+            m_resultDepth = NoDepth;
+        if (depth() == m_innerDepth)
+            m_innerDepth = NoDepth;
+        if (depth() > 0)
+            m_shown.pop_back();
     }
 
     void word(const Token& token) {
@@ -60,11 +66,15 @@ private:
             hidden(action);
             return;
         }
+        if (m_head.isHead() && (action == Action::UnicodePair || action == Action::UnicodeHalf))
+            m_shown.back() = action == Action::UnicodeHalf;
+        if (!shown())
+            return;
         m_scan.hasStructure |= endsOrShapes(action);
         switch (action) {
         case Action::Field:
-            if (m_depth > 0 && m_innerDepth == NoDepth && m_head.isHead())
-                m_innerDepth = m_depth;
+            if (depth() > 0 && m_innerDepth == NoDepth && m_head.isHead())
+                m_innerDepth = depth();
             return;
         case Action::PictureGroup:
         case Action::ShapeGroup:
@@ -72,7 +82,7 @@ private:
             return;
         case Action::PassThrough:
             if (token.bytes == "fldrslt" && m_resultDepth == NoDepth)
-                m_resultDepth = m_depth;
+                m_resultDepth = depth();
             return;
         default:
             return;
@@ -82,20 +92,24 @@ private:
     /// A group that is no text. The first instruction is that of the field, but for those of fields
     /// that it holds.
     void hidden(Action action) {
-        if (action == Action::FieldInstruction && m_depth > 0 && m_innerDepth == NoDepth &&
-            !std::exchange(m_hasInstruction, true))
+        if (action == Action::FieldInstruction && depth() > 0 && m_innerDepth == NoDepth &&
+            shown() && !std::exchange(m_hasInstruction, true))
             m_scan.instruction = m_tokenizer.groupAhead();
         m_tokenizer.skipGroup();
         m_head.leave();
-        --m_depth;
+        leave();
     }
+
+    int depth() const { return int(m_shown.size()) - 1; }
+    /// Of a pair for readers of Unicode and for others, its own half is.
+    bool shown() const { return m_shown.back(); }
 
     static constexpr int NoDepth = -1;
 
     Tokenizer m_tokenizer;
     FieldScan m_scan;
     GroupHead m_head{true};
-    int m_depth = 0;
+    std::vector<bool> m_shown{true}; ///< of the groups that are open
     int m_resultDepth = NoDepth;
     int m_innerDepth = NoDepth; ///< of the field in it that one stands in
     bool m_hasInstruction = false;

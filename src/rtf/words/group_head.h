@@ -47,7 +47,7 @@ public:
             return;
         case TokenKind::Symbol:
             if (isStar(token))
-                m_starred = m_atStart;
+                m_starred = m_starred || m_atStart;
             else if (isCharacters(token))
                 m_isOpen = m_starred = false;
             m_atStart = false;

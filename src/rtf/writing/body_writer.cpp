@@ -4,6 +4,7 @@
 
 #include "rtf/formats/stated.h"
 #include "rtf/kept/kept_text.h"
+#include "rtf/writing/kept_writer.h"
 #include "rtf/writing/look_words.h"
 #include "rtf/writing/picture_writer.h"
 

@@ -5,8 +5,8 @@
 #include "rtf/formats/formats.h"
 #include "rtf/kept/kept_parts.h"
 #include "rtf/pictures/picture.h"
+#include "rtf/words/rtf_output.h"
 #include "rtf/writing/paragraph_writer.h"
-#include "rtf/writing/rtf_output.h"
 #include "rtf/writing/writer_tables.h"
 
 #include <QByteArray>

@@ -3,6 +3,7 @@
 #include "rtf/kept/kept_shape.h"
 #include "rtf/kept/kept_text.h"
 #include "rtf/writing/body_writer.h"
+#include "rtf/writing/kept_writer.h"
 #include "rtf/writing/picture_writer.h"
 
 namespace orvalis::rtf {

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "rtf/kept/kept_row.h"
-#include "rtf/kept/kept_text.h"
 #include "rtf/writing/body_writer.h"
+#include "rtf/writing/kept_writer.h"
 
 namespace orvalis::rtf {
 

@@ -4,8 +4,8 @@
 
 #include "rtf/formats/list_formats.h"
 #include "rtf/formats/stated.h"
-#include "rtf/kept/kept_text.h"
-#include "rtf/writing/rtf_output.h"
+#include "rtf/words/rtf_output.h"
+#include "rtf/writing/kept_writer.h"
 #include "rtf/writing/writer_tables.h"
 
 namespace orvalis::rtf {

@@ -4,7 +4,8 @@
 
 #include "rtf/characters/font_table.h"
 #include "rtf/kept/kept_text.h"
-#include "rtf/writing/rtf_output.h"
+#include "rtf/words/rtf_output.h"
+#include "rtf/writing/kept_writer.h"
 
 #include <QSet>
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
-#include "rtf/writing/rtf_output.h"
+#include "rtf/words/rtf_output.h"
 
 #include "rtf/characters/code_page.h"
 

@@ -2,27 +2,22 @@
 // SPDX-License-Identifier: MIT
 #include "controls/broken_lines.h"
 
+#include "controls/range_formats.h"
+
 #include <QTextBlock>
-#include <QTextCharFormat>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextLayout>
 
 #include <algorithm>
-#include <vector>
 
 namespace orvalis {
 namespace {
 
-/// Words of a line: positions in their paragraph, and in the document.
+/// Words of a line, by their positions in the paragraph.
 struct Words {
     int start;
     int end;
-};
-
-struct Wider {
-    Words words;
-    qreal gap; ///< dots that each gap between them is wider
 };
 
 bool isBlank(QChar c) {
@@ -54,10 +49,10 @@ public:
         , m_text(block.text())
         , m_run(block.begin()) {}
 
-    void addTo(std::vector<Wider>& lines, size_t most) {
+    void addTo(std::vector<RangeFormat>& lines) {
         constexpr qreal Rounding = 1;
         const QTextLayout& layout = *m_block.layout();
-        for (int i = 0; i < layout.lineCount() && lines.size() < most; ++i) {
+        for (int i = 0; i < layout.lineCount() && lines.size() < MostRanges; ++i) {
             const QTextLine line = layout.lineAt(i);
             const int end = line.textStart() + line.textLength();
             if (line.textLength() == 0 || m_text[end - 1] != QChar::LineSeparator)
@@ -65,9 +60,12 @@ public:
             const Words words = wordsOf(m_text, line);
             const int gaps = gapsIn(words);
             const qreal room = line.x() + line.width() - line.cursorToX(words.end) - Rounding;
+            if (gaps <= 0 || room <= 0)
+                continue;
+            QTextCharFormat wider;
+            wider.setFontWordSpacing(room / gaps);
             const int start = m_block.position();
-            if (gaps > 0 && room > 0)
-                lines.push_back({{start + words.start, start + words.end}, room / gaps});
+            lines.push_back({start + words.start, start + words.end, wider});
         }
     }
 
@@ -96,23 +94,13 @@ private:
 } // namespace
 
 void fillBrokenLines(QTextDocument& document) {
-    constexpr size_t Most = 20'000; // more than a document of verses has
-    std::vector<Wider> lines;
+    std::vector<RangeFormat> lines;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         const bool isFull = block.blockFormat().alignment() & Qt::AlignJustify;
-        if (isFull && lines.size() < Most)
-            LineFiller(block).addTo(lines, Most);
+        if (isFull && lines.size() < MostRanges)
+            LineFiller(block).addTo(lines);
     }
-    QTextCursor edit(&document);
-    edit.beginEditBlock();
-    for (const auto& [words, gap] : lines) {
-        edit.setPosition(words.start);
-        edit.setPosition(words.end, QTextCursor::KeepAnchor);
-        QTextCharFormat wider;
-        wider.setFontWordSpacing(gap);
-        edit.mergeCharFormat(wider);
-    }
-    edit.endEditBlock();
+    setFormats(document, lines, &QTextCursor::mergeCharFormat);
 }
 
 } // namespace orvalis

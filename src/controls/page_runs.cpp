@@ -2,15 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "controls/page_runs.h"
 
+#include "controls/range_formats.h"
 #include "rtf/formats/format_properties.h"
 
 #include <QHash>
 #include <QTextBlock>
-#include <QTextCharFormat>
 #include <QTextCursor>
 #include <QTextDocument>
-
-#include <vector>
 
 namespace orvalis {
 namespace {
@@ -22,23 +20,16 @@ QTextCharFormat looksOf(QTextCharFormat format) {
     return format;
 }
 
-struct AlikeRun {
-    int start;
-    int end;
-    int parts;
-    QTextCharFormat looks;
-};
-
 } // namespace
 
 void joinAlikeRuns(QTextDocument& document) {
-    constexpr size_t Most = 20'000; // more than a document has of words that are parted
     QHash<int, QTextCharFormat> known;
-    std::vector<AlikeRun> runs;
+    std::vector<RangeFormat> runs;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        AlikeRun run{block.position(), block.position(), 0, {}};
+        RangeFormat run{block.position(), block.position(), {}};
+        int parts = 0;
         const auto keep = [&] {
-            if (run.parts > 1 && runs.size() < Most)
+            if (parts > 1 && runs.size() < MostRanges)
                 runs.push_back(run);
         };
         for (auto it = block.begin(); !it.atEnd(); ++it) {
@@ -48,24 +39,18 @@ void joinAlikeRuns(QTextDocument& document) {
             if (looks == known.constEnd())
                 looks = known.insert(index, looksOf(fragment.charFormat()));
             const int end = fragment.position() + fragment.length();
-            if (run.parts > 0 && run.looks == *looks && !looks->isImageFormat()) {
+            if (parts > 0 && run.format == *looks && !looks->isImageFormat()) {
                 run.end = end;
-                ++run.parts;
+                ++parts;
                 continue;
             }
             keep();
-            run = {fragment.position(), end, 1, *looks};
+            run = {fragment.position(), end, *looks};
+            parts = 1;
         }
         keep();
     }
-    QTextCursor edit(&document);
-    edit.beginEditBlock();
-    for (const AlikeRun& run : runs) {
-        edit.setPosition(run.start);
-        edit.setPosition(run.end, QTextCursor::KeepAnchor);
-        edit.setCharFormat(run.looks);
-    }
-    edit.endEditBlock();
+    setFormats(document, runs, &QTextCursor::setCharFormat);
 }
 
 } // namespace orvalis

@@ -29,6 +29,7 @@ only_in '\bsystem\(|\bpopen\(' 'nowhere'
 
 # What is kept and written of a file does not depend on how one is read.
 only_in '#include "rtf/reading/' 'rtf/(reading/|reader\.)'
+only_in '#include "rtf/writing/' 'rtf/(reading/|writing/|writer\.)'
 
 # One system's windows, bus and tools stand in that part of src/platform which CMake takes for it, and are
 # reached through platform.h alone.

@@ -42,6 +42,7 @@ void GroupHeadTest::theLastWordStandsInAHead_data() {
     row("behind a star", "{\\*\\pict", true, true);
     row("behind a star and blanks", "{\\* \r\n \\pict", true, true);
     row("behind two stars", "{\\*\\*\\pict", true, true);
+    row("behind a star and a mark that is no character", "{\\*\\|\\pict", true);
     row("behind blanks", "{ \r\n\t\\pict", true);
     row("behind blanks by their codes", "{\\'20\\'0a\\pict", true);
     row("behind a star that lost its backslash", "{* \\pict", true);

@@ -76,6 +76,8 @@ private slots:
     void aSectionEndsTheRowThatItBeginsIn();
     void aSignOfTwoUnitsToldByNumberStaysANumber();
     void theInstructionOfAFieldIsThatForReadersOfUnicode();
+    void aStarGoesWithTheWordThatItStandsFor();
+    void wordsAreNoneOfTheNameOfAProperty();
 };
 
 void OutOfPlaceTest::theFontOfTextThatNamesNoneIsSettledWithTheFirstText() {
@@ -321,6 +323,20 @@ void OutOfPlaceTest::theInstructionOfAFieldIsThatForReadersOfUnicode() {
     readFile(document, "{\\field{\\upr{\\*\\fldinst EQ (a)}{\\*\\ud{\\*\\fldinst EQ (b)}}}}");
     QCOMPARE(document.toPlainText(), QStringLiteral("(b)"));
     QVERIFY(writeRtf(document).contains("{\\*\\fldinst EQ (b)}"));
+}
+
+void OutOfPlaceTest::aStarGoesWithTheWordThatItStandsFor() {
+    QTextDocument document;
+    readFile(document, "a{\\shp{\\*\\f\\t{\\shptxt b}}}");
+    QVERIFY(writeRtf(document).contains("{\\shp{\\t{\\shptxt"));
+    readFile(document, "a{\\header{\\* \\cf9\\b c}}");
+    QVERIFY(writeRtf(document).contains("{\\header{\\*\\cf0\\b c}}"));
+}
+
+void OutOfPlaceTest::wordsAreNoneOfTheNameOfAProperty() {
+    QTextDocument document;
+    readFile(document, "a{\\shp{\\*\\shpinst{\\sp{\\sn pi\\b b}{\\sv{\\pict 0102}}}}}");
+    QVERIFY(document.toPlainText().contains(QChar::ObjectReplacementCharacter));
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, OutOfPlaceTest)

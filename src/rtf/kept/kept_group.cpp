@@ -157,7 +157,7 @@ void GroupKeeper::word(const Token& token) {
     const bool isColor = action == Action::Color || action == Action::Highlight ||
                          (action == Action::Keep && keptWord(*token.word).kind == KeptKind::Color);
     if (isColor) {
-        m_out.word("\\" + token.bytes.toByteArray());
+        m_out.word(spelled(token));
         const bool known = token.parameter >= 0 && token.parameter < m_tables.colors.size();
         m_out.word(keptColor(known ? m_tables.colors[token.parameter] : AutomaticColor).toUtf8());
     } else if (m_head.isStarred() || !isSessionMark(token.bytes)) {
@@ -166,11 +166,15 @@ void GroupKeeper::word(const Token& token) {
 }
 
 void GroupKeeper::copy(const Token& token) {
-    const QByteArray word = "\\" + token.bytes.toByteArray();
     if (token.hasParameter)
-        m_out.word(word, token.parameter);
+        m_out.word(spelled(token), token.parameter);
     else
-        m_out.word(word);
+        m_out.word(spelled(token));
+}
+
+/// A word, with the star that counts for it: where the word is left out the star is, too.
+QByteArray GroupKeeper::spelled(const Token& token) const {
+    return (m_head.isStarred() ? "\\*\\" : "\\") + token.bytes.toByteArray();
 }
 
 void GroupKeeper::selectFont(const Token& token) {
@@ -179,11 +183,11 @@ void GroupKeeper::selectFont(const Token& token) {
         token.hasParameter ? m_tables.fonts.find(token.parameter) : nullptr;
     // In a font that is missing some readers show what they show in none other.
     if (token.hasParameter && !font)
-        m_out.word("\\" + token.bytes.toByteArray(), NoSuchFont);
+        m_out.word(spelled(token), NoSuchFont);
     if (!font || font->family == NoName)
         return;
     const QString family = m_tables.names.familyAt(font->family);
-    m_out.word("\\" + token.bytes.toByteArray());
+    m_out.word(spelled(token));
     m_out.word(keptFont(family).toUtf8());
     if (token.word->action != Action::Font)
         return;
@@ -199,10 +203,6 @@ void GroupKeeper::plain() {
 
 void GroupKeeper::symbol(uchar character) {
     switch (character) {
-    case '*':
-        if (m_head.hasStar())
-            m_out.structure("\\*");
-        return;
     case '~':
     case '-':
     case '_':
@@ -240,6 +240,9 @@ void GroupKeeper::unicode(char16_t unit) {
 }
 
 void GroupKeeper::bytes(QByteArrayView run) {
+    // Blanks between the star and its word.
+    if (m_head.hasStar())
+        return;
     const auto skipped = std::min<qsizetype>(m_fallbackToSkip, run.size());
     m_fallbackToSkip -= int(skipped);
     run = run.sliced(skipped);

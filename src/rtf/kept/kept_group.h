@@ -56,6 +56,7 @@ private:
     void text(QStringView text);
     void plain();
     void copy(const Token& token);
+    QByteArray spelled(const Token& token) const;
 
     Tokenizer m_tokenizer;
     const FileTables& m_tables;

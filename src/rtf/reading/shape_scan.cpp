@@ -114,7 +114,7 @@ private:
             m_loose |= !m_head.isStarred();
     }
 
-    /// Any sign that is no plain letter stands for itself: no name that matters here has one.
+    /// Any character that is no plain letter is told as one: no name that matters here has one.
     void propertyName() {
         m_property.clear();
         Tokenizer name(m_tokenizer.groupAhead());
@@ -122,10 +122,12 @@ private:
         for (name.next(token); token.kind != TokenKind::End; name.next(token))
             if (token.kind == TokenKind::Text)
                 m_property += token.bytes;
-            else
-                m_property += token.kind == TokenKind::Byte   ? char(token.byte)
-                              : token.kind == TokenKind::Zero ? ' '
-                                                              : '\\';
+            else if (token.kind == TokenKind::Byte)
+                m_property += char(token.byte);
+            else if (token.kind == TokenKind::Zero)
+                m_property += ' ';
+            else if (isCharacters(token) || token.kind == TokenKind::GroupStart)
+                m_property += '\\';
         m_property = m_property.trimmed();
     }
 

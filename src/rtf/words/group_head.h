@@ -46,10 +46,8 @@ public:
                 m_isOpen && !isCharacters(token) && !(token.word && ownsGroup(token.word->action));
             return;
         case TokenKind::Symbol:
-            if (isStar(token))
-                m_starred = m_starred || m_atStart;
-            else if (isCharacters(token))
-                m_isOpen = m_starred = false;
+            m_starred = isStar(token) && (m_starred || m_atStart);
+            m_isOpen = m_isOpen && !isCharacters(token);
             m_atStart = false;
             return;
         case TokenKind::Binary:

@@ -71,6 +71,7 @@ private slots:
     void theFormForOldReadersIsLeftOut();
     void aBoxThatRunsIntoTheTextAheadIsDissolved();
     void whatComesBehindABoxLooksAsAheadOfIt();
+    void aParagraphGoesOnBehindEachOfItsBoxes();
     void anEmptyParagraphAtTheEndOfABoxStays();
     void aBoxAtTheStartOfASectionStandsInIt();
     void shapesInsideShapesCostNoMoreThanTheirBytes();
@@ -296,6 +297,15 @@ void ShapeTest::whatComesBehindABoxLooksAsAheadOfIt() {
     const QByteArray written = saved("\\b word" + box("\\i b") + "c\\par d\\par");
     QVERIFY2(written.contains("\\b\\f0\\fs24 deed"), written.constData());
     QVERIFY2(written.contains("\\b\\i\\f0 b}}}c\\par\\pard d\\par"), written.constData());
+}
+
+void ShapeTest::aParagraphGoesOnBehindEachOfItsBoxes() {
+    const QByteArray table = box("\\trowd\\cellx900\\pard\\intbl b\\cell\\row");
+    const QByteArray written =
+        saved("\\fi360 word" + table + "c" + box("\\pard d") + "e" + box("\\pard f") + "g\\par");
+    QVERIFY2(written.contains("}}}c{\\shp"), written.constData());
+    QVERIFY2(written.contains("}}}e{\\shp"), written.constData());
+    QVERIFY2(written.contains("}}}g\\par"), written.constData());
 }
 
 void ShapeTest::anEmptyParagraphAtTheEndOfABoxStays() {

@@ -123,7 +123,7 @@ void BodyWriter::closeBox() {
     m_paragraphEnds = m_around.paragraphEnds;
     m_paragraphIsEmpty = m_around.paragraphIsEmpty;
     m_rowEnds = false;
-    m_paragraphs.forget();
+    m_paragraphs.goBack(m_around.paragraph);
 }
 
 /// Writes a picture that is a shape.

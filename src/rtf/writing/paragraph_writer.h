@@ -20,6 +20,11 @@ public:
     void begin(const ParagraphFormat& paragraph, int number);
     /// The next paragraph tells its whole shape.
     void forget() { m_any = false; }
+    /// The end of a group brings back the paragraph that was begun last ahead of it.
+    void goBack(const ParagraphFormat& last) {
+        m_last = last;
+        forget();
+    }
     /// The paragraph that was begun last.
     const ParagraphFormat& last() const { return m_last; }
     /// What the paragraph states of indents, spacing and alignment, and its tab stops.

@@ -72,6 +72,7 @@ private slots:
     void aBoxThatRunsIntoTheTextAheadIsDissolved();
     void whatComesBehindABoxLooksAsAheadOfIt();
     void aParagraphGoesOnBehindEachOfItsBoxes();
+    void spaceThatIsToldBehindABoxAndTakenBackIsNone();
     void anEmptyParagraphAtTheEndOfABoxStays();
     void aBoxAtTheStartOfASectionStandsInIt();
     void shapesInsideShapesCostNoMoreThanTheirBytes();
@@ -306,6 +307,11 @@ void ShapeTest::aParagraphGoesOnBehindEachOfItsBoxes() {
     QVERIFY2(written.contains("}}}c{\\shp"), written.constData());
     QVERIFY2(written.contains("}}}e{\\shp"), written.constData());
     QVERIFY2(written.contains("}}}g\\par"), written.constData());
+}
+
+void ShapeTest::spaceThatIsToldBehindABoxAndTakenBackIsNone() {
+    const QByteArray written = saved("word" + box(" b") + "\\sa20 c\\sa0\\par");
+    QVERIFY2(written.contains("}}}c\\par"), written.constData());
 }
 
 void ShapeTest::anEmptyParagraphAtTheEndOfABoxStays() {

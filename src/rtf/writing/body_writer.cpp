@@ -51,7 +51,8 @@ void BodyWriter::beginParagraph(const ParagraphFormat& paragraph, int number) {
     if (!m_goesOn)
         m_paragraphs.begin(paragraph, number);
     m_mark = paragraph.mark;
-    m_afterBehind = paragraph.afterAhead != NoLength ? paragraph.after : NoLength;
+    const bool isToldLate = !m_goesOn && paragraph.afterAhead != NoLength;
+    m_afterBehind = isToldLate ? paragraph.after : NoLength;
     m_rowEnds = false;
     writeAnchors(paragraph.anchors);
 }

@@ -56,6 +56,7 @@ private slots:
     void anOverrideWithinAnotherStandsForNoList();
     void anOverrideNumberedNoughtGoesOnBehindOtherText();
     void aListThatIsToldAgainStaysAsItWas();
+    void anItemThatTellsItsNumberTooGoesOnWithItsList();
 };
 
 void ListLevelsTest::aLabelIsToldInThePageOfTheDocument() {
@@ -141,6 +142,13 @@ void ListLevelsTest::anOverrideWithinAnotherStandsForNoList() {
     QTextDocument document;
     readRtf(rtf, document);
     QCOMPARE(labelsOf(writeRtf(document)), QStringList{u"1."_s});
+}
+
+void ListLevelsTest::anItemThatTellsItsNumberTooGoesOnWithItsList() {
+    const QByteArray plain = "\\pard\\ls1\\ilvl0 item\\par";
+    const QByteArray told = "\\pard{\\*\\pn\\pnlvlbody\\pnstart1\\pndec}\\ls1\\ilvl0 item\\par";
+    QCOMPARE(labelsOf(Head + plain + told + plain + '}'), QStringList({u"1."_s, u"2."_s, u"3."_s}));
+    QCOMPARE(labelsOf(Head + told + plain + told + '}'), QStringList({u"1."_s, u"2."_s, u"3."_s}));
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, ListLevelsTest)

@@ -48,6 +48,7 @@ private slots:
     void wordsBetweenTheDataLeaveThePictureWhole();
     void picturesThatClaimTooMuchTogetherAreBoxes();
     void theSameBytesInTwoFormatsAreTwoPictures();
+    void whatAPictureClaimsWithoutTheBytesIsNoClaim();
 };
 
 void PictureBoxTest::whatCannotBeDrawnKeepsItsBytes_data() {
@@ -388,6 +389,16 @@ void PictureBoxTest::theSameBytesInTwoFormatsAreTwoPictures() {
     for (auto it = block.begin(); !it.atEnd(); ++it)
         boxes << it.fragment().charFormat().boolProperty(PictureIsBox);
     QCOMPARE(boxes, (QList<bool>{true, false}));
+}
+
+void PictureBoxTest::whatAPictureClaimsWithoutTheBytesIsNoClaim() {
+    const QByteArray claims = "{\\pict\\wbitmap0\\picw90000\\pich90000\\wbmbitspixel1 00}";
+    const QByteArray png = "{\\pict\\pngblip " + encoded(sampleImage(4, 3), "PNG").toHex() + '}';
+    QTextDocument document;
+    readRtf("{\\rtf1 " + claims + "\\par" + png + "\\par}", document);
+    const QTextCharFormat second = document.findBlockByNumber(1).begin().fragment().charFormat();
+    QVERIFY(second.isImageFormat());
+    QVERIFY(!second.hasProperty(PictureIsBox));
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, PictureBoxTest)

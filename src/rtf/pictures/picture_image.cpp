@@ -92,11 +92,10 @@ QSize pixelSize(const Picture& picture) {
         const QSize size = QImageReader(&buffer).size();
         return size.isEmpty() ? jpegSize(picture.bytes) : size;
     }
-    if (kind == PictureKind::DeviceDependent)
-        return {picture.width, picture.height};
+    const bool named = kind == PictureKind::DeviceDependent;
     const QByteArrayView dib = dibOfPicture(picture, kind);
-    const qint64 width = qint32(readU32(dib, 4));
-    const qint64 height = qAbs(qint64(qint32(readU32(dib, 8))));
+    const qint64 width = named ? picture.width : qint32(readU32(dib, 4));
+    const qint64 height = named ? picture.height : qAbs(qint64(qint32(readU32(dib, 8))));
     // A bitmap has a bit for each of its pixels at the least: what claims more is none.
     const bool plausible = width > 0 && height > 0 && width <= dib.size() * 8 / height;
     return plausible ? QSize(int(width), int(height)) : QSize();

@@ -16,16 +16,21 @@ constexpr int MostItems = 256;
 constexpr int MostNumbers = 2048;
 constexpr int MembersOfRealDocuments = 4 * MostNumbers;
 
+// Items of the tables that tell their number beside them go on with the others.
+ListSource sourceOf(const ListLabel& label) {
+    return label.hasTables() ? ListSource::Tables : label.source;
+}
+
 bool sameLabel(const ListLabel& a, const ListLabel& b) {
     return a.kind == b.kind && a.identity == b.identity && a.level == b.level &&
-           a.source == b.source && a.prefix == b.prefix && a.suffix == b.suffix && a.tab == b.tab &&
-           a.follow == b.follow && a.side == b.side && a.keptList == b.keptList &&
+           sourceOf(a) == sourceOf(b) && a.prefix == b.prefix && a.suffix == b.suffix &&
+           a.tab == b.tab && a.follow == b.follow && a.side == b.side && a.keptList == b.keptList &&
            a.keptOverride == b.keptOverride;
 }
 
 size_t labelKey(const ListLabel& label) {
-    return qHashMulti(0, int(label.kind), label.identity, label.level, label.prefix, label.suffix,
-                      label.tab, int(label.follow), int(label.side));
+    return qHashMulti(0, int(label.kind), label.identity, label.level, int(sourceOf(label)),
+                      label.prefix, label.suffix, label.tab, int(label.follow), int(label.side));
 }
 
 // Where items name no list, the indent keeps an inner list apart from an outer one.

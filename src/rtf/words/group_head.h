@@ -68,6 +68,8 @@ public:
 
 private:
     void bytes(QByteArrayView run) {
+        if (!m_isOpen)
+            return;
         const bool isBlank = run.trimmed().isEmpty();
         // Blanks between the star and the word are nothing.
         if (m_starred && isBlank)
@@ -75,7 +77,7 @@ private:
         m_atStart = m_starred = false;
         // Some files indent the heads of their groups, and some have lost the backslash of "\*":
         // the words behind are heads all the same.
-        m_isOpen = m_isOpen && (isBlank || (run.trimmed() == "*" && !m_hasBareStar));
+        m_isOpen = isBlank || (run.trimmed() == "*" && !m_hasBareStar);
         m_hasBareStar |= !isBlank;
     }
 

@@ -3,8 +3,8 @@
 #include "rtf/kept/kept_group.h"
 #include "rtf/kept/kept_text.h"
 #include "rtf/reading/interpreter.h"
-#include "rtf/writing/paragraph_writer.h"
 #include "rtf/words/rtf_output.h"
+#include "rtf/writing/paragraph_writer.h"
 #include "rtf/writing/writer_tables.h"
 
 #include <algorithm>

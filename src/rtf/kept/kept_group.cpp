@@ -134,7 +134,6 @@ void GroupKeeper::word(const Token& token) {
     case Action::DefaultTab:
     case Action::DefaultLanguage:
         // They tell of the file that this is copied from.
-        return;
     case Action::ListOverride:
     case Action::ListLevel:
     case Action::ListIdentity:

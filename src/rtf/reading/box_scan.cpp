@@ -41,15 +41,18 @@ private:
             m_scan.holdsMore |= tellsOfDocument(action) || (action == Action::ShapeInstruction &&
                                                             mayShow(m_tokenizer.groupAhead()));
             passGroup();
-        } else if (m_head.isHead() && action == Action::PictureGroup) {
+        } else if (m_head.isHead() && isFigure(token, action)) {
             show(); // perhaps, as only its reader can tell
-            passGroup();
-        } else if (m_head.isHead() && action == Action::ShapeGroup && token.word->value != 0) {
-            show(); // a formula, whose words are none of the text
             passGroup();
         } else {
             content(token, action);
         }
+    }
+
+    /// Whether a group holds a picture or a formula, whose words are none of the text.
+    static bool isFigure(const Token& head, Action action) {
+        return action == Action::PictureGroup ||
+               (action == Action::ShapeGroup && head.word->value != 0);
     }
 
     void content(const Token& token, Action action) {

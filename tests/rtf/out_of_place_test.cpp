@@ -76,6 +76,7 @@ private slots:
     void aSectionEndsTheRowThatItBeginsIn();
     void aSignOfTwoUnitsToldByNumberStaysANumber();
     void theInstructionOfAFieldIsThatForReadersOfUnicode();
+    void anInstructionInAFormulaIsNoneOfTheField();
     void aStarGoesWithTheWordThatItStandsFor();
     void wordsAreNoneOfTheNameOfAProperty();
 };
@@ -323,6 +324,12 @@ void OutOfPlaceTest::theInstructionOfAFieldIsThatForReadersOfUnicode() {
     readFile(document, "{\\field{\\upr{\\*\\fldinst EQ (a)}{\\*\\ud{\\*\\fldinst EQ (b)}}}}");
     QCOMPARE(document.toPlainText(), QStringLiteral("(b)"));
     QVERIFY(writeRtf(document).contains("{\\*\\fldinst EQ (b)}"));
+}
+
+void OutOfPlaceTest::anInstructionInAFormulaIsNoneOfTheField() {
+    QTextDocument document;
+    readFile(document, "{\\field{\\mmath\\fldinst EQ (a)}{\\*\\fldinst EQ (b)}}");
+    QCOMPARE(document.toPlainText(), QStringLiteral("EQ (a)(b)"));
 }
 
 void OutOfPlaceTest::aStarGoesWithTheWordThatItStandsFor() {

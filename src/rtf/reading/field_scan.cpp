@@ -79,6 +79,8 @@ private:
         case Action::PictureGroup:
         case Action::ShapeGroup:
             m_scan.hasResult |= m_resultDepth != NoDepth;
+            if (m_head.isHead() && token.word->value != 0)
+                passGroup(); // a formula, whose words are none of the text
             return;
         case Action::PassThrough:
             if (token.bytes == "fldrslt" && m_resultDepth == NoDepth)
@@ -95,6 +97,11 @@ private:
         if (action == Action::FieldInstruction && depth() > 0 && m_innerDepth == NoDepth &&
             shown() && !std::exchange(m_hasInstruction, true))
             m_scan.instruction = m_tokenizer.groupAhead();
+        passGroup();
+    }
+
+    /// Over the rest of the group.
+    void passGroup() {
         m_tokenizer.skipGroup();
         m_head.leave();
         leave();

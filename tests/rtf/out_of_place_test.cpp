@@ -77,6 +77,8 @@ private slots:
     void aSignOfTwoUnitsToldByNumberStaysANumber();
     void theInstructionOfAFieldIsThatForReadersOfUnicode();
     void anInstructionInAFormulaIsNoneOfTheField();
+    void anInstructionInAPictureIsNoneOfTheField();
+    void theFontOfALabelInABoxIsThatOfNoOther();
     void aStarGoesWithTheWordThatItStandsFor();
     void wordsAreNoneOfTheNameOfAProperty();
 };
@@ -330,6 +332,20 @@ void OutOfPlaceTest::anInstructionInAFormulaIsNoneOfTheField() {
     QTextDocument document;
     readFile(document, "{\\field{\\mmath\\fldinst EQ (a)}{\\*\\fldinst EQ (b)}}");
     QCOMPARE(document.toPlainText(), QStringLiteral("EQ (a)(b)"));
+}
+
+void OutOfPlaceTest::anInstructionInAPictureIsNoneOfTheField() {
+    QTextDocument document;
+    readFile(document, "{\\field{\\pict{\\fldinst EQ (a)}}{\\*\\fldinst EQ (b)}}");
+    QCOMPARE(document.toPlainText(), QStringLiteral("(b)"));
+}
+
+void OutOfPlaceTest::theFontOfALabelInABoxIsThatOfNoOther() {
+    QTextDocument document;
+    readFile(document, "{\\fonttbl{\\f3\\fcharset2 Symbol;}}{\\pntext p\\tab}a"
+                       "{\\shp{\\shptxt{\\pntext\\f3 q\\tab}b}}");
+    QCOMPARE(shownLabel(document.firstBlock()), QStringLiteral("p"));
+    QCOMPARE(shownLabel(document.findBlockByNumber(1)), QString(QChar(0x3b8)));
 }
 
 void OutOfPlaceTest::aStarGoesWithTheWordThatItStandsFor() {

@@ -41,18 +41,12 @@ private:
             m_scan.holdsMore |= tellsOfDocument(action) || (action == Action::ShapeInstruction &&
                                                             mayShow(m_tokenizer.groupAhead()));
             passGroup();
-        } else if (m_head.isHead() && isFigure(token, action)) {
+        } else if (m_head.isHead() && isFigure(token)) {
             show(); // perhaps, as only its reader can tell
             passGroup();
         } else {
             content(token, action);
         }
-    }
-
-    /// Whether a group holds a picture or a formula, whose words are none of the text.
-    static bool isFigure(const Token& head, Action action) {
-        return action == Action::PictureGroup ||
-               (action == Action::ShapeGroup && head.word->value != 0);
     }
 
     void content(const Token& token, Action action) {

@@ -79,8 +79,8 @@ private:
         case Action::PictureGroup:
         case Action::ShapeGroup:
             m_scan.hasResult |= m_resultDepth != NoDepth;
-            if (m_head.isHead() && token.word->value != 0)
-                passGroup(); // a formula, whose words are none of the text
+            if (m_head.isHead() && isFigure(token))
+                passGroup();
             return;
         case Action::PassThrough:
             if (token.bytes == "fldrslt" && m_resultDepth == NoDepth)

@@ -364,12 +364,16 @@ private:
     bool m_boxBegins = false;    ///< and ends what stands ahead of it in the paragraph
     bool m_boxBehind = false;    ///< text of the paragraph that it stands in
     bool m_boxEnded = false;     ///< and the paragraph has not
-    QString m_labelAround;
-    QString m_anchorsAround; ///< what comes with the paragraph that has the box ahead
+    QString m_anchorsAround;     ///< what comes with the paragraph that has the box ahead
     bool m_pageBreakAround = false;
-    QString m_label;
-    ListLabel m_labelList; ///< what was told where that stands, which a brace may end
-    SymbolFont m_labelSymbols = SymbolFont::None; ///< that the font is which it names
+    /// A label that is told by its text.
+    struct Label {
+        QString text;
+        ListLabel list; ///< what was told where it stands, which a brace may end
+        SymbolFont symbols = SymbolFont::None; ///< that the font is which it names
+    };
+    Label m_label;
+    Label m_labelAround; ///< the text box that is open
     ListKind m_lastListKind = ListKind::None;
     ParagraphFormat m_shaped;
 

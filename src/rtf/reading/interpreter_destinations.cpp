@@ -162,7 +162,7 @@ bool Interpreter::destinationWord(const Token& token) {
             skipGroup();
         return true;
     case Action::LabelText:
-        m_labelSymbols = SymbolFont::None;
+        m_label.symbols = SymbolFont::None;
         openInBody(Destination::Label);
         return true;
     case Action::ListLevelText:
@@ -233,8 +233,8 @@ void Interpreter::closeDestination(Destination destination) {
         m_numbering.suffix = cleanLabel(captured);
         return;
     case Destination::Label:
-        m_label = captured.trimmed();
-        m_labelList = m_state.paragraph.list;
+        m_label.text = captured.trimmed();
+        m_label.list = m_state.paragraph.list;
         return;
     default:
         return;

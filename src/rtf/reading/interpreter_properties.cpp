@@ -48,7 +48,7 @@ bool Interpreter::characterWord(const Token& token) {
             if (ofLists && isInList())
                 m_lists.setLevelFont(m_state.symbols);
             else if (m_state.destination == Destination::Label)
-                m_labelSymbols = m_state.symbols;
+                m_label.symbols = m_state.symbols;
         }
         return true;
     case Action::FontSize:

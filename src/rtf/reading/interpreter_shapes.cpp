@@ -96,9 +96,9 @@ void Interpreter::beginBox() {
         Group& around = m_groups[m_shapeDepth - 1];
         m_boxBegins = true;
         std::swap(m_state, around);
-        m_label.swap(m_labelAround);
+        std::swap(m_label, m_labelAround);
         paragraphEnd();
-        m_label.swap(m_labelAround);
+        std::swap(m_label, m_labelAround);
         std::swap(m_state, around);
         m_boxBegins = false;
     } else {

@@ -155,7 +155,7 @@ int Interpreter::cellShape(bool nested) {
     showStart(shaped.list);
     m_lastOfCell = shaped;
     shaped.stated = stated::by(shaped, stated::countedOfParagraphs(m_stylesKept, !list.isEmpty()));
-    m_label.clear();
+    m_label = {};
     if (m_cellShape != NothingKept && m_shapeOfCell == shaped)
         return m_cellShape;
     RtfOutput shape;

@@ -284,7 +284,7 @@ void Interpreter::paragraphEnd() {
     m_pageBreak = false;
     m_sectionBegins = false;
     m_anchorsAtStart.clear();
-    m_label.clear();
+    m_label = {};
     askForRoom();
 }
 
@@ -318,15 +318,15 @@ int Interpreter::lookOfParagraphMark() {
 
 /// A number that the label beside it shows too begins anew.
 void Interpreter::showStart(ListLabel& list) const {
-    list.showsStart |= list.source == ListSource::Numbering && !m_label.isEmpty() &&
-                       m_label == labelText(list, list.start).trimmed();
+    list.showsStart |= list.source == ListSource::Numbering && !m_label.text.isEmpty() &&
+                       m_label.text == labelText(list, list.start).trimmed();
 }
 
 const ParagraphFormat& Interpreter::shapedParagraph() {
     const bool ofRow = (m_rowEnds || m_state.inTable) && row() != NothingKept;
     const bool besideBox = m_boxIsOpen || m_boxEnded;
     const bool toldLate = !ofRow && m_inParagraph && m_state.paragraph.after != m_afterAhead;
-    if (!ofRow && m_state.listOverride == NoList && m_label.isEmpty() && !m_pageBreak &&
+    if (!ofRow && m_state.listOverride == NoList && m_label.text.isEmpty() && !m_pageBreak &&
         !m_sectionBegins && m_anchorsAtStart.isEmpty() && !besideBox && !toldLate) {
         m_lastListKind = m_state.paragraph.list.kind;
         return m_state.paragraph;
@@ -353,11 +353,11 @@ const ParagraphFormat& Interpreter::shapedParagraph() {
     ListLabel& list = m_shaped.list;
     if (m_state.listOverride != NoList && known)
         list = *known;
-    else if (list.kind == ListKind::None && !m_label.isEmpty() &&
-             m_labelList.kind != ListKind::None)
-        list = m_labelList;
+    else if (list.kind == ListKind::None && !m_label.text.isEmpty() &&
+             m_label.list.kind != ListKind::None)
+        list = m_label.list;
     else if (list.kind == ListKind::None && !ofRow) // cells end without a label
-        list = labelFromText(m_label, m_labelSymbols, m_lastListKind);
+        list = labelFromText(m_label.text, m_label.symbols, m_lastListKind);
     else if (m_state.listOverride != NoList && ofRow)
         list = {};
     else if (m_state.listOverride != NoList) // which goes before the other, though nobody knows it

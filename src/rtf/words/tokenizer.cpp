@@ -69,6 +69,12 @@ bool isStar(const Token& token) {
     return token.kind == TokenKind::Symbol && token.byte == '*';
 }
 
+bool isFigure(const Token& head) {
+    const Action action = head.word ? head.word->action : Action::Version;
+    return action == Action::PictureGroup ||
+           (action == Action::ShapeGroup && head.word->value != 0);
+}
+
 void Tokenizer::next(Token& token) {
     while (m_at != m_end) {
         const uchar c = *m_at;

@@ -40,6 +40,9 @@ bool isLineEnd(const Token& token);
 /// Whether the token marks a group that readers who do not know it pass over.
 bool isStar(const Token& token);
 
+/// Whether a group with this head holds a picture or a formula, whose words are none of the text.
+bool isFigure(const Token& head);
+
 /// Cuts bytes into tokens. It copies nothing, and never reads past the end.
 class Tokenizer {
 public:

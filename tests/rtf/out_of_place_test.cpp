@@ -79,6 +79,8 @@ private slots:
     void anInstructionInAFormulaIsNoneOfTheField();
     void anInstructionInAPictureIsNoneOfTheField();
     void theFontOfALabelInABoxIsThatOfNoOther();
+    void aNumberedLineOfCellsThatNoRowEndsIsText();
+    void aBoxEndsTheRowThatItStandsIn();
     void aStarGoesWithTheWordThatItStandsFor();
     void wordsAreNoneOfTheNameOfAProperty();
 };
@@ -346,6 +348,22 @@ void OutOfPlaceTest::theFontOfALabelInABoxIsThatOfNoOther() {
                        "{\\shp{\\shptxt{\\pntext\\f3 q\\tab}b}}");
     QCOMPARE(shownLabel(document.firstBlock()), QStringLiteral("p"));
     QCOMPARE(shownLabel(document.findBlockByNumber(1)), QString(QChar(0x3b8)));
+}
+
+void OutOfPlaceTest::aNumberedLineOfCellsThatNoRowEndsIsText() {
+    QTextDocument document;
+    readFile(document,
+             "\\trowd\\cellx9\\cellx99\\intbl a\\cell{\\*\\pn\\pnlvlbody\\pnstart1\\pndec}b\\par"
+             "\\pard c\\par");
+    QCOMPARE(shownLabel(document.firstBlock()), QStringLiteral("1"));
+    QVERIFY(!writeRtf(document).contains("\\row"));
+}
+
+void OutOfPlaceTest::aBoxEndsTheRowThatItStandsIn() {
+    QTextDocument document;
+    readFile(document,
+             "\\trowd\\cellx900\\intbl a\\par\\pard{\\shp{\\shptxt b}}\\intbl c\\cell\\row");
+    QVERIFY(writeRtf(document).contains("c\\cell\\row"));
 }
 
 void OutOfPlaceTest::aStarGoesWithTheWordThatItStandsFor() {

@@ -119,6 +119,7 @@ void Interpreter::endBox() {
     m_label = std::exchange(m_labelAround, {});
     if (!std::exchange(m_boxIsOpen, false))
         return;
+    m_rows.leave();
     m_boxEnded = m_boxBehind;
     m_anchorsAtStart.prepend(std::exchange(m_anchorsAround, {}));
     m_pageBreak |= std::exchange(m_pageBreakAround, false);

@@ -14,6 +14,7 @@ void RowScan::line(const ParagraphFormat& format, bool isEmpty) {
         m_row = format.row;
     m_told = m_told || !open;
     m_line = format;
+    m_cellsEndInLine = false;
     m_endsNested.push_back(false);
 }
 
@@ -37,6 +38,7 @@ void RowScan::deeperEnd(int nesting) {
 }
 
 void RowScan::cellsEnd(int nesting, int count) {
+    m_cellsEndInLine = true;
     deeperEnd(nesting + 1);
     if (nesting == 0)
         m_cells += count;
@@ -53,9 +55,15 @@ void RowScan::end() {
         m_nestedAreWhole = false;
 }
 
+/// Whether the last line has a number ahead of several cells, which a row that ends has not.
+bool RowScan::numbersCells() const {
+    return m_cellsEndInLine && m_line.list.kind != ListKind::None &&
+           m_line.list.source == ListSource::Numbering;
+}
+
 bool RowScan::isWhole() const {
     const QString kept = m_names.keptAt(m_row);
-    return !m_empty &&
+    return !m_empty && !numbersCells() &&
            m_cells == (m_told ? cellsOfRow(kept) : cellsOfRow(wordsOfRow(kept).toString()));
 }
 

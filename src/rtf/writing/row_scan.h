@@ -38,9 +38,11 @@ public:
 private:
     void endLine();
     void deeperEnd(int nesting);
+    bool numbersCells() const;
 
     const Names& m_names;
     ParagraphFormat m_line; ///< the last one
+    bool m_cellsEndInLine = false;
     int m_row = NothingKept;
     bool m_told = false; ///< what is kept of the row, not of a line in it
     bool m_empty = true;

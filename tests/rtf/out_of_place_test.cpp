@@ -81,6 +81,7 @@ private slots:
     void theFontOfALabelInABoxIsThatOfNoOther();
     void aNumberedLineOfCellsThatNoRowEndsIsText();
     void aBoxEndsTheRowThatItStandsIn();
+    void aWordThatNobodyKnowsEndsTheWaitForAFallback();
     void aStarGoesWithTheWordThatItStandsFor();
     void wordsAreNoneOfTheNameOfAProperty();
 };
@@ -364,6 +365,12 @@ void OutOfPlaceTest::aBoxEndsTheRowThatItStandsIn() {
     readFile(document,
              "\\trowd\\cellx900\\intbl a\\par\\pard{\\shp{\\shptxt b}}\\intbl c\\cell\\row");
     QVERIFY(writeRtf(document).contains("c\\cell\\row"));
+}
+
+void OutOfPlaceTest::aWordThatNobodyKnowsEndsTheWaitForAFallback() {
+    QTextDocument document;
+    readFile(document, "\\u8364\\unknown ab");
+    QCOMPARE(document.toPlainText(), QString(QChar(0x20ac)) + QStringLiteral("ab"));
 }
 
 void OutOfPlaceTest::aStarGoesWithTheWordThatItStandsFor() {

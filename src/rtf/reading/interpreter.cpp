@@ -182,6 +182,7 @@ void Interpreter::symbol(uchar symbol) {
 void Interpreter::word(const Token& token) {
     flushPending();
     if (!token.word) {
+        m_fallbackToSkip = 0;
         // Only the group of an unknown destination may be ignored; the outermost one is the file.
         if (m_head.isStarred() && (m_groups.size() > 1 || m_unstoredGroups > 0))
             skipGroup();

@@ -72,6 +72,7 @@ private slots:
     void aBoxThatRunsIntoTheTextAheadIsDissolved();
     void whatComesBehindABoxLooksAsAheadOfIt();
     void aParagraphGoesOnBehindEachOfItsBoxes();
+    void aFormulaBesideTheTextOfABoxIsToldOnce();
     void spaceThatIsToldBehindABoxAndTakenBackIsNone();
     void anEmptyParagraphAtTheEndOfABoxStays();
     void aBoxAtTheStartOfASectionStandsInIt();
@@ -298,6 +299,11 @@ void ShapeTest::whatComesBehindABoxLooksAsAheadOfIt() {
     const QByteArray written = saved("\\b word" + box("\\i b") + "c\\par d\\par");
     QVERIFY2(written.contains("\\b\\f0\\fs24 deed"), written.constData());
     QVERIFY2(written.contains("\\b\\i\\f0 b}}}c\\par\\pard d\\par"), written.constData());
+}
+
+void ShapeTest::aFormulaBesideTheTextOfABoxIsToldOnce() {
+    const QByteArray written = saved("word{\\shp{\\shptxt b}{\\mmath}}\\par");
+    QCOMPARE(written.count("mmath"), 1);
 }
 
 void ShapeTest::aParagraphGoesOnBehindEachOfItsBoxes() {

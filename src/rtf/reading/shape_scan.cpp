@@ -96,8 +96,10 @@ private:
         const bool fills =
             action == Action::PictureGroup && !shownHere() && m_property != ShownPicture;
         m_loose |= isDestination(action) && !fills && !m_groups.back().begins;
-        // What is told of the document, or anchored to its text, is none of the frame.
-        m_loose |= (tellsOfDocument(action) || action == Action::AnchorMark) && shownHere();
+        // What is told of the document, anchored to its text, or a formula is none of the frame.
+        const bool isFormula = action == Action::ShapeGroup && isFigure(token);
+        m_loose |=
+            (tellsOfDocument(action) || action == Action::AnchorMark || isFormula) && shownHere();
         if (hidesText(action) || (m_head.isStarred() && !token.word))
             m_groups.back().shown = false;
         if (action == Action::ShapeText)

@@ -105,7 +105,8 @@ private:
         for (QTextBlock block = first; block.isValid(); block = block.next()) {
             const ParagraphFormat& line = shape(block);
             if (scan.lines() > 0 && (line.row == NothingKept || line.rowBegins ||
-                                     line.section != NothingKept || line.box != begin.box))
+                                     line.section != NothingKept || line.box != begin.box ||
+                                     line.boxPlace != begin.boxPlace))
                 break;
             scan.line(line, block.length() == 1);
             for (auto it = block.begin(); !it.atEnd(); ++it)
@@ -142,20 +143,36 @@ private:
     // Positions are counted along the way: a block and a fragment find theirs only by a search.
     void paragraph(const QTextBlock& block, int position) {
         const ParagraphFormat& own = shape(block);
-        if (own.row == NothingKept) {
+        const bool isPicture = own.box != NothingKept && m_body.isPictureOfBox(own);
+        if (isPicture && pictureOfBox(block, position))
+            return;
+        if (own.row == NothingKept && !isPicture) {
             m_body.beginParagraph(own, number(block));
         } else {
             ParagraphFormat torn = own;
+            if (isPicture) // to which somebody has added text
+                torn.box = NothingKept;
             torn.row = NothingKept;
             leaveOutListOfCell(torn);
             torn.rowBegins = false;
             torn.nesting = 0;
             torn.nestedRow = NothingKept;
             // Some readers leave out what stands between the rows of a table.
-            torn.inTable = m_tornIsEmpty && m_body.hasRows(own.box);
+            torn.inTable = m_tornIsEmpty && m_body.hasRows(own);
             m_body.beginParagraph(torn, number(block));
         }
+        m_inCell = false;
         runs(block, position, [](const QTextFragment&, int) { return false; });
+    }
+
+    /// A picture that a shape has beside others, and that is all of the paragraph.
+    /// \returns whether it is that.
+    bool pictureOfBox(const QTextBlock& block, int position) {
+        if (block.length() != 2 || position < m_from || position >= m_to)
+            return false;
+        const QTextImageFormat image = block.begin().fragment().charFormat().toImageFormat();
+        return image.isValid() &&
+               m_body.pictureOfBox(shape(block), pictureOfFormat(m_document, image));
     }
 
     /// A line of the document that holds cells of a row.
@@ -193,6 +210,7 @@ private:
                 m_body.beginParagraph(own, own.list.kind == ListKind::None ? 0 : number(block));
         };
         beginCell(own.anchors);
+        m_inCell = true;
         runs(block, position, [&](const QTextFragment& run, int anchors) {
             if (!endsToldCells(run))
                 return false;
@@ -244,6 +262,7 @@ private:
         QHash<int, int> ends;
         bool empty = true;
         int at = 0;
+        Shown shown;
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             const QTextFragment fragment = it.fragment();
             const int length = fragment.length();
@@ -262,6 +281,17 @@ private:
             }
             if (takes(fragment, look.anchors))
                 continue;
+            if (look.field != shown.field) {
+                shown = shownFrom(it, at - length, text, position);
+                if (shown.stays)
+                    m_body.shown(look);
+            }
+            if (shown.stays && start < shown.end) {
+                m_body.writeAnchors(look.anchors);
+                continue;
+            }
+            if (shown.end > 0)
+                look.field = NothingKept;
             if (m_isImage[size_t(fragment.charFormatIndex())]) {
                 const Picture picture =
                     pictureOfFormat(m_document, fragment.charFormat().toImageFormat());
@@ -277,6 +307,29 @@ private:
         } else {
             m_body.endParagraph(nullptr);
         }
+    }
+
+    /// Runs that a field shows by itself, or a formula or a shape.
+    struct Shown {
+        int field = NothingKept;
+        int end = 0;        ///< in the paragraph; 0 if the field shows what is in it
+        bool stays = false; ///< they are what it shows
+    };
+
+    /// \param it the first run of a field.
+    /// \param at where it begins in the paragraph.
+    Shown shownFrom(QTextBlock::iterator it, int at, QStringView text, int position) {
+        Shown shown{lookOf(it.fragment()).field};
+        const std::optional<QString> all = m_body.shownBy(shown.field);
+        if (!all)
+            return shown;
+        shown.end = at;
+        for (; !it.atEnd() && lookOf(it.fragment()).field == shown.field; ++it)
+            shown.end += it.fragment().length();
+        const bool isWhole = position + at >= m_from && position + shown.end <= m_to;
+        shown.stays = isWhole && text.sliced(at, shown.end - at) == *all &&
+                      (m_inCell || !m_body.showsShape(shown.field));
+        return shown;
     }
 
     /// The text of a paragraph. That of a whole document is taken at once, which costs least.
@@ -376,6 +429,7 @@ private:
     std::vector<char> m_isImage;
     int m_rowsToldTo = 0; ///< torn rows reach up to there
     bool m_tornIsEmpty = false;
+    bool m_inCell = false; ///< the paragraph that is written
     int m_bareCell = NothingKept;
     std::optional<RowScan> m_row;                      ///< that is written
     std::unordered_map<int, ParagraphFormat> m_shapes; ///< by the index of the format

@@ -113,7 +113,7 @@ void ReaderTextTest::everyFormOfTextIsRead_data() {
         "{\\shp{\\*\\shpinst{\\sp{\\sn a}{\\sv b}}{\\shptxt one\\par}}}"
         "{\\shp{\\*\\shpinst{\\sp{\\sn pib}{\\sv {\\pict\\pngblip 00}}}{\\shptxt two}}}}"
         "{\\shprslt fallback}}",
-        QStringLiteral("one\n\ufffctwo"));
+        QStringLiteral("one\n\ufffc\ntwo\n"));
     row("entries of an index and of the contents that are not hidden",
         " a{\\xe index{\\v hidden}}b{\\tc contents\\tcl2}c{\\tcn more}",
         QStringLiteral("aindexbcontentscmore"));

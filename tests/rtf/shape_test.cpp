@@ -63,11 +63,23 @@ private slots:
     void aFormulaWhoseTextIsChangedIsText();
     void formulasInsideFormulasCostNoMoreThanTheirBytes();
     void aShapeThatShowsNothingStays();
-    void severalTextsOfOneShapeShowWithoutIt();
+    void textsAndPicturesOfOneShapeStayInIt_data();
+    void textsAndPicturesOfOneShapeStayInIt();
+    void aTextThatIsTakenOutOfAShapeLeavesTheOthersInIt();
+    void aPictureOfAShapeThatGetsTextIsAParagraph();
+    void aPictureWithoutBytesIsNoneOfAShape();
+    void aShapeOfManyTextsCostsNoMoreThanItsBytes();
     void looseTextOfAShapeIsShown();
     void aShapeKnowsWhichGroupsHideTheirText_data();
     void aShapeKnowsWhichGroupsHideTheirText();
-    void aBoxInACellIsTextOfTheCell();
+    void whatAShapeInACellShowsIsTextOfTheCell_data();
+    void whatAShapeInACellShowsIsTextOfTheCell();
+    void aShapeInACellStays_data();
+    void aShapeInACellStays();
+    void aShapeInACellWhoseTextIsChangedIsText();
+    void aShapeInACellStaysWhenItsTextLooksOtherwise();
+    void aShapeInACellThatEndsOneIsText();
+    void aShapeInARowThatIsNotWholeIsText();
     void theFormForOldReadersIsLeftOut();
     void aBoxThatRunsIntoTheTextAheadIsDissolved();
     void whatComesBehindABoxLooksAsAheadOfIt();
@@ -153,7 +165,7 @@ void ShapeTest::aPictureKeepsTheShapeThatItIs() {
     QVERIFY2(written.contains(png.last(4).toHex() + behind + "b\\par"), written.constData());
     // What no other program could read would cost it the whole shape.
     const QByteArray strange = saved(body("strange"));
-    QVERIFY2(strange.contains("deed{\\*\\orvpict{\\pict"), strange.constData());
+    QVERIFY2(strange.contains("{\\sn pib}{\\sv{\\*\\orvpict{\\pict"), strange.constData());
 }
 
 void ShapeTest::aPictureThatOnlyFillsAShapeIsNotShown() {
@@ -233,10 +245,103 @@ void ShapeTest::aShapeThatShowsNothingStays() {
     QVERIFY(withoutLineEnds(writeRtf(alone)).contains(line));
 }
 
-void ShapeTest::severalTextsOfOneShapeShowWithoutIt() {
-    const QByteArray group =
-        "{\\shpgrp{\\*\\shpinst{\\sp{\\sn a}{\\sv 1}}" + box(" b\\par") + box(" c") + "}}";
-    QCOMPARE(textOf("a" + group), QStringLiteral("ab\nc"));
+void ShapeTest::textsAndPicturesOfOneShapeStayInIt_data() {
+    QTest::addColumn<QByteArray>("parts");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QByteArray>("kept");
+    const QByteArray plain = "\\plain\\pard\\f0";
+    const QByteArray words =
+        "{\\sp{\\sn pib}{\\sv{\\pict\\pngblip\\picw4\\pich3\\picwgoal60\\pichgoal45";
+    const QByteArray png = pngBytes().toHex() + "}}}";
+    const QByteArray given = words + ' ' + png;
+    const QByteArray picture = words + png; // once its lines are joined
+    const auto row = [](const char* name, const QByteArray& parts, const char16_t* text,
+                        const QByteArray& kept) {
+        QTest::newRow(name) << parts << QString::fromUtf16(text) << kept;
+    };
+    row("two texts", "{\\shptxt b\\par}{\\shptxt\\b c}", u"b\nc",
+        "{\\shptxt" + plain + " b\\par}{\\shptxt\\plain\\pard\\b\\f0 c}");
+    row("texts of two paragraphs", "{\\shptxt b\\par c}{\\shptxt d\\par e\\par}", u"b\nc\nd\ne",
+        "{\\shptxt" + plain + " b\\parc}{\\shptxt" + plain + " d\\pare\\par}");
+    row("a picture ahead of a text", given + "{\\shptxt b}", u"\ufffc\nb",
+        picture + "{\\shptxt" + plain + " b}");
+    row("a picture between texts", "{\\shptxt b}" + given + "{\\shptxt c}", u"b\n\ufffc\nc",
+        "{\\shptxt" + plain + " b}" + picture + "{\\shptxt" + plain + " c}");
+    row("two pictures", given + given, u"\ufffc\n\ufffc", picture + picture);
+    row("a table in the second", "{\\shptxt b}{\\shptxt\\trowd\\cellx99\\intbl c\\cell\\row}",
+        u"b\nc",
+        "{\\shptxt" + plain + " b}{\\shptxt\\plain\\trowd\\cellx99\\pard\\intbl\\f0 c\\cell\\row}");
+}
+
+void ShapeTest::textsAndPicturesOfOneShapeStayInIt() {
+    QFETCH(QByteArray, parts);
+    QFETCH(QString, text);
+    QFETCH(QByteArray, kept);
+    const QByteArray ahead = "{\\shpgrp{\\*\\shpinst\\shpleft10{\\sp{\\sn groupLeft}{\\sv 1}}";
+    const QByteArray behind = "{\\sp{\\sn dx}{\\sv 1}}}}";
+    QCOMPARE(textOf("a" + ahead + parts + behind + "e\\par"), QStringLiteral("a\n%1\ne").arg(text));
+    const QByteArray within = saved("word" + ahead + parts + behind + "e\\par");
+    QVERIFY2(within.contains("deed" + ahead + kept + behind + "e\\par"), within.constData());
+    const QByteArray inFront = saved(ahead + parts + behind + "word\\par");
+    QVERIFY2(inFront.contains(ahead + kept + behind + "\\pard"), inFront.constData());
+}
+
+void ShapeTest::aTextThatIsTakenOutOfAShapeLeavesTheOthersInIt() {
+    const QByteArray body = "a{\\shpgrp{\\*\\shpinst{\\shptxt b\\par}{\\shptxt c\\par}"
+                            "{\\shptxt d\\par}}}e\\par";
+    const auto without = [&](int paragraph) {
+        QTextDocument document;
+        readRtf(file(body), document);
+        QTextCursor cursor(document.findBlockByNumber(paragraph));
+        cursor.movePosition(QTextCursor::NextBlock, QTextCursor::KeepAnchor);
+        cursor.removeSelectedText();
+        const QByteArray written = writeRtf(document);
+        QTextDocument again;
+        readRtf(written, again);
+        return again.toPlainText() == document.toPlainText() && writeRtf(again) == written
+                   ? withoutLineEnds(written)
+                   : QByteArray("is not stable");
+    };
+    const QByteArray plain = "{\\shptxt\\plain\\pard\\f0";
+    const QByteArray second = without(2);
+    QVERIFY2(second.contains("a{\\shpgrp{\\*\\shpinst" + plain + " b\\par}{\\shptxt}" + plain +
+                             " d\\par}}}e\\par"),
+             second.constData());
+    const QByteArray third = without(3);
+    QVERIFY2(third.contains("a{\\shpgrp{\\*\\shpinst" + plain + " b\\par}" + plain +
+                            " c\\par}{\\shptxt}}}e\\par"),
+             third.constData());
+}
+
+void ShapeTest::aPictureOfAShapeThatGetsTextIsAParagraph() {
+    QTextDocument document;
+    readRtf(file("a{\\shp{\\*\\shpinst{\\shptxt b}{\\sp{\\sn pib}{\\sv{\\pict\\pngblip " +
+                 pngBytes().toHex() + "}}}{\\shptxt c}}}d\\par"),
+            document);
+    QTextCursor cursor(document.findBlockByNumber(2));
+    cursor.insertText(QStringLiteral("more"));
+    const QByteArray written = writeRtf(document);
+    QTextDocument again;
+    readRtf(written, again);
+    QCOMPARE(again.toPlainText(), QStringLiteral("a\nb\nmore\ufffc\nc\nd"));
+    QVERIFY(!written.contains("{\\sv more"));
+}
+
+void ShapeTest::aPictureWithoutBytesIsNoneOfAShape() {
+    const QByteArray nothing = "{\\sp{\\sn pib}{\\sv{\\pict\\pngblip{\\*\\blipuid 89504e47}}}}";
+    QCOMPARE(textOf("a" + Frame + nothing + "}}b"), QStringLiteral("ab"));
+    const QByteArray written = saved("word" + Frame + nothing + "{\\shptxt c}}}\\par");
+    QVERIFY2(written.contains("deed" + Frame + nothing + "{\\shptxt"), written.constData());
+}
+
+void ShapeTest::aShapeOfManyTextsCostsNoMoreThanItsBytes() {
+    constexpr int Texts = 20000;
+    const QByteArray body =
+        "a{\\shp{\\*\\shpinst" + QByteArray("{\\shptxt b}").repeated(Texts) + "}}c\\par";
+    QTextDocument document;
+    QVERIFY(readRtf(file(body), document).ok());
+    QCOMPARE(document.blockCount(), Texts + 2);
+    QCOMPARE(writeRtf(document).count("\\shptxt"), Texts);
 }
 
 void ShapeTest::looseTextOfAShapeIsShown() {
@@ -274,9 +379,100 @@ void ShapeTest::aShapeKnowsWhichGroupsHideTheirText() {
     QCOMPARE(shown, !hidesText(word.word->action));
 }
 
-void ShapeTest::aBoxInACellIsTextOfTheCell() {
-    QCOMPARE(textOf("\\trowd\\cellx99\\cellx200\\intbl a" + box(" b") + "\\cell c\\cell\\row"),
-             QStringLiteral("ab\tc"));
+void ShapeTest::whatAShapeInACellShowsIsTextOfTheCell_data() {
+    QTest::addColumn<QByteArray>("shape");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char* name, const QByteArray& shape, const char16_t* text) {
+        QTest::newRow(name) << shape << QString::fromUtf16(text);
+    };
+    row("a paragraph", box(" b"), u"b");
+    row("a paragraph that ends", box(" b\\par"), u"b");
+    row("two paragraphs", box(" b\\par c\\par"), u"b\nc");
+    row("two texts", Frame + "{\\shptxt b}{\\shptxt c\\par}}}", u"b\nc");
+    row("a field", box("{\\field{\\*\\fldinst PAGE}{\\fldrslt 3}} b"), u"3 b");
+    row("a link", box("{\\field{\\*\\fldinst HYPERLINK \"http://a.b\"}{\\fldrslt b}}"), u"b");
+    row("a label", box("{\\listtext 1.\\tab}b"), u"b");
+    row("words of a row", box("\\trowd\\cellx50\\pard b"), u"b");
+    row("a note", box(" b{\\footnote c}d"), u"bd");
+    row("a picture",
+        box(" b{\\pict\\pngblip " + pngBytes().toHex() + "}{\\nonshppict{\\pict 00}}c"),
+        u"b\ufffcc");
+}
+
+void ShapeTest::whatAShapeInACellShowsIsTextOfTheCell() {
+    QFETCH(QByteArray, shape);
+    QFETCH(QString, text);
+    QCOMPARE(textOf("\\trowd\\cellx99\\cellx200\\intbl a" + shape + "d\\cell c\\cell\\row"),
+             QStringLiteral("a%1d\tc").arg(text));
+}
+
+void ShapeTest::aShapeInACellStays_data() {
+    whatAShapeInACellShowsIsTextOfTheCell_data();
+}
+
+void ShapeTest::aShapeInACellStays() {
+    QFETCH(QByteArray, shape);
+    const auto row = [&](const QByteArray& first) {
+        return "\\trowd\\cellx99\\cellx200\\intbl " + first + "{\\*\\bkmkstart x}e\\cell c" +
+               "\\cell\\row\\pard\\par";
+    };
+    const QByteArray behind = saved(row("word" + shape));
+    // The copy spells words without the blanks that they do not need.
+    QTextDocument alone;
+    readRtf(file(row(shape)), alone);
+    const QByteArray kept = withoutLineEnds(writeRtf(alone));
+    const qsizetype from = kept.indexOf("{\\shp{");
+    QVERIFY2(from > 0, kept.constData());
+    const QByteArray group = kept.sliced(from, kept.indexOf("{\\*\\bkmkstart") - from);
+    QCOMPARE(group.count('{'), shape.count('{'));
+    QVERIFY2(behind.contains("deed" + group + "{\\*\\bkmkstart x}e\\cell"), behind.constData());
+    const QByteArray inFront = saved(row(shape + "word"));
+    QVERIFY2(inFront.contains(group + "deed{\\*\\bkmkstart"), inFront.constData());
+}
+
+void ShapeTest::aShapeInACellWhoseTextIsChangedIsText() {
+    const QByteArray written =
+        saved("\\trowd\\cellx99\\intbl a" + box("\\b a word{\\footnote f}\\par\\b0 c") +
+              "\\cell\\row\\pard\\par");
+    QVERIFY2(written.contains("a\\b a deed\\b0\\line c\\cell") ||
+                 written.contains("a\\b a deed\\line\\b0 c\\cell"),
+             written.constData());
+    QVERIFY(!written.contains("\\shp"));
+}
+
+void ShapeTest::aShapeInACellStaysWhenItsTextLooksOtherwise() {
+    QTextDocument document;
+    readRtf(file("\\trowd\\cellx99\\intbl a" + box(" bcd") + "\\cell\\row"), document);
+    QTextCursor cursor(&document);
+    cursor.setPosition(2);
+    cursor.setPosition(3, QTextCursor::KeepAnchor);
+    QTextCharFormat bold;
+    bold.setFontWeight(QFont::Bold);
+    cursor.mergeCharFormat(bold);
+    QVERIFY(withoutLineEnds(writeRtf(document)).contains(box(" bcd")));
+    // A part of it is no shape.
+    QVERIFY(!writeRtf(document, 0, 3).contains("\\shp"));
+}
+
+void ShapeTest::aShapeInACellThatEndsOneIsText() {
+    const QByteArray body =
+        "\\trowd\\cellx99\\cellx200\\intbl a" + box(" b\\cell c") + "d\\cell\\row\\pard word\\par";
+    QCOMPARE(textOf(body), QStringLiteral("ab\tcd\nword"));
+    const QByteArray written = saved(body);
+    QVERIFY2(written.contains("ab\\cell"), written.constData());
+    QVERIFY(!written.contains("\\shp"));
+}
+
+void ShapeTest::aShapeInARowThatIsNotWholeIsText() {
+    QTextDocument document;
+    readRtf(file("\\trowd\\cellx99\\cellx200\\intbl a" + box(" b") + "\\cell c\\cell\\row"),
+            document);
+    QTextCursor cursor(&document);
+    cursor.setPosition(2);
+    cursor.deleteChar(); // the end of the first cell
+    const QByteArray written = writeRtf(document);
+    QVERIFY2(written.contains(" abc\\par"), written.constData());
+    QVERIFY(!written.contains("\\shp"));
 }
 
 void ShapeTest::theFormForOldReadersIsLeftOut() {

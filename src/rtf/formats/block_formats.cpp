@@ -81,6 +81,8 @@ void setKept(QTextBlockFormat& block, const ParagraphFormat& format, const Names
         block.setProperty(KeptOfSection, names.keptAt(format.section));
     if (format.box != NothingKept) {
         block.setProperty(KeptBox, names.keptAt(format.box));
+        if (format.boxPlace != 0)
+            block.setProperty(BoxPlace, format.boxPlace);
         if (format.boxAhead)
             block.setProperty(BoxAhead, true);
     }
@@ -166,6 +168,7 @@ ParagraphFormat paragraphFormat(const QTextBlockFormat& format, const QTextList*
     result.anchors = names.kept(format.stringProperty(KeptAtStart));
     result.section = names.kept(format.stringProperty(KeptOfSection));
     result.box = names.kept(format.stringProperty(KeptBox));
+    result.boxPlace = format.intProperty(BoxPlace);
     result.boxAhead = format.boolProperty(BoxAhead);
     result.goesOn = format.boolProperty(GoesOnBehindBox);
     if (list)

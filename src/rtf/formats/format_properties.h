@@ -89,8 +89,12 @@ enum FormatProperty : int {
     TableRow,
     /// Of a block format: the paragraph stands in a text box, and this is the frame of it, with a
     /// word where its text goes (QString, its number, U+0003 and the same). Adjoining paragraphs of
-    /// one value stand in one box.
+    /// one value stand in one box. A frame may hold several texts and pictures, each with a word
+    /// and paragraphs of its own.
     KeptBox,
+    /// Of such a format: which of these the paragraph is of (int, counted from 0, which it is when
+    /// absent).
+    BoxPlace,
     /// Of such a format: the box belongs to the paragraph behind it, not to the one ahead (bool).
     BoxAhead,
     /// Of a block format: the paragraph goes on that stands ahead of the box (bool). It means

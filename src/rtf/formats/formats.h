@@ -199,6 +199,7 @@ struct ParagraphFormat {
     bool inTable = false;        ///< the paragraph is written as one of a cell
     int section = NothingKept;   ///< what the file says of the section that begins here
     int box = NothingKept;       ///< the text box that the paragraph stands in
+    int boxPlace = 0;            ///< which of the places of its frame that is
     bool boxAhead = false;       ///< of the paragraph that follows, and not behind the text ahead
     bool goesOn = false;         ///< behind a box, with the paragraph that the box stands in
     int stated = 0;              ///< what the file says, as in CharFormat

@@ -106,7 +106,7 @@ void GroupKeeper::word(const Token& token) {
     const Action action = token.word ? token.word->action : Action::Version;
     switch (action) {
     case Action::Unicode:
-        unicode(char16_t(token.parameter));
+        unicode(toldCharacter(token));
         m_fallbackToSkip = m_state.unicodeSkip;
         return;
     case Action::UnicodeSkip:
@@ -227,15 +227,17 @@ void GroupKeeper::symbol(uchar character) {
     }
 }
 
-void GroupKeeper::unicode(char16_t unit) {
-    const bool isLost = unit <= u' ' || unit == QChar::ObjectReplacementCharacter;
-    if (isLost && m_head.isHead() && !m_state.picture) {
-        // Characters end the head of a group, however they are told. As a blank it would not.
-        m_out.word("\\u", qint16(unit));
-        m_out.structure("?");
-    } else {
-        text(QStringView(&unit, 1));
-    }
+void GroupKeeper::unicode(char32_t character) {
+    // Characters end the head of a group, however they are told. As a blank it would not.
+    if (character <= u' ' && m_head.isHead() && !m_state.picture)
+        number(char16_t(character));
+    else
+        text(QChar::fromUcs4(character));
+}
+
+void GroupKeeper::number(char16_t unit) {
+    m_out.word("\\u", qint16(unit));
+    m_out.structure("?");
 }
 
 void GroupKeeper::bytes(QByteArrayView run) {
@@ -290,13 +292,18 @@ void GroupKeeper::text(QStringView text) {
     // word that says what its group is, which it would not be as a word of its own.
     for (qsizetype at = 0; at < text.size();) {
         qsizetype end = at;
-        while (end < text.size() && text[end] >= u' ')
+        while (end < text.size() && text[end] >= u' ' &&
+               text[end] != QChar::ObjectReplacementCharacter)
             ++end;
         m_out.text(text.sliced(at, end - at));
-        if (end < text.size() && text[end] == u'\t')
+        if (end == text.size())
+            return;
+        if (text[end] == u'\t')
             m_out.structure("\t");
-        else if (end < text.size())
+        else if (text[end] < u' ')
             m_out.code(uchar(text[end].unicode()));
+        else // which no text of the document has
+            number(text[end].unicode());
         at = end + 1;
     }
 }

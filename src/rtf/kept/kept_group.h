@@ -47,7 +47,8 @@ private:
     void closeGroup();
     void word(const Token& token);
     void symbol(uchar character);
-    void unicode(char16_t unit);
+    void unicode(char32_t character);
+    void number(char16_t unit);
     void selectFont(const Token& token);
     void bytes(QByteArrayView run);
     void pictureBytes(QByteArrayView run);

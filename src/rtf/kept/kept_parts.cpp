@@ -45,6 +45,7 @@ void clearKept(QTextBlockFormat& format) {
     format.clearProperty(TableNesting);
     format.clearProperty(NestedRow);
     format.clearProperty(KeptBox);
+    format.clearProperty(BoxPlace);
     format.clearProperty(SpaceAfterAhead);
     format.clearProperty(GoesOnBehindBox);
     format.clearProperty(StatedOfParagraph);

@@ -9,10 +9,16 @@ namespace orvalis::rtf {
 /// A word that stands for what a shape shows in what is kept of it.
 inline constexpr QByteArrayView ShapePlace = "\\orvshown";
 
+/// What that word ends with where it stands for a picture among several things.
+inline constexpr QByteArrayView PictureMark = "picture";
+
+/// The group around a picture whose bytes nobody knows: other programs pass over it.
+inline constexpr QByteArrayView StrangePicture = "orvpict";
+
 /// A word that tells of a text in a box that it is one to show, though it has no character.
 inline constexpr QByteArrayView ShownEmpty = "\\orvempty";
 
-/// What the group of a formula begins with, as it is kept.
-inline constexpr const char* FormulaHead = "{\\mmath";
+/// What the groups of shapes and of groups of them begin with, as they are kept.
+inline constexpr const char* ShapeHead = "{\\shp";
 
 } // namespace orvalis::rtf

@@ -33,6 +33,9 @@ QString withoutListOfCell(const QString& kept);
 /// What stands between the number that a file gave something and what is kept of it.
 inline constexpr QChar NumberEnd(0x3);
 
+/// What the instruction of a field begins with, as it is kept.
+inline constexpr const char* InstructionHead = "{\\*\\fldinst";
+
 /// What is kept without the numbers that have a place in it.
 QByteArray keptWithoutPlaces(QStringView kept);
 

@@ -123,8 +123,7 @@ bool Interpreter::closeGroup() {
     const bool owned = m_state.ownsDestination;
     if (closed == Destination::Body)
         fieldEnds();
-    if (m_groups.size() == m_boxDepth)
-        endBox();
+    groupEnds();
     if (m_state.ownBox != NothingKept)
         shapeEnds();
     m_state = std::move(m_groups.back());
@@ -147,11 +146,18 @@ void Interpreter::skipGroup() {
     if (m_unstoredGroups > 0)
         --m_unstoredGroups;
     else {
-        if (m_groups.size() == m_boxDepth)
-            endBox();
+        groupEnds();
         m_state = std::move(m_groups.back());
         m_groups.pop_back();
     }
+}
+
+/// Of the shapes and boxes, whatever ends the group.
+void Interpreter::groupEnds() {
+    if (m_groups.size() == m_boxDepth)
+        endBox();
+    if (m_groups.size() == m_lineBox.depth)
+        endLineBox();
 }
 
 void Interpreter::symbol(uchar symbol) {
@@ -193,7 +199,7 @@ void Interpreter::word(const Token& token) {
         character(char16_t(token.word->value));
         return;
     case Action::Unicode:
-        unicode(token.parameter);
+        unicode(toldCharacter(token));
         return;
     default:
         break;
@@ -224,7 +230,8 @@ void Interpreter::tellProgress() {
 
 void Interpreter::finish() {
     flushPending();
-    if (m_state.ownsDestination && m_state.destination == Destination::Picture)
+    dissolveLineBox();
+    if (m_state.destination == Destination::Picture)
         deliverPicture();
     cellTabs(m_cellsEnded.size());
     flushText();

@@ -136,6 +136,7 @@ private:
     void openGroup();
     bool closeGroup();
     void skipGroup();
+    void groupEnds();
     void symbol(uchar character);
     void word(const Token& token);
     void fault(Fault fault);
@@ -146,9 +147,10 @@ private:
     // Text (interpreter_text.cpp)
     void bytes(QByteArrayView run);
     void decode(QByteArrayView run);
+    void decodeBy(const CodePage::Table& table, QByteArrayView run);
     void flushPending();
     void character(char16_t character);
-    void unicode(int code);
+    void unicode(char32_t code);
     void appendOfWord(char16_t character);
     void append(QStringView text);
     void appendSigns(QStringView text, SymbolFont font);
@@ -268,11 +270,20 @@ private:
     void keepShape(const Token& token);
     void keepFormula();
     void expectBox();
+    int placeHere() const;
+    void beginPictureOfBox();
+    void endPictureOfBox();
     void beginBox();
     void endBox();
     void shapeEnds();
     bool endsBehindBox();
     void shapeBesideBox();
+    void anchorFrame(QString frame);
+    void expectLineBox(const Token& token, const FileTables& tables);
+    void beginLineBox();
+    void endLineBox();
+    void dissolveLineBox();
+    void showPicture(const Picture& picture, const CharFormat& look);
 
     // Pictures (interpreter_pictures.cpp)
     bool pictureWord(const Token& token);
@@ -361,9 +372,33 @@ private:
     bool m_boxHasParagraph = false;
     bool m_boxIsOpen = false;    ///< and some of it has come
     int m_lastBox = NothingKept; ///< that has text
+    static constexpr int NoPlace = -1;
+    std::vector<qsizetype> m_places; ///< in the bytes: of what the last shape shows
+    int m_boxPlace = 0;              ///< of the text that came last
+    int m_picturePlace = NoPlace;    ///< of the picture that comes
+    Group m_aroundPicture;
     bool m_boxBegins = false;    ///< and ends what stands ahead of it in the paragraph
     bool m_boxBehind = false;    ///< text of the paragraph that it stands in
     bool m_boxEnded = false;     ///< and the paragraph has not
+    /// Text of a shape in a cell. A line of the document holds all cells of a row, so that it gets
+    /// no paragraphs of its own: it is a run that shows the shape, if text is all that it brings.
+    struct LineBox {
+        struct Piece {
+            QString text;
+            CharFormat look;
+            QString anchor; ///< in place of text
+            std::optional<Picture> picture = {}; ///< the same
+        };
+
+        QByteArrayView word; ///< of the shape's group
+        QByteArrayView content;
+        QString kept; ///< all of it
+        size_t depth = 0;
+        bool isOpen = false; ///< and some of it has come
+        int linesDue = 0;    ///< that have ended since the last text
+        std::vector<Piece> pieces;
+    };
+    LineBox m_lineBox;
     QString m_anchorsAround;     ///< what comes with the paragraph that has the box ahead
     bool m_pageBreakAround = false;
     /// A label that is told by its text.

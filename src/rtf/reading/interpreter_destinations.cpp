@@ -70,6 +70,7 @@ bool Interpreter::destinationWord(const Token& token) {
             return true;
         }
         m_picture = {};
+        m_picturePlace = placeHere();
         m_halfByte = -1;
         openDestination(Destination::Picture);
         return true;
@@ -79,7 +80,7 @@ bool Interpreter::destinationWord(const Token& token) {
     case Action::NoShapePicture:
         // The same picture once more, for readers that do not know the first form.
         if (std::exchange(m_shapePictureShown, false)) {
-            if (m_sink.wantsFallback())
+            if (!m_lineBox.isOpen && m_sink.wantsFallback())
                 m_state.fallback = true;
             else
                 skipGroup();

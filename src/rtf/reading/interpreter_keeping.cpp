@@ -176,6 +176,10 @@ void Interpreter::keepGroup(const Token& token) {
 }
 
 void Interpreter::placeGroup(KeptPlace place, const QString& group) {
+    const bool isAnchor = place == KeptPlace::Anchor || place == KeptPlace::StarredAnchor ||
+                          place == KeptPlace::StarredNote;
+    if (!isAnchor)
+        dissolveLineBox();
     switch (place) {
     case KeptPlace::Styles:
         if (m_headEnded)
@@ -205,6 +209,12 @@ void Interpreter::anchor(const QString& kept) {
     if (kept.isEmpty())
         return;
     textComes();
+    if (m_lineBox.depth > 0) {
+        beginLineBox();
+        flushText();
+        m_lineBox.pieces.push_back({{}, {}, kept});
+        return;
+    }
     // It may stand in the next cell, or between the last one and the end of the row.
     if (!m_cellsEnded.empty()) {
         m_anchorsBehindCell.push_back({kept, {}});
@@ -220,7 +230,7 @@ void Interpreter::anchor(const QString& kept) {
 
 /// The word that stands for the number of a note.
 void Interpreter::anchorMark(const QString& word) {
-    if (m_cellsEnded.empty())
+    if (m_cellsEnded.empty() || m_lineBox.depth > 0)
         anchor(lookOfMark() + u'\\' + word + u'}');
     else
         m_anchorsBehindCell.push_back({word, m_state.chars});
@@ -241,6 +251,7 @@ void Interpreter::anchorBehindCells() {
 
 /// What was gathered so far belongs to the section that ends; its words go on to hold.
 void Interpreter::sectionEnd() {
+    dissolveLineBox();
     textComes();
     const bool paragraphEndedItself = !m_inParagraph && !std::exchange(m_boxEnded, false);
     if (m_inParagraph)

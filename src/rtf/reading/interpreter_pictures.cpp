@@ -71,18 +71,32 @@ void Interpreter::deliverPicture() {
             m_sink.fallbackPicture(std::exchange(m_picture, {}));
         return;
     }
+    const bool ofBox = m_picturePlace != NoPlace;
+    if (ofBox)
+        beginPictureOfBox();
     textComes();
     m_shapePictureShown = true;
     m_fieldText.clear();
+    if (m_lineBox.depth > 0)
+        beginLineBox();
     cellTabs(m_cellsEnded.size());
     flushText();
     m_textFormat = m_state.chars;
     m_picture.frame = m_names.keptAt(m_state.frame);
-    if (m_sink.picture(m_picture, told(m_state.chars)))
+    if (m_lineBox.isOpen)
+        m_lineBox.pieces.push_back({{}, told(m_state.chars), {}, std::exchange(m_picture, {})});
+    else
+        showPicture(m_picture, told(m_state.chars));
+    m_picture = {};
+    if (ofBox)
+        endPictureOfBox();
+}
+
+void Interpreter::showPicture(const Picture& picture, const CharFormat& look) {
+    if (m_sink.picture(picture, look))
         beginText();
     else
         fault(Fault::BadPicture);
-    m_picture = {};
 }
 
 } // namespace orvalis::rtf

@@ -7,12 +7,13 @@
 #include "rtf/reading/interpreter.h"
 #include "rtf/reading/shape_scan.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace orvalis::rtf {
 
-/// The frame of a shape goes with the picture or the text that the shape shows; of one that shows
-/// neither the whole is kept at its place. Several in one are shown without what is around them.
+/// The frame of a shape goes with the picture or the texts that the shape shows; of one that shows
+/// neither the whole is kept at its place.
 void Interpreter::keepShape(const Token& token) {
     constexpr int MostShapes = 4096; // each makes a format of its own
     // The look ahead reads all that is in a shape, so those inside are not looked into again.
@@ -30,22 +31,29 @@ void Interpreter::keepShape(const Token& token) {
     }
     if (isFormula && inShape)
         return;
-    // A line of the document holds all cells of a row, and a field ends with its paragraph.
-    const bool asText =
-        m_state.inTable || m_state.chars.link != NoName || m_state.chars.field != NothingKept;
-    if (scan.shows == ShapeScan::Shows::More || (scan.shows == ShapeScan::Shows::Text && asText))
-        return;
+    const bool isBox = scan.shows == ShapeScan::Shows::Boxes;
+    // A field ends with its paragraph.
+    const bool inField = m_state.chars.link != NoName || m_state.chars.field != NothingKept;
     const FileTables tables = fileTables(m_fonts.usual());
+    if (m_state.inTable && !inField && isBox) {
+        expectLineBox(token, tables);
+        return;
+    }
+    if (scan.shows == ShapeScan::Shows::More || (isBox && inField))
+        return;
     const QString kept = GroupKeeper(scan.frame, tables).kept("{\\", token.bytes, m_keptLeft);
     m_keptLeft -= kept.size();
     if (kept.isEmpty())
         return;
     if (isPicture) {
         m_state.frame = m_names.kept(kept);
-    } else if (scan.shows == ShapeScan::Shows::Text) {
+    } else if (isBox) {
         m_state.box = m_names.kept(QString::number(m_shapes) + NumberEnd + kept);
         m_state.ownBox = m_state.box;
         m_shapeDepth = m_groups.size();
+        m_places = scan.places;
+        for (qsizetype& place : m_places)
+            place += m_tokenizer.position();
     } else {
         skipGroup();
         anchor(kept);
@@ -79,11 +87,44 @@ void Interpreter::keepFormula() {
 
 /// The group of a box's text has begun.
 void Interpreter::expectBox() {
-    if (m_state.box == NothingKept || m_state.box == m_lastBox || m_boxDepth > 0)
+    // Each text of a shape has lines of its own.
+    if (m_lineBox.isOpen)
+        m_lineBox.linesDue = std::max(m_lineBox.linesDue, 1);
+    const int place = placeHere();
+    if (place == NoPlace)
         return;
+    m_boxPlace = place;
     m_boxDepth = m_groups.size();
     m_labelAround = std::exchange(m_label, {});
     m_rowsAround = std::exchange(m_rows, {});
+}
+
+/// Which of the things that the shape shows the group is whose word has come.
+int Interpreter::placeHere() const {
+    if (m_state.box == NothingKept || m_boxDepth > 0)
+        return NoPlace;
+    const auto found = std::find(m_places.begin(), m_places.end(), m_tokenizer.position());
+    return found == m_places.end() ? NoPlace : int(found - m_places.begin());
+}
+
+/// A picture beside the texts of a shape is a paragraph of its own, of no shape.
+void Interpreter::beginPictureOfBox() {
+    m_aroundPicture = m_state;
+    m_state.paragraph = {};
+    m_state.keptOfParagraph = 0;
+    m_state.inTable = false;
+    m_state.listOverride = NoList;
+    m_boxPlace = m_picturePlace;
+    m_boxDepth = m_groups.size();
+    m_labelAround = std::exchange(m_label, {});
+    m_rowsAround = std::exchange(m_rows, {});
+}
+
+void Interpreter::endPictureOfBox() {
+    m_picturePlace = NoPlace;
+    m_boxHasParagraph |= !m_inParagraph; // the picture could not be shown
+    endBox();
+    m_state = m_aroundPicture;
 }
 
 /// The text of a box has paragraphs of its own: that of the document which the box stands in is
@@ -129,9 +170,15 @@ void Interpreter::endBox() {
 void Interpreter::shapeEnds() {
     if (m_state.ownBox == m_lastBox)
         return;
-    QString kept = m_names.keptAt(m_state.ownBox);
-    kept.remove(QLatin1StringView(ShapePlace.data(), ShapePlace.size()));
-    anchor(kept.sliced(kept.indexOf(NumberEnd) + 1));
+    const QString kept = m_names.keptAt(m_state.ownBox);
+    anchorFrame(kept.sliced(kept.indexOf(NumberEnd) + 1));
+}
+
+void Interpreter::anchorFrame(QString frame) {
+    const QLatin1StringView place(ShapePlace.data(), ShapePlace.size());
+    frame.remove(place + QLatin1StringView(PictureMark.data(), PictureMark.size()));
+    frame.remove(place);
+    anchor(frame);
 }
 
 /// Whether a paragraph ends with nothing behind the box that stands in it: what stands ahead of the
@@ -144,6 +191,7 @@ bool Interpreter::endsBehindBox() {
 void Interpreter::shapeBesideBox() {
     if (m_boxIsOpen) {
         m_shaped.box = m_state.box;
+        m_shaped.boxPlace = m_boxPlace;
         m_shaped.boxAhead = !m_boxBehind;
         return;
     }
@@ -152,6 +200,74 @@ void Interpreter::shapeBesideBox() {
     m_shaped.pageWord = PageWord::OfParagraph;
     m_shaped.list = {};
     m_shaped.mark = NothingKept;
+}
+
+void Interpreter::expectLineBox(const Token& token, const FileTables& tables) {
+    const QByteArrayView content = m_tokenizer.groupAhead();
+    const QString kept = GroupKeeper(content, tables).kept("{\\", token.bytes, m_keptLeft);
+    m_keptLeft -= kept.size();
+    if (kept.isEmpty())
+        return;
+    m_lineBox = {token.bytes, content, kept, m_groups.size(), false, 0, {}};
+    m_labelAround = std::exchange(m_label, {});
+    m_rowsAround = std::exchange(m_rows, {});
+}
+
+/// What stands ahead of it is told by now.
+void Interpreter::beginLineBox() {
+    if (m_lineBox.isOpen)
+        return;
+    const size_t depth = std::exchange(m_lineBox.depth, 0);
+    cellTabs(m_cellsEnded.size());
+    flushText();
+    m_lineBox.depth = depth;
+    m_lineBox.isOpen = true;
+}
+
+void Interpreter::endLineBox() {
+    flushText();
+    const LineBox box = std::exchange(m_lineBox, {});
+    m_rows = std::exchange(m_rowsAround, {});
+    m_label = std::exchange(m_labelAround, {});
+    QString text;
+    for (const LineBox::Piece& piece : box.pieces)
+        text += piece.picture ? QString(QChar::ObjectReplacementCharacter) : piece.text;
+    if (text.isEmpty()) {
+        const QByteArray frame = scanShape(box.content).frame;
+        const FileTables tables = fileTables(m_fonts.usual());
+        anchorFrame(GroupKeeper(frame, tables).kept("{\\", box.word, m_keptLeft));
+        return;
+    }
+    m_keptLeft -= text.size();
+    const int field =
+        m_names.kept(QString::number(m_shapes) + NumberEnd + box.kept + NumberEnd + text);
+    for (LineBox::Piece piece : box.pieces) {
+        piece.look.field = field;
+        piece.look.link = NoName;
+        if (piece.picture)
+            showPicture(*piece.picture, piece.look);
+        else if (piece.anchor.isEmpty())
+            m_sink.text(piece.text, piece.look);
+    }
+}
+
+/// Something is in it that a run cannot show: it is text of the cell.
+void Interpreter::dissolveLineBox() {
+    if (m_lineBox.depth == 0)
+        return;
+    if (m_lineBox.isOpen && m_lineBox.linesDue > 0)
+        prepareText();
+    flushText();
+    const LineBox box = std::exchange(m_lineBox, {});
+    m_rows = std::exchange(m_rowsAround, {});
+    m_label = std::exchange(m_labelAround, {});
+    for (const LineBox::Piece& piece : box.pieces)
+        if (piece.picture)
+            showPicture(*piece.picture, piece.look);
+        else if (piece.anchor.isEmpty())
+            m_sink.text(piece.text, piece.look);
+        else
+            anchor(piece.anchor);
 }
 
 } // namespace orvalis::rtf

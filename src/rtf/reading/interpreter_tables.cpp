@@ -66,6 +66,7 @@ bool Interpreter::rowWord(const Token& token) {
         return true;
     case Action::CellEnd:
         if (shows()) {
+            dissolveLineBox();
             textComes();
             if (!m_anchorsBehindCell.empty())
                 cellTabs(m_cellsEnded.size());
@@ -195,6 +196,7 @@ void Interpreter::cellTabs(size_t count) {
 }
 
 void Interpreter::rowEnd(bool outermost) {
+    dissolveLineBox();
     // A box has no row ahead of its text.
     if (m_boxDepth > 0 && !m_boxIsOpen)
         return;
@@ -218,7 +220,9 @@ void Interpreter::rowParagraphEnd(bool kept, bool outermost) {
     // What stands between the last cell and the row's end shapes no text.
     const ParagraphFormat behind = m_state.paragraph;
     const int list = m_state.listOverride;
+    const bool inTable = m_state.inTable;
     if (kept) {
+        m_state.inTable = true;
         m_state.paragraph = m_lastOfCell;
         if (m_cellsOfLine > 1) // whose label would stand ahead of all of them
             m_state.paragraph.list = {};
@@ -227,6 +231,7 @@ void Interpreter::rowParagraphEnd(bool kept, bool outermost) {
     paragraphEnd();
     m_state.paragraph = behind;
     m_state.listOverride = list;
+    m_state.inTable = inTable;
 }
 
 /// What shapes a row of a table in a cell stands in a group of its own, in which the row ends.

@@ -33,6 +33,11 @@ char16_t harmless(char16_t character) {
     }
 }
 
+/// Whether a character is told by a word, whatever the font.
+bool hasWord(char32_t code) {
+    return code == u'\t' || (code <= 0xffff && harmless(char16_t(code)) == QChar::LineSeparator);
+}
+
 } // namespace
 
 bool Interpreter::captures() const {
@@ -117,7 +122,23 @@ void Interpreter::decode(QByteArrayView run) {
         table = CodePage::forNumber(Latin1Page).table();
     }
     // A font that is named as one of signs, but is none by its page, has letters at its bytes.
-    m_state.chars.byNumber = toBody && m_state.symbols != SymbolFont::None;
+    if (!toBody || m_state.symbols == SymbolFont::None) {
+        decodeBy(*table, run);
+        return;
+    }
+    while (!run.isEmpty()) {
+        const qsizetype tab = run.indexOf('\t');
+        const QByteArrayView piece = run.first(tab < 0 ? run.size() : std::max<qsizetype>(tab, 1));
+        const bool isOne = piece.size() == 1;
+        m_state.chars.byNumber = !isOne || !hasWord((*table)[uchar(piece.front())]);
+        decodeBy(*table, piece);
+        m_state.chars.byNumber = false;
+        run = run.sliced(piece.size());
+    }
+}
+
+void Interpreter::decodeBy(const CodePage::Table& table, QByteArrayView run) {
+    const bool toBody = m_state.destination == Destination::Body;
     if (toBody)
         prepareText();
     else
@@ -130,11 +151,10 @@ void Interpreter::decode(QByteArrayView run) {
     target.resize(start + run.size());
     QChar* out = target.data() + start;
     for (const char byte : run)
-        *out++ = QChar((*table)[uchar(byte)]);
+        *out++ = QChar(table[uchar(byte)]);
     // A byte below a blank can only stand alone, written as a code.
     if (run.size() == 1 && toBody)
         out[-1] = QChar(harmless(out[-1].unicode()));
-    m_state.chars.byNumber = false;
 }
 
 void Interpreter::flushPending() {
@@ -189,12 +209,8 @@ void Interpreter::appendOfWord(char16_t character) {
     m_state.chars.byNumber = false;
 }
 
-void Interpreter::unicode(int code) {
+void Interpreter::unicode(char32_t code) {
     m_fallbackToSkip = m_state.unicodeSkip;
-    if (code < 0)
-        code += 0x10000;
-    if (code < 0 || code > int(QChar::LastValidCodePoint))
-        code = QChar::ReplacementCharacter;
     if (m_state.destination == Destination::FontTable) {
         m_fonts.addName(char16_t(code));
         return;
@@ -202,18 +218,18 @@ void Interpreter::unicode(int code) {
     if (!shows() && !captures())
         return;
     const bool toBody = m_state.destination == Destination::Body;
-    const bool isHigh = QChar::isHighSurrogate(char32_t(code));
-    const bool isLow = QChar::isLowSurrogate(char32_t(code));
+    const bool isHigh = QChar::isHighSurrogate(code);
+    const bool isLow = QChar::isLowSurrogate(code);
     const char16_t high = isLow ? std::exchange(m_highSurrogate, char16_t(0)) : char16_t(0);
     if (isLow && !high)
         code = QChar::ReplacementCharacter;
     const char16_t pair[] = {high, char16_t(code)};
-    m_state.chars.byNumber =
-        toBody && m_state.symbols != SymbolFont::None && privateByte(char32_t(code)) == 0;
+    m_state.chars.byNumber = toBody && m_state.symbols != SymbolFont::None &&
+                             privateByte(code) == 0 && !hasWord(code);
     if (high)
         append(QStringView(pair, 2));
     else if (!isHigh)
-        append(QChar::fromUcs4(char32_t(code)));
+        append(QChar::fromUcs4(code));
     else if (toBody)
         prepareText();
     m_state.chars.byNumber = false;
@@ -225,12 +241,15 @@ void Interpreter::prepareText() {
     boxComes();
     m_fieldText.clear();
     endHalfCharacter();
+    if (m_lineBox.depth > 0)
+        beginLineBox();
     if (!m_cellsEnded.empty())
         cellTabs(m_cellsEnded.size());
     if (!m_text.isEmpty() && (m_textFormat != m_state.chars || m_text.size() > LongestRun))
         flushText();
     if (m_text.isEmpty())
         m_textFormat = m_state.chars;
+    m_text.append(QString(std::exchange(m_lineBox.linesDue, 0), QChar::LineSeparator));
     beginText();
 }
 
@@ -260,11 +279,18 @@ void Interpreter::giveText() {
     if (m_text.isEmpty())
         return;
     m_textFormat.stated |= known();
-    m_sink.text(m_text, m_textFormat);
+    if (m_lineBox.isOpen)
+        m_lineBox.pieces.push_back({m_text, m_textFormat, {}});
+    else
+        m_sink.text(m_text, m_textFormat);
     m_text.resize(0);
 }
 
 void Interpreter::paragraphEnd() {
+    if (m_lineBox.depth > 0) {
+        ++m_lineBox.linesDue;
+        return;
+    }
     textComes();
     if (endsBehindBox())
         return;
@@ -289,6 +315,7 @@ void Interpreter::paragraphEnd() {
 }
 
 void Interpreter::pageEnd() {
+    dissolveLineBox();
     textComes();
     const bool between = m_inParagraph || std::exchange(m_boxEnded, false);
     if (m_inParagraph)

@@ -6,8 +6,10 @@
 #include "rtf/reading/box_scan.h"
 #include "rtf/words/control_words.h"
 #include "rtf/words/group_head.h"
+#include "rtf/words/hex.h"
 #include "rtf/words/tokenizer.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace orvalis::rtf {
@@ -15,6 +17,31 @@ namespace orvalis::rtf {
 namespace {
 
 constexpr QByteArrayView ShownPicture = "pib"; // the property that holds it
+
+/// Whether a picture has bytes, and not only words about them.
+bool hasBytes(QByteArrayView picture) {
+    Tokenizer tokenizer(picture);
+    GroupHead head(false);
+    int digits = 0;
+    Token token;
+    for (tokenizer.next(token); token.kind != TokenKind::End; tokenizer.next(token)) {
+        head.take(token);
+        const bool isWord = token.kind == TokenKind::Word;
+        const Action action = isWord && token.word ? token.word->action : Action::Version;
+        if (isWord && (token.word ? head.isHead() && ownsGroup(action) : head.isStarred())) {
+            tokenizer.skipGroup();
+            head.leave();
+        }
+        if (token.kind == TokenKind::Text)
+            digits += int(std::count_if(token.bytes.begin(), token.bytes.end(),
+                                        [](char c) { return hexDigit(uchar(c)) >= 0; }));
+        else if (token.kind == TokenKind::Byte)
+            digits += hexDigit(uchar(token.byte)) >= 0 ? 1 : 0;
+        if (digits > 1 || (token.kind == TokenKind::Binary && !token.bytes.isEmpty()))
+            return true;
+    }
+    return false;
+}
 
 /// Reads the tokens of a shape once, with an eye on its texts and pictures.
 class ShapeTokens {
@@ -39,6 +66,8 @@ public:
             scan.frame = m_content.toByteArray();
         else if (scan.shows != ShapeScan::Shows::More)
             scan.frame = frame();
+        for (const Shown& shown : m_shown)
+            scan.places.push_back(shown.place);
         return scan;
     }
 
@@ -47,10 +76,23 @@ private:
         qsizetype from = 0;
         qsizetype to = 0;
     };
+    struct Shown {
+        Piece piece;
+        qsizetype place = 0;       ///< behind the word of its group
+        bool isText = false;
+        bool endsParagraph = false; ///< with its end
+    };
+    /// What text is where a group stands.
+    enum class Within {
+        Document,
+        Shape, ///< which it tells of
+        Value, ///< of the property that is the picture of a shape
+    };
     struct Group {
         qsizetype start = 0;
-        bool shown = true;
+        Within within = Within::Document;
         bool begins = true; ///< its first word is still to come
+        bool wraps = false; ///< a picture that only this program looks into
     };
 
     void take(const Token& token) {
@@ -59,7 +101,7 @@ private:
         case TokenKind::GroupStart:
             if (!m_groups.empty())
                 m_groups.back().begins = false;
-            m_groups.push_back({m_tokenizer.position() - 1, shownHere()});
+            m_groups.push_back({m_tokenizer.position() - 1, here()});
             return;
         case TokenKind::GroupEnd:
             if (!m_groups.empty())
@@ -88,36 +130,51 @@ private:
     }
 
     /// Whether text that stands here is text of the document.
-    bool shownHere() const { return m_groups.empty() || m_groups.back().shown; }
+    bool shownHere() const { return here() == Within::Document; }
+    Within here() const { return m_groups.empty() ? Within::Document : m_groups.back().within; }
 
     void word(const Token& token) {
         const Action action = token.word ? token.word->action : Action::Version;
         // In the middle of a group it would not be read as what it says.
-        const bool fills =
-            action == Action::PictureGroup && !shownHere() && m_property != ShownPicture;
-        m_loose |= isDestination(action) && !fills && !m_groups.back().begins;
+        m_loose |= isDestination(action) && !m_groups.back().begins;
         // What is told of the document, anchored to its text, or a formula is none of the frame.
         const bool isFormula = action == Action::ShapeGroup && isFigure(token);
         m_loose |=
             (tellsOfDocument(action) || action == Action::AnchorMark || isFormula) && shownHere();
-        if (hidesText(action) || (m_head.isStarred() && !token.word))
-            m_groups.back().shown = false;
-        if (action == Action::ShapeText)
-            text();
-        else if (action == Action::ShapePropertyName)
-            propertyName();
-        else if (token.bytes == "mmathPict")
+        m_groups.back().wraps = token.bytes == StrangePicture;
+        m_loose |= token.bytes == "moMath" && !m_head.isStarred();
+        if (token.bytes == "mmathPict")
             m_property = ShownPicture.toByteArray();
+        else if (token.bytes == "shprslt" || action == Action::NoShapePicture)
+            m_others.push_back(pass());
+        else if (m_head.isStarred() && !token.word)
+            passGroup();
         else if (action == Action::PictureGroup)
             picture();
-        else if (token.bytes == "shprslt" || action == Action::NoShapePicture)
-            pass(m_others);
-        else if (token.bytes == "moMath")
-            m_loose |= !m_head.isStarred();
+        else if (action == Action::ShapeText)
+            text();
+        else if (hidesText(action))
+            ofShape(action);
+    }
+
+    /// What tells of the shape; other groups show nothing there, whatever is in them.
+    void ofShape(Action action) {
+        Within& within = m_groups.back().within;
+        const bool isValue = action == Action::ShapePropertyValue;
+        if (action == Action::ShapePropertyName)
+            propertyName();
+        if (action == Action::ShapeInstruction && within != Within::Value)
+            within = Within::Shape;
+        else if (isValue && within == Within::Shape && m_property == ShownPicture)
+            within = Within::Value;
+        else if (action != Action::ShapeProperty || within != Within::Shape)
+            passGroup();
     }
 
     /// Any character that is no plain letter is told as one: no name that matters here has one.
     void propertyName() {
+        if (here() != Within::Shape)
+            return;
         m_property.clear();
         Tokenizer name(m_tokenizer.groupAhead());
         Token token;
@@ -135,15 +192,23 @@ private:
 
     /// What fills an area, say, is none that the text shows.
     void picture() {
-        const bool fills = m_property != ShownPicture;
-        m_loose |= fills && shownHere();
-        if (!fills)
-            pass(m_pictures);
+        m_loose |= shownHere() && m_property != ShownPicture;
+        if (here() == Within::Shape) {
+            passGroup();
+            return;
+        }
+        const qsizetype place = m_tokenizer.position();
+        const bool shows = hasBytes(m_tokenizer.groupAhead());
+        Piece piece = pass();
+        if (shows && !m_groups.empty() && m_groups.back().wraps)
+            piece = pass();
+        if (shows)
+            m_shown.push_back({piece, place});
     }
 
-    void pass(std::vector<Piece>& pieces) {
+    Piece pass() {
         const qsizetype from = m_groups.back().start;
-        pieces.push_back({from, passGroup()});
+        return {from, passGroup()};
     }
 
     /// Over the rest of the group.
@@ -158,45 +223,51 @@ private:
     void text() {
         const qsizetype from = m_tokenizer.position();
         const BoxScan box = scanBox(m_tokenizer.groupAhead());
+        const bool isRead = here() != Within::Value;
         passGroup();
+        if (!isRead)
+            return;
         m_loose |= !box.shows && box.holdsMore;
         m_hasEmptyText |= !box.shows && box.shapes;
         if (!box.shows)
             return;
-        m_texts.push_back({from, from + box.end});
-        m_textEnds = box.endsParagraph;
+        m_shown.push_back({{from, from + box.end}, from, true, box.endsParagraph});
     }
 
     ShapeScan::Shows shows() const {
-        const size_t shown = m_texts.size() + m_pictures.size();
         // A box without text would add its paragraph to what is shown.
-        if (m_loose || shown > 1 || (m_hasEmptyText && shown > 0) || m_content.contains(ShapePlace))
+        if (m_loose || (m_hasEmptyText && !m_shown.empty()) || m_content.contains(ShapePlace))
             return ShapeScan::Shows::More;
-        if (shown == 0)
+        if (m_shown.empty())
             return ShapeScan::Shows::Nothing;
-        return m_texts.empty() ? ShapeScan::Shows::Picture : ShapeScan::Shows::Text;
+        return isPicture() ? ShapeScan::Shows::Picture : ShapeScan::Shows::Boxes;
     }
 
+    bool isPicture() const { return m_shown.size() == 1 && !m_shown.front().isText; }
+
     QByteArray frame() const {
-        const bool isText = !m_texts.empty();
-        const Piece& shown = isText ? m_texts.front() : m_pictures.front();
         QByteArray frame;
         qsizetype at = 0;
+        auto other = m_others.begin();
         const auto copyTo = [&](qsizetype end) {
-            for (const Piece& other : m_others) {
-                if (other.from < at || other.to > end)
+            for (; other != m_others.end() && other->to <= end; ++other) {
+                if (other->from < at)
                     continue;
-                frame += m_content.sliced(at, other.from - at);
-                at = other.to;
+                frame += m_content.sliced(at, other->from - at);
+                at = other->to;
             }
             frame += m_content.sliced(at, end - at);
         };
-        copyTo(shown.from);
-        frame += ShapePlace;
-        if (isText && m_textEnds)
-            frame += "\\par";
-        frame += ' ';
-        at = shown.to;
+        for (const Shown& shown : m_shown) {
+            copyTo(shown.piece.from);
+            frame += ShapePlace;
+            if (!shown.isText && !isPicture())
+                frame += PictureMark;
+            if (shown.endsParagraph)
+                frame += "\\par";
+            frame += ' ';
+            at = shown.piece.to;
+        }
         copyTo(m_content.size());
         return frame;
     }
@@ -205,11 +276,9 @@ private:
     Tokenizer m_tokenizer;
     GroupHead m_head{false};
     std::vector<Group> m_groups; ///< that are open
-    std::vector<Piece> m_texts;
-    std::vector<Piece> m_pictures;
+    std::vector<Shown> m_shown;
     std::vector<Piece> m_others; ///< forms for readers that know no shapes
     QByteArray m_property;       ///< the name of the one that came last
-    bool m_textEnds = false;     ///< with a paragraph
     bool m_hasEmptyText = false; ///< one that has paragraphs all the same
     bool m_loose = false;        ///< something shows that stands in no part of a shape
 };

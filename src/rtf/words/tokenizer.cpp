@@ -4,6 +4,8 @@
 
 #include "rtf/words/hex.h"
 
+#include <QChar>
+
 #include <algorithm>
 #include <array>
 #include <limits>
@@ -67,6 +69,12 @@ bool isLineEnd(const Token& token) {
 
 bool isStar(const Token& token) {
     return token.kind == TokenKind::Symbol && token.byte == '*';
+}
+
+char32_t toldCharacter(const Token& word) {
+    const int code = word.parameter < 0 ? word.parameter + 0x10000 : word.parameter;
+    const bool isNone = code < 0 || code > int(QChar::LastValidCodePoint);
+    return isNone ? char32_t(QChar::ReplacementCharacter) : char32_t(code);
 }
 
 bool isFigure(const Token& head) {

@@ -40,6 +40,10 @@ bool isLineEnd(const Token& token);
 /// Whether the token marks a group that readers who do not know it pass over.
 bool isStar(const Token& token);
 
+/// The character that a word for one by its number tells. Above 32767 they are told below zero, by
+/// old rules; a number that stands for none tells the sign for that.
+char32_t toldCharacter(const Token& word);
+
 /// Whether a group with this head holds a picture or a formula, whose words are none of the text.
 bool isFigure(const Token& head);
 

@@ -40,7 +40,7 @@ void BodyWriter::expect(const KeptParts& parts, const QString& shownFamily) {
 void BodyWriter::beginParagraph(const ParagraphFormat& paragraph, int number) {
     const bool breaks = paragraph.pageBreakBefore && paragraph.pageWord != PageWord::OfParagraph;
     const bool between = breaks && paragraph.pageWord == PageWord::Between && m_paragraphEnds &&
-                         paragraph.section == NothingKept && paragraph.box == m_box;
+                         paragraph.section == NothingKept && isInBox(paragraph);
     if (between) {
         tellAfter();
         m_paragraphEnds = false;
@@ -197,8 +197,6 @@ void BodyWriter::breakPage() {
 }
 
 void BodyWriter::text(QStringView text, const CharFormat& format) {
-    if (format.field != m_format.field && fieldShows(text, format))
-        return;
     m_paragraphIsEmpty = m_boxIsEmpty = false;
     change(format);
     breakPage();

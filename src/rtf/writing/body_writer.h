@@ -13,6 +13,8 @@
 #include <QStringView>
 
 #include <array>
+#include <optional>
+#include <vector>
 
 namespace orvalis::rtf {
 
@@ -41,6 +43,20 @@ public:
     void beginParagraph(const ParagraphFormat& paragraph, int number);
     void text(QStringView text, const CharFormat& format);
     void picture(const Picture& picture, const CharFormat& format);
+    /// Whether a shape has a picture where the paragraph stands, and no text.
+    bool isPictureOfBox(const ParagraphFormat& paragraph) const;
+    /// A paragraph that is such a picture.
+    /// \returns false where the shape has one by now, or cannot have this one.
+    bool pictureOfBox(const ParagraphFormat& paragraph, const Picture& picture);
+    /// What a field shows by itself, or a formula or a shape; nothing of a field that shows the
+    /// text in it.
+    std::optional<QString> shownBy(int field);
+    /// Whether it is a shape, which shows in a line in cells alone.
+    bool showsShape(int field);
+    /// Such a field, in place of the text.
+    void shown(const CharFormat& format);
+    /// What is kept behind a character.
+    void writeAnchors(int anchors);
     /// \param mark format of the paragraph's mark, null for that of its last run.
     void endParagraph(const CharFormat* mark);
 
@@ -55,8 +71,9 @@ public:
     /// The last cell of a row of a table in a cell, and the row.
     void endNestedRow(int row);
     void endRow();
-    /// Whether a row has been begun in a text box, or outside of all with NothingKept.
-    bool hasRows(int box) const;
+    /// Whether a row has been begun in the text that a paragraph will be of, that of a box or the
+    /// document's own.
+    bool hasRows(const ParagraphFormat& paragraph) const;
 
     /// The whole file.
     /// \param defaultTab twips between default tab stops.
@@ -64,22 +81,37 @@ public:
     QByteArray file(int defaultTab, const KeptParts& parts);
 
 private:
+    /// What is kept of a shape, ahead of all that it shows and behind each.
+    struct Place {
+        bool isPicture = false;
+        QString behind;
+    };
+    struct Frame {
+        QString ahead;
+        std::vector<Place> places;
+    };
+
     /// What is kept, on lines of its own.
     QByteArray kept(QStringView text);
     void endLastParagraph();
     void tellAfter();
     void breakPage();
-    bool fieldShows(QStringView text, const CharFormat& format);
     bool cellsEnd(QStringView text, const CharFormat& format);
+    bool isInBox(const ParagraphFormat& paragraph) const;
     bool goToBox(const ParagraphFormat& paragraph);
     void openBox(const ParagraphFormat& paragraph);
+    static Frame frameOf(const QString& kept);
+    void passPlaces(int next);
+    void enterBox(int place);
+    bool isAtPicture() const;
+    static bool isPicture(const Frame& frame, int place);
+    void leaveText();
     void closeBox();
     bool goesOn(const ParagraphFormat& paragraph) const;
     bool framed(const Picture& picture);
     void goTo(const ParagraphFormat& paragraph);
     void beginSection(QStringView text);
     void change(const CharFormat& format);
-    void writeAnchors(int anchors);
     bool changeKept(int kept);
     void changeHighlight(const CharFormat& format);
     void changeStrike(const CharFormat& format);
@@ -116,6 +148,8 @@ private:
     };
     Around m_around;
     int m_box = NothingKept;      ///< that is open
+    int m_boxPlace = 0;           ///< what is written of it, of all that its shape shows
+    Frame m_frame;
     bool m_boxIsEmpty = true;     ///< it has no characters by themselves
     bool m_goesOn = false;        ///< the paragraph, which stands behind a box in it
     int m_unnamedFamily = NoName; ///< of text that names no font

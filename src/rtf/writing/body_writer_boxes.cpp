@@ -8,34 +8,42 @@
 
 namespace orvalis::rtf {
 
-namespace {
-
-struct Frame {
-    QString ahead;
-    QString behind;
-};
-
-/// What is kept of a shape, ahead of what it shows and behind that.
-Frame frameOf(const QString& kept) {
-    const QLatin1StringView place(ShapePlace.data(), ShapePlace.size());
-    const qsizetype start = kept.indexOf(NumberEnd) + 1;
-    const qsizetype at = kept.indexOf(place, start);
-    if (at < 0)
-        return {};
-    // Ahead of text the word ends with a blank of its own.
-    const qsizetype end = at + place.size();
-    const bool isDelimited = end < kept.size() && kept[end] == u' ';
-    return {kept.sliced(start, at - start), kept.sliced(end + (isDelimited ? 1 : 0))};
+BodyWriter::Frame BodyWriter::frameOf(const QString& kept) {
+    const QLatin1StringView word(ShapePlace.data(), ShapePlace.size());
+    const QLatin1StringView ofPicture(PictureMark.data(), PictureMark.size());
+    Frame frame;
+    qsizetype at = kept.indexOf(NumberEnd) + 1;
+    qsizetype next = kept.indexOf(word, at);
+    frame.ahead = next < 0 ? QString() : kept.sliced(at, next - at);
+    while (next >= 0) {
+        at = next + word.size();
+        const bool isPicture = QStringView(kept).sliced(at).startsWith(ofPicture);
+        at += isPicture ? ofPicture.size() : 0;
+        // Ahead of text the word ends with a blank of its own.
+        at += at < kept.size() && kept[at] == u' ' ? 1 : 0;
+        next = kept.indexOf(word, at);
+        frame.places.push_back({isPicture, kept.sliced(at, (next < 0 ? kept.size() : next) - at)});
+    }
+    return frame;
 }
 
-} // namespace
+bool BodyWriter::isInBox(const ParagraphFormat& paragraph) const {
+    return paragraph.box == m_box && (m_box == NothingKept || paragraph.boxPlace == m_boxPlace);
+}
 
 /// Leaves the text box that is open and enters the one that the paragraph stands in.
 /// \returns whether all is told that stands ahead of the paragraph.
 bool BodyWriter::goToBox(const ParagraphFormat& paragraph) {
-    if (paragraph.box == m_box)
+    if (isInBox(paragraph))
         return false;
     const bool leaves = m_box != NothingKept;
+    const bool isFurther = leaves && paragraph.box == m_box && paragraph.boxPlace > m_boxPlace &&
+                           paragraph.boxPlace < int(m_frame.places.size());
+    if (isFurther) {
+        leaveText();
+        enterBox(paragraph.boxPlace);
+        return true;
+    }
     if (leaves)
         closeBox();
     if (paragraph.box != NothingKept) {
@@ -66,10 +74,10 @@ bool BodyWriter::goesOn(const ParagraphFormat& paragraph) const {
     return shapeOf(paragraph) == shapeOf(m_around.paragraph);
 }
 
-bool BodyWriter::hasRows(int box) const {
-    if (box == m_box)
+bool BodyWriter::hasRows(const ParagraphFormat& paragraph) const {
+    if (isInBox(paragraph))
         return m_anyRow;
-    return box == NothingKept && m_around.anyRow;
+    return paragraph.box == NothingKept && m_around.anyRow;
 }
 
 void BodyWriter::openBox(const ParagraphFormat& paragraph) {
@@ -89,31 +97,62 @@ void BodyWriter::openBox(const ParagraphFormat& paragraph) {
         {m_format, m_stated}, m_paragraphs.last(),           m_mark, m_afterBehind, m_paragraphEnds,
         m_paragraphIsEmpty,   std::exchange(m_anyRow, false)};
     m_box = paragraph.box;
+    m_frame = frameOf(names().keptAt(m_box));
+    writeKept(m_out, m_tables, m_frame.ahead);
+    m_boxPlace = -1;
+    enterBox(std::clamp(paragraph.boxPlace, 0, std::max(int(m_frame.places.size()) - 1, 0)));
+}
+
+/// Passes over what somebody has taken out of the frame, and the ends of its paragraphs with it.
+void BodyWriter::passPlaces(int next) {
+    while (++m_boxPlace < next) {
+        QStringView behind = m_frame.places[size_t(m_boxPlace)].behind;
+        if (behind.startsWith(ParagraphEndsFirst))
+            behind = behind.sliced(ParagraphEndsFirst.size());
+        writeKept(m_out, m_tables, behind);
+    }
+}
+
+/// Goes on in the frame to one of the things that it shows.
+void BodyWriter::enterBox(int place) {
+    passPlaces(place);
     m_mark = NothingKept;
     m_afterBehind = NoLength;
     m_paragraphEnds = false;
     m_paragraphIsEmpty = true;
     m_rowEnds = false;
+    m_anyRow = false;
     m_boxIsEmpty = true;
-    writeKept(m_out, m_tables, frameOf(names().keptAt(m_box)).ahead);
+    if (isAtPicture())
+        return;
     plain();
     m_paragraphs.forget();
 }
 
-/// What ends the last paragraph of a box, if anything does, is part of the frame.
-void BodyWriter::closeBox() {
-    QString behind = frameOf(names().keptAt(m_box)).behind;
-    tellAfter();
-    // A row has ended by itself, where it is the last one.
-    if (m_rowEnds && behind.startsWith(ParagraphEndsFirst))
-        behind.remove(0, ParagraphEndsFirst.size());
-    // Nothing else would tell of a paragraph without text.
-    if (m_paragraphEnds && m_paragraphIsEmpty && !behind.startsWith(u"\\par"))
-        m_out.word("\\par");
-    if (m_boxIsEmpty)
-        m_out.word(ShownEmpty);
+bool BodyWriter::isPicture(const Frame& frame, int place) {
+    return size_t(place) < frame.places.size() && frame.places[size_t(place)].isPicture;
+}
+
+bool BodyWriter::isAtPicture() const {
+    return isPicture(m_frame, m_boxPlace);
+}
+
+/// What ends the last paragraph of a text, if anything does, is part of the frame.
+void BodyWriter::leaveText() {
+    const bool isKnown = size_t(m_boxPlace) < m_frame.places.size();
+    QString behind = isKnown ? m_frame.places[size_t(m_boxPlace)].behind : QString();
+    if (!isAtPicture()) {
+        tellAfter();
+        // A row has ended by itself, where it is the last one.
+        if (m_rowEnds && behind.startsWith(ParagraphEndsFirst))
+            behind.remove(0, ParagraphEndsFirst.size());
+        // Nothing else would tell of a paragraph without text.
+        if (m_paragraphEnds && m_paragraphIsEmpty && !behind.startsWith(u"\\par"))
+            m_out.word("\\par");
+        if (m_boxIsEmpty)
+            m_out.word(ShownEmpty);
+    }
     writeKept(m_out, m_tables, behind);
-    m_box = NothingKept;
     m_anyRow = m_around.anyRow;
     m_format = m_around.look.format;
     m_stated = m_around.look.stated;
@@ -126,15 +165,34 @@ void BodyWriter::closeBox() {
     m_paragraphs.goBack(m_around.paragraph);
 }
 
+void BodyWriter::closeBox() {
+    leaveText();
+    passPlaces(int(m_frame.places.size()));
+    m_box = NothingKept;
+}
+
+bool BodyWriter::isPictureOfBox(const ParagraphFormat& paragraph) const {
+    if (paragraph.box == m_box)
+        return isPicture(m_frame, paragraph.boxPlace);
+    return isPicture(frameOf(m_tables.names().keptAt(paragraph.box)), paragraph.boxPlace);
+}
+
+bool BodyWriter::pictureOfBox(const ParagraphFormat& paragraph, const Picture& picture) {
+    if (isInBox(paragraph))
+        return false;
+    goTo(paragraph);
+    m_out.structure(pictureOfShape(picture));
+    return true;
+}
+
 /// Writes a picture that is a shape.
 bool BodyWriter::framed(const Picture& picture) {
     const Frame frame = frameOf(picture.frame);
-    const QByteArray group = frame.ahead.isEmpty() ? QByteArray() : pictureOfShape(picture);
-    if (group.isEmpty())
+    if (frame.places.empty())
         return false;
     writeKept(m_out, m_tables, frame.ahead);
-    m_out.structure(group);
-    writeKept(m_out, m_tables, frame.behind);
+    m_out.structure(pictureOfShape(picture));
+    writeKept(m_out, m_tables, frame.places.front().behind);
     return true;
 }
 

@@ -55,31 +55,35 @@ void BodyWriter::changeField(int field) {
     m_format.field = field;
 }
 
-/// Writes a field whose text follows from its instruction, or a formula.
-bool BodyWriter::fieldShows(QStringView text, const CharFormat& format) {
+std::optional<QString> BodyWriter::shownBy(int field) {
+    const QString kept = names().keptAt(field);
+    const qsizetype end = kept.indexOf(NumberEnd, kept.indexOf(NumberEnd) + 1);
+    return end < 0 ? std::nullopt : std::optional(kept.sliced(end + 1));
+}
+
+bool BodyWriter::showsShape(int field) {
+    const QString kept = names().keptAt(field);
+    return QStringView(kept)
+        .sliced(kept.indexOf(NumberEnd) + 1)
+        .startsWith(QLatin1StringView(ShapeHead));
+}
+
+void BodyWriter::shown(const CharFormat& format) {
     const QString kept = names().keptAt(format.field);
     const qsizetype start = kept.indexOf(NumberEnd) + 1;
-    const qsizetype end = kept.indexOf(NumberEnd, start);
-    if (end < 0)
-        return false;
+    const QStringView group =
+        QStringView(kept).sliced(start, kept.indexOf(NumberEnd, start) - start);
     CharFormat own = format;
     own.field = NothingKept;
-    if (QStringView(kept).sliced(end + 1) != text) {
-        this->text(text, own);
-        return true;
-    }
     m_paragraphIsEmpty = false;
     change(own);
     breakPage();
-    const QStringView group = QStringView(kept).sliced(start, end - start);
-    const bool isFormula = group.startsWith(QLatin1StringView(FormulaHead));
-    if (!isFormula)
+    const bool isInstruction = group.startsWith(QLatin1StringView(InstructionHead));
+    if (isInstruction)
         m_out.structure("{\\field");
     writeKept(m_out, m_tables, group);
-    if (!isFormula)
+    if (isInstruction)
         m_out.structure("{\\fldrslt}}");
-    writeAnchors(format.anchors);
-    return true;
 }
 
 } // namespace orvalis::rtf

@@ -121,7 +121,7 @@ QByteArray metafileGroup(const Picture& picture, const QByteArray& metafile) {
 } // namespace
 
 QByteArray pictureOfShape(const Picture& picture) {
-    return isStrange(picture) ? QByteArray() : ownGroup(picture);
+    return isStrange(picture) ? firstForm(picture, ownGroup(picture)) : ownGroup(picture);
 }
 
 QByteArray pictureGroups(const Picture& picture) {

@@ -25,12 +25,18 @@ bool isSessionMark(QByteArrayView word) {
 
 GroupKeeper::GroupKeeper(QByteArrayView content, const FileTables& tables)
     : m_tokenizer(content)
-    , m_tables(tables) {}
+    , m_tables(tables) {
+    plain();
+}
+
+void GroupKeeper::beginIn(const CodePage& page, SymbolFont symbols) {
+    m_state.page = &page;
+    m_state.symbols = symbols != SymbolFont::None;
+}
 
 QString GroupKeeper::kept(QByteArrayView opening, QByteArrayView word, qsizetype limit) {
     constexpr qsizetype UsualGroup = 128; // bytes
     m_out.reserve(UsualGroup);
-    plain();
     m_out.structure(opening);
     m_out.word(word);
     Token token;
@@ -216,7 +222,10 @@ void GroupKeeper::symbol(uchar character) {
         return;
     }
     case '\t':
-        m_out.word("\\tab");
+        if (m_fallbackToSkip > 0)
+            --m_fallbackToSkip;
+        else
+            m_out.word("\\tab");
         return;
     case '\r':
     case '\n':

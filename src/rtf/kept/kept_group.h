@@ -30,6 +30,10 @@ public:
     /// \param content what stands behind the group's first word, up to its closing brace.
     GroupKeeper(QByteArrayView content, const FileTables& tables);
 
+    /// Comes first, where the text around the group counts for what begins in it: its page, and the
+    /// signs that its font is. Else it begins as text that names no font.
+    void beginIn(const CodePage& page, SymbolFont symbols);
+
     /// \param opening what stands ahead of the first word, with its backslash.
     /// \returns nothing when it would be longer than the limit.
     QString kept(QByteArrayView opening, QByteArrayView word, qsizetype limit);

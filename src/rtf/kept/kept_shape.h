@@ -18,7 +18,7 @@ inline constexpr QByteArrayView StrangePicture = "orvpict";
 /// A word that tells of a text in a box that it is one to show, though it has no character.
 inline constexpr QByteArrayView ShownEmpty = "\\orvempty";
 
-/// What the groups of shapes and of groups of them begin with, as they are kept.
-inline constexpr const char* ShapeHead = "{\\shp";
+/// What a shape in a line begins with, as it is kept: the look of the text around it.
+inline constexpr const char* LineShapeHead = "{\\plain";
 
 } // namespace orvalis::rtf

@@ -108,4 +108,9 @@ QRgb shadeOf(QStringView kept) {
                 mixed(qBlue(above), qBlue(below)));
 }
 
+std::optional<QString> textShownBy(const QString& kept) {
+    const qsizetype end = kept.indexOf(NumberEnd, kept.indexOf(NumberEnd) + 1);
+    return end < 0 ? std::nullopt : std::optional(kept.sliced(end + 1));
+}
+
 } // namespace orvalis::rtf

@@ -5,6 +5,8 @@
 #include <QRgb>
 #include <QString>
 
+#include <optional>
+
 namespace orvalis::rtf {
 
 struct ListLabel;
@@ -32,6 +34,10 @@ QString withoutListOfCell(const QString& kept);
 
 /// What stands between the number that a file gave something and what is kept of it.
 inline constexpr QChar NumberEnd(0x3);
+
+/// The text that a field shows by itself, or a formula or a shape, which stands behind what is kept
+/// of it; nothing of a field that shows the text in it.
+std::optional<QString> textShownBy(const QString& kept);
 
 /// What the instruction of a field begins with, as it is kept.
 inline constexpr const char* InstructionHead = "{\\*\\fldinst";

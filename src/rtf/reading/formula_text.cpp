@@ -92,11 +92,8 @@ private:
             m_text.append(u"; "_s);
     }
 
-    /// What has no width by itself, or structure of its own, is no part of a line.
     void unit(char16_t unit) {
-        const bool shown = unit >= u' ' && unit != QChar::ObjectReplacementCharacter &&
-                           unit != QChar::LineSeparator && unit != QChar::ParagraphSeparator;
-        if (shown && !isHidden())
+        if (standsInLine(unit) && !isHidden())
             m_text.append(QChar(unit));
     }
 

@@ -147,7 +147,9 @@ private:
     // Text (interpreter_text.cpp)
     void bytes(QByteArrayView run);
     void decode(QByteArrayView run);
-    void decodeBy(const CodePage::Table& table, QByteArrayView run);
+    void appendLetters(QStringView text);
+    static bool isLetter(char32_t character);
+    static bool isByNumber(char32_t character, SymbolFont font, const CodePage* page);
     void flushPending();
     void character(char16_t character);
     void unicode(char32_t code);
@@ -195,7 +197,7 @@ private:
             beginBox();
     }
     void settleHead();
-    void takeTextForSigns(SymbolFont font);
+    void takeTextForSigns(SymbolFont font, const CodePage* page);
     void knowOfParagraphs();
     int known() const { return m_countedOfCharacters & stated::Knows; }
     CharFormat told(CharFormat chars) const;
@@ -392,9 +394,11 @@ private:
 
         QByteArrayView word; ///< of the shape's group
         QByteArrayView content;
-        QString kept; ///< all of it
+        QString kept;                   ///< all of it, in the look of what is around it
+        const CodePage* page = nullptr; ///< of the document, ahead of it
         size_t depth = 0;
-        bool isOpen = false; ///< and some of it has come
+        bool isOpen = false;      ///< and some of it has come
+        bool inParagraph = false; ///< which something was in ahead of it
         int linesDue = 0;    ///< that have ended since the last text
         std::vector<Piece> pieces;
     };

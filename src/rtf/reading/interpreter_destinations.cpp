@@ -120,6 +120,7 @@ bool Interpreter::destinationWord(const Token& token) {
             openDestination(Destination::Shape);
         else
             openInBody(Destination::Shape);
+        m_shapeProperty.clear();
         return true;
     case Action::ShapeText:
         if (m_state.destination == Destination::Shape || inBody) {

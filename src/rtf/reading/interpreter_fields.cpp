@@ -18,7 +18,9 @@ namespace {
 
 /// What the instruction of a field that brings no result holds to show.
 QString shownBy(const QString& instruction) {
-    return wholeCharacters(equationText(instruction) + symbolFieldText(instruction));
+    QString text = wholeCharacters(equationText(instruction) + symbolFieldText(instruction));
+    text.removeIf([](QChar c) { return !standsInLine(c.unicode()); });
+    return text;
 }
 
 } // namespace
@@ -70,7 +72,7 @@ void Interpreter::fieldEnds() {
     CharFormat look = m_captureFormat;
     if (own != NothingKept) {
         const QString kept = m_names.keptAt(own);
-        text = kept.sliced(kept.lastIndexOf(NumberEnd) + 1);
+        text = *textShownBy(kept);
         look = m_fieldLooks.back().value_or(m_state.chars);
         m_fieldLooks.pop_back();
     }

@@ -29,13 +29,13 @@ void Interpreter::settleHead() {
     const bool isNamed = m_fonts.saidOfUsual() == DefaultFont::Named;
     m_textFormat.family = isNamed ? m_fonts.usual()->family : NoName;
     if (isNamed && m_fonts.usual()->symbols != SymbolFont::None)
-        takeTextForSigns(m_fonts.usual()->symbols);
+        takeTextForSigns(m_fonts.usual()->symbols, m_fonts.usual()->page);
 }
 
 /// The text that came turns out to be in a font of signs: it is parted as it would be behind that.
-void Interpreter::takeTextForSigns(SymbolFont font) {
+void Interpreter::takeTextForSigns(SymbolFont font, const CodePage* page) {
     for (const char32_t character : std::exchange(m_text, {}).toUcs4()) {
-        const bool byNumber = privateByte(character) == 0 && isToldByNumber(font, character);
+        const bool byNumber = isByNumber(character, font, page);
         if (byNumber != m_textFormat.byNumber)
             giveText();
         m_textFormat.byNumber = byNumber;

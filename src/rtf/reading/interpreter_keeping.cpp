@@ -21,6 +21,7 @@ bool isStarred(KeptPlace place) {
 bool Interpreter::keptWord(const Token& token) {
     if (token.word->action == Action::SectionDefaults) {
         if (shows()) {
+            dissolveLineBox();
             m_keptOfSection = 0;
             m_columns.clear();
             m_state.border = nullptr;
@@ -28,6 +29,8 @@ bool Interpreter::keptWord(const Token& token) {
         return true;
     }
     if (token.word->action == Action::SectionColumn) {
+        if (shows())
+            dissolveLineBox();
         if (shows())
             m_columns.take(static_cast<ColumnWord>(token.word->value), token.parameter);
         return true;
@@ -85,9 +88,11 @@ bool Interpreter::keptWord(const Token& token) {
         keepParagraph(m_kept.with(m_state.keptOfParagraph, call));
         return true;
     case KeptLevel::Section:
+        dissolveLineBox();
         m_keptOfSection = m_kept.with(m_keptOfSection, call);
         return true;
     case KeptLevel::Document:
+        dissolveLineBox();
         m_keptOfDocument = m_kept.with(m_keptOfDocument, call);
         return true;
     case KeptLevel::Row:
@@ -230,7 +235,8 @@ void Interpreter::anchor(const QString& kept) {
 
 /// The word that stands for the number of a note.
 void Interpreter::anchorMark(const QString& word) {
-    if (m_cellsEnded.empty() || m_lineBox.depth > 0)
+    dissolveLineBox(); // for how it looks depends on what is ahead of it
+    if (m_cellsEnded.empty())
         anchor(lookOfMark() + u'\\' + word + u'}');
     else
         m_anchorsBehindCell.push_back({word, m_state.chars});

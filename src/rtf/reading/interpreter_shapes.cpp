@@ -6,6 +6,7 @@
 #include "rtf/reading/formula_text.h"
 #include "rtf/reading/interpreter.h"
 #include "rtf/reading/shape_scan.h"
+#include "rtf/writing/look_words.h"
 
 #include <algorithm>
 #include <utility>
@@ -204,11 +205,18 @@ void Interpreter::shapeBesideBox() {
 
 void Interpreter::expectLineBox(const Token& token, const FileTables& tables) {
     const QByteArrayView content = m_tokenizer.groupAhead();
-    const QString kept = GroupKeeper(content, tables).kept("{\\", token.bytes, m_keptLeft);
-    m_keptLeft -= kept.size();
+    GroupKeeper keeper(content, tables);
+    keeper.beginIn(*m_state.page, m_state.symbols);
+    const QString kept = keeper.kept("{\\", token.bytes, m_keptLeft);
     if (kept.isEmpty())
         return;
-    m_lineBox = {token.bytes, content, kept, m_groups.size(), false, 0, {}};
+    m_lineBox.word = token.bytes;
+    m_lineBox.content = content;
+    // Its text looks as what is around it, until it says otherwise.
+    m_lineBox.kept = u'{' + keptLook(told(m_state.chars), m_names) + kept + u'}';
+    m_lineBox.depth = m_groups.size();
+    m_lineBox.page = m_documentPage;
+    m_keptLeft -= m_lineBox.kept.size();
     m_labelAround = std::exchange(m_label, {});
     m_rowsAround = std::exchange(m_rows, {});
 }
@@ -222,9 +230,14 @@ void Interpreter::beginLineBox() {
     flushText();
     m_lineBox.depth = depth;
     m_lineBox.isOpen = true;
+    m_lineBox.inParagraph = m_inParagraph;
 }
 
 void Interpreter::endLineBox() {
+    if (m_documentPage != m_lineBox.page) { // which the copy does not tell
+        dissolveLineBox();
+        return;
+    }
     flushText();
     const LineBox box = std::exchange(m_lineBox, {});
     m_rows = std::exchange(m_rowsAround, {});
@@ -251,23 +264,28 @@ void Interpreter::endLineBox() {
     }
 }
 
-/// Something is in it that a run cannot show: it is text of the cell.
+/// Something is in it that a run cannot show: it is text of the cell. The last of it still waits,
+/// as all text does.
 void Interpreter::dissolveLineBox() {
     if (m_lineBox.depth == 0)
         return;
     if (m_lineBox.isOpen && m_lineBox.linesDue > 0)
         prepareText();
-    flushText();
     const LineBox box = std::exchange(m_lineBox, {});
     m_rows = std::exchange(m_rowsAround, {});
     m_label = std::exchange(m_labelAround, {});
-    for (const LineBox::Piece& piece : box.pieces)
-        if (piece.picture)
+    bool inParagraph = box.inParagraph;
+    for (const LineBox::Piece& piece : box.pieces) {
+        if (!piece.anchor.isEmpty() && inParagraph)
+            m_sink.anchor(piece.anchor);
+        else if (!piece.anchor.isEmpty())
+            m_anchorsAtStart += piece.anchor;
+        else if (piece.picture)
             showPicture(*piece.picture, piece.look);
-        else if (piece.anchor.isEmpty())
-            m_sink.text(piece.text, piece.look);
         else
-            anchor(piece.anchor);
+            m_sink.text(piece.text, piece.look);
+        inParagraph |= piece.anchor.isEmpty();
+    }
 }
 
 } // namespace orvalis::rtf

@@ -201,7 +201,8 @@ void Interpreter::rowEnd(bool outermost) {
     if (m_boxDepth > 0 && !m_boxIsOpen)
         return;
     const bool anyCell = !m_cellsEnded.empty();
-    const bool complete = anyCell && endsCellOfRow(m_cellsEnded.back().cell) &&
+    const bool complete = anyCell && row() != NothingKept &&
+                          endsCellOfRow(m_cellsEnded.back().cell) &&
                           (m_lastOfCell.nesting == 0) == outermost;
     m_nestedRow = complete && !outermost ? endedNestedRow() : NothingKept;
     const bool kept = complete && (outermost || m_nestedRow != NothingKept);

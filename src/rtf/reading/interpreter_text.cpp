@@ -40,6 +40,20 @@ bool hasWord(char32_t code) {
 
 } // namespace
 
+bool Interpreter::isLetter(char32_t character) {
+    return privateByte(character) == 0 && !hasWord(character);
+}
+
+/// A font of signs has few of the characters that words stand for. One that only is named as such,
+/// but is none by its page, has letters.
+bool Interpreter::isByNumber(char32_t character, SymbolFont font, const CodePage* page) {
+    if (font == SymbolFont::None)
+        return false;
+    const bool hasLetters = !page || page->symbols() == SymbolFont::None;
+    return hasLetters ? isLetter(character)
+                      : privateByte(character) == 0 && isToldByNumber(font, character);
+}
+
 bool Interpreter::captures() const {
     switch (m_state.destination) {
     case Destination::PlainFontName:
@@ -115,30 +129,18 @@ void Interpreter::decode(QByteArrayView run) {
                 QString text;
                 const qsizetype taken = pageOfText().decode(m_pending, text);
                 m_pending.remove(0, taken);
-                append(text);
+                appendLetters(text);
             }
             return;
         }
         table = CodePage::forNumber(Latin1Page).table();
     }
-    // A font that is named as one of signs, but is none by its page, has letters at its bytes.
-    if (!toBody || m_state.symbols == SymbolFont::None) {
-        decodeBy(*table, run);
+    if (toBody && m_state.symbols != SymbolFont::None) {
+        QString letters;
+        page.decode(run, letters);
+        appendLetters(letters);
         return;
     }
-    while (!run.isEmpty()) {
-        const qsizetype tab = run.indexOf('\t');
-        const QByteArrayView piece = run.first(tab < 0 ? run.size() : std::max<qsizetype>(tab, 1));
-        const bool isOne = piece.size() == 1;
-        m_state.chars.byNumber = !isOne || !hasWord((*table)[uchar(piece.front())]);
-        decodeBy(*table, piece);
-        m_state.chars.byNumber = false;
-        run = run.sliced(piece.size());
-    }
-}
-
-void Interpreter::decodeBy(const CodePage::Table& table, QByteArrayView run) {
-    const bool toBody = m_state.destination == Destination::Body;
     if (toBody)
         prepareText();
     else
@@ -151,10 +153,27 @@ void Interpreter::decodeBy(const CodePage::Table& table, QByteArrayView run) {
     target.resize(start + run.size());
     QChar* out = target.data() + start;
     for (const char byte : run)
-        *out++ = QChar(table[uchar(byte)]);
+        *out++ = QChar((*table)[uchar(byte)]);
     // A byte below a blank can only stand alone, written as a code.
     if (run.size() == 1 && toBody)
         out[-1] = QChar(harmless(out[-1].unicode()));
+}
+
+/// A font that is named as one of signs, but is none by its page, has letters at its bytes.
+void Interpreter::appendLetters(QStringView text) {
+    if (m_state.destination != Destination::Body || m_state.symbols == SymbolFont::None) {
+        append(text);
+        return;
+    }
+    const auto isSign = [](QChar c) { return !isLetter(c.unicode()); };
+    while (!text.isEmpty()) {
+        const qsizetype letters = std::find_if(text.begin(), text.end(), isSign) - text.begin();
+        const QStringView piece = text.first(std::max<qsizetype>(letters, 1));
+        m_state.chars.byNumber = letters > 0;
+        append(piece);
+        m_state.chars.byNumber = false;
+        text = text.sliced(piece.size());
+    }
 }
 
 void Interpreter::flushPending() {
@@ -165,7 +184,7 @@ void Interpreter::flushPending() {
     if (taken < m_pending.size())
         text.append(QChar::ReplacementCharacter);
     m_pending.clear();
-    append(text);
+    appendLetters(text);
 }
 
 void Interpreter::append(QStringView text) {
@@ -200,11 +219,9 @@ void Interpreter::character(char16_t character) {
         appendOfWord(character);
 }
 
-/// A font of signs has few of the characters that words stand for.
 void Interpreter::appendOfWord(char16_t character) {
     m_state.chars.byNumber = m_state.destination == Destination::Body &&
-                             m_state.symbols != SymbolFont::None &&
-                             isToldByNumber(m_state.symbols, character);
+                             isByNumber(character, m_state.symbols, m_state.page);
     append(QStringView(&character, 1));
     m_state.chars.byNumber = false;
 }
@@ -224,8 +241,7 @@ void Interpreter::unicode(char32_t code) {
     if (isLow && !high)
         code = QChar::ReplacementCharacter;
     const char16_t pair[] = {high, char16_t(code)};
-    m_state.chars.byNumber = toBody && m_state.symbols != SymbolFont::None &&
-                             privateByte(code) == 0 && !hasWord(code);
+    m_state.chars.byNumber = toBody && m_state.symbols != SymbolFont::None && isLetter(code);
     if (high)
         append(QStringView(pair, 2));
     else if (!isHigh)

@@ -7,6 +7,7 @@
 #include "rtf/words/control_words.h"
 #include "rtf/words/group_head.h"
 #include "rtf/words/hex.h"
+#include "rtf/words/kept_words.h"
 #include "rtf/words/tokenizer.h"
 
 #include <algorithm>
@@ -17,6 +18,15 @@ namespace orvalis::rtf {
 namespace {
 
 constexpr QByteArrayView ShownPicture = "pib"; // the property that holds it
+
+/// Whether a word ends or shapes something of the document, and so tells nothing of a shape.
+bool shapesDocument(const ControlWord& word) {
+    if (word.action != Action::Keep)
+        return endsOrShapes(word.action);
+    const KeptLevel level = keptWord(word).level;
+    return level == KeptLevel::Document || level == KeptLevel::Section || level == KeptLevel::Row ||
+           level == KeptLevel::Cell;
+}
 
 /// Whether a picture has bytes, and not only words about them.
 bool hasBytes(QByteArrayView picture) {
@@ -108,11 +118,14 @@ private:
                 m_groups.pop_back();
             return;
         case TokenKind::Word:
-            m_loose |= token.word && endsOrShapes(token.word->action) && shownHere();
+            m_loose |= token.word && shapesDocument(*token.word) && shownHere();
             if (!m_groups.empty())
                 word(token);
             else if (token.word)
                 m_loose |= opensHere(token.word->action);
+            if (m_groups.empty() && m_head.isHead() && token.word &&
+                token.word->action == Action::ShapeInstruction)
+                m_within = Within::Shape;
             return;
         case TokenKind::Symbol:
             m_loose |= isLineEnd(token) && shownHere();
@@ -131,7 +144,7 @@ private:
 
     /// Whether text that stands here is text of the document.
     bool shownHere() const { return here() == Within::Document; }
-    Within here() const { return m_groups.empty() ? Within::Document : m_groups.back().within; }
+    Within here() const { return m_groups.empty() ? m_within : m_groups.back().within; }
 
     void word(const Token& token) {
         const Action action = token.word ? token.word->action : Action::Version;
@@ -163,8 +176,10 @@ private:
         const bool isValue = action == Action::ShapePropertyValue;
         if (action == Action::ShapePropertyName)
             propertyName();
-        if (action == Action::ShapeInstruction && within != Within::Value)
+        if (action == Action::ShapeInstruction && within != Within::Value) {
             within = Within::Shape;
+            m_property.clear();
+        }
         else if (isValue && within == Within::Shape && m_property == ShownPicture)
             within = Within::Value;
         else if (action != Action::ShapeProperty || within != Within::Shape)
@@ -274,7 +289,8 @@ private:
 
     QByteArrayView m_content;
     Tokenizer m_tokenizer;
-    GroupHead m_head{false};
+    GroupHead m_head{true};
+    Within m_within = Within::Document; ///< the shape's own group
     std::vector<Group> m_groups; ///< that are open
     std::vector<Shown> m_shown;
     std::vector<Piece> m_others; ///< forms for readers that know no shapes

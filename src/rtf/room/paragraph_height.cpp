@@ -88,13 +88,18 @@ void ParagraphHeight::addPicture(double height, const LetterHeight& letters,
                                  const ParagraphShape& shape) {
     m_height += heightOfPicture(height, letters, shape);
     m_line = 0;
+    m_guessed = {};
 }
 
 void ParagraphHeight::guess(QStringView text, const LetterHeight& letters,
                             const ParagraphShape& shape) {
     // A word that goes on in another line takes the height of its highest letters there.
     m_height += m_line + heightOfRun(text, letters, shape);
+    // Where only what nobody sees parts two runs they fill the lines that one of both would.
+    if (m_guessed.size == letters.size && m_guessed.line == letters.line)
+        m_height -= heightOfRun({}, letters, shape);
     m_line = 0;
+    m_guessed = {letters.size, letters.line};
 }
 
 /// Takes word for word into lines, as the layout does; where that may break a line elsewhere too,
@@ -165,6 +170,7 @@ bool ParagraphHeight::fill(QStringView text, LetterWidths& widths, double room, 
         m_height += 2 * std::max(m_line, line);
     m_line = line;
     m_end = end;
+    m_guessed = {};
     m_height += double(lines) * line;
     return true;
 }

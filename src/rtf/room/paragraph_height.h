@@ -39,6 +39,7 @@ private:
     double m_height = 0;
     double m_line = 0; ///< height of the lines at the end; 0 where nobody knows where they end
     End m_end;
+    LetterHeight m_guessed; ///< of the text at the end; no size where that is not guessed
 };
 
 /// Whether a line can be broken, for certain, at blanks between two characters.

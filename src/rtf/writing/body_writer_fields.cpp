@@ -56,16 +56,14 @@ void BodyWriter::changeField(int field) {
 }
 
 std::optional<QString> BodyWriter::shownBy(int field) {
-    const QString kept = names().keptAt(field);
-    const qsizetype end = kept.indexOf(NumberEnd, kept.indexOf(NumberEnd) + 1);
-    return end < 0 ? std::nullopt : std::optional(kept.sliced(end + 1));
+    return textShownBy(names().keptAt(field));
 }
 
 bool BodyWriter::showsShape(int field) {
     const QString kept = names().keptAt(field);
     return QStringView(kept)
         .sliced(kept.indexOf(NumberEnd) + 1)
-        .startsWith(QLatin1StringView(ShapeHead));
+        .startsWith(QLatin1StringView(LineShapeHead));
 }
 
 void BodyWriter::shown(const CharFormat& format) {
@@ -75,6 +73,11 @@ void BodyWriter::shown(const CharFormat& format) {
         QStringView(kept).sliced(start, kept.indexOf(NumberEnd, start) - start);
     CharFormat own = format;
     own.field = NothingKept;
+    if (showsShape(format.field)) { // which tells how it looks
+        own = m_format;
+        own.link = NoName;
+        own.field = NothingKept;
+    }
     m_paragraphIsEmpty = false;
     change(own);
     breakPage();

@@ -52,6 +52,8 @@ public:
     QStringList oddFamilies(const Names& names) const;
     /// Grows with everything that changes what the numbers stand for.
     int version() const { return m_version; }
+    /// The page of the file, which fonts without one have, is another one now.
+    void pageHasChanged() { ++m_version; }
 
 private:
     QHash<int, Font> m_fonts;

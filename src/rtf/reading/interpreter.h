@@ -215,6 +215,7 @@ private:
     void openDestination(Destination destination);
     void closeDestination(Destination destination);
     bool tableWord(const Token& token);
+    void setDocumentPage(int number);
     void colorBytes(QByteArrayView run);
     void fontBytes(QByteArrayView run);
 

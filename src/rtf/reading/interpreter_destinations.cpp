@@ -253,13 +253,11 @@ bool Interpreter::tableWord(const Token& token) {
     case Action::FixedCodePage:
     case Action::AnsiCodePage: {
         const int page = token.word->action == Action::FixedCodePage ? token.word->value : number;
-        m_documentPage = &CodePage::forNumber(page);
-        selectFont();
+        setDocumentPage(page);
         return true;
     }
     case Action::Utf8Version:
-        m_documentPage = &CodePage::forNumber(Utf8Page);
-        selectFont();
+        setDocumentPage(Utf8Page);
         return true;
     case Action::DefaultFont:
         m_fonts.setUsual(number);
@@ -294,6 +292,13 @@ bool Interpreter::tableWord(const Token& token) {
     default:
         return false;
     }
+}
+
+/// It holds from here on, whatever groups end.
+void Interpreter::setDocumentPage(int number) {
+    m_documentPage = &CodePage::forNumber(number);
+    m_fonts.pageHasChanged();
+    selectFont();
 }
 
 void Interpreter::colorBytes(QByteArrayView run) {

@@ -119,6 +119,7 @@ private:
             return;
         case TokenKind::Word:
             m_loose |= token.word && shapesDocument(*token.word) && shownHere();
+            m_loose |= token.word && token.word->action == Action::Deleted;
             if (!m_groups.empty())
                 word(token);
             else if (token.word)

@@ -84,6 +84,22 @@ private slots:
     void aWordThatNobodyKnowsEndsTheWaitForAFallback();
     void aStarGoesWithTheWordThatItStandsFor();
     void wordsAreNoneOfTheNameOfAProperty();
+    void textInAGroupThatNobodyKnowsIsNoneOfAShape();
+    void aPropertyOutsideOfWhatTellsOfAShapeIsNone();
+    void aDeletedPictureIsNoneOfAShape();
+    void aPictureThatTheFileBreaksOffIsShown();
+    void aWordOfTheDocumentInAShapeIsToldOnce();
+    void theNumberOfANoteInAShapeInACellIsText();
+    void aPageToldInAShapeInACellMakesItText();
+    void theTextOfAShapeInACellBeginsInThePageAroundIt();
+    void aCharacterBeyondSixteenBitsIsKept();
+    void aSignThatStandsForAnObjectIsKeptAsNone();
+    void aTabIsNoFallbackAheadOfText();
+    void theCodePageHoldsBehindTheGroupThatTellsIt();
+    void anItemOfAListInACellWhoseRowNeverEndsShowsNoLabel();
+    void anItemOfAListInACellAheadOfARowWithoutCellsIsText();
+    void tabsInAFontThatIsNamedAsOneOfSignsAreTold();
+    void aFieldShowsNothingThatNoLineHas();
 };
 
 void OutOfPlaceTest::theFontOfTextThatNamesNoneIsSettledWithTheFirstText() {
@@ -385,6 +401,129 @@ void OutOfPlaceTest::wordsAreNoneOfTheNameOfAProperty() {
     QTextDocument document;
     readFile(document, "a{\\shp{\\*\\shpinst{\\sp{\\sn pi\\b b}{\\sv{\\pict 0102}}}}}");
     QVERIFY(document.toPlainText().contains(QChar::ObjectReplacementCharacter));
+}
+
+void OutOfPlaceTest::textInAGroupThatNobodyKnowsIsNoneOfAShape() {
+    QTextDocument document;
+    readFile(document, "a{\\shp{\\*\\unknown{\\shptxt b}}}c");
+    QCOMPARE(document.toPlainText(), QStringLiteral("ac"));
+    QVERIFY(writeRtf(document).contains("{\\shp{\\*\\unknown{\\shptxt b}}}"));
+}
+
+void OutOfPlaceTest::aPropertyOutsideOfWhatTellsOfAShapeIsNone() {
+    QTextDocument document;
+    readFile(document, "a{\\shp{\\sn pib}{\\sv{\\pict 0102}}{\\shptxt b}}c");
+    QCOMPARE(document.toPlainText(), QStringLiteral("a\nb\nc"));
+    readFile(document, "a{\\shp\\shpinst{\\sn pib}{\\pict 0102}{\\sv{\\pict 0304}}}c");
+    QCOMPARE(document.toPlainText(), QStringLiteral("a\ufffcc"));
+    // The one that a shape ahead has told is none of this one.
+    readFile(document, "{\\shpinst{\\sn pib}}a{\\shp\\shpinst{\\sv{\\pict 01}}{\\shptxt b}}c");
+    QCOMPARE(document.toPlainText(), QStringLiteral("a\nb\nc"));
+}
+
+void OutOfPlaceTest::aDeletedPictureIsNoneOfAShape() {
+    QTextDocument document;
+    readFile(document, "a{\\shp\\shpinst{\\sn pib}{\\sv{\\pict 0102}\\deleted{\\pict 0304}}}c");
+    QCOMPARE(document.toPlainText().count(QChar::ObjectReplacementCharacter), 1);
+}
+
+void OutOfPlaceTest::aPictureThatTheFileBreaksOffIsShown() {
+    QTextDocument document;
+    QVERIFY(!readRtf(Fonts + "a{\\pict{0102", document).ok());
+    QCOMPARE(document.toPlainText(), QStringLiteral("a\ufffc"));
+}
+
+void OutOfPlaceTest::aWordOfTheDocumentInAShapeIsToldOnce() {
+    QTextDocument document;
+    readFile(document, "{\\shp{\\shptxt t}\\paperw8}\\paperw9");
+    QCOMPARE(writeRtf(document).count("\\paperw"), 1);
+    QVERIFY(writeRtf(document).contains("\\paperw9"));
+    readFile(document, "\\trowd\\cellx99\\intbl{\\shp{\\shptxt t\\paperw8}}\\paperw9\\cell\\row");
+    QCOMPARE(writeRtf(document).count("\\paperw"), 1);
+}
+
+void OutOfPlaceTest::theNumberOfANoteInAShapeInACellIsText() {
+    QTextDocument document;
+    readFile(document, "\\trowd\\cellx99\\intbl d{\\shp{\\shptxt t\\chftn}}\\cell\\row");
+    QCOMPARE(document.toPlainText(), QStringLiteral("dt"));
+    QVERIFY(!writeRtf(document).contains("\\shp"));
+}
+
+void OutOfPlaceTest::aPageToldInAShapeInACellMakesItText() {
+    QTextDocument document;
+    readFile(document, "\\trowd\\cellx99\\intbl{\\shp{\\shptxt\\ansicpg1251\\'e0}}\\cell\\row");
+    QCOMPARE(document.toPlainText(), QString(QChar(0x430)));
+    QVERIFY(!writeRtf(document).contains("\\shp"));
+}
+
+void OutOfPlaceTest::theTextOfAShapeInACellBeginsInThePageAroundIt() {
+    QTextDocument document;
+    readFile(document, "{\\fonttbl{\\f3\\fcharset204 Three;}}\\trowd\\cellx99\\intbl\\f3{\\shp"
+                       "{\\shptxt\\'e0\\f0\\'e0}}\\cell\\row");
+    QCOMPARE(document.toPlainText(), QStringLiteral("\u0430\u00e0"));
+    QVERIFY(writeRtf(document).contains("{\\shptxt\\u1072?"));
+}
+
+void OutOfPlaceTest::aCharacterBeyondSixteenBitsIsKept() {
+    QTextDocument document;
+    readFile(document, "a{\\header \\u128512?}");
+    QVERIFY(writeRtf(document).contains("{\\header\\u-10179?\\u-8704?}"));
+}
+
+void OutOfPlaceTest::aSignThatStandsForAnObjectIsKeptAsNone() {
+    QTextDocument document;
+    readFile(document, "\\trowd\\cellx99\\intbl{\\shp{\\shptxt\\u-4?}}\\cell\\row");
+    QCOMPARE(document.toPlainText(), QString(QChar(QChar::ReplacementCharacter)));
+    QVERIFY(writeRtf(document).contains("{\\shptxt\\u-4?}"));
+}
+
+void OutOfPlaceTest::aTabIsNoFallbackAheadOfText() {
+    QTextDocument document;
+    readFile(document, "a{\\header\\u8364\\\tb}");
+    QVERIFY(writeRtf(document).contains("{\\header\\'80b}"));
+}
+
+void OutOfPlaceTest::theCodePageHoldsBehindTheGroupThatTellsIt() {
+    QTextDocument document;
+    readFile(document, "{\\ansicpg1251}\\'e0");
+    QCOMPARE(document.toPlainText(), QString(QChar(0x430)));
+}
+
+void OutOfPlaceTest::anItemOfAListInACellWhoseRowNeverEndsShowsNoLabel() {
+    const QByteArray lists = "{\\*\\listtable{\\list{\\listlevel{\\leveltext\\'02\\'00.;}"
+                             "{\\levelnumbers\\'01;}}\\listid7}}"
+                             "{\\*\\listoverridetable{\\listoverride\\listid7\\ls1}}";
+    QTextDocument document;
+    readFile(document,
+             lists + "\\cellx99\\intbl\\itap2\\ls1\\nestcell{\\nesttableprops\\pard\\nestrow}");
+    QVERIFY(!writeRtf(document).contains("\\listtext"));
+    QVERIFY(writeRtf(document).contains("\\pard\\intbl\\ls1\\ilvl0"));
+}
+
+void OutOfPlaceTest::anItemOfAListInACellAheadOfARowWithoutCellsIsText() {
+    QTextDocument document;
+    readFile(document, "{\\*\\listtable{\\list{\\listlevel}\\listid7}}{\\*\\listoverridetable"
+                       "{\\listoverride\\listid7\\ls1}}\\cellx99\\ls1 a\\cell\\trowd\\row");
+    QVERIFY(!writeRtf(document).contains("\\row"));
+}
+
+void OutOfPlaceTest::tabsInAFontThatIsNamedAsOneOfSignsAreTold() {
+    QTextDocument document;
+    readFile(document, "{\\fonttbl{\\f3\\fcharset0 Wingdings;}}\\f3 a\tb\\tab c\\u9?d\\u8232?e");
+    int runs = 0;
+    for (auto it = document.firstBlock().begin(); !it.atEnd(); ++it, ++runs) {
+        const QString text = it.fragment().text();
+        const bool isTold = text == u"\t" || text == QChar(QChar::LineSeparator);
+        QCOMPARE(it.fragment().charFormat().boolProperty(SignsByNumber), !isTold);
+    }
+    QCOMPARE(runs, 9);
+}
+
+void OutOfPlaceTest::aFieldShowsNothingThatNoLineHas() {
+    QTextDocument document;
+    readFile(document, "{\\field{\\*\\fldinst EQ a\\u3?\\u0?b\\u-4?}}");
+    QCOMPARE(document.toPlainText(), QStringLiteral("ab"));
+    QVERIFY(writeRtf(document).contains("\\fldinst"));
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, OutOfPlaceTest)

@@ -3,6 +3,7 @@
 #include "rtf/reading/box_scan.h"
 
 #include "rtf/kept/kept_shape.h"
+#include "rtf/reading/picture_scan.h"
 #include "rtf/words/control_words.h"
 #include "rtf/words/group_head.h"
 #include "rtf/words/tokenizer.h"
@@ -27,7 +28,8 @@ public:
         Token token;
         for (m_tokenizer.next(token); token.kind != TokenKind::End; m_tokenizer.next(token))
             take(token);
-        m_scan.shows |= m_cellEnded;
+        if (m_cellEnded)
+            m_scan.shows = m_scan.isCertain = true;
         return m_scan;
     }
 
@@ -41,8 +43,15 @@ private:
             m_scan.holdsMore |= tellsOfDocument(action) || (action == Action::ShapeInstruction &&
                                                             mayShow(m_tokenizer.groupAhead()));
             passGroup();
+        } else if (m_head.isHead() && action == Action::PictureGroup) {
+            if (hasPictureBytes(m_tokenizer.groupAhead()))
+                show();
+            passGroup();
         } else if (m_head.isHead() && isFigure(token)) {
-            show(); // perhaps, as only its reader can tell
+            // Perhaps, as only its reader can tell.
+            const bool isCertain = m_scan.isCertain;
+            show();
+            m_scan.isCertain = isCertain;
             passGroup();
         } else {
             content(token, action);
@@ -63,7 +72,7 @@ private:
     }
 
     void show() {
-        m_scan.shows = true;
+        m_scan.shows = m_scan.isCertain = true;
         m_scan.endsParagraph = false;
     }
 

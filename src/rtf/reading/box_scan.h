@@ -9,6 +9,7 @@ namespace orvalis::rtf {
 /// What a look ahead tells of the text of a box.
 struct BoxScan {
     bool shows = false;         ///< it has anything to show
+    bool isCertain = false;     ///< that it shows, and not only perhaps
     bool shapes = false;        ///< it ends paragraphs, or shapes rows
     bool holdsMore = false;     ///< that may show, or tells of the document
     bool endsParagraph = false; ///< its last paragraph has a word that ends it

@@ -231,8 +231,10 @@ void Interpreter::tellProgress() {
 void Interpreter::finish() {
     flushPending();
     dissolveLineBox();
-    if (m_state.destination == Destination::Picture)
+    if (m_state.destination == Destination::Picture) {
+        m_state.destination = Destination::Body;
         deliverPicture();
+    }
     cellTabs(m_cellsEnded.size());
     flushText();
     textComes();

@@ -234,7 +234,12 @@ void Interpreter::beginLineBox() {
 }
 
 void Interpreter::endLineBox() {
-    if (m_documentPage != m_lineBox.page) { // which the copy does not tell
+    const auto isByNumber = [](const LineBox::Piece& piece) { return piece.look.byNumber; };
+    const bool hasLetters =
+        m_textFormat.byNumber ||
+        std::any_of(m_lineBox.pieces.begin(), m_lineBox.pieces.end(), isByNumber);
+    // What the copy does not tell.
+    if (m_documentPage != m_lineBox.page || (m_lineBox.isOpen && hasLetters)) {
         dissolveLineBox();
         return;
     }

@@ -4,13 +4,12 @@
 
 #include "rtf/kept/kept_shape.h"
 #include "rtf/reading/box_scan.h"
+#include "rtf/reading/picture_scan.h"
 #include "rtf/words/control_words.h"
 #include "rtf/words/group_head.h"
-#include "rtf/words/hex.h"
 #include "rtf/words/kept_words.h"
 #include "rtf/words/tokenizer.h"
 
-#include <algorithm>
 #include <vector>
 
 namespace orvalis::rtf {
@@ -26,31 +25,6 @@ bool shapesDocument(const ControlWord& word) {
     const KeptLevel level = keptWord(word).level;
     return level == KeptLevel::Document || level == KeptLevel::Section || level == KeptLevel::Row ||
            level == KeptLevel::Cell;
-}
-
-/// Whether a picture has bytes, and not only words about them.
-bool hasBytes(QByteArrayView picture) {
-    Tokenizer tokenizer(picture);
-    GroupHead head(false);
-    int digits = 0;
-    Token token;
-    for (tokenizer.next(token); token.kind != TokenKind::End; tokenizer.next(token)) {
-        head.take(token);
-        const bool isWord = token.kind == TokenKind::Word;
-        const Action action = isWord && token.word ? token.word->action : Action::Version;
-        if (isWord && (token.word ? head.isHead() && ownsGroup(action) : head.isStarred())) {
-            tokenizer.skipGroup();
-            head.leave();
-        }
-        if (token.kind == TokenKind::Text)
-            digits += int(std::count_if(token.bytes.begin(), token.bytes.end(),
-                                        [](char c) { return hexDigit(uchar(c)) >= 0; }));
-        else if (token.kind == TokenKind::Byte)
-            digits += hexDigit(uchar(token.byte)) >= 0 ? 1 : 0;
-        if (digits > 1 || (token.kind == TokenKind::Binary && !token.bytes.isEmpty()))
-            return true;
-    }
-    return false;
 }
 
 /// Reads the tokens of a shape once, with an eye on its texts and pictures.
@@ -214,7 +188,7 @@ private:
             return;
         }
         const qsizetype place = m_tokenizer.position();
-        const bool shows = hasBytes(m_tokenizer.groupAhead());
+        const bool shows = hasPictureBytes(m_tokenizer.groupAhead());
         Piece piece = pass();
         if (shows && !m_groups.empty() && m_groups.back().wraps)
             piece = pass();
@@ -248,11 +222,12 @@ private:
         if (!box.shows)
             return;
         m_shown.push_back({{from, from + box.end}, from, true, box.endsParagraph});
+        m_perhaps |= !box.isCertain;
     }
 
     ShapeScan::Shows shows() const {
         // A box without text would add its paragraph to what is shown.
-        if (m_loose || (m_hasEmptyText && !m_shown.empty()) || m_content.contains(ShapePlace))
+        if ((m_perhaps && m_shown.size() > 1) || m_loose || (m_hasEmptyText && !m_shown.empty()) || m_content.contains(ShapePlace))
             return ShapeScan::Shows::More;
         if (m_shown.empty())
             return ShapeScan::Shows::Nothing;
@@ -297,6 +272,7 @@ private:
     std::vector<Piece> m_others; ///< forms for readers that know no shapes
     QByteArray m_property;       ///< the name of the one that came last
     bool m_hasEmptyText = false; ///< one that has paragraphs all the same
+    bool m_perhaps = false;      ///< of one that is shown nobody knows whether it is
     bool m_loose = false;        ///< something shows that stands in no part of a shape
 };
 

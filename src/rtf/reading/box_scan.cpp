@@ -3,6 +3,7 @@
 #include "rtf/reading/box_scan.h"
 
 #include "rtf/kept/kept_shape.h"
+#include "rtf/reading/field_scan.h"
 #include "rtf/reading/picture_scan.h"
 #include "rtf/words/control_words.h"
 #include "rtf/words/group_head.h"
@@ -15,7 +16,7 @@ namespace orvalis::rtf {
 namespace {
 
 /// Whether a shape has a text or a picture, of which only its reader knows what they show.
-bool mayShow(QByteArrayView shape) {
+bool holdsFigure(QByteArrayView shape) {
     return shape.contains("\\shptxt") || shape.contains("\\pict");
 }
 
@@ -41,17 +42,17 @@ private:
         m_scan.end = m_tokenizer.position();
         if (isWord && (token.word ? m_head.isHead() && hidesText(action) : m_head.isStarred())) {
             m_scan.holdsMore |= tellsOfDocument(action) || (action == Action::ShapeInstruction &&
-                                                            mayShow(m_tokenizer.groupAhead()));
+                                                            holdsFigure(m_tokenizer.groupAhead()));
+            if (action == Action::FieldInstruction &&
+                !fieldText(instructionText(m_tokenizer.groupAhead())).isEmpty())
+                mayShow();
             passGroup();
         } else if (m_head.isHead() && action == Action::PictureGroup) {
             if (hasPictureBytes(m_tokenizer.groupAhead()))
                 show();
             passGroup();
         } else if (m_head.isHead() && isFigure(token)) {
-            // Perhaps, as only its reader can tell.
-            const bool isCertain = m_scan.isCertain;
-            show();
-            m_scan.isCertain = isCertain;
+            mayShow();
             passGroup();
         } else {
             content(token, action);
@@ -71,9 +72,15 @@ private:
             m_scan.endsParagraph = endsParagraph;
     }
 
-    void show() {
-        m_scan.shows = m_scan.isCertain = true;
+    /// As only the reader can tell.
+    void mayShow() {
+        m_scan.shows = true;
         m_scan.endsParagraph = false;
+    }
+
+    void show() {
+        mayShow();
+        m_scan.isCertain = true;
     }
 
     /// Over the rest of the group.

@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/reading/field_scan.h"
 
+#include "rtf/characters/whole_characters.h"
+#include "rtf/reading/equation_text.h"
+#include "rtf/reading/symbol_field.h"
+
 #include "rtf/characters/code_page.h"
 #include "rtf/words/group_head.h"
 #include "rtf/words/tokenizer.h"
@@ -150,6 +154,12 @@ QString instructionText(QByteArrayView instruction) {
         text += QChar(char16_t(token.parameter));
         toSkip = 1;
     }
+    return text;
+}
+
+QString fieldText(const QString& instruction) {
+    QString text = wholeCharacters(equationText(instruction) + symbolFieldText(instruction));
+    text.removeIf([](QChar c) { return !standsInLine(c.unicode()); });
     return text;
 }
 

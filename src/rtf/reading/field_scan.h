@@ -20,6 +20,8 @@ FieldScan scanField(QByteArrayView content);
 
 /// The text of an instruction in the one spelling of what is kept (see kept_text.h).
 QString instructionText(QByteArrayView instruction);
+/// What an instruction holds to show, where its field brings no result.
+QString fieldText(const QString& instruction);
 /// The first word of a field's instruction, in capitals.
 QByteArray fieldName(QByteArrayView instruction);
 

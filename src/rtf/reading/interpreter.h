@@ -380,16 +380,16 @@ private:
     int m_boxPlace = 0;              ///< of the text that came last
     int m_picturePlace = NoPlace;    ///< of the picture that comes
     Group m_aroundPicture;
-    bool m_boxBegins = false;    ///< and ends what stands ahead of it in the paragraph
-    bool m_boxBehind = false;    ///< text of the paragraph that it stands in
-    bool m_boxEnded = false;     ///< and the paragraph has not
+    bool m_boxBegins = false; ///< and ends what stands ahead of it in the paragraph
+    bool m_boxBehind = false; ///< text of the paragraph that it stands in
+    bool m_boxEnded = false;  ///< and the paragraph has not
     /// Text of a shape in a cell. A line of the document holds all cells of a row, so that it gets
     /// no paragraphs of its own: it is a run that shows the shape, if text is all that it brings.
     struct LineBox {
         struct Piece {
             QString text;
             CharFormat look;
-            QString anchor; ///< in place of text
+            QString anchor;                      ///< in place of text
             std::optional<Picture> picture = {}; ///< the same
         };
 
@@ -400,11 +400,11 @@ private:
         size_t depth = 0;
         bool isOpen = false;      ///< and some of it has come
         bool inParagraph = false; ///< which something was in ahead of it
-        int linesDue = 0;    ///< that have ended since the last text
+        int linesDue = 0;         ///< that have ended since the last text
         std::vector<Piece> pieces;
     };
     LineBox m_lineBox;
-    QString m_anchorsAround;     ///< what comes with the paragraph that has the box ahead
+    QString m_anchorsAround; ///< what comes with the paragraph that has the box ahead
     bool m_pageBreakAround = false;
     /// A label that is told by its text.
     struct Label {
@@ -424,7 +424,7 @@ private:
     /// Of the instructions of fields that show what these hold, as they stand in each other.
     std::vector<std::optional<CharFormat>> m_fieldLooks;
     size_t m_fieldDepth = 0; ///< of the groups, where that field stands
-    QString m_shapeProperty;
+    QByteArray m_shapeProperty;
     ListLabel m_numbering;
     SymbolFont m_numberingSymbols = SymbolFont::None; ///< that the font of its bullet is
     bool m_numberingShows = false;                    ///< a number, and not the room for one alone

@@ -141,7 +141,7 @@ bool Interpreter::destinationWord(const Token& token) {
             skipGroup();
         return true;
     case Action::ShapePropertyValue:
-        if (m_state.destination == Destination::Shape && m_shapeProperty == u"pib")
+        if (m_state.destination == Destination::Shape && m_shapeProperty == "pib")
             openDestination(Destination::ShapePropertyValue);
         else
             skipGroup();
@@ -221,7 +221,7 @@ void Interpreter::closeDestination(Destination destination) {
         takeInstruction(captured);
         return;
     case Destination::ShapePropertyName:
-        m_shapeProperty = captured.trimmed();
+        m_shapeProperty = captured.toUtf8().trimmed();
         return;
     case Destination::Numbering:
         if (m_numbering.kind == ListKind::Bullet)

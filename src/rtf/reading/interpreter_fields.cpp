@@ -1,29 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
-#include "rtf/characters/whole_characters.h"
 #include "rtf/formats/hyperlink.h"
 #include "rtf/kept/kept_group.h"
 #include "rtf/kept/kept_text.h"
-#include "rtf/reading/equation_text.h"
 #include "rtf/reading/field_scan.h"
 #include "rtf/reading/form_field.h"
 #include "rtf/reading/interpreter.h"
-#include "rtf/reading/symbol_field.h"
 
 using namespace Qt::StringLiterals;
 
 namespace orvalis::rtf {
-
-namespace {
-
-/// What the instruction of a field that brings no result holds to show.
-QString shownBy(const QString& instruction) {
-    QString text = wholeCharacters(equationText(instruction) + symbolFieldText(instruction));
-    text.removeIf([](QChar c) { return !standsInLine(c.unicode()); });
-    return text;
-}
-
-} // namespace
 
 /// The instruction of a field goes with the text that shows it, within a paragraph; where nothing
 /// does, the field is kept at its place.
@@ -44,7 +30,7 @@ void Interpreter::keepField() {
     const QByteArray name = fieldName(written);
     const QString instruction = instructionText(written);
     const QString entry = name == "FORMDROPDOWN" ? chosenEntry(written) : QString();
-    const QString shown = scan.hasResult ? QString() : shownBy(instruction) + entry;
+    const QString shown = scan.hasResult ? QString() : fieldText(instruction) + entry;
     if (name.isEmpty() || !hyperlinkTarget(instruction).isEmpty())
         return;
     m_fieldDepth = 0;
@@ -91,7 +77,7 @@ void Interpreter::takeInstruction(const QString& instruction) {
         m_state.chars.link = m_names.link(target);
         m_state.chars.field = NothingKept;
     }
-    m_fieldText = shownBy(instruction);
+    m_fieldText = fieldText(instruction);
     if (!m_fieldLooks.empty() && !m_fieldLooks.back())
         m_fieldLooks.back() = m_captureFormat;
 }

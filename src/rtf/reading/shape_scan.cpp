@@ -62,7 +62,7 @@ private:
     };
     struct Shown {
         Piece piece;
-        qsizetype place = 0;       ///< behind the word of its group
+        qsizetype place = 0; ///< behind the word of its group
         bool isText = false;
         bool endsParagraph = false; ///< with its end
     };
@@ -154,8 +154,7 @@ private:
         if (action == Action::ShapeInstruction && within != Within::Value) {
             within = Within::Shape;
             m_property.clear();
-        }
-        else if (isValue && within == Within::Shape && m_property == ShownPicture)
+        } else if (isValue && within == Within::Shape && m_property == ShownPicture)
             within = Within::Value;
         else if (action != Action::ShapeProperty || within != Within::Shape)
             passGroup();
@@ -227,7 +226,8 @@ private:
 
     ShapeScan::Shows shows() const {
         // A box without text would add its paragraph to what is shown.
-        if ((m_perhaps && m_shown.size() > 1) || m_loose || (m_hasEmptyText && !m_shown.empty()) || m_content.contains(ShapePlace))
+        if ((m_perhaps && m_shown.size() > 1) || m_loose || (m_hasEmptyText && !m_shown.empty()) ||
+            m_content.contains(ShapePlace))
             return ShapeScan::Shows::More;
         if (m_shown.empty())
             return ShapeScan::Shows::Nothing;
@@ -267,7 +267,7 @@ private:
     Tokenizer m_tokenizer;
     GroupHead m_head{true};
     Within m_within = Within::Document; ///< the shape's own group
-    std::vector<Group> m_groups; ///< that are open
+    std::vector<Group> m_groups;        ///< that are open
     std::vector<Shown> m_shown;
     std::vector<Piece> m_others; ///< forms for readers that know no shapes
     QByteArray m_property;       ///< the name of the one that came last

@@ -74,6 +74,7 @@ private slots:
     void aRowAtTheEndOfABoxStaysTheLast();
     void pagesBehindARowThatNeverEndsStay();
     void aTabInACellIsText();
+    void aPictureThatIsAShapeStandsInItsCell();
     void aPartOfARowIsText();
     void wholeRowsOfAPartAreATable();
     void aTableInACellStaysOne();
@@ -361,6 +362,16 @@ void TableTest::aTabInACellIsText() {
     QCOMPARE(document.toPlainText(), QStringLiteral("a\tb\tc"));
     const QByteArray rtf = written(document);
     QVERIFY2(rtf.contains("a\\tab b\\cell\r\n\\pard\\intbl c\\cell\\row"), rtf);
+}
+
+void TableTest::aPictureThatIsAShapeStandsInItsCell() {
+    QTextDocument document;
+    readRtf(file("\\trowd\\cellx99\\cellx200\\intbl a\\cell{\\shp{\\*\\shpinst{\\sp{\\sn pib}"
+                 "{\\sv{\\pict\\pngblip 89504e47}}}}}\\cell\\row"),
+            document);
+    QCOMPARE(document.toPlainText(), QStringLiteral("a\t\ufffc"));
+    QCOMPARE(writeRtf(document).count("\\cell\r"), 1);
+    QVERIFY(writeRtf(document).contains("\\cell\\row"));
 }
 
 void TableTest::aPartOfARowIsText() {

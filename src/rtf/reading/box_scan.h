@@ -11,6 +11,7 @@ struct BoxScan {
     bool shows = false;         ///< it has anything to show
     bool isCertain = false;     ///< that it shows, and not only perhaps
     bool shapes = false;        ///< it ends paragraphs, or shapes rows
+    bool endsSection = false;   ///< one of the document
     bool holdsMore = false;     ///< that may show, or tells of the document
     bool endsParagraph = false; ///< its last paragraph has a word that ends it
     qsizetype end = 0;          ///< of what belongs to it

@@ -232,7 +232,10 @@ void Interpreter::finish() {
     flushPending();
     dissolveLineBox();
     if (m_state.destination == Destination::Picture) {
-        m_state.destination = Destination::Body;
+        while (m_state.destination == Destination::Picture && !m_groups.empty()) {
+            m_state = std::move(m_groups.back());
+            m_groups.pop_back();
+        }
         deliverPicture();
     }
     cellTabs(m_cellsEnded.size());

@@ -39,7 +39,7 @@ bool Interpreter::destinationWord(const Token& token) {
         skipGroup();
         return true;
     case Action::Generator:
-        m_nameless = false;
+        m_nameless = m_nameless && m_headEnded;
         skipGroup();
         return true;
     case Action::KeepGroup:
@@ -116,10 +116,11 @@ bool Interpreter::destinationWord(const Token& token) {
         return true;
     case Action::ShapeInstruction:
         // A group of shapes holds further ones in its own instruction.
-        if (m_state.destination == Destination::Shape)
-            openDestination(Destination::Shape);
-        else
-            openInBody(Destination::Shape);
+        if (!inBody && m_state.destination != Destination::Shape) {
+            skipGroup();
+            return true;
+        }
+        openDestination(Destination::Shape);
         m_shapeProperty.clear();
         return true;
     case Action::ShapeText:

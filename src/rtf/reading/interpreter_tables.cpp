@@ -186,11 +186,14 @@ QString Interpreter::listInCell() {
 void Interpreter::cellTabs(size_t count) {
     const std::vector<CharFormat> looks = std::exchange(m_cellsEnded, {});
     const CharFormat around = m_state.chars;
+    // A picture may follow from within what tells of its shape.
+    const Destination destination = std::exchange(m_state.destination, Destination::Body);
     for (size_t i = 0; i < std::min(count, looks.size()); ++i) {
         m_state.chars = looks[i];
         append(u"\t");
     }
     m_state.chars = around;
+    m_state.destination = destination;
     if (count == looks.size())
         anchorBehindCells();
 }

@@ -11,6 +11,16 @@
 
 namespace orvalis::rtf {
 
+namespace {
+
+/// Whether a group with this head, in a picture, has no bytes of it.
+bool opensOther(Action head) {
+    return hidesText(head) || head == Action::PictureGroup || head == Action::UnicodePair ||
+           head == Action::ShapeText;
+}
+
+} // namespace
+
 bool hasPictureBytes(QByteArrayView content) {
     Tokenizer tokenizer(content);
     GroupHead head(false);
@@ -20,7 +30,7 @@ bool hasPictureBytes(QByteArrayView content) {
         head.take(token);
         const bool isWord = token.kind == TokenKind::Word;
         const Action action = isWord && token.word ? token.word->action : Action::Version;
-        if (isWord && (token.word ? head.isHead() && ownsGroup(action) : head.isStarred())) {
+        if (isWord && (token.word ? head.isHead() && opensOther(action) : head.isStarred())) {
             tokenizer.skipGroup();
             head.leave();
         }

@@ -221,12 +221,12 @@ private:
         if (!box.shows)
             return;
         m_shown.push_back({{from, from + box.end}, from, true, box.endsParagraph});
-        m_perhaps |= !box.isCertain;
+        m_isOdd |= !box.isCertain || box.endsSection;
     }
 
     ShapeScan::Shows shows() const {
         // A box without text would add its paragraph to what is shown.
-        if ((m_perhaps && m_shown.size() > 1) || m_loose || (m_hasEmptyText && !m_shown.empty()) ||
+        if ((m_isOdd && m_shown.size() > 1) || m_loose || (m_hasEmptyText && !m_shown.empty()) ||
             m_content.contains(ShapePlace))
             return ShapeScan::Shows::More;
         if (m_shown.empty())
@@ -272,8 +272,8 @@ private:
     std::vector<Piece> m_others; ///< forms for readers that know no shapes
     QByteArray m_property;       ///< the name of the one that came last
     bool m_hasEmptyText = false; ///< one that has paragraphs all the same
-    bool m_perhaps = false;      ///< of one that is shown nobody knows whether it is
-    bool m_loose = false;        ///< something shows that stands in no part of a shape
+    bool m_isOdd = false; ///< a text that may show nothing, or ends a section: it must be alone
+    bool m_loose = false; ///< something shows that stands in no part of a shape
 };
 
 } // namespace

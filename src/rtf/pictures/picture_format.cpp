@@ -169,7 +169,10 @@ void showFallback(QTextDocument& document, const Picture& fallback, MetafileConv
     if (kindOfBytes(fallback.bytes) != PictureKind::Wmf)
         return;
     box.setProperty(PictureFallback, fallback.bytes);
-    const QTextImageFormat drawn = pictureFormat(document, fallback, converter, bounds);
+    Picture metafile = fallback; // as which it is written, whatever its words say
+    metafile.kind = PictureKind::Wmf;
+    metafile.mapMode = Picture().mapMode;
+    const QTextImageFormat drawn = pictureFormat(document, metafile, converter, bounds);
     if (drawn.boolProperty(PictureIsBox))
         return;
     const Picture own = sourceOf(box);

@@ -2,34 +2,25 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/writer.h"
 
-#include "rtf/formats/block_formats.h"
-#include "rtf/formats/list_formats.h"
-#include "rtf/formats/stated.h"
-#include "rtf/formats/text_formats.h"
 #include "rtf/kept/kept_parts.h"
 #include "rtf/kept/kept_text.h"
 #include "rtf/pictures/picture_format.h"
 #include "rtf/writing/body_writer.h"
-#include "rtf/writing/lists_by_text.h"
+#include "rtf/writing/document_formats.h"
 #include "rtf/writing/row_scan.h"
 
 #include <QSet>
 #include <QTextBlock>
 #include <QTextDocument>
-#include <QTextList>
 
 #include <algorithm>
 #include <limits>
 #include <optional>
-#include <unordered_map>
 #include <vector>
 
 namespace orvalis::rtf {
 
 namespace {
-
-/// Of paragraphs, remembered at a time: more than a text of people has.
-constexpr size_t MostShapes = 256;
 
 /// Walks through a part of a document and tells the body writer what stands there.
 class DocumentWalk {
@@ -41,12 +32,10 @@ public:
         , m_progress(progress)
         , m_isWhole(from == 0 && to == document.characterCount() - 1)
         , m_tellAt(progress ? from : std::numeric_limits<int>::max())
-        , m_defaultTab(qRound(document.defaultTextOption().tabStopDistance() * TwipsPerPixel)) {
-        const KeptParts parts = keptParts(document);
-        m_body.expect(parts, document.defaultFont().family());
+        , m_defaultTab(qRound(document.defaultTextOption().tabStopDistance() * TwipsPerPixel))
+        , m_body(keptParts(document), document.defaultFont().family())
+        , m_formats(document, m_body.names(), m_body.unnamedFamily()) {
         m_bareCell = m_body.names().kept(BareCell.toString());
-        m_hasStyles = !parts.styles.isEmpty();
-        m_countedOfCharacters = stated::countedOfCharacters(m_hasStyles, parts.defaultFont);
         if (m_isWhole)
             m_text = document.toRawText();
     }
@@ -97,16 +86,16 @@ private:
         if (position < m_rowsToldTo)
             return 0;
         m_tornIsEmpty = false;
-        const ParagraphFormat begin = shape(first);
+        const ParagraphFormat begin = m_formats.shapeOf(first);
         if (begin.row == NothingKept || !begin.rowBegins || position < m_from)
             return 0;
         RowScan scan(m_body.names());
         int end = position;
         for (QTextBlock block = first; block.isValid(); block = block.next()) {
-            const ParagraphFormat& line = shape(block);
-            if (scan.lines() > 0 && (line.row == NothingKept || line.rowBegins ||
-                                     line.section != NothingKept || line.box != begin.box ||
-                                     line.boxPlace != begin.boxPlace))
+            const ParagraphFormat& line = m_formats.shapeOf(block);
+            if (scan.lines() > 0 &&
+                (line.row == NothingKept || line.rowBegins || line.section != NothingKept ||
+                 line.box != begin.box || line.boxPlace != begin.boxPlace))
                 break;
             scan.line(line, block.length() == 1);
             for (auto it = block.begin(); !it.atEnd(); ++it)
@@ -126,13 +115,13 @@ private:
 
     /// Whether the run is tabs that end cells.
     bool endsCells(const QTextFragment& run) {
-        const int cell = lookOf(run).cell;
+        const int cell = m_formats.lookOf(run).cell;
         return cell != NothingKept && cell != m_bareCell && run.text().count(u'\t') == run.length();
     }
 
     /// How deep the table is nested whose cells end with the run.
     int nestingOf(const QTextFragment& run) {
-        return nestingOfCell(m_body.names().keptAt(lookOf(run).cell));
+        return nestingOfCell(m_body.names().keptAt(m_formats.lookOf(run).cell));
     }
 
     /// Whether the run is tabs that are told as the ends of cells, as all of their table is there.
@@ -142,12 +131,12 @@ private:
 
     // Positions are counted along the way: a block and a fragment find theirs only by a search.
     void paragraph(const QTextBlock& block, int position) {
-        const ParagraphFormat& own = shape(block);
+        const ParagraphFormat& own = m_formats.shapeOf(block);
         const bool isPicture = own.box != NothingKept && m_body.isPictureOfBox(own);
         if (isPicture && pictureOfBox(block, position))
             return;
         if (own.row == NothingKept && !isPicture) {
-            m_body.beginParagraph(own, number(block));
+            m_body.beginParagraph(own, m_formats.numberOf(block));
         } else {
             ParagraphFormat torn = own;
             if (isPicture) // to which somebody has added text
@@ -159,7 +148,7 @@ private:
             torn.nestedRow = NothingKept;
             // Some readers leave out what stands between the rows of a table.
             torn.inTable = m_tornIsEmpty && m_body.hasRows(own);
-            m_body.beginParagraph(torn, number(block));
+            m_body.beginParagraph(torn, m_formats.numberOf(block));
         }
         m_inCell = false;
         runs(block, position, [](const QTextFragment&, int) { return false; });
@@ -172,7 +161,7 @@ private:
             return false;
         const QTextImageFormat image = block.begin().fragment().charFormat().toImageFormat();
         return image.isValid() &&
-               m_body.pictureOfBox(shape(block), pictureOfFormat(m_document, image));
+               m_body.pictureOfBox(m_formats.shapeOf(block), pictureOfFormat(m_document, image));
     }
 
     /// A line of the document that holds cells of a row.
@@ -180,7 +169,7 @@ private:
         const bool last = line == m_row->lines() - 1;
         const bool nests = m_row->nestedAreWhole() && !last;
         const bool endsNested = nests && m_row->endsNested(line);
-        ParagraphFormat own = shape(block);
+        ParagraphFormat own = m_formats.shapeOf(block);
         own.inTable = true;
         const int nestedRow = std::exchange(own.nestedRow, NothingKept);
         if (!nests)
@@ -196,7 +185,7 @@ private:
         std::vector<int> shapes;
         for (auto it = block.begin(); !it.atEnd(); ++it)
             if (const QTextFragment run = it.fragment(); endsToldCells(run))
-                shapes.insert(shapes.end(), size_t(run.length()), lookOf(run).cell);
+                shapes.insert(shapes.end(), size_t(run.length()), m_formats.lookOf(run).cell);
         if (last || endsNested)
             leaveOutLabel(own, shapes.empty());
         else
@@ -207,7 +196,8 @@ private:
             if (cell < shapes.size())
                 m_body.beginCell(shapes[cell++], anchors);
             else
-                m_body.beginParagraph(own, own.list.kind == ListKind::None ? 0 : number(block));
+                m_body.beginParagraph(
+                    own, own.list.kind == ListKind::None ? 0 : m_formats.numberOf(block));
         };
         beginCell(own.anchors);
         m_inCell = true;
@@ -215,7 +205,7 @@ private:
             if (!endsToldCells(run))
                 return false;
             for (int mark = 1; mark <= run.length(); ++mark) {
-                m_body.endCell(lookOf(run));
+                m_body.endCell(m_formats.lookOf(run));
                 beginCell(mark == run.length() ? anchors : NothingKept);
             }
             return true;
@@ -232,14 +222,7 @@ private:
         if (!isInList(kept))
             return;
         paragraph.kept = m_body.names().kept(withoutListOfCell(kept));
-        tellWhatCounts(paragraph);
-    }
-
-    /// A list tells what the words of its items leave out.
-    void tellWhatCounts(ParagraphFormat& paragraph) {
-        const bool inLists =
-            paragraph.list.isInTables() || isInList(m_body.names().keptAt(paragraph.kept));
-        paragraph.stated = stated::by(paragraph, stated::countedOfParagraphs(m_hasStyles, inLists));
+        m_formats.tellWhatCounts(paragraph);
     }
 
     /// What ends a row is no item of a list any more where that is read.
@@ -272,7 +255,7 @@ private:
             if (start >= end)
                 continue;
             empty = false;
-            CharFormat look = lookOf(fragment);
+            CharFormat look = m_formats.lookOf(fragment);
             if (look.anchors != NothingKept) {
                 if (ends.isEmpty())
                     ends = anchorEnds(it, at - length);
@@ -292,7 +275,7 @@ private:
             }
             if (shown.end > 0)
                 look.field = NothingKept;
-            if (m_isImage[size_t(fragment.charFormatIndex())]) {
+            if (m_formats.isImage(fragment)) {
                 const Picture picture =
                     pictureOfFormat(m_document, fragment.charFormat().toImageFormat());
                 for (int i = start; i < end; ++i)
@@ -302,7 +285,7 @@ private:
             }
         }
         if (empty) {
-            const CharFormat mark = format(block.charFormat());
+            const CharFormat mark = m_formats.look(block.charFormat());
             m_body.endParagraph(&mark);
         } else {
             m_body.endParagraph(nullptr);
@@ -319,12 +302,12 @@ private:
     /// \param it the first run of a field.
     /// \param at where it begins in the paragraph.
     Shown shownFrom(QTextBlock::iterator it, int at, QStringView text, int position) {
-        Shown shown{lookOf(it.fragment()).field};
+        Shown shown{m_formats.lookOf(it.fragment()).field};
         const std::optional<QString> all = m_body.shownBy(shown.field);
         if (!all)
             return shown;
         shown.end = at;
-        for (; !it.atEnd() && lookOf(it.fragment()).field == shown.field; ++it)
+        for (; !it.atEnd() && m_formats.lookOf(it.fragment()).field == shown.field; ++it)
             shown.end += it.fragment().length();
         const bool isWhole = position + at >= m_from && position + shown.end <= m_to;
         shown.stays = isWhole && text.sliced(at, shown.end - at) == *all &&
@@ -348,7 +331,7 @@ private:
         for (; !it.atEnd(); ++it) {
             const QTextFragment fragment = it.fragment();
             at += fragment.length();
-            if (const int anchors = lookOf(fragment).anchors; anchors != NothingKept)
+            if (const int anchors = m_formats.lookOf(fragment).anchors; anchors != NothingKept)
                 ends.insert(anchors, at);
         }
         return ends;
@@ -362,57 +345,6 @@ private:
         return true;
     }
 
-    CharFormat format(const QTextCharFormat& from) {
-        CharFormat format = charFormat(from, m_body.names(), m_document.defaultFont());
-        format.stated = stated::by(format, m_countedOfCharacters, m_body.unnamedFamily());
-        return format;
-    }
-
-    // Documents share their formats among the runs, and so does the work on them.
-    const CharFormat& lookOf(const QTextFragment& fragment) {
-        const auto at = size_t(fragment.charFormatIndex());
-        if (at >= m_known.size()) {
-            m_known.resize(at + 1);
-            m_formats.resize(at + 1);
-            m_isImage.resize(at + 1);
-        }
-        if (!m_known[at]) {
-            const QTextCharFormat from = fragment.charFormat();
-            m_known[at] = true;
-            m_isImage[at] = from.isImageFormat();
-            m_formats[at] = format(from);
-        }
-        return m_formats[at];
-    }
-
-    // And so do paragraphs. A list is named by the format of its items.
-    const ParagraphFormat& shape(const QTextBlock& block) {
-        const bool isEmpty = block.length() == 1;
-        const int key = 2 * block.blockFormatIndex() + (isEmpty ? 1 : 0);
-        const auto known = m_shapes.find(key);
-        if (known != m_shapes.end())
-            return known->second;
-        if (m_shapes.size() >= MostShapes)
-            m_shapes.clear();
-        ParagraphFormat& shape = m_shapes[key];
-        shape = paragraphFormat(block.blockFormat(), block.textList(), m_document.indentWidth(),
-                                m_body.names());
-        // There is no place behind the text of a paragraph that has none.
-        if (isEmpty)
-            shape.afterAhead = NoLength;
-        ListLabel& list = shape.list;
-        if (list.source == ListSource::Text && !m_listsByText.tells(*block.textList()))
-            list.source = ListSource::Made;
-        tellWhatCounts(shape);
-        return shape;
-    }
-
-    // Counted along the way: a list finds the number of an item only by going through all of them.
-    int number(const QTextBlock& block) {
-        const ListLabel& label = shape(block).list;
-        return label.kind == ListKind::None ? 0 : m_items[block.textList()]++ + label.start;
-    }
-
     const QTextDocument& m_document;
     int m_from;
     int m_to;
@@ -421,20 +353,13 @@ private:
     QString m_text; ///< of the document, or of the paragraph
     int m_tellAt;   ///< the place behind which the progress is told next
     int m_defaultTab;
-    bool m_hasStyles = false;
-    int m_countedOfCharacters = 0; ///< what counts of what is stated
     BodyWriter m_body;
-    std::vector<char> m_known;
-    std::vector<CharFormat> m_formats;
-    std::vector<char> m_isImage;
+    DocumentFormats m_formats;
     int m_rowsToldTo = 0; ///< torn rows reach up to there
     bool m_tornIsEmpty = false;
     bool m_inCell = false; ///< the paragraph that is written
     int m_bareCell = NothingKept;
-    std::optional<RowScan> m_row;                      ///< that is written
-    std::unordered_map<int, ParagraphFormat> m_shapes; ///< by the index of the format
-    QHash<const QTextList*, int> m_items;
-    ListsByText m_listsByText;
+    std::optional<RowScan> m_row; ///< that is written
     QSet<int> m_anchorsWritten;
 };
 

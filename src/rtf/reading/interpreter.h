@@ -161,17 +161,19 @@ private:
     void beginText();
     void flushText();
     void giveText();
-    void paragraphEnd();
-    void pageEnd();
-    void showStart(ListLabel& list) const;
-    const ParagraphFormat& shapedParagraph();
-    int lookOfParagraphMark();
     bool shows() const {
         return m_state.destination == Destination::Body && !m_state.deleted &&
                !(m_state.indexEntry && m_state.chars.hidden);
     }
     bool captures() const;
     const CodePage& pageOfText() const;
+
+    // Paragraphs (interpreter_paragraphs.cpp)
+    void paragraphEnd();
+    void pageEnd();
+    void showStart(ListLabel& list) const;
+    const ParagraphFormat& shapedParagraph();
+    int lookOfParagraphMark();
 
     // Properties (interpreter_properties.cpp)
     bool characterWord(const Token& token);
@@ -273,6 +275,7 @@ private:
     void keepShape(const Token& token);
     void keepFormula();
     void expectBox();
+    void expectBoxAt(int place);
     int placeHere() const;
     void beginPictureOfBox();
     void endPictureOfBox();
@@ -282,11 +285,13 @@ private:
     bool endsBehindBox();
     void shapeBesideBox();
     void anchorFrame(QString frame);
+    void showPicture(const Picture& picture, const CharFormat& look);
+
+    // Shapes in cells (interpreter_line_boxes.cpp)
     void expectLineBox(const Token& token, const FileTables& tables);
     void beginLineBox();
     void endLineBox();
     void dissolveLineBox();
-    void showPicture(const Picture& picture, const CharFormat& look);
 
     // Pictures (interpreter_pictures.cpp)
     bool pictureWord(const Token& token);

@@ -6,7 +6,6 @@
 #include "rtf/reading/formula_text.h"
 #include "rtf/reading/interpreter.h"
 #include "rtf/reading/shape_scan.h"
-#include "rtf/writing/look_words.h"
 
 #include <algorithm>
 #include <utility>
@@ -91,9 +90,11 @@ void Interpreter::expectBox() {
     // Each text of a shape has lines of its own.
     if (m_lineBox.isOpen)
         m_lineBox.linesDue = std::max(m_lineBox.linesDue, 1);
-    const int place = placeHere();
-    if (place == NoPlace)
-        return;
+    if (const int place = placeHere(); place != NoPlace)
+        expectBoxAt(place);
+}
+
+void Interpreter::expectBoxAt(int place) {
     m_boxPlace = place;
     m_boxDepth = m_groups.size();
     m_labelAround = std::exchange(m_label, {});
@@ -104,8 +105,9 @@ void Interpreter::expectBox() {
 int Interpreter::placeHere() const {
     if (m_state.box == NothingKept || m_boxDepth > 0)
         return NoPlace;
-    const auto found = std::find(m_places.begin(), m_places.end(), m_tokenizer.position());
-    return found == m_places.end() ? NoPlace : int(found - m_places.begin());
+    const qsizetype here = m_tokenizer.position();
+    const auto found = std::lower_bound(m_places.begin(), m_places.end(), here);
+    return found == m_places.end() || *found != here ? NoPlace : int(found - m_places.begin());
 }
 
 /// A picture beside the texts of a shape is a paragraph of its own, of no shape.
@@ -115,10 +117,7 @@ void Interpreter::beginPictureOfBox() {
     m_state.keptOfParagraph = 0;
     m_state.inTable = false;
     m_state.listOverride = NoList;
-    m_boxPlace = m_picturePlace;
-    m_boxDepth = m_groups.size();
-    m_labelAround = std::exchange(m_label, {});
-    m_rowsAround = std::exchange(m_rows, {});
+    expectBoxAt(m_picturePlace);
 }
 
 void Interpreter::endPictureOfBox() {
@@ -201,96 +200,6 @@ void Interpreter::shapeBesideBox() {
     m_shaped.pageWord = PageWord::OfParagraph;
     m_shaped.list = {};
     m_shaped.mark = NothingKept;
-}
-
-void Interpreter::expectLineBox(const Token& token, const FileTables& tables) {
-    const QByteArrayView content = m_tokenizer.groupAhead();
-    GroupKeeper keeper(content, tables);
-    keeper.beginIn(*m_state.page, m_state.symbols);
-    const QString kept = keeper.kept("{\\", token.bytes, m_keptLeft);
-    if (kept.isEmpty())
-        return;
-    m_lineBox.word = token.bytes;
-    m_lineBox.content = content;
-    // Its text looks as what is around it, until it says otherwise.
-    m_lineBox.kept = u'{' + keptLook(told(m_state.chars), m_names) + kept + u'}';
-    m_lineBox.depth = m_groups.size();
-    m_lineBox.page = m_documentPage;
-    m_keptLeft -= m_lineBox.kept.size();
-    m_labelAround = std::exchange(m_label, {});
-    m_rowsAround = std::exchange(m_rows, {});
-}
-
-/// What stands ahead of it is told by now.
-void Interpreter::beginLineBox() {
-    if (m_lineBox.isOpen)
-        return;
-    const size_t depth = std::exchange(m_lineBox.depth, 0);
-    cellTabs(m_cellsEnded.size());
-    flushText();
-    m_lineBox.depth = depth;
-    m_lineBox.isOpen = true;
-    m_lineBox.inParagraph = m_inParagraph;
-}
-
-void Interpreter::endLineBox() {
-    const auto isByNumber = [](const LineBox::Piece& piece) { return piece.look.byNumber; };
-    const bool hasLetters =
-        m_textFormat.byNumber ||
-        std::any_of(m_lineBox.pieces.begin(), m_lineBox.pieces.end(), isByNumber);
-    // What the copy does not tell.
-    if (m_documentPage != m_lineBox.page || (m_lineBox.isOpen && hasLetters)) {
-        dissolveLineBox();
-        return;
-    }
-    flushText();
-    const LineBox box = std::exchange(m_lineBox, {});
-    m_rows = std::exchange(m_rowsAround, {});
-    m_label = std::exchange(m_labelAround, {});
-    QString text;
-    for (const LineBox::Piece& piece : box.pieces)
-        text += piece.picture ? QString(QChar::ObjectReplacementCharacter) : piece.text;
-    if (text.isEmpty()) {
-        const QByteArray frame = scanShape(box.content).frame;
-        const FileTables tables = fileTables(m_fonts.usual());
-        anchorFrame(GroupKeeper(frame, tables).kept("{\\", box.word, m_keptLeft));
-        return;
-    }
-    m_keptLeft -= text.size();
-    const int field =
-        m_names.kept(QString::number(m_shapes) + NumberEnd + box.kept + NumberEnd + text);
-    for (LineBox::Piece piece : box.pieces) {
-        piece.look.field = field;
-        piece.look.link = NoName;
-        if (piece.picture)
-            showPicture(*piece.picture, piece.look);
-        else if (piece.anchor.isEmpty())
-            m_sink.text(piece.text, piece.look);
-    }
-}
-
-/// Something is in it that a run cannot show: it is text of the cell. The last of it still waits,
-/// as all text does.
-void Interpreter::dissolveLineBox() {
-    if (m_lineBox.depth == 0)
-        return;
-    if (m_lineBox.isOpen && m_lineBox.linesDue > 0)
-        prepareText();
-    const LineBox box = std::exchange(m_lineBox, {});
-    m_rows = std::exchange(m_rowsAround, {});
-    m_label = std::exchange(m_labelAround, {});
-    bool inParagraph = box.inParagraph;
-    for (const LineBox::Piece& piece : box.pieces) {
-        if (!piece.anchor.isEmpty() && inParagraph)
-            m_sink.anchor(piece.anchor);
-        else if (!piece.anchor.isEmpty())
-            m_anchorsAtStart += piece.anchor;
-        else if (piece.picture)
-            showPicture(*piece.picture, piece.look);
-        else
-            m_sink.text(piece.text, piece.look);
-        inParagraph |= piece.anchor.isEmpty();
-    }
 }
 
 } // namespace orvalis::rtf

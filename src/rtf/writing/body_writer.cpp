@@ -18,14 +18,11 @@ constexpr int FactoryTab = 720; // twips, what every reader assumes
 
 } // namespace
 
-BodyWriter::BodyWriter()
+BodyWriter::BodyWriter(const KeptParts& parts, const QString& shownFamily)
     : m_paragraphs(m_out, m_tables) {
     // No text has this size, so that the first one tells its own.
     m_format.halfPoints = 0;
-}
-
-/// The font of text that names none is the first of the table, or none of it.
-void BodyWriter::expect(const KeptParts& parts, const QString& shownFamily) {
+    // The font of text that names none is the first of the table, or none of it.
     m_tables.expectOdd(parts.oddFamilies);
     const bool unsaid = parts.defaultFont == DefaultFont::Unsaid;
     if (parts.defaultFont == DefaultFont::Missing || (unsaid && parts.unnamedFamily.isEmpty())) {

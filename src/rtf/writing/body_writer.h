@@ -24,16 +24,14 @@ namespace orvalis::rtf {
 /// are put in front at the end.
 class BodyWriter {
 public:
-    BodyWriter();
+    /// \param parts what is kept of the document that it writes of.
+    /// \param shownFamily in which text shows that no font is known of.
+    BodyWriter(const KeptParts& parts, const QString& shownFamily);
     BodyWriter(const BodyWriter&) = delete;
     BodyWriter& operator=(const BodyWriter&) = delete;
 
     /// The families and links by which character formats are told.
     Names& names() { return m_tables.names(); }
-
-    /// Comes first, if at all: what is kept of the document that it writes of.
-    /// \param shownFamily in which text shows that no font is known of.
-    void expect(const KeptParts& parts, const QString& shownFamily);
 
     /// The family of text that names none.
     int unnamedFamily() const { return m_unnamedFamily; }
@@ -147,8 +145,8 @@ private:
         bool anyRow = false;
     };
     Around m_around;
-    int m_box = NothingKept;      ///< that is open
-    int m_boxPlace = 0;           ///< what is written of it, of all that its shape shows
+    int m_box = NothingKept; ///< that is open
+    int m_boxPlace = 0;      ///< what is written of it, of all that its shape shows
     Frame m_frame;
     bool m_boxIsEmpty = true;     ///< it has no characters by themselves
     bool m_goesOn = false;        ///< the paragraph, which stands behind a box in it

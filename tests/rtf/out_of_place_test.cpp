@@ -95,6 +95,7 @@ private slots:
     void aCharacterBeyondSixteenBitsIsKept();
     void aSignThatStandsForAnObjectIsKeptAsNone();
     void aTabIsNoFallbackAheadOfText();
+    void whatStandsForACharacterIsAsLongInAGroupThatIsKept();
     void theCodePageHoldsBehindTheGroupThatTellsIt();
     void anItemOfAListInACellWhoseRowNeverEndsShowsNoLabel();
     void anItemOfAListInACellAheadOfARowWithoutCellsIsText();
@@ -481,6 +482,14 @@ void OutOfPlaceTest::aTabIsNoFallbackAheadOfText() {
     QTextDocument document;
     readFile(document, "a{\\header\\u8364\\\tb}");
     QVERIFY(writeRtf(document).contains("{\\header\\'80b}"));
+}
+
+void OutOfPlaceTest::whatStandsForACharacterIsAsLongInAGroupThatIsKept() {
+    QTextDocument document;
+    readFile(document, "\\uc0 a{\\header\\u946 b}");
+    QVERIFY(writeRtf(document).contains("{\\header\\u946?b}"));
+    readFile(document, "\\uc2 a{\\header\\u946?!b}");
+    QVERIFY(writeRtf(document).contains("{\\header\\u946?b}"));
 }
 
 void OutOfPlaceTest::theCodePageHoldsBehindTheGroupThatTellsIt() {

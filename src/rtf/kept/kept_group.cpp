@@ -26,6 +26,7 @@ bool isSessionMark(QByteArrayView word) {
 GroupKeeper::GroupKeeper(QByteArrayView content, const FileTables& tables)
     : m_tokenizer(content)
     , m_tables(tables) {
+    m_state.unicodeSkip = tables.unicodeSkip;
     plain();
 }
 

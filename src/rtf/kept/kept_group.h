@@ -21,6 +21,7 @@ struct FileTables {
     const CodePage& page;
     const CodePage& usualPage; ///< of text that names no font
     SymbolFont usualSymbols;   ///< that its font is
+    int unicodeSkip = 1;       ///< bytes behind a character's number that stand for it
 };
 
 /// Copies a group of RTF in the one spelling of what is kept (see kept_text.h): what is copied and

@@ -161,8 +161,13 @@ FileTables Interpreter::fileTables(const FontTable::Font* usual) const {
     const bool hasPage =
         usual && usual->page && (isSaid || usual->page->symbols() == SymbolFont::None);
     const SymbolFont symbols = usual && isSaid ? usual->symbols : SymbolFont::None;
-    return {m_fonts, m_colors, m_names, *m_documentPage, hasPage ? *usual->page : *m_documentPage,
-            symbols};
+    return {m_fonts,
+            m_colors,
+            m_names,
+            *m_documentPage,
+            hasPage ? *usual->page : *m_documentPage,
+            symbols,
+            m_state.unicodeSkip};
 }
 
 void Interpreter::keepGroup(const Token& token) {

@@ -91,6 +91,7 @@ private slots:
     void aWordOfTheDocumentInAShapeIsToldOnce();
     void theNumberOfANoteInAShapeInACellIsText();
     void aPageToldInAShapeInACellMakesItText();
+    void aTableOfFontsInAShapeInACellMakesItText();
     void theTextOfAShapeInACellBeginsInThePageAroundIt();
     void aCharacterBeyondSixteenBitsIsKept();
     void aSignThatStandsForAnObjectIsKeptAsNone();
@@ -454,6 +455,14 @@ void OutOfPlaceTest::aPageToldInAShapeInACellMakesItText() {
     QTextDocument document;
     readFile(document, "\\trowd\\cellx99\\intbl{\\shp{\\shptxt\\ansicpg1251\\'e0}}\\cell\\row");
     QCOMPARE(document.toPlainText(), QString(QChar(0x430)));
+    QVERIFY(!writeRtf(document).contains("\\shp"));
+}
+
+void OutOfPlaceTest::aTableOfFontsInAShapeInACellMakesItText() {
+    QTextDocument document;
+    readFile(document,
+             "\\trowd\\cellx99\\intbl{\\shp{\\shptxt{\\fonttbl{\\f3 Three;}}\\f3 a}}\\cell\\row");
+    QCOMPARE(familyOf(document, QStringLiteral("a")), QStringLiteral("Three"));
     QVERIFY(!writeRtf(document).contains("\\shp"));
 }
 

@@ -34,6 +34,11 @@ bool Interpreter::destinationWord(const Token& token) {
         else
             skipGroup();
     };
+    const auto openTable = [&](Destination destination) {
+        if (inBody)
+            dissolveLineBox(); // it tells of the whole file
+        openInBody(destination);
+    };
     switch (action) {
     case Action::SkipGroup:
         skipGroup();
@@ -46,7 +51,7 @@ bool Interpreter::destinationWord(const Token& token) {
         keepGroup(token);
         return true;
     case Action::FontTable:
-        openInBody(Destination::FontTable);
+        openTable(Destination::FontTable);
         return true;
     case Action::FontPlainName:
         openDestination(Destination::PlainFontName);
@@ -56,13 +61,13 @@ bool Interpreter::destinationWord(const Token& token) {
             m_colors.clear();
             m_color = AutomaticColor;
         }
-        openInBody(Destination::ColorTable);
+        openTable(Destination::ColorTable);
         return true;
     case Action::ListTable:
-        openInBody(Destination::ListTable);
+        openTable(Destination::ListTable);
         return true;
     case Action::ListOverrideTable:
-        openInBody(Destination::ListOverrideTable);
+        openTable(Destination::ListOverrideTable);
         return true;
     case Action::PictureGroup:
         if (!inBody && m_state.destination != Destination::ShapePropertyValue) {

@@ -499,6 +499,9 @@ void OutOfPlaceTest::whatStandsForACharacterIsAsLongInAGroupThatIsKept() {
     QVERIFY(writeRtf(document).contains("{\\header\\u946?b}"));
     readFile(document, "\\uc2 a{\\header\\u946?!b}");
     QVERIFY(writeRtf(document).contains("{\\header\\u946?b}"));
+    // A word ends it, though it is left out.
+    readFile(document, "a{\\header\\u946\\deftab9 b}");
+    QVERIFY(writeRtf(document).contains("{\\header\\u946?b}"));
 }
 
 void OutOfPlaceTest::theCodePageHoldsBehindTheGroupThatTellsIt() {

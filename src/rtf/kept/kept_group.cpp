@@ -111,6 +111,8 @@ void GroupKeeper::closeGroup() {
 
 void GroupKeeper::word(const Token& token) {
     const Action action = token.word ? token.word->action : Action::Version;
+    if (action != Action::Character)
+        m_fallbackToSkip = 0;
     switch (action) {
     case Action::Unicode:
         unicode(toldCharacter(token));
@@ -159,7 +161,6 @@ void GroupKeeper::word(const Token& token) {
         selectFont(token);
         return;
     }
-    m_fallbackToSkip = 0;
     const bool isColor = action == Action::Color || action == Action::Highlight ||
                          (action == Action::Keep && keptWord(*token.word).kind == KeptKind::Color);
     if (isColor) {
@@ -184,7 +185,6 @@ QByteArray GroupKeeper::spelled(const Token& token) const {
 }
 
 void GroupKeeper::selectFont(const Token& token) {
-    m_fallbackToSkip = 0;
     const FontTable::Font* font =
         token.hasParameter ? m_tables.fonts.find(token.parameter) : nullptr;
     // In a font that is missing some readers show what they show in none other.

@@ -102,6 +102,10 @@ private slots:
     void anItemOfAListInACellAheadOfARowWithoutCellsIsText();
     void tabsInAFontThatIsNamedAsOneOfSignsAreTold();
     void aFieldShowsNothingThatNoLineHas();
+    void aFieldAheadOfTheFontsLooksAsTextThere();
+    void textForReadersOfUnicodeInAShapeIsNoFrame();
+    void aCellThatEndsABoxBesideAPictureIsText();
+    void theSideOfALabelOfAListThatNobodyKnowsIsNotTold();
 };
 
 void OutOfPlaceTest::theFontOfTextThatNamesNoneIsSettledWithTheFirstText() {
@@ -545,6 +549,31 @@ void OutOfPlaceTest::aFieldShowsNothingThatNoLineHas() {
     readFile(document, "{\\field{\\*\\fldinst EQ a\\u3?\\u0?b\\u-4?}}");
     QCOMPARE(document.toPlainText(), QStringLiteral("ab"));
     QVERIFY(writeRtf(document).contains("\\fldinst"));
+}
+
+void OutOfPlaceTest::aFieldAheadOfTheFontsLooksAsTextThere() {
+    QTextDocument document;
+    readRtf("{\\rtf1{\\field{\\fldinst EQ (a)}\\deff3{\\fonttbl{\\f3 Three;}}}b}", document);
+    QCOMPARE(document.toPlainText(), QStringLiteral("(a)b"));
+    QCOMPARE(familyOf(document, QStringLiteral("(a)")), QStringLiteral("Three"));
+}
+
+void OutOfPlaceTest::textForReadersOfUnicodeInAShapeIsNoFrame() {
+    QTextDocument document;
+    readFile(document, "a{\\shp\\shpinst{\\upr{{\\shptxt b}}}{\\sn pib}{\\sv{\\pict 0102}}}");
+    QVERIFY(document.toPlainText().contains(QChar::ObjectReplacementCharacter));
+}
+
+void OutOfPlaceTest::aCellThatEndsABoxBesideAPictureIsText() {
+    QTextDocument document;
+    readFile(document, "{\\shp\\shpinst{\\sn pib}{\\shptxt b\\row\\cell}{\\sv{\\pict 0102}}}");
+    QVERIFY(!writeRtf(document).contains("\\shp"));
+}
+
+void OutOfPlaceTest::theSideOfALabelOfAListThatNobodyKnowsIsNotTold() {
+    QTextDocument document;
+    readFile(document, "{\\pn\\pnqr\\pnlvlblt}\\ls1 a\\par{\\pn\\pnlvlblt}b");
+    QCOMPARE(document.firstBlock().textList(), document.lastBlock().textList());
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, OutOfPlaceTest)

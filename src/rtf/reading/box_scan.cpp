@@ -29,8 +29,8 @@ public:
         Token token;
         for (m_tokenizer.next(token); token.kind != TokenKind::End; m_tokenizer.next(token))
             take(token);
-        if (m_cellEnded)
-            m_scan.shows = m_scan.isCertain = true;
+        m_scan.shows |= m_cellEnded;
+        m_scan.endsCell = m_cellEnded;
         return m_scan;
     }
 
@@ -51,8 +51,9 @@ private:
             if (hasPictureBytes(m_tokenizer.groupAhead()))
                 show();
             passGroup();
-        } else if (m_head.isHead() && isFigure(token)) {
-            mayShow();
+        } else if (m_head.isHead() && (isFigure(token) || action == Action::UnicodePair)) {
+            if (isFigure(token) || m_tokenizer.groupAhead().contains("\\ud"))
+                mayShow();
             passGroup();
         } else {
             content(token, action);

@@ -12,6 +12,7 @@ struct BoxScan {
     bool isCertain = false;     ///< that it shows, and not only perhaps
     bool shapes = false;        ///< it ends paragraphs, or shapes rows
     bool endsSection = false;   ///< one of the document
+    bool endsCell = false;      ///< of a row that does not end in it
     bool holdsMore = false;     ///< that may show, or tells of the document
     bool endsParagraph = false; ///< its last paragraph has a word that ends it
     qsizetype end = 0;          ///< of what belongs to it

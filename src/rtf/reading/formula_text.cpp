@@ -3,6 +3,7 @@
 #include "rtf/reading/formula_text.h"
 
 #include "rtf/characters/code_page.h"
+#include "rtf/characters/symbol_font.h"
 #include "rtf/characters/whole_characters.h"
 #include "rtf/words/control_words.h"
 #include "rtf/words/tokenizer.h"
@@ -93,7 +94,8 @@ private:
     }
 
     void unit(char16_t unit) {
-        if (standsInLine(unit) && !isHidden())
+        // What a font of signs has at its bytes is a sign where it is read, and none here.
+        if (standsInLine(unit) && privateByte(unit) == 0 && !isHidden())
             m_text.append(QChar(unit));
     }
 

@@ -199,6 +199,7 @@ private:
             beginBox();
     }
     void settleHead();
+    void settleLook(CharFormat& look) const;
     void takeTextForSigns(SymbolFont font, const CodePage* page);
     void knowOfParagraphs();
     int known() const { return m_countedOfCharacters & stated::Knows; }
@@ -400,8 +401,7 @@ private:
 
         QByteArrayView word; ///< of the shape's group
         QByteArrayView content;
-        QString kept;                   ///< all of it, in the look of what is around it
-        const CodePage* page = nullptr; ///< of the document, ahead of it
+        QString kept; ///< all of it, in the look of what is around it
         size_t depth = 0;
         bool isOpen = false;      ///< and some of it has come
         bool inParagraph = false; ///< which something was in ahead of it

@@ -302,6 +302,7 @@ bool Interpreter::tableWord(const Token& token) {
 
 /// It holds from here on, whatever groups end.
 void Interpreter::setDocumentPage(int number) {
+    dissolveLineBox(); // whose copy does not tell it
     m_documentPage = &CodePage::forNumber(number);
     m_fonts.pageHasChanged();
     selectFont();

@@ -78,7 +78,7 @@ void Interpreter::takeInstruction(const QString& instruction) {
         m_state.chars.field = NothingKept;
     }
     m_fieldText = fieldText(instruction);
-    if (!m_fieldLooks.empty() && !m_fieldLooks.back())
+    if (!m_fieldLooks.empty() && !m_fieldLooks.back() && !instruction.isEmpty())
         m_fieldLooks.back() = m_captureFormat;
 }
 

@@ -13,8 +13,12 @@ void Interpreter::settleHead() {
     m_fonts.settleUsual();
     m_countedOfCharacters = stated::countedOfCharacters(m_stylesKept, m_fonts.saidOfUsual());
     knowOfParagraphs();
+    settleLook(m_captureFormat);
+    for (std::optional<CharFormat>& look : m_fieldLooks)
+        if (look)
+            settleLook(*look);
     const bool isUnnamed = (m_textFormat.stated & stated::Font) == 0;
-    m_textFormat.stated &= m_countedOfCharacters;
+    settleLook(m_textFormat);
     const auto hold = [this](Group& group) {
         for (int* said : {&group.chars.stated, &group.other.stated})
             *said &= m_countedOfCharacters;
@@ -27,9 +31,16 @@ void Interpreter::settleHead() {
     if (!isUnnamed)
         return;
     const bool isNamed = m_fonts.saidOfUsual() == DefaultFont::Named;
-    m_textFormat.family = isNamed ? m_fonts.usual()->family : NoName;
     if (isNamed && m_fonts.usual()->symbols != SymbolFont::None)
         takeTextForSigns(m_fonts.usual()->symbols, m_fonts.usual()->page);
+}
+
+void Interpreter::settleLook(CharFormat& look) const {
+    const bool isUnnamed = (look.stated & stated::Font) == 0;
+    const bool isNamed = m_fonts.saidOfUsual() == DefaultFont::Named;
+    look.stated &= m_countedOfCharacters;
+    if (isUnnamed)
+        look.family = isNamed ? m_fonts.usual()->family : NoName;
 }
 
 /// The text that came turns out to be in a font of signs: it is parted as it would be behind that.

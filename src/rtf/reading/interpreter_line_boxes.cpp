@@ -23,7 +23,6 @@ void Interpreter::expectLineBox(const Token& token, const FileTables& tables) {
     // Its text looks as what is around it, until it says otherwise.
     m_lineBox.kept = u'{' + keptLook(told(m_state.chars), m_names) + kept + u'}';
     m_lineBox.depth = m_groups.size();
-    m_lineBox.page = m_documentPage;
     m_keptLeft -= m_lineBox.kept.size();
     m_labelAround = std::exchange(m_label, {});
     m_rowsAround = std::exchange(m_rows, {});
@@ -34,9 +33,11 @@ void Interpreter::beginLineBox() {
     if (m_lineBox.isOpen)
         return;
     const size_t depth = std::exchange(m_lineBox.depth, 0);
+    const int linesDue = std::exchange(m_lineBox.linesDue, 0);
     cellTabs(m_cellsEnded.size());
     flushText();
     m_lineBox.depth = depth;
+    m_lineBox.linesDue = linesDue;
     m_lineBox.isOpen = true;
     m_lineBox.inParagraph = m_inParagraph;
 }
@@ -46,8 +47,7 @@ void Interpreter::endLineBox() {
     const bool hasLetters =
         m_textFormat.byNumber ||
         std::any_of(m_lineBox.pieces.begin(), m_lineBox.pieces.end(), isByNumber);
-    // What the copy does not tell.
-    if (m_documentPage != m_lineBox.page || (m_lineBox.isOpen && hasLetters)) {
+    if (m_lineBox.isOpen && hasLetters) { // which the copy does not tell
         dissolveLineBox();
         return;
     }

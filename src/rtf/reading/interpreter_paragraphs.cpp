@@ -109,8 +109,11 @@ const ParagraphFormat& Interpreter::shapedParagraph() {
         list = labelFromText(m_label.text, m_label.symbols, m_lastListKind);
     else if (m_state.listOverride != NoList && ofRow)
         list = {};
-    else if (m_state.listOverride != NoList) // which goes before the other, though nobody knows it
+    else if (m_state.listOverride != NoList) {
+        // Which goes before the other, though nobody knows it; the text tells of no side.
         list.source = ListSource::Text;
+        list.side = LabelSide::Left;
+    }
     showStart(list);
     m_lastListKind = m_shaped.list.kind;
     if (list.kind != ListKind::None && m_inParagraph && !m_boxBegins)

@@ -110,9 +110,10 @@ int Interpreter::placeHere() const {
     return found == m_places.end() || *found != here ? NoPlace : int(found - m_places.begin());
 }
 
-/// A picture beside the texts of a shape is a paragraph of its own, of no shape.
+/// A picture beside the texts of a shape is a paragraph of its own, of no shape and look.
 void Interpreter::beginPictureOfBox() {
     m_aroundPicture = m_state;
+    plainCharacters();
     m_state.paragraph = {};
     m_state.keptOfParagraph = 0;
     m_state.inTable = false;

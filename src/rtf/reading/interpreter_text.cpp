@@ -37,7 +37,7 @@ bool hasWord(char32_t code) {
 } // namespace
 
 bool Interpreter::isLetter(char32_t character) {
-    return privateByte(character) == 0 && !hasWord(character);
+    return character > u' ' && privateByte(character) == 0 && !hasWord(character);
 }
 
 /// A font of signs has few of the characters that words stand for. One that only is named as such,

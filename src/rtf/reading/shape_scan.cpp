@@ -93,7 +93,8 @@ private:
             return;
         case TokenKind::Word:
             m_loose |= token.word && shapesDocument(*token.word) && shownHere();
-            m_loose |= token.word && token.word->action == Action::Deleted;
+            m_loose |= token.word && (token.word->action == Action::Deleted ||
+                                      token.word->action == Action::UnicodePair);
             if (!m_groups.empty())
                 word(token);
             else if (token.word)
@@ -221,7 +222,7 @@ private:
         if (!box.shows)
             return;
         m_shown.push_back({{from, from + box.end}, from, true, box.endsParagraph});
-        m_isOdd |= !box.isCertain || box.endsSection;
+        m_isOdd |= !box.isCertain || box.endsSection || box.endsCell;
     }
 
     ShapeScan::Shows shows() const {
@@ -272,7 +273,8 @@ private:
     std::vector<Piece> m_others; ///< forms for readers that know no shapes
     QByteArray m_property;       ///< the name of the one that came last
     bool m_hasEmptyText = false; ///< one that has paragraphs all the same
-    bool m_isOdd = false; ///< a text that may show nothing, or ends a section: it must be alone
+    bool m_isOdd =
+        false; ///< a text that may show nothing, or ends what it has not begun: it must be alone
     bool m_loose = false; ///< something shows that stands in no part of a shape
 };
 

@@ -285,6 +285,9 @@ void DocumentSink::insertParagraph(const ParagraphFormat& paragraph, const CharF
         insertRuns(higherShape(paragraphShape(m_cursor.blockFormat()), shape.height));
     else
         insertRuns(shape.height);
+    // Nothing goes on behind a box where none of it has found room.
+    if (paragraph.goesOn && !first && isFull() && m_cursor.block().length() == 1)
+        m_cursor.deletePreviousChar();
     // It was told beside text that may not have found room.
     if (paragraph.mark != NothingKept && isFull() && !m_textBefore) {
         QTextBlockFormat cut = m_cursor.blockFormat();

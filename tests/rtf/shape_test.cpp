@@ -68,6 +68,7 @@ private slots:
     void aTextThatIsTakenOutOfAShapeLeavesTheOthersInIt();
     void aPictureOfAShapeThatGetsTextIsAParagraph();
     void aPictureWithoutBytesIsNoneOfAShape();
+    void anEmptyTextStaysBesideWhatAShapeShows();
     void aShapeOfManyTextsCostsNoMoreThanItsBytes();
     void looseTextOfAShapeIsShown();
     void aShapeKnowsWhichGroupsHideTheirText_data();
@@ -332,6 +333,19 @@ void ShapeTest::aPictureWithoutBytesIsNoneOfAShape() {
     QCOMPARE(textOf("a" + Frame + nothing + "}}b"), QStringLiteral("ab"));
     const QByteArray written = saved("word" + Frame + nothing + "{\\shptxt c}}}\\par");
     QVERIFY2(written.contains("deed" + Frame + nothing + "{\\shptxt"), written.constData());
+}
+
+void ShapeTest::anEmptyTextStaysBesideWhatAShapeShows() {
+    const QByteArray empty = "{\\shptxt\\pard\\plain\\par}";
+    const QByteArray text = "{\\shptxt\\plain\\pard\\f0 b\\par}";
+    const QByteArray boxes = "{\\shpgrp{\\*\\shpinst" + empty + text + empty + text + empty + "}}";
+    QCOMPARE(textOf("a" + boxes + "c"), QStringLiteral("a\nb\nb\nc"));
+    const QByteArray written = saved("word" + boxes + "c\\par");
+    QVERIFY2(written.contains("deed" + boxes + "c\\par"), written.constData());
+    const QByteArray picture =
+        Frame + "{\\sp{\\sn pib}{\\sv{\\pict\\pngblip " + pngBytes().toHex() + "}}}" + empty + "}}";
+    QCOMPARE(textOf("a" + picture + "c"), QStringLiteral("a\ufffcc"));
+    QVERIFY(saved("word" + picture + "\\par").contains("}}}" + empty + "}}\\par"));
 }
 
 void ShapeTest::aShapeOfManyTextsCostsNoMoreThanItsBytes() {

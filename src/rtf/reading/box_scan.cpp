@@ -65,7 +65,6 @@ private:
         const bool endsCell = action == Action::CellEnd;
         const bool shown = isCharacters(token) || (m_cellEnded && (endsCell || endsParagraph));
         m_cellEnded = (m_cellEnded || endsCell) && action != Action::RowEnd;
-        m_scan.shapes |= endsParagraph || endsOrShapes(action);
         m_scan.endsSection |= action == Action::SectionEnd;
         const bool isMark = token.kind == TokenKind::Word && token.bytes == ShownEmpty.sliced(1);
         if (shown || isMark)

@@ -10,7 +10,6 @@ namespace orvalis::rtf {
 struct BoxScan {
     bool shows = false;         ///< it has anything to show
     bool isCertain = false;     ///< that it shows, and not only perhaps
-    bool shapes = false;        ///< it ends paragraphs, or shapes rows
     bool endsSection = false;   ///< one of the document
     bool endsCell = false;      ///< of a row that does not end in it
     bool holdsMore = false;     ///< that may show, or tells of the document

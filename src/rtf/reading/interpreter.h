@@ -278,6 +278,7 @@ private:
     void expectBox();
     void expectBoxAt(int place);
     int placeHere() const;
+    bool isEmptyText() const;
     void beginPictureOfBox();
     void endPictureOfBox();
     void beginBox();

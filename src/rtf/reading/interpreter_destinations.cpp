@@ -129,7 +129,7 @@ bool Interpreter::destinationWord(const Token& token) {
         m_shapeProperty.clear();
         return true;
     case Action::ShapeText:
-        if (m_state.destination == Destination::Shape || inBody) {
+        if ((m_state.destination == Destination::Shape || inBody) && !isEmptyText()) {
             openDestination(Destination::Body);
             expectBox();
         } else {

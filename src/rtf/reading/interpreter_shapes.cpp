@@ -110,6 +110,13 @@ int Interpreter::placeHere() const {
     return found == m_places.end() || *found != here ? NoPlace : int(found - m_places.begin());
 }
 
+/// Whether the text whose word has come is one of those that show nothing, and are kept with what
+/// the shape shows.
+bool Interpreter::isEmptyText() const {
+    const bool besideBoxes = m_state.box != NothingKept && m_boxDepth == 0;
+    return m_state.frame != NothingKept || (besideBoxes && placeHere() == NoPlace);
+}
+
 /// A picture beside the texts of a shape is a paragraph of its own, of no shape and look.
 void Interpreter::beginPictureOfBox() {
     m_aroundPicture = m_state;

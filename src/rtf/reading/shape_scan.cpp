@@ -218,17 +218,14 @@ private:
         if (!isRead)
             return;
         m_loose |= !box.shows && box.holdsMore;
-        m_hasEmptyText |= !box.shows && box.shapes;
-        if (!box.shows)
+        if (!box.shows) // and stays in the frame
             return;
         m_shown.push_back({{from, from + box.end}, from, true, box.endsParagraph});
         m_isOdd |= !box.isCertain || box.endsSection || box.endsCell;
     }
 
     ShapeScan::Shows shows() const {
-        // A box without text would add its paragraph to what is shown.
-        if ((m_isOdd && m_shown.size() > 1) || m_loose || (m_hasEmptyText && !m_shown.empty()) ||
-            m_content.contains(ShapePlace))
+        if ((m_isOdd && m_shown.size() > 1) || m_loose || m_content.contains(ShapePlace))
             return ShapeScan::Shows::More;
         if (m_shown.empty())
             return ShapeScan::Shows::Nothing;
@@ -272,7 +269,6 @@ private:
     std::vector<Shown> m_shown;
     std::vector<Piece> m_others; ///< forms for readers that know no shapes
     QByteArray m_property;       ///< the name of the one that came last
-    bool m_hasEmptyText = false; ///< one that has paragraphs all the same
     bool m_isOdd =
         false; ///< a text that may show nothing, or ends what it has not begun: it must be alone
     bool m_loose = false; ///< something shows that stands in no part of a shape

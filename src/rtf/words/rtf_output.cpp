@@ -129,7 +129,8 @@ void RtfOutput::code(uchar byte) {
 
 void RtfOutput::numbers(QStringView characters) {
     for (const QChar c : characters) {
-        if (c == u'\t' || c == QChar::LineSeparator || c == QChar::ObjectReplacementCharacter) {
+        if (c == u' ' || c == u'\t' || c == QChar::LineSeparator ||
+            c == QChar::ObjectReplacementCharacter) {
             text(QStringView(&c, 1));
             continue;
         }

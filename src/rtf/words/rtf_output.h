@@ -30,7 +30,7 @@ public:
     }
     /// Text in code page 1252, with \u for the rest.
     void text(QStringView text);
-    /// Text as the numbers that Unicode gives its characters.
+    /// Text as the numbers that Unicode gives its characters, but blanks, which every font has.
     void numbers(QStringView text);
     /// Text of a font of signs, in that font's own bytes.
     void symbols(SymbolFont font, QStringView text);

@@ -103,6 +103,7 @@ private slots:
     void tabsInAFontThatIsNamedAsOneOfSignsAreTold();
     void aFieldShowsNothingThatNoLineHas();
     void aFieldAheadOfTheFontsLooksAsTextThere();
+    void aFieldLooksAsItsOwnInstruction();
     void textForReadersOfUnicodeInAShapeIsNoFrame();
     void aCellThatEndsABoxBesideAPictureIsText();
     void theSideOfALabelOfAListThatNobodyKnowsIsNotTold();
@@ -556,6 +557,12 @@ void OutOfPlaceTest::aFieldAheadOfTheFontsLooksAsTextThere() {
     readRtf("{\\rtf1{\\field{\\fldinst EQ (a)}\\deff3{\\fonttbl{\\f3 Three;}}}b}", document);
     QCOMPARE(document.toPlainText(), QStringLiteral("(a)b"));
     QCOMPARE(familyOf(document, QStringLiteral("(a)")), QStringLiteral("Three"));
+}
+
+void OutOfPlaceTest::aFieldLooksAsItsOwnInstruction() {
+    QTextDocument document;
+    readFile(document, "{\\field{\\field\\fldinst(}{\\fldinst EQ\\b (a)}}");
+    QVERIFY(document.find(QStringLiteral("(a)")).charFormat().fontWeight() == QFont::Bold);
 }
 
 void OutOfPlaceTest::textForReadersOfUnicodeInAShapeIsNoFrame() {

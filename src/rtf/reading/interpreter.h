@@ -427,9 +427,14 @@ private:
     CharFormat m_captureFormat;
     QString m_fieldText; ///< of a field that is not kept, to show where it brings no result
     int m_fields = 0;    ///< that are kept
-    /// Of the instructions of fields that show what these hold, as they stand in each other.
-    std::vector<std::optional<CharFormat>> m_fieldLooks;
-    size_t m_fieldDepth = 0; ///< of the groups, where that field stands
+    /// The look of the instruction of a field that shows what this holds.
+    struct FieldLook {
+        int fieldsAround = 0; ///< with the field
+        std::optional<CharFormat> look;
+    };
+    std::vector<FieldLook> m_fieldLooks; ///< as they stand in each other
+    int m_fieldsAroundInstruction = 0;   ///< that came last
+    size_t m_fieldDepth = 0;             ///< of the groups, where that field stands
     QByteArray m_shapeProperty;
     ListLabel m_numbering;
     SymbolFont m_numberingSymbols = SymbolFont::None; ///< that the font of its bullet is

@@ -106,6 +106,7 @@ bool Interpreter::destinationWord(const Token& token) {
         keepNestedRow();
         return true;
     case Action::FieldInstruction:
+        m_fieldsAroundInstruction = m_state.fieldsAround;
         openInBody(Destination::FieldInstruction);
         return true;
     case Action::UnicodePair:

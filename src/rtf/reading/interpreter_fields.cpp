@@ -45,7 +45,7 @@ void Interpreter::keepField() {
         m_state.chars.field = m_names.kept(field);
     } else {
         m_state.ownField = m_names.kept(field + NumberEnd + shown);
-        m_fieldLooks.emplace_back();
+        m_fieldLooks.push_back({m_state.fieldsAround, {}});
     }
 }
 
@@ -59,7 +59,7 @@ void Interpreter::fieldEnds() {
     if (own != NothingKept) {
         const QString kept = m_names.keptAt(own);
         text = *textShownBy(kept);
-        look = m_fieldLooks.back().value_or(m_state.chars);
+        look = m_fieldLooks.back().look.value_or(m_state.chars);
         m_fieldLooks.pop_back();
     }
     if (text.isEmpty() || !shows())
@@ -78,8 +78,10 @@ void Interpreter::takeInstruction(const QString& instruction) {
         m_state.chars.field = NothingKept;
     }
     m_fieldText = fieldText(instruction);
-    if (!m_fieldLooks.empty() && !m_fieldLooks.back() && !instruction.isEmpty())
-        m_fieldLooks.back() = m_captureFormat;
+    const bool isOwn =
+        !m_fieldLooks.empty() && m_fieldLooks.back().fieldsAround == m_fieldsAroundInstruction;
+    if (isOwn && !m_fieldLooks.back().look)
+        m_fieldLooks.back().look = m_captureFormat;
 }
 
 } // namespace orvalis::rtf

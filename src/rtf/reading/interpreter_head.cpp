@@ -14,9 +14,9 @@ void Interpreter::settleHead() {
     m_countedOfCharacters = stated::countedOfCharacters(m_stylesKept, m_fonts.saidOfUsual());
     knowOfParagraphs();
     settleLook(m_captureFormat);
-    for (std::optional<CharFormat>& look : m_fieldLooks)
-        if (look)
-            settleLook(*look);
+    for (FieldLook& field : m_fieldLooks)
+        if (field.look)
+            settleLook(*field.look);
     const bool isUnnamed = (m_textFormat.stated & stated::Font) == 0;
     settleLook(m_textFormat);
     const auto hold = [this](Group& group) {

@@ -391,7 +391,8 @@ private:
     bool m_boxBehind = false; ///< text of the paragraph that it stands in
     bool m_boxEnded = false;  ///< and the paragraph has not
     /// Text of a shape in a cell. A line of the document holds all cells of a row, so that it gets
-    /// no paragraphs of its own: it is a run that shows the shape, if text is all that it brings.
+    /// no paragraphs of its own: it is a run that shows the shape, if that brings text and pictures
+    /// alone.
     struct LineBox {
         struct Piece {
             QString text;

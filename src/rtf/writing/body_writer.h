@@ -44,7 +44,7 @@ public:
     /// Whether a shape has a picture where the paragraph stands, and no text.
     bool isPictureOfBox(const ParagraphFormat& paragraph) const;
     /// A paragraph that is such a picture.
-    /// \returns false where the shape has one by now, or cannot have this one.
+    /// \returns false where the shape has one by now.
     bool pictureOfBox(const ParagraphFormat& paragraph, const Picture& picture);
     /// What a field shows by itself, or a formula or a shape; nothing of a field that shows the
     /// text in it.

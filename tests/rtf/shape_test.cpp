@@ -1,52 +1,26 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
-#include "kept_file.h"
 #include "rtf/reader.h"
 #include "rtf/words/tokenizer.h"
 #include "rtf/writer.h"
-#include "sample_pictures.h"
+#include "sample_shapes.h"
 #include "support/test_main.h"
 
-#include <QBuffer>
 #include <QGuiApplication>
-#include <QImage>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 
 using namespace orvalis;
 using namespace orvalis::rtf;
+using orvalis::test::box;
 using orvalis::test::changedAndSaved;
 using orvalis::test::file;
+using orvalis::test::Frame;
+using orvalis::test::pngBytes;
+using orvalis::test::saved;
+using orvalis::test::textOf;
 using orvalis::test::withoutLineEnds;
-
-namespace {
-
-const QByteArray Frame =
-    "{\\shp{\\*\\shpinst\\shpleft10\\shpright90{\\sp{\\sn shapeType}{\\sv 202}}";
-
-QByteArray box(const QByteArray& text) {
-    return Frame + "{\\shptxt" + text + "}}}";
-}
-
-QByteArray pngBytes() {
-    QByteArray png;
-    QBuffer buffer(&png);
-    QImage(4, 3, QImage::Format_RGB32).save(&buffer, "PNG");
-    return png;
-}
-
-QString textOf(const QByteArray& body) {
-    QTextDocument document;
-    return readRtf(file(body), document).ok() ? document.toPlainText()
-                                              : QStringLiteral("cannot be read");
-}
-
-QByteArray saved(const QByteArray& body) {
-    return withoutLineEnds(changedAndSaved(file(body)));
-}
-
-} // namespace
 
 class ShapeTest : public QObject {
     Q_OBJECT

@@ -87,11 +87,12 @@ private:
         int listOverride = NoList;
         int listLevel = 0;
         int fieldsAround = 0;
-        int ownField = NothingKept; ///< the field that the group is, with the text that shows it
-        int box = NothingKept;      ///< the frame of the text box that the group is, or stands in
-        int ownBox = NothingKept;   ///< the same, of the shape that the group is
-        int frame = NothingKept;    ///< of the shape that shows a picture
-        int keptOfChars = 0;        ///< sets of m_kept
+        int ownField = NothingKept;  ///< the field that the group is, with the text that shows it
+        int fieldHead = NothingKept; ///< of a field that is the outer part of a shape
+        int box = NothingKept;       ///< the frame of the text box that the group is, or stands in
+        int ownBox = NothingKept;    ///< the same, of the shape that the group is
+        int frame = NothingKept;     ///< of the shape that shows a picture
+        int keptOfChars = 0;         ///< sets of m_kept
         int keptOfParagraph = 0;
         const ControlWord* border = nullptr;  ///< the one that was named last
         const ControlWord* script = nullptr;  ///< the same
@@ -232,6 +233,8 @@ private:
 
     // Fields (interpreter_fields.cpp)
     void keepField();
+    bool goesWithShape(QByteArrayView field, bool isLink) const;
+    QString inField(const QString& shape) const;
     void fieldEnds();
     void takeInstruction(const QString& instruction);
 

@@ -4,8 +4,10 @@
 #include "rtf/kept/kept_group.h"
 #include "rtf/kept/kept_text.h"
 #include "rtf/reading/field_scan.h"
+#include "rtf/reading/field_shape.h"
 #include "rtf/reading/form_field.h"
 #include "rtf/reading/interpreter.h"
+#include "rtf/reading/shape_scan.h"
 
 using namespace Qt::StringLiterals;
 
@@ -31,7 +33,15 @@ void Interpreter::keepField() {
     const QString instruction = instructionText(written);
     const QString entry = name == "FORMDROPDOWN" ? chosenEntry(written) : QString();
     const QString shown = scan.hasResult ? QString() : fieldText(instruction) + entry;
-    if (name.isEmpty() || !hyperlinkTarget(instruction).isEmpty())
+    if (name.isEmpty())
+        return;
+    const bool isLink = !hyperlinkTarget(instruction).isEmpty();
+    if (goesWithShape(m_tokenizer.groupAhead(), isLink)) {
+        m_state.fieldHead = m_names.kept(u"{\\field"_s + kept + u"{\\fldrslt"_s);
+        m_fieldDepth = 0;
+        return;
+    }
+    if (isLink)
         return;
     m_fieldDepth = 0;
     if (!scan.hasResult && shown.isEmpty()) {
@@ -47,6 +57,23 @@ void Interpreter::keepField() {
         m_state.ownField = m_names.kept(field + NumberEnd + shown);
         m_fieldLooks.push_back({m_state.fieldsAround, {}});
     }
+}
+
+/// Whether a field that shows one shape and nothing else is kept as its outer part. A picture is a
+/// character that the field can go with, and a link goes with the text of a shape.
+bool Interpreter::goesWithShape(QByteArrayView field, bool isLink) const {
+    const QByteArrayView shape = shapeOfField(field);
+    if (shape.isNull())
+        return false;
+    const ShapeScan::Shows shows = scanShape(shape).shows;
+    return shows == ShapeScan::Shows::Nothing ||
+           (shows == ShapeScan::Shows::Boxes && (!isLink || m_state.inTable));
+}
+
+QString Interpreter::inField(const QString& shape) const {
+    if (m_state.fieldHead == NothingKept || shape.isEmpty())
+        return shape;
+    return m_names.keptAt(m_state.fieldHead) + shape + u"}}"_s;
 }
 
 void Interpreter::fieldEnds() {

@@ -21,7 +21,7 @@ void Interpreter::expectLineBox(const Token& token, const FileTables& tables) {
     m_lineBox.word = token.bytes;
     m_lineBox.content = content;
     // Its text looks as what is around it, until it says otherwise.
-    m_lineBox.kept = u'{' + keptLook(told(m_state.chars), m_names) + kept + u'}';
+    m_lineBox.kept = u'{' + keptLook(told(m_state.chars), m_names) + inField(kept) + u'}';
     m_lineBox.depth = m_groups.size();
     m_keptLeft -= m_lineBox.kept.size();
     m_labelAround = std::exchange(m_label, {});
@@ -61,7 +61,7 @@ void Interpreter::endLineBox() {
     if (text.isEmpty()) {
         const QByteArray frame = scanShape(box.content).frame;
         const FileTables tables = fileTables(m_fonts.usual());
-        anchorFrame(GroupKeeper(frame, tables).kept("{\\", box.word, m_keptLeft));
+        anchorFrame(inField(GroupKeeper(frame, tables).kept("{\\", box.word, m_keptLeft)));
         return;
     }
     m_keptLeft -= text.size();

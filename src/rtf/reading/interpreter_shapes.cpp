@@ -32,17 +32,19 @@ void Interpreter::keepShape(const Token& token) {
     if (isFormula && inShape)
         return;
     const bool isBox = scan.shows == ShapeScan::Shows::Boxes;
-    // A field ends with its paragraph.
-    const bool inField = m_state.chars.link != NoName || m_state.chars.field != NothingKept;
     const FileTables tables = fileTables(m_fonts.usual());
-    if (m_state.inTable && !inField && isBox) {
+    if (isBox)
+        m_state.chars.field = NothingKept; // for that ends with its paragraph
+    if (m_state.inTable && isBox) {
         expectLineBox(token, tables);
         return;
     }
-    if (scan.shows == ShapeScan::Shows::More || (isBox && inField))
+    if (scan.shows == ShapeScan::Shows::More)
         return;
-    const QString kept = GroupKeeper(scan.frame, tables).kept("{\\", token.bytes, m_keptLeft);
+    QString kept = GroupKeeper(scan.frame, tables).kept("{\\", token.bytes, m_keptLeft);
     m_keptLeft -= kept.size();
+    if (!isPicture)
+        kept = inField(kept);
     if (kept.isEmpty())
         return;
     if (isPicture) {

@@ -107,6 +107,8 @@ private slots:
     void textForReadersOfUnicodeInAShapeIsNoFrame();
     void aCellThatEndsABoxBesideAPictureIsText();
     void theSideOfALabelOfAListThatNobodyKnowsIsNotTold();
+    void aShapeInACellKnowsTheLookOfTextBehindTheHead();
+    void aTabIsPartOfTheNameOfAProperty();
 };
 
 void OutOfPlaceTest::theFontOfTextThatNamesNoneIsSettledWithTheFirstText() {
@@ -581,6 +583,26 @@ void OutOfPlaceTest::theSideOfALabelOfAListThatNobodyKnowsIsNotTold() {
     QTextDocument document;
     readFile(document, "{\\pn\\pnqr\\pnlvlblt}\\ls1 a\\par{\\pn\\pnlvlblt}b");
     QCOMPARE(document.firstBlock().textList(), document.lastBlock().textList());
+}
+
+void OutOfPlaceTest::aShapeInACellKnowsTheLookOfTextBehindTheHead() {
+    const auto written = [](const QByteArray& ahead) {
+        QTextDocument document;
+        readRtf("{\\rtf1{\\stylesheet}" + ahead + "\\intbl{\\shp{\\shptxt b}}\\cell\\cellx1\\row}",
+                document);
+        return writeRtf(document);
+    };
+    const QByteArray look = "{\\plain{\\shp";
+    QVERIFY(written("a\\par").contains(look));
+    QVERIFY(written("\\intbl a").contains(look));
+}
+
+void OutOfPlaceTest::aTabIsPartOfTheNameOfAProperty() {
+    QTextDocument document;
+    readFile(document, "a{\\shp\\shpinst{\\sn pib\\tab}{\\sv{\\pict 0102}}}b");
+    QCOMPARE(document.toPlainText(), QStringLiteral("ab"));
+    readFile(document, "a{\\shp\\shpinst{\\sn pib }{\\sv{\\pict 0102}}}b");
+    QCOMPARE(document.toPlainText(), QStringLiteral("a\ufffcb"));
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, OutOfPlaceTest)

@@ -233,6 +233,8 @@ void SayingTest::wordsOfASideSayTheSameOfAllTextWhereNoSideIsNamed() {
 
 void SayingTest::aFileWithoutAWriterNamesNone() {
     QVERIFY(!changedAndSaved(file("word\\par")).contains("generator"));
+    const QByteArray field = "{\\field{\\fldrslt a}{\\*\\fldinst{\\generator A;}}}";
+    QVERIFY(!changedAndSaved(file("word" + field + "\\par")).contains("Orvalis"));
     QVERIFY(changedAndSaved(file("{\\*\\generator A;}word\\par"))
                 .contains("{\\*\\generator Orvalis;}"));
     QVERIFY(writeRtf(QTextDocument()).contains("{\\*\\generator Orvalis;}"));

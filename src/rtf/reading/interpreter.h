@@ -47,7 +47,6 @@ private:
         FieldInstruction,
         UnicodePair,
         Shape,
-        ShapePropertyName,
         ShapePropertyValue,
         Numbering,
         NumberingTextBefore,
@@ -293,7 +292,7 @@ private:
     void showPicture(const Picture& picture, const CharFormat& look);
 
     // Shapes in cells (interpreter_line_boxes.cpp)
-    void expectLineBox(const Token& token, const FileTables& tables);
+    void expectLineBox(const Token& token);
     void beginLineBox();
     void endLineBox();
     void dissolveLineBox();

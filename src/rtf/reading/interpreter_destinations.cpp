@@ -4,6 +4,7 @@
 #include "rtf/formats/list_formats.h"
 #include "rtf/kept/kept_text.h"
 #include "rtf/reading/interpreter.h"
+#include "rtf/reading/shape_scan.h"
 
 #include <algorithm>
 
@@ -44,7 +45,7 @@ bool Interpreter::destinationWord(const Token& token) {
         skipGroup();
         return true;
     case Action::Generator:
-        m_nameless = m_nameless && m_headEnded;
+        m_nameless = m_nameless && (m_headEnded || !inBody);
         skipGroup();
         return true;
     case Action::KeepGroup:
@@ -143,9 +144,8 @@ bool Interpreter::destinationWord(const Token& token) {
         return true;
     case Action::ShapePropertyName:
         if (m_state.destination == Destination::Shape)
-            openDestination(Destination::ShapePropertyName);
-        else
-            skipGroup();
+            m_shapeProperty = shapePropertyName(m_tokenizer.groupAhead());
+        skipGroup();
         return true;
     case Action::ShapePropertyValue:
         if (m_state.destination == Destination::Shape && m_shapeProperty == "pib")
@@ -226,9 +226,6 @@ void Interpreter::closeDestination(Destination destination) {
         return;
     case Destination::FieldInstruction:
         takeInstruction(captured);
-        return;
-    case Destination::ShapePropertyName:
-        m_shapeProperty = captured.toUtf8().trimmed();
         return;
     case Destination::Numbering:
         if (m_numbering.kind == ListKind::Bullet)

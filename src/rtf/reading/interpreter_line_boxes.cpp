@@ -11,9 +11,10 @@
 
 namespace orvalis::rtf {
 
-void Interpreter::expectLineBox(const Token& token, const FileTables& tables) {
+void Interpreter::expectLineBox(const Token& token) {
+    headEnds(); // for it tells how text looks
     const QByteArrayView content = m_tokenizer.groupAhead();
-    GroupKeeper keeper(content, tables);
+    GroupKeeper keeper(content, fileTables(m_fonts.usual()));
     keeper.beginIn(*m_state.page, m_state.symbols);
     const QString kept = keeper.kept("{\\", token.bytes, m_keptLeft);
     if (kept.isEmpty())

@@ -32,15 +32,15 @@ void Interpreter::keepShape(const Token& token) {
     if (isFormula && inShape)
         return;
     const bool isBox = scan.shows == ShapeScan::Shows::Boxes;
-    const FileTables tables = fileTables(m_fonts.usual());
     if (isBox)
         m_state.chars.field = NothingKept; // for that ends with its paragraph
     if (m_state.inTable && isBox) {
-        expectLineBox(token, tables);
+        expectLineBox(token);
         return;
     }
     if (scan.shows == ShapeScan::Shows::More)
         return;
+    const FileTables tables = fileTables(m_fonts.usual());
     QString kept = GroupKeeper(scan.frame, tables).kept("{\\", token.bytes, m_keptLeft);
     m_keptLeft -= kept.size();
     if (!isPicture)

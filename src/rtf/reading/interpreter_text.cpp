@@ -55,7 +55,6 @@ bool Interpreter::captures() const {
     case Destination::PlainFontName:
     case Destination::LevelText:
     case Destination::FieldInstruction:
-    case Destination::ShapePropertyName:
     case Destination::NumberingTextBefore:
     case Destination::NumberingTextAfter:
     case Destination::Label:

@@ -150,8 +150,8 @@ private:
     void ofShape(Action action) {
         Within& within = m_groups.back().within;
         const bool isValue = action == Action::ShapePropertyValue;
-        if (action == Action::ShapePropertyName)
-            propertyName();
+        if (action == Action::ShapePropertyName && within == Within::Shape)
+            m_property = shapePropertyName(m_tokenizer.groupAhead());
         if (action == Action::ShapeInstruction && within != Within::Value) {
             within = Within::Shape;
             m_property.clear();
@@ -159,25 +159,6 @@ private:
             within = Within::Value;
         else if (action != Action::ShapeProperty || within != Within::Shape)
             passGroup();
-    }
-
-    /// Any character that is no plain letter is told as one: no name that matters here has one.
-    void propertyName() {
-        if (here() != Within::Shape)
-            return;
-        m_property.clear();
-        Tokenizer name(m_tokenizer.groupAhead());
-        Token token;
-        for (name.next(token); token.kind != TokenKind::End; name.next(token))
-            if (token.kind == TokenKind::Text)
-                m_property += token.bytes;
-            else if (token.kind == TokenKind::Byte)
-                m_property += char(token.byte);
-            else if (token.kind == TokenKind::Zero)
-                m_property += ' ';
-            else if (isCharacters(token) || token.kind == TokenKind::GroupStart)
-                m_property += '\\';
-        m_property = m_property.trimmed();
     }
 
     /// What fills an area, say, is none that the text shows.
@@ -275,6 +256,23 @@ private:
 };
 
 } // namespace
+
+/// Any character that is no plain letter is told as one: no name that matters here has one.
+QByteArray shapePropertyName(QByteArrayView content) {
+    QByteArray name;
+    Tokenizer tokenizer(content);
+    Token token;
+    for (tokenizer.next(token); token.kind != TokenKind::End; tokenizer.next(token))
+        if (token.kind == TokenKind::Text)
+            name += token.bytes;
+        else if (token.kind == TokenKind::Byte)
+            name += char(token.byte);
+        else if (token.kind == TokenKind::Zero)
+            name += ' ';
+        else if (isCharacters(token) || token.kind == TokenKind::GroupStart)
+            name += '\\';
+    return name.trimmed();
+}
 
 ShapeScan scanShape(QByteArrayView content) {
     return ShapeTokens(content).run();

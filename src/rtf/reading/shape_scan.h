@@ -29,4 +29,8 @@ struct ShapeScan {
 /// \param content of the shape's group, behind its first word.
 ShapeScan scanShape(QByteArrayView content);
 
+/// What a property of a shape is called.
+/// \param content of the group of its name, behind the first word.
+QByteArray shapePropertyName(QByteArrayView content);
+
 } // namespace orvalis::rtf

@@ -4,6 +4,7 @@
 #include "rtf/writer.h"
 
 #include <QGuiApplication>
+#include <QTextCursor>
 #include <QTextDocument>
 
 #include <cstdint>
@@ -21,6 +22,33 @@ void require(bool held, const char* promise, const QByteArray& written) {
     std::abort();
 }
 
+/// What is in a document is written so that it reads back as the same, and is then written with the
+/// same bytes.
+void requireRoundTrip(const QTextDocument& document) {
+    const QByteArray written = writeRtf(document);
+    QTextDocument again;
+    require(readRtf(written, again).ok(), "what is written can be read", written);
+    require(again.toRawText() == document.toRawText(), "the text stays", written);
+    require(writeRtf(again) == written, "it is written the same again", written);
+}
+
+/// Changes one letter, whose place the length of the file decides.
+/// \returns false for a text without any.
+bool changeLetter(QTextDocument& document, std::size_t length) {
+    const QString text = document.toRawText();
+    QList<int> letters;
+    for (int at = 0; at < text.size(); ++at)
+        if (text[at].isLetter())
+            letters.push_back(at);
+    if (letters.isEmpty())
+        return false;
+    QTextCursor cursor(&document);
+    cursor.setPosition(letters[qsizetype(length % std::size_t(letters.size()))]);
+    cursor.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor);
+    cursor.insertText(QStringLiteral("q"));
+    return true;
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
@@ -29,18 +57,15 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
     return 0;
 }
 
-/// Whatever any bytes leave in a document is written so that it reads back as the same, and is then
-/// written with the same bytes.
+/// It holds for whatever any bytes leave in a document, and when somebody has written in that.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     QByteArray rtf(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
     if (!looksLikeRtf(rtf))
         rtf.prepend("{\\rtf1");
     QTextDocument document;
     readRtf(rtf, document);
-    const QByteArray written = writeRtf(document);
-    QTextDocument again;
-    require(readRtf(written, again).ok(), "what is written can be read", written);
-    require(again.toRawText() == document.toRawText(), "the text stays", written);
-    require(writeRtf(again) == written, "it is written the same again", written);
+    requireRoundTrip(document);
+    if (changeLetter(document, size))
+        requireRoundTrip(document);
     return 0;
 }

@@ -3,6 +3,7 @@
 #include "rtf/writer.h"
 
 #include "rtf/kept/kept_parts.h"
+#include "rtf/kept/kept_shape.h"
 #include "rtf/kept/kept_text.h"
 #include "rtf/pictures/picture_format.h"
 #include "rtf/writing/body_writer.h"
@@ -16,11 +17,18 @@
 #include <algorithm>
 #include <limits>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace orvalis::rtf {
 
 namespace {
+
+/// Whether a character is spelled alike in what is kept of a shape and in text that is written.
+bool standsInShape(QChar character) {
+    return (character >= u' ' || character == u'\t') &&
+           character != QChar::ObjectReplacementCharacter;
+}
 
 /// Walks through a part of a document and tells the body writer what stands there.
 class DocumentWalk {
@@ -273,7 +281,10 @@ private:
                 m_body.writeAnchors(look.anchors);
                 continue;
             }
-            if (shown.end > 0)
+            const bool inShape = shown.isChanged && start < shown.end;
+            const int behindShape =
+                inShape ? std::exchange(look.anchors, NothingKept) : NothingKept;
+            if (shown.end > 0 && !inShape)
                 look.field = NothingKept;
             if (m_formats.isImage(fragment)) {
                 const Picture picture =
@@ -282,6 +293,10 @@ private:
                     m_body.picture(picture, look);
             } else {
                 m_body.text(text.mid(start, end - start), look);
+            }
+            if (inShape && end == shown.end) {
+                m_body.endShape();
+                m_body.writeAnchors(behindShape);
             }
         }
         if (empty) {
@@ -295,23 +310,39 @@ private:
     /// Runs that a field shows by itself, or a formula or a shape.
     struct Shown {
         int field = NothingKept;
-        int end = 0;        ///< in the paragraph; 0 if the field shows what is in it
-        bool stays = false; ///< they are what it shows
+        int end = 0;            ///< in the paragraph; 0 if the field shows what is in it
+        bool stays = false;     ///< they are what it shows
+        bool isChanged = false; ///< they are the text of a shape by now
     };
 
     /// \param it the first run of a field.
     /// \param at where it begins in the paragraph.
     Shown shownFrom(QTextBlock::iterator it, int at, QStringView text, int position) {
         Shown shown{m_formats.lookOf(it.fragment()).field};
-        const std::optional<QString> all = m_body.shownBy(shown.field);
-        if (!all)
+        const QString kept = m_body.names().keptAt(shown.field);
+        const std::optional<KeptShown> own = shownBy(kept);
+        if (!own)
             return shown;
         shown.end = at;
-        for (; !it.atEnd() && m_formats.lookOf(it.fragment()).field == shown.field; ++it)
+        bool isPlain = true; // up to the last run, which something may be anchored behind
+        bool isAnchored = false;
+        for (; !it.atEnd() && m_formats.lookOf(it.fragment()).field == shown.field; ++it) {
+            const CharFormat& look = m_formats.lookOf(it.fragment());
+            isPlain = isPlain && !isAnchored && m_body.standsInShape(look);
+            isAnchored = look.anchors != NothingKept;
             shown.end += it.fragment().length();
+        }
         const bool isWhole = position + at >= m_from && position + shown.end <= m_to;
-        shown.stays = isWhole && text.sliced(at, shown.end - at) == *all &&
-                      (m_inCell || !m_body.showsShape(shown.field));
+        const bool isShape = isShapeInLine(own->group);
+        if (!isWhole || (isShape && !m_inCell))
+            return shown;
+        const QStringView present = text.sliced(at, shown.end - at);
+        shown.stays = present == own->text;
+        shown.isChanged = !shown.stays && isPlain && !own->frame.isEmpty() &&
+                          !m_shapesWritten.contains(shown.field) &&
+                          std::all_of(present.begin(), present.end(), standsInShape);
+        if (isShape)
+            m_shapesWritten.insert(shown.field);
         return shown;
     }
 
@@ -361,6 +392,7 @@ private:
     int m_bareCell = NothingKept;
     std::optional<RowScan> m_row; ///< that is written
     QSet<int> m_anchorsWritten;
+    QSet<int> m_shapesWritten; ///< in lines
 };
 
 } // namespace

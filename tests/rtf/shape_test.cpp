@@ -10,6 +10,7 @@
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextDocumentFragment>
 
 using namespace orvalis;
 using namespace orvalis::rtf;
@@ -51,7 +52,11 @@ private slots:
     void whatAShapeInACellShowsIsTextOfTheCell();
     void aShapeInACellStays_data();
     void aShapeInACellStays();
-    void aShapeInACellWhoseTextIsChangedIsText();
+    void aShapeInACellKeepsATextThatIsChanged_data();
+    void aShapeInACellKeepsATextThatIsChanged();
+    void aTextThatIsChangedLeavesAShapeInACellThatCannotHoldIt_data();
+    void aTextThatIsChangedLeavesAShapeInACellThatCannotHoldIt();
+    void textOfAShapeInACellIsTextWhereItIsCopiedTo();
     void aShapeInACellStaysWhenItsTextLooksOtherwise();
     void aShapeInACellThatEndsOneIsText();
     void aShapeInARowThatIsNotWholeIsText();
@@ -418,14 +423,59 @@ void ShapeTest::aShapeInACellStays() {
     QVERIFY2(inFront.contains(group + "\\f0\\fs24 deed{\\*\\bkmkstart"), inFront.constData());
 }
 
-void ShapeTest::aShapeInACellWhoseTextIsChangedIsText() {
+void ShapeTest::aShapeInACellKeepsATextThatIsChanged_data() {
+    QTest::addColumn<QByteArray>("cell");
+    QTest::addColumn<QByteArray>("kept");
+    const auto row = [](const char* name, const QByteArray& cell, const QByteArray& text,
+                        const QByteArray& behind) {
+        QTest::newRow(name) << cell
+                            << "{\\plain\\f0\\fs24" + box("\\pard\\plain" + text) + "}" + behind;
+    };
+    row("one run", "a" + box(" word") + "b", "\\f0 deed", "b\\cell");
+    row("several runs", "a" + box(" a word\\b  b\\i c") + "b", "\\f0 a deed\\b  b\\i c", "b\\cell");
+    row("lines", "a" + box(" word\\par b\\line c\\tab d"), "\\f0 deed\\line b\\line c\\tab d",
+        "\\cell");
+    row("its last paragraph ended", "a" + box(" b\\par word\\par") + "c", "\\f0 b\\line deed\\par",
+        "c\\cell");
+    row("ahead of a bookmark", box(" word") + "{\\*\\bkmkstart x}b", "\\f0 deed",
+        "{\\*\\bkmkstart x}\\f0\\fs24 b\\cell");
+    row("ahead of other text", box("\\b0  word") + "b", "\\f0  deed", "\\f0\\fs24 b\\cell");
+}
+
+void ShapeTest::aShapeInACellKeepsATextThatIsChanged() {
+    QFETCH(QByteArray, cell);
+    QFETCH(QByteArray, kept);
+    const QByteArray written = saved("\\trowd\\cellx99\\intbl " + cell + "\\cell\\row\\pard\\par");
+    QVERIFY2(written.contains(kept), written.constData());
+}
+
+void ShapeTest::aTextThatIsChangedLeavesAShapeInACellThatCannotHoldIt_data() {
+    QTest::addColumn<QByteArray>("shape");
+    QTest::newRow("two texts") << Frame + "{\\shptxt word}{\\shptxt b}}}";
+    QTest::newRow("a picture") << box(" word{\\pict\\pngblip " + pngBytes().toHex() + "}");
+    QTest::newRow("a character without a sign") << box(" word\\'07");
+}
+
+void ShapeTest::aTextThatIsChangedLeavesAShapeInACellThatCannotHoldIt() {
+    QFETCH(QByteArray, shape);
     const QByteArray written =
-        saved("\\trowd\\cellx99\\intbl a" + box("\\b a word{\\footnote f}\\par\\b0 c") +
-              "\\cell\\row\\pard\\par");
-    QVERIFY2(written.contains("a\\b a deed\\b0\\line c\\cell") ||
-                 written.contains("a\\b a deed\\line\\b0 c\\cell"),
-             written.constData());
-    QVERIFY(!written.contains("\\shp"));
+        saved("\\trowd\\cellx99\\intbl a" + shape + "\\cell\\row\\pard\\par");
+    QVERIFY2(written.contains("adeed"), written.constData());
+    QVERIFY(!written.contains("\\shptxt"));
+}
+
+void ShapeTest::textOfAShapeInACellIsTextWhereItIsCopiedTo() {
+    QTextDocument document;
+    readRtf(file("\\trowd\\cellx99\\intbl a" + box(" bcd") + "e\\cell\\row"), document);
+    QTextCursor cursor(&document);
+    cursor.setPosition(2);
+    cursor.setPosition(3, QTextCursor::KeepAnchor);
+    const QTextDocumentFragment part = cursor.selection();
+    cursor.setPosition(5);
+    cursor.insertFragment(part);
+    const QByteArray written = withoutLineEnds(writeRtf(document));
+    QVERIFY2(written.contains(box(" bcd") + "}ec\\cell"), written.constData());
+    QCOMPARE(written.count("\\shptxt"), 1);
 }
 
 void ShapeTest::aShapeInACellStaysWhenItsTextLooksOtherwise() {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QByteArrayView>
+#include <QStringView>
 
 namespace orvalis::rtf {
 
@@ -19,6 +20,11 @@ inline constexpr QByteArrayView StrangePicture = "orvpict";
 inline constexpr QByteArrayView ShownEmpty = "\\orvempty";
 
 /// What a shape in a line begins with, as it is kept: the look of the text around it.
-inline constexpr const char* LineShapeHead = "{\\plain";
+inline constexpr QStringView LineShapeHead = u"{\\plain";
+
+/// Whether a group that is kept is one.
+inline bool isShapeInLine(QStringView group) {
+    return group.startsWith(LineShapeHead);
+}
 
 } // namespace orvalis::rtf

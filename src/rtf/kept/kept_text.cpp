@@ -13,6 +13,9 @@ namespace orvalis::rtf {
 
 namespace {
 
+/// What stands between what is kept of a shape and its frame.
+constexpr QChar FrameStart(0x7);
+
 const QString ListOfCell = u"\\ls"_s + PlaceStart + ListPlace;
 
 QString place(QChar kind, const QString& what) {
@@ -108,9 +111,22 @@ QRgb shadeOf(QStringView kept) {
                 mixed(qBlue(above), qBlue(below)));
 }
 
-std::optional<QString> textShownBy(const QString& kept) {
-    const qsizetype end = kept.indexOf(NumberEnd, kept.indexOf(NumberEnd) + 1);
-    return end < 0 ? std::nullopt : std::optional(kept.sliced(end + 1));
+std::optional<KeptShown> shownBy(QStringView kept) {
+    const qsizetype start = kept.indexOf(NumberEnd) + 1;
+    const qsizetype end = kept.indexOf(NumberEnd, start);
+    if (end < 0)
+        return std::nullopt;
+    const QStringView group = kept.sliced(start, end - start);
+    const qsizetype frame = group.indexOf(FrameStart);
+    return frame < 0 ? KeptShown{group, {}, kept.sliced(end + 1)}
+                     : KeptShown{group.first(frame), group.sliced(frame + 1), kept.sliced(end + 1)};
+}
+
+QString keptOf(const KeptShown& shown) {
+    QString kept = shown.group.toString();
+    if (!shown.frame.isEmpty())
+        kept.append(FrameStart).append(shown.frame);
+    return kept.append(NumberEnd).append(shown.text);
 }
 
 } // namespace orvalis::rtf

@@ -4,6 +4,7 @@
 
 #include <QRgb>
 #include <QString>
+#include <QStringView>
 
 #include <optional>
 
@@ -35,9 +36,16 @@ QString withoutListOfCell(const QString& kept);
 /// What stands between the number that a file gave something and what is kept of it.
 inline constexpr QChar NumberEnd(0x3);
 
-/// The text that a field shows by itself, or a formula or a shape, which stands behind what is kept
-/// of it; nothing of a field that shows the text in it.
-std::optional<QString> textShownBy(const QString& kept);
+/// What a field shows by itself, or a formula or a shape in a line.
+struct KeptShown {
+    QStringView group; ///< all that is kept of it
+    QStringView frame; ///< of a shape with one text: the same with a place for that
+    QStringView text;
+};
+/// What is kept of it, behind its number; nothing of a field that shows the text in it.
+std::optional<KeptShown> shownBy(QStringView kept);
+/// How that is kept.
+QString keptOf(const KeptShown& shown);
 
 /// What the instruction of a field begins with, as it is kept.
 inline constexpr const char* InstructionHead = "{\\*\\fldinst";

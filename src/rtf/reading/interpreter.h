@@ -24,6 +24,8 @@
 
 namespace orvalis::rtf {
 
+struct ShapeScan;
+
 /// The state machine between tokens and a sink.
 ///
 /// It follows groups with a stack of its own, bounded in depth, keeps the tables of the file's head
@@ -292,7 +294,7 @@ private:
     void showPicture(const Picture& picture, const CharFormat& look);
 
     // Shapes in cells (interpreter_line_boxes.cpp)
-    void expectLineBox(const Token& token);
+    void expectLineBox(const Token& token, const ShapeScan& scan);
     void beginLineBox();
     void endLineBox();
     void dissolveLineBox();
@@ -405,7 +407,8 @@ private:
 
         QByteArrayView word; ///< of the shape's group
         QByteArrayView content;
-        QString kept; ///< all of it, in the look of what is around it
+        QString kept;  ///< all of it, in the look of what is around it
+        QString frame; ///< the same of a shape with one text, without that
         size_t depth = 0;
         bool isOpen = false;      ///< and some of it has come
         bool inParagraph = false; ///< which something was in ahead of it

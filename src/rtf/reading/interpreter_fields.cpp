@@ -50,11 +50,11 @@ void Interpreter::keepField() {
     }
     if (m_state.chars.field != NothingKept)
         return;
-    const QString field = QString::number(++m_fields) + NumberEnd + kept;
+    const QString number = QString::number(++m_fields) + NumberEnd;
     if (scan.hasResult) {
-        m_state.chars.field = m_names.kept(field);
+        m_state.chars.field = m_names.kept(number + kept);
     } else {
-        m_state.ownField = m_names.kept(field + NumberEnd + shown);
+        m_state.ownField = m_names.kept(number + keptOf({kept, {}, shown}));
         m_fieldLooks.push_back({m_state.fieldsAround, {}});
     }
 }
@@ -85,7 +85,7 @@ void Interpreter::fieldEnds() {
     CharFormat look = m_captureFormat;
     if (own != NothingKept) {
         const QString kept = m_names.keptAt(own);
-        text = *textShownBy(kept);
+        text = shownBy(kept)->text.toString();
         look = m_fieldLooks.back().look.value_or(m_state.chars);
         m_fieldLooks.pop_back();
     }

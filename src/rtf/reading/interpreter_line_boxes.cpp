@@ -11,20 +11,27 @@
 
 namespace orvalis::rtf {
 
-void Interpreter::expectLineBox(const Token& token) {
+void Interpreter::expectLineBox(const Token& token, const ShapeScan& scan) {
     headEnds(); // for it tells how text looks
-    const QByteArrayView content = m_tokenizer.groupAhead();
-    GroupKeeper keeper(content, fileTables(m_fonts.usual()));
-    keeper.beginIn(*m_state.page, m_state.symbols);
-    const QString kept = keeper.kept("{\\", token.bytes, m_keptLeft);
-    if (kept.isEmpty())
-        return;
-    m_lineBox.word = token.bytes;
-    m_lineBox.content = content;
+    const FileTables tables = fileTables(m_fonts.usual());
     // Its text looks as what is around it, until it says otherwise.
-    m_lineBox.kept = u'{' + keptLook(told(m_state.chars), m_names) + inField(kept) + u'}';
+    const QString look = keptLook(told(m_state.chars), m_names);
+    const auto kept = [&](QByteArrayView content) {
+        GroupKeeper keeper(content, tables);
+        keeper.beginIn(*m_state.page, m_state.symbols);
+        const QString group = keeper.kept("{\\", token.bytes, m_keptLeft);
+        m_keptLeft -= group.size();
+        return group.isEmpty() ? QString() : u'{' + look + inField(group) + u'}';
+    };
+    m_lineBox.content = m_tokenizer.groupAhead();
+    m_lineBox.kept = kept(m_lineBox.content);
+    if (m_lineBox.kept.isEmpty())
+        return;
+    // Where several texts are changed nobody could tell them apart.
+    if (scan.places.size() == 1)
+        m_lineBox.frame = kept(scan.frame);
+    m_lineBox.word = token.bytes;
     m_lineBox.depth = m_groups.size();
-    m_keptLeft -= m_lineBox.kept.size();
     m_labelAround = std::exchange(m_label, {});
     m_rowsAround = std::exchange(m_rows, {});
 }
@@ -67,7 +74,7 @@ void Interpreter::endLineBox() {
     }
     m_keptLeft -= text.size();
     const int field =
-        m_names.kept(QString::number(m_shapes) + NumberEnd + box.kept + NumberEnd + text);
+        m_names.kept(QString::number(m_shapes) + NumberEnd + keptOf({box.kept, box.frame, text}));
     for (LineBox::Piece piece : box.pieces) {
         piece.look.field = field;
         piece.look.link = NoName;

@@ -35,7 +35,7 @@ void Interpreter::keepShape(const Token& token) {
     if (isBox)
         m_state.chars.field = NothingKept; // for that ends with its paragraph
     if (m_state.inTable && isBox) {
-        expectLineBox(token);
+        expectLineBox(token, scan);
         return;
     }
     if (scan.shows == ShapeScan::Shows::More)
@@ -79,7 +79,7 @@ void Interpreter::keepFormula() {
         return;
     }
     m_state.chars.field =
-        m_names.kept(QString::number(m_shapes) + NumberEnd + kept + NumberEnd + text);
+        m_names.kept(QString::number(m_shapes) + NumberEnd + keptOf({kept, {}, text}));
     m_state.chars.byNumber = m_state.symbols != SymbolFont::None;
     prepareText();
     appendSigns(text, SymbolFont::None);

@@ -80,7 +80,8 @@ void BodyWriter::plain() {
 void BodyWriter::change(const CharFormat& format) {
     if (format == m_format)
         return;
-    if (format.field != NothingKept && format.field != m_format.field) {
+    if (format.field != NothingKept && format.field != m_format.field &&
+        lineFrame(format.field).isEmpty()) {
         // Some readers set a field in the look that holds ahead of it.
         CharFormat ahead = format;
         ahead.field = NothingKept;

@@ -46,13 +46,12 @@ public:
     /// A paragraph that is such a picture.
     /// \returns false where the shape has one by now.
     bool pictureOfBox(const ParagraphFormat& paragraph, const Picture& picture);
-    /// What a field shows by itself, or a formula or a shape; nothing of a field that shows the
-    /// text in it.
-    std::optional<QString> shownBy(int field);
-    /// Whether it is a shape, which shows in a line in cells alone.
-    bool showsShape(int field);
-    /// Such a field, in place of the text.
+    /// A field, formula or shape that shows text by itself, in place of the text.
     void shown(const CharFormat& format);
+    /// Whether text can be that of a shape in a line which is written anew.
+    bool standsInShape(const CharFormat& format);
+    /// Behind such a text.
+    void endShape() { changeField(NothingKept); }
     /// What is kept behind a character.
     void writeAnchors(int anchors);
     /// \param mark format of the paragraph's mark, null for that of its last run.
@@ -119,6 +118,7 @@ private:
     void changeField(int field);
     void openGroup();
     void closeGroup();
+    QString lineFrame(int field);
     void plain();
     void toggle(int bit, bool on, QByteArrayView word);
 

@@ -8,14 +8,26 @@
 
 namespace orvalis::rtf {
 
-/// The braces of a link or a field bring back what held before it.
+/// What closes a link or a field brings back what held before it.
 void BodyWriter::closeGroup() {
-    m_out.structure("}}");
+    if (const QString frame = lineFrame(m_format.field); frame.isEmpty())
+        m_out.structure("}}");
+    else
+        writeKept(m_out, m_tables, frameOf(frame).places.front().behind);
     const Look& before = m_lookBefore[m_openGroups - 1];
     --m_openGroups;
     m_format = before.format;
     m_stated = before.stated;
     m_symbols = m_tables.symbolFontOf(m_format.family);
+}
+
+/// The frame of a shape in a line, whose text is written anew; empty for other fields.
+QString BodyWriter::lineFrame(int field) {
+    if (field == NothingKept)
+        return {};
+    const QString kept = names().keptAt(field);
+    const std::optional<KeptShown> shown = shownBy(kept);
+    return shown ? shown->frame.toString() : QString();
 }
 
 /// A field with a page's end in it would be none.
@@ -48,6 +60,14 @@ void BodyWriter::changeField(int field) {
     if (field == NothingKept)
         return;
     openGroup();
+    if (const QString frame = lineFrame(field); !frame.isEmpty()) {
+        writeKept(m_out, m_tables, frameOf(frame).ahead);
+        m_out.word("\\pard");
+        plain();
+        m_symbols = m_tables.symbolFontOf(m_format.family);
+        m_format.field = field;
+        return;
+    }
     const QString instruction = names().keptAt(field);
     m_out.structure("{\\field");
     writeKept(m_out, m_tables, QStringView(instruction).sliced(instruction.indexOf(NumberEnd) + 1));
@@ -55,25 +75,12 @@ void BodyWriter::changeField(int field) {
     m_format.field = field;
 }
 
-std::optional<QString> BodyWriter::shownBy(int field) {
-    return textShownBy(names().keptAt(field));
-}
-
-bool BodyWriter::showsShape(int field) {
-    const QString kept = names().keptAt(field);
-    return QStringView(kept)
-        .sliced(kept.indexOf(NumberEnd) + 1)
-        .startsWith(QLatin1StringView(LineShapeHead));
-}
-
 void BodyWriter::shown(const CharFormat& format) {
     const QString kept = names().keptAt(format.field);
-    const qsizetype start = kept.indexOf(NumberEnd) + 1;
-    const QStringView group =
-        QStringView(kept).sliced(start, kept.indexOf(NumberEnd, start) - start);
+    const QStringView group = shownBy(kept)->group;
     CharFormat own = format;
     own.field = NothingKept;
-    if (showsShape(format.field)) { // which tells how it looks
+    if (isShapeInLine(group)) { // which tells how it looks
         own = m_format;
         own.link = NoName;
         own.field = NothingKept;
@@ -87,6 +94,13 @@ void BodyWriter::shown(const CharFormat& format) {
     writeKept(m_out, m_tables, group);
     if (isInstruction)
         m_out.structure("{\\fldrslt}}");
+}
+
+/// What is kept of a shape spells signs by their letters.
+bool BodyWriter::standsInShape(const CharFormat& format) {
+    return format.link == NoName && format.cell == NothingKept &&
+           m_tables.symbolFontOf(format.family) == SymbolFont::None &&
+           !m_tables.wantsNumbers(format.family);
 }
 
 } // namespace orvalis::rtf

@@ -131,4 +131,10 @@ bool isToldByNumber(SymbolFont font, char32_t character) {
            symbolByte(font, character) == 0;
 }
 
+bool isLetterAmongSigns(char32_t character) {
+    const bool breaksLine =
+        character == QChar::LineSeparator || character == QChar::ParagraphSeparator;
+    return character > u' ' && !breaksLine && privateByte(character) == 0;
+}
+
 } // namespace orvalis::rtf

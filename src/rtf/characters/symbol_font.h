@@ -28,6 +28,10 @@ uchar symbolByte(SymbolFont font, char32_t character);
 /// Whether a font of signs lacks a character, so that text in it tells that by its number.
 bool isToldByNumber(SymbolFont font, char32_t character);
 
+/// Whether a character is a letter to a font of signs, and none that a word stands for in any font,
+/// nor the byte of a sign.
+bool isLetterAmongSigns(char32_t character);
+
 /// The byte that a character of the area for private use tells, as word processors write symbols;
 /// 0 for every other character.
 constexpr uchar privateByte(char32_t character) {

@@ -7,12 +7,6 @@
 
 namespace orvalis::rtf {
 
-/// A word that stands for what a shape shows in what is kept of it.
-inline constexpr QByteArrayView ShapePlace = "\\orvshown";
-
-/// What that word ends with where it stands for a picture among several things.
-inline constexpr QByteArrayView PictureMark = "picture";
-
 /// The group around a picture whose bytes nobody knows: other programs pass over it.
 inline constexpr QByteArrayView StrangePicture = "orvpict";
 

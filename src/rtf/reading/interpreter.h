@@ -150,7 +150,6 @@ private:
     void bytes(QByteArrayView run);
     void decode(QByteArrayView run);
     void appendLetters(QStringView text);
-    static bool isLetter(char32_t character);
     static bool isByNumber(char32_t character, SymbolFont font, const CodePage* page);
     void flushPending();
     void character(char16_t character);
@@ -290,7 +289,6 @@ private:
     void shapeEnds();
     bool endsBehindBox();
     void shapeBesideBox();
-    void anchorFrame(QString frame);
     void showPicture(const Picture& picture, const CharFormat& look);
 
     // Shapes in cells (interpreter_line_boxes.cpp)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/kept/kept_group.h"
 #include "rtf/kept/kept_text.h"
+#include "rtf/kept/shape_frame.h"
 #include "rtf/reading/interpreter.h"
 #include "rtf/reading/shape_scan.h"
 #include "rtf/writing/look_words.h"
@@ -69,7 +70,8 @@ void Interpreter::endLineBox() {
     if (text.isEmpty()) {
         const QByteArray frame = scanShape(box.content).frame;
         const FileTables tables = fileTables(m_fonts.usual());
-        anchorFrame(inField(GroupKeeper(frame, tables).kept("{\\", box.word, m_keptLeft)));
+        anchor(
+            inField(withoutPlaces(GroupKeeper(frame, tables).kept("{\\", box.word, m_keptLeft))));
         return;
     }
     m_keptLeft -= text.size();

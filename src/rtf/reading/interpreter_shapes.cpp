@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "rtf/kept/kept_group.h"
-#include "rtf/kept/kept_shape.h"
 #include "rtf/kept/kept_text.h"
+#include "rtf/kept/shape_frame.h"
 #include "rtf/reading/formula_text.h"
 #include "rtf/reading/interpreter.h"
 #include "rtf/reading/shape_scan.h"
@@ -181,14 +181,7 @@ void Interpreter::shapeEnds() {
     if (m_state.ownBox == m_lastBox)
         return;
     const QString kept = m_names.keptAt(m_state.ownBox);
-    anchorFrame(kept.sliced(kept.indexOf(NumberEnd) + 1));
-}
-
-void Interpreter::anchorFrame(QString frame) {
-    const QLatin1StringView place(ShapePlace.data(), ShapePlace.size());
-    frame.remove(place + QLatin1StringView(PictureMark.data(), PictureMark.size()));
-    frame.remove(place);
-    anchor(frame);
+    anchor(withoutPlaces(kept.sliced(kept.indexOf(NumberEnd) + 1)));
 }
 
 /// Whether a paragraph ends with nothing behind the box that stands in it: what stands ahead of the

@@ -29,16 +29,7 @@ char16_t harmless(char16_t character) {
     }
 }
 
-/// Whether a character is told by a word, whatever the font.
-bool hasWord(char32_t code) {
-    return code == u'\t' || (code <= 0xffff && harmless(char16_t(code)) == QChar::LineSeparator);
-}
-
 } // namespace
-
-bool Interpreter::isLetter(char32_t character) {
-    return character > u' ' && privateByte(character) == 0 && !hasWord(character);
-}
 
 /// A font of signs has few of the characters that words stand for. One that only is named as such,
 /// but is none by its page, has letters.
@@ -46,7 +37,7 @@ bool Interpreter::isByNumber(char32_t character, SymbolFont font, const CodePage
     if (font == SymbolFont::None)
         return false;
     const bool hasLetters = !page || page->symbols() == SymbolFont::None;
-    return hasLetters ? isLetter(character)
+    return hasLetters ? isLetterAmongSigns(character)
                       : privateByte(character) == 0 && isToldByNumber(font, character);
 }
 
@@ -160,7 +151,7 @@ void Interpreter::appendLetters(QStringView text) {
         append(text);
         return;
     }
-    const auto isSign = [](QChar c) { return !isLetter(c.unicode()); };
+    const auto isSign = [](QChar c) { return !isLetterAmongSigns(c.unicode()); };
     while (!text.isEmpty()) {
         const qsizetype letters = std::find_if(text.begin(), text.end(), isSign) - text.begin();
         const QStringView piece = text.first(std::max<qsizetype>(letters, 1));
@@ -236,7 +227,8 @@ void Interpreter::unicode(char32_t code) {
     if (isLow && !high)
         code = QChar::ReplacementCharacter;
     const char16_t pair[] = {high, char16_t(code)};
-    m_state.chars.byNumber = toBody && m_state.symbols != SymbolFont::None && isLetter(code);
+    m_state.chars.byNumber =
+        toBody && m_state.symbols != SymbolFont::None && isLetterAmongSigns(code);
     if (high)
         append(QStringView(pair, 2));
     else if (!isHigh)

@@ -3,6 +3,7 @@
 #include "rtf/reading/shape_scan.h"
 
 #include "rtf/kept/kept_shape.h"
+#include "rtf/kept/shape_frame.h"
 #include "rtf/reading/box_scan.h"
 #include "rtf/reading/picture_scan.h"
 #include "rtf/words/control_words.h"

@@ -81,7 +81,7 @@ void BodyWriter::change(const CharFormat& format) {
     if (format == m_format)
         return;
     if (format.field != NothingKept && format.field != m_format.field &&
-        lineFrame(format.field).isEmpty()) {
+        !lineFrame(format.field).has(0)) {
         // Some readers set a field in the look that holds ahead of it.
         CharFormat ahead = format;
         ahead.field = NothingKept;

@@ -4,6 +4,7 @@
 
 #include "rtf/formats/formats.h"
 #include "rtf/kept/kept_parts.h"
+#include "rtf/kept/shape_frame.h"
 #include "rtf/pictures/picture.h"
 #include "rtf/words/rtf_output.h"
 #include "rtf/writing/paragraph_writer.h"
@@ -78,16 +79,6 @@ public:
     QByteArray file(int defaultTab, const KeptParts& parts);
 
 private:
-    /// What is kept of a shape, ahead of all that it shows and behind each.
-    struct Place {
-        bool isPicture = false;
-        QString behind;
-    };
-    struct Frame {
-        QString ahead;
-        std::vector<Place> places;
-    };
-
     /// What is kept, on lines of its own.
     QByteArray kept(QStringView text);
     void endLastParagraph();
@@ -97,11 +88,10 @@ private:
     bool isInBox(const ParagraphFormat& paragraph) const;
     bool goToBox(const ParagraphFormat& paragraph);
     void openBox(const ParagraphFormat& paragraph);
-    static Frame frameOf(const QString& kept);
+    ShapeFrame frameOf(int box) const;
     void passPlaces(int next);
     void enterBox(int place);
     bool isAtPicture() const;
-    static bool isPicture(const Frame& frame, int place);
     void leaveText();
     void closeBox();
     bool goesOn(const ParagraphFormat& paragraph) const;
@@ -118,7 +108,7 @@ private:
     void changeField(int field);
     void openGroup();
     void closeGroup();
-    QString lineFrame(int field);
+    ShapeFrame lineFrame(int field) const;
     void plain();
     void toggle(int bit, bool on, QByteArrayView word);
 
@@ -147,7 +137,7 @@ private:
     Around m_around;
     int m_box = NothingKept; ///< that is open
     int m_boxPlace = 0;      ///< what is written of it, of all that its shape shows
-    Frame m_frame;
+    ShapeFrame m_frame;
     bool m_boxIsEmpty = true;     ///< it has no characters by themselves
     bool m_goesOn = false;        ///< the paragraph, which stands behind a box in it
     int m_unnamedFamily = NoName; ///< of text that names no font

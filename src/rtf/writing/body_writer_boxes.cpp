@@ -8,23 +8,9 @@
 
 namespace orvalis::rtf {
 
-BodyWriter::Frame BodyWriter::frameOf(const QString& kept) {
-    const QLatin1StringView word(ShapePlace.data(), ShapePlace.size());
-    const QLatin1StringView ofPicture(PictureMark.data(), PictureMark.size());
-    Frame frame;
-    qsizetype at = kept.indexOf(NumberEnd) + 1;
-    qsizetype next = kept.indexOf(word, at);
-    frame.ahead = next < 0 ? QString() : kept.sliced(at, next - at);
-    while (next >= 0) {
-        at = next + word.size();
-        const bool isPicture = QStringView(kept).sliced(at).startsWith(ofPicture);
-        at += isPicture ? ofPicture.size() : 0;
-        // Ahead of text the word ends with a blank of its own.
-        at += at < kept.size() && kept[at] == u' ' ? 1 : 0;
-        next = kept.indexOf(word, at);
-        frame.places.push_back({isPicture, kept.sliced(at, (next < 0 ? kept.size() : next) - at)});
-    }
-    return frame;
+ShapeFrame BodyWriter::frameOf(int box) const {
+    const QString kept = m_tables.names().keptAt(box);
+    return shapeFrame(QStringView(kept).sliced(kept.indexOf(NumberEnd) + 1));
 }
 
 bool BodyWriter::isInBox(const ParagraphFormat& paragraph) const {
@@ -38,7 +24,7 @@ bool BodyWriter::goToBox(const ParagraphFormat& paragraph) {
         return false;
     const bool leaves = m_box != NothingKept;
     const bool isFurther = leaves && paragraph.box == m_box && paragraph.boxPlace > m_boxPlace &&
-                           paragraph.boxPlace < int(m_frame.places.size());
+                           m_frame.has(paragraph.boxPlace);
     if (isFurther) {
         leaveText();
         enterBox(paragraph.boxPlace);
@@ -97,7 +83,7 @@ void BodyWriter::openBox(const ParagraphFormat& paragraph) {
         {m_format, m_stated}, m_paragraphs.last(),           m_mark, m_afterBehind, m_paragraphEnds,
         m_paragraphIsEmpty,   std::exchange(m_anyRow, false)};
     m_box = paragraph.box;
-    m_frame = frameOf(names().keptAt(m_box));
+    m_frame = frameOf(m_box);
     writeKept(m_out, m_tables, m_frame.ahead);
     m_boxPlace = -1;
     enterBox(std::clamp(paragraph.boxPlace, 0, std::max(int(m_frame.places.size()) - 1, 0)));
@@ -129,18 +115,14 @@ void BodyWriter::enterBox(int place) {
     m_paragraphs.forget();
 }
 
-bool BodyWriter::isPicture(const Frame& frame, int place) {
-    return size_t(place) < frame.places.size() && frame.places[size_t(place)].isPicture;
-}
-
 bool BodyWriter::isAtPicture() const {
-    return isPicture(m_frame, m_boxPlace);
+    return m_frame.isPicture(m_boxPlace);
 }
 
 /// What ends the last paragraph of a text, if anything does, is part of the frame.
 void BodyWriter::leaveText() {
-    const bool isKnown = size_t(m_boxPlace) < m_frame.places.size();
-    QString behind = isKnown ? m_frame.places[size_t(m_boxPlace)].behind : QString();
+    QString behind =
+        m_frame.has(m_boxPlace) ? m_frame.places[size_t(m_boxPlace)].behind : QString();
     if (!isAtPicture()) {
         tellAfter();
         // A row has ended by itself, where it is the last one.
@@ -172,9 +154,8 @@ void BodyWriter::closeBox() {
 }
 
 bool BodyWriter::isPictureOfBox(const ParagraphFormat& paragraph) const {
-    if (paragraph.box == m_box)
-        return isPicture(m_frame, paragraph.boxPlace);
-    return isPicture(frameOf(m_tables.names().keptAt(paragraph.box)), paragraph.boxPlace);
+    return paragraph.box == m_box ? m_frame.isPicture(paragraph.boxPlace)
+                                  : frameOf(paragraph.box).isPicture(paragraph.boxPlace);
 }
 
 bool BodyWriter::pictureOfBox(const ParagraphFormat& paragraph, const Picture& picture) {
@@ -187,7 +168,7 @@ bool BodyWriter::pictureOfBox(const ParagraphFormat& paragraph, const Picture& p
 
 /// Writes a picture that is a shape.
 bool BodyWriter::framed(const Picture& picture) {
-    const Frame frame = frameOf(picture.frame);
+    const ShapeFrame frame = shapeFrame(picture.frame);
     if (frame.places.empty())
         return false;
     writeKept(m_out, m_tables, frame.ahead);

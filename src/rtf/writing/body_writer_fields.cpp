@@ -10,10 +10,10 @@ namespace orvalis::rtf {
 
 /// What closes a link or a field brings back what held before it.
 void BodyWriter::closeGroup() {
-    if (const QString frame = lineFrame(m_format.field); frame.isEmpty())
-        m_out.structure("}}");
+    if (const ShapeFrame frame = lineFrame(m_format.field); frame.has(0))
+        writeKept(m_out, m_tables, frame.places.front().behind);
     else
-        writeKept(m_out, m_tables, frameOf(frame).places.front().behind);
+        m_out.structure("}}");
     const Look& before = m_lookBefore[m_openGroups - 1];
     --m_openGroups;
     m_format = before.format;
@@ -21,13 +21,14 @@ void BodyWriter::closeGroup() {
     m_symbols = m_tables.symbolFontOf(m_format.family);
 }
 
-/// The frame of a shape in a line, whose text is written anew; empty for other fields.
-QString BodyWriter::lineFrame(int field) {
+/// The frame of a shape in a line, whose text is written anew; one without a place for other
+/// fields.
+ShapeFrame BodyWriter::lineFrame(int field) const {
     if (field == NothingKept)
         return {};
-    const QString kept = names().keptAt(field);
+    const QString kept = m_tables.names().keptAt(field);
     const std::optional<KeptShown> shown = shownBy(kept);
-    return shown ? shown->frame.toString() : QString();
+    return shown ? shapeFrame(shown->frame) : ShapeFrame();
 }
 
 /// A field with a page's end in it would be none.
@@ -60,8 +61,8 @@ void BodyWriter::changeField(int field) {
     if (field == NothingKept)
         return;
     openGroup();
-    if (const QString frame = lineFrame(field); !frame.isEmpty()) {
-        writeKept(m_out, m_tables, frameOf(frame).ahead);
+    if (const ShapeFrame frame = lineFrame(field); frame.has(0)) {
+        writeKept(m_out, m_tables, frame.ahead);
         m_out.word("\\pard");
         plain();
         m_symbols = m_tables.symbolFontOf(m_format.family);

@@ -109,6 +109,7 @@ private slots:
     void theSideOfALabelOfAListThatNobodyKnowsIsNotTold();
     void aShapeInACellKnowsTheLookOfTextBehindTheHead();
     void aTabIsPartOfTheNameOfAProperty();
+    void aFormulaThatItsCopyShowsAsAPictureIsNone();
 };
 
 void OutOfPlaceTest::theFontOfTextThatNamesNoneIsSettledWithTheFirstText() {
@@ -603,6 +604,12 @@ void OutOfPlaceTest::aTabIsPartOfTheNameOfAProperty() {
     QCOMPARE(document.toPlainText(), QStringLiteral("ab"));
     readFile(document, "a{\\shp\\shpinst{\\sn pib }{\\sv{\\pict 0102}}}b");
     QCOMPARE(document.toPlainText(), QStringLiteral("a\ufffcb"));
+}
+
+void OutOfPlaceTest::aFormulaThatItsCopyShowsAsAPictureIsNone() {
+    QTextDocument document;
+    readFile(document, "a{\\mmath{\\*\\listid\\shpinst{\\sn pib}{\\sv{\\pict 0102}}}}b");
+    QVERIFY(!writeRtf(document).contains("\\mmath"));
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, OutOfPlaceTest)

@@ -174,6 +174,8 @@ void SayingTest::whatIsSaidStays_data() {
     row("the upper half is Latin", "{\\dbch\\af2\\hich\\af1 word}\\par",
         "\\pard\\hich\\af1\\dbch\\af2\\loch\\f0\\fs24 deed\\par");
     // Marks
+    row("number of a note that tells all of its look", "word{\\plain\\super\\chftn} on\\par",
+        "deed{\\plain\\super\\f0\\fs24\\chftn} on");
     row("number of a note", "word{\\i\\super\\chftn}{\\footnote x} on\\par",
         "deed{\\plain\\i\\super\\f0\\fs24\\chftn}{\\footnote x} on");
     row("drawing", "word{\\*\\do\\dobxpage\\dptxbx{\\dptxbxtext a}\\dpx9} on\\par",

@@ -95,6 +95,7 @@ void Interpreter::openGroup() {
     }
     m_groups.push_back(m_state);
     m_state.ownsDestination = false;
+    m_state.tellsPlain = false;
     m_state.ownField = NothingKept;
     m_state.ownBox = NothingKept;
 }

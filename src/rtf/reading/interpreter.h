@@ -102,6 +102,7 @@ private:
         TabLeader tabLeader = TabLeader::None;
         Destination destination = Destination::Body;
         bool ownsDestination = false;
+        bool tellsPlain = false; ///< by itself
         bool deleted = false;
         bool inTable = false;
         bool nested = false; ///< words for rows are of a table in a cell
@@ -339,6 +340,7 @@ private:
     struct AnchorBehindCell {
         QString kept;
         std::optional<CharFormat> look;
+        bool tellsPlain = false; ///< the group that it stands in
     };
     std::vector<AnchorBehindCell> m_anchorsBehindCell;
     bool m_sectionBegins = false;          ///< with the paragraph, and is not the first one

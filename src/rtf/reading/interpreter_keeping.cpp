@@ -106,7 +106,7 @@ bool Interpreter::keptWord(const Token& token) {
 }
 
 /// What begins the group of a note's number: it looks like the text ahead of it, but raised, or
-/// else in a way of its own.
+/// else in a way of its own, as it does where its group tells all of it.
 QString Interpreter::lookOfMark() const {
     CharFormat look = m_textFormat;
     look.script = m_state.chars.script;
@@ -116,7 +116,7 @@ QString Interpreter::lookOfMark() const {
     look.link = m_state.chars.link;
     look.field = m_state.chars.field;
     look.byNumber = m_state.chars.byNumber;
-    if (m_text.isEmpty() || look != m_state.chars)
+    if (m_text.isEmpty() || m_state.tellsPlain || look != m_state.chars)
         return u'{' + keptLook(told(m_state.chars), m_names);
     return m_state.chars.script == Script::Super ? u"{\\super"_s : u"{\\nosupersub"_s;
 }
@@ -244,7 +244,7 @@ void Interpreter::anchorMark(const QString& word) {
     if (m_cellsEnded.empty())
         anchor(lookOfMark() + u'\\' + word + u'}');
     else
-        m_anchorsBehindCell.push_back({word, m_state.chars});
+        m_anchorsBehindCell.push_back({word, m_state.chars, m_state.tellsPlain});
 }
 
 /// What they stand behind is known by now.
@@ -255,8 +255,10 @@ void Interpreter::anchorBehindCells() {
             continue;
         }
         const CharFormat around = std::exchange(m_state.chars, *waiting.look);
+        const bool tellsPlain = std::exchange(m_state.tellsPlain, waiting.tellsPlain);
         anchorMark(waiting.kept);
         m_state.chars = around;
+        m_state.tellsPlain = tellsPlain;
     }
 }
 

@@ -31,6 +31,7 @@ bool Interpreter::characterWord(const Token& token) {
     switch (token.word->action) {
     case Action::PlainCharacters:
         plainCharacters();
+        m_state.tellsPlain = true;
         return true;
     case Action::Font:
         if (m_state.destination == Destination::FontTable) {

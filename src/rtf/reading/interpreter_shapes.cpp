@@ -69,9 +69,15 @@ void Interpreter::keepFormula() {
     const QString kept =
         GroupKeeper(m_tokenizer.groupAhead(), tables).kept("{\\", "mmath", m_keptLeft);
     m_keptLeft -= kept.size();
-    const QString text = formulaText(keptWithoutPlaces(kept));
+    const QByteArray copy = keptWithoutPlaces(kept);
+    const QString text = formulaText(copy);
     const bool inField = m_state.chars.field != NothingKept;
     if (kept.isEmpty() || (inField && !text.isEmpty()))
+        return;
+    // Words that the copy leaves out may have hidden what it shows.
+    constexpr QByteArrayView Head = "{\\mmath";
+    const QByteArrayView content = QByteArrayView(copy).sliced(Head.size()).chopped(1);
+    if (scanShape(content).shows == ShapeScan::Shows::Picture)
         return;
     skipGroup();
     if (text.isEmpty()) {

@@ -8,10 +8,10 @@
 #include "controls/html_import.h"
 #include "rtf/formats/format_properties.h"
 #include "rtf/pictures/picture_format.h"
+#include "rtf/pictures/picture_image.h"
 #include "rtf/reader.h"
 #include "rtf/writer.h"
 
-#include <QBuffer>
 #include <QHash>
 #include <QImage>
 #include <QMimeData>
@@ -54,14 +54,8 @@ QByteArray pictureOf(const QMimeData& data) {
         if (!bytes.isEmpty())
             return bytes;
     }
-    QByteArray bytes;
     const auto image = qvariant_cast<QImage>(data.imageData());
-    if (!image.isNull()) {
-        QBuffer buffer(&bytes);
-        buffer.open(QIODevice::WriteOnly);
-        image.save(&buffer, "PNG");
-    }
-    return bytes;
+    return image.isNull() ? QByteArray() : rtf::pngOf(image);
 }
 
 bool offersPicture(const QMimeData& data) {

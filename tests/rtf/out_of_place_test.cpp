@@ -110,6 +110,7 @@ private slots:
     void aShapeInACellKnowsTheLookOfTextBehindTheHead();
     void aTabIsPartOfTheNameOfAProperty();
     void aFormulaThatItsCopyShowsAsAPictureIsNone();
+    void aSignThatIsNoCharacterStandsForNoneInWhatIsKept();
 };
 
 void OutOfPlaceTest::theFontOfTextThatNamesNoneIsSettledWithTheFirstText() {
@@ -610,6 +611,12 @@ void OutOfPlaceTest::aFormulaThatItsCopyShowsAsAPictureIsNone() {
     QTextDocument document;
     readFile(document, "a{\\mmath{\\*\\listid\\shpinst{\\sn pib}{\\sv{\\pict 0102}}}}b");
     QVERIFY(!writeRtf(document).contains("\\mmath"));
+}
+
+void OutOfPlaceTest::aSignThatIsNoCharacterStandsForNoneInWhatIsKept() {
+    QTextDocument document;
+    readFile(document, "a{\\*\\bkmkstart \\u8364\\:??}b");
+    QVERIFY(writeRtf(document).contains("{\\*\\bkmkstart\\'80\\:?}"));
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, OutOfPlaceTest)

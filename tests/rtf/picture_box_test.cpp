@@ -44,6 +44,7 @@ private slots:
     void aDrawingThatCannotBeDrawnEitherIsKept();
     void aWholeBitmapFileBehindTheWordForABareOneIsShown();
     void whatIsNoPictureIsNotInserted();
+    void aBitmapOfMoreColoursThanItsPixelsNameIsWritten();
     void wordsBetweenTheDataLeaveThePictureWhole_data();
     void wordsBetweenTheDataLeaveThePictureWhole();
     void picturesThatClaimTooMuchTogetherAreBoxes();
@@ -327,6 +328,20 @@ void PictureBoxTest::aWholeBitmapFileBehindTheWordForABareOneIsShown() {
     QVERIFY(readRtf(rtfOf("\\dibitmap0", encoded(sampleImage(), "BMP")), document).ok());
     QCOMPARE(shown(document).convertToFormat(QImage::Format_RGB32), sampleImage());
     QCOMPARE(pictureOf(document).width(), 4.0);
+}
+
+void PictureBoxTest::aBitmapOfMoreColoursThanItsPixelsNameIsWritten() {
+    // Two rows of two pixels of one bit, and a table of three colours.
+    const QByteArray bitmap = "28000000020000000200000001000100000000000800000000000000000000000300"
+                              "00000000000000000000ffffff00ff0000008000000040000000";
+    QTextDocument document;
+    QVERIFY(readRtf(rtfOf("\\dibitmap0", QByteArray::fromHex(bitmap)), document).ok());
+    const QImage image = shown(document).convertToFormat(QImage::Format_RGB32);
+    QCOMPARE(image.size(), QSize(2, 2));
+    QCOMPARE(image.pixel(0, 1), qRgb(255, 255, 255));
+    QTextDocument again;
+    QVERIFY(readRtf(writeRtf(document), again).ok());
+    QCOMPARE(shown(again).convertToFormat(QImage::Format_RGB32), image);
 }
 
 void PictureBoxTest::wordsBetweenTheDataLeaveThePictureWhole_data() {

@@ -208,20 +208,20 @@ void GroupKeeper::plain() {
 }
 
 void GroupKeeper::symbol(uchar character) {
+    const char word[] = {'\\', char(character)};
     switch (character) {
     case '~':
     case '-':
     case '_':
-    case '|':
-    case ':': {
-        if (m_fallbackToSkip > 0) {
+        if (m_fallbackToSkip > 0)
             --m_fallbackToSkip;
-            return;
-        }
-        const char word[] = {'\\', char(character)};
+        else
+            m_out.structure(QByteArrayView(word, 2));
+        return;
+    case '|':
+    case ':': // which are no characters
         m_out.structure(QByteArrayView(word, 2));
         return;
-    }
     case '\t':
         if (m_fallbackToSkip > 0)
             --m_fallbackToSkip;

@@ -8,7 +8,6 @@
 #include "rtf/pictures/picture_image.h"
 #include "rtf/room/intake.h"
 
-#include <QBuffer>
 #include <QCryptographicHash>
 #include <QImage>
 #include <QPixmap>
@@ -205,11 +204,7 @@ Picture pictureOfFormat(const QTextDocument& document, const QTextImageFormat& f
         if (image.isNull() && !picture.bytes.isEmpty())
             image = imageOfPicture(picture, MostPixelsOfOne, nullptr);
         if (!image.isNull()) {
-            QByteArray png;
-            QBuffer buffer(&png);
-            buffer.open(QIODevice::WriteOnly);
-            image.save(&buffer, "PNG");
-            picture.bytes = png;
+            picture.bytes = pngOf(image);
             picture.kind = PictureKind::Png;
             picture.width = image.width();
             picture.height = image.height();

@@ -138,4 +138,15 @@ QImage imageOfPicture(const Picture& picture, qint64 mostPixels, MetafileConvert
     }
 }
 
+QByteArray pngOf(QImage image) {
+    // Bitmaps may tell more colours than their pixels can name, which no PNG can.
+    if (image.depth() <= 8 && image.colorCount() > 1 << image.depth())
+        image.setColorCount(1 << image.depth());
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return png;
+}
+
 } // namespace orvalis::rtf

@@ -23,4 +23,7 @@ QSizeF shownTwips(const Picture& picture);
 /// \returns a null image when the bytes are not what they claim, or nothing can draw them.
 QImage imageOfPicture(const Picture& picture, qint64 mostPixels, MetafileConverter* converter);
 
+/// The bytes of a PNG file with the picture.
+QByteArray pngOf(QImage image);
+
 } // namespace orvalis::rtf

@@ -281,23 +281,18 @@ private:
                 m_body.writeAnchors(look.anchors);
                 continue;
             }
-            const bool inShape = shown.isChanged && start < shown.end;
-            const int behindShape =
-                inShape ? std::exchange(look.anchors, NothingKept) : NothingKept;
-            if (shown.end > 0 && !inShape)
+            const QStringView part = text.sliced(start, end - start);
+            if (shown.isChanged && start < shown.end) {
+                const int behind = std::exchange(look.anchors, NothingKept);
+                m_body.text(part, look);
+                if (end == shown.end)
+                    m_body.endShape();
+                m_body.writeAnchors(behind);
+                continue;
+            }
+            if (shown.end > 0)
                 look.field = NothingKept;
-            if (m_formats.isImage(fragment)) {
-                const Picture picture =
-                    pictureOfFormat(m_document, fragment.charFormat().toImageFormat());
-                for (int i = start; i < end; ++i)
-                    m_body.picture(picture, look);
-            } else {
-                m_body.text(text.mid(start, end - start), look);
-            }
-            if (inShape && end == shown.end) {
-                m_body.endShape();
-                m_body.writeAnchors(behindShape);
-            }
+            run(fragment, part, look);
         }
         if (empty) {
             const CharFormat mark = m_formats.look(block.charFormat());
@@ -305,6 +300,16 @@ private:
         } else {
             m_body.endParagraph(nullptr);
         }
+    }
+
+    void run(const QTextFragment& fragment, QStringView text, const CharFormat& look) {
+        if (!m_formats.isImage(fragment)) {
+            m_body.text(text, look);
+            return;
+        }
+        const Picture picture = pictureOfFormat(m_document, fragment.charFormat().toImageFormat());
+        for (qsizetype i = 0; i < text.size(); ++i)
+            m_body.picture(picture, look);
     }
 
     /// Runs that a field shows by itself, or a formula or a shape.

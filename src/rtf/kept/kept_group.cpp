@@ -76,7 +76,8 @@ void GroupKeeper::take(const Token& token) {
         word(token);
         return;
     case TokenKind::Symbol:
-        flushPending();
+        if (isCharacters(token) || isLineEnd(token))
+            flushPending();
         symbol(token.byte);
         return;
     case TokenKind::Binary:

@@ -4,8 +4,11 @@
 
 #include "rtf/pictures/little_endian.h"
 
+#include <QBuffer>
+#include <QImageReader>
 #include <QPainter>
 
+#include <algorithm>
 #include <cstring>
 
 namespace orvalis::rtf {
@@ -14,7 +17,8 @@ namespace {
 
 constexpr quint32 CoreHeaderSize = 12;
 constexpr quint32 InfoHeaderSize = 40;
-constexpr quint32 FileHeaderSize = 14;
+constexpr qsizetype FileHeaderSize = 14;
+constexpr qsizetype ColorCountAt = 32; // in the header
 constexpr qint64 LargestSide = 32767;
 
 constexpr quint32 CompressionNone = 0;
@@ -28,6 +32,7 @@ struct DibHeader {
     qint64 height = 0;
     int bits = 0;
     quint32 compression = 0;
+    qint64 colors = 0;
     qint64 paletteBytes = 0;
     qint64 pixelOffset() const { return qint64(headerSize) + paletteBytes; }
 };
@@ -57,37 +62,42 @@ bool readHeader(QByteArrayView dib, DibHeader& header) {
     default:
         return false;
     }
-    qint64 colors = core ? 0 : readU32(dib, 32);
+    qint64 colors = core ? 0 : readU32(dib, ColorCountAt);
     if (header.bits <= 8 && (colors == 0 || colors > (1 << header.bits)))
         colors = 1 << header.bits;
     if (colors > 256)
         return false;
+    header.colors = colors;
     header.paletteBytes = colors * (core ? 3 : 4);
     if (header.compression == CompressionBitFields && header.headerSize == InfoHeaderSize)
         header.paletteBytes += 12;
     return true;
 }
 
+/// Whether there may be as many pixels as the header claims.
+/// \param available bytes, with the header.
+/// \param cutShort how many times as many bytes plain rows may want.
+bool isPlausible(const DibHeader& header, qint64 available, int cutShort) {
+    available -= header.pixelOffset();
+    switch (header.compression) {
+    case CompressionNone:
+    case CompressionBitFields:
+        return (header.width * header.bits + 31) / 32 * 4 * header.height <= available * cutShort;
+    case CompressionRle8:
+    case CompressionRle4:
+        // Each pair of bytes draws 255 pixels at most.
+        return header.width * header.height <= available * 256;
+    default:
+        return false;
+    }
+}
+
 } // namespace
 
 QImage imageOfDib(QByteArrayView dib) {
     DibHeader header;
-    if (!readHeader(dib, header))
+    if (!readHeader(dib, header) || !isPlausible(header, dib.size(), 1))
         return {};
-    const qint64 available = dib.size() - header.pixelOffset();
-    const qint64 rowBytes = (header.width * header.bits + 31) / 32 * 4;
-    const bool packedRows =
-        header.compression == CompressionNone || header.compression == CompressionBitFields;
-    const bool runLength =
-        header.compression == CompressionRle8 || header.compression == CompressionRle4;
-    if (packedRows && rowBytes * header.height > available)
-        return {};
-    // Each pair of bytes of the run-length forms draws 255 pixels at most.
-    if (runLength && header.width * header.height > available * 256)
-        return {};
-    if (!packedRows && !runLength)
-        return {};
-
     QByteArray file;
     file.reserve(dib.size() + FileHeaderSize);
     file.append("BM", 2);
@@ -95,7 +105,26 @@ QImage imageOfDib(QByteArrayView dib) {
     appendU32(file, 0);
     appendU32(file, quint32(header.pixelOffset() + FileHeaderSize));
     file.append(dib);
-    return QImage::fromData(file, "BMP");
+    // A table of more colours than its pixels can name would be looked for in the rows.
+    if (header.headerSize >= InfoHeaderSize && header.bits <= 8)
+        qToLittleEndian(quint32(header.colors), file.data() + FileHeaderSize + ColorCountAt);
+    return imageOfBitmapFile(file);
+}
+
+QImage imageOfBitmapFile(const QByteArray& file) {
+    constexpr int MostCutShort = 16; // times what is left of it
+    const QByteArrayView dib = QByteArrayView(file).sliced(std::min(file.size(), FileHeaderSize));
+    DibHeader header;
+    if (!readHeader(dib, header) || !isPlausible(header, dib.size(), MostCutShort))
+        return {};
+    QBuffer buffer;
+    buffer.setData(file);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer, "BMP");
+    // The decoder leaves the pixels that the file does not tell as it finds them.
+    QImage image(int(header.width), int(header.height), reader.imageFormat());
+    image.fill(0);
+    return reader.read(&image) ? image : QImage();
 }
 
 QImage imageOfRows(QByteArrayView rows, QSize size, const DeviceBitmap& bitmap) {

@@ -12,6 +12,11 @@ namespace orvalis::rtf {
 /// what the header claims, or the header is none. Nothing is allocated before that is known.
 QImage imageOfDib(QByteArrayView dib);
 
+/// The picture in a bitmap file, a packed DIB behind a header of its own. What a file that is cut
+/// short does not tell is in its first colour, or black; one that claims many times what it has is
+/// null, too.
+QImage imageOfBitmapFile(const QByteArray& file);
+
 /// The picture in the rows of a device dependent bitmap of one or 24 or 32 bits a pixel.
 QImage imageOfRows(QByteArrayView rows, QSize size, const DeviceBitmap& bitmap);
 

@@ -48,12 +48,21 @@ QSize fitted(QSize size, qint64 mostPixels) {
     return {std::max(1, int(size.width() * factor)), std::max(1, int(size.height() * factor))};
 }
 
+QImage shrunk(const QImage& image, qint64 mostPixels) {
+    const QSize wanted = fitted(image.size(), mostPixels);
+    return wanted == image.size()
+               ? image
+               : image.scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
 QImage decoded(const QByteArray& bytes, qint64 mostPixels) {
     QBuffer buffer;
     buffer.setData(bytes);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer);
     reader.setDecideFormatFromContent(true);
+    if (reader.format() == "bmp")
+        return shrunk(imageOfBitmapFile(bytes), mostPixels);
     const QSize size = reader.size();
     if (size.isEmpty() || qint64(size.width()) * size.height() > MostClaimedPixels)
         return {};
@@ -74,13 +83,6 @@ QByteArrayView dibOfPicture(const Picture& picture, PictureKind kind) {
     }
 }
 
-QImage shrunk(const QImage& image, qint64 mostPixels) {
-    const QSize wanted = fitted(image.size(), mostPixels);
-    return wanted == image.size()
-               ? image
-               : image.scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-}
-
 } // namespace
 
 QSize pixelSize(const Picture& picture) {
@@ -90,7 +92,10 @@ QSize pixelSize(const Picture& picture) {
         buffer.setData(picture.bytes);
         buffer.open(QIODevice::ReadOnly);
         const QSize size = QImageReader(&buffer).size();
-        return size.isEmpty() ? jpegSize(picture.bytes) : size;
+        // The rows of a bitmap may stand from the top to the bottom, which its height tells by less
+        // than nothing.
+        const QSize upright(size.width(), qAbs(size.height()));
+        return upright.isEmpty() ? jpegSize(picture.bytes) : upright;
     }
     const bool named = kind == PictureKind::DeviceDependent;
     const QByteArrayView dib = dibOfPicture(picture, kind);

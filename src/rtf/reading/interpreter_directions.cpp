@@ -58,7 +58,7 @@ void Interpreter::turn(bool rightToLeft) {
         m_state.said = next.said;
         if (std::exchange(m_state.font, next.font) != next.font)
             selectFont();
-        setEastern(next.eastern);
+        setEastern(namesFont() ? next.eastern : nullptr);
     }
     tellOther();
 }

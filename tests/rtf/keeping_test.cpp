@@ -115,6 +115,13 @@ void KeepingTest::whatIsNotShownIsKept_data() {
         "deed\\par\r\n\\pard{\\footnote\\f0 below}\\par");
     row("footnote behind two units", "\\u-10179?\\u-9047?{\\footnote\\f0 below} word\\par",
         "\\u-10179?\\u-9047?{\\footnote\\f0 below} deed\\par");
+    row("bookmark that ends behind the last paragraph",
+        "a{\\*\\bkmkstart b}word\\par{\\*\\bkmkend b}", "deed{\\*\\bkmkend b}\\par");
+    row("bookmark that ends behind an empty paragraph", "word\\par\\par{\\*\\bkmkend b}",
+        "\\pard{\\*\\bkmkend b}\\par");
+    row("footnote behind the last table",
+        "word\\par\\trowd\\cellx99\\intbl a\\cell\\row{\\super\\chftn}{\\footnote\\f0 below}",
+        "a{\\plain\\super\\f0\\fs24\\chftn}{\\footnote\\f0 below}\\cell\\row");
     row("footnote behind raised text", "{\\super word}{\\super\\chftn}{\\footnote\\f0 below}\\par",
         "\\super\\f0\\fs24 deed\\nosupersub{\\super\\chftn}{\\footnote\\f0 below}\\par");
     row("sign by a field",

@@ -110,6 +110,9 @@ void ShapeTest::aBoxStaysWhereItStood_data() {
         "deed" + shape + " b}}}" + shape + " c}}}\\par");
     row("with a table", "word" + box("\\trowd\\cellx99\\intbl b\\cell\\row\\pard c") + "\\par",
         "\\trowd\\cellx99\\pard\\intbl\\f0 b\\cell\\row\\pard c}}}\\par");
+    row("with a cell behind its table",
+        "word" + box("\\trowd\\cellx99\\intbl b\\cell\\row\\cell") + "c\\par",
+        "b\\cell\\row\\pard\\tab}}}c\\par");
     row("with cells that are empty",
         "word" + box("\\trowd\\cellx99\\cellx200\\intbl{\\*\\unknown x}\\cell\\cell\\row") +
             "\\par",

@@ -230,12 +230,31 @@ void DocumentSink::end(const ParagraphFormat& paragraph, const CharFormat& mark)
     const bool onlyAnchors = m_paragraphs == 0 && m_intoNothing && paragraph.anchors != NothingKept;
     if (!m_runs.empty() || onlyAnchors)
         insertParagraph(paragraph, mark);
+    else if (m_intoNothing && paragraph.anchors != NothingKept && !isFull())
+        anchorAtEnd(m_names->keptAt(paragraph.anchors));
     if (m_paragraphs <= 1 || !m_targetStands)
         return;
     // The paragraph that follows the insertion keeps the shape it had, unless what was inserted
     // ahead of it in its line is too high in it. Nothing is higher in none than as it was counted.
     const bool keeps = m_intake.takesShape(m_cursor.block(), paragraphShape(m_targetFormat));
     m_cursor.setBlockFormat(keeps ? m_targetFormat : QTextBlockFormat());
+}
+
+/// There is no paragraph behind the last one that could hold what is kept there: it goes behind the
+/// text of that.
+void DocumentSink::anchorAtEnd(const QString& kept) {
+    QTextCursor last = m_cursor;
+    if (last.atBlockStart()) {
+        QTextBlockFormat format;
+        format.setProperty(KeptAtStart, last.blockFormat().stringProperty(KeptAtStart) + kept);
+        last.mergeBlockFormat(format);
+        return;
+    }
+    last.movePosition(QTextCursor::PreviousCharacter, QTextCursor::KeepAnchor);
+    const QString before = last.charFormat().stringProperty(KeptAnchors);
+    QTextCharFormat format;
+    format.setProperty(KeptAnchors, (before.isEmpty() ? ownNumber() : before) + kept);
+    last.mergeCharFormat(format);
 }
 
 const DocumentSink::Shape& DocumentSink::shapeOf(const ParagraphFormat& paragraph) {

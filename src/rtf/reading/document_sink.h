@@ -71,6 +71,7 @@ private:
     int formatIndex(const CharFormat& format);
     const Shape& shapeOf(const ParagraphFormat& paragraph);
     void insertParagraph(const ParagraphFormat& paragraph, const CharFormat& mark);
+    void anchorAtEnd(const QString& kept);
     void shapeFirst();
     void insertText(QStringView text, const Run& run);
     void insertRuns(const ParagraphShape& shape);

@@ -169,7 +169,7 @@ void Interpreter::beginBox() {
 }
 
 void Interpreter::endBox() {
-    if (m_boxIsOpen && (m_inParagraph || !m_boxHasParagraph))
+    if (m_boxIsOpen && (m_inParagraph || !m_cellsEnded.empty() || !m_boxHasParagraph))
         paragraphEnd();
     m_boxDepth = 0;
     m_rows = std::exchange(m_rowsAround, {});

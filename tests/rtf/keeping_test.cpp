@@ -122,6 +122,8 @@ void KeepingTest::whatIsNotShownIsKept_data() {
     row("footnote behind the last table",
         "word\\par\\trowd\\cellx99\\intbl a\\cell\\row{\\super\\chftn}{\\footnote\\f0 below}",
         "a{\\plain\\super\\f0\\fs24\\chftn}{\\footnote\\f0 below}\\cell\\row");
+    row("bookmark behind the text of a last box", "word{\\shp{\\shptxt\\f0 b}}{\\*\\bkmkend c}",
+        "deed{\\shp{\\shptxt\\plain\\pard\\f0 b}}{\\*\\bkmkend c}\\par");
     row("footnote behind raised text", "{\\super word}{\\super\\chftn}{\\footnote\\f0 below}\\par",
         "\\super\\f0\\fs24 deed\\nosupersub{\\super\\chftn}{\\footnote\\f0 below}\\par");
     row("sign by a field",

@@ -226,11 +226,12 @@ void DocumentSink::countTabs(const QTextBlockFormat& format) {
 }
 
 void DocumentSink::end(const ParagraphFormat& paragraph, const CharFormat& mark) {
-    // What is kept of a place needs one, where a document has no text.
-    const bool onlyAnchors = m_paragraphs == 0 && m_intoNothing && paragraph.anchors != NothingKept;
-    if (!m_runs.empty() || onlyAnchors)
+    // What is kept of a place needs one, where a document has no text, or ends with that of a box.
+    const bool onlyAnchors = m_runs.empty() && m_intoNothing && paragraph.anchors != NothingKept;
+    const bool isBehindText = m_paragraphs > 0 && !m_cursor.blockFormat().hasProperty(KeptBox);
+    if (!m_runs.empty() || (onlyAnchors && !isBehindText))
         insertParagraph(paragraph, mark);
-    else if (m_intoNothing && paragraph.anchors != NothingKept && !isFull())
+    else if (onlyAnchors && !isFull())
         anchorAtEnd(m_names->keptAt(paragraph.anchors));
     if (m_paragraphs <= 1 || !m_targetStands)
         return;

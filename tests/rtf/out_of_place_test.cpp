@@ -111,6 +111,10 @@ private slots:
     void aTabIsPartOfTheNameOfAProperty();
     void aFormulaThatItsCopyShowsAsAPictureIsNone();
     void aSignThatIsNoCharacterStandsForNoneInWhatIsKept();
+    void anInstructionInAnInstructionIsNoneOfItsText();
+    void aShapeThatIsKeptInAFieldEndsNothingOfIt();
+    void aShapeInTheOtherFormOfAPictureIsNotKept();
+    void whatStandsBehindARowWithoutEndMakesNone();
 };
 
 void OutOfPlaceTest::theFontOfTextThatNamesNoneIsSettledWithTheFirstText() {
@@ -617,6 +621,31 @@ void OutOfPlaceTest::aSignThatIsNoCharacterStandsForNoneInWhatIsKept() {
     QTextDocument document;
     readFile(document, "a{\\*\\bkmkstart \\u8364\\:??}b");
     QVERIFY(writeRtf(document).contains("{\\*\\bkmkstart\\'80\\:?}"));
+}
+
+void OutOfPlaceTest::anInstructionInAnInstructionIsNoneOfItsText() {
+    QTextDocument document;
+    readFile(document, "{\\field{{\\fldinst{\\fldinst r}HYPERLINK t}}\\fldrslt a}");
+    QCOMPARE(document.toPlainText(), QStringLiteral("a"));
+    QVERIFY(!writeRtf(document).contains("\\fldinst r"));
+}
+
+void OutOfPlaceTest::aShapeThatIsKeptInAFieldEndsNothingOfIt() {
+    QTextDocument document;
+    readFile(document, "{\\field{\\fldinst A}{\\fldrslt b{\\shp{\\shptxt\\par}}}}");
+    QVERIFY(writeRtf(document).contains("\\fldinst A"));
+}
+
+void OutOfPlaceTest::aShapeInTheOtherFormOfAPictureIsNotKept() {
+    QTextDocument document;
+    readFile(document, "\\intbl\\cellx1{\\pict 0102}{\\nonshppict\\shp{\\shptxt{\\pict 0304}}}");
+    QCOMPARE(document.toPlainText().count(QChar::ObjectReplacementCharacter), 1);
+}
+
+void OutOfPlaceTest::whatStandsBehindARowWithoutEndMakesNone() {
+    QTextDocument document;
+    readFile(document, "a\\cellx1\\intbl\\row\\par{\\*\\bkmkstart b}");
+    QCOMPARE(writeRtf(document).count("\\row"), 1);
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, OutOfPlaceTest)

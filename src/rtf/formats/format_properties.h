@@ -114,8 +114,9 @@ enum FormatProperty : int {
     NestedRow,
     /// Of a character format: the field that shows the text (QString, its number, U+0003 and its
     /// instruction as it is kept). Adjoining runs of one value are one field. Of a field that its
-    /// instruction alone shows, U+0003 and the text follow: where that is changed, the field is not
-    /// written.
+    /// instruction alone shows, or of a shape in a cell, U+0003 and the text follow: where that is
+    /// changed, the field is not written, but the text of a shape that has one, whose frame stands
+    /// ahead of that U+0003 behind U+0007.
     KeptField,
     /// Of a character format: the file tells the text by the Unicode numbers of its characters,
     /// though its font is one of signs (bool).

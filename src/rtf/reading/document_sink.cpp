@@ -246,8 +246,11 @@ void DocumentSink::end(const ParagraphFormat& paragraph, const CharFormat& mark)
 void DocumentSink::anchorAtEnd(const QString& kept) {
     QTextCursor last = m_cursor;
     if (last.atBlockStart()) {
+        const QTextBlockFormat own = last.blockFormat();
+        if (own.hasProperty(TableRow)) // which nothing but this would make a row of its own
+            return;
         QTextBlockFormat format;
-        format.setProperty(KeptAtStart, last.blockFormat().stringProperty(KeptAtStart) + kept);
+        format.setProperty(KeptAtStart, own.stringProperty(KeptAtStart) + kept);
         last.mergeBlockFormat(format);
         return;
     }

@@ -4,6 +4,7 @@
 
 #include "rtf/characters/whole_characters.h"
 #include "rtf/reading/equation_text.h"
+#include "rtf/reading/shape_scan.h"
 #include "rtf/reading/symbol_field.h"
 
 #include "rtf/characters/code_page.h"
@@ -60,6 +61,8 @@ private:
             m_resultDepth = NoDepth;
         if (depth() == m_innerDepth)
             m_innerDepth = NoDepth;
+        if (depth() == m_shapeDepth)
+            m_shapeDepth = NoDepth;
         if (depth() > 0)
             m_shown.pop_back();
     }
@@ -83,8 +86,8 @@ private:
         case Action::PictureGroup:
         case Action::ShapeGroup:
             m_scan.hasResult |= m_resultDepth != NoDepth;
-            if (m_head.isHead() && isFigure(token))
-                passGroup();
+            if (m_head.isHead())
+                figure(token);
             return;
         case Action::PassThrough:
             if (token.bytes == "fldrslt" && m_resultDepth == NoDepth)
@@ -93,6 +96,21 @@ private:
         default:
             return;
         }
+    }
+
+    /// What is kept of it as it came ends nothing of the field.
+    void figure(const Token& token) {
+        if (isFigure(token)) {
+            passGroup();
+            return;
+        }
+        // The look ahead reads all that is in a shape, so those inside are not looked into again.
+        if (m_shapeDepth != NoDepth)
+            return;
+        if (scanShape(m_tokenizer.groupAhead()).shows == ShapeScan::Shows::Nothing)
+            passGroup();
+        else
+            m_shapeDepth = depth();
     }
 
     /// A group that is no text. The first instruction is that of the field, but for those of fields
@@ -123,7 +141,34 @@ private:
     std::vector<bool> m_shown{true}; ///< of the groups that are open
     int m_resultDepth = NoDepth;
     int m_innerDepth = NoDepth; ///< of the field in it that one stands in
+    int m_shapeDepth = NoDepth; ///< the same of a shape
     bool m_hasInstruction = false;
+};
+
+/// The tokens of an instruction, as it is kept, without those of groups in it that are no text.
+class InstructionTokens {
+public:
+    explicit InstructionTokens(QByteArrayView instruction)
+        : m_tokenizer(instruction) {}
+
+    void next(Token& token) {
+        for (;;) {
+            m_tokenizer.next(token);
+            m_head.take(token);
+            if (token.kind != TokenKind::Word || !m_head.isHead())
+                return;
+            const bool hides = token.word ? hidesText(token.word->action) : m_head.isStarred();
+            if (!hides || std::exchange(m_isFirst, false)) // which is that of the instruction
+                return;
+            m_tokenizer.skipGroup();
+            m_head.leave();
+        }
+    }
+
+private:
+    Tokenizer m_tokenizer;
+    GroupHead m_head{false};
+    bool m_isFirst = true;
 };
 
 } // namespace
@@ -134,11 +179,11 @@ FieldScan scanField(QByteArrayView content) {
 
 QString instructionText(QByteArrayView instruction) {
     const CodePage& page = CodePage::forNumber(Latin1Page);
-    Tokenizer tokenizer(instruction);
+    InstructionTokens tokens(instruction);
     Token token;
     QString text;
     int toSkip = 0; // the one character for readers that know no other
-    for (tokenizer.next(token); token.kind != TokenKind::End; tokenizer.next(token)) {
+    for (tokens.next(token); token.kind != TokenKind::End; tokens.next(token)) {
         const bool isBytes = token.kind == TokenKind::Text;
         if (isBytes || token.kind == TokenKind::Byte) {
             const auto bytes = isBytes ? token.bytes : QByteArrayView(&token.byte, 1);
@@ -164,9 +209,9 @@ QString fieldText(const QString& instruction) {
 }
 
 QByteArray fieldName(QByteArrayView instruction) {
-    Tokenizer tokenizer(instruction);
+    InstructionTokens tokens(instruction);
     Token token;
-    for (tokenizer.next(token); token.kind != TokenKind::End; tokenizer.next(token)) {
+    for (tokens.next(token); token.kind != TokenKind::End; tokens.next(token)) {
         if (token.kind != TokenKind::Text)
             continue;
         const QByteArrayView text =

@@ -20,7 +20,8 @@ void Interpreter::keepShape(const Token& token) {
     const bool isFormula = token.word->value != 0;
     const bool inShape = m_state.inShape;
     bool& looked = isFormula ? m_state.inFormula : m_state.inShape;
-    if (std::exchange(looked, true) || m_shapes >= MostShapes || !shows())
+    // What is another form of a picture would not be that in a copy.
+    if (std::exchange(looked, true) || m_shapes >= MostShapes || !shows() || m_state.fallback)
         return;
     ++m_shapes;
     const ShapeScan scan = scanShape(m_tokenizer.groupAhead());

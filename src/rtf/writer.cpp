@@ -151,7 +151,7 @@ private:
                 torn.box = NothingKept;
             torn.row = NothingKept;
             leaveOutListOfCell(torn);
-            torn.rowBegins = false;
+            torn.rowBegins = torn.rowStaysOpen = false;
             torn.nesting = 0;
             torn.nestedRow = NothingKept;
             // Some readers leave out what stands between the rows of a table.

@@ -114,6 +114,8 @@ private slots:
     void anInstructionInAnInstructionIsNoneOfItsText();
     void aShapeThatIsKeptInAFieldEndsNothingOfIt();
     void aShapeInTheOtherFormOfAPictureIsNotKept();
+    void aFrameHoldsNoOtherFormOfItsPicture();
+    void aSectionThatEndsInAShapeInATextDissolvesTheShapeAround();
     void whatStandsBehindARowWithoutEndMakesNone();
 };
 
@@ -640,6 +642,19 @@ void OutOfPlaceTest::aShapeInTheOtherFormOfAPictureIsNotKept() {
     QTextDocument document;
     readFile(document, "\\intbl\\cellx1{\\pict 0102}{\\nonshppict\\shp{\\shptxt{\\pict 0304}}}");
     QCOMPARE(document.toPlainText().count(QChar::ObjectReplacementCharacter), 1);
+}
+
+void OutOfPlaceTest::aFrameHoldsNoOtherFormOfItsPicture() {
+    QTextDocument document;
+    readFile(document, "{\\shp\\shpinst{\\sn pib}{\\sv{\\pict 0102}{\\nonshppict}"
+                       "{\\nonshppict{\\pict 0304}}}}");
+    QCOMPARE(document.toPlainText(), QStringLiteral("\ufffc"));
+}
+
+void OutOfPlaceTest::aSectionThatEndsInAShapeInATextDissolvesTheShapeAround() {
+    QTextDocument document;
+    readFile(document, "{\\shp{\\shptxt a}{\\shptxt b{\\shpinst{\\shptxt\\sect c}}}}");
+    QVERIFY(!writeRtf(document).contains("\\shp"));
 }
 
 void OutOfPlaceTest::whatStandsBehindARowWithoutEndMakesNone() {

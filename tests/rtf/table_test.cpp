@@ -70,7 +70,7 @@ private slots:
     void aRowWhoseEmptyParagraphIsJoinedStaysOne();
     void whatIsAnchoredBehindACellStaysInItsRow();
     void aRowBehindOneThatIsTextIsARow();
-    void aRowThatNeverEndsHasNoLabelAtItsEnd();
+    void aRowThatNeverEndsBehindAnItemIsText();
     void aRowAtTheEndOfABoxStaysTheLast();
     void pagesBehindARowThatNeverEndsStay();
     void aTabInACellIsText();
@@ -90,6 +90,7 @@ private slots:
     void aFloodOfRowsIsBounded();
     void aNumberAtTheEndOfARowStays();
     void theNumberOfOneCellOfSeveralIsNotShownAheadOfAll();
+    void anItemBehindWhichARowIsLeftOpenStaysOne();
 };
 
 void TableTest::aTableIsATableAgain() {
@@ -321,7 +322,7 @@ void TableTest::aRowWhoseEmptyParagraphIsJoinedStaysOne() {
     QVERIFY2(rtf.contains("\\trowd") && rtf.endsWith("\\cell\\row\r\n}\r\n"), rtf);
 }
 
-void TableTest::aRowThatNeverEndsHasNoLabelAtItsEnd() {
+void TableTest::aRowThatNeverEndsBehindAnItemIsText() {
     QTextDocument document;
     QVERIFY(readRtf("{\\rtf1{\\*\\listtable{\\list{\\listlevel\\levelnfc0{\\leveltext\\'02\\'00.;}}"
                     "\\listid1}}{\\*\\listoverridetable{\\listoverride\\listid1\\ls1}}"
@@ -329,9 +330,9 @@ void TableTest::aRowThatNeverEndsHasNoLabelAtItsEnd() {
                     document)
                 .ok());
     const QByteArray rtf = written(document);
-    QVERIFY2(rtf.contains("{\\listtext 1.\\tab}") && rtf.contains("\\ls1\\ilvl0 b\\cell\\row"),
-             rtf);
-    QVERIFY2(rtf.contains("{\\listtext 2.\\tab}\\ls1\\ilvl0 c\\par"), rtf);
+    for (const char* item : {"{\\listtext 1.\\tab}\\ls1\\ilvl0\\fs24 a\\par",
+                             "{\\listtext 2.\\tab}b\\par", "{\\listtext 3.\\tab}c\\par"})
+        QVERIFY2(rtf.contains(item), rtf);
 }
 
 void TableTest::aRowAtTheEndOfABoxStaysTheLast() {
@@ -546,6 +547,24 @@ void TableTest::theNumberOfOneCellOfSeveralIsNotShownAheadOfAll() {
             document);
     QCOMPARE(document.toPlainText(), QStringLiteral("one\ttwo"));
     QVERIFY(!document.firstBlock().textList());
+}
+
+void TableTest::anItemBehindWhichARowIsLeftOpenStaysOne() {
+    const QByteArray lists =
+        "{\\listtable{\\list\\listlevel{\\leveltext\\'01\\'00}\\listlevel{\\leveltext"
+        "\\'02\\'00\\'01}\\listid7}}{\\listoverridetable{\\listoverride\\listid7\\ls1}}";
+    QTextDocument document;
+    readRtf(file(lists + "\\ls1{\\trowd\\cellx900\\intbl one\\par two\\par}\\ilvl1 three\\par"),
+            document);
+    const QByteArray rtf = written(document);
+    QVERIFY2(!rtf.contains("\\row"), rtf);
+    QTextDocument again;
+    readRtf(rtf, again);
+    for (const QTextDocument* read : {&document, &again}) {
+        QCOMPARE(shownLabel(read->firstBlock().next()), QStringLiteral("2"));
+        QCOMPARE(shownLabel(read->lastBlock()), QStringLiteral("21"));
+    }
+    QCOMPARE(written(again), rtf);
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, TableTest)

@@ -160,6 +160,7 @@ ParagraphFormat paragraphFormat(const QTextBlockFormat& format, const QTextList*
     result.kept = names.kept(format.stringProperty(KeptOfParagraph));
     result.row = names.kept(format.stringProperty(TableRow));
     result.rowBegins = format.boolProperty(RowBegins);
+    result.rowStaysOpen = format.boolProperty(RowStaysOpen);
     result.nesting = std::clamp(format.intProperty(TableNesting), 0, MostNesting);
     result.nestedRow = names.kept(format.stringProperty(NestedRow));
     if (list)

@@ -105,6 +105,8 @@ enum FormatProperty : int {
     PictureFrame,
     /// Of a block format: the row begins with the paragraph (bool).
     RowBegins,
+    /// Of such a format: an item of a list, behind which the row was left without an end (bool).
+    RowStaysOpen,
     /// Of such a format: how deep the table is nested that the paragraph is of (int, 2 and more; of
     /// the row's own when absent).
     TableNesting,

@@ -193,6 +193,7 @@ struct ParagraphFormat {
     int anchors = NothingKept; ///< what is kept ahead of its first character
     int row = NothingKept;     ///< of the table that the paragraph's cells are of
     bool rowBegins = false;    ///< with the paragraph
+    bool rowStaysOpen = false; ///< behind the paragraph, an item of a list
     int nesting = 0; ///< how deep the table in a cell is that the paragraph is of, 0 for none
     int nestedRow = NothingKept; ///< of that table, which ends with the paragraph
     int mark = NothingKept;      ///< of a list item: its mark's look, where its text has another

@@ -42,6 +42,7 @@ void clearKept(QTextBlockFormat& format) {
     format.clearProperty(KeptAtStart);
     format.clearProperty(TableRow);
     format.clearProperty(RowBegins);
+    format.clearProperty(RowStaysOpen);
     format.clearProperty(TableNesting);
     format.clearProperty(NestedRow);
     format.clearProperty(KeptBox);

@@ -41,8 +41,9 @@ private:
         m_head.take(token);
         m_scan.end = m_tokenizer.position();
         if (isWord && (token.word ? m_head.isHead() && hidesText(action) : m_head.isStarred())) {
-            m_scan.holdsMore |= tellsOfDocument(action) || (action == Action::ShapeInstruction &&
-                                                            holdsFigure(m_tokenizer.groupAhead()));
+            if (action == Action::ShapeInstruction)
+                shape(m_tokenizer.groupAhead());
+            m_scan.holdsMore |= tellsOfDocument(action);
             if (action == Action::FieldInstruction &&
                 !fieldText(instructionText(m_tokenizer.groupAhead())).isEmpty())
                 mayShow();
@@ -58,6 +59,12 @@ private:
         } else {
             content(token, action);
         }
+    }
+
+    /// One in the text: what it has of that is read with it.
+    void shape(QByteArrayView content) {
+        m_scan.holdsMore |= holdsFigure(content);
+        m_scan.endsSection |= content.contains("\\sect");
     }
 
     void content(const Token& token, Action action) {

@@ -225,6 +225,13 @@ void DocumentSink::countTabs(const QTextBlockFormat& format) {
         spend(BytesOfTabStop * stops.size());
 }
 
+void DocumentSink::rowStaysOpen() {
+    QTextBlockFormat format;
+    format.setProperty(RowStaysOpen, true);
+    if (m_paragraphs > 0)
+        m_cursor.mergeBlockFormat(format);
+}
+
 void DocumentSink::end(const ParagraphFormat& paragraph, const CharFormat& mark) {
     // What is kept of a place needs one, where a document has no text, or ends with that of a box.
     const bool onlyAnchors = m_runs.empty() && m_intoNothing && paragraph.anchors != NothingKept;

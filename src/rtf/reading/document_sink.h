@@ -39,6 +39,7 @@ public:
     void fallbackPicture(const Picture& picture) override;
     void paragraphEnd(const ParagraphFormat& paragraph, const CharFormat& mark) override;
     void end(const ParagraphFormat& paragraph, const CharFormat& mark) override;
+    void rowStaysOpen() override;
     void defaultTab(int twips) override;
     bool takesStyles(const QString& styles) override;
     void anchor(const QString& kept) override;

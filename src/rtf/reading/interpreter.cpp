@@ -243,7 +243,9 @@ void Interpreter::finish() {
     flushText();
     textComes();
     tellKept();
-    m_sink.end(shapedParagraph(), told(m_state.chars));
+    const ParagraphFormat& last = shapedParagraph();
+    tellOpenRow(last);
+    m_sink.end(last, told(m_state.chars));
 }
 
 } // namespace orvalis::rtf

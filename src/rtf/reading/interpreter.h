@@ -123,8 +123,9 @@ private:
         std::array<int, MostNesting + 1> cellsOfNested{}; ///< the same, by their nesting
         bool any = false;                                 ///< has been shaped
         bool isNew = false;                               ///< row does not tell it yet
-        bool isOpened = false;  ///< by a paragraph without text, of which the row may never end
-        bool isEntered = false; ///< a paragraph of the row has ended
+        bool isOpened = false;     ///< by a paragraph without text, of which the row may never end
+        bool isEntered = false;    ///< a paragraph of the row has ended
+        bool endsWithItem = false; ///< of a list, so far
 
         /// What comes is none of the row that was entered.
         void leave() {
@@ -172,6 +173,7 @@ private:
 
     // Paragraphs (interpreter_paragraphs.cpp)
     void paragraphEnd();
+    void tellOpenRow(const ParagraphFormat& next);
     void pageEnd();
     void showStart(ListLabel& list) const;
     const ParagraphFormat& shapedParagraph();
@@ -282,6 +284,7 @@ private:
     void expectBox();
     void expectBoxAt(int place);
     int placeHere() const;
+    bool isInFrame() const;
     bool isEmptyText() const;
     void beginPictureOfBox();
     void endPictureOfBox();

@@ -83,15 +83,16 @@ bool Interpreter::destinationWord(const Token& token) {
     case Action::ShapePicture:
         m_shapePictureShown = false;
         return true;
-    case Action::NoShapePicture:
-        // The same picture once more, for readers that do not know the first form.
-        if (std::exchange(m_shapePictureShown, false)) {
-            if (!m_lineBox.isOpen && m_sink.wantsFallback())
-                m_state.fallback = true;
-            else
-                skipGroup();
-        }
+    case Action::NoShapePicture: {
+        // The same picture once more, for readers that do not know the first form; a frame has
+        // none.
+        const bool isOther = std::exchange(m_shapePictureShown, false);
+        if (isOther && !m_lineBox.isOpen && m_sink.wantsFallback())
+            m_state.fallback = true;
+        else if (isOther || isInFrame())
+            skipGroup();
         return true;
+    }
     case Action::Field:
         if (m_state.ownField != NothingKept)
             return true;

@@ -19,6 +19,7 @@ void Interpreter::paragraphEnd() {
     cellTabs(m_cellsEnded.size());
     flushText();
     const ParagraphFormat& paragraph = shapedParagraph();
+    tellOpenRow(paragraph);
     m_sink.paragraphEnd(paragraph, told(m_state.chars));
     m_rows.isEntered = paragraph.row != NothingKept && !m_rowEnds;
     m_rows.isOpened = m_rows.isEntered && isOpenRow(m_names.keptAt(paragraph.row));
@@ -34,6 +35,14 @@ void Interpreter::paragraphEnd() {
     m_anchorsAtStart.clear();
     m_label = {};
     askForRoom();
+}
+
+/// An item of a list that ended no cell is none of a row.
+void Interpreter::tellOpenRow(const ParagraphFormat& next) {
+    const bool isInRow = next.row != NothingKept;
+    if (m_rows.endsWithItem && (!isInRow || next.rowBegins))
+        m_sink.rowStaysOpen();
+    m_rows.endsWithItem = isInRow && !m_rowEnds && next.list.hasTables();
 }
 
 void Interpreter::pageEnd() {

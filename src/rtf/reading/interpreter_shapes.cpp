@@ -122,8 +122,13 @@ int Interpreter::placeHere() const {
 /// Whether the text whose word has come is one of those that show nothing, and are kept with what
 /// the shape shows.
 bool Interpreter::isEmptyText() const {
-    const bool besideBoxes = m_state.box != NothingKept && m_boxDepth == 0;
-    return m_state.frame != NothingKept || (besideBoxes && placeHere() == NoPlace);
+    return isInFrame() && (m_state.frame != NothingKept || placeHere() == NoPlace);
+}
+
+/// Whether what comes is none of the text, but of the frame of a shape, unless it has a place
+/// there.
+bool Interpreter::isInFrame() const {
+    return m_state.frame != NothingKept || (m_state.box != NothingKept && m_boxDepth == 0);
 }
 
 /// A picture beside the texts of a shape is a paragraph of its own, of no shape and look.

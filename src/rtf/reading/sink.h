@@ -28,6 +28,8 @@ public:
     /// Another form of the picture that came last. Comes only where it is wanted.
     virtual void fallbackPicture(const Picture& /*picture*/) {}
     virtual void paragraphEnd(const ParagraphFormat& paragraph, const CharFormat& mark) = 0;
+    /// Comes ahead of the paragraph behind an item of a list, where the row of that was left open.
+    virtual void rowStaysOpen() {}
     /// Comes once, last: the shape of what came behind the last paragraph end.
     virtual void end(const ParagraphFormat& paragraph, const CharFormat& mark) = 0;
     /// Whether entries of the file's style sheet mean anything where the text goes.

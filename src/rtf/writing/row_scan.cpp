@@ -63,7 +63,7 @@ bool RowScan::numbersCells() const {
 
 bool RowScan::isWhole() const {
     const QString kept = m_names.keptAt(m_row);
-    return !m_empty && !numbersCells() &&
+    return !m_empty && !m_line.rowStaysOpen && !numbersCells() &&
            m_cells == (m_told ? cellsOfRow(kept) : cellsOfRow(wordsOfRow(kept).toString()));
 }
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/kept/shape_frame.h"
 
+#include <algorithm>
+
 namespace orvalis::rtf {
 
 namespace {

@@ -117,6 +117,9 @@ void KeepingTest::whatIsNotShownIsKept_data() {
         "\\u-10179?\\u-9047?{\\footnote\\f0 below} deed\\par");
     row("bookmark that ends behind the last paragraph",
         "a{\\*\\bkmkstart b}word\\par{\\*\\bkmkend b}", "deed{\\*\\bkmkend b}\\par");
+    row("bookmark around the end of the last paragraph",
+        "word on{\\*\\bkmkstart b}\\par{\\*\\bkmkend b}",
+        "deed on{\\*\\bkmkstart b}{\\*\\bkmkend b}\\par");
     row("bookmark that ends behind an empty paragraph", "word\\par\\par{\\*\\bkmkend b}",
         "\\pard{\\*\\bkmkend b}\\par");
     row("footnote behind the last table",

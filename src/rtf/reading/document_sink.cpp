@@ -261,8 +261,8 @@ void DocumentSink::anchorAtEnd(const QString& kept) {
         last.mergeBlockFormat(format);
         return;
     }
-    last.movePosition(QTextCursor::PreviousCharacter, QTextCursor::KeepAnchor);
     const QString before = last.charFormat().stringProperty(KeptAnchors);
+    last.movePosition(QTextCursor::PreviousCharacter, QTextCursor::KeepAnchor);
     QTextCharFormat format;
     format.setProperty(KeptAnchors, (before.isEmpty() ? ownNumber() : before) + kept);
     last.mergeCharFormat(format);

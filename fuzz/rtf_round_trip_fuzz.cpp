@@ -24,10 +24,14 @@ void require(bool held, const char* promise, const QByteArray& written) {
 
 /// What is in a document is written so that it reads back as the same, and is then written with the
 /// same bytes.
-void requireRoundTrip(const QTextDocument& document) {
+/// \param mayBeFull a change may have made the text longer than there is room for.
+void requireRoundTrip(const QTextDocument& document, bool mayBeFull) {
     const QByteArray written = writeRtf(document);
     QTextDocument again;
-    require(readRtf(written, again).ok(), "what is written can be read", written);
+    const ReadResult read = readRtf(written, again);
+    if (mayBeFull && read.fault == Fault::TooLarge)
+        return;
+    require(read.ok(), "what is written can be read", written);
     require(again.toRawText() == document.toRawText(), "the text stays", written);
     require(writeRtf(again) == written, "it is written the same again", written);
 }
@@ -64,8 +68,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         rtf.prepend("{\\rtf1");
     QTextDocument document;
     readRtf(rtf, document);
-    requireRoundTrip(document);
+    requireRoundTrip(document, false);
     if (changeLetter(document, size))
-        requireRoundTrip(document);
+        requireRoundTrip(document, true);
     return 0;
 }

@@ -115,6 +115,7 @@ private slots:
     void aShapeThatIsKeptInAFieldEndsNothingOfIt();
     void aShapeInTheOtherFormOfAPictureIsNotKept();
     void aFrameHoldsNoOtherFormOfItsPicture();
+    void dataInAGroupOfAPictureAreKeptWithIt();
     void aSectionThatEndsInAShapeInATextDissolvesTheShapeAround();
     void whatStandsBehindARowWithoutEndMakesNone();
 };
@@ -655,6 +656,12 @@ void OutOfPlaceTest::aSectionThatEndsInAShapeInATextDissolvesTheShapeAround() {
     QTextDocument document;
     readFile(document, "{\\shp{\\shptxt a}{\\shptxt b{\\shpinst{\\shptxt\\sect c}}}}");
     QVERIFY(!writeRtf(document).contains("\\shp"));
+}
+
+void OutOfPlaceTest::dataInAGroupOfAPictureAreKeptWithIt() {
+    QTextDocument document;
+    readFile(document, "\\intbl\\cellx1{\\shp{\\shptxt a{\\pict{\\bin2 xy}}}}\\cell\\row");
+    QVERIFY(writeRtf(document).contains("{\\pict{7879}}"));
 }
 
 void OutOfPlaceTest::whatStandsBehindARowWithoutEndMakesNone() {

@@ -84,7 +84,7 @@ void GroupKeeper::take(const Token& token) {
         flushPending();
         if (m_fallbackToSkip > 0)
             --m_fallbackToSkip;
-        else if (m_state.picture)
+        else if (m_state.inPicture)
             m_out.text(QString::fromLatin1(token.bytes.toByteArray().toHex()));
         return;
     case TokenKind::End:
@@ -153,6 +153,7 @@ void GroupKeeper::word(const Token& token) {
         return;
     case Action::PictureGroup:
         m_state.picture |= m_head.isHead();
+        m_state.inPicture |= m_state.picture;
         copy(token);
         return;
     default:

@@ -45,6 +45,7 @@ private:
         int unicodeSkip = 1;
         bool symbols = false;
         bool picture = false;
+        bool inPicture = false; ///< the same, or a group in one
     };
 
     void take(const Token& token);

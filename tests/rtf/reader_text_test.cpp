@@ -332,6 +332,8 @@ void ReaderTextTest::theDocumentsPageHoldsWhereTheFontNamesNone_data() {
         << QByteArray("\\ansicpg0") << QByteArray("\\'80") << QStringLiteral("\u20ac");
     QTest::newRow("1200 means the usual one")
         << QByteArray("\\ansicpg1200") << QByteArray("\\'80") << QStringLiteral("\u20ac");
+    QTest::newRow("the codes of signs mean the usual one")
+        << QByteArray("\\ansicpg42") << QByteArray("a\\'80") << QStringLiteral("a\u20ac");
     QTest::newRow("cpg of the font wins")
         << QByteArray("\\ansicpg1251{\\fonttbl{\\f0\\cpg1253 A;}}\\f0") << QByteArray("\\'e1")
         << QStringLiteral("\u03b1");

@@ -300,9 +300,10 @@ bool Interpreter::tableWord(const Token& token) {
 }
 
 /// It holds from here on, whatever groups end.
+/// A document's own page has letters: the codes of signs are of a font alone.
 void Interpreter::setDocumentPage(int number) {
     dissolveLineBox(); // whose copy does not tell it
-    m_documentPage = &CodePage::forNumber(number);
+    m_documentPage = &CodePage::forNumber(number == SymbolPage ? Latin1Page : number);
     m_fonts.pageHasChanged();
     selectFont();
 }

@@ -6,8 +6,10 @@
 #include "rtf/kept/kept_shape.h"
 #include "rtf/kept/kept_text.h"
 #include "rtf/pictures/picture_format.h"
+#include "rtf/writing/anchored_runs.h"
 #include "rtf/writing/body_writer.h"
 #include "rtf/writing/document_formats.h"
+#include "rtf/writing/field_runs.h"
 #include "rtf/writing/row_scan.h"
 
 #include <QSet>
@@ -23,12 +25,6 @@
 namespace orvalis::rtf {
 
 namespace {
-
-/// Whether a character is spelled alike in what is kept of a shape and in text that is written.
-bool standsInShape(QChar character) {
-    return (character >= u' ' || character == u'\t') &&
-           character != QChar::ObjectReplacementCharacter;
-}
 
 /// Walks through a part of a document and tells the body writer what stands there.
 class DocumentWalk {
@@ -250,10 +246,10 @@ private:
     template <class Takes>
     void runs(const QTextBlock& block, int position, const Takes& takes) {
         const QStringView text = textOf(block, position);
-        QHash<int, int> ends;
+        m_anchored.beginParagraph();
         bool empty = true;
         int at = 0;
-        Shown shown;
+        Field field;
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             const QTextFragment fragment = it.fragment();
             const int length = fragment.length();
@@ -264,35 +260,29 @@ private:
                 continue;
             empty = false;
             CharFormat look = m_formats.lookOf(fragment);
-            if (look.anchors != NothingKept) {
-                if (ends.isEmpty())
-                    ends = anchorEnds(it, at - length);
-                if (!anchorsEnd(look.anchors, ends, at))
-                    look.anchors = NothingKept;
-            }
+            if (look.anchors != NothingKept && !m_anchored.ends(look.anchors, it, at - length))
+                look.anchors = NothingKept;
             if (takes(fragment, look.anchors))
                 continue;
-            if (look.field != shown.field) {
-                shown = shownFrom(it, at - length, text, position);
-                if (shown.stays)
+            if (look.field != field.kept) {
+                field = fieldFrom(it, at - length, text, position);
+                if (field.runs == FieldRuns::Are::Shown)
                     m_body.shown(look);
             }
-            if (shown.stays && start < shown.end) {
-                m_body.writeAnchors(look.anchors);
-                continue;
-            }
             const QStringView part = text.sliced(start, end - start);
-            if (shown.isChanged && start < shown.end) {
-                const int behind = std::exchange(look.anchors, NothingKept);
-                m_body.text(part, look);
-                if (end == shown.end)
-                    m_body.endShape();
-                m_body.writeAnchors(behind);
-                continue;
+            const bool isOfField = field.runs && start < field.end;
+            switch (isOfField ? *field.runs : FieldRuns::Are::Text) {
+            case FieldRuns::Are::Shown:
+                m_body.writeAnchors(look.anchors);
+                break;
+            case FieldRuns::Are::ShapeText:
+                shapeText(part, look, end == field.end);
+                break;
+            case FieldRuns::Are::Text:
+                if (field.runs)
+                    look.field = NothingKept;
+                run(fragment, part, look);
             }
-            if (shown.end > 0)
-                look.field = NothingKept;
-            run(fragment, part, look);
         }
         if (empty) {
             const CharFormat mark = m_formats.look(block.charFormat());
@@ -312,43 +302,50 @@ private:
             m_body.picture(picture, look);
     }
 
-    /// Runs that a field shows by itself, or a formula or a shape.
-    struct Shown {
-        int field = NothingKept;
-        int end = 0;            ///< in the paragraph; 0 if the field shows what is in it
-        bool stays = false;     ///< they are what it shows
-        bool isChanged = false; ///< they are the text of a shape by now
+    void shapeText(QStringView text, CharFormat look, bool endsShape) {
+        const int behind = std::exchange(look.anchors, NothingKept);
+        m_body.text(text, look);
+        if (endsShape)
+            m_body.endShape();
+        m_body.writeAnchors(behind);
+    }
+
+    /// A field of a paragraph.
+    struct Field {
+        int kept = NothingKept;
+        std::optional<FieldRuns::Are> runs = {}; ///< nothing where it holds its text
+        int end = 0;                             ///< of the runs, in the paragraph
     };
 
     /// \param it the first run of a field.
     /// \param at where it begins in the paragraph.
-    Shown shownFrom(QTextBlock::iterator it, int at, QStringView text, int position) {
-        Shown shown{m_formats.lookOf(it.fragment()).field};
-        const QString kept = m_body.names().keptAt(shown.field);
-        const std::optional<KeptShown> own = shownBy(kept);
-        if (!own)
-            return shown;
-        shown.end = at;
-        bool isPlain = true; // up to the last run, which something may be anchored behind
-        bool isAnchored = false;
-        for (; !it.atEnd() && m_formats.lookOf(it.fragment()).field == shown.field; ++it) {
+    Field fieldFrom(QTextBlock::iterator it, int at, QStringView text, int position) {
+        Field field{m_formats.lookOf(it.fragment()).field};
+        const QString kept = m_body.names().keptAt(field.kept);
+        const std::optional<KeptShown> shown = shownBy(kept);
+        if (!shown)
+            return field;
+        FieldRuns runs(*shown);
+        for (; !it.atEnd(); ++it) {
             const CharFormat& look = m_formats.lookOf(it.fragment());
-            isPlain = isPlain && !isAnchored && m_body.standsInShape(look);
-            isAnchored = look.anchors != NothingKept;
-            shown.end += it.fragment().length();
+            if (look.field != field.kept)
+                break;
+            runs.run(it.fragment().length(), m_body.standsInShape(look),
+                     look.anchors != NothingKept);
         }
-        const bool isWhole = position + at >= m_from && position + shown.end <= m_to;
-        const bool isShape = isShapeInLine(own->group);
+        field.end = at + runs.length();
+        field.runs = FieldRuns::Are::Text;
+        const bool isWhole = position + at >= m_from && position + field.end <= m_to;
+        const bool isShape = isShapeInLine(shown->group);
         if (!isWhole || (isShape && !m_inCell))
-            return shown;
-        const QStringView present = text.sliced(at, shown.end - at);
-        shown.stays = present == own->text;
-        shown.isChanged = !shown.stays && isPlain && !own->frame.isEmpty() &&
-                          !m_shapesWritten.contains(shown.field) &&
-                          std::all_of(present.begin(), present.end(), standsInShape);
+            return field;
+        const FieldRuns::Are are = runs.are(text.sliced(at, runs.length()));
+        // A part of the text that has been pasted elsewhere is none of a second shape.
+        if (are != FieldRuns::Are::ShapeText || !m_shapesWritten.contains(field.kept))
+            field.runs = are;
         if (isShape)
-            m_shapesWritten.insert(shown.field);
-        return shown;
+            m_shapesWritten.insert(field.kept);
+        return field;
     }
 
     /// The text of a paragraph. That of a whole document is taken at once, which costs least.
@@ -357,28 +354,6 @@ private:
             return QStringView(m_text).sliced(position, block.length() - 1);
         m_text = block.text();
         return m_text;
-    }
-
-    /// Where the runs end that something is anchored to, in the paragraph.
-    /// \param it the first of them.
-    /// \param at where it begins.
-    QHash<int, int> anchorEnds(QTextBlock::iterator it, int at) {
-        QHash<int, int> ends;
-        for (; !it.atEnd(); ++it) {
-            const QTextFragment fragment = it.fragment();
-            at += fragment.length();
-            if (const int anchors = m_formats.lookOf(fragment).anchors; anchors != NothingKept)
-                ends.insert(anchors, at);
-        }
-        return ends;
-    }
-
-    /// Text set into the middle of a run parts it, and leaves the anchor with the last part.
-    bool anchorsEnd(int anchors, const QHash<int, int>& ends, int end) {
-        if (ends.value(anchors) != end || m_anchorsWritten.contains(anchors))
-            return false;
-        m_anchorsWritten.insert(anchors);
-        return true;
     }
 
     const QTextDocument& m_document;
@@ -396,7 +371,7 @@ private:
     bool m_inCell = false; ///< the paragraph that is written
     int m_bareCell = NothingKept;
     std::optional<RowScan> m_row; ///< that is written
-    QSet<int> m_anchorsWritten;
+    AnchoredRuns m_anchored{m_formats};
     QSet<int> m_shapesWritten; ///< in lines
 };
 

@@ -155,7 +155,7 @@ void Interpreter::skipGroup() {
 
 /// Of the shapes and boxes, whatever ends the group.
 void Interpreter::groupEnds() {
-    if (m_groups.size() == m_boxDepth)
+    if (m_groups.size() == m_box.depth)
         endBox();
     if (m_groups.size() == m_lineBox.depth)
         endLineBox();

@@ -5,19 +5,20 @@
 #include "rtf/characters/font_table.h"
 #include "rtf/formats/stated.h"
 #include "rtf/kept/kept_group.h"
-#include "rtf/kept/kept_row.h"
 #include "rtf/kept/kept_sets.h"
 #include "rtf/kept/section_columns.h"
 #include "rtf/reader.h"
+#include "rtf/reading/group_state.h"
 #include "rtf/reading/list_tables.h"
+#include "rtf/reading/shape_state.h"
 #include "rtf/reading/sink.h"
+#include "rtf/reading/text_state.h"
 #include "rtf/words/group_head.h"
 #include "rtf/words/tokenizer.h"
 
 #include <QList>
 
 #include <array>
-#include <limits>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -36,105 +37,6 @@ public:
     ReadResult run();
 
 private:
-    /// Where the text of a group goes.
-    enum class Destination : quint8 {
-        Body,
-        FontTable,
-        PlainFontName,
-        ColorTable,
-        ListTable,
-        ListOverrideTable,
-        LevelText,
-        Picture,
-        FieldInstruction,
-        UnicodePair,
-        Shape,
-        ShapePropertyValue,
-        Numbering,
-        NumberingTextBefore,
-        NumberingTextAfter,
-        Label,
-    };
-
-    static constexpr int NoList = -1;
-    static constexpr int NoFont = std::numeric_limits<int>::min(); // which no word can name
-
-    /// What text of one direction has for itself.
-    struct Side {
-        int font = NoFont;
-        int halfPoints = DefaultHalfPoints;
-        bool bold = false;
-        bool italic = false;
-        const ControlWord* eastern = nullptr; ///< the word for its script, where that is one
-        int stated = 0;
-        int said = 0; ///< bits of stated: what was told of this direction alone
-    };
-
-    /// What a closing brace restores.
-    struct Group {
-        CharFormat chars;
-        ParagraphFormat paragraph;
-        const CodePage* page = nullptr;
-        SymbolFont symbols = SymbolFont::None; ///< that the font is
-        int font = NoFont; ///< number in the font table; none stands for the default font
-        int fontsVersion = 0;
-        Side other;   ///< text of the other direction
-        Side told;    ///< what the kept words say of that
-        int said = 0; ///< of text of this direction
-        bool rightToLeft = false;
-        bool named = false;  ///< the direction is
-        bool parted = false; ///< the two directions are told apart
-        int unicodeSkip = 1;
-        int listOverride = NoList;
-        int listLevel = 0;
-        int fieldsAround = 0;
-        int ownField = NothingKept;  ///< the field that the group is, with the text that shows it
-        int fieldHead = NothingKept; ///< of a field that is the outer part of a shape
-        int box = NothingKept;       ///< the frame of the text box that the group is, or stands in
-        int ownBox = NothingKept;    ///< the same, of the shape that the group is
-        int frame = NothingKept;     ///< of the shape that shows a picture
-        int keptOfChars = 0;         ///< sets of m_kept
-        int keptOfParagraph = 0;
-        const ControlWord* border = nullptr;  ///< the one that was named last
-        const ControlWord* script = nullptr;  ///< the same
-        const ControlWord* eastern = nullptr; ///< the word for it, where the text is of the east
-        QTextOption::TabType tabType = QTextOption::LeftTab;
-        TabLeader tabLeader = TabLeader::None;
-        Destination destination = Destination::Body;
-        bool ownsDestination = false;
-        bool tellsPlain = false; ///< by itself
-        bool deleted = false;
-        bool inTable = false;
-        bool nested = false; ///< words for rows are of a table in a cell
-        bool indexEntry = false;
-        bool inShape = false;
-        bool inFormula = false;
-        bool fallback = false; ///< pictures are other forms of the one that came last
-    };
-
-    /// What a text tells of its rows. That of a box knows none of those around it.
-    struct Rows {
-        int keptOfRow = 0;
-        int keptOfCell = 0;
-        QString cells; ///< of the row, as they are kept
-        int cellCount = 0;
-        int row = NothingKept;
-        int cellsOfRow = 0;                               ///< that have ended
-        std::array<int, MostNesting + 1> cellsOfNested{}; ///< the same, by their nesting
-        bool any = false;                                 ///< has been shaped
-        bool isNew = false;                               ///< row does not tell it yet
-        bool isOpened = false;     ///< by a paragraph without text, of which the row may never end
-        bool isEntered = false;    ///< a paragraph of the row has ended
-        bool endsWithItem = false; ///< of a list, so far
-
-        /// What comes is none of the row that was entered.
-        void leave() {
-            isEntered = isOpened = false;
-            cellsOfRow = 0;
-            cellsOfNested.fill(0);
-        }
-    };
-
     // Structure (interpreter.cpp)
     bool step(const Token& token);
     void openGroup();
@@ -199,7 +101,7 @@ private:
         boxComes();
     }
     void boxComes() {
-        if (m_boxDepth > 0 && !m_boxIsOpen && !m_boxBegins)
+        if (m_box.depth > 0 && !m_box.isOpen && !m_box.begins)
             beginBox();
     }
     void settleHead();
@@ -283,6 +185,8 @@ private:
     void keepFormula();
     void expectBox();
     void expectBoxAt(int place);
+    void enterText();
+    void leaveText();
     int placeHere() const;
     bool isInFrame() const;
     bool isEmptyText() const;
@@ -314,8 +218,8 @@ private:
     ReadResult m_result;
     Names m_names;
 
-    std::vector<Group> m_groups;
-    Group m_state;
+    std::vector<GroupState> m_groups;
+    GroupState m_state;
     qsizetype m_unstoredGroups = 0;
     GroupHead m_head{false};
 
@@ -364,8 +268,7 @@ private:
     ParagraphFormat m_lastOfCell;
     ParagraphFormat m_shapeOfCell; ///< the last one that was written down, as m_cellShape
     int m_cellShape = NothingKept;
-    Rows m_rows;
-    Rows m_rowsAround;             ///< the text box that is open
+    RowState m_rows;
     QString m_nestedGroup;         ///< what shapes the nested row that ends
     int m_nestedRow = NothingKept; ///< that ends with the paragraph
     int m_nestedRows = 0;
@@ -383,52 +286,11 @@ private:
     int m_afterSaidAhead = 0; ///< and whether it was stated
     bool m_pageBreak = false;
     PageWord m_pageWord = PageWord::InFront;
-    int m_shapes = 0;        ///< that are kept
-    size_t m_shapeDepth = 0; ///< of the groups, where the shape stands that has a box
-    size_t m_boxDepth = 0;   ///< of the groups, where the text of a box stands
-    bool m_boxHasParagraph = false;
-    bool m_boxIsOpen = false;    ///< and some of it has come
-    int m_lastBox = NothingKept; ///< that has text
-    static constexpr int NoPlace = -1;
-    std::vector<qsizetype> m_places; ///< in the bytes: of what the last shape shows
-    int m_boxPlace = 0;              ///< of the text that came last
-    int m_picturePlace = NoPlace;    ///< of the picture that comes
-    Group m_aroundPicture;
-    bool m_boxBegins = false; ///< and ends what stands ahead of it in the paragraph
-    bool m_boxBehind = false; ///< text of the paragraph that it stands in
-    bool m_boxEnded = false;  ///< and the paragraph has not
-    /// Text of a shape in a cell. A line of the document holds all cells of a row, so that it gets
-    /// no paragraphs of its own: it is a run that shows the shape, if that brings text and pictures
-    /// alone.
-    struct LineBox {
-        struct Piece {
-            QString text;
-            CharFormat look;
-            QString anchor;                      ///< in place of text
-            std::optional<Picture> picture = {}; ///< the same
-        };
-
-        QByteArrayView word; ///< of the shape's group
-        QByteArrayView content;
-        QString kept;  ///< all of it, in the look of what is around it
-        QString frame; ///< the same of a shape with one text, without that
-        size_t depth = 0;
-        bool isOpen = false;      ///< and some of it has come
-        bool inParagraph = false; ///< which something was in ahead of it
-        int linesDue = 0;         ///< that have ended since the last text
-        std::vector<Piece> pieces;
-    };
+    int m_shapes = 0; ///< that are kept
+    TextBox m_box;    ///< that came last
     LineBox m_lineBox;
-    QString m_anchorsAround; ///< what comes with the paragraph that has the box ahead
-    bool m_pageBreakAround = false;
-    /// A label that is told by its text.
-    struct Label {
-        QString text;
-        ListLabel list; ///< what was told where it stands, which a brace may end
-        SymbolFont symbols = SymbolFont::None; ///< that the font is which it names
-    };
-    Label m_label;
-    Label m_labelAround; ///< the text box that is open
+    TextLabel m_label;
+    TextAround m_around;
     ListKind m_lastListKind = ListKind::None;
     ParagraphFormat m_shaped;
 

@@ -76,7 +76,7 @@ bool Interpreter::destinationWord(const Token& token) {
             return true;
         }
         m_picture = {};
-        m_picturePlace = placeHere();
+        m_box.picturePlace = placeHere();
         m_halfByte = -1;
         openDestination(Destination::Picture);
         return true;

@@ -63,7 +63,7 @@ void Interpreter::turn(bool rightToLeft) {
     tellOther();
 }
 
-Interpreter::Side Interpreter::thisSide() const {
+Side Interpreter::thisSide() const {
     const CharFormat& chars = m_state.chars;
     return {m_state.font,    chars.halfPoints,       chars.bold,  chars.italic,
             m_state.eastern, chars.stated & OfSides, m_state.said};

@@ -19,12 +19,12 @@ void Interpreter::settleHead() {
             settleLook(*field.look);
     const bool isUnnamed = (m_textFormat.stated & stated::Font) == 0;
     settleLook(m_textFormat);
-    const auto hold = [this](Group& group) {
+    const auto hold = [this](GroupState& group) {
         for (int* said : {&group.chars.stated, &group.other.stated})
             *said &= m_countedOfCharacters;
         group.paragraph.stated &= m_countedOfParagraphs;
     };
-    for (Group& group : m_groups)
+    for (GroupState& group : m_groups)
         hold(group);
     hold(m_state);
     selectFont();

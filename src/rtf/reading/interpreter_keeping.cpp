@@ -266,7 +266,7 @@ void Interpreter::anchorBehindCells() {
 void Interpreter::sectionEnd() {
     dissolveLineBox();
     textComes();
-    const bool paragraphEndedItself = !m_inParagraph && !std::exchange(m_boxEnded, false);
+    const bool paragraphEndedItself = !m_inParagraph && !std::exchange(m_box.hasEnded, false);
     if (m_inParagraph)
         paragraphEnd();
     m_rows.leave();

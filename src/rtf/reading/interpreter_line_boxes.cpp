@@ -33,8 +33,7 @@ void Interpreter::expectLineBox(const Token& token, const ShapeScan& scan) {
         m_lineBox.frame = kept(scan.frame);
     m_lineBox.word = token.bytes;
     m_lineBox.depth = m_groups.size();
-    m_labelAround = std::exchange(m_label, {});
-    m_rowsAround = std::exchange(m_rows, {});
+    enterText();
 }
 
 /// What stands ahead of it is told by now.
@@ -62,8 +61,7 @@ void Interpreter::endLineBox() {
     }
     flushText();
     const LineBox box = std::exchange(m_lineBox, {});
-    m_rows = std::exchange(m_rowsAround, {});
-    m_label = std::exchange(m_labelAround, {});
+    leaveText();
     QString text;
     for (const LineBox::Piece& piece : box.pieces)
         text += piece.picture ? QString(QChar::ObjectReplacementCharacter) : piece.text;
@@ -95,8 +93,7 @@ void Interpreter::dissolveLineBox() {
     if (m_lineBox.isOpen && m_lineBox.linesDue > 0)
         prepareText();
     const LineBox box = std::exchange(m_lineBox, {});
-    m_rows = std::exchange(m_rowsAround, {});
-    m_label = std::exchange(m_labelAround, {});
+    leaveText();
     bool inParagraph = box.inParagraph;
     for (const LineBox::Piece& piece : box.pieces) {
         if (!piece.anchor.isEmpty() && inParagraph)

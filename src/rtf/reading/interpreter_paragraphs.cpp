@@ -27,8 +27,8 @@ void Interpreter::paragraphEnd() {
         m_rows.cellsOfRow = 0;
     m_rowEnds = false;
     m_cellsOfLine = 0;
-    m_boxEnded = false;
-    m_boxHasParagraph = true;
+    m_box.hasEnded = false;
+    m_box.hasParagraph = true;
     m_inParagraph = false;
     m_pageBreak = false;
     m_sectionBegins = false;
@@ -48,7 +48,7 @@ void Interpreter::tellOpenRow(const ParagraphFormat& next) {
 void Interpreter::pageEnd() {
     dissolveLineBox();
     textComes();
-    const bool between = m_inParagraph || std::exchange(m_boxEnded, false);
+    const bool between = m_inParagraph || std::exchange(m_box.hasEnded, false);
     if (m_inParagraph)
         paragraphEnd();
     if (!m_pageBreak)
@@ -82,7 +82,7 @@ void Interpreter::showStart(ListLabel& list) const {
 
 const ParagraphFormat& Interpreter::shapedParagraph() {
     const bool ofRow = (m_rowEnds || m_state.inTable) && row() != NothingKept;
-    const bool besideBox = m_boxIsOpen || m_boxEnded;
+    const bool besideBox = m_box.isOpen || m_box.hasEnded;
     const bool toldLate = !ofRow && m_inParagraph && m_state.paragraph.after != m_afterAhead;
     if (!ofRow && m_state.listOverride == NoList && m_label.text.isEmpty() && !m_pageBreak &&
         !m_sectionBegins && m_anchorsAtStart.isEmpty() && !besideBox && !toldLate) {
@@ -125,7 +125,7 @@ const ParagraphFormat& Interpreter::shapedParagraph() {
     }
     showStart(list);
     m_lastListKind = m_shaped.list.kind;
-    if (list.kind != ListKind::None && m_inParagraph && !m_boxBegins)
+    if (list.kind != ListKind::None && m_inParagraph && !m_box.begins)
         m_shaped.mark = lookOfParagraphMark();
     if (besideBox)
         shapeBesideBox();

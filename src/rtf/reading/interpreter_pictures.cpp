@@ -71,7 +71,7 @@ void Interpreter::deliverPicture() {
             m_sink.fallbackPicture(std::exchange(m_picture, {}));
         return;
     }
-    const bool ofBox = m_picturePlace != NoPlace;
+    const bool ofBox = m_box.picturePlace != NoPlace;
     if (ofBox)
         beginPictureOfBox();
     textComes();

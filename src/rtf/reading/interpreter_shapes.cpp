@@ -53,9 +53,9 @@ void Interpreter::keepShape(const Token& token) {
     } else if (isBox) {
         m_state.box = m_names.kept(QString::number(m_shapes) + NumberEnd + kept);
         m_state.ownBox = m_state.box;
-        m_shapeDepth = m_groups.size();
-        m_places = scan.places;
-        for (qsizetype& place : m_places)
+        m_box.shapeDepth = m_groups.size();
+        m_box.places = scan.places;
+        for (qsizetype& place : m_box.places)
             place += m_tokenizer.position();
     } else {
         skipGroup();
@@ -104,19 +104,30 @@ void Interpreter::expectBox() {
 }
 
 void Interpreter::expectBoxAt(int place) {
-    m_boxPlace = place;
-    m_boxDepth = m_groups.size();
-    m_labelAround = std::exchange(m_label, {});
-    m_rowsAround = std::exchange(m_rows, {});
+    m_box.place = place;
+    m_box.depth = m_groups.size();
+    enterText();
+}
+
+/// The text of a shape has rows and a label of its own.
+void Interpreter::enterText() {
+    m_around.rows = std::exchange(m_rows, {});
+    m_around.label = std::exchange(m_label, {});
+}
+
+void Interpreter::leaveText() {
+    m_rows = std::exchange(m_around.rows, {});
+    m_label = std::exchange(m_around.label, {});
 }
 
 /// Which of the things that the shape shows the group is whose word has come.
 int Interpreter::placeHere() const {
-    if (m_state.box == NothingKept || m_boxDepth > 0)
+    if (m_state.box == NothingKept || m_box.depth > 0)
         return NoPlace;
     const qsizetype here = m_tokenizer.position();
-    const auto found = std::lower_bound(m_places.begin(), m_places.end(), here);
-    return found == m_places.end() || *found != here ? NoPlace : int(found - m_places.begin());
+    const auto found = std::lower_bound(m_box.places.begin(), m_box.places.end(), here);
+    return found == m_box.places.end() || *found != here ? NoPlace
+                                                         : int(found - m_box.places.begin());
 }
 
 /// Whether the text whose word has come is one of those that show nothing, and are kept with what
@@ -128,69 +139,68 @@ bool Interpreter::isEmptyText() const {
 /// Whether what comes is none of the text, but of the frame of a shape, unless it has a place
 /// there.
 bool Interpreter::isInFrame() const {
-    return m_state.frame != NothingKept || (m_state.box != NothingKept && m_boxDepth == 0);
+    return m_state.frame != NothingKept || (m_state.box != NothingKept && m_box.depth == 0);
 }
 
 /// A picture beside the texts of a shape is a paragraph of its own, of no shape and look.
 void Interpreter::beginPictureOfBox() {
-    m_aroundPicture = m_state;
+    m_box.aroundPicture = m_state;
     plainCharacters();
     m_state.paragraph = {};
     m_state.keptOfParagraph = 0;
     m_state.inTable = false;
     m_state.listOverride = NoList;
-    expectBoxAt(m_picturePlace);
+    expectBoxAt(m_box.picturePlace);
 }
 
 void Interpreter::endPictureOfBox() {
-    m_picturePlace = NoPlace;
-    m_boxHasParagraph |= !m_inParagraph; // the picture could not be shown
+    m_box.picturePlace = NoPlace;
+    m_box.hasParagraph |= !m_inParagraph; // the picture could not be shown
     endBox();
-    m_state = m_aroundPicture;
+    m_state = m_box.aroundPicture;
 }
 
 /// The text of a box has paragraphs of its own: that of the document which the box stands in is
 /// interrupted, or comes behind it.
 void Interpreter::beginBox() {
     const bool textAhead = m_inParagraph || !m_cellsEnded.empty();
-    m_boxBehind = textAhead || m_boxEnded;
+    m_box.isBehindText = textAhead || m_box.hasEnded;
     if (textAhead) {
         // In the shape that it has ahead of that of the box.
-        Group& around = m_groups[m_shapeDepth - 1];
-        m_boxBegins = true;
+        GroupState& around = m_groups[m_box.shapeDepth - 1];
+        m_box.begins = true;
         std::swap(m_state, around);
-        std::swap(m_label, m_labelAround);
+        std::swap(m_label, m_around.label);
         paragraphEnd();
-        std::swap(m_label, m_labelAround);
+        std::swap(m_label, m_around.label);
         std::swap(m_state, around);
-        m_boxBegins = false;
+        m_box.begins = false;
     } else {
-        m_anchorsAround = std::exchange(m_anchorsAtStart, {});
-        m_pageBreakAround = std::exchange(m_pageBreak, false);
+        m_box.anchorsAhead = std::exchange(m_anchorsAtStart, {});
+        m_box.pageBreakAhead = std::exchange(m_pageBreak, false);
     }
-    m_boxEnded = false;
-    m_boxIsOpen = true;
-    m_lastBox = m_state.box;
-    m_boxHasParagraph = false;
+    m_box.hasEnded = false;
+    m_box.isOpen = true;
+    m_box.last = m_state.box;
+    m_box.hasParagraph = false;
 }
 
 void Interpreter::endBox() {
-    if (m_boxIsOpen && (m_inParagraph || !m_cellsEnded.empty() || !m_boxHasParagraph))
+    if (m_box.isOpen && (m_inParagraph || !m_cellsEnded.empty() || !m_box.hasParagraph))
         paragraphEnd();
-    m_boxDepth = 0;
-    m_rows = std::exchange(m_rowsAround, {});
-    m_label = std::exchange(m_labelAround, {});
-    if (!std::exchange(m_boxIsOpen, false))
+    m_box.depth = 0;
+    leaveText();
+    if (!std::exchange(m_box.isOpen, false))
         return;
     m_rows.leave();
-    m_boxEnded = m_boxBehind;
-    m_anchorsAtStart.prepend(std::exchange(m_anchorsAround, {}));
-    m_pageBreak |= std::exchange(m_pageBreakAround, false);
+    m_box.hasEnded = m_box.isBehindText;
+    m_anchorsAtStart.prepend(std::exchange(m_box.anchorsAhead, {}));
+    m_pageBreak |= std::exchange(m_box.pageBreakAhead, false);
 }
 
 /// A shape whose box brought no text is kept at its place.
 void Interpreter::shapeEnds() {
-    if (m_state.ownBox == m_lastBox)
+    if (m_state.ownBox == m_box.last)
         return;
     const QString kept = m_names.keptAt(m_state.ownBox);
     anchor(withoutPlaces(kept.sliced(kept.indexOf(NumberEnd) + 1)));
@@ -200,14 +210,14 @@ void Interpreter::shapeEnds() {
 /// box is all of it.
 bool Interpreter::endsBehindBox() {
     const bool nothingBehind = !m_inParagraph && m_cellsEnded.empty() && m_anchorsAtStart.isEmpty();
-    return nothingBehind && std::exchange(m_boxEnded, false);
+    return nothingBehind && std::exchange(m_box.hasEnded, false);
 }
 
 void Interpreter::shapeBesideBox() {
-    if (m_boxIsOpen) {
+    if (m_box.isOpen) {
         m_shaped.box = m_state.box;
-        m_shaped.boxPlace = m_boxPlace;
-        m_shaped.boxAhead = !m_boxBehind;
+        m_shaped.boxPlace = m_box.place;
+        m_shaped.boxAhead = !m_box.isBehindText;
         return;
     }
     m_shaped.goesOn = true;

@@ -201,7 +201,7 @@ void Interpreter::cellTabs(size_t count) {
 void Interpreter::rowEnd(bool outermost) {
     dissolveLineBox();
     // A box has no row ahead of its text.
-    if (m_boxDepth > 0 && !m_boxIsOpen)
+    if (m_box.depth > 0 && !m_box.isOpen)
         return;
     const bool anyCell = !m_cellsEnded.empty();
     const bool complete = anyCell && row() != NothingKept &&

@@ -57,6 +57,7 @@ private slots:
     void aTextThatIsChangedLeavesAShapeInACellThatCannotHoldIt_data();
     void aTextThatIsChangedLeavesAShapeInACellThatCannotHoldIt();
     void textOfAShapeInACellIsTextWhereItIsCopiedTo();
+    void theLookOfALinkIsNotThatOfAShapeBehindIt();
     void aShapeInACellStaysWhenItsTextLooksOtherwise();
     void aShapeInACellThatEndsOneIsText();
     void aShapeInARowThatIsNotWholeIsText();
@@ -479,6 +480,15 @@ void ShapeTest::textOfAShapeInACellIsTextWhereItIsCopiedTo() {
     const QByteArray written = withoutLineEnds(writeRtf(document));
     QVERIFY2(written.contains(box(" bcd") + "}ec\\cell"), written.constData());
     QCOMPARE(written.count("\\shptxt"), 1);
+}
+
+void ShapeTest::theLookOfALinkIsNotThatOfAShapeBehindIt() {
+    const QByteArray link = "{\\field{\\*\\fldinst{HYPERLINK \"a\"}}{\\fldrslt\\super a}}";
+    QTextDocument document;
+    readRtf(file("\\trowd\\cellx99\\intbl " + link + box(" b") + "\\cell\\row"), document);
+    const QByteArray written = withoutLineEnds(writeRtf(document));
+    QVERIFY2(written.contains("a}}{\\plain\\f0\\fs24" + box(" b") + "}\\cell\\row"),
+             written.constData());
 }
 
 void ShapeTest::aShapeInACellStaysWhenItsTextLooksOtherwise() {

@@ -79,15 +79,15 @@ void BodyWriter::changeField(int field) {
 void BodyWriter::shown(const CharFormat& format) {
     const QString kept = names().keptAt(format.field);
     const QStringView group = shownBy(kept)->group;
-    CharFormat own = format;
-    own.field = NothingKept;
-    if (isShapeInLine(group)) { // which tells how it looks
-        own = m_format;
-        own.link = NoName;
-        own.field = NothingKept;
-    }
     m_paragraphIsEmpty = false;
-    change(own);
+    if (isShapeInLine(group)) { // which tells how it looks
+        changeLink(NoName);
+        changeField(NothingKept);
+    } else {
+        CharFormat own = format;
+        own.field = NothingKept;
+        change(own);
+    }
     breakPage();
     const bool isInstruction = group.startsWith(QLatin1StringView(InstructionHead));
     if (isInstruction)

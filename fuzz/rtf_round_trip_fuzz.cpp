@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "rtf/reader.h"
+#include "rtf/room/document_height.h"
+#include "rtf/room/layout_height.h"
 #include "rtf/writer.h"
 
 #include <QGuiApplication>
@@ -24,7 +26,7 @@ void require(bool held, const char* promise, const QByteArray& written) {
 
 /// What is in a document is written so that it reads back as the same, and is then written with the
 /// same bytes.
-/// \param mayBeFull a change may have made the text longer than there is room for.
+/// \param mayBeFull the text may be longer than there is room for, as by a change.
 void requireRoundTrip(const QTextDocument& document, bool mayBeFull) {
     const QByteArray written = writeRtf(document);
     QTextDocument again;
@@ -34,6 +36,13 @@ void requireRoundTrip(const QTextDocument& document, bool mayBeFull) {
     require(read.ok(), "what is written can be read", written);
     require(again.toRawText() == document.toRawText(), "the text stays", written);
     require(writeRtf(again) == written, "it is written the same again", written);
+}
+
+/// How high lines are is guessed run by run, and some runs differ in what is not written alone:
+/// when that has been read they are one, for which the guess may be a little higher.
+bool isNearlyFull(const QTextDocument& document) {
+    constexpr double Share = 0.99;
+    return documentHeight(document) > Share * MostHeight;
 }
 
 /// Changes one letter, whose place the length of the file decides.
@@ -68,7 +77,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         rtf.prepend("{\\rtf1");
     QTextDocument document;
     readRtf(rtf, document);
-    requireRoundTrip(document, false);
+    requireRoundTrip(document, isNearlyFull(document));
     if (changeLetter(document, size))
         requireRoundTrip(document, true);
     return 0;

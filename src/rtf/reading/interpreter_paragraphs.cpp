@@ -124,11 +124,11 @@ const ParagraphFormat& Interpreter::shapedParagraph() {
         list.side = LabelSide::Left;
     }
     showStart(list);
-    m_lastListKind = m_shaped.list.kind;
     if (list.kind != ListKind::None && m_inParagraph && !m_box.begins)
         m_shaped.mark = lookOfParagraphMark();
     if (besideBox)
         shapeBesideBox();
+    m_lastListKind = m_shaped.list.kind;
     return m_shaped;
 }
 

@@ -77,10 +77,12 @@ private:
         KeptParts ofPart;
         ofPart.language = parts.language;
         ofPart.styles = parts.styles;
+        ofPart.authors = parts.authors;
         ofPart.furtherDefaults = parts.furtherDefaults;
         ofPart.defaultFont = parts.defaultFont;
         ofPart.unnamedFamily = parts.unnamedFamily;
         ofPart.oddFamilies = parts.oddFamilies;
+        ofPart.faces = parts.faces;
         return ofPart;
     }
 

@@ -24,6 +24,7 @@ bool holdsNothing(KeptParts parts) {
     parts.nameless = false;
     parts.defaultFont = DefaultFont::Unknown;
     parts.unnamedFamily.clear();
+    parts.faces.clear();
     return parts == KeptParts();
 }
 
@@ -95,6 +96,29 @@ void KeepingTest::whatIsNotShownIsKept_data() {
     row("look ahead of a field",
         "{\\f2 word }{\\field{\\*\\fldinst DATE}{\\fldrslt\\f0 today}}\\par",
         "\\f0{\\field{\\*\\fldinst DATE}{\\fldrslt today}}");
+    row("page border beside headers", "\\pgbrdrhead\\pgbrdrfoot\\sectd word\\par",
+        "\\pgbrdrhead\\pgbrdrfoot\r\n");
+    row("numbers of a section's notes", "\\sectd\\sftnrstpg\\sftnnalc\\saftnnruc word\\par",
+        "\\sectd\\sftnrstpg\\sftnnalc\\saftnnruc\r\n");
+    row("looks that styles begin with",
+        "{\\*\\defchp\\f2\\fs22}{\\*\\defpap\\sa160}{\\stylesheet{\\s1 A;}}word\\par",
+        "{\\*\\defchp\\f1\\fs22}{\\*\\defpap\\sa160}\r\n{\\stylesheet{\\s1 A;}}\r\n");
+    row("settings of formulas", "{\\*\\mmathPr\\mmathFont1\\mdispDef1}word\\par",
+        "{\\*\\mmathPr\\mmathFont1\\mdispDef1}\r\n");
+    row("numbers of old sections", "{\\*\\pnseclvl2\\pnucltr{\\pntxta .}}word\\par",
+        "{\\*\\pnseclvl2\\pnucltr{\\pntxta.}}\r\n");
+    row("field that is locked", "word {\\field\\fldlock{\\*\\fldinst DATE}{\\fldrslt today}}\\par",
+        "deed {\\field\\fldlock{\\*\\fldinst DATE}{\\fldrslt today}}\\par");
+    row("field that is edited and shows text by itself",
+        "word {\\field\\fldpriv\\fldedit{\\*\\fldinst SYMBOL 97}}\\par",
+        "deed {\\field\\fldedit\\fldpriv{\\*\\fldinst SYMBOL 97}{\\fldrslt}}\\par");
+    row("locked field without text", "word{\\field\\fldlock{\\*\\fldinst TOC}{\\fldrslt}}\\par",
+        "deed{\\field\\fldlock{\\*\\fldinst TOC}{\\fldrslt}}\\par");
+    row("field that is not locked after all",
+        "word {\\field\\fldlock\\fldlock0{\\*\\fldinst DATE}{\\fldrslt today}}\\par",
+        "deed {\\field{\\*\\fldinst DATE}{\\fldrslt today}}\\par");
+    row("further level in a note's index entry, in a page of two bytes",
+        "\\ansicpg932 {\\footnote\\f0{\\xe a\\:b}}word\\par", "{\\footnote\\f0{\\xe a\\:b}}");
     row("page border", "\\sectd\\pgbrdrt\\brdrs\\brdrw10\\brdrcf2 word\\par",
         "\\sectd\\pgbrdrt\\brdrs\\brdrw10\\brdrcf1\r\n");
     row("header", "{\\header\\pard\\qc Over it\\par}word\\par",
@@ -305,8 +329,8 @@ void KeepingTest::aFontThatOthersTakeForOneOfSignsHasItsTextByNumber() {
 
 void KeepingTest::fontsAndColoursOfAHeaderAreThoseOfTheNewTables() {
     const QByteArray written = changedAndSaved(file("{\\header\\f2\\cf3 blue}\\f1\\cf2 word\\par"));
-    QVERIFY2(written.contains("{\\f1\\fnil\\fcharset0 Times New Roman;}"
-                              "{\\f2\\fnil\\fcharset0 Verdana;}"),
+    QVERIFY2(written.contains("{\\f1\\froman\\fcharset0 Times New Roman;}"
+                              "{\\f2\\fswiss\\fcharset0 Verdana;}"),
              written);
     QVERIFY2(written.contains("{\\colortbl ;\\red0\\green128\\blue0;\\red0\\green0\\blue255;}"),
              written);

@@ -184,7 +184,7 @@ void OutOfPlaceTest::theTextOfALabelBeginsAnewWhateverCameBefore() {
 
 void OutOfPlaceTest::aBoxThatBringsNoTextStaysAtItsPlace() {
     QTextDocument document;
-    readFile(document, "a{\\shp{\\*\\shpinst{\\shptxt{\\deleted x}}}}b");
+    readFile(document, "a{\\shp{\\*\\shpinst{\\shptxt{\\deleted x\\s1}}}}b");
     QCOMPARE(document.toPlainText(), QStringLiteral("ab"));
     QVERIFY(writeRtf(document).contains("a{\\shp{\\*\\shpinst{\\shptxt}}}b"));
 }

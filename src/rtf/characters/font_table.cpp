@@ -38,6 +38,7 @@ void FontTable::begin(int number) {
     m_open = true;
     m_number = number;
     m_entry = {};
+    m_face = {};
     m_bytes.clear();
     m_name.clear();
     m_plainName.clear();
@@ -66,25 +67,36 @@ void FontTable::addName(char16_t character) {
     }
 }
 
+void FontTable::setPitch(int pitch) {
+    m_face.pitch = pitch > 0 && pitch <= FontFace::MostPitch ? pitch : 0;
+}
+
+const CodePage& FontTable::pageOfName(const CodePage& documentPage) const {
+    if (!m_entry.page)
+        return documentPage;
+    // A symbol font's name is plain text all the same.
+    return m_entry.page->symbols() == SymbolFont::None ? *m_entry.page
+                                                       : CodePage::forNumber(Latin1Page);
+}
+
 void FontTable::commit(Names& names, const CodePage& documentPage) {
     if (!m_open)
         return;
     m_open = false;
-    // A symbol font's name is plain text all the same.
     const bool symbols = m_entry.page && m_entry.page->symbols() != SymbolFont::None;
-    const CodePage& latin = CodePage::forNumber(Latin1Page);
-    const CodePage& own = symbols ? latin : m_entry.page ? *m_entry.page : documentPage;
-    own.decode(m_bytes, m_name);
+    pageOfName(documentPage).decode(m_bytes, m_name);
     const QString plain = cleanName(m_plainName);
     const QString name = plain.isEmpty() ? withoutScript(cleanName(m_name)) : plain;
     m_entry.symbols = symbolFontOf(name);
     if (symbols)
-        m_entry.page =
-            m_entry.symbols == SymbolFont::None ? &latin : &CodePage::forSymbols(m_entry.symbols);
+        m_entry.page = m_entry.symbols == SymbolFont::None ? &CodePage::forNumber(Latin1Page)
+                                                           : &CodePage::forSymbols(m_entry.symbols);
     if (!name.isEmpty())
         m_entry.family = names.family(name);
     if (!name.isEmpty())
         (symbols ? m_signs : m_letters).insert(m_entry.family);
+    if (!name.isEmpty() && m_face != FontFace() && !m_faces.contains(m_entry.family))
+        m_faces.insert(m_entry.family, m_face);
     if (m_fonts.size() >= MostNumberedFonts && !m_fonts.contains(m_number))
         return;
     m_fonts.insert(m_number, m_entry);
@@ -101,6 +113,13 @@ QStringList FontTable::oddFamilies(const Names& names) const {
             odd << names.familyAt(family);
     odd.sort();
     return odd;
+}
+
+FontFaces FontTable::faces(const Names& names) const {
+    FontFaces faces;
+    for (auto it = m_faces.begin(); it != m_faces.end(); ++it)
+        faces.insert(names.familyAt(it.key()), it.value());
+    return faces;
 }
 
 const FontTable::Font* FontTable::find(int number) const {

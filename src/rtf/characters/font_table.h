@@ -3,6 +3,7 @@
 #pragma once
 
 #include "rtf/characters/code_page.h"
+#include "rtf/formats/font_face.h"
 #include "rtf/formats/formats.h"
 
 #include <QHash>
@@ -30,9 +31,16 @@ public:
     void begin(int number);
     void setCharset(int charset);
     void setPage(int number);
+    /// \param kind by its place among the kinds of faces.
+    void setKind(int kind) { m_face.kind = kind; }
+    void setPitch(int pitch);
+    void setPanose(const QString& kept) { m_face.panose = kept; }
+    void setAlternative(const QString& kept) { m_face.alternative = kept; }
     /// Bytes of the name, in the font's own page.
     void addName(QByteArrayView bytes);
     void addName(char16_t character);
+    /// The page of the name, and of that of another face.
+    const CodePage& pageOfName(const CodePage& documentPage) const;
     /// The name without the suffix that old writers add for a script; it wins over the other.
     void setPlainName(const QString& name) { m_plainName = name; }
     /// Ends the entry, if one is open, and keeps it.
@@ -50,6 +58,8 @@ public:
     DefaultFont saidOfUsual() const;
     /// Families that the file takes for fonts of signs, or not, where their names tell otherwise.
     QStringList oddFamilies(const Names& names) const;
+    /// What is told of the faces, of each where it was told first.
+    FontFaces faces(const Names& names) const;
     /// Grows with everything that changes what the numbers stand for.
     int version() const { return m_version; }
     /// The page of the file, which fonts without one have, is another one now.
@@ -61,9 +71,11 @@ private:
     int m_usualNumber = 0;
     bool m_usualSaid = false;
     bool m_usualSettled = false;
-    QSet<int> m_signs;   ///< families that are told as such
-    QSet<int> m_letters; ///< families that are told otherwise
+    QSet<int> m_signs;            ///< families that are told as such
+    QSet<int> m_letters;          ///< families that are told otherwise
+    QHash<int, FontFace> m_faces; ///< by their families
     Font m_entry;
+    FontFace m_face; ///< of the entry
     QByteArray m_bytes;
     QString m_name;
     QString m_plainName;

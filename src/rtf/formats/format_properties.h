@@ -103,6 +103,9 @@ enum FormatProperty : int {
     /// Of an image format: the frame of the shape that is the picture (QString, as that of a box,
     /// but without a number).
     PictureFrame,
+    /// Of an image format: how the file crops the picture, which is shown whole, and the group of
+    /// its properties (QString, the same).
+    PictureWords,
     /// Of a block format: the row begins with the paragraph (bool).
     RowBegins,
     /// Of such a format: an item of a list, behind which the row was left without an end (bool).

@@ -21,6 +21,12 @@ bool isSessionMark(QByteArrayView word) {
     return word.endsWith("rsid");
 }
 
+/// Whether a symbol is no character and stays where it is: a formula, or a further level of an
+/// entry of the index.
+bool isCopiedMark(uchar symbol) {
+    return symbol == '|' || symbol == ':';
+}
+
 } // namespace
 
 GroupKeeper::GroupKeeper(QByteArrayView content, const FileTables& tables)
@@ -76,7 +82,7 @@ void GroupKeeper::take(const Token& token) {
         word(token);
         return;
     case TokenKind::Symbol:
-        if (isCharacters(token) || isLineEnd(token))
+        if (isCharacters(token) || isLineEnd(token) || isCopiedMark(token.byte))
             flushPending();
         symbol(token.byte);
         return;
@@ -163,6 +169,8 @@ void GroupKeeper::word(const Token& token) {
         selectFont(token);
         return;
     }
+    // Its bytes stand as those of a picture do.
+    m_state.inPicture |= token.bytes == "objdata" && m_head.isHead();
     const bool isColor = action == Action::Color || action == Action::Highlight ||
                          (action == Action::Keep && keptWord(*token.word).kind == KeptKind::Color);
     if (isColor) {
@@ -190,8 +198,11 @@ void GroupKeeper::selectFont(const Token& token) {
     const FontTable::Font* font =
         token.hasParameter ? m_tables.fonts.find(token.parameter) : nullptr;
     // In a font that is missing some readers show what they show in none other.
-    if (token.hasParameter && !font)
+    if (token.hasParameter && !font) {
         m_out.word(spelled(token), NoSuchFont);
+        if (token.word->action == Action::Font)
+            plain();
+    }
     if (!font || font->family == NoName)
         return;
     const QString family = m_tables.names.familyAt(font->family);
@@ -220,10 +231,6 @@ void GroupKeeper::symbol(uchar character) {
         else
             m_out.structure(QByteArrayView(word, 2));
         return;
-    case '|':
-    case ':': // which are no characters
-        m_out.structure(QByteArrayView(word, 2));
-        return;
     case '\t':
         if (m_fallbackToSkip > 0)
             --m_fallbackToSkip;
@@ -235,7 +242,8 @@ void GroupKeeper::symbol(uchar character) {
         m_out.word("\\par");
         return;
     default:
-        return;
+        if (isCopiedMark(character))
+            m_out.structure(QByteArrayView(word, 2));
     }
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "rtf/formats/font_face.h"
 #include "rtf/formats/formats.h"
 
 #include <QMetaType>
@@ -20,7 +21,9 @@ inline constexpr int UsualLanguage = 1033;
 /// What is kept of a whole document, as the file had it (see kept_text.h).
 struct KeptParts {
     int language = UsualLanguage; ///< of text that names none, by Windows' numbers
+    QString defaults;             ///< looks that styles begin with
     QString styles;
+    QString authors;         ///< who changed the text
     QString furtherDefaults; ///< fonts of text that names none, beside the one of unnamedFamily
     QString info;
     QString words;
@@ -31,6 +34,7 @@ struct KeptParts {
     QString unnamedFamily; ///< of text that names no font; empty for that of whoever shows it
     /// Families that are fonts of signs, or are not, where their names tell otherwise.
     QStringList oddFamilies;
+    FontFaces faces;
 
     bool operator==(const KeptParts&) const = default;
 };

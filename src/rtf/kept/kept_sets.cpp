@@ -152,6 +152,7 @@ QString KeptSets::word(const Entry& entry) const {
         return name + keptFont(m_names.familyAt(entry.number));
     case KeptKind::Number:
     case KeptKind::Style:
+    case KeptKind::Author:
     case KeptKind::Associate:
         return name + QString::number(entry.number);
     default:

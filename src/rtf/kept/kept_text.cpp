@@ -111,6 +111,10 @@ QRgb shadeOf(QStringView kept) {
                 mixed(qBlue(above), qBlue(below)));
 }
 
+bool isOfField(QStringView group) {
+    return group.startsWith(u"{\\*\\fldinst") || group.startsWith(u"\\fld");
+}
+
 std::optional<KeptShown> shownBy(QStringView kept) {
     const qsizetype start = kept.indexOf(NumberEnd) + 1;
     const qsizetype end = kept.indexOf(NumberEnd, start);

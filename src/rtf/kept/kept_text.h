@@ -47,8 +47,8 @@ std::optional<KeptShown> shownBy(QStringView kept);
 /// How that is kept.
 QString keptOf(const KeptShown& shown);
 
-/// What the instruction of a field begins with, as it is kept.
-inline constexpr const char* InstructionHead = "{\\*\\fldinst";
+/// Whether what is kept is the instruction of a field, behind what is said of the field itself.
+bool isOfField(QStringView group);
 
 /// What is kept without the numbers that have a place in it.
 QByteArray keptWithoutPlaces(QStringView kept);

@@ -54,6 +54,7 @@ struct Picture {
     QByteArray bytes;
     QByteArray
         fallback;  ///< of one that a document holds: a metafile for readers that cannot draw it
+    QString words; ///< what is kept of it: how it is cropped, and its properties
     QString frame; ///< of one that is a shape: what is kept of that
 };
 

@@ -121,6 +121,7 @@ Picture sourceOf(const QTextImageFormat& format) {
     }
     picture.fallback = format.property(PictureFallback).toByteArray();
     picture.hidden = format.hasProperty(HiddenPictureSize);
+    picture.words = format.stringProperty(PictureWords);
     picture.frame = format.stringProperty(PictureFrame);
     return picture;
 }
@@ -158,6 +159,8 @@ QTextImageFormat pictureFormat(QTextDocument& document, const Picture& picture,
     format.setProperty(PictureSourceSize, sourceSize(picture));
     if (shown.isBox)
         format.setProperty(PictureIsBox, true);
+    if (!picture.words.isEmpty())
+        format.setProperty(PictureWords, picture.words);
     if (!picture.frame.isEmpty())
         format.setProperty(PictureFrame, picture.frame);
     return format;

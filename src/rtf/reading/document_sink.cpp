@@ -105,6 +105,10 @@ bool DocumentSink::takesStyles(const QString& styles) {
     return m_options.replacesDocument || styles == keptParts(*m_cursor.document()).styles;
 }
 
+bool DocumentSink::takesAuthors(const QString& authors) {
+    return m_options.replacesDocument || authors == keptParts(*m_cursor.document()).authors;
+}
+
 void DocumentSink::anchor(const QString& kept) {
     if (m_runs.empty() || m_runs.back().length == 0 || !spend(BytesOfFormat))
         return;

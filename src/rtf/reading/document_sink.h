@@ -42,6 +42,7 @@ public:
     void rowStaysOpen() override;
     void defaultTab(int twips) override;
     bool takesStyles(const QString& styles) override;
+    bool takesAuthors(const QString& authors) override;
     void anchor(const QString& kept) override;
     void kept(const KeptParts& parts) override;
     bool isFull() const override { return m_full || m_intake.isFull(); }

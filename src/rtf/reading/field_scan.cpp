@@ -11,6 +11,8 @@
 #include "rtf/words/group_head.h"
 #include "rtf/words/tokenizer.h"
 
+#include <algorithm>
+#include <array>
 #include <utility>
 #include <vector>
 
@@ -19,6 +21,20 @@ namespace orvalis::rtf {
 namespace {
 
 constexpr qsizetype LongestFieldName = 32;
+
+/// What is said of a field, in the order in which it is kept.
+constexpr std::array<QByteArrayView, 4> FieldWords = {"flddirty", "fldedit", "fldlock", "fldpriv"};
+
+/// Whether a paragraph, a cell or a section may end in it.
+bool endsAnything(QByteArrayView content) {
+    Tokenizer tokenizer(content);
+    Token token;
+    for (tokenizer.next(token); token.kind != TokenKind::End; tokenizer.next(token))
+        if (isLineEnd(token) ||
+            (token.kind == TokenKind::Word && token.word && endsOrShapes(token.word->action)))
+            return true;
+    return false;
+}
 
 /// Reads the tokens of a field once, with an eye on which of its two groups they stand in.
 class Scan {
@@ -32,6 +48,9 @@ public:
             m_head.take(token);
             take(token);
         }
+        for (size_t i = 0; i < FieldWords.size(); ++i)
+            if (m_says[i])
+                m_scan.words += "\\" + FieldWords[i].toByteArray();
         return m_scan;
     }
 
@@ -75,6 +94,8 @@ private:
         }
         if (m_head.isHead() && (action == Action::UnicodePair || action == Action::UnicodeHalf))
             m_shown.back() = action == Action::UnicodeHalf;
+        if (depth() == 0)
+            fieldWord(token);
         if (!shown())
             return;
         m_scan.hasStructure |= endsOrShapes(action);
@@ -98,9 +119,19 @@ private:
         }
     }
 
+    void fieldWord(const Token& token) {
+        const auto found = std::find(FieldWords.begin(), FieldWords.end(), token.bytes);
+        if (found != FieldWords.end())
+            m_says[size_t(found - FieldWords.begin())] =
+                !token.hasParameter || token.parameter != 0;
+    }
+
     /// What is kept of it as it came ends nothing of the field.
     void figure(const Token& token) {
         if (isFigure(token)) {
+            // A formula may not be kept after all.
+            m_scan.hasStructure |= token.word->action != Action::PictureGroup &&
+                                   endsAnything(m_tokenizer.groupAhead());
             passGroup();
             return;
         }
@@ -143,6 +174,7 @@ private:
     int m_innerDepth = NoDepth; ///< of the field in it that one stands in
     int m_shapeDepth = NoDepth; ///< the same of a shape
     bool m_hasInstruction = false;
+    std::array<bool, FieldWords.size()> m_says{};
 };
 
 /// The tokens of an instruction, as it is kept, without those of groups in it that are no text.

@@ -10,6 +10,7 @@ namespace orvalis::rtf {
 
 /// What a look ahead tells of a field.
 struct FieldScan {
+    QByteArray words;           ///< of the field itself, that it is locked, say
     QByteArrayView instruction; ///< what stands behind the word of its group, up to the brace
     bool hasResult = false;     ///< something to show
     bool hasStructure = false;  ///< paragraphs, cells or sections end in it

@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/reading/field_shape.h"
 
-#include "rtf/words/control_words.h"
+#include "rtf/reading/plain_run.h"
 #include "rtf/words/group_head.h"
-#include "rtf/words/kept_words.h"
 #include "rtf/words/tokenizer.h"
 
 #include <utility>
@@ -12,14 +11,6 @@
 namespace orvalis::rtf {
 
 namespace {
-
-/// Whether a word tells how characters look, and nothing more.
-bool isLook(const ControlWord& word) {
-    if (word.action == Action::Keep)
-        return keptWord(word).level == KeptLevel::Characters;
-    return word.action >= Action::PlainCharacters && word.action <= Action::CapitalsKind &&
-           word.action != Action::Deleted;
-}
 
 /// Reads the tokens of a field up to the first that is neither of its instruction, nor of one
 /// shape, nor a look.
@@ -75,7 +66,8 @@ private:
             m_resultDepth = m_depth;
             return true;
         case Action::ShapeGroup:
-            if (m_resultDepth == 0 || !m_shape.isNull() || isFigure(token))
+            if (m_resultDepth == 0 || !m_shape.isNull() ||
+                token.word->value != int(ShapeKind::Shape))
                 return false;
             m_shape = m_tokenizer.groupAhead();
             passGroup();

@@ -79,11 +79,13 @@ struct GroupState {
     bool ownsDestination = false;
     bool tellsPlain = false; ///< by itself
     bool deleted = false;
+    bool inDeleted = false; ///< the group, or one around it, has such text
     bool inTable = false;
     bool nested = false; ///< words for rows are of a table in a cell
     bool indexEntry = false;
     bool inShape = false;
     bool inFormula = false;
+    bool inObject = false;
     bool fallback = false; ///< pictures are other forms of the one that came last
 };
 

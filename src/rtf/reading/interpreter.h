@@ -167,6 +167,7 @@ private:
     void keepCharacters(int set);
     void keepParagraph(int set);
     void keepGroup(const Token& token);
+    bool keepDeleted();
     FileTables fileTables(const FontTable::Font* usual) const;
     void placeGroup(KeptPlace place, const QString& group);
     void anchor(const QString& kept);
@@ -209,6 +210,7 @@ private:
     bool pictureWord(const Token& token);
     void pictureBytes(QByteArrayView run);
     void deliverPicture();
+    QString wordsOfPicture() const;
 
     Tokenizer m_tokenizer;
     Sink& m_sink;
@@ -255,6 +257,7 @@ private:
     bool m_firstSectionTold = false;
     KeptParts m_parts;
     bool m_stylesKept = false;
+    bool m_authorsKept = false;
     qsizetype m_listKeptTo = 0; ///< where the list ends that was kept last
     qint64 m_keptLeft;          ///< bytes that groups may still take
 
@@ -311,6 +314,8 @@ private:
     SymbolFont m_numberingSymbols = SymbolFont::None; ///< that the font of its bullet is
     bool m_numberingShows = false;                    ///< a number, and not the room for one alone
     Picture m_picture;
+    std::array<int, 4> m_pictureCrop{}; ///< twips at its sides, in the order of "lrtb"
+    QString m_pictureProperties;        ///< as they are kept
     int m_halfByte = -1;
     bool m_shapePictureShown = false;
     bool m_sinkIsFull = false;

@@ -76,6 +76,8 @@ bool Interpreter::destinationWord(const Token& token) {
             return true;
         }
         m_picture = {};
+        m_pictureCrop = {};
+        m_pictureProperties.clear();
         m_box.picturePlace = placeHere();
         m_halfByte = -1;
         openDestination(Destination::Picture);
@@ -278,6 +280,12 @@ bool Interpreter::tableWord(const Token& token) {
     case Action::DefaultLanguage:
         if (token.hasParameter)
             m_parts.language = number;
+        return true;
+    case Action::FontKind:
+        m_fonts.setKind(token.word->value);
+        return true;
+    case Action::FontPitch:
+        m_fonts.setPitch(number);
         return true;
     case Action::FontCharset:
         m_fonts.setCharset(number);

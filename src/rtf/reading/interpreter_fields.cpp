@@ -24,8 +24,7 @@ void Interpreter::keepField() {
     if (scan.instruction.isEmpty() || scan.hasStructure)
         return;
     const FileTables tables = fileTables(m_fonts.usual());
-    const QString kept =
-        GroupKeeper(scan.instruction, tables).kept("{\\*\\", "fldinst", m_keptLeft);
+    QString kept = GroupKeeper(scan.instruction, tables).kept("{\\*\\", "fldinst", m_keptLeft);
     m_keptLeft -= kept.size();
     // Its name, and what it shows, are those by which it will be read when it has been written.
     const QByteArray written = keptWithoutPlaces(kept);
@@ -35,6 +34,7 @@ void Interpreter::keepField() {
     const QString shown = scan.hasResult ? QString() : fieldText(instruction) + entry;
     if (name.isEmpty())
         return;
+    kept.prepend(QLatin1StringView(scan.words));
     const bool isLink = !hyperlinkTarget(instruction).isEmpty();
     if (goesWithShape(m_tokenizer.groupAhead(), isLink)) {
         m_state.fieldHead = m_names.kept(u"{\\field"_s + kept + u"{\\fldrslt"_s);

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/kept/kept_group.h"
 #include "rtf/kept/kept_text.h"
+#include "rtf/kept/number_place.h"
 #include "rtf/reading/interpreter.h"
+#include "rtf/reading/plain_run.h"
 #include "rtf/writing/look_words.h"
 
 using namespace Qt::StringLiterals;
@@ -11,9 +13,28 @@ namespace orvalis::rtf {
 
 namespace {
 
+Destination destinationOf(KeptPlace place) {
+    switch (place) {
+    case KeptPlace::Picture:
+        return Destination::Picture;
+    case KeptPlace::FontPanose:
+    case KeptPlace::FontAlternative:
+        return Destination::FontTable;
+    default:
+        return Destination::Body;
+    }
+}
+
 bool isStarred(KeptPlace place) {
-    return place == KeptPlace::StarredInfo || place == KeptPlace::Notes ||
-           place == KeptPlace::StarredAnchor || place == KeptPlace::StarredNote;
+    switch (place) {
+    case KeptPlace::Styles:
+    case KeptPlace::Info:
+    case KeptPlace::Section:
+    case KeptPlace::Anchor:
+        return false;
+    default:
+        return true;
+    }
 }
 
 } // namespace
@@ -63,6 +84,8 @@ bool Interpreter::keptWord(const Token& token) {
         call.number = int(color(token.parameter));
     }
     if (kept.kind == KeptKind::Style && !m_stylesKept)
+        return true;
+    if (kept.kind == KeptKind::Author && !m_authorsKept)
         return true;
     if (kept.kind == KeptKind::Script) {
         m_state.script = token.word;
@@ -171,24 +194,57 @@ FileTables Interpreter::fileTables(const FontTable::Font* usual) const {
 }
 
 void Interpreter::keepGroup(const Token& token) {
-    if (m_state.destination != Destination::Body || m_state.deleted) {
+    const auto place = static_cast<KeptPlace>(token.word->value);
+    const Destination destination = destinationOf(place);
+    if (m_state.destination != destination || m_state.deleted) {
         skipGroup();
         return;
     }
-    const auto place = static_cast<KeptPlace>(token.word->value);
     const QByteArrayView content = m_tokenizer.groupAhead();
     const FileTables tables = fileTables(m_fonts.usual());
     const QByteArrayView opening(isStarred(place) ? "{\\*\\" : "{\\");
-    const QString group = GroupKeeper(content, tables).kept(opening, token.bytes, m_keptLeft);
+    GroupKeeper keeper(content, tables);
+    if (destination == Destination::FontTable)
+        keeper.beginIn(m_fonts.pageOfName(*m_documentPage), SymbolFont::None);
+    QByteArray word = token.bytes.toByteArray();
+    if (token.hasParameter)
+        word += QByteArray::number(token.parameter);
+    QString group = keeper.kept(opening, word, m_keptLeft);
+    // These stand where no number of a table has a place.
+    if (destination != Destination::Body && group.contains(PlaceStart))
+        group.clear();
     m_keptLeft -= group.size();
     skipGroup();
     placeGroup(place, group);
 }
 
+/// Text that a tracked change has taken out stays where it was, in the look that it had.
+/// \returns whether the rest of the group is that, and has been kept.
+bool Interpreter::keepDeleted() {
+    // The look ahead reads all of the group, so those inside are not looked into again.
+    if (std::exchange(m_state.inDeleted, true) || !shows() || m_groups.empty())
+        return false;
+    const QByteArrayView content = m_tokenizer.groupAhead();
+    if (!isPlainRun(content))
+        return false;
+    headEnds(); // for it tells how text looks
+    const FileTables tables = fileTables(m_fonts.usual());
+    GroupKeeper keeper(content, tables);
+    keeper.beginIn(*m_state.page, m_state.symbols);
+    const QString group = keeper.kept("{\\", "deleted", m_keptLeft);
+    if (group.isEmpty())
+        return false;
+    m_keptLeft -= group.size();
+    m_tokenizer.skipToGroupEnd();
+    anchor(u'{' + keptLook(told(m_state.chars), m_names) + group + u'}');
+    return true;
+}
+
 void Interpreter::placeGroup(KeptPlace place, const QString& group) {
-    const bool isAnchor = place == KeptPlace::Anchor || place == KeptPlace::StarredAnchor ||
-                          place == KeptPlace::StarredNote;
-    if (!isAnchor)
+    const bool staysInLine = destinationOf(place) != Destination::Body ||
+                             place == KeptPlace::Anchor || place == KeptPlace::StarredAnchor ||
+                             place == KeptPlace::StarredNote;
+    if (!staysInLine)
         dissolveLineBox();
     switch (place) {
     case KeptPlace::Styles:
@@ -196,6 +252,16 @@ void Interpreter::placeGroup(KeptPlace place, const QString& group) {
             return;
         m_stylesKept = !group.isEmpty() && m_sink.takesStyles(group);
         m_parts.styles = group;
+        return;
+    case KeptPlace::Authors:
+        if (m_headEnded)
+            return;
+        m_authorsKept = !group.isEmpty() && m_sink.takesAuthors(group);
+        m_parts.authors = group;
+        return;
+    case KeptPlace::Defaults:
+        if (!m_headEnded)
+            m_parts.defaults += group;
         return;
     case KeptPlace::Info:
     case KeptPlace::StarredInfo:
@@ -206,6 +272,15 @@ void Interpreter::placeGroup(KeptPlace place, const QString& group) {
         return;
     case KeptPlace::Section:
         m_sectionGroups += group;
+        return;
+    case KeptPlace::Picture:
+        m_pictureProperties = group;
+        return;
+    case KeptPlace::FontPanose:
+        m_fonts.setPanose(group);
+        return;
+    case KeptPlace::FontAlternative:
+        m_fonts.setAlternative(group);
         return;
     case KeptPlace::Anchor:
     case KeptPlace::StarredAnchor:
@@ -315,6 +390,7 @@ void Interpreter::tellKept() {
     m_parts.furtherDefaults = furtherDefaults();
     m_parts.nameless = m_nameless;
     m_parts.defaultFont = m_fonts.saidOfUsual();
+    m_parts.faces = m_fonts.faces(m_names);
     m_parts.oddFamilies = m_fonts.oddFamilies(m_names);
     if (m_parts.defaultFont == DefaultFont::Named)
         m_parts.unnamedFamily = m_names.familyAt(m_fonts.usual()->family);

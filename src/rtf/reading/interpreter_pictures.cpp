@@ -3,6 +3,8 @@
 #include "rtf/reading/interpreter.h"
 #include "rtf/words/hex.h"
 
+using namespace Qt::StringLiterals;
+
 namespace orvalis::rtf {
 
 bool Interpreter::pictureWord(const Token& token) {
@@ -29,6 +31,9 @@ bool Interpreter::pictureWord(const Token& token) {
         return true;
     case Action::PictureScaleY:
         m_picture.scaleY = number;
+        return true;
+    case Action::PictureCrop:
+        m_pictureCrop[size_t(token.word->value)] = number;
         return true;
     case Action::BitmapBits:
         m_picture.bitmap.bitsPerPixel = number;
@@ -82,6 +87,7 @@ void Interpreter::deliverPicture() {
     cellTabs(m_cellsEnded.size());
     flushText();
     m_textFormat = m_state.chars;
+    m_picture.words = wordsOfPicture();
     m_picture.frame = m_names.keptAt(m_state.frame);
     if (m_lineBox.isOpen)
         m_lineBox.pieces.push_back({{}, told(m_state.chars), {}, std::exchange(m_picture, {})});
@@ -90,6 +96,16 @@ void Interpreter::deliverPicture() {
     m_picture = {};
     if (ofBox)
         endPictureOfBox();
+}
+
+QString Interpreter::wordsOfPicture() const {
+    static constexpr char Sides[] = "lrtb";
+    QString words = m_pictureProperties;
+    for (size_t side = 0; side < m_pictureCrop.size(); ++side)
+        if (m_pictureCrop[side] != 0)
+            words +=
+                u"\\piccrop"_s + QLatin1Char(Sides[side]) + QString::number(m_pictureCrop[side]);
+    return words;
 }
 
 void Interpreter::showPicture(const Picture& picture, const CharFormat& look) {

@@ -97,6 +97,8 @@ bool Interpreter::characterWord(const Token& token) {
         chars.hidden = isOn(token);
         return true;
     case Action::Deleted:
+        if (isOn(token) && keepDeleted())
+            return true;
         m_state.deleted = isOn(token);
         return true;
     case Action::UnderlineKind:

@@ -17,9 +17,11 @@ namespace orvalis::rtf {
 void Interpreter::keepShape(const Token& token) {
     constexpr int MostShapes = 4096; // each makes a format of its own
     // The look ahead reads all that is in a shape, so those inside are not looked into again.
-    const bool isFormula = token.word->value != 0;
+    const auto kind = static_cast<ShapeKind>(token.word->value);
+    const bool isFormula = kind == ShapeKind::Formula;
+    const bool isObject = kind == ShapeKind::Object;
     const bool inShape = m_state.inShape;
-    bool& looked = isFormula ? m_state.inFormula : m_state.inShape;
+    bool& looked = isFormula ? m_state.inFormula : isObject ? m_state.inObject : m_state.inShape;
     // What is another form of a picture would not be that in a copy.
     if (std::exchange(looked, true) || m_shapes >= MostShapes || !shows() || m_state.fallback)
         return;
@@ -30,9 +32,9 @@ void Interpreter::keepShape(const Token& token) {
         keepFormula();
         return;
     }
-    if (isFormula && inShape)
-        return;
     const bool isBox = scan.shows == ShapeScan::Shows::Boxes;
+    if ((isFormula || isObject) && (inShape || isBox))
+        return;
     if (isBox)
         m_state.chars.field = NothingKept; // for that ends with its paragraph
     if (m_state.inTable && isBox) {
@@ -41,6 +43,7 @@ void Interpreter::keepShape(const Token& token) {
     }
     if (scan.shows == ShapeScan::Shows::More)
         return;
+    m_state.inShape = true;
     const FileTables tables = fileTables(m_fonts.usual());
     QString kept = GroupKeeper(scan.frame, tables).kept("{\\", token.bytes, m_keptLeft);
     m_keptLeft -= kept.size();
@@ -193,6 +196,7 @@ void Interpreter::endBox() {
     if (!std::exchange(m_box.isOpen, false))
         return;
     m_rows.leave();
+    m_rows.endsWithItem = false; // what comes is behind the box
     m_box.hasEnded = m_box.isBehindText;
     m_anchorsAtStart.prepend(std::exchange(m_box.anchorsAhead, {}));
     m_pageBreak |= std::exchange(m_box.pageBreakAhead, false);

@@ -133,7 +133,7 @@ private:
             (tellsOfDocument(action) || action == Action::AnchorMark || isFormula) && shownHere();
         m_groups.back().wraps = token.bytes == StrangePicture;
         m_loose |= token.bytes == "moMath" && !m_head.isStarred();
-        if (token.bytes == "mmathPict")
+        if (token.bytes == "mmathPict" || token.bytes == "result")
             m_property = ShownPicture.toByteArray();
         else if (token.bytes == "shprslt" || action == Action::NoShapePicture)
             m_others.push_back(pass());

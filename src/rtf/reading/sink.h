@@ -34,6 +34,8 @@ public:
     virtual void end(const ParagraphFormat& paragraph, const CharFormat& mark) = 0;
     /// Whether entries of the file's style sheet mean anything where the text goes.
     virtual bool takesStyles(const QString& /*styles*/) { return true; }
+    /// The same of its table of who changed the text.
+    virtual bool takesAuthors(const QString& /*authors*/) { return true; }
     /// What is kept of the place behind the text or picture that came last in the paragraph.
     virtual void anchor(const QString& /*kept*/) {}
     /// Comes once, ahead of end().

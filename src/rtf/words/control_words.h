@@ -103,9 +103,11 @@ enum class Action : quint8 {
     PassThrough, ///< an ignorable group whose content is shown
     UnicodePair,
     UnicodeHalf,
-    ShapeGroup, ///< value: 1 for what only its picture shows
+    ShapeGroup, ///< value: the ShapeKind
     ShapeText,
     // Inside the font and colour tables
+    FontKind, ///< value: by its place among the kinds of faces
+    FontPitch,
     FontCharset,
     FontCodePage,
     Red,
@@ -137,9 +139,17 @@ enum class Action : quint8 {
     PictureGoalHeight,
     PictureScaleX,
     PictureScaleY,
+    PictureCrop, ///< value: the side, by its place in "lrtb"
     BitmapBits,
     BitmapPlanes,
     BitmapRow,
+};
+
+/// What is kept as a shape is, around what it shows.
+enum class ShapeKind : quint8 {
+    Shape,
+    Formula, ///< which only its picture shows
+    Object,  ///< of another program, which its result shows
 };
 
 /// Whether a word at the head of a group says what the group is for.

@@ -46,6 +46,11 @@ constexpr auto keptCharacterWords() {
         {"webhidden", Characters, Switch},
         {"cgrid", Characters, Number},
         {"chbrdr", Characters, Side},
+        {"revised", Characters, Switch},
+        {"revauth", Characters, Author},
+        {"revdttm", Characters, Number},
+        {"crauth", Characters, Author},
+        {"crdate", Characters, Number},
     });
 }
 

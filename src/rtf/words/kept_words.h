@@ -25,6 +25,7 @@ enum class KeptKind : quint8 {
     Number,
     Color,     ///< the number is an index of the colour table
     Style,     ///< the number is an entry of the style sheet
+    Author,    ///< the number is an entry of the table of who changed the text
     Side,      ///< a border: what follows about borders belongs to it
     Font,      ///< the number is an entry of the font table
     Associate, ///< a number that holds for text of the other direction
@@ -41,13 +42,18 @@ struct KeptWord {
 /// What a group that is kept as it came belongs to.
 enum class KeptPlace : quint8 {
     Styles,
+    Authors,
+    Defaults, ///< looks that styles begin with
     Info,
     StarredInfo, ///< the same, in a group that readers may ignore
     Section,
-    Notes,         ///< the document: what stands between text and footnotes
-    Anchor,        ///< the character ahead of it
-    StarredAnchor, ///< the same, in a group that readers may ignore and that holds but a name
-    StarredNote,   ///< the same, with text to read
+    Notes,           ///< the document: what stands between text and footnotes
+    Anchor,          ///< the character ahead of it
+    StarredAnchor,   ///< the same, in a group that readers may ignore and that holds but a name
+    StarredNote,     ///< the same, with text to read
+    Picture,         ///< the picture that it stands in: its properties
+    FontPanose,      ///< the entry of the font table: the measures of its face
+    FontAlternative, ///< the same: another face
 };
 
 /// A word as the value of its entry in the table, and back.

@@ -80,7 +80,7 @@ char32_t toldCharacter(const Token& word) {
 bool isFigure(const Token& head) {
     const Action action = head.word ? head.word->action : Action::Version;
     return action == Action::PictureGroup ||
-           (action == Action::ShapeGroup && head.word->value != 0);
+           (action == Action::ShapeGroup && head.word->value == int(ShapeKind::Formula));
 }
 
 void Tokenizer::next(Token& token) {

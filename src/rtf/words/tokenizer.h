@@ -63,6 +63,8 @@ public:
     bool closesFurther() const;
     /// What skipGroup() would pass over, without the brace that closes the group.
     QByteArrayView groupAhead() const;
+    /// Passes over that: the brace comes next.
+    void skipToGroupEnd() { m_at += groupAhead().size(); }
     /// Whether any brace or backslash is left.
     bool hasStructureAhead() const;
     qsizetype position() const { return m_at - m_begin; }

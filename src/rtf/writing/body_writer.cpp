@@ -299,14 +299,14 @@ QByteArray BodyWriter::file(int defaultTab, const KeptParts& parts) {
         closeBox();
     endLastParagraph();
     // What is kept may name fonts and colours that the text has not.
-    const QByteArray styles = kept(parts.styles);
+    const QByteArray styles = kept(parts.defaults) + kept(parts.styles) + kept(parts.authors);
     const QByteArray head =
         kept(parts.info) + kept(parts.words) + kept(parts.notes) + kept(parts.section);
     RtfOutput furtherDefaults;
     writeKept(furtherDefaults, m_tables, parts.furtherDefaults);
     // What the tables keep of lists names fonts, too.
     RtfOutput tables;
-    m_tables.write(tables, styles);
+    m_tables.write(tables, styles, parts.faces);
     RtfOutput out;
     out.reserve(m_out.bytes().size() + tables.bytes().size() + 1024);
     out.structure("{\\rtf1\\ansi\\ansicpg1252");

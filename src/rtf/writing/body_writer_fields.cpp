@@ -89,7 +89,7 @@ void BodyWriter::shown(const CharFormat& format) {
         change(own);
     }
     breakPage();
-    const bool isInstruction = group.startsWith(QLatin1StringView(InstructionHead));
+    const bool isInstruction = isOfField(group);
     if (isInstruction)
         m_out.structure("{\\field");
     writeKept(m_out, m_tables, group);

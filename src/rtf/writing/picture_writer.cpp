@@ -108,7 +108,8 @@ QSize writtenSize(const Picture& picture) {
 
 QByteArray ownGroup(const Picture& picture) {
     QByteArray rtf;
-    appendGroup(rtf, kindWords(picture), writtenSize(picture), picture, picture.bytes);
+    appendGroup(rtf, picture.words.toLatin1() + kindWords(picture), writtenSize(picture), picture,
+                picture.bytes);
     return rtf;
 }
 

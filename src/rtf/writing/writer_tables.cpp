@@ -120,23 +120,29 @@ int WriterTables::list(const ParagraphFormat& item) {
     return number;
 }
 
-void WriterTables::write(RtfOutput& out, QByteArrayView styles) {
+void WriterTables::write(RtfOutput& out, QByteArrayView styles, const FontFaces& faces) {
     // What is kept of lists may name fonts and colours that nothing else has.
     const QByteArray lists = listTables();
-    writeFonts(out);
+    writeFonts(out, faces);
     writeColors(out);
     if (!styles.isEmpty())
         out.structure(styles);
     out.structure(lists);
 }
 
-void WriterTables::writeFonts(RtfOutput& out) const {
+void WriterTables::writeFonts(RtfOutput& out, const FontFaces& faces) const {
     out.structure("{\\fonttbl");
     for (qsizetype number = 0; number < m_fonts.size(); ++number) {
         QString name = m_names.familyAt(m_fonts[number]);
+        const FontFace face = faces.value(name);
         out.word("{\\f", m_firstFont + int(number));
         const bool signs = isSymbolFamily(name) != m_odd.contains(m_fonts[number]);
-        out.word(signs ? "\\fnil\\fcharset2" : "\\fnil\\fcharset0");
+        out.word(QByteArray("\\") + FontFace::Kinds[face.kind]);
+        out.word("\\fcharset", signs ? 2 : 0);
+        if (face.pitch != 0)
+            out.word("\\fprq", face.pitch);
+        if (!face.panose.isEmpty())
+            out.structure(face.panose.toLatin1());
         name.remove(u';');
         // A reader would take the end of such a name for the script of its letters.
         if (withoutScript(name) != name) {
@@ -145,7 +151,7 @@ void WriterTables::writeFonts(RtfOutput& out) const {
             out.structure(";}");
         }
         out.text(name);
-        out.structure(";}");
+        out.structure(face.alternative.toLatin1() + ";}");
     }
     out.structure("}\r\n");
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "rtf/characters/symbol_font.h"
+#include "rtf/formats/font_face.h"
 #include "rtf/formats/formats.h"
 
 #include <QSet>
@@ -46,10 +47,11 @@ public:
 
     /// Appends the tables with all that was used so far.
     /// \param styles the style sheet, which has its place among them.
-    void write(RtfOutput& out, QByteArrayView styles);
+    /// \param faces what is told of them.
+    void write(RtfOutput& out, QByteArrayView styles, const FontFaces& faces);
 
 private:
-    void writeFonts(RtfOutput& out) const;
+    void writeFonts(RtfOutput& out, const FontFaces& faces) const;
     void writeColors(RtfOutput& out) const;
     QByteArray listTables();
     static void writeMade(RtfOutput& out, const ParagraphFormat& item, int number);

@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: 2026 The Orvalis developers
+// SPDX-License-Identifier: MIT
+#include "kept_file.h"
+#include "sample_shapes.h"
+#include "support/test_main.h"
+
+#include <QGuiApplication>
+#include <QTextCursor>
+#include <QTextDocument>
+
+using namespace orvalis;
+using namespace orvalis::rtf;
+using orvalis::test::file;
+using orvalis::test::saved;
+using orvalis::test::textOf;
+
+namespace {
+
+const QByteArray Authors = "{\\*\\revtbl{Unknown;}{Ann;}}";
+
+} // namespace
+
+/// What a file tells of changes that somebody is still to agree to.
+class TrackedChangesTest : public QObject {
+    Q_OBJECT
+private slots:
+    void textThatCameInKeepsWhoAndWhen();
+    void whoChangedIsLeftOutWhereNobodyIsNamed();
+    void textThatWasTakenOutDoesNotShow_data();
+    void textThatWasTakenOutDoesNotShow();
+    void textThatWasTakenOutStays_data();
+    void textThatWasTakenOutStays();
+    void whatIsMoreThanTextIsNotKept_data();
+    void whatIsMoreThanTextIsNotKept();
+    void textThatWasTakenOutGoesWithWhatIsCopied();
+    void whatComesFromAnotherDocumentHasNoAuthors();
+};
+
+void TrackedChangesTest::textThatCameInKeepsWhoAndWhen() {
+    const QByteArray written =
+        saved(Authors + "a {\\revised\\revauth1\\revdttm-99 word} {\\crauth1\\crdate5 b}\\par");
+    QVERIFY2(written.contains(Authors), written.constData());
+    QVERIFY2(written.contains("\\revised\\revauth1\\revdttm-99 deed"), written.constData());
+    QVERIFY2(written.contains("\\crauth1\\crdate5 b"), written.constData());
+}
+
+void TrackedChangesTest::whoChangedIsLeftOutWhereNobodyIsNamed() {
+    const QByteArray written = saved("{\\revised\\revauth1 word}\\par");
+    QVERIFY2(written.contains("\\revised\\f0\\fs24 deed"), written.constData());
+}
+
+void TrackedChangesTest::textThatWasTakenOutDoesNotShow_data() {
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char* name, const QByteArray& body, const char* text) {
+        QTest::newRow(name) << body << QString::fromLatin1(text);
+    };
+    row("in a group", "a{\\deleted b}c\\par", "ac");
+    row("up to the end of the group", "a{\\b\\deleted b{\\i c}}d\\par", "ad");
+    row("up to a word", "a\\deleted b\\deleted0 c\\par", "ac");
+    row("that is none after all", "a{\\deleted0 b}c\\par", "abc");
+    row("with a note", "a{\\deleted b{\\footnote c}}d\\par", "ad");
+}
+
+void TrackedChangesTest::textThatWasTakenOutDoesNotShow() {
+    QFETCH(QByteArray, body);
+    QFETCH(QString, text);
+    QCOMPARE(textOf(body), text);
+}
+
+void TrackedChangesTest::textThatWasTakenOutStays_data() {
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<QByteArray>("kept");
+    const auto row = [](const char* name, const QByteArray& body, const QByteArray& kept) {
+        QTest::newRow(name) << body << kept;
+    };
+    row("behind a word", "word{\\deleted\\revauthdel1\\revdttmdel7 b}c\\par",
+        "deed{\\plain\\f0\\fs24{\\deleted\\revauthdel1\\revdttmdel7 b}}c\\par");
+    row("in its look", "word{\\b\\deleted b\\i c}\\par",
+        "deed{\\plain\\b\\f0\\fs24{\\deleted b\\i c}}\\par");
+    row("in letters of another page", "word{\\f1\\deleted\\'e0}\\par",
+        "deed{\\plain\\f1\\fs24{\\deleted\\u1072?}}\\par");
+    row("ahead of a paragraph's text", "{\\deleted a}word\\par",
+        "\\pard{\\plain\\f0\\fs24{\\deleted a}}\\f0\\fs24 deed\\par");
+    row("in a paragraph of its own", "word\\par{\\deleted a}\\par",
+        "deed\\par\\pard{\\plain\\f0\\fs24{\\deleted a}}\\par");
+    row("in a cell", "\\trowd\\cellx99\\intbl word{\\deleted a}\\cell\\row",
+        "deed{\\plain\\f0\\fs24{\\deleted a}}\\cell\\row");
+}
+
+void TrackedChangesTest::textThatWasTakenOutStays() {
+    QFETCH(QByteArray, body);
+    QFETCH(QByteArray, kept);
+    const QByteArray written = saved(body);
+    QVERIFY2(written.contains(kept), written.constData());
+}
+
+void TrackedChangesTest::whatIsMoreThanTextIsNotKept_data() {
+    QTest::addColumn<QByteArray>("deleted");
+    QTest::newRow("a paragraph's end") << QByteArray("{\\deleted b\\par}");
+    QTest::newRow("a line end behind a backslash") << QByteArray("{\\deleted b\\\n}");
+    QTest::newRow("a cell") << QByteArray("{\\deleted b\\cell}");
+    QTest::newRow("a note") << QByteArray("{\\deleted b{\\footnote c}}");
+    QTest::newRow("text that is not taken out") << QByteArray("{\\deleted b\\plain}");
+    QTest::newRow("binary data") << QByteArray("{\\deleted b\\bin1 x}");
+    QTest::newRow("no text") << QByteArray("{\\deleted\\b}");
+}
+
+void TrackedChangesTest::whatIsMoreThanTextIsNotKept() {
+    QFETCH(QByteArray, deleted);
+    const QByteArray written = saved("word" + deleted + "d\\par");
+    QVERIFY2(written.contains("deed"), written.constData());
+    QVERIFY2(!written.contains("\\deleted"), written.constData());
+}
+
+void TrackedChangesTest::textThatWasTakenOutGoesWithWhatIsCopied() {
+    QTextDocument document;
+    QVERIFY(readRtf(file(Authors + "a{\\revised\\revauth1 b{\\deleted x}}c\\par"), document).ok());
+    const QByteArray part = writeRtf(document, 1, 3);
+    QVERIFY2(part.contains("\\revised\\revauth1") && part.contains("{\\deleted x}"),
+             part.constData());
+    QVERIFY2(part.contains(Authors), part.constData());
+}
+
+void TrackedChangesTest::whatComesFromAnotherDocumentHasNoAuthors() {
+    QTextDocument document;
+    QVERIFY(readRtf(file("{\\*\\revtbl{Unknown;}{Bob;}}a\\par"), document).ok());
+    QTextCursor cursor(&document);
+    QVERIFY(insertRtf(file(Authors + "{\\revised\\revauth1 b}"), cursor).ok());
+    const QByteArray written = writeRtf(document);
+    QVERIFY2(written.contains("Bob") && !written.contains("Ann"), written.constData());
+    QVERIFY2(written.contains("\\revised") && !written.contains("\\revauth"), written.constData());
+}
+
+ORVALIS_TEST_MAIN_WITH(QGuiApplication, TrackedChangesTest)
+#include "tracked_changes_test.moc"

@@ -3,6 +3,7 @@
 #include "rtf/characters/font_table.h"
 
 #include "rtf/characters/symbol_font.h"
+#include "rtf/characters/whole_characters.h"
 
 using namespace Qt::StringLiterals;
 
@@ -20,7 +21,7 @@ QString cleanName(QString name) {
         return c.unicode() < u' ' || c == u';' || c == QChar(QChar::ObjectReplacementCharacter);
     });
     name.truncate(LongestName);
-    return name.trimmed();
+    return wholeCharacters(name).trimmed();
 }
 
 } // namespace

@@ -46,6 +46,7 @@ private slots:
     void aCroppedPictureStaysCropped();
     void aPictureKeepsItsProperties();
     void propertiesThatNameAFontAreNotKept();
+    void digitsBehindACharacterAreThoseOfThePicture();
 };
 
 void EmbeddedObjectTest::anObjectIsShownByThePictureOfItsResult() {
@@ -130,6 +131,13 @@ void EmbeddedObjectTest::propertiesThatNameAFontAreNotKept() {
     const QByteArray written =
         saved("word{\\pict{\\*\\picprop\\f2 x}\\pngblip " + digits() + "}\\par");
     QVERIFY2(written.contains("{\\pict\\pngblip"), written.constData());
+}
+
+void EmbeddedObjectTest::digitsBehindACharacterAreThoseOfThePicture() {
+    QByteArray parted = digits();
+    parted.insert(8, "\\u61 ");
+    const QByteArray written = saved("word{\\pict\\pngblip " + parted + "}\\par");
+    QVERIFY2(written.contains(digits()), written.constData());
 }
 
 ORVALIS_TEST_MAIN_WITH(QGuiApplication, EmbeddedObjectTest)

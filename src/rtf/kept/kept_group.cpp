@@ -122,6 +122,8 @@ void GroupKeeper::word(const Token& token) {
         m_fallbackToSkip = 0;
     switch (action) {
     case Action::Unicode:
+        if (m_state.picture) // which has digits alone, behind a character too
+            return;
         unicode(toldCharacter(token));
         m_fallbackToSkip = m_state.unicodeSkip;
         return;

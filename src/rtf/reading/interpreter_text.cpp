@@ -213,6 +213,9 @@ void Interpreter::appendOfWord(char16_t character) {
 }
 
 void Interpreter::unicode(char32_t code) {
+    // A picture has digits alone, and what comes behind a character is none that stands for it.
+    if (m_state.destination == Destination::Picture)
+        return;
     m_fallbackToSkip = m_state.unicodeSkip;
     if (m_state.destination == Destination::FontTable) {
         m_fonts.addName(char16_t(code));

@@ -15,6 +15,7 @@
 #include <QUrl>
 
 #include <memory>
+#include <set>
 
 #ifdef Q_OS_UNIX
 #include <unistd.h>
@@ -67,10 +68,14 @@ void waitFor(QProcess& process, std::chrono::milliseconds patience) {
         wait.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
-/// A QProcess ends its child when it goes; this one goes when the child does.
+/// A QProcess ends its child when it goes; this one goes when the child does. One whose child
+/// outlives the program is held until the very end, so nothing destroys these.
 void letGoOn(std::unique_ptr<QProcess> process) {
+    static auto* const runningOn = new std::set<QProcess*>;
     QProcess* running = process.release();
+    runningOn->insert(running);
     QObject::connect(running, &QProcess::finished, running, &QObject::deleteLater);
+    QObject::connect(running, &QObject::destroyed, [running] { runningOn->erase(running); });
 }
 
 } // namespace

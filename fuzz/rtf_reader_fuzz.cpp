@@ -37,7 +37,7 @@ public:
         require(!text.contains(u'\n') && !text.contains(QChar(QChar::ParagraphSeparator)));
         require(format.halfPoints > 0);
         require(format.family == NoName || !m_names->familyAt(format.family).isEmpty());
-        require(format.link == NoName || !m_names->linkAt(format.link).isEmpty());
+        require(format.link == NoName || !m_names->linkAt(format.link).target.isEmpty());
     }
     bool picture(const Picture& picture, const CharFormat& /*format*/) override {
         require(!m_ended && !picture.bytes.isEmpty());

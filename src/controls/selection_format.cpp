@@ -104,9 +104,10 @@ QTextCharFormat formatAtStart(const QTextCursor& selection) {
          {int(QTextFormat::ObjectType), int(QTextFormat::ObjectIndex), int(QTextFormat::ImageName),
           int(QTextFormat::ImageWidth), int(QTextFormat::ImageHeight), int(QTextFormat::ImageTitle),
           int(QTextFormat::ImageAltText), int(QTextFormat::IsAnchor), int(QTextFormat::AnchorHref),
-          int(QTextFormat::AnchorName), int(rtf::PictureSource), int(rtf::PictureSourceKind),
-          int(rtf::PictureSourceSize), int(rtf::PictureIsBox), int(rtf::PictureFallback),
-          int(rtf::HiddenPictureSize), int(rtf::KeptAnchors), int(rtf::CellShape)})
+          int(QTextFormat::AnchorName), int(rtf::LinkSwitches), int(rtf::PictureSource),
+          int(rtf::PictureSourceKind), int(rtf::PictureSourceSize), int(rtf::PictureIsBox),
+          int(rtf::PictureFallback), int(rtf::HiddenPictureSize), int(rtf::KeptAnchors),
+          int(rtf::CellShape)})
         format.clearProperty(property);
     return format;
 }

@@ -83,6 +83,7 @@ private:
         ofPart.unnamedFamily = parts.unnamedFamily;
         ofPart.oddFamilies = parts.oddFamilies;
         ofPart.faces = parts.faces;
+        ofPart.themes = parts.themes;
         return ofPart;
     }
 

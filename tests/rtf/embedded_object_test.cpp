@@ -41,7 +41,11 @@ private slots:
     void anObjectGoesWithItsPicture();
     void dataOfAnObjectInBinaryStay();
     void anObjectThatShowsNothingStaysAtItsPlace();
-    void anObjectThatShowsTextIsText();
+    void anObjectThatShowsTextGoesWithIt();
+    void anObjectThatShowsSeveralPicturesGoesWithThem();
+    void anObjectThatIsMoreThanALineIsWhatItShows_data();
+    void anObjectThatIsMoreThanALineIsWhatItShows();
+    void anObjectStandsInTheTextOfABox();
     void aPictureThatIsTakenOutTakesItsObjectAlong();
     void aCroppedPictureStaysCropped();
     void aPictureKeepsItsProperties();
@@ -91,10 +95,50 @@ void EmbeddedObjectTest::anObjectThatShowsNothingStaysAtItsPlace() {
              written.constData());
 }
 
-void EmbeddedObjectTest::anObjectThatShowsTextIsText() {
-    const QByteArray body = "word" + object("{\\b b}") + "c\\par";
-    QCOMPARE(textOf(body), QStringLiteral("wordbc"));
-    QVERIFY(!saved(body).contains("\\object"));
+void EmbeddedObjectTest::anObjectThatShowsTextGoesWithIt() {
+    const QByteArray body = "word" + object("b{\\b c}") + "d\\par";
+    QCOMPARE(textOf(body), QStringLiteral("wordbcd"));
+    const QByteArray written = saved(body);
+    QVERIFY2(
+        written.contains("deed{\\object\\objemb\\objw99{\\*\\objclass Sheet}{\\*\\objdata 0105}"
+                         "{\\result b\\b c}}d\\par"),
+        written.constData());
+}
+
+void EmbeddedObjectTest::anObjectThatShowsSeveralPicturesGoesWithThem() {
+    const QByteArray written = saved("word" + object(png() + png()) + "d\\par");
+    QVERIFY2(written.contains("{\\*\\objdata 0105}{\\result{\\*\\shppict"), written.constData());
+    QCOMPARE(written.count(digits()), 2);
+    QVERIFY2(written.contains("}}}d\\par"), written.constData());
+}
+
+void EmbeddedObjectTest::anObjectThatIsMoreThanALineIsWhatItShows_data() {
+    QTest::addColumn<QByteArray>("body");
+    QTest::newRow("paragraphs") << object("b\\par c") + "\\par";
+    QTest::newRow("a text beside its result")
+        << QByteArray("{\\object{\\*\\objdata 01}b{\\result c}}\\par");
+    QTest::newRow("two results") << QByteArray(
+        "{\\object{\\*\\objdata 01}{\\result b}{\\result c}}\\par");
+    QTest::newRow("groups that nobody knows")
+        << QByteArray("{\\object{\\*\\objdata 01}{\\*\\foo}{\\result c}}\\par");
+    QTest::newRow("nothing of the object") << QByteArray("{\\object{\\result c}}\\par");
+    QTest::newRow("a field's text")
+        << "{\\field{\\*\\fldinst QUOTE}{\\fldrslt b" + object("c") + "}}\\par";
+}
+
+void EmbeddedObjectTest::anObjectThatIsMoreThanALineIsWhatItShows() {
+    QFETCH(QByteArray, body);
+    const QByteArray written = saved("word" + body);
+    QVERIFY2(written.contains("deed") && !written.contains("\\object"), written.constData());
+}
+
+void EmbeddedObjectTest::anObjectStandsInTheTextOfABox() {
+    const QByteArray written =
+        saved("word" + test::box("\\pard b" + object(png()) + "c\\par") + "\\par");
+    QVERIFY2(written.contains("b{\\object\\objemb\\objw99{\\*\\objclass Sheet}{\\*\\objdata 0105}"
+                              "{\\result{\\pict"),
+             written.constData());
+    QVERIFY2(written.contains("{\\shptxt"), written.constData());
 }
 
 void EmbeddedObjectTest::aPictureThatIsTakenOutTakesItsObjectAlong() {

@@ -28,8 +28,7 @@ void FontFaceTest::whatIsToldOfAFaceStays_data() {
     };
     row("nothing", " Any", "\\fnil\\fcharset0 Any");
     row("its kind", "\\fswiss Any", "\\fswiss\\fcharset0 Any");
-    row("its kind behind its script", "\\fbidi\\fmodern\\fcharset0 Any",
-        "\\fmodern\\fcharset0 Any");
+    row("its directions", "\\fbidi\\fmodern\\fcharset0 Any", "\\fbidi\\fmodern\\fcharset0 Any");
     row("its pitch", "\\fscript\\fprq1 Any", "\\fscript\\fcharset0\\fprq1 Any");
     row("a pitch that nobody knows", "\\froman\\fprq3 Any", "\\froman\\fcharset0 Any");
     row("a name that is a number", "\\froman\\fprq2 7", "\\froman\\fcharset0\\fprq2 7");

@@ -119,6 +119,28 @@ void KeepingTest::whatIsNotShownIsKept_data() {
         "deed {\\field{\\*\\fldinst DATE}{\\fldrslt today}}\\par");
     row("further level in a note's index entry, in a page of two bytes",
         "\\ansicpg932 {\\footnote\\f0{\\xe a\\:b}}word\\par", "{\\footnote\\f0{\\xe a\\:b}}");
+    row("template", "{\\*\\template C:\\\\a.dot}word\\par", "{\\*\\template C:\\\\a.dot}\r\n");
+    row("file that comes next", "{\\nextfile b.rtf}word\\par", "{\\nextfile b.rtf}\r\n");
+    row("files that others stand in", "{\\*\\filetbl{\\file\\fid0 a.rtf}}word\\par",
+        "{\\*\\filetbl{\\file\\fid0 a.rtf}}\r\n");
+    row("group of the head that nobody knows", "{\\*\\protusertbl{Ann}}\\pard word\\par",
+        "{\\*\\protusertbl{Ann}}\r\n\\viewkind4");
+    row("group of the text that nobody knows", "{\\*\\protstart x}word{\\*\\protend x}\\par",
+        "deed{\\*\\protend x}\\par");
+    row("group that nobody knows ahead of the text", "\\pard{\\*\\protstart x}word\\par",
+        "\\pard{\\*\\protstart x}\\f0\\fs24 deed\\par");
+    row("group that nobody knows ahead of a row",
+        "\\trowd\\cellx99{\\*\\customxml x}\\intbl word\\cell\\row",
+        "{\\*\\customxml x}\\f0\\fs24 deed\\cell\\row");
+    row("marks of another language",
+        "word{\\*\\xmlopen\\xmlns1{\\factoidname a}}b{\\*\\xmlclose}\\par",
+        "deed{\\*\\xmlopen\\xmlns1{\\factoidname a}}b{\\*\\xmlclose}\\par");
+    row("group that nobody knows in a box",
+        "word{\\shp{\\*\\shpinst{\\shptxt\\pard a{\\*\\custom x}\\par}}}\\par",
+        "a{\\*\\custom x}\\par}");
+    row("group that nobody knows in the frame of a box",
+        "word{\\shp{\\*\\custom x}{\\*\\shpinst{\\shptxt\\pard a\\par}}}\\par",
+        "deed{\\shp{\\*\\custom x}{\\*\\shpinst{\\shptxt");
     row("page border", "\\sectd\\pgbrdrt\\brdrs\\brdrw10\\brdrcf2 word\\par",
         "\\sectd\\pgbrdrt\\brdrs\\brdrw10\\brdrcf1\r\n");
     row("header", "{\\header\\pard\\qc Over it\\par}word\\par",

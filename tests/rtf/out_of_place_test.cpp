@@ -53,6 +53,7 @@ private slots:
     void aNumberThatItsLabelDoesNotShowGoesOn();
     void theTextOfALabelBeginsAnewWhateverCameBefore();
     void aBoxThatBringsNoTextStaysAtItsPlace();
+    void aRowThatIsNothingBehindABoxLeavesTheNextParagraphAlone();
     void aLabelInABoxIsThatOfItsParagraph();
     void anEquationWhoseWordIsNotTheFirstIsKeptByWhatItShows();
     void aListWithoutAnOverrideToKeepIsWritten();
@@ -184,9 +185,16 @@ void OutOfPlaceTest::theTextOfALabelBeginsAnewWhateverCameBefore() {
 
 void OutOfPlaceTest::aBoxThatBringsNoTextStaysAtItsPlace() {
     QTextDocument document;
-    readFile(document, "a{\\shp{\\*\\shpinst{\\shptxt{\\deleted x\\s1}}}}b");
+    readFile(document, "a{\\shp{\\*\\shpinst{\\shptxt{\\deleted x\\intbl}}}}b");
     QCOMPARE(document.toPlainText(), QStringLiteral("ab"));
     QVERIFY(writeRtf(document).contains("a{\\shp{\\*\\shpinst{\\shptxt}}}b"));
+}
+
+void OutOfPlaceTest::aRowThatIsNothingBehindABoxLeavesTheNextParagraphAlone() {
+    QTextDocument document;
+    readFile(document, "\\trowd\\cellx9\\cell\\row{ \\shp{\\shptxt q}}\\cell\\row x");
+    QCOMPARE(document.toPlainText(), QStringLiteral("\n \nq\nx"));
+    QVERIFY(!document.lastBlock().blockFormat().hasProperty(TableRow));
 }
 
 void OutOfPlaceTest::aLabelInABoxIsThatOfItsParagraph() {

@@ -43,7 +43,7 @@ public:
         whole += piece;
         m_line += piece;
         runs.append({piece.toString(), format, m_names->familyAt(format.family),
-                     m_names->linkAt(format.link)});
+                     m_names->linkAt(format.link).target});
     }
 
     bool picture(const rtf::Picture& picture, const rtf::CharFormat& /*format*/) override {

@@ -25,6 +25,7 @@ class TrackedChangesTest : public QObject {
     Q_OBJECT
 private slots:
     void textThatCameInKeepsWhoAndWhen();
+    void textThatWasMovedKeepsWhoAndWhen();
     void whoChangedIsLeftOutWhereNobodyIsNamed();
     void textThatWasTakenOutDoesNotShow_data();
     void textThatWasTakenOutDoesNotShow();
@@ -42,6 +43,16 @@ void TrackedChangesTest::textThatCameInKeepsWhoAndWhen() {
     QVERIFY2(written.contains(Authors), written.constData());
     QVERIFY2(written.contains("\\revised\\revauth1\\revdttm-99 deed"), written.constData());
     QVERIFY2(written.contains("\\crauth1\\crdate5 b"), written.constData());
+}
+
+void TrackedChangesTest::textThatWasMovedKeepsWhoAndWhen() {
+    const QByteArray written = saved(
+        Authors +
+        "\\pard{\\*\\mvfmf x}{\\mvf\\mvauth1\\mvdate7 word}{\\*\\mvfml x}{\\mvt\\mvauth1 b}\\par");
+    QVERIFY2(written.contains("\\pard{\\*\\mvfmf x}"), written.constData());
+    QVERIFY2(written.contains("\\mvf\\mvauth1\\mvdate7\\f0\\fs24 deed{\\*\\mvfml x}"),
+             written.constData());
+    QVERIFY2(written.contains("\\mvt\\mvauth1\\f0 b"), written.constData());
 }
 
 void TrackedChangesTest::whoChangedIsLeftOutWhereNobodyIsNamed() {
@@ -80,6 +91,22 @@ void TrackedChangesTest::textThatWasTakenOutStays_data() {
         "deed{\\plain\\b\\f0\\fs24{\\deleted b\\i c}}\\par");
     row("in letters of another page", "word{\\f1\\deleted\\'e0}\\par",
         "deed{\\plain\\f1\\fs24{\\deleted\\u1072?}}\\par");
+    row("with a paragraph's end", "word{\\deleted b\\par}c\\par",
+        "deed{\\plain\\f0\\fs24{\\deleted b\\par}}c\\par");
+    row("with a line end behind a backslash", "word{\\deleted b\\\n}c\\par",
+        "deed{\\plain\\f0\\fs24{\\deleted b\\par}}c\\par");
+    row("that is nothing but a paragraph's end", "word{\\deleted\\par}\\pard c\\par",
+        "deed{\\plain\\f0\\fs24{\\deleted\\par}}c\\par");
+    row("with what its paragraph is like", "word{\\deleted\\qc\\s1 b\\par}c\\par",
+        "deed{\\plain\\f0\\fs24{\\deleted\\qc\\s1 b\\par}}c\\par");
+    row("with a note", "word{\\deleted b\\chftn{\\footnote\\pard\\plain\\chftn c}}d\\par",
+        "deed{\\plain\\f0\\fs24{\\deleted b\\chftn{\\footnote\\pard\\plain\\chftn c}}}d\\par");
+    row("with a picture", "word{\\deleted{\\*\\shppict{\\pict\\pngblip 89}}}c\\par",
+        "deed{\\plain\\f0\\fs24{\\deleted{\\*\\shppict{\\pict\\pngblip 89}}}}c\\par");
+    row("with a field", "word{\\deleted{\\field{\\*\\fldinst PAGE}{\\fldrslt 1}}}c\\par",
+        "deed{\\plain\\f0\\fs24{\\deleted{\\field{\\*\\fldinst PAGE}{\\fldrslt 1}}}}c\\par");
+    row("with a bookmark", "word{\\deleted{\\*\\bkmkstart a}b}c\\par",
+        "deed{\\plain\\f0\\fs24{\\deleted{\\*\\bkmkstart a}b}}c\\par");
     row("ahead of a paragraph's text", "{\\deleted a}word\\par",
         "\\pard{\\plain\\f0\\fs24{\\deleted a}}\\f0\\fs24 deed\\par");
     row("in a paragraph of its own", "word\\par{\\deleted a}\\par",
@@ -97,11 +124,15 @@ void TrackedChangesTest::textThatWasTakenOutStays() {
 
 void TrackedChangesTest::whatIsMoreThanTextIsNotKept_data() {
     QTest::addColumn<QByteArray>("deleted");
-    QTest::newRow("a paragraph's end") << QByteArray("{\\deleted b\\par}");
-    QTest::newRow("a line end behind a backslash") << QByteArray("{\\deleted b\\\n}");
     QTest::newRow("a cell") << QByteArray("{\\deleted b\\cell}");
-    QTest::newRow("a note") << QByteArray("{\\deleted b{\\footnote c}}");
-    QTest::newRow("text that is not taken out") << QByteArray("{\\deleted b\\plain}");
+    QTest::newRow("a section") << QByteArray("{\\deleted b\\sect}");
+    QTest::newRow("text that is not taken out") << QByteArray("{\\deleted b\\plain c}");
+    QTest::newRow("text behind a word") << QByteArray("{\\deleted b\\deleted0 c}");
+    QTest::newRow("a paragraph's end that is not taken out")
+        << QByteArray("{\\deleted b{\\plain\\par}}");
+    QTest::newRow("a label") << QByteArray("{\\deleted{\\pntext 1.}b}");
+    QTest::newRow("fonts") << QByteArray("{\\deleted b{\\fonttbl{\\f9 Other;}}}");
+    QTest::newRow("words of a section") << QByteArray("{\\deleted b\\cols2}");
     QTest::newRow("binary data") << QByteArray("{\\deleted b\\bin1 x}");
     QTest::newRow("no text") << QByteArray("{\\deleted\\b}");
 }

@@ -33,6 +33,7 @@ public:
     void setPage(int number);
     /// \param kind by its place among the kinds of faces.
     void setKind(int kind) { m_face.kind = kind; }
+    void setAnyDirection() { m_face.anyDirection = true; }
     void setPitch(int pitch);
     void setPanose(const QString& kept) { m_face.panose = kept; }
     void setAlternative(const QString& kept) { m_face.alternative = kept; }

@@ -17,9 +17,10 @@ struct FontFace {
     static constexpr int MostPitch = 2;
 
     int kind = UnknownKind;
-    int pitch = 0;       ///< 0 for one that nobody told, 1 for letters of one width
-    QString panose;      ///< as it is kept (see kept_text.h)
-    QString alternative; ///< the same: the name of another face
+    bool anyDirection = false; ///< it has letters for text of both
+    int pitch = 0;             ///< 0 for one that nobody told, 1 for letters of one width
+    QString panose;            ///< as it is kept (see kept_text.h)
+    QString alternative;       ///< the same: the name of another face
 
     bool operator==(const FontFace&) const = default;
 };

@@ -141,6 +141,9 @@ enum FormatProperty : int {
     KeptList,
     KeptListOverride,
     KeptListLevel,
+    /// Of a character format with a link: what its field says beside the target (QString, the
+    /// switches of a `HYPERLINK` with a blank ahead of each).
+    LinkSwitches,
 };
 
 } // namespace orvalis::rtf

@@ -30,6 +30,17 @@ size_t qHash(const CharFormat& format, size_t seed) noexcept {
     return size_t(hash);
 }
 
+int Names::link(const Hyperlink& link) {
+    const std::pair key(link.target, link.switches);
+    const auto found = m_linkIndex.constFind(key);
+    if (found != m_linkIndex.constEnd())
+        return *found;
+    const int added = int(m_links.size());
+    m_links.append(link);
+    m_linkIndex.insert(key, added);
+    return added;
+}
+
 int Names::intern(QStringList& list, QHash<QString, int>& index, const QString& name) {
     const auto found = index.constFind(name);
     if (found != index.constEnd())

@@ -2,12 +2,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "rtf/formats/hyperlink.h"
+
 #include <QHash>
 #include <QList>
 #include <QRgb>
 #include <QString>
 #include <QStringList>
 #include <QTextOption>
+
+#include <utility>
 
 namespace orvalis::rtf {
 
@@ -210,13 +214,13 @@ struct ParagraphFormat {
     bool operator==(const ParagraphFormat&) const = default;
 };
 
-/// The font families, link targets and kept pieces of RTF of one reading, each held once.
+/// The font families, links and kept pieces of RTF of one reading, each held once.
 class Names {
 public:
     int family(const QString& name) { return intern(m_families, m_familyIndex, name); }
-    int link(const QString& target) { return intern(m_links, m_linkIndex, target); }
+    int link(const Hyperlink& link);
     QString familyAt(int index) const { return m_families.value(index); }
-    QString linkAt(int index) const { return m_links.value(index); }
+    Hyperlink linkAt(int index) const { return m_links.value(index); }
     /// NothingKept for an empty text.
     int kept(const QString& text) {
         return text.isEmpty() ? NothingKept : 1 + intern(m_kept, m_keptIndex, text);
@@ -227,10 +231,10 @@ private:
     static int intern(QStringList& list, QHash<QString, int>& index, const QString& name);
 
     QStringList m_families;
-    QStringList m_links;
+    QList<Hyperlink> m_links;
     QStringList m_kept;
     QHash<QString, int> m_familyIndex;
-    QHash<QString, int> m_linkIndex;
+    QHash<std::pair<QString, QString>, int> m_linkIndex;
     QHash<QString, int> m_keptIndex;
 };
 

@@ -33,9 +33,14 @@ QString takeWord(QStringView& text) {
     return word;
 }
 
+QString quoted(QString text) {
+    text.replace(u'\\', "\\\\"_L1).replace(u'"', "\\\""_L1);
+    return u'"' + text + u'"';
+}
+
 } // namespace
 
-QString hyperlinkTarget(QStringView instruction) {
+Hyperlink hyperlinkOf(QStringView instruction) {
     instruction = instruction.trimmed();
     if (!instruction.startsWith(Keyword, Qt::CaseInsensitive))
         return {};
@@ -46,26 +51,27 @@ QString hyperlinkTarget(QStringView instruction) {
         return {};
     QString target;
     QString place;
+    QString switches;
     while (!instruction.trimmed().isEmpty()) {
-        const bool quoted = instruction.trimmed().startsWith(u'"');
+        const bool isQuoted = instruction.trimmed().startsWith(u'"');
         const QString word = takeWord(instruction);
         // One backslash begins a switch, two the name of a server.
-        if (quoted || !word.startsWith(u'\\') || word.startsWith(u"\\\\")) {
+        if (isQuoted || !word.startsWith(u'\\') || word.startsWith(u"\\\\")) {
             if (target.isEmpty())
                 target = word;
         } else if (word == u"\\l") {
             place = takeWord(instruction);
         } else if (word == u"\\o" || word == u"\\t") {
-            takeWord(instruction);
+            switches += u' ' + word + u' ' + quoted(takeWord(instruction));
+        } else if (word == u"\\m" || word == u"\\n") {
+            switches += u' ' + word;
         }
     }
-    return place.isEmpty() ? target : target + u'#' + place;
+    return {place.isEmpty() ? target : target + u'#' + place, switches};
 }
 
-QString hyperlinkInstruction(const QString& target) {
-    QString escaped = target;
-    escaped.replace(u'\\', "\\\\"_L1).replace(u'"', "\\\""_L1);
-    return u"HYPERLINK \"%1\""_s.arg(escaped);
+QString hyperlinkInstruction(const Hyperlink& link) {
+    return u"HYPERLINK "_s + quoted(link.target) + link.switches;
 }
 
 } // namespace orvalis::rtf

@@ -6,11 +6,19 @@
 
 namespace orvalis::rtf {
 
-/// The target that a field's instruction names, as `HYPERLINK "http://example.org" \l "part"` does.
-/// Empty for instructions of other kinds.
-QString hyperlinkTarget(QStringView instruction);
+/// Where a text leads.
+struct Hyperlink {
+    QString target;
+    /// What its instruction says beside that, in the words of one: a tip, say, or the window in
+    /// which the target opens.
+    QString switches;
+};
 
-/// The instruction of a field that leads to the target, before it is escaped for RTF.
-QString hyperlinkInstruction(const QString& target);
+/// The link that a field's instruction tells, as `HYPERLINK "http://example.org" \l "part"` does.
+/// One without a target for instructions of other kinds.
+Hyperlink hyperlinkOf(QStringView instruction);
+
+/// The instruction of a field that is the link, before it is escaped for RTF.
+QString hyperlinkInstruction(const Hyperlink& link);
 
 } // namespace orvalis::rtf

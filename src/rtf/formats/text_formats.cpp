@@ -147,7 +147,10 @@ QTextCharFormat textFormat(const CharFormat& format, const Names& names) {
     }
     if (format.link != NoName) {
         text.setAnchor(true);
-        text.setAnchorHref(names.linkAt(format.link));
+        const Hyperlink link = names.linkAt(format.link);
+        text.setAnchorHref(link.target);
+        if (!link.switches.isEmpty())
+            text.setProperty(LinkSwitches, link.switches);
     }
     return text;
 }
@@ -197,7 +200,7 @@ CharFormat charFormat(const QTextCharFormat& format, Names& names, const QFont& 
         break;
     }
     if (const QString target = format.anchorHref(); !target.isEmpty())
-        result.link = names.link(target);
+        result.link = names.link({target, format.stringProperty(LinkSwitches)});
     return result;
 }
 

@@ -5,7 +5,9 @@
 #include "rtf/formats/font_face.h"
 #include "rtf/formats/formats.h"
 
+#include <QMap>
 #include <QMetaType>
+#include <QRgb>
 #include <QString>
 #include <QStringList>
 
@@ -17,6 +19,9 @@ namespace orvalis::rtf {
 
 /// The language of text in a file that tells of none.
 inline constexpr int UsualLanguage = 1033;
+
+/// Where colours come from, as it is kept (see kept_text.h): nothing for most.
+using ColorThemes = QMap<QRgb, QString>;
 
 /// What is kept of a whole document, as the file had it (see kept_text.h).
 struct KeptParts {
@@ -35,6 +40,7 @@ struct KeptParts {
     /// Families that are fonts of signs, or are not, where their names tell otherwise.
     QStringList oddFamilies;
     FontFaces faces;
+    ColorThemes themes;
 
     bool operator==(const KeptParts&) const = default;
 };

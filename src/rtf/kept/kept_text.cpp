@@ -115,6 +115,15 @@ bool isOfField(QStringView group) {
     return group.startsWith(u"{\\*\\fldinst") || group.startsWith(u"\\fld");
 }
 
+FieldGroups fieldGroups(QStringView kept) {
+    const QString head = kept.sliced(kept.indexOf(NumberEnd) + 1).toString();
+    if (head.startsWith(u"{\\xe") || head.startsWith(u"{\\tc"))
+        return {head, "}"};
+    if (head.startsWith(u"{\\object"))
+        return {head, "}}"};
+    return {u"{\\field"_s + head + u"{\\fldrslt"_s, "}}"};
+}
+
 std::optional<KeptShown> shownBy(QStringView kept) {
     const qsizetype start = kept.indexOf(NumberEnd) + 1;
     const qsizetype end = kept.indexOf(NumberEnd, start);

@@ -50,6 +50,15 @@ QString keptOf(const KeptShown& shown);
 /// Whether what is kept is the instruction of a field, behind what is said of the field itself.
 bool isOfField(QStringView group);
 
+/// What opens and closes a field around its text, or an entry of an index or an object of another
+/// program, which go with their text as fields do.
+struct FieldGroups {
+    QString opening; ///< as it is kept
+    QByteArrayView closing;
+};
+/// \param kept of it, with its number.
+FieldGroups fieldGroups(QStringView kept);
+
 /// What is kept without the numbers that have a place in it.
 QByteArray keptWithoutPlaces(QStringView kept);
 

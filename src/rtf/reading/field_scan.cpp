@@ -6,6 +6,7 @@
 #include "rtf/reading/equation_text.h"
 #include "rtf/reading/shape_scan.h"
 #include "rtf/reading/symbol_field.h"
+#include "rtf/reading/unseen_text.h"
 
 #include "rtf/characters/code_page.h"
 #include "rtf/words/group_head.h"
@@ -24,6 +25,9 @@ constexpr qsizetype LongestFieldName = 32;
 
 /// What is said of a field, in the order in which it is kept.
 constexpr std::array<QByteArrayView, 4> FieldWords = {"flddirty", "fldedit", "fldlock", "fldpriv"};
+
+/// The same of an entry.
+constexpr std::array<QByteArrayView, 5> EntryWords = {"xef", "bxe", "ixe", "tcf", "tcl"};
 
 /// Whether a paragraph, a cell or a section may end in it.
 bool endsAnything(QByteArrayView content) {
@@ -82,6 +86,8 @@ private:
             m_innerDepth = NoDepth;
         if (depth() == m_shapeDepth)
             m_shapeDepth = NoDepth;
+        if (depth() == m_deletedDepth)
+            m_deletedDepth = NoDepth;
         if (depth() > 0)
             m_shown.pop_back();
     }
@@ -100,6 +106,10 @@ private:
             return;
         m_scan.hasStructure |= endsOrShapes(action);
         switch (action) {
+        case Action::Deleted:
+            if (!token.hasParameter || token.parameter != 0)
+                deleted();
+            return;
         case Action::Field:
             if (depth() > 0 && m_innerDepth == NoDepth && m_head.isHead())
                 m_innerDepth = depth();
@@ -124,6 +134,15 @@ private:
         if (found != FieldWords.end())
             m_says[size_t(found - FieldWords.begin())] =
                 !token.hasParameter || token.parameter != 0;
+    }
+
+    /// What a tracked change has taken out ends nothing. The look ahead reads all of its group.
+    void deleted() {
+        if (m_deletedDepth != NoDepth)
+            return;
+        m_deletedDepth = depth();
+        if (holdsUnseenAlone(m_tokenizer.groupAhead(), UnseenAs::Deleted, true))
+            passGroup();
     }
 
     /// What is kept of it as it came ends nothing of the field.
@@ -171,8 +190,9 @@ private:
     GroupHead m_head{true};
     std::vector<bool> m_shown{true}; ///< of the groups that are open
     int m_resultDepth = NoDepth;
-    int m_innerDepth = NoDepth; ///< of the field in it that one stands in
-    int m_shapeDepth = NoDepth; ///< the same of a shape
+    int m_innerDepth = NoDepth;   ///< of the field in it that one stands in
+    int m_shapeDepth = NoDepth;   ///< the same of a shape
+    int m_deletedDepth = NoDepth; ///< the same of text that a tracked change has taken out
     bool m_hasInstruction = false;
     std::array<bool, FieldWords.size()> m_says{};
 };
@@ -207,6 +227,58 @@ private:
 
 FieldScan scanField(QByteArrayView content) {
     return Scan(content).run();
+}
+
+EntryScan scanEntry(QByteArrayView content) {
+    EntryScan scan;
+    scan.hasStructure = scanField(content).hasStructure;
+    std::array<QByteArray, EntryWords.size()> told;
+    Tokenizer tokenizer(content);
+    Token token;
+    for (tokenizer.next(token);
+         token.kind == TokenKind::Word || token.kind == TokenKind::GroupStart;
+         tokenizer.next(token)) {
+        const auto found = std::find(EntryWords.begin(), EntryWords.end(), token.bytes);
+        if (token.kind == TokenKind::GroupStart)
+            tokenizer.skipGroup();
+        else if (found != EntryWords.end())
+            told[size_t(found - EntryWords.begin())] =
+                '\\' + token.bytes.toByteArray() +
+                (token.hasParameter ? QByteArray::number(token.parameter) : QByteArray());
+    }
+    for (const QByteArray& word : told)
+        scan.words += word;
+    return scan;
+}
+
+ObjectScan scanObject(QByteArrayView content) {
+    ObjectScan scan;
+    bool hasResult = false;
+    Tokenizer tokenizer(content);
+    GroupHead head(true);
+    qsizetype start = 0; ///< of the group
+    Token token;
+    for (tokenizer.next(token); token.kind != TokenKind::End; tokenizer.next(token)) {
+        head.take(token);
+        const qsizetype end = tokenizer.position();
+        if (token.kind == TokenKind::GroupStart)
+            start = end - 1;
+        const bool tells = token.kind == TokenKind::Word && (token.word || head.isStarred());
+        if (!tells && !isCharacters(token))
+            continue;
+        const bool isResult = tells && token.bytes == "result" && !hasResult;
+        const bool isOfObject = tells && token.word && token.word->action == Action::SkipGroup;
+        if (!head.isHead() || !(isResult || isOfObject))
+            return {};
+        if (isResult)
+            scan.hasStructure = scanField(tokenizer.groupAhead()).hasStructure;
+        tokenizer.skipGroup();
+        head.leave();
+        if (isResult)
+            scan.frame = content.first(start).toByteArray();
+        hasResult |= isResult;
+    }
+    return scan;
 }
 
 QString instructionText(QByteArrayView instruction) {

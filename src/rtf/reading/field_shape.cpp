@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "rtf/reading/field_shape.h"
 
-#include "rtf/reading/plain_run.h"
+#include "rtf/reading/unseen_text.h"
 #include "rtf/words/group_head.h"
 #include "rtf/words/tokenizer.h"
 

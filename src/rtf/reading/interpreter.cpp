@@ -192,7 +192,7 @@ void Interpreter::word(const Token& token) {
         m_fallbackToSkip = 0;
         // Only the group of an unknown destination may be ignored; the outermost one is the file.
         if (m_head.isStarred() && (m_groups.size() > 1 || m_unstoredGroups > 0))
-            skipGroup();
+            keepStrange(token);
         return;
     }
     switch (token.word->action) {

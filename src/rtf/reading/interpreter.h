@@ -13,6 +13,7 @@
 #include "rtf/reading/shape_state.h"
 #include "rtf/reading/sink.h"
 #include "rtf/reading/text_state.h"
+#include "rtf/reading/unseen_text.h"
 #include "rtf/words/group_head.h"
 #include "rtf/words/tokenizer.h"
 
@@ -126,6 +127,7 @@ private:
     bool tableWord(const Token& token);
     void setDocumentPage(int number);
     void colorBytes(QByteArrayView run);
+    void endColor();
     void fontBytes(QByteArrayView run);
 
     // Lists (interpreter_lists.cpp)
@@ -138,6 +140,9 @@ private:
 
     // Fields (interpreter_fields.cpp)
     void keepField();
+    void keepEntry(QByteArrayView word);
+    void keepObjectOfText(QByteArrayView word);
+    void beginField(const QString& opening);
     bool goesWithShape(QByteArrayView field, bool isLink) const;
     QString inField(const QString& shape) const;
     void fieldEnds();
@@ -166,8 +171,10 @@ private:
     void setEastern(const ControlWord* word);
     void keepCharacters(int set);
     void keepParagraph(int set);
-    void keepGroup(const Token& token);
+    void keepGroup(const Token& token, KeptPlace place);
+    void keepStrange(const Token& token);
     bool keepDeleted();
+    bool keepUnseen(QByteArrayView word, UnseenAs as, bool isUnseen);
     FileTables fileTables(const FontTable::Font* usual) const;
     void placeGroup(KeptPlace place, const QString& group);
     void anchor(const QString& kept);
@@ -230,12 +237,15 @@ private:
     size_t m_fontEntryDepth = 0; ///< of the groups, where the entry of the font table began
     std::array<int, 5> m_furtherDefaults; ///< numbers of fonts by what they are of, or NoName
     bool m_headEnded = false;             ///< text has come
+    bool m_bodyBegun = false;             ///< or at least words that shape a paragraph or a row
     /// What counts of what is stated. Whatever it will be, all is held until the text begins.
     int m_countedOfCharacters = stated::All;
     int m_countedOfParagraphs = ~0;
     bool m_nameless = true;
     QList<QRgb> m_colors;
     QRgb m_color = AutomaticColor;
+    QString m_colorTheme; ///< of that colour
+    ColorThemes m_themes;
     ListTables m_lists;
 
     KeptSets m_kept;
@@ -314,8 +324,8 @@ private:
     SymbolFont m_numberingSymbols = SymbolFont::None; ///< that the font of its bullet is
     bool m_numberingShows = false;                    ///< a number, and not the room for one alone
     Picture m_picture;
-    std::array<int, 4> m_pictureCrop{}; ///< twips at its sides, in the order of "lrtb"
-    QString m_pictureProperties;        ///< as they are kept
+    std::array<int, 6> m_pictureNumbers{}; ///< that are kept, 0 where none was told
+    QString m_pictureGroups;               ///< the same
     int m_halfByte = -1;
     bool m_shapePictureShown = false;
     bool m_sinkIsFull = false;

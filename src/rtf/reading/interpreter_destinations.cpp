@@ -16,6 +16,13 @@ constexpr qsizetype MostColors = 65536;
 
 constexpr QRgb OpaqueBlack = 0xff000000;
 
+constexpr qsizetype LongestTheme = 100; // characters
+
+QString spelled(const Token& word) {
+    const QString number = word.hasParameter ? QString::number(word.parameter) : QString();
+    return u'\\' + QString::fromLatin1(word.bytes) + number;
+}
+
 } // namespace
 
 bool Interpreter::destinationWord(const Token& token) {
@@ -49,7 +56,7 @@ bool Interpreter::destinationWord(const Token& token) {
         skipGroup();
         return true;
     case Action::KeepGroup:
-        keepGroup(token);
+        keepGroup(token, static_cast<KeptPlace>(token.word->value));
         return true;
     case Action::FontTable:
         openTable(Destination::FontTable);
@@ -61,6 +68,8 @@ bool Interpreter::destinationWord(const Token& token) {
         if (inBody) {
             m_colors.clear();
             m_color = AutomaticColor;
+            m_colorTheme.clear();
+            m_themes.clear();
         }
         openTable(Destination::ColorTable);
         return true;
@@ -76,8 +85,8 @@ bool Interpreter::destinationWord(const Token& token) {
             return true;
         }
         m_picture = {};
-        m_pictureCrop = {};
-        m_pictureProperties.clear();
+        m_pictureNumbers = {};
+        m_pictureGroups.clear();
         m_box.picturePlace = placeHere();
         m_halfByte = -1;
         openDestination(Destination::Picture);
@@ -104,7 +113,7 @@ bool Interpreter::destinationWord(const Token& token) {
             keepField();
         return true;
     case Action::IndexEntry:
-        m_state.indexEntry = true;
+        keepEntry(token.bytes);
         return true;
     case Action::NestedTable:
         keepNestedRow();
@@ -284,6 +293,9 @@ bool Interpreter::tableWord(const Token& token) {
     case Action::FontKind:
         m_fonts.setKind(token.word->value);
         return true;
+    case Action::FontDirections:
+        m_fonts.setAnyDirection();
+        return true;
     case Action::FontPitch:
         m_fonts.setPitch(number);
         return true;
@@ -301,6 +313,10 @@ bool Interpreter::tableWord(const Token& token) {
         return true;
     case Action::Blue:
         m_color = OpaqueBlack | (m_color & 0xffff00u) | QRgb(std::clamp(number, 0, 255));
+        return true;
+    case Action::ColorTheme:
+        if (m_state.destination == Destination::ColorTable && m_colorTheme.size() < LongestTheme)
+            m_colorTheme += spelled(token);
         return true;
     default:
         return false;
@@ -320,7 +336,16 @@ void Interpreter::colorBytes(QByteArrayView run) {
     // An entry that names no part of a colour is the automatic one.
     const qsizetype ends = std::count(run.begin(), run.end(), ';');
     for (qsizetype i = 0; i < ends && m_colors.size() < MostColors; ++i)
-        m_colors.append(std::exchange(m_color, AutomaticColor));
+        endColor();
+}
+
+/// A colour that the table has more than once is the first of them where it is written.
+void Interpreter::endColor() {
+    const QString theme = std::exchange(m_colorTheme, {});
+    const QRgb color = std::exchange(m_color, AutomaticColor);
+    m_colors.append(color);
+    if (color != AutomaticColor && !m_themes.contains(color))
+        m_themes.insert(color, theme);
 }
 
 void Interpreter::fontBytes(QByteArrayView run) {

@@ -13,11 +13,16 @@ using namespace Qt::StringLiterals;
 
 namespace orvalis::rtf {
 
+namespace {
+
+constexpr int MostFields = 4096; // each makes a format of its own
+
+} // namespace
+
 /// The instruction of a field goes with the text that shows it, within a paragraph; where nothing
 /// does, the field is kept at its place.
 void Interpreter::keepField() {
     constexpr int MostFieldsAround = 4; // each look ahead reads all that is in a field
-    constexpr int MostFields = 4096;    // each makes a format of its own
     if (++m_state.fieldsAround > MostFieldsAround || m_fields >= MostFields || !shows())
         return;
     const FieldScan scan = scanField(m_tokenizer.groupAhead());
@@ -35,7 +40,7 @@ void Interpreter::keepField() {
     if (name.isEmpty())
         return;
     kept.prepend(QLatin1StringView(scan.words));
-    const bool isLink = !hyperlinkTarget(instruction).isEmpty();
+    const bool isLink = !hyperlinkOf(instruction).target.isEmpty();
     if (goesWithShape(m_tokenizer.groupAhead(), isLink)) {
         m_state.fieldHead = m_names.kept(u"{\\field"_s + kept + u"{\\fldrslt"_s);
         m_fieldDepth = 0;
@@ -57,6 +62,41 @@ void Interpreter::keepField() {
         m_state.ownField = m_names.kept(number + keptOf({kept, {}, shown}));
         m_fieldLooks.push_back({m_state.fieldsAround, {}});
     }
+}
+
+/// An entry of an index or a table of contents is text of the document, and goes on to be an entry;
+/// a hidden one is kept at its place.
+/// \param word of its group, behind which one stands.
+void Interpreter::keepEntry(QByteArrayView word) {
+    const bool isInEntry = std::exchange(m_state.indexEntry, true);
+    const CharFormat& chars = m_state.chars;
+    const bool isText = m_state.destination == Destination::Body && !m_state.deleted;
+    if (isInEntry || !isText || keepUnseen(word, UnseenAs::Hidden, chars.hidden))
+        return;
+    const EntryScan entry = scanEntry(m_tokenizer.groupAhead());
+    if (!entry.hasStructure)
+        beginField(QString::fromLatin1("{\\" + word.toByteArray() + entry.words));
+}
+
+/// What an object of another program shows goes with it, as the text of a field does.
+/// \param word of its group, behind which one stands.
+void Interpreter::keepObjectOfText(QByteArrayView word) {
+    const ObjectScan object = scanObject(m_tokenizer.groupAhead());
+    if (object.frame.isEmpty() || object.hasStructure)
+        return;
+    const FileTables tables = fileTables(m_fonts.usual());
+    const QString kept = GroupKeeper(object.frame, tables).kept("{\\", word, m_keptLeft);
+    m_keptLeft -= kept.size();
+    if (!kept.isEmpty())
+        beginField(kept.chopped(1) + u"{\\result"_s);
+}
+
+/// The text of the group is that of a field, unless it is that of another one by now.
+/// \param opening as it is kept.
+void Interpreter::beginField(const QString& opening) {
+    CharFormat& chars = m_state.chars;
+    if (chars.field == NothingKept && chars.link == NoName && m_fields < MostFields)
+        chars.field = m_names.kept(QString::number(++m_fields) + NumberEnd + opening);
 }
 
 /// Whether a field that shows one shape and nothing else is kept as its outer part. A picture is a
@@ -99,9 +139,9 @@ void Interpreter::fieldEnds() {
 
 /// The target of a link, and the text of a field that is not kept and brings no result.
 void Interpreter::takeInstruction(const QString& instruction) {
-    const QString target = hyperlinkTarget(instruction);
-    if (!target.isEmpty()) {
-        m_state.chars.link = m_names.link(target);
+    const Hyperlink link = hyperlinkOf(instruction);
+    if (!link.target.isEmpty()) {
+        m_state.chars.link = m_names.link(link);
         m_state.chars.field = NothingKept;
     }
     m_fieldText = fieldText(instruction);

@@ -4,7 +4,6 @@
 #include "rtf/kept/kept_text.h"
 #include "rtf/kept/number_place.h"
 #include "rtf/reading/interpreter.h"
-#include "rtf/reading/plain_run.h"
 #include "rtf/writing/look_words.h"
 
 using namespace Qt::StringLiterals;
@@ -193,8 +192,18 @@ FileTables Interpreter::fileTables(const FontTable::Font* usual) const {
             m_state.unicodeSkip};
 }
 
-void Interpreter::keepGroup(const Token& token) {
-    const auto place = static_cast<KeptPlace>(token.word->value);
+/// A group that nobody here knows goes with the place where it stands, or with the document as long
+/// as that has no paragraph.
+void Interpreter::keepStrange(const Token& token) {
+    const bool isInBody = m_bodyBegun || m_inParagraph || m_headEnded || !m_text.isEmpty();
+    const bool isInCopy = isInFrame() || (m_lineBox.depth > 0 && !m_lineBox.isOpen);
+    if (m_unstoredGroups > 0 || isInCopy)
+        skipGroup();
+    else
+        keepGroup(token, isInBody ? KeptPlace::StarredAnchor : KeptPlace::StarredInfo);
+}
+
+void Interpreter::keepGroup(const Token& token, KeptPlace place) {
     const Destination destination = destinationOf(place);
     if (m_state.destination != destination || m_state.deleted) {
         skipGroup();
@@ -222,17 +231,27 @@ void Interpreter::keepGroup(const Token& token) {
 /// \returns whether the rest of the group is that, and has been kept.
 bool Interpreter::keepDeleted() {
     // The look ahead reads all of the group, so those inside are not looked into again.
-    if (std::exchange(m_state.inDeleted, true) || !shows() || m_groups.empty())
-        return false;
+    return !std::exchange(m_state.inDeleted, true) && shows() && !m_groups.empty() &&
+           keepUnseen("deleted", UnseenAs::Deleted, true);
+}
+
+/// \param word of the group, behind which one stands.
+/// \returns whether the rest of the group does not show, and has been kept.
+bool Interpreter::keepUnseen(QByteArrayView word, UnseenAs as, bool isUnseen) {
     const QByteArrayView content = m_tokenizer.groupAhead();
-    if (!isPlainRun(content))
+    if (!holdsUnseenAlone(content, as, isUnseen))
         return false;
     headEnds(); // for it tells how text looks
     const FileTables tables = fileTables(m_fonts.usual());
     GroupKeeper keeper(content, tables);
     keeper.beginIn(*m_state.page, m_state.symbols);
-    const QString group = keeper.kept("{\\", "deleted", m_keptLeft);
+    const QString group = keeper.kept("{\\", word, m_keptLeft);
     if (group.isEmpty())
+        return false;
+    // The copy leaves out some words.
+    const qsizetype head = QByteArrayView("{\\").size() + word.size();
+    const QByteArray copy = keptWithoutPlaces(group);
+    if (!holdsUnseenAlone(QByteArrayView(copy).sliced(head).chopped(1), as, isUnseen))
         return false;
     m_keptLeft -= group.size();
     m_tokenizer.skipToGroupEnd();
@@ -241,9 +260,7 @@ bool Interpreter::keepDeleted() {
 }
 
 void Interpreter::placeGroup(KeptPlace place, const QString& group) {
-    const bool staysInLine = destinationOf(place) != Destination::Body ||
-                             place == KeptPlace::Anchor || place == KeptPlace::StarredAnchor ||
-                             place == KeptPlace::StarredNote;
+    const bool staysInLine = destinationOf(place) != Destination::Body || isAnchor(place);
     if (!staysInLine)
         dissolveLineBox();
     switch (place) {
@@ -274,7 +291,7 @@ void Interpreter::placeGroup(KeptPlace place, const QString& group) {
         m_sectionGroups += group;
         return;
     case KeptPlace::Picture:
-        m_pictureProperties = group;
+        m_pictureGroups += group;
         return;
     case KeptPlace::FontPanose:
         m_fonts.setPanose(group);
@@ -391,6 +408,8 @@ void Interpreter::tellKept() {
     m_parts.nameless = m_nameless;
     m_parts.defaultFont = m_fonts.saidOfUsual();
     m_parts.faces = m_fonts.faces(m_names);
+    m_parts.themes = m_themes;
+    m_parts.themes.removeIf([](const auto& color) { return color->isEmpty(); });
     m_parts.oddFamilies = m_fonts.oddFamilies(m_names);
     if (m_parts.defaultFont == DefaultFont::Named)
         m_parts.unnamedFamily = m_names.familyAt(m_fonts.usual()->family);

@@ -14,8 +14,10 @@ void Interpreter::paragraphEnd() {
         return;
     }
     textComes();
-    if (endsBehindBox())
+    if (endsBehindBox()) {
+        m_rowEnds = false;
         return;
+    }
     cellTabs(m_cellsEnded.size());
     flushText();
     const ParagraphFormat& paragraph = shapedParagraph();

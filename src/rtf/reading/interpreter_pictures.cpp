@@ -32,8 +32,8 @@ bool Interpreter::pictureWord(const Token& token) {
     case Action::PictureScaleY:
         m_picture.scaleY = number;
         return true;
-    case Action::PictureCrop:
-        m_pictureCrop[size_t(token.word->value)] = number;
+    case Action::PictureNumber:
+        m_pictureNumbers[size_t(token.word->value)] = number;
         return true;
     case Action::BitmapBits:
         m_picture.bitmap.bitsPerPixel = number;
@@ -99,12 +99,12 @@ void Interpreter::deliverPicture() {
 }
 
 QString Interpreter::wordsOfPicture() const {
-    static constexpr char Sides[] = "lrtb";
-    QString words = m_pictureProperties;
-    for (size_t side = 0; side < m_pictureCrop.size(); ++side)
-        if (m_pictureCrop[side] != 0)
-            words +=
-                u"\\piccrop"_s + QLatin1Char(Sides[side]) + QString::number(m_pictureCrop[side]);
+    static constexpr const char* Words[] = {"piccropl", "piccropr", "piccropt",
+                                            "piccropb", "bliptag",  "blipupi"};
+    QString words = m_pictureGroups;
+    for (size_t i = 0; i < m_pictureNumbers.size(); ++i)
+        if (m_pictureNumbers[i] != 0)
+            words += u'\\' + QLatin1StringView(Words[i]) + QString::number(m_pictureNumbers[i]);
     return words;
 }
 

@@ -141,6 +141,7 @@ bool Interpreter::paragraphWord(const Token& token) {
     const bool inBody = shows();
     switch (token.word->action) {
     case Action::PlainParagraph:
+        m_bodyBegun |= shows();
         paragraph = {};
         m_state.keptOfParagraph = 0;
         m_state.inTable = false;

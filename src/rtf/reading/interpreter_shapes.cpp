@@ -33,7 +33,12 @@ void Interpreter::keepShape(const Token& token) {
         return;
     }
     const bool isBox = scan.shows == ShapeScan::Shows::Boxes;
-    if ((isFormula || isObject) && (inShape || isBox))
+    if (isObject && (isBox || scan.shows == ShapeScan::Shows::More)) {
+        keepObjectOfText(token.bytes);
+        return;
+    }
+    const bool ofFrame = inShape && m_box.depth == 0;
+    if ((isFormula && (inShape || isBox)) || (isObject && ofFrame))
         return;
     if (isBox)
         m_state.chars.field = NothingKept; // for that ends with its paragraph

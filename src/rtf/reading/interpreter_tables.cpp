@@ -38,6 +38,7 @@ bool Interpreter::rowWord(const Token& token) {
     case Action::RowDefaults:
         if (!shows() || m_state.nested)
             return true;
+        m_bodyBegun = true;
         m_rows.any = true;
         // What is shaped behind an empty paragraph is a row by itself.
         if (m_rows.isOpened && !m_inParagraph && m_cellsEnded.empty())

@@ -107,12 +107,14 @@ enum class Action : quint8 {
     ShapeText,
     // Inside the font and colour tables
     FontKind, ///< value: by its place among the kinds of faces
+    FontDirections,
     FontPitch,
     FontCharset,
     FontCodePage,
     Red,
     Green,
     Blue,
+    ColorTheme, ///< where the colour comes from
     // Inside the list tables
     List,
     ListOverrideEntry,
@@ -139,7 +141,7 @@ enum class Action : quint8 {
     PictureGoalHeight,
     PictureScaleX,
     PictureScaleY,
-    PictureCrop, ///< value: the side, by its place in "lrtb"
+    PictureNumber, ///< kept, and nothing more; value: its place among those
     BitmapBits,
     BitmapPlanes,
     BitmapRow,

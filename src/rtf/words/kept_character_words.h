@@ -49,6 +49,10 @@ constexpr auto keptCharacterWords() {
         {"revised", Characters, Switch},
         {"revauth", Characters, Author},
         {"revdttm", Characters, Number},
+        {"mvf", Characters, Switch},
+        {"mvt", Characters, Switch},
+        {"mvauth", Characters, Author},
+        {"mvdate", Characters, Number},
         {"crauth", Characters, Author},
         {"crdate", Characters, Number},
     });

@@ -12,6 +12,7 @@ constexpr auto keptParagraphWords() {
     using enum KeptKind;
     return std::to_array<KeptEntry>({
         {"s", Paragraph, Style},
+        {"yts", Paragraph, Style},
         {"keep", Paragraph, Switch},
         {"keepn", Paragraph, Switch},
         {"widctlpar", Paragraph, Switch, Widows},
@@ -81,6 +82,10 @@ constexpr auto keptParagraphWords() {
         {"dfrmtxty", Paragraph, Number},
         {"nowrap", Paragraph, Switch},
         {"wraparound", Paragraph, Switch},
+        {"wrapdefault", Paragraph, Switch},
+        {"pardirnatural", Paragraph, Switch},
+        {"pardeftab", Paragraph, Number},
+        {"partightenfactor", Paragraph, Number},
         {"overlay", Paragraph, Switch},
         {"abslock", Paragraph, Number},
         {"box", Paragraph, Side},

@@ -57,6 +57,12 @@ enum class KeptPlace : quint8 {
 };
 
 /// A word as the value of its entry in the table, and back.
+/// Whether what stands there is anchored to a character.
+constexpr bool isAnchor(KeptPlace place) {
+    return place == KeptPlace::Anchor || place == KeptPlace::StarredAnchor ||
+           place == KeptPlace::StarredNote;
+}
+
 constexpr int packed(const KeptWord& word) {
     return static_cast<int>(word.level) | static_cast<int>(word.kind) << 8 | word.rivals << 16;
 }

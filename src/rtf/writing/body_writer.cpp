@@ -306,7 +306,7 @@ QByteArray BodyWriter::file(int defaultTab, const KeptParts& parts) {
     writeKept(furtherDefaults, m_tables, parts.furtherDefaults);
     // What the tables keep of lists names fonts, too.
     RtfOutput tables;
-    m_tables.write(tables, styles, parts.faces);
+    m_tables.write(tables, styles, parts);
     RtfOutput out;
     out.reserve(m_out.bytes().size() + tables.bytes().size() + 1024);
     out.structure("{\\rtf1\\ansi\\ansicpg1252");

@@ -13,7 +13,7 @@ void BodyWriter::closeGroup() {
     if (const ShapeFrame frame = lineFrame(m_format.field); frame.has(0))
         writeKept(m_out, m_tables, frame.places.front().behind);
     else
-        m_out.structure("}}");
+        m_out.structure(fieldGroups(m_tables.names().keptAt(m_format.field)).closing);
     const Look& before = m_lookBefore[m_openGroups - 1];
     --m_openGroups;
     m_format = before.format;
@@ -69,10 +69,7 @@ void BodyWriter::changeField(int field) {
         m_format.field = field;
         return;
     }
-    const QString instruction = names().keptAt(field);
-    m_out.structure("{\\field");
-    writeKept(m_out, m_tables, QStringView(instruction).sliced(instruction.indexOf(NumberEnd) + 1));
-    m_out.word("{\\fldrslt");
+    writeKept(m_out, m_tables, fieldGroups(names().keptAt(field)).opening);
     m_format.field = field;
 }
 

@@ -120,11 +120,11 @@ int WriterTables::list(const ParagraphFormat& item) {
     return number;
 }
 
-void WriterTables::write(RtfOutput& out, QByteArrayView styles, const FontFaces& faces) {
+void WriterTables::write(RtfOutput& out, QByteArrayView styles, const KeptParts& parts) {
     // What is kept of lists may name fonts and colours that nothing else has.
     const QByteArray lists = listTables();
-    writeFonts(out, faces);
-    writeColors(out);
+    writeFonts(out, parts.faces);
+    writeColors(out, parts.themes);
     if (!styles.isEmpty())
         out.structure(styles);
     out.structure(lists);
@@ -137,6 +137,8 @@ void WriterTables::writeFonts(RtfOutput& out, const FontFaces& faces) const {
         const FontFace face = faces.value(name);
         out.word("{\\f", m_firstFont + int(number));
         const bool signs = isSymbolFamily(name) != m_odd.contains(m_fonts[number]);
+        if (face.anyDirection)
+            out.word("\\fbidi");
         out.word(QByteArray("\\") + FontFace::Kinds[face.kind]);
         out.word("\\fcharset", signs ? 2 : 0);
         if (face.pitch != 0)
@@ -156,11 +158,12 @@ void WriterTables::writeFonts(RtfOutput& out, const FontFaces& faces) const {
     out.structure("}\r\n");
 }
 
-void WriterTables::writeColors(RtfOutput& out) const {
+void WriterTables::writeColors(RtfOutput& out, const ColorThemes& themes) const {
     if (m_colors.isEmpty())
         return;
     out.structure("{\\colortbl ;");
     for (const QRgb color : m_colors) {
+        out.structure(themes.value(color).toLatin1());
         out.word("\\red", qRed(color));
         out.word("\\green", qGreen(color));
         out.word("\\blue", qBlue(color));

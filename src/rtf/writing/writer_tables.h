@@ -3,8 +3,8 @@
 #pragma once
 
 #include "rtf/characters/symbol_font.h"
-#include "rtf/formats/font_face.h"
 #include "rtf/formats/formats.h"
+#include "rtf/kept/kept_parts.h"
 
 #include <QSet>
 #include <QStringList>
@@ -47,12 +47,12 @@ public:
 
     /// Appends the tables with all that was used so far.
     /// \param styles the style sheet, which has its place among them.
-    /// \param faces what is told of them.
-    void write(RtfOutput& out, QByteArrayView styles, const FontFaces& faces);
+    /// \param parts what is kept of the document: of its faces and colours.
+    void write(RtfOutput& out, QByteArrayView styles, const KeptParts& parts);
 
 private:
     void writeFonts(RtfOutput& out, const FontFaces& faces) const;
-    void writeColors(RtfOutput& out) const;
+    void writeColors(RtfOutput& out, const ColorThemes& themes) const;
     QByteArray listTables();
     static void writeMade(RtfOutput& out, const ParagraphFormat& item, int number);
     void writeKeptHead(RtfOutput& out, QStringView kept);

@@ -26,9 +26,6 @@ constexpr qsizetype LongestFieldName = 32;
 /// What is said of a field, in the order in which it is kept.
 constexpr std::array<QByteArrayView, 4> FieldWords = {"flddirty", "fldedit", "fldlock", "fldpriv"};
 
-/// The same of an entry.
-constexpr std::array<QByteArrayView, 5> EntryWords = {"xef", "bxe", "ixe", "tcf", "tcl"};
-
 /// Whether a paragraph, a cell or a section may end in it.
 bool endsAnything(QByteArrayView content) {
     Tokenizer tokenizer(content);
@@ -227,58 +224,6 @@ private:
 
 FieldScan scanField(QByteArrayView content) {
     return Scan(content).run();
-}
-
-EntryScan scanEntry(QByteArrayView content) {
-    EntryScan scan;
-    scan.hasStructure = scanField(content).hasStructure;
-    std::array<QByteArray, EntryWords.size()> told;
-    Tokenizer tokenizer(content);
-    Token token;
-    for (tokenizer.next(token);
-         token.kind == TokenKind::Word || token.kind == TokenKind::GroupStart;
-         tokenizer.next(token)) {
-        const auto found = std::find(EntryWords.begin(), EntryWords.end(), token.bytes);
-        if (token.kind == TokenKind::GroupStart)
-            tokenizer.skipGroup();
-        else if (found != EntryWords.end())
-            told[size_t(found - EntryWords.begin())] =
-                '\\' + token.bytes.toByteArray() +
-                (token.hasParameter ? QByteArray::number(token.parameter) : QByteArray());
-    }
-    for (const QByteArray& word : told)
-        scan.words += word;
-    return scan;
-}
-
-ObjectScan scanObject(QByteArrayView content) {
-    ObjectScan scan;
-    bool hasResult = false;
-    Tokenizer tokenizer(content);
-    GroupHead head(true);
-    qsizetype start = 0; ///< of the group
-    Token token;
-    for (tokenizer.next(token); token.kind != TokenKind::End; tokenizer.next(token)) {
-        head.take(token);
-        const qsizetype end = tokenizer.position();
-        if (token.kind == TokenKind::GroupStart)
-            start = end - 1;
-        const bool tells = token.kind == TokenKind::Word && (token.word || head.isStarred());
-        if (!tells && !isCharacters(token))
-            continue;
-        const bool isResult = tells && token.bytes == "result" && !hasResult;
-        const bool isOfObject = tells && token.word && token.word->action == Action::SkipGroup;
-        if (!head.isHead() || !(isResult || isOfObject))
-            return {};
-        if (isResult)
-            scan.hasStructure = scanField(tokenizer.groupAhead()).hasStructure;
-        tokenizer.skipGroup();
-        head.leave();
-        if (isResult)
-            scan.frame = content.first(start).toByteArray();
-        hasResult |= isResult;
-    }
-    return scan;
 }
 
 QString instructionText(QByteArrayView instruction) {

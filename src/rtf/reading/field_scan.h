@@ -19,24 +19,6 @@ struct FieldScan {
 /// \param content of the field's group, behind its first word.
 FieldScan scanField(QByteArrayView content);
 
-/// What a look ahead tells of an entry of an index or a table of contents.
-struct EntryScan {
-    QByteArray words;          ///< of the entry itself: its table, its level, how its number looks
-    bool hasStructure = false; ///< paragraphs, cells or sections end in it
-};
-
-/// \param content of the entry's group, behind its first word.
-EntryScan scanEntry(QByteArrayView content);
-
-/// What a look ahead tells of an object of another program.
-struct ObjectScan {
-    QByteArray frame;          ///< without what the object shows; empty where that is no part of it
-    bool hasStructure = false; ///< paragraphs, cells or sections end in what it shows
-};
-
-/// \param content of the object's group, behind its first word.
-ObjectScan scanObject(QByteArrayView content);
-
 /// The text of an instruction in the one spelling of what is kept (see kept_text.h).
 QString instructionText(QByteArrayView instruction);
 /// What an instruction holds to show, where its field brings no result.

@@ -3,10 +3,12 @@
 #include "rtf/formats/hyperlink.h"
 #include "rtf/kept/kept_group.h"
 #include "rtf/kept/kept_text.h"
+#include "rtf/reading/entry_scan.h"
 #include "rtf/reading/field_scan.h"
 #include "rtf/reading/field_shape.h"
 #include "rtf/reading/form_field.h"
 #include "rtf/reading/interpreter.h"
+#include "rtf/reading/object_scan.h"
 #include "rtf/reading/shape_scan.h"
 
 using namespace Qt::StringLiterals;

@@ -12,9 +12,10 @@ namespace orvalis::rtf {
 
 namespace {
 
-class Scan {
+/// Reads the tokens once, with an eye on what would show.
+class UnseenTokens {
 public:
-    Scan(QByteArrayView content, UnseenAs as, bool isUnseen)
+    UnseenTokens(QByteArrayView content, UnseenAs as, bool isUnseen)
         : m_tokenizer(content)
         , m_switch(as == UnseenAs::Deleted ? Action::Deleted : Action::Hidden)
         , m_isUnseen(isUnseen) {}
@@ -151,7 +152,7 @@ bool isLook(const ControlWord& word) {
 }
 
 bool holdsUnseenAlone(QByteArrayView content, UnseenAs as, bool isUnseen) {
-    return Scan(content, as, isUnseen).run();
+    return UnseenTokens(content, as, isUnseen).run();
 }
 
 } // namespace orvalis::rtf

@@ -98,7 +98,7 @@ bool Interpreter::destinationWord(const Token& token) {
         // The same picture once more, for readers that do not know the first form; a frame has
         // none.
         const bool isOther = std::exchange(m_shapePictureShown, false);
-        if (isOther && !m_lineBox.isOpen && m_sink.wantsFallback())
+        if (isOther && !isInFrame() && !m_lineBox.isOpen && m_sink.wantsFallback())
             m_state.fallback = true;
         else if (isOther || isInFrame())
             skipGroup();

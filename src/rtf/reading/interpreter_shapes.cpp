@@ -33,12 +33,12 @@ void Interpreter::keepShape(const Token& token) {
         return;
     }
     const bool isBox = scan.shows == ShapeScan::Shows::Boxes;
-    if (isObject && (isBox || scan.shows == ShapeScan::Shows::More)) {
+    if (isObject && scan.shows == ShapeScan::Shows::More && scan.places.empty()) {
         keepObjectOfText(token.bytes);
         return;
     }
-    const bool ofFrame = inShape && m_box.depth == 0;
-    if ((isFormula && (inShape || isBox)) || (isObject && ofFrame))
+    const bool inFrame = inShape && m_box.depth == 0;
+    if ((isFormula && (inShape || isBox)) || (isObject && (inFrame || isBox)))
         return;
     if (isBox)
         m_state.chars.field = NothingKept; // for that ends with its paragraph

@@ -14,23 +14,28 @@ ObjectScan scanObject(QByteArrayView content) {
     Tokenizer tokenizer(content);
     GroupHead head(true);
     qsizetype start = 0; ///< of the group
+    int depth = 0;
     Token token;
     for (tokenizer.next(token); token.kind != TokenKind::End; tokenizer.next(token)) {
         head.take(token);
-        const qsizetype end = tokenizer.position();
-        if (token.kind == TokenKind::GroupStart)
-            start = end - 1;
+        if (token.kind == TokenKind::GroupStart) {
+            start = tokenizer.position() - 1;
+            ++depth;
+        } else if (token.kind == TokenKind::GroupEnd) {
+            --depth;
+        }
         const bool tells = token.kind == TokenKind::Word && (token.word || head.isStarred());
         if (!tells && !isCharacters(token))
             continue;
         const bool isResult = tells && token.bytes == "result" && !hasResult;
         const bool isOfObject = tells && token.word && token.word->action == Action::SkipGroup;
-        if (!head.isHead() || !(isResult || isOfObject))
+        if (!head.isHead() || depth != 1 || !(isResult || isOfObject))
             return {};
         if (isResult)
             scan.hasStructure = scanField(tokenizer.groupAhead()).hasStructure;
         tokenizer.skipGroup();
         head.leave();
+        --depth;
         if (isResult)
             scan.frame = content.first(start).toByteArray();
         hasResult |= isResult;

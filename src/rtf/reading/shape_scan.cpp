@@ -6,6 +6,7 @@
 #include "rtf/kept/shape_frame.h"
 #include "rtf/reading/box_scan.h"
 #include "rtf/reading/picture_scan.h"
+#include "rtf/reading/unseen_text.h"
 #include "rtf/words/control_words.h"
 #include "rtf/words/group_head.h"
 #include "rtf/words/kept_words.h"
@@ -91,11 +92,15 @@ private:
         case TokenKind::GroupEnd:
             if (!m_groups.empty())
                 m_groups.pop_back();
+            if (m_groups.size() < m_deletedDepth)
+                m_deletedDepth = 0;
             return;
         case TokenKind::Word:
             m_loose |= token.word && shapesDocument(*token.word) && shownHere();
             m_loose |= token.word && (token.word->action == Action::Deleted ||
                                       token.word->action == Action::UnicodePair);
+            if (token.word && token.word->action == Action::Deleted && passDeleted(token))
+                return;
             if (!m_groups.empty())
                 word(token);
             else if (token.word)
@@ -110,6 +115,19 @@ private:
         default:
             return;
         }
+    }
+
+    /// What a tracked change has taken out shows nothing. The look ahead reads all of its group.
+    /// \returns whether the group is nothing else.
+    bool passDeleted(const Token& token) {
+        const bool isOn = !token.hasParameter || token.parameter != 0;
+        if (!isOn || m_groups.empty() || m_deletedDepth > 0)
+            return false;
+        m_deletedDepth = m_groups.size();
+        const bool isAlone = holdsUnseenAlone(m_tokenizer.groupAhead(), UnseenAs::Deleted, true);
+        if (isAlone)
+            passGroup();
+        return isAlone;
     }
 
     /// Whether a word makes something else of the shape's own group.
@@ -248,6 +266,7 @@ private:
     GroupHead m_head{true};
     Within m_within = Within::Document; ///< the shape's own group
     std::vector<Group> m_groups;        ///< that are open
+    size_t m_deletedDepth = 0; ///< of them, where one has text that was taken out; 0 for none
     std::vector<Shown> m_shown;
     std::vector<Piece> m_others; ///< forms for readers that know no shapes
     QByteArray m_property;       ///< the name of the one that came last

@@ -205,6 +205,10 @@ constexpr ControlWord Words[] = {
     {"oldpprops", Action::SkipGroup, 0},
     {"oldsprops", Action::SkipGroup, 0},
     {"oldtprops", Action::SkipGroup, 0},
+    {"abitableprops", Action::SkipGroup, 0}, // what the words of rows and cells tell, once more
+    {"abiendtable", Action::SkipGroup, 0},
+    {"abicellprops", Action::SkipGroup, 0},
+    {"abiendcell", Action::SkipGroup, 0},
     {"private", Action::SkipGroup, 0},
     {"private1", Action::SkipGroup, 0},
     {"object", Action::ShapeGroup, as(ShapeKind::Object)},

@@ -5,12 +5,15 @@
 #include "support/test_main.h"
 
 #include <QGuiApplication>
+#include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextList>
 
 using namespace orvalis;
 using namespace orvalis::rtf;
 using orvalis::test::file;
+using orvalis::test::pngBytes;
 using orvalis::test::saved;
 using orvalis::test::textOf;
 
@@ -24,8 +27,10 @@ const QByteArray Authors = "{\\*\\revtbl{Unknown;}{Ann;}}";
 class TrackedChangesTest : public QObject {
     Q_OBJECT
 private slots:
+    void textThatCameInKeepsWhoAndWhen_data();
     void textThatCameInKeepsWhoAndWhen();
-    void textThatWasMovedKeepsWhoAndWhen();
+    void theEndOfAParagraphThatIsNoItemAnyMoreIsPlain();
+    void placesBetweenWhichTextWasMovedStay();
     void whoChangedIsLeftOutWhereNobodyIsNamed();
     void textThatWasTakenOutDoesNotShow_data();
     void textThatWasTakenOutDoesNotShow();
@@ -37,27 +42,65 @@ private slots:
     void whatComesFromAnotherDocumentHasNoAuthors();
 };
 
-void TrackedChangesTest::textThatCameInKeepsWhoAndWhen() {
-    const QByteArray written =
-        saved(Authors + "a {\\revised\\revauth1\\revdttm-99 word} {\\crauth1\\crdate5 b}\\par");
-    QVERIFY2(written.contains(Authors), written.constData());
-    QVERIFY2(written.contains("\\revised\\revauth1\\revdttm-99 deed"), written.constData());
-    QVERIFY2(written.contains("\\crauth1\\crdate5 b"), written.constData());
+void TrackedChangesTest::textThatCameInKeepsWhoAndWhen_data() {
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<QByteArray>("kept");
+    const auto row = [](const char* name, const QByteArray& body, const QByteArray& kept) {
+        QTest::newRow(name) << body << kept;
+    };
+    row("text", "a {\\revised\\revauth1\\revdttm-99 word}b\\par",
+        "a {\\revised\\revauth1\\revdttm-99 deed}b\\par");
+    row("text of another look", "word{\\lang1031{\\crauth1\\crdate5 b}c}\\par",
+        "deed{\\lang1031\\crauth1\\crdate5 b}\\lang1031 c\\par");
+    row("text that was moved", "word{\\mvf\\mvauth1\\mvdate7 b}{\\mvt\\mvauth1 c}\\par",
+        "deed{\\mvf\\mvauth1\\mvdate7 b}{\\mvt\\mvauth1 c}\\par");
+    row("text that goes on behind a word", "word\\revised b\\revised0 c\\par",
+        "deed{\\revised b}c\\par");
+    row("text in a link",
+        "{\\field{\\*\\fldinst HYPERLINK \"x\"}{\\fldrslt word{\\revised b}}}\\par",
+        "{\\fldrslt\\f0\\fs24 deed{\\revised b}}}");
+    row("text with a bookmark", "word{\\revised b{\\*\\bkmkend x}}c\\par",
+        "deed{\\revised b{\\*\\bkmkend x}}c\\par");
+    row("a picture", "word{\\revised{\\pict\\pngblip " + pngBytes().toHex() + "}}c\\par",
+        "deed{\\revised{\\*\\shppict{\\pict\\pngblip");
+    row("a formula", "word{\\revised{\\mmath{\\mr b}}}c\\par",
+        "deed{\\revised{\\mmath{\\mr b}}}c\\par");
+    row("text of a cell", "\\trowd\\cellx99\\intbl word{\\revised b\\cell}\\row",
+        "deed{\\revised b}\\cell\\row");
+    row("text with the end of its paragraph", "word{\\revised b\\par}c\\par",
+        "deed{\\revised b}{\\plain\\revised\\f0\\fs24\\par}c\\par");
+    row("the end of a paragraph", "word{\\revised\\revauth1\\par}c\\par",
+        "deed{\\plain\\revised\\revauth1\\f0\\fs24\\par}c\\par");
+    row("an empty paragraph", "word\\par{\\revised\\par}c\\par",
+        "deed\\par{\\plain\\revised\\f0\\fs24\\par}c\\par");
+    row("an item of a list", "{\\pntext 1.\\tab}word{\\revised b}\\par", "deed{\\revised b}\\par");
 }
 
-void TrackedChangesTest::textThatWasMovedKeepsWhoAndWhen() {
-    const QByteArray written = saved(
-        Authors +
-        "\\pard{\\*\\mvfmf x}{\\mvf\\mvauth1\\mvdate7 word}{\\*\\mvfml x}{\\mvt\\mvauth1 b}\\par");
-    QVERIFY2(written.contains("\\pard{\\*\\mvfmf x}"), written.constData());
-    QVERIFY2(written.contains("\\mvf\\mvauth1\\mvdate7\\f0\\fs24 deed{\\*\\mvfml x}"),
+void TrackedChangesTest::textThatCameInKeepsWhoAndWhen() {
+    QFETCH(QByteArray, body);
+    QFETCH(QByteArray, kept);
+    const QByteArray written = saved(Authors + body);
+    QVERIFY2(written.contains(Authors), written.constData());
+    QVERIFY2(written.contains(kept), written.constData());
+}
+
+void TrackedChangesTest::theEndOfAParagraphThatIsNoItemAnyMoreIsPlain() {
+    QTextDocument document;
+    QVERIFY(readRtf(file("{\\pntext 1.\\tab}a\\b\\par"), document).ok());
+    QVERIFY(writeRtf(document).contains("{\\plain\\b"));
+    document.firstBlock().textList()->remove(document.firstBlock());
+    QVERIFY(!writeRtf(document).contains("{\\plain\\b"));
+}
+
+void TrackedChangesTest::placesBetweenWhichTextWasMovedStay() {
+    const QByteArray written = saved("\\pard{\\*\\mvfmf x}{\\mvf word}{\\*\\mvfml x}\\par");
+    QVERIFY2(written.contains("\\pard{\\*\\mvfmf x}{\\mvf\\f0\\fs24 deed{\\*\\mvfml x}}\\par"),
              written.constData());
-    QVERIFY2(written.contains("\\mvt\\mvauth1\\f0 b"), written.constData());
 }
 
 void TrackedChangesTest::whoChangedIsLeftOutWhereNobodyIsNamed() {
     const QByteArray written = saved("{\\revised\\revauth1 word}\\par");
-    QVERIFY2(written.contains("\\revised\\f0\\fs24 deed"), written.constData());
+    QVERIFY2(written.contains("{\\revised\\f0\\fs24 deed}"), written.constData());
 }
 
 void TrackedChangesTest::textThatWasTakenOutDoesNotShow_data() {

@@ -163,8 +163,8 @@ ParagraphFormat paragraphFormat(const QTextBlockFormat& format, const QTextList*
     result.rowStaysOpen = format.boolProperty(RowStaysOpen);
     result.nesting = std::clamp(format.intProperty(TableNesting), 0, MostNesting);
     result.nestedRow = names.kept(format.stringProperty(NestedRow));
-    if (list)
-        result.mark = names.kept(format.stringProperty(ParagraphMark));
+    if (const QString mark = format.stringProperty(ParagraphMark); list || isTracked(mark))
+        result.mark = names.kept(mark);
     result.stated = format.intProperty(StatedOfParagraph);
     result.anchors = names.kept(format.stringProperty(KeptAtStart));
     result.section = names.kept(format.stringProperty(KeptOfSection));

@@ -131,8 +131,9 @@ enum FormatProperty : int {
     StatedOfCharacters,
     /// Of a block format: the same.
     StatedOfParagraph,
-    /// Of a list item's block format: how the paragraph's mark looks, if other than its text, and
-    /// so its label in many programs (QString, the same).
+    /// Of a block format: how the paragraph's mark looks, where that tells of a tracked change, or
+    /// is other than the text of a list item, and so its label in many programs (QString, the
+    /// same).
     ParagraphMark,
     /// Of a list format: how the file tells of the list (int, a ListSource, Made when absent).
     ListToldBy,

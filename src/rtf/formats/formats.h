@@ -200,7 +200,7 @@ struct ParagraphFormat {
     bool rowStaysOpen = false; ///< behind the paragraph, an item of a list
     int nesting = 0; ///< how deep the table in a cell is that the paragraph is of, 0 for none
     int nestedRow = NothingKept; ///< of that table, which ends with the paragraph
-    int mark = NothingKept;      ///< of a list item: its mark's look, where its text has another
+    int mark = NothingKept;      ///< its mark's look, where that tells of more than the text does
     bool inTable = false;        ///< the paragraph is written as one of a cell
     int section = NothingKept;   ///< what the file says of the section that begins here
     int box = NothingKept;       ///< the text box that the paragraph stands in

@@ -6,6 +6,7 @@
 #include "rtf/kept/number_place.h"
 
 #include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -115,11 +116,22 @@ bool isOfField(QStringView group) {
     return group.startsWith(u"{\\*\\fldinst") || group.startsWith(u"\\fld");
 }
 
+bool isTracked(QStringView kept) {
+    static constexpr std::array<QStringView, 4> Words = {u"\\rev", u"\\crauth", u"\\crdate",
+                                                         u"\\mv"};
+    return std::any_of(Words.begin(), Words.end(),
+                       [kept](auto word) { return kept.contains(word); });
+}
+
+bool isObject(QStringView kept) {
+    return kept.sliced(kept.indexOf(NumberEnd) + 1).startsWith(u"{\\object");
+}
+
 FieldGroups fieldGroups(QStringView kept) {
     const QString head = kept.sliced(kept.indexOf(NumberEnd) + 1).toString();
     if (head.startsWith(u"{\\xe") || head.startsWith(u"{\\tc"))
         return {head, "}"};
-    if (head.startsWith(u"{\\object"))
+    if (isObject(kept))
         return {head, "}}"};
     return {u"{\\field"_s + head + u"{\\fldrslt"_s, "}}"};
 }

@@ -57,7 +57,11 @@ struct FieldGroups {
     QByteArrayView closing;
 };
 /// \param kept of it, with its number.
+bool isObject(QStringView kept);
 FieldGroups fieldGroups(QStringView kept);
+
+/// Whether kept words of characters tell of a tracked change.
+bool isTracked(QStringView kept);
 
 /// What is kept without the numbers that have a place in it.
 QByteArray keptWithoutPlaces(QStringView kept);

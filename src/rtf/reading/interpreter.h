@@ -80,7 +80,7 @@ private:
     void pageEnd();
     void showStart(ListLabel& list) const;
     const ParagraphFormat& shapedParagraph();
-    int lookOfParagraphMark();
+    int lookOfParagraphMark(bool tracked);
 
     // Properties (interpreter_properties.cpp)
     bool characterWord(const Token& token);

@@ -3,6 +3,7 @@
 #include "rtf/formats/label_text.h"
 #include "rtf/formats/list_formats.h"
 #include "rtf/kept/kept_row.h"
+#include "rtf/kept/kept_text.h"
 #include "rtf/reading/interpreter.h"
 #include "rtf/writing/look_words.h"
 
@@ -58,8 +59,11 @@ void Interpreter::pageEnd() {
     m_pageBreak = true;
 }
 
-/// Many programs show the label of a list item in the look of its paragraph's mark.
-int Interpreter::lookOfParagraphMark() {
+/// Many programs show the label of a list item in the look of its paragraph's mark, and the mark
+/// may be what a tracked change has brought in.
+int Interpreter::lookOfParagraphMark(bool tracked) {
+    if (m_keptLeft <= 0)
+        return NothingKept;
     CharFormat mark = m_state.chars;
     mark.link = m_textFormat.link;
     mark.field = m_textFormat.field;
@@ -67,7 +71,11 @@ int Interpreter::lookOfParagraphMark() {
     mark.script = m_textFormat.script;
     mark.stated = m_textFormat.stated;
     mark.byNumber = m_textFormat.byNumber;
-    if (mark == m_textFormat || m_keptLeft <= 0)
+    // The group that tells of a change in the text ends ahead of the mark.
+    CharFormat text = m_textFormat;
+    if (isTracked(m_names.keptAt(text.kept)))
+        text.kept = mark.kept;
+    if (mark == text && !tracked)
         return NothingKept;
     mark.script = Script::Normal;
     mark.stated = m_state.chars.stated;
@@ -85,9 +93,10 @@ void Interpreter::showStart(ListLabel& list) const {
 const ParagraphFormat& Interpreter::shapedParagraph() {
     const bool ofRow = (m_rowEnds || m_state.inTable) && row() != NothingKept;
     const bool besideBox = m_box.isOpen || m_box.hasEnded;
+    const bool tracked = !ofRow && isTracked(m_names.keptAt(m_state.chars.kept));
     const bool toldLate = !ofRow && m_inParagraph && m_state.paragraph.after != m_afterAhead;
     if (!ofRow && m_state.listOverride == NoList && m_label.text.isEmpty() && !m_pageBreak &&
-        !m_sectionBegins && m_anchorsAtStart.isEmpty() && !besideBox && !toldLate) {
+        !m_sectionBegins && m_anchorsAtStart.isEmpty() && !besideBox && !toldLate && !tracked) {
         m_lastListKind = m_state.paragraph.list.kind;
         return m_state.paragraph;
     }
@@ -126,8 +135,9 @@ const ParagraphFormat& Interpreter::shapedParagraph() {
         list.side = LabelSide::Left;
     }
     showStart(list);
-    if (list.kind != ListKind::None && m_inParagraph && !m_box.begins)
-        m_shaped.mark = lookOfParagraphMark();
+    const bool isItem = list.kind != ListKind::None && m_inParagraph;
+    if ((isItem || tracked) && !m_box.begins)
+        m_shaped.mark = lookOfParagraphMark(tracked);
     if (besideBox)
         shapeBesideBox();
     m_lastListKind = m_shaped.list.kind;

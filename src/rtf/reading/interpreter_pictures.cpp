@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
+#include "rtf/kept/kept_text.h"
 #include "rtf/reading/interpreter.h"
 #include "rtf/words/hex.h"
 
@@ -87,12 +88,15 @@ void Interpreter::deliverPicture() {
     cellTabs(m_cellsEnded.size());
     flushText();
     m_textFormat = m_state.chars;
+    // One picture alone would show the whole object.
+    if (isObject(m_names.keptAt(m_textFormat.field)))
+        m_textFormat.field = NothingKept;
     m_picture.words = wordsOfPicture();
     m_picture.frame = m_names.keptAt(m_state.frame);
     if (m_lineBox.isOpen)
-        m_lineBox.pieces.push_back({{}, told(m_state.chars), {}, std::exchange(m_picture, {})});
+        m_lineBox.pieces.push_back({{}, told(m_textFormat), {}, std::exchange(m_picture, {})});
     else
-        showPicture(m_picture, told(m_state.chars));
+        showPicture(m_picture, told(m_textFormat));
     m_picture = {};
     if (ofBox)
         endPictureOfBox();

@@ -194,21 +194,57 @@ void BodyWriter::breakPage() {
         m_out.word("\\page");
 }
 
+/// What a tracked change has done to text is told in a group of its own: some readers know no other
+/// end of it.
+void BodyWriter::goToTracked(const CharFormat& format) {
+    const bool tracked = isTracked(names().keptAt(format.kept));
+    const bool goesOn =
+        format.kept == m_tracked && format.link == m_format.link && format.field == m_format.field;
+    if (!goesOn)
+        closeTracked();
+    if (!tracked || goesOn)
+        return;
+    CharFormat around = m_format;
+    around.link = format.link;
+    around.field = format.field;
+    change(around);
+    m_aroundTracked = {m_format, m_stated};
+    m_tracked = format.kept;
+    m_out.structure("{");
+}
+
+void BodyWriter::closeTracked() {
+    if (std::exchange(m_tracked, NothingKept) == NothingKept)
+        return;
+    m_out.structure("}");
+    m_format = m_aroundTracked.format;
+    m_stated = m_aroundTracked.stated;
+    m_symbols = m_tables.symbolFontOf(m_format.family);
+}
+
+/// The look of what ends a paragraph or a cell, which a group cannot hold.
+CharFormat BodyWriter::lookOfEnd(CharFormat look) {
+    if (isTracked(names().keptAt(look.kept)))
+        look.kept = NothingKept;
+    look.link = NoName;
+    look.field = NothingKept;
+    return look;
+}
+
 void BodyWriter::text(QStringView text, const CharFormat& format) {
     m_paragraphIsEmpty = m_boxIsEmpty = false;
+    goToTracked(format);
     change(format);
     breakPage();
     const bool signs = m_symbols != SymbolFont::None;
-    if (cellsEnd(text, format)) {
-        writeAnchors(format.anchors);
-        return;
+    if (!cellsEnd(text, format)) {
+        if (signs ? format.byNumber : m_tables.wantsNumbers(format.family))
+            m_out.numbers(text);
+        else if (!signs)
+            m_out.text(text);
+        else
+            m_out.symbols(m_symbols, text);
     }
-    if (signs ? format.byNumber : m_tables.wantsNumbers(format.family))
-        m_out.numbers(text);
-    else if (!signs)
-        m_out.text(text);
-    else
-        m_out.symbols(m_symbols, text);
     writeAnchors(format.anchors);
 }
 
@@ -217,6 +253,7 @@ void BodyWriter::picture(const Picture& picture, const CharFormat& format) {
     // Text around it may be hidden where the picture shows.
     CharFormat own = format;
     own.hidden = picture.hidden;
+    goToTracked(own);
     change(own);
     breakPage();
     if (!picture.bytes.isEmpty() && !framed(picture))
@@ -226,9 +263,8 @@ void BodyWriter::picture(const Picture& picture, const CharFormat& format) {
 
 void BodyWriter::endParagraph(const CharFormat* mark) {
     // A link ends with its paragraph: fields that span paragraphs confuse many readers.
-    CharFormat atEnd = mark ? *mark : m_format;
-    atEnd.link = NoName;
-    atEnd.field = NothingKept;
+    closeTracked();
+    CharFormat atEnd = lookOfEnd(mark ? *mark : m_format);
     // A raised text that goes on beyond its paragraph some readers lose, end of paragraph and all.
     if (!mark)
         atEnd.script = Script::Normal;

@@ -52,7 +52,7 @@ public:
     /// Whether text can be that of a shape in a line which is written anew.
     bool standsInShape(const CharFormat& format);
     /// Behind such a text.
-    void endShape() { changeField(NothingKept); }
+    void endShape();
     /// What is kept behind a character.
     void writeAnchors(int anchors);
     /// \param mark format of the paragraph's mark, null for that of its last run.
@@ -98,6 +98,9 @@ private:
     bool framed(const Picture& picture);
     void goTo(const ParagraphFormat& paragraph);
     void beginSection(QStringView text);
+    void goToTracked(const CharFormat& format);
+    void closeTracked();
+    CharFormat lookOfEnd(CharFormat look);
     void change(const CharFormat& format);
     bool changeKept(int kept);
     void changeHighlight(const CharFormat& format);
@@ -123,6 +126,8 @@ private:
         int stated = 0;
     };
     std::array<Look, 2> m_lookBefore; ///< a link or field that is open
+    int m_tracked = NothingKept;      ///< the words of a group that tells of a tracked change
+    Look m_aroundTracked;
     size_t m_openGroups = 0;
     /// What stands around a text box.
     struct Around {

@@ -78,11 +78,13 @@ void BodyWriter::shown(const CharFormat& format) {
     const QStringView group = shownBy(kept)->group;
     m_paragraphIsEmpty = false;
     if (isShapeInLine(group)) { // which tells how it looks
+        closeTracked();
         changeLink(NoName);
         changeField(NothingKept);
     } else {
         CharFormat own = format;
         own.field = NothingKept;
+        goToTracked(own);
         change(own);
     }
     breakPage();
@@ -92,6 +94,12 @@ void BodyWriter::shown(const CharFormat& format) {
     writeKept(m_out, m_tables, group);
     if (isInstruction)
         m_out.structure("{\\fldrslt}}");
+}
+
+/// Behind the text of a shape that is written anew.
+void BodyWriter::endShape() {
+    closeTracked();
+    changeField(NothingKept);
 }
 
 /// What is kept of a shape spells signs by their letters.

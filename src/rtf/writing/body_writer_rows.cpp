@@ -27,10 +27,8 @@ void BodyWriter::beginCell(int shape, int anchors) {
 
 void BodyWriter::endCell(const CharFormat& look) {
     m_boxIsEmpty = false;
-    CharFormat unlinked = look;
-    unlinked.link = NoName;
-    unlinked.field = NothingKept;
-    change(unlinked);
+    closeTracked();
+    change(lookOfEnd(look));
     const bool nested = nestingOfCell(names().keptAt(look.cell)) != 0;
     m_out.structure(nested ? "\\nestcell\r\n" : "\\cell\r\n");
 }

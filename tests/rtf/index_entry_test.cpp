@@ -11,6 +11,7 @@
 using namespace orvalis;
 using namespace orvalis::rtf;
 using orvalis::test::file;
+using orvalis::test::pngBytes;
 using orvalis::test::saved;
 using orvalis::test::textOf;
 
@@ -58,6 +59,8 @@ void IndexEntryTest::anEntryStays_data() {
     row("in the text, with what stands for its page", "word{\\xe b{\\*\\rxe mark}}d\\par",
         "deed{\\xe b{\\rxe mark}}d\\par");
     row("in the text, in its look", "word{\\xe\\b b}c\\par", "deed\\b{\\xe b}\\b0 c\\par");
+    row("hidden behind an entry", "word{\\tc b}{\\xe{\\v c}}d\\par",
+        "deed{\\tc b{\\plain\\f0\\fs24{\\xe{\\v c}}}}d\\par");
     row("behind an entry", "word{\\xe b}{\\xe c}d\\par", "deed{\\xe b}{\\xe c}d\\par");
     row("in the text of a cell", "\\trowd\\cellx99\\intbl word{\\xe b}\\cell\\row",
         "deed{\\xe b}\\cell\\row");
@@ -81,6 +84,8 @@ void IndexEntryTest::anEntryThatIsMoreThanTextInALineIsText_data() {
         QStringLiteral("wordbc"));
     row("in a link", "{\\field{\\*\\fldinst HYPERLINK \"x\"}{\\fldrslt word{\\tc b}}}c",
         QStringLiteral("wordbc"));
+    row("with nothing but a picture", "word{\\tc{\\pict\\pngblip " + pngBytes().toHex() + "}}b",
+        QStringLiteral("word\uFFFCb"));
 }
 
 void IndexEntryTest::anEntryThatIsMoreThanTextInALineIsText() {

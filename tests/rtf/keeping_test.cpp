@@ -119,6 +119,27 @@ void KeepingTest::whatIsNotShownIsKept_data() {
         "deed {\\field{\\*\\fldinst DATE}{\\fldrslt today}}\\par");
     row("further level in a note's index entry, in a page of two bytes",
         "\\ansicpg932 {\\footnote\\f0{\\xe a\\:b}}word\\par", "{\\footnote\\f0{\\xe a\\:b}}");
+    row("how a file is shown", "\\viewkind1\\viewscale80 word\\par", "\\viewkind1\\uc1");
+    row("how a file is shown by others", "\\vieww99\\viewh88 word\\par", "\\vieww99\\viewh88\r\n");
+    row("directions of a file", "\\fbidis word\\par", "\\fbidis\r\n");
+    row("caption of a window", "{\\windowcaption A}word\\par", "{\\windowcaption A}\r\n");
+    row("page numbers of another script", "\\sectd\\pgndec\\pgnhindia\\pgnhnsp word\\par",
+        "\\sectd\\pgnhindia\\pgnhnsp\r\n");
+    row("page number in the text", "word\\chpgn\\par", "deed{\\nosupersub\\chpgn}\\par");
+    row("patterns", "\\pard\\chbgcross\\chbgvert word\\par", "\\pard\\chbgvert\\f0");
+    row("patterns and spaces of cells",
+        "\\trowd\\trbghoriz\\clbgdcross\\clspl10\\clspfl3\\cellx99 word\\cell\\row",
+        "\\trowd\\trbghoriz\\clbgdcross\\clspl10\\clspfl3\\cellx99\r\n");
+    row("looks of a table's style",
+        "{\\stylesheet{\\*\\ts9 "
+        "T;}}\\trowd\\ts9\\tbllkhdrrows\\tbllknocolband\\cellx99\\pard\\intbl\\yts9 "
+        "word\\cell\\row",
+        "\\trowd\\ts9\\tbllkhdrrows\\tbllknocolband\\cellx99\r\n\\pard\\intbl\\yts9");
+    row("cell that came in",
+        "{\\*\\revtbl{A;}}\\trowd\\clins\\clinsauth0\\clinsdttm5\\cellx99 word\\cell\\row",
+        "\\trowd\\clins\\clinsauth0\\clinsdttm5\\cellx99\r\n");
+    row("frame through which text flows", "\\pard\\wraptight\\absnoovrlp1 word\\par",
+        "\\pard\\wraptight\\absnoovrlp1\\f0");
     row("template", "{\\*\\template C:\\\\a.dot}word\\par", "{\\*\\template C:\\\\a.dot}\r\n");
     row("file that comes next", "{\\nextfile b.rtf}word\\par", "{\\nextfile b.rtf}\r\n");
     row("files that others stand in", "{\\*\\filetbl{\\file\\fid0 a.rtf}}word\\par",

@@ -20,12 +20,16 @@ namespace orvalis::rtf {
 /// The language of text in a file that tells of none.
 inline constexpr int UsualLanguage = 1033;
 
+/// The view of a document that tells of none: as text, without pages.
+inline constexpr int UsualView = 4;
+
 /// Where colours come from, as it is kept (see kept_text.h): nothing for most.
 using ColorThemes = QMap<QRgb, QString>;
 
 /// What is kept of a whole document, as the file had it (see kept_text.h).
 struct KeptParts {
     int language = UsualLanguage; ///< of text that names none, by Windows' numbers
+    int viewKind = UsualView;     ///< how the document is shown, by the numbers of RTF
     QString defaults;             ///< looks that styles begin with
     QString styles;
     QString authors;         ///< who changed the text

@@ -44,6 +44,19 @@ int numberBehind(QStringView kept, QStringView word) {
     return kept.sliced(start, end - start).toInt();
 }
 
+/// What is kept of a field, without its number.
+QStringView headOf(QStringView kept) {
+    return kept.sliced(kept.indexOf(NumberEnd) + 1);
+}
+
+bool isEntry(QStringView head) {
+    return head.startsWith(u"{\\xe") || head.startsWith(u"{\\tc");
+}
+
+bool isObject(QStringView head) {
+    return head.startsWith(u"{\\object");
+}
+
 } // namespace
 
 QString keptFont(const QString& family) {
@@ -123,17 +136,18 @@ bool isTracked(QStringView kept) {
                        [kept](auto word) { return kept.contains(word); });
 }
 
-bool isObject(QStringView kept) {
-    return kept.sliced(kept.indexOf(NumberEnd) + 1).startsWith(u"{\\object");
-}
-
 FieldGroups fieldGroups(QStringView kept) {
-    const QString head = kept.sliced(kept.indexOf(NumberEnd) + 1).toString();
-    if (head.startsWith(u"{\\xe") || head.startsWith(u"{\\tc"))
+    const QString head = headOf(kept).toString();
+    if (isEntry(head))
         return {head, "}"};
-    if (isObject(kept))
+    if (isObject(head))
         return {head, "}}"};
     return {u"{\\field"_s + head + u"{\\fldrslt"_s, "}}"};
+}
+
+bool holdsTextAlone(QStringView kept) {
+    const QStringView head = headOf(kept);
+    return isEntry(head) || isObject(head);
 }
 
 std::optional<KeptShown> shownBy(QStringView kept) {

@@ -57,8 +57,10 @@ struct FieldGroups {
     QByteArrayView closing;
 };
 /// \param kept of it, with its number.
-bool isObject(QStringView kept);
 FieldGroups fieldGroups(QStringView kept);
+
+/// Whether only text can be of what such groups tell, pictures cannot.
+bool holdsTextAlone(QStringView kept);
 
 /// Whether kept words of characters tell of a tracked change.
 bool isTracked(QStringView kept);

@@ -63,6 +63,7 @@ struct GroupState {
     int listOverride = NoList;
     int listLevel = 0;
     int fieldsAround = 0;
+    int entriesAround = 0;       ///< of an index or a table of contents
     int ownField = NothingKept;  ///< the field that the group is, with the text that shows it
     int fieldHead = NothingKept; ///< of a field that is the outer part of a shape
     int box = NothingKept;       ///< the frame of the text box that the group is, or stands in
@@ -82,7 +83,6 @@ struct GroupState {
     bool inDeleted = false; ///< the group, or one around it, has such text
     bool inTable = false;
     bool nested = false; ///< words for rows are of a table in a cell
-    bool indexEntry = false;
     bool inShape = false;
     bool inFormula = false;
     bool inObject = false;

@@ -69,7 +69,7 @@ private:
     void giveText();
     bool shows() const {
         return m_state.destination == Destination::Body && !m_state.deleted &&
-               !(m_state.indexEntry && m_state.chars.hidden);
+               !(m_state.entriesAround > 0 && m_state.chars.hidden);
     }
     bool captures() const;
     const CodePage& pageOfText() const;

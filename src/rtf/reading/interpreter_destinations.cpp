@@ -16,6 +16,8 @@ constexpr qsizetype MostColors = 65536;
 
 constexpr QRgb OpaqueBlack = 0xff000000;
 
+constexpr int LastView = 5;
+
 constexpr qsizetype LongestTheme = 100; // characters
 
 QString spelled(const Token& word) {
@@ -262,7 +264,7 @@ void Interpreter::closeDestination(Destination destination) {
 bool Interpreter::tableWord(const Token& token) {
     const int number = token.parameter;
     // In a group that is kept as it is they say nothing of the document.
-    const bool ofDocument = token.word->action <= Action::DefaultLanguage;
+    const bool ofDocument = token.word->action <= Action::ViewKind;
     if (ofDocument && m_state.destination != Destination::Body)
         return true;
     switch (token.word->action) {
@@ -289,6 +291,10 @@ bool Interpreter::tableWord(const Token& token) {
     case Action::DefaultLanguage:
         if (token.hasParameter)
             m_parts.language = number;
+        return true;
+    case Action::ViewKind:
+        if (token.hasParameter)
+            m_parts.viewKind = std::clamp(number, 0, LastView);
         return true;
     case Action::FontKind:
         m_fonts.setKind(token.word->value);

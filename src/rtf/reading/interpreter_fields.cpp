@@ -70,10 +70,10 @@ void Interpreter::keepField() {
 /// a hidden one is kept at its place.
 /// \param word of its group, behind which one stands.
 void Interpreter::keepEntry(QByteArrayView word) {
-    const bool isInEntry = std::exchange(m_state.indexEntry, true);
-    const CharFormat& chars = m_state.chars;
-    const bool isText = m_state.destination == Destination::Body && !m_state.deleted;
-    if (isInEntry || !isText || keepUnseen(word, UnseenAs::Hidden, chars.hidden))
+    constexpr int MostEntriesAround = 4; // each look ahead reads all that is in an entry
+    const bool mayShow = shows();
+    if (++m_state.entriesAround > MostEntriesAround || !mayShow ||
+        keepUnseen(word, UnseenAs::Hidden, m_state.chars.hidden))
         return;
     const EntryScan entry = scanEntry(m_tokenizer.groupAhead());
     if (!entry.hasStructure)

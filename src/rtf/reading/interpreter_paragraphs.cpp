@@ -72,10 +72,8 @@ int Interpreter::lookOfParagraphMark(bool tracked) {
     mark.stated = m_textFormat.stated;
     mark.byNumber = m_textFormat.byNumber;
     // The group that tells of a change in the text ends ahead of the mark.
-    CharFormat text = m_textFormat;
-    if (isTracked(m_names.keptAt(text.kept)))
-        text.kept = mark.kept;
-    if (mark == text && !tracked)
+    const bool textIsTracked = isTracked(m_names.keptAt(m_textFormat.kept));
+    if (mark == m_textFormat && !tracked && !textIsTracked)
         return NothingKept;
     mark.script = Script::Normal;
     mark.stated = m_state.chars.stated;

@@ -88,8 +88,8 @@ void Interpreter::deliverPicture() {
     cellTabs(m_cellsEnded.size());
     flushText();
     m_textFormat = m_state.chars;
-    // One picture alone would show the whole object.
-    if (isObject(m_names.keptAt(m_textFormat.field)))
+    // One picture alone would be the whole object, and in an entry it has no place.
+    if (holdsTextAlone(m_names.keptAt(m_textFormat.field)))
         m_textFormat.field = NothingKept;
     m_picture.words = wordsOfPicture();
     m_picture.frame = m_names.keptAt(m_state.frame);

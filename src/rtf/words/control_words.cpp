@@ -34,6 +34,7 @@ constexpr ControlWord Words[] = {
     {"stshfhich", Action::FurtherDefaultFont, 3},
     {"stshfbi", Action::FurtherDefaultFont, 4},
     {"deftab", Action::DefaultTab, 0},
+    {"viewkind", Action::ViewKind, 0},
     {"deflang", Action::DefaultLanguage, 0},
 
     {"tab", Action::Character, u'\t'},
@@ -105,6 +106,7 @@ constexpr ControlWord Words[] = {
     {"ulhwave", Action::UnderlineKind, as(Underline::HeavyWave)},
     {"ululdbwave", Action::UnderlineKind, as(Underline::DoubleWave)},
     {"ulth", Action::UnderlineKind, as(Underline::Thick)},
+    {"ulhair", Action::UnderlineKind, as(Underline::Single)},
     {"ulnone", Action::NoUnderline, 0},
     {"super", Action::ScriptKind, as(Script::Super)},
     {"sub", Action::ScriptKind, as(Script::Sub)},
@@ -120,6 +122,8 @@ constexpr ControlWord Words[] = {
     {"qc", Action::Align, as(Alignment::Center)},
     {"qj", Action::Align, as(Alignment::Justify)},
     {"qd", Action::Align, as(Alignment::Justify)},
+    {"qt", Action::Align, as(Alignment::Justify)},
+    {"qk", Action::Align, as(Alignment::Justify)},
     {"li", Action::LeftIndent, 0},
     {"fi", Action::FirstIndent, 0},
     {"ri", Action::RightIndent, 0},
@@ -148,12 +152,19 @@ constexpr ControlWord Words[] = {
     {"colsr", Action::SectionColumn, as(ColumnWord::Space)},
     {"chftn", Action::AnchorMark, 0},
     {"chatn", Action::AnchorMark, 0},
+    {"chpgn", Action::AnchorMark, 0},
+    {"chdate", Action::AnchorMark, 0},
+    {"chdpl", Action::AnchorMark, 0},
+    {"chdpa", Action::AnchorMark, 0},
+    {"chtime", Action::AnchorMark, 0},
+    {"sectnum", Action::AnchorMark, 0},
 
     {"stylesheet", Action::KeepGroup, as(KeptPlace::Styles)},
     {"revtbl", Action::KeepGroup, as(KeptPlace::Authors)},
     {"defchp", Action::KeepGroup, as(KeptPlace::Defaults)},
     {"defpap", Action::KeepGroup, as(KeptPlace::Defaults)},
     {"info", Action::KeepGroup, as(KeptPlace::Info)},
+    {"windowcaption", Action::KeepGroup, as(KeptPlace::Info)},
     {"userprops", Action::KeepGroup, as(KeptPlace::StarredInfo)},
     {"docvar", Action::KeepGroup, as(KeptPlace::StarredInfo)},
     {"themedata", Action::KeepGroup, as(KeptPlace::StarredInfo)},
@@ -366,7 +377,7 @@ constexpr const ControlWord& wordAt(size_t index) {
     return index < std::size(Words) ? Words[index] : KeptWordTable[index - std::size(Words)];
 }
 
-constexpr int SlotBits = 11;
+constexpr int SlotBits = 12;
 constexpr quint32 SlotCount = 1 << SlotBits;
 constexpr qint16 EmptySlot = -1;
 static_assert(WordCount < SlotCount / 2, "the search ends at an empty slot");

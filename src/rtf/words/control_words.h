@@ -19,6 +19,7 @@ enum class Action : quint8 {
     FurtherDefaultFont, ///< value: which of those beside it
     DefaultTab,
     DefaultLanguage,
+    ViewKind,
     // Text
     Character, ///< value: the character
     Unicode,
@@ -73,7 +74,7 @@ enum class Action : quint8 {
     Keep, ///< value: a packed KeptWord
     SectionDefaults,
     SectionColumn, ///< value: the ColumnWord
-    AnchorMark,    ///< stands for the number of a note
+    AnchorMark,    ///< stands for a number or a date that others show
     // Destinations whose text is none of the document's
     SkipGroup,
     Generator,

@@ -358,7 +358,8 @@ QByteArray BodyWriter::file(int defaultTab, const KeptParts& parts) {
     if (!parts.nameless)
         out.structure("{\\*\\generator Orvalis;}");
     out.structure(head);
-    out.structure("\\viewkind4\\uc1");
+    out.word("\\viewkind", parts.viewKind);
+    out.structure("\\uc1");
     out.structure(m_out.bytes());
     out.structure("}\r\n");
     return out.take();

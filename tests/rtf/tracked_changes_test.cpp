@@ -73,6 +73,8 @@ void TrackedChangesTest::textThatCameInKeepsWhoAndWhen_data() {
         "deed{\\plain\\revised\\revauth1\\f0\\fs24\\par}c\\par");
     row("an empty paragraph", "word\\par{\\revised\\par}c\\par",
         "deed\\par{\\plain\\revised\\f0\\fs24\\par}c\\par");
+    row("an empty paragraph in a font of another direction", "word\\par{\\af9\\revised\\par}c\\par",
+        "deed\\par{\\plain\\revised\\f0\\fs24\\par}c\\par");
     row("an item of a list", "{\\pntext 1.\\tab}word{\\revised b}\\par",
         "deed{\\revised b}{\\plain\\f0\\fs24\\par}");
 }

@@ -80,6 +80,7 @@ private:
     void pageEnd();
     void showStart(ListLabel& list) const;
     const ParagraphFormat& shapedParagraph();
+    bool endsGroupOfLook() const;
     int lookOfParagraphMark(bool tracked);
 
     // Properties (interpreter_properties.cpp)

@@ -215,6 +215,7 @@ private:
         const BoxScan box = scanBox(m_tokenizer.groupAhead());
         const bool isRead = here() != Within::Value;
         passGroup();
+        m_loose |= !isRead; // it would be, were the picture that it stands beside not there
         if (!isRead)
             return;
         m_loose |= !box.shows && box.holdsMore;

@@ -264,7 +264,8 @@ void BodyWriter::picture(const Picture& picture, const CharFormat& format) {
 void BodyWriter::endParagraph(const CharFormat* mark) {
     // A link ends with its paragraph: fields that span paragraphs confuse many readers.
     closeTracked();
-    CharFormat atEnd = lookOfEnd(mark ? *mark : m_format);
+    const bool tellsMark = mark && m_mark == NothingKept;
+    CharFormat atEnd = lookOfEnd(tellsMark ? *mark : m_format);
     // A raised text that goes on beyond its paragraph some readers lose, end of paragraph and all.
     if (!mark)
         atEnd.script = Script::Normal;

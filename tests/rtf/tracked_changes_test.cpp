@@ -75,8 +75,12 @@ void TrackedChangesTest::textThatCameInKeepsWhoAndWhen_data() {
         "deed\\par{\\plain\\revised\\f0\\fs24\\par}c\\par");
     row("an empty paragraph in a font of another direction", "word\\par{\\af9\\revised\\par}c\\par",
         "deed\\par{\\plain\\revised\\f0\\fs24\\par}c\\par");
-    row("an item of a list", "{\\pntext 1.\\tab}word{\\revised b}\\par",
-        "deed{\\revised b}{\\plain\\f0\\fs24\\par}");
+    row("an item of a list", "{\\pntext 1.\\tab}word{\\revised b}\\par", "deed{\\revised b}\\par");
+    row("an item of a list in another look", "{\\pntext 1.\\tab}word\\b\\revised b\\revised0\\par",
+        "deed{\\revised\\b b}\\b\\par");
+    row("an item of a list whose mark has another look",
+        "{\\pntext 1.\\tab}word{\\revised b}\\b\\par",
+        "deed{\\revised b}{\\plain\\b\\f0\\fs24\\par}");
 }
 
 void TrackedChangesTest::textThatCameInKeepsWhoAndWhen() {

@@ -31,8 +31,8 @@ public:
     void begin(int number);
     void setCharset(int charset);
     void setPage(int number);
-    /// \param kind by its place among the kinds of faces.
-    void setKind(int kind) { m_face.kind = kind; }
+    /// \param kind the word for it, of the table of words.
+    void setKind(QByteArrayView kind) { m_face.kind = kind; }
     void setAnyDirection() { m_face.anyDirection = true; }
     void setPitch(int pitch);
     void setPanose(const QString& kept) { m_face.panose = kept; }

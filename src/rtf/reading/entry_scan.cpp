@@ -30,9 +30,7 @@ EntryScan scanEntry(QByteArrayView content) {
         if (token.kind == TokenKind::GroupStart)
             tokenizer.skipGroup();
         else if (found != EntryWords.end())
-            told[size_t(found - EntryWords.begin())] =
-                '\\' + token.bytes.toByteArray() +
-                (token.hasParameter ? QByteArray::number(token.parameter) : QByteArray());
+            told[size_t(found - EntryWords.begin())] = spelled(token);
     }
     for (const QByteArray& word : told)
         scan.words += word;

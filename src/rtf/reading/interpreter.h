@@ -20,6 +20,7 @@
 #include <QList>
 
 #include <array>
+#include <map>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -80,7 +81,6 @@ private:
     void pageEnd();
     void showStart(ListLabel& list) const;
     const ParagraphFormat& shapedParagraph();
-    bool endsGroupOfLook() const;
     int lookOfParagraphMark(bool tracked);
 
     // Properties (interpreter_properties.cpp)
@@ -174,14 +174,18 @@ private:
     void keepParagraph(int set);
     void keepGroup(const Token& token, KeptPlace place);
     void keepStrange(const Token& token);
-    bool keepDeleted();
-    bool keepUnseen(QByteArrayView word, UnseenAs as, bool isUnseen);
     FileTables fileTables(const FontTable::Font* usual) const;
     void placeGroup(KeptPlace place, const QString& group);
+
+    // What is anchored to a place in the text (interpreter_anchors.cpp)
     void anchor(const QString& kept);
     void anchorMark(const QString& word);
     void anchorBehindCells();
     QString lookOfMark() const;
+    bool keepDeleted();
+    bool keepUnseen(QByteArrayView word, UnseenAs as, bool isUnseen);
+
+    // Sections, and the document as a whole (interpreter_sections.cpp)
     void sectionEnd();
     QString sectionBreak();
     void tellFirstSection();
@@ -325,8 +329,8 @@ private:
     SymbolFont m_numberingSymbols = SymbolFont::None; ///< that the font of its bullet is
     bool m_numberingShows = false;                    ///< a number, and not the room for one alone
     Picture m_picture;
-    std::array<int, 6> m_pictureNumbers{}; ///< that are kept, 0 where none was told
-    QString m_pictureGroups;               ///< the same
+    std::map<QByteArrayView, int> m_pictureNumbers; ///< that are kept, by their words
+    QString m_pictureGroups;                        ///< the same
     int m_halfByte = -1;
     bool m_shapePictureShown = false;
     bool m_sinkIsFull = false;

@@ -20,11 +20,6 @@ constexpr int LastView = 5;
 
 constexpr qsizetype LongestTheme = 100; // characters
 
-QString spelled(const Token& word) {
-    const QString number = word.hasParameter ? QString::number(word.parameter) : QString();
-    return u'\\' + QString::fromLatin1(word.bytes) + number;
-}
-
 } // namespace
 
 bool Interpreter::destinationWord(const Token& token) {
@@ -87,7 +82,7 @@ bool Interpreter::destinationWord(const Token& token) {
             return true;
         }
         m_picture = {};
-        m_pictureNumbers = {};
+        m_pictureNumbers.clear();
         m_pictureGroups.clear();
         m_box.picturePlace = placeHere();
         m_halfByte = -1;
@@ -297,7 +292,7 @@ bool Interpreter::tableWord(const Token& token) {
             m_parts.viewKind = std::clamp(number, 0, LastView);
         return true;
     case Action::FontKind:
-        m_fonts.setKind(token.word->value);
+        m_fonts.setKind(token.word->name);
         return true;
     case Action::FontDirections:
         m_fonts.setAnyDirection();
@@ -322,7 +317,7 @@ bool Interpreter::tableWord(const Token& token) {
         return true;
     case Action::ColorTheme:
         if (m_state.destination == Destination::ColorTable && m_colorTheme.size() < LongestTheme)
-            m_colorTheme += spelled(token);
+            m_colorTheme += QString::fromLatin1(spelled(token));
         return true;
     default:
         return false;

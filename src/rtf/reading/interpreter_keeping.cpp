@@ -127,22 +127,6 @@ bool Interpreter::keptWord(const Token& token) {
     return true;
 }
 
-/// What begins the group of a note's number: it looks like the text ahead of it, but raised, or
-/// else in a way of its own, as it does where its group tells all of it.
-QString Interpreter::lookOfMark() const {
-    CharFormat look = m_textFormat;
-    look.script = m_state.chars.script;
-    look.stated = m_state.chars.stated;
-    look.anchors = m_state.chars.anchors;
-    look.cell = m_state.chars.cell;
-    look.link = m_state.chars.link;
-    look.field = m_state.chars.field;
-    look.byNumber = m_state.chars.byNumber;
-    if (m_text.isEmpty() || m_state.tellsPlain || look != m_state.chars)
-        return u'{' + keptLook(told(m_state.chars), m_names);
-    return m_state.chars.script == Script::Super ? u"{\\super"_s : u"{\\nosupersub"_s;
-}
-
 /// The font of text in a script, or in the other direction, that the run has not by itself.
 bool Interpreter::furtherFont(KeptCall& call) const {
     const FontTable::Font* font = m_fonts.find(call.number);
@@ -211,52 +195,17 @@ void Interpreter::keepGroup(const Token& token, KeptPlace place) {
     }
     const QByteArrayView content = m_tokenizer.groupAhead();
     const FileTables tables = fileTables(m_fonts.usual());
-    const QByteArrayView opening(isStarred(place) ? "{\\*\\" : "{\\");
+    const QByteArrayView opening(isStarred(place) ? "{\\*" : "{");
     GroupKeeper keeper(content, tables);
     if (destination == Destination::FontTable)
         keeper.beginIn(m_fonts.pageOfName(*m_documentPage), SymbolFont::None);
-    QByteArray word = token.bytes.toByteArray();
-    if (token.hasParameter)
-        word += QByteArray::number(token.parameter);
-    QString group = keeper.kept(opening, word, m_keptLeft);
+    QString group = keeper.kept(opening, spelled(token), m_keptLeft);
     // These stand where no number of a table has a place.
     if (destination != Destination::Body && group.contains(PlaceStart))
         group.clear();
     m_keptLeft -= group.size();
     skipGroup();
     placeGroup(place, group);
-}
-
-/// Text that a tracked change has taken out stays where it was, in the look that it had.
-/// \returns whether the rest of the group is that, and has been kept.
-bool Interpreter::keepDeleted() {
-    // The look ahead reads all of the group, so those inside are not looked into again.
-    return !std::exchange(m_state.inDeleted, true) && shows() && !m_groups.empty() &&
-           keepUnseen("deleted", UnseenAs::Deleted, true);
-}
-
-/// \param word of the group, behind which one stands.
-/// \returns whether the rest of the group does not show, and has been kept.
-bool Interpreter::keepUnseen(QByteArrayView word, UnseenAs as, bool isUnseen) {
-    const QByteArrayView content = m_tokenizer.groupAhead();
-    if (!holdsUnseenAlone(content, as, isUnseen))
-        return false;
-    headEnds(); // for it tells how text looks
-    const FileTables tables = fileTables(m_fonts.usual());
-    GroupKeeper keeper(content, tables);
-    keeper.beginIn(*m_state.page, m_state.symbols);
-    const QString group = keeper.kept("{\\", word, m_keptLeft);
-    if (group.isEmpty())
-        return false;
-    // The copy leaves out some words.
-    const qsizetype head = QByteArrayView("{\\").size() + word.size();
-    const QByteArray copy = keptWithoutPlaces(group);
-    if (!holdsUnseenAlone(QByteArrayView(copy).sliced(head).chopped(1), as, isUnseen))
-        return false;
-    m_keptLeft -= group.size();
-    m_tokenizer.skipToGroupEnd();
-    anchor(u'{' + keptLook(told(m_state.chars), m_names) + group + u'}');
-    return true;
 }
 
 void Interpreter::placeGroup(KeptPlace place, const QString& group) {
@@ -305,115 +254,6 @@ void Interpreter::placeGroup(KeptPlace place, const QString& group) {
         anchor(group);
         return;
     }
-}
-
-void Interpreter::anchor(const QString& kept) {
-    if (kept.isEmpty())
-        return;
-    textComes();
-    if (m_lineBox.depth > 0) {
-        beginLineBox();
-        flushText();
-        m_lineBox.pieces.push_back({{}, {}, kept});
-        return;
-    }
-    // It may stand in the next cell, or between the last one and the end of the row.
-    if (!m_cellsEnded.empty()) {
-        m_anchorsBehindCell.push_back({kept, {}});
-        return;
-    }
-    if (!m_inParagraph) {
-        m_anchorsAtStart += kept;
-        return;
-    }
-    flushText();
-    m_sink.anchor(kept);
-}
-
-/// The word that stands for the number of a note.
-void Interpreter::anchorMark(const QString& word) {
-    dissolveLineBox(); // for how it looks depends on what is ahead of it
-    if (m_cellsEnded.empty())
-        anchor(lookOfMark() + u'\\' + word + u'}');
-    else
-        m_anchorsBehindCell.push_back({word, m_state.chars, m_state.tellsPlain});
-}
-
-/// What they stand behind is known by now.
-void Interpreter::anchorBehindCells() {
-    for (const AnchorBehindCell& waiting : std::exchange(m_anchorsBehindCell, {})) {
-        if (!waiting.look) {
-            anchor(waiting.kept);
-            continue;
-        }
-        const CharFormat around = std::exchange(m_state.chars, *waiting.look);
-        const bool tellsPlain = std::exchange(m_state.tellsPlain, waiting.tellsPlain);
-        anchorMark(waiting.kept);
-        m_state.chars = around;
-        m_state.tellsPlain = tellsPlain;
-    }
-}
-
-/// What was gathered so far belongs to the section that ends; its words go on to hold.
-void Interpreter::sectionEnd() {
-    dissolveLineBox();
-    textComes();
-    const bool paragraphEndedItself = !m_inParagraph && !std::exchange(m_box.hasEnded, false);
-    if (m_inParagraph)
-        paragraphEnd();
-    m_rows.leave();
-    m_paragraphBeforeSection = paragraphEndedItself;
-    tellFirstSection();
-    m_sectionGroups.clear();
-    m_sectionBegins = true;
-}
-
-QString Interpreter::sectionBreak() {
-    const QString text = sectionText();
-    m_keptLeft -= text.size();
-    if (m_keptLeft <= 0)
-        m_columns.clear();
-    return (m_paragraphBeforeSection ? ParagraphEndsFirst.toString() : QString()) +
-           QStringLiteral("\\sect") + text;
-}
-
-void Interpreter::tellFirstSection() {
-    if (!std::exchange(m_firstSectionTold, true) &&
-        (m_keptOfSection != 0 || !m_columns.text().isEmpty() || !m_sectionGroups.isEmpty()))
-        m_parts.section = sectionText();
-}
-
-QString Interpreter::sectionText() const {
-    return QStringLiteral("\\sectd") + m_names.keptAt(m_kept.name(m_keptOfSection)) +
-           m_columns.text() + m_sectionGroups;
-}
-
-/// The fonts of text in other scripts, and of styles, that names none.
-QString Interpreter::furtherDefaults() const {
-    constexpr std::array DefaultFonts = {"adeff", "stshfdbch", "stshfloch", "stshfhich", "stshfbi"};
-    QString text;
-    for (size_t i = 0; i < DefaultFonts.size(); ++i) {
-        const FontTable::Font* font = m_fonts.find(m_furtherDefaults[i]);
-        if (m_furtherDefaults[i] != NoName && font && font->family != NoName)
-            text += u'\\' + QLatin1StringView(DefaultFonts[i]) +
-                    keptFont(m_names.familyAt(font->family));
-    }
-    return text;
-}
-
-void Interpreter::tellKept() {
-    tellFirstSection();
-    m_parts.words = m_names.keptAt(m_kept.name(m_keptOfDocument));
-    m_parts.furtherDefaults = furtherDefaults();
-    m_parts.nameless = m_nameless;
-    m_parts.defaultFont = m_fonts.saidOfUsual();
-    m_parts.faces = m_fonts.faces(m_names);
-    m_parts.themes = m_themes;
-    m_parts.themes.removeIf([](const auto& color) { return color->isEmpty(); });
-    m_parts.oddFamilies = m_fonts.oddFamilies(m_names);
-    if (m_parts.defaultFont == DefaultFont::Named)
-        m_parts.unnamedFamily = m_names.familyAt(m_fonts.usual()->family);
-    m_sink.kept(m_parts);
 }
 
 } // namespace orvalis::rtf

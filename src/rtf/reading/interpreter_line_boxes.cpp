@@ -75,7 +75,6 @@ void Interpreter::endLineBox() {
     m_keptLeft -= text.size();
     const int field =
         m_names.kept(QString::number(m_shapes) + NumberEnd + keptOf({box.kept, box.frame, text}));
-    m_textFormat.field = field;
     for (LineBox::Piece piece : box.pieces) {
         piece.look.field = field;
         piece.look.link = NoName;

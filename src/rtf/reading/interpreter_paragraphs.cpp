@@ -3,7 +3,6 @@
 #include "rtf/formats/label_text.h"
 #include "rtf/formats/list_formats.h"
 #include "rtf/kept/kept_row.h"
-#include "rtf/kept/kept_shape.h"
 #include "rtf/kept/kept_text.h"
 #include "rtf/reading/interpreter.h"
 #include "rtf/writing/look_words.h"
@@ -60,13 +59,6 @@ void Interpreter::pageEnd() {
     m_pageBreak = true;
 }
 
-/// Whether the look of the text that came last is told in a group, which ends ahead of the mark.
-bool Interpreter::endsGroupOfLook() const {
-    const QString field = m_names.keptAt(m_textFormat.field);
-    const std::optional<KeptShown> shown = shownBy(field);
-    return isTracked(m_names.keptAt(m_textFormat.kept)) || (shown && isShapeInLine(shown->group));
-}
-
 /// Many programs show the label of a list item in the look of its paragraph's mark, and the mark
 /// may be what a tracked change has brought in.
 int Interpreter::lookOfParagraphMark(bool tracked) {
@@ -79,7 +71,11 @@ int Interpreter::lookOfParagraphMark(bool tracked) {
     mark.script = m_textFormat.script;
     mark.stated = m_textFormat.stated;
     mark.byNumber = m_textFormat.byNumber;
-    if (mark == m_textFormat && !tracked && !endsGroupOfLook())
+    // The group that tells of a change in the text ends ahead of the mark.
+    CharFormat text = m_textFormat;
+    if (isTracked(m_names.keptAt(text.kept)))
+        text.kept = mark.kept;
+    if (mark == text && !tracked)
         return NothingKept;
     mark.script = Script::Normal;
     mark.stated = m_state.chars.stated;

@@ -34,7 +34,7 @@ bool Interpreter::pictureWord(const Token& token) {
         m_picture.scaleY = number;
         return true;
     case Action::PictureNumber:
-        m_pictureNumbers[size_t(token.word->value)] = number;
+        m_pictureNumbers[token.word->name] = number;
         return true;
     case Action::BitmapBits:
         m_picture.bitmap.bitsPerPixel = number;
@@ -103,12 +103,10 @@ void Interpreter::deliverPicture() {
 }
 
 QString Interpreter::wordsOfPicture() const {
-    static constexpr const char* Words[] = {"piccropl", "piccropr", "piccropt",
-                                            "piccropb", "bliptag",  "blipupi"};
     QString words = m_pictureGroups;
-    for (size_t i = 0; i < m_pictureNumbers.size(); ++i)
-        if (m_pictureNumbers[i] != 0)
-            words += u'\\' + QLatin1StringView(Words[i]) + QString::number(m_pictureNumbers[i]);
+    for (const auto& [word, number] : m_pictureNumbers)
+        if (number != 0)
+            words += u'\\' + QLatin1StringView(word) + QString::number(number);
     return words;
 }
 

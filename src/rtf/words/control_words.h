@@ -107,7 +107,7 @@ enum class Action : quint8 {
     ShapeGroup, ///< value: the ShapeKind
     ShapeText,
     // Inside the font and colour tables
-    FontKind, ///< value: by its place among the kinds of faces
+    FontKind,
     FontDirections,
     FontPitch,
     FontCharset,
@@ -142,7 +142,7 @@ enum class Action : quint8 {
     PictureGoalHeight,
     PictureScaleX,
     PictureScaleY,
-    PictureNumber, ///< kept, and nothing more; value: its place among those
+    PictureNumber, ///< kept, and nothing more
     BitmapBits,
     BitmapPlanes,
     BitmapRow,

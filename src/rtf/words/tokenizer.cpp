@@ -71,6 +71,11 @@ bool isStar(const Token& token) {
     return token.kind == TokenKind::Symbol && token.byte == '*';
 }
 
+QByteArray spelled(const Token& word) {
+    const QByteArray number = word.hasParameter ? QByteArray::number(word.parameter) : QByteArray();
+    return '\\' + word.bytes.toByteArray() + number;
+}
+
 char32_t toldCharacter(const Token& word) {
     const int code = word.parameter < 0 ? word.parameter + 0x10000 : word.parameter;
     const bool isNone = code < 0 || code > int(QChar::LastValidCodePoint);

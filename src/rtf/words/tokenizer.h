@@ -4,6 +4,7 @@
 
 #include "rtf/words/control_words.h"
 
+#include <QByteArray>
 #include <QByteArrayView>
 
 namespace orvalis::rtf {
@@ -39,6 +40,9 @@ bool isBlank(const Token& token);
 bool isLineEnd(const Token& token);
 /// Whether the token marks a group that readers who do not know it pass over.
 bool isStar(const Token& token);
+
+/// A word with its number, as files have it.
+QByteArray spelled(const Token& word);
 
 /// The character that a word for one by its number tells. Above 32767 they are told below zero, by
 /// old rules; a number that stands for none tells the sign for that.

@@ -234,6 +234,7 @@ CharFormat BodyWriter::lookOfEnd(CharFormat look) {
 void BodyWriter::text(QStringView text, const CharFormat& format) {
     m_paragraphIsEmpty = m_boxIsEmpty = false;
     goToTracked(format);
+    m_last = format;
     change(format);
     breakPage();
     const bool signs = m_symbols != SymbolFont::None;
@@ -254,6 +255,7 @@ void BodyWriter::picture(const Picture& picture, const CharFormat& format) {
     CharFormat own = format;
     own.hidden = picture.hidden;
     goToTracked(own);
+    m_last = own;
     change(own);
     breakPage();
     if (!picture.bytes.isEmpty() && !framed(picture))
@@ -264,8 +266,13 @@ void BodyWriter::picture(const Picture& picture, const CharFormat& format) {
 void BodyWriter::endParagraph(const CharFormat* mark) {
     // A link ends with its paragraph: fields that span paragraphs confuse many readers.
     closeTracked();
-    const bool tellsMark = mark && m_mark == NothingKept;
-    CharFormat atEnd = lookOfEnd(tellsMark ? *mark : m_format);
+    // What is told in a group does not hold for the mark, which gives the label of an item its
+    // look.
+    const bool isItem = m_paragraphs.last().list.kind != ListKind::None;
+    CharFormat atEnd = isItem && !mark ? m_last : m_format;
+    if (mark && m_mark == NothingKept)
+        atEnd = *mark;
+    atEnd = lookOfEnd(atEnd);
     // A raised text that goes on beyond its paragraph some readers lose, end of paragraph and all.
     if (!mark)
         atEnd.script = Script::Normal;

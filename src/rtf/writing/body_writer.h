@@ -128,6 +128,7 @@ private:
     std::array<Look, 2> m_lookBefore; ///< a link or field that is open
     int m_tracked = NothingKept;      ///< the words of a group that tells of a tracked change
     Look m_aroundTracked;
+    CharFormat m_last; ///< how the text looks that was written last
     size_t m_openGroups = 0;
     /// What stands around a text box.
     struct Around {

@@ -77,6 +77,7 @@ void BodyWriter::shown(const CharFormat& format) {
     const QString kept = names().keptAt(format.field);
     const QStringView group = shownBy(kept)->group;
     m_paragraphIsEmpty = false;
+    m_last = format;
     if (isShapeInLine(group)) { // which tells how it looks
         closeTracked();
         changeLink(NoName);

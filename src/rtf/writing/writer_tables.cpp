@@ -139,7 +139,7 @@ void WriterTables::writeFonts(RtfOutput& out, const FontFaces& faces) const {
         const bool signs = isSymbolFamily(name) != m_odd.contains(m_fonts[number]);
         if (face.anyDirection)
             out.word("\\fbidi");
-        out.word(QByteArray("\\") + FontFace::Kinds[face.kind]);
+        out.word('\\' + face.kind.toByteArray());
         out.word("\\fcharset", signs ? 2 : 0);
         if (face.pitch != 0)
             out.word("\\fprq", face.pitch);

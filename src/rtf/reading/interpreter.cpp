@@ -29,6 +29,7 @@ Interpreter::Interpreter(QByteArrayView bytes, Sink& sink, const Progress& progr
     , m_tellAt(progress ? 0 : std::numeric_limits<qsizetype>::max())
     , m_documentPage(&CodePage::forNumber(Latin1Page))
     , m_kept(m_names)
+    , m_tracked(m_names)
     , m_keptLeft(KeptShare * bytes.size() + KeptGround) {
     m_state.page = m_documentPage;
     m_furtherDefaults.fill(NoName);

@@ -7,6 +7,7 @@
 #include "rtf/kept/kept_group.h"
 #include "rtf/kept/kept_sets.h"
 #include "rtf/kept/section_columns.h"
+#include "rtf/kept/tracked_words.h"
 #include "rtf/reader.h"
 #include "rtf/reading/group_state.h"
 #include "rtf/reading/list_tables.h"
@@ -254,6 +255,7 @@ private:
     ListTables m_lists;
 
     KeptSets m_kept;
+    TrackedWords m_tracked;
     int m_keptOfSection = 0;
     int m_keptOfDocument = 0;
     SectionColumns m_columns;

@@ -73,7 +73,7 @@ int Interpreter::lookOfParagraphMark(bool tracked) {
     mark.byNumber = m_textFormat.byNumber;
     // The group that tells of a change in the text ends ahead of the mark.
     CharFormat text = m_textFormat;
-    if (isTracked(m_names.keptAt(text.kept)))
+    if (m_tracked.has(text.kept))
         text.kept = mark.kept;
     if (mark == text && !tracked)
         return NothingKept;
@@ -93,7 +93,7 @@ void Interpreter::showStart(ListLabel& list) const {
 const ParagraphFormat& Interpreter::shapedParagraph() {
     const bool ofRow = (m_rowEnds || m_state.inTable) && row() != NothingKept;
     const bool besideBox = m_box.isOpen || m_box.hasEnded;
-    const bool tracked = !ofRow && isTracked(m_names.keptAt(m_state.chars.kept));
+    const bool tracked = !ofRow && m_tracked.has(m_state.chars.kept);
     const bool toldLate = !ofRow && m_inParagraph && m_state.paragraph.after != m_afterAhead;
     if (!ofRow && m_state.listOverride == NoList && m_label.text.isEmpty() && !m_pageBreak &&
         !m_sectionBegins && m_anchorsAtStart.isEmpty() && !besideBox && !toldLate && !tracked) {

@@ -19,7 +19,8 @@ constexpr int FactoryTab = 720; // twips, what every reader assumes
 } // namespace
 
 BodyWriter::BodyWriter(const KeptParts& parts, const QString& shownFamily)
-    : m_paragraphs(m_out, m_tables) {
+    : m_paragraphs(m_out, m_tables)
+    , m_trackedWords(names()) {
     // No text has this size, so that the first one tells its own.
     m_format.halfPoints = 0;
     // The font of text that names none is the first of the table, or none of it.
@@ -197,7 +198,7 @@ void BodyWriter::breakPage() {
 /// What a tracked change has done to text is told in a group of its own: some readers know no other
 /// end of it.
 void BodyWriter::goToTracked(const CharFormat& format) {
-    const bool tracked = isTracked(names().keptAt(format.kept));
+    const bool tracked = m_trackedWords.has(format.kept);
     const bool goesOn =
         format.kept == m_tracked && format.link == m_format.link && format.field == m_format.field;
     if (!goesOn)
@@ -224,7 +225,7 @@ void BodyWriter::closeTracked() {
 
 /// The look of what ends a paragraph or a cell, which a group cannot hold.
 CharFormat BodyWriter::lookOfEnd(CharFormat look) {
-    if (isTracked(names().keptAt(look.kept)))
+    if (m_trackedWords.has(look.kept))
         look.kept = NothingKept;
     look.link = NoName;
     look.field = NothingKept;

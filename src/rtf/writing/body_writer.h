@@ -5,6 +5,7 @@
 #include "rtf/formats/formats.h"
 #include "rtf/kept/kept_parts.h"
 #include "rtf/kept/shape_frame.h"
+#include "rtf/kept/tracked_words.h"
 #include "rtf/pictures/picture.h"
 #include "rtf/words/rtf_output.h"
 #include "rtf/writing/paragraph_writer.h"
@@ -126,7 +127,8 @@ private:
         int stated = 0;
     };
     std::array<Look, 2> m_lookBefore; ///< a link or field that is open
-    int m_tracked = NothingKept;      ///< the words of a group that tells of a tracked change
+    TrackedWords m_trackedWords;
+    int m_tracked = NothingKept; ///< the words of a group that tells of a tracked change
     Look m_aroundTracked;
     CharFormat m_last; ///< how the text looks that was written last
     size_t m_openGroups = 0;

@@ -82,6 +82,7 @@ private:
         ofPart.defaultFont = parts.defaultFont;
         ofPart.unnamedFamily = parts.unnamedFamily;
         ofPart.oddFamilies = parts.oddFamilies;
+        ofPart.listPictures = parts.listPictures;
         ofPart.faces = parts.faces;
         ofPart.themes = parts.themes;
         return ofPart;

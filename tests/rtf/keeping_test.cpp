@@ -140,6 +140,16 @@ void KeepingTest::whatIsNotShownIsKept_data() {
         "\\trowd\\clins\\clinsauth0\\clinsdttm5\\cellx99\r\n");
     row("frame through which text flows", "\\pard\\wraptight\\absnoovrlp1 word\\par",
         "\\pard\\wraptight\\absnoovrlp1\\f0");
+    const auto listOf = [](const QByteArray& pictures, const QByteArray& level) {
+        return "{\\*\\listtable" + pictures + "{\\list{\\listlevel\\levelnfc23" + level +
+               "{\\leveltext\\'01*;}{\\levelnumbers;}}\\listid7}}"
+               "{\\*\\listoverridetable{\\listoverride\\listid7\\ls1}}\\pard\\ls1 word\\par";
+    };
+    row("pictures that are labels",
+        listOf("{\\*\\listpicture{\\pict\\pngblip 89}}", "\\levelpicture0"),
+        "{\\*\\listtable{\\*\\listpicture{\\pict\\pngblip 89}}{\\list");
+    row("pictures that are no labels", listOf("{\\*\\listpicture{\\pict\\pngblip 89}}", {}),
+        "{\\*\\listtable{\\list{\\listlevel");
     row("template", "{\\*\\template C:\\\\a.dot}word\\par", "{\\*\\template C:\\\\a.dot}\r\n");
     row("file that comes next", "{\\nextfile b.rtf}word\\par", "{\\nextfile b.rtf}\r\n");
     row("files that others stand in", "{\\*\\filetbl{\\file\\fid0 a.rtf}}word\\par",

@@ -43,6 +43,7 @@ struct KeptParts {
     QString unnamedFamily; ///< of text that names no font; empty for that of whoever shows it
     /// Families that are fonts of signs, or are not, where their names tell otherwise.
     QStringList oddFamilies;
+    QString listPictures; ///< that are the labels of lists
     FontFaces faces;
     ColorThemes themes;
 

@@ -16,6 +16,8 @@ Destination destinationOf(KeptPlace place) {
     switch (place) {
     case KeptPlace::Picture:
         return Destination::Picture;
+    case KeptPlace::ListPictures:
+        return Destination::ListTable;
     case KeptPlace::FontPanose:
     case KeptPlace::FontAlternative:
         return Destination::FontTable;
@@ -189,7 +191,8 @@ void Interpreter::keepStrange(const Token& token) {
 
 void Interpreter::keepGroup(const Token& token, KeptPlace place) {
     const Destination destination = destinationOf(place);
-    if (m_state.destination != destination || m_state.deleted) {
+    const bool ofOneList = place == KeptPlace::ListPictures && isInList();
+    if (m_state.destination != destination || m_state.deleted || ofOneList) {
         skipGroup();
         return;
     }
@@ -241,6 +244,9 @@ void Interpreter::placeGroup(KeptPlace place, const QString& group) {
         return;
     case KeptPlace::Picture:
         m_pictureGroups += group;
+        return;
+    case KeptPlace::ListPictures:
+        m_parts.listPictures = group;
         return;
     case KeptPlace::FontPanose:
         m_fonts.setPanose(group);

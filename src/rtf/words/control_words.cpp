@@ -238,7 +238,7 @@ constexpr ControlWord Words[] = {
     {"background", Action::SkipGroup, 0},
     {"picprop", Action::KeepGroup, as(KeptPlace::Picture)},
     {"blipuid", Action::KeepGroup, as(KeptPlace::Picture)},
-    {"listpicture", Action::SkipGroup, 0},
+    {"listpicture", Action::KeepGroup, as(KeptPlace::ListPictures)},
     {"themedata", Action::SkipGroup, 0},
     {"colorschememapping", Action::SkipGroup, 0},
     {"datastore", Action::SkipGroup, 0},

@@ -52,6 +52,7 @@ enum class KeptPlace : quint8 {
     StarredAnchor,   ///< the same, in a group that readers may ignore and that holds but a name
     StarredNote,     ///< the same, with text to read
     Picture,         ///< the picture that it stands in: its properties
+    ListPictures,    ///< the list table: the pictures that are labels
     FontPanose,      ///< the entry of the font table: the measures of its face
     FontAlternative, ///< the same: another face
 };

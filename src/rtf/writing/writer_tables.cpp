@@ -9,6 +9,7 @@
 
 #include <QSet>
 
+#include <algorithm>
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -122,7 +123,7 @@ int WriterTables::list(const ParagraphFormat& item) {
 
 void WriterTables::write(RtfOutput& out, QByteArrayView styles, const KeptParts& parts) {
     // What is kept of lists may name fonts and colours that nothing else has.
-    const QByteArray lists = listTables();
+    const QByteArray lists = listTables(parts.listPictures);
     writeFonts(out, parts.faces);
     writeColors(out, parts.themes);
     if (!styles.isEmpty())
@@ -195,12 +196,17 @@ void WriterTables::writeKeptHead(RtfOutput& out, QStringView kept) {
     writeKept(out, *this, kept.sliced(kept.indexOf(NumberEnd) + 1).chopped(1));
 }
 
-QByteArray WriterTables::listTables() {
+QByteArray WriterTables::listTables(const QString& pictures) {
     if (m_lists.isEmpty())
         return {};
     RtfOutput lists;
     RtfOutput overrides;
     lists.structure("{\\*\\listtable");
+    const auto hasPicture = [](const ParagraphFormat& item) {
+        return item.list.keptList.contains(u"\\levelpicture");
+    };
+    if (std::any_of(m_lists.begin(), m_lists.end(), hasPicture))
+        lists.structure(pictures.toLatin1());
     overrides.structure("{\\*\\listoverridetable");
     QHash<QString, int> identities; ///< of kept lists
     QSet<int> taken;

@@ -53,7 +53,7 @@ public:
 private:
     void writeFonts(RtfOutput& out, const FontFaces& faces) const;
     void writeColors(RtfOutput& out, const ColorThemes& themes) const;
-    QByteArray listTables();
+    QByteArray listTables(const QString& pictures);
     static void writeMade(RtfOutput& out, const ParagraphFormat& item, int number);
     void writeKeptHead(RtfOutput& out, QStringView kept);
 

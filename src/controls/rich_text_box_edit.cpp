@@ -10,6 +10,8 @@
 #include "rtf/characters/control_marks.h"
 #include "rtf/characters/symbol_font.h"
 #include "rtf/formats/format_properties.h"
+#include "rtf/kept/kept_shape.h"
+#include "rtf/kept/kept_text.h"
 #include "rtf/pictures/picture_format.h"
 #include "rtf/room/document_room.h"
 #include "rtf/room/intake.h"
@@ -22,6 +24,8 @@
 #include <QScopedValueRollback>
 #include <QTextBlock>
 #include <QTextDocument>
+
+#include <optional>
 
 // What the user does to the text: keys, pointer, clipboard, undo.
 
@@ -59,30 +63,47 @@ bool atBullet(const QTextCursor& cursor) {
     return !cursor.hasSelection() && cursor.atBlockStart() && hasBullet(cursor.block());
 }
 
-/// Whether the cursor stands in a run to whose end a footnote, or its like, is anchored.
-bool insideAnchored(const QTextCursor& cursor) {
-    if (cursor.atBlockEnd())
+/// Whether the cursor stands in the midst of what shares one value of the property.
+bool isWithin(const QTextCursor& cursor, int property) {
+    if (cursor.atBlockStart() || cursor.atBlockEnd())
         return false;
     QTextCursor next(cursor);
     next.setPosition(cursor.position() + 1);
-    return next.charFormat().property(rtf::KeptAnchors) ==
-           cursor.charFormat().property(rtf::KeptAnchors);
+    return next.charFormat().property(property) == cursor.charFormat().property(property);
 }
 
-/// What is typed behind a mark is no mark. What is anchored to a word's end goes on with the word,
-/// and stays where it is when anything else follows. \returns whether the cursor's format changed.
-bool leaveMarks(QTextCursor& cursor, const QString& typed) {
-    QTextCharFormat format = cursor.charFormat();
-    const bool leavesAnchors = format.hasProperty(rtf::KeptAnchors) && !typed.isEmpty() &&
-                               !typed.front().isLetterOrNumber() && !insideAnchored(cursor);
-    const bool leavesMark =
-        format.boolProperty(rtf::ControlMarks) || format.hasProperty(rtf::CellShape);
-    if (!leavesMark && !leavesAnchors)
+/// What is typed at the end of a field would go when the field is worked out anew, and behind an
+/// entry of an index others would not show it. The text of a shape has nothing behind it.
+bool leavesField(const QTextCursor& cursor, const QTextCharFormat& format) {
+    if (!format.hasProperty(rtf::KeptField) || isWithin(cursor, rtf::KeptField))
         return false;
+    const QString field = format.stringProperty(rtf::KeptField);
+    const std::optional<rtf::KeptShown> shown = rtf::shownBy(field);
+    return !shown || !rtf::isShapeInLine(shown->group);
+}
+
+/// What is anchored to a word's end goes on with the word, and stays where it is when anything else
+/// follows.
+bool leavesAnchors(const QTextCursor& cursor, const QTextCharFormat& format, const QString& typed) {
+    return format.hasProperty(rtf::KeptAnchors) && !typed.isEmpty() &&
+           !typed.front().isLetterOrNumber() && !isWithin(cursor, rtf::KeptAnchors);
+}
+
+/// What is typed behind a mark is no mark, and in text that somebody else has brought in it is not
+/// theirs. \returns whether the cursor's format changed.
+bool leaveMarks(QTextCursor& cursor, const QString& typed) {
+    const QTextCharFormat before = cursor.charFormat();
+    QTextCharFormat format = before;
     format.clearProperty(rtf::ControlMarks);
     format.clearProperty(rtf::CellShape);
-    if (leavesAnchors)
+    if (leavesAnchors(cursor, before, typed))
         format.clearProperty(rtf::KeptAnchors);
+    if (leavesField(cursor, before))
+        format.clearProperty(rtf::KeptField);
+    if (const QString kept = format.stringProperty(rtf::KeptOfCharacters); rtf::isTracked(kept))
+        format.setProperty(rtf::KeptOfCharacters, rtf::withoutTracked(kept));
+    if (format == before)
+        return false;
     cursor.setCharFormat(format);
     return true;
 }

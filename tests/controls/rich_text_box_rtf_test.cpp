@@ -41,6 +41,10 @@ private slots:
     void bothHalvesOfAParagraphAreKeptTogether();
     void aSectionBeginsWithOneHalfOnly();
     void theSelectionTakesItsParagraphsAlong();
+    void whatIsTypedAtTheEndsOfAFieldIsNoneOfIt_data();
+    void whatIsTypedAtTheEndsOfAFieldIsNoneOfIt();
+    void whatIsTypedAtTheEndOfAShapeInACellIsOfIt();
+    void whatIsTypedIntoTextThatCameInIsNotTheirs();
     void aFootnoteGoesOnWithItsWord();
     void aFootnoteStaysWithAWordThatIsReplaced_data();
     void aFootnoteStaysWithAWordThatIsReplaced();
@@ -79,6 +83,57 @@ void RichTextBoxRtfTest::aParagraphBehindATableIsNoPartOfIt() {
     QTest::keyClicks(&box, u"behind"_s);
     const QByteArray rtf = box.TextRTF();
     QVERIFY2(rtf.contains("\\cell\\row\r\n\\pard behind\\par"), rtf);
+}
+
+void RichTextBoxRtfTest::whatIsTypedAtTheEndsOfAFieldIsNoneOfIt_data() {
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<int>("place");
+    QTest::addColumn<QByteArray>("written");
+    const QByteArray date = "{\\field{\\*\\fldinst DATE}{\\fldrslt 2.3.}}";
+    const QByteArray longer = "{\\field{\\*\\fldinst DATE}{\\fldrslt 2x.3.}}";
+    QTest::newRow("behind a field") << "a" + date + "b" << 5 << "a" + date + "xb";
+    QTest::newRow("behind a field at the end") << "a" + date << 5 << "a" + date + "x\\par";
+    QTest::newRow("ahead of a field") << "a" + date << 1 << "ax" + date;
+    QTest::newRow("ahead of a field at the start") << date + "a" << 0 << "x" + date + "a";
+    QTest::newRow("in a field") << "a" + date + "b" << 2 << "a" + longer + "b";
+    QTest::newRow("behind an entry of an index")
+        << QByteArray("a{\\xe b}") << 2 << QByteArray("a{\\xe b}x\\par");
+    QTest::newRow("behind an equation")
+        << QByteArray("a{\\field{\\*\\fldinst EQ \\\\f (1;2)}{\\fldrslt}}") << 4
+        << QByteArray("a{\\field{\\*\\fldinst EQ \\\\f (1;2)}{\\fldrslt}}x\\par");
+}
+
+void RichTextBoxRtfTest::whatIsTypedAtTheEndsOfAFieldIsNoneOfIt() {
+    QFETCH(QByteArray, body);
+    QFETCH(int, place);
+    QFETCH(QByteArray, written);
+    RichTextBox box;
+    box.SetTextRTF("{\\rtf1 " + body + "\\par}");
+    box.SetSelStart(place);
+    QTest::keyClicks(&box, u"x"_s);
+    const QByteArray rtf = box.TextRTF();
+    QVERIFY2(rtf.contains(written), rtf);
+}
+
+void RichTextBoxRtfTest::whatIsTypedAtTheEndOfAShapeInACellIsOfIt() {
+    RichTextBox box;
+    box.SetTextRTF(
+        "{\\rtf1\\trowd\\cellx99\\intbl{\\shp{\\*\\shpinst{\\shptxt a\\par}}}\\cell\\row}"_ba);
+    box.SetSelStart(1);
+    QTest::keyClicks(&box, u"x"_s);
+    const QByteArray rtf = box.TextRTF();
+    QVERIFY2(rtf.contains("ax\\par"), rtf);
+}
+
+void RichTextBoxRtfTest::whatIsTypedIntoTextThatCameInIsNotTheirs() {
+    RichTextBox box;
+    box.SetTextRTF("{\\rtf1{\\*\\revtbl{A;}}\\lang1031 a{\\revised\\revauth0 bc}d\\par}"_ba);
+    box.SetSelStart(2);
+    QTest::keyClicks(&box, u"xy"_s);
+    QCOMPARE(box.Text(), u"abxycd"_s);
+    const QByteArray rtf = box.TextRTF();
+    const QByteArray theirs = "{\\plain\\lang1031\\revised\\revauth0 ";
+    QVERIFY2(rtf.contains("a" + theirs + "b}xy" + theirs + "c}d\\par"), rtf);
 }
 
 void RichTextBoxRtfTest::aFootnoteGoesOnWithItsWord() {

@@ -44,6 +44,9 @@ int numberBehind(QStringView kept, QStringView word) {
     return kept.sliced(start, end - start).toInt();
 }
 
+/// What words that tell of a tracked change begin with.
+constexpr std::array<QStringView, 4> TrackedWords = {u"\\rev", u"\\crauth", u"\\crdate", u"\\mv"};
+
 /// What is kept of a field, without its number.
 QStringView headOf(QStringView kept) {
     return kept.sliced(kept.indexOf(NumberEnd) + 1);
@@ -130,10 +133,21 @@ bool isOfField(QStringView group) {
 }
 
 bool isTracked(QStringView kept) {
-    static constexpr std::array<QStringView, 4> Words = {u"\\rev", u"\\crauth", u"\\crdate",
-                                                         u"\\mv"};
-    return std::any_of(Words.begin(), Words.end(),
-                       [kept](auto word) { return kept.contains(word); });
+    return std::any_of(
+        TrackedWords.begin(), TrackedWords.end(),
+        [kept](QStringView word) { return kept.contains(word); });
+}
+
+QString withoutTracked(const QString& kept) {
+    QString rest;
+    for (QStringView words = kept; !words.isEmpty();) {
+        const qsizetype next = words.indexOf(u'\\', 1);
+        const QStringView word = words.first(next < 0 ? words.size() : next);
+        if (!isTracked(word))
+            rest += word;
+        words = words.sliced(word.size());
+    }
+    return rest;
 }
 
 FieldGroups fieldGroups(QStringView kept) {

@@ -64,6 +64,8 @@ bool holdsTextAlone(QStringView kept);
 
 /// Whether kept words of characters tell of a tracked change.
 bool isTracked(QStringView kept);
+/// The same words without those.
+QString withoutTracked(const QString& kept);
 
 /// What is kept without the numbers that have a place in it.
 QByteArray keptWithoutPlaces(QStringView kept);

@@ -45,7 +45,7 @@ int numberBehind(QStringView kept, QStringView word) {
 }
 
 /// What words that tell of a tracked change begin with.
-constexpr std::array<QStringView, 4> TrackedWords = {u"\\rev", u"\\crauth", u"\\crdate", u"\\mv"};
+constexpr std::array<QStringView, 4> WordsOfChanges = {u"\\rev", u"\\crauth", u"\\crdate", u"\\mv"};
 
 /// What is kept of a field, without its number.
 QStringView headOf(QStringView kept) {
@@ -134,7 +134,7 @@ bool isOfField(QStringView group) {
 
 bool isTracked(QStringView kept) {
     return std::any_of(
-        TrackedWords.begin(), TrackedWords.end(),
+        WordsOfChanges.begin(), WordsOfChanges.end(),
         [kept](QStringView word) { return kept.contains(word); });
 }
 

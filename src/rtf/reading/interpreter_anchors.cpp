@@ -34,7 +34,7 @@ void Interpreter::anchor(const QString& kept) {
     m_sink.anchor(kept);
 }
 
-/// The word that stands for the number of a note.
+/// The word that stands for the number of a note, a page or a date.
 void Interpreter::anchorMark(const QString& word) {
     dissolveLineBox(); // for how it looks depends on what is ahead of it
     if (m_cellsEnded.empty())

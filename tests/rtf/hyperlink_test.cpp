@@ -69,6 +69,7 @@ void HyperlinkTest::whatALinkSaysBesideItsTargetStays_data() {
         QTest::newRow(name) << switches << kept;
     };
     row("nothing", "", "\"a\"}}");
+    row("a blank that does not break", "\\~\\\\n", "\"a\" \\\\n}}");
     row("a tip", " \\\\o \"a tip\"", "\"a\" \\\\o \"a tip\"}}");
     row("a tip of other letters", " \\\\o \"\\u1072?\"", "\"a\" \\\\o \"\\u1072?\"}}");
     row("a window", " \\\\t \"_blank\"", "\"a\" \\\\t \"_blank\"}}");

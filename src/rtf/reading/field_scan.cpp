@@ -239,6 +239,8 @@ QString instructionText(QByteArrayView instruction) {
             page.decode(bytes.sliced(toSkip), text);
         }
         toSkip = 0;
+        if (token.kind == TokenKind::Symbol && isCharacters(token))
+            text += QChar(characterOf(token.byte));
         if (token.kind != TokenKind::Word || !token.word)
             continue;
         if (token.word->action == Action::Character)

@@ -163,27 +163,12 @@ void Interpreter::groupEnds() {
 }
 
 void Interpreter::symbol(uchar symbol) {
-    switch (symbol) {
-    case '~':
-        character(QChar::Nbsp);
-        return;
-    case '-':
-        character(QChar::SoftHyphen);
-        return;
-    case '_':
-        character(0x2011);
-        return;
-    case '\t':
-        character(u'\t');
-        return;
-    case '\r':
-    case '\n':
+    if (symbol == '\r' || symbol == '\n') {
         flushPending();
         if (shows())
             paragraphEnd();
-        return;
-    default:
-        return;
+    } else if (const char16_t told = characterOf(symbol)) {
+        character(told);
     }
 }
 

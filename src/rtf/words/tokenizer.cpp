@@ -36,6 +36,22 @@ constexpr int LongestControlWord = 32;
 
 } // namespace
 
+char16_t characterOf(uchar symbol) {
+    constexpr char16_t NonBreakingHyphen = 0x2011;
+    switch (symbol) {
+    case '~':
+        return QChar::Nbsp;
+    case '-':
+        return QChar::SoftHyphen;
+    case '_':
+        return NonBreakingHyphen;
+    case '\t':
+        return u'\t';
+    default:
+        return 0;
+    }
+}
+
 bool isCharacters(const Token& token) {
     switch (token.kind) {
     case TokenKind::Text:
@@ -43,7 +59,7 @@ bool isCharacters(const Token& token) {
     case TokenKind::Byte:
         return true;
     case TokenKind::Symbol:
-        return token.byte == '~' || token.byte == '-' || token.byte == '_' || token.byte == '\t';
+        return characterOf(token.byte) != 0;
     case TokenKind::Word:
         return token.word &&
                (token.word->action == Action::Character || token.word->action == Action::Unicode);

@@ -34,6 +34,8 @@ struct Token {
 
 /// Whether the token stands for characters, where it stands in text.
 bool isCharacters(const Token& token);
+/// The character that a symbol stands for, 0 for none.
+char16_t characterOf(uchar symbol);
 /// Whether the token is blanks alone, which nothing stands in between.
 bool isBlank(const Token& token);
 /// Whether the token is a line end behind a backslash, which ends a paragraph.

@@ -28,6 +28,7 @@ void BodyWriter::beginCell(int shape, int anchors) {
 void BodyWriter::endCell(const CharFormat& look) {
     m_boxIsEmpty = false;
     closeTracked();
+    m_last = look;
     change(lookOfEnd(look));
     const bool nested = nestingOfCell(names().keptAt(look.cell)) != 0;
     m_out.structure(nested ? "\\nestcell\r\n" : "\\cell\r\n");

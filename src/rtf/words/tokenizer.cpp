@@ -37,14 +37,14 @@ constexpr int LongestControlWord = 32;
 } // namespace
 
 char16_t characterOf(uchar symbol) {
-    constexpr char16_t NonBreakingHyphen = 0x2011;
+    constexpr char16_t HyphenThatStays = 0x2011;
     switch (symbol) {
     case '~':
         return QChar::Nbsp;
     case '-':
         return QChar::SoftHyphen;
     case '_':
-        return NonBreakingHyphen;
+        return HyphenThatStays;
     case '\t':
         return u'\t';
     default:

@@ -42,6 +42,7 @@ private slots:
     void dataOfAnObjectInBinaryStay();
     void anObjectThatShowsNothingStaysAtItsPlace();
     void anObjectThatShowsTextGoesWithIt();
+    void anObjectBehindOneThatShowsTextStays();
     void anObjectThatIsMoreThanALineIsWhatItShows_data();
     void anObjectThatIsMoreThanALineIsWhatItShows();
     void anObjectStandsInTheTextOfABox();
@@ -102,6 +103,12 @@ void EmbeddedObjectTest::anObjectThatShowsTextGoesWithIt() {
         written.contains("deed{\\object\\objemb\\objw99{\\*\\objclass Sheet}{\\*\\objdata 0105}"
                          "{\\result b\\b c}}d\\par"),
         written.constData());
+}
+
+void EmbeddedObjectTest::anObjectBehindOneThatShowsTextStays() {
+    const QByteArray hidden = "{\\object{\\*\\objdata 02}}";
+    const QByteArray written = saved("word" + object("b") + hidden + "c\\par");
+    QVERIFY2(written.contains("{\\result b" + hidden + "}}c\\par"), written.constData());
 }
 
 void EmbeddedObjectTest::anObjectThatIsMoreThanALineIsWhatItShows_data() {

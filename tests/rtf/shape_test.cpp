@@ -62,6 +62,7 @@ private slots:
     void aShapeInACellThatEndsOneIsText();
     void aShapeInARowThatIsNotWholeIsText();
     void theFormForOldReadersIsLeftOut();
+    void aWordAheadOfThatFormStaysAWord();
     void aBoxThatRunsIntoTheTextAheadIsDissolved();
     void whatComesBehindABoxLooksAsAheadOfIt();
     void aParagraphGoesOnBehindEachOfItsBoxes();
@@ -531,6 +532,11 @@ void ShapeTest::theFormForOldReadersIsLeftOut() {
     const QByteArray written = saved("word" + box(" b").chopped(1) + old + "}\\par");
     QVERIFY2(written.contains(" b}}}\\par"), written.constData());
     QVERIFY(!written.contains("shprslt"));
+}
+
+void ShapeTest::aWordAheadOfThatFormStaysAWord() {
+    const QByteArray written = saved("word{\\shp{\\*\\shpinst{\\shprslt}7{\\shptxt b}}}\\par");
+    QVERIFY2(written.contains("{\\*\\shpinst 7{\\shptxt"), written.constData());
 }
 
 void ShapeTest::aBoxThatRunsIntoTheTextAheadIsDissolved() {

@@ -144,7 +144,7 @@ private:
     void keepField();
     void keepEntry(QByteArrayView word);
     void keepObjectOfText(QByteArrayView word);
-    void beginField(const QString& opening);
+    bool beginField(const QString& opening);
     bool goesWithShape(QByteArrayView field, bool isLink) const;
     QString inField(const QString& shape) const;
     void fieldEnds();

@@ -89,16 +89,20 @@ void Interpreter::keepObjectOfText(QByteArrayView word) {
     const FileTables tables = fileTables(m_fonts.usual());
     const QString kept = GroupKeeper(object.frame, tables).kept("{\\", word, m_keptLeft);
     m_keptLeft -= kept.size();
-    if (!kept.isEmpty())
-        beginField(kept.chopped(1) + u"{\\result"_s);
+    // What is anchored to its end stands within it, another object say.
+    if (!kept.isEmpty() && beginField(kept.chopped(1) + u"{\\result"_s))
+        m_state.inObject = false;
 }
 
 /// The text of the group is that of a field, unless it is that of another one by now.
 /// \param opening as it is kept.
-void Interpreter::beginField(const QString& opening) {
+/// \returns whether it is.
+bool Interpreter::beginField(const QString& opening) {
     CharFormat& chars = m_state.chars;
-    if (chars.field == NothingKept && chars.link == NoName && m_fields < MostFields)
-        chars.field = m_names.kept(QString::number(++m_fields) + NumberEnd + opening);
+    if (chars.field != NothingKept || chars.link != NoName || m_fields >= MostFields)
+        return false;
+    chars.field = m_names.kept(QString::number(++m_fields) + NumberEnd + opening);
+    return true;
 }
 
 /// Whether a field that shows one shape and nothing else is kept as its outer part. A picture is a

@@ -29,6 +29,10 @@ bool shapesDocument(const ControlWord& word) {
            level == KeptLevel::Cell;
 }
 
+bool endsLikeAWord(QByteArrayView rtf) {
+    return !rtf.isEmpty() && QChar::fromLatin1(rtf.back()).isLetterOrNumber();
+}
+
 /// Reads the tokens of a shape once, with an eye on its texts and pictures.
 class ShapeTokens {
 public:
@@ -244,6 +248,8 @@ private:
                 if (other->from < at)
                     continue;
                 frame += m_content.sliced(at, other->from - at);
+                if (endsLikeAWord(frame)) // which would go on with what is behind the gap
+                    frame += ' ';
                 at = other->to;
             }
             frame += m_content.sliced(at, end - at);

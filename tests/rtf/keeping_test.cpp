@@ -282,6 +282,8 @@ void KeepingTest::whatIsNotShownIsKept_data() {
     row("capitals", "{\\caps word} {\\scaps x}\\par", "\\pard\\caps\\f0");
     row("raised", "{\\up6 word} x\\par", "\\pard\\up6\\f0");
     row("double strike", "\\striked1 word\\par", "\\pard\\striked1\\f0");
+    row("hairline", "\\ulhair word\\par", "\\pard\\ulhair\\f0");
+    row("bar at a tab stop", "\\pard\\tb720 word\\par", "\\pard\\tb720\\f0");
     row("wave", "\\ulhwave word\\par", "\\pard\\ulhwave\\f0");
     row("thick dots", "\\ulthd word\\par", "\\pard\\ulthd\\f0");
     row("thick long dashes", "\\ulthldash word\\par", "\\pard\\ulthldash\\f0");

@@ -47,6 +47,7 @@ enum class Underline : quint8 {
     ThickDashDotDot,
     HeavyWave,
     DoubleWave,
+    Hairline,
 };
 enum class Script : quint8 { Normal, Super, Sub };
 enum class Capitals : quint8 { AsTyped, All, Small };

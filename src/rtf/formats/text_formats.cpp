@@ -74,7 +74,7 @@ Underline plainUnderline(QTextCharFormat::UnderlineStyle style) {
 Underline underlineOf(const QTextCharFormat& format) {
     const QTextCharFormat::UnderlineStyle style = format.underlineStyle();
     const int kept = format.intProperty(UnderlineKind);
-    const bool known = kept > int(Underline::None) && kept <= int(Underline::DoubleWave);
+    const bool known = kept > int(Underline::None) && kept <= int(Underline::Hairline);
     if (known && shownUnderline(static_cast<Underline>(kept)) == style)
         return static_cast<Underline>(kept);
     return plainUnderline(style);

@@ -106,7 +106,7 @@ constexpr ControlWord Words[] = {
     {"ulhwave", Action::UnderlineKind, as(Underline::HeavyWave)},
     {"ululdbwave", Action::UnderlineKind, as(Underline::DoubleWave)},
     {"ulth", Action::UnderlineKind, as(Underline::Thick)},
-    {"ulhair", Action::UnderlineKind, as(Underline::Single)},
+    {"ulhair", Action::UnderlineKind, as(Underline::Hairline)},
     {"ulnone", Action::NoUnderline, 0},
     {"super", Action::ScriptKind, as(Script::Super)},
     {"sub", Action::ScriptKind, as(Script::Sub)},

@@ -58,6 +58,7 @@ constexpr auto keptParagraphWords() {
         {"bgdkdcross", Paragraph, Switch, ParagraphPattern},
         {"cfpat", Paragraph, Color},
         {"cbpat", Paragraph, Color},
+        {"tb", Paragraph, Number},
         {"dropcapli", Paragraph, Number},
         {"dropcapt", Paragraph, Number},
         {"absw", Paragraph, Number},

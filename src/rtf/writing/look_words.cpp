@@ -47,6 +47,8 @@ const char* underlineWord(Underline underline) {
         return "\\ulthdashdd";
     case Underline::HeavyWave:
         return "\\ulhwave";
+    case Underline::Hairline:
+        return "\\ulhair";
     case Underline::DoubleWave:
         return "\\ululdbwave";
     }

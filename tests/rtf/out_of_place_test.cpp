@@ -54,6 +54,7 @@ private slots:
     void theTextOfALabelBeginsAnewWhateverCameBefore();
     void aBoxThatBringsNoTextStaysAtItsPlace();
     void aRowThatIsNothingBehindABoxLeavesTheNextParagraphAlone();
+    void anItemInARowThatABoxLeavesOpenStaysAnItem();
     void aLabelInABoxIsThatOfItsParagraph();
     void anEquationWhoseWordIsNotTheFirstIsKeptByWhatItShows();
     void aListWithoutAnOverrideToKeepIsWritten();
@@ -195,6 +196,23 @@ void OutOfPlaceTest::aRowThatIsNothingBehindABoxLeavesTheNextParagraphAlone() {
     readFile(document, "\\trowd\\cellx9\\cell\\row{ \\shp{\\shptxt q}}\\cell\\row x");
     QCOMPARE(document.toPlainText(), QStringLiteral("\n \nq\nx"));
     QVERIFY(!document.lastBlock().blockFormat().hasProperty(TableRow));
+}
+
+void OutOfPlaceTest::anItemInARowThatABoxLeavesOpenStaysAnItem() {
+    const auto labelsOf = [](const QTextDocument& document) {
+        QStringList labels;
+        for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+            labels << shownLabel(block);
+        return labels;
+    };
+    QTextDocument document;
+    readFile(document, "{\\listtable{\\list\\listlevel{\\listlevel}\\listid7}}"
+                       "{\\listoverridetable{\\listoverride\\listid7\\ls1}}\\ls1\\ilvl1"
+                       "{\\shp{\\shptxt a\\page\\intbl\\cellx9{{b}}\\ilvl}}c");
+    QCOMPARE(labelsOf(document), QStringLiteral("1,1,1").split(u','));
+    QTextDocument again;
+    readRtf(writeRtf(document), again);
+    QCOMPARE(labelsOf(again), labelsOf(document));
 }
 
 void OutOfPlaceTest::aLabelInABoxIsThatOfItsParagraph() {

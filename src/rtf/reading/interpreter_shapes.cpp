@@ -196,6 +196,8 @@ void Interpreter::beginBox() {
 void Interpreter::endBox() {
     if (m_box.isOpen && (m_inParagraph || !m_cellsEnded.empty() || !m_box.hasParagraph))
         paragraphEnd();
+    if (m_box.isOpen && m_rows.endsWithItem)
+        m_sink.rowStaysOpen();
     m_box.depth = 0;
     leaveText();
     if (!std::exchange(m_box.isOpen, false))

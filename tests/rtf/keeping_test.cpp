@@ -109,6 +109,9 @@ void KeepingTest::whatIsNotShownIsKept_data() {
         "{\\*\\pnseclvl2\\pnucltr{\\pntxta.}}\r\n");
     row("field that is locked", "word {\\field\\fldlock{\\*\\fldinst DATE}{\\fldrslt today}}\\par",
         "deed {\\field\\fldlock{\\*\\fldinst DATE}{\\fldrslt today}}\\par");
+    row("formula that shows nothing behind a field",
+        "word {\\field{\\*\\fldinst DATE}{\\fldrslt today}}{\\mmath\\par}\\par",
+        "deed {\\field{\\*\\fldinst DATE}{\\fldrslt today{\\mmath\\par}}}\\par");
     row("field that is edited and shows text by itself",
         "word {\\field\\fldpriv\\fldedit{\\*\\fldinst SYMBOL 97}}\\par",
         "deed {\\field\\fldedit\\fldpriv{\\*\\fldinst SYMBOL 97}{\\fldrslt}}\\par");

@@ -4,6 +4,7 @@
 
 #include "rtf/characters/whole_characters.h"
 #include "rtf/reading/equation_text.h"
+#include "rtf/reading/formula_text.h"
 #include "rtf/reading/shape_scan.h"
 #include "rtf/reading/symbol_field.h"
 #include "rtf/reading/unseen_text.h"
@@ -35,6 +36,12 @@ bool endsAnything(QByteArrayView content) {
             (token.kind == TokenKind::Word && token.word && endsOrShapes(token.word->action)))
             return true;
     return false;
+}
+
+/// The same of a formula, which in a field is kept where it shows nothing.
+bool mayEndAnything(QByteArrayView formula) {
+    return endsAnything(formula) && (!formulaText(formula).isEmpty() ||
+                                     scanShape(formula).shows == ShapeScan::Shows::Picture);
 }
 
 /// Reads the tokens of a field once, with an eye on which of its two groups they stand in.
@@ -145,9 +152,8 @@ private:
     /// What is kept of it as it came ends nothing of the field.
     void figure(const Token& token) {
         if (isFigure(token)) {
-            // A formula may not be kept after all.
             m_scan.hasStructure |= token.word->action != Action::PictureGroup &&
-                                   endsAnything(m_tokenizer.groupAhead());
+                                   mayEndAnything(m_tokenizer.groupAhead());
             passGroup();
             return;
         }

@@ -67,6 +67,12 @@ void RtfOutput::word(QByteArrayView word, int number) {
     m_needsDelimiter = true;
 }
 
+void RtfOutput::endWordAhead(QChar next) {
+    if (m_needsDelimiter && canJoinWord(next.unicode()))
+        append(" ");
+    m_needsDelimiter = false;
+}
+
 void RtfOutput::text(QStringView text) {
     const QChar* at = text.data();
     const QChar* const end = at + text.size();
@@ -75,9 +81,7 @@ void RtfOutput::text(QStringView text) {
             special((at++)->unicode());
             continue;
         }
-        if (m_needsDelimiter && canJoinWord(at->unicode()))
-            append(" ");
-        m_needsDelimiter = false;
+        endWordAhead(*at);
         char* out = room(end - at);
         do
             *out++ = char((at++)->unicode());

@@ -28,6 +28,8 @@ public:
         append(bytes);
         m_needsDelimiter = false;
     }
+    /// Parts a word that stands at the end from what follows by structure() and begins like this.
+    void endWordAhead(QChar next);
     /// Text in code page 1252, with \u for the rest.
     void text(QStringView text);
     /// Text as the numbers that Unicode gives its characters, but blanks, which every font has.

@@ -42,6 +42,8 @@ bool endsWord(QStringView text) {
 } // namespace
 
 void writeKept(RtfOutput& out, WriterTables& tables, QStringView kept) {
+    if (!kept.isEmpty())
+        out.endWordAhead(kept.front());
     while (!kept.isEmpty()) {
         const qsizetype at = kept.indexOf(PlaceStart);
         const QStringView ahead = at < 0 ? kept : kept.first(at);

@@ -63,6 +63,7 @@ private slots:
     void aShapeInARowThatIsNotWholeIsText();
     void theFormForOldReadersIsLeftOut();
     void aWordAheadOfThatFormStaysAWord();
+    void aWordAheadOfAPictureThatIsTakenOutStaysAWord();
     void aBoxThatRunsIntoTheTextAheadIsDissolved();
     void whatComesBehindABoxLooksAsAheadOfIt();
     void aParagraphGoesOnBehindEachOfItsBoxes();
@@ -537,6 +538,20 @@ void ShapeTest::theFormForOldReadersIsLeftOut() {
 void ShapeTest::aWordAheadOfThatFormStaysAWord() {
     const QByteArray written = saved("word{\\shp{\\*\\shpinst{\\shprslt}7{\\shptxt b}}}\\par");
     QVERIFY2(written.contains("{\\*\\shpinst 7{\\shptxt"), written.constData());
+}
+
+void ShapeTest::aWordAheadOfAPictureThatIsTakenOutStaysAWord() {
+    QTextDocument document;
+    readRtf(file("{\\shp{\\*\\shpinst{\\shptxt b}{\\sp{\\sn pib}{\\sv{\\pict\\pngblip " +
+                 pngBytes().toHex() + "}7}}}}\\par"),
+            document);
+    QCOMPARE(document.toPlainText(), QStringLiteral("b\n\uFFFC\n"));
+    QTextCursor cursor(&document);
+    cursor.setPosition(1);
+    cursor.setPosition(3, QTextCursor::KeepAnchor);
+    cursor.removeSelectedText();
+    const QByteArray written = writeRtf(document);
+    QVERIFY2(written.contains("{\\sv 7}"), written.constData());
 }
 
 void ShapeTest::aBoxThatRunsIntoTheTextAheadIsDissolved() {

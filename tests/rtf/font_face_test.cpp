@@ -33,6 +33,7 @@ void FontFaceTest::whatIsToldOfAFaceStays_data() {
     row("a pitch that nobody knows", "\\froman\\fprq3 Any", "\\froman\\fcharset0 Any");
     row("a name that is a number", "\\froman\\fprq2 7", "\\froman\\fcharset0\\fprq2 7");
     row("a name with half a character", " A\\u-9047?", "\\fnil\\fcharset0 A\\u-3?");
+    row("a name with a mark that shows nothing", " A\\u-257?", "\\fnil\\fcharset0 A");
     row("its measures", "\\fdecor{\\*\\panose 020b0604}Any",
         "\\fdecor\\fcharset0{\\*\\panose 020b0604}Any");
     row("another face", "\\ftech Any{\\*\\falt Other}", "\\ftech\\fcharset0 Any{\\*\\falt Other}");

@@ -18,7 +18,8 @@ constexpr qsizetype LongestName = 256;
 // No face is named with what ends an entry of the table, stands for a picture or cannot be seen.
 QString cleanName(QString name) {
     name.removeIf([](QChar c) {
-        return c.unicode() < u' ' || c == u';' || c == QChar(QChar::ObjectReplacementCharacter);
+        return c.unicode() < u' ' || c == u';' || c == QChar(QChar::ObjectReplacementCharacter) ||
+               c == QChar(QChar::ByteOrderMark);
     });
     name.truncate(LongestName);
     return wholeCharacters(name).trimmed();

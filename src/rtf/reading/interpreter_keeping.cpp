@@ -1,12 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Orvalis developers
 // SPDX-License-Identifier: MIT
 #include "rtf/kept/kept_group.h"
-#include "rtf/kept/kept_text.h"
 #include "rtf/kept/number_place.h"
 #include "rtf/reading/interpreter.h"
-#include "rtf/writing/look_words.h"
 
-using namespace Qt::StringLiterals;
+#include <utility>
 
 namespace orvalis::rtf {
 

@@ -3,7 +3,6 @@
 #include "rtf/formats/label_text.h"
 #include "rtf/formats/list_formats.h"
 #include "rtf/kept/kept_row.h"
-#include "rtf/kept/kept_text.h"
 #include "rtf/reading/interpreter.h"
 #include "rtf/writing/look_words.h"
 
